@@ -1,0 +1,137 @@
+#include "model/Bilddatei.h"
+
+#include <cmath>
+#include <initializer_list>
+#include <string>
+
+#include "model/BilddateiFormat.h"
+#include "model/Bytes.h"
+#include "model/Fehler.h"
+
+namespace zrw {
+namespace {
+
+using namespace bilddatei;
+
+/// Largest file that the counts of the format allow, with room for anything appended to it.
+constexpr std::size_t kGrenze = std::size_t{16} << 20U;
+
+struct Kopf {
+    std::size_t punkte = 0;
+    std::size_t kanten = 0;
+    std::int32_t netztyp = 0;
+};
+
+Kopf LiesKopf(ByteLeser& f, Liste& l) {
+    for (double* feld : {&l.Faktor, &l.MaxXW, &l.MinXW, &l.MaxYW, &l.MinYW, &l.XOffset, &l.YOffset}) {
+        *feld = f.F64();
+    }
+    Kopf kopf;
+    kopf.punkte = static_cast<std::uint32_t>(f.I32()) & 0xFFFFU;
+    kopf.kanten = static_cast<std::uint32_t>(f.I32()) & 0xFFFFU;
+    l.Weite = f.I32();
+    l.Hoehe = f.I32();
+    (void)f.U32();
+    (void)f.U32();
+    kopf.netztyp = f.I32();
+    // The list's counts are what it holds, whatever stood above the low 16 bits.
+    l.MaxPkte = static_cast<std::int32_t>(kopf.punkte);
+    l.MaxKant = static_cast<std::int32_t>(kopf.kanten);
+    return kopf;
+}
+
+[[noreturn]] void ZuKurz(const std::string& datei, const std::string& was) {
+    throw Fehler("Die Datei ist keine vollständige Zarwikdatei (" + was + "). Es wurde nichts geladen.",
+                 datei);
+}
+
+}  // namespace
+
+void Liste::Store(ByteSchreiber& f, const Netzangaben& netz) const {
+    for (const double feld : {Faktor, MaxXW, MinXW, MaxYW, MinYW, XOffset, YOffset})
+        f.F64(feld);
+    for (const std::int32_t feld : {MaxPkte, MaxKant, Weite, Hoehe})
+        f.I32(feld);
+    f.U32(0);
+    f.U32(0);
+    f.I32(netz.Netztyp);
+    for (const zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
+        f.F64(p->XWPu);
+        f.F64(p->YWPu);
+        f.U16(p->PNr);
+        p->Item->Store(f);
+    }
+    for (const PunktString* t = PktTextKnoten; t != nullptr; t = t->Next) {
+        f.U16(t->TNr);
+        t->Item->Store(f);
+    }
+    for (const PunktKante* k = KanteKnoten; k != nullptr; k = k->Next) {
+        f.U16(k->ANr);
+        f.U16(k->ENr);
+        k->Item->Store(f);
+    }
+}
+
+// Each record goes to the head of its list, so that loading reverses the order in which overlapping figures
+// are drawn and hit. Users know their plots that way: saving and loading twice gives the first order back.
+std::unique_ptr<Liste> Liste::Load(ByteLeser& f, const Einstellungen& einstellungen, Netzangaben& netz,
+                                   const std::string& datei) {
+    if (f.Rest() < kKopf) ZuKurz(datei, "der Kopf fehlt");
+    auto liste = std::make_unique<Liste>(einstellungen);
+    const Kopf kopf = LiesKopf(f, *liste);
+    const std::size_t bedarf = kopf.punkte * (kPunktsatz + kTextsatz) + kopf.kanten * kKantensatz;
+    if (f.Rest() < bedarf) {
+        ZuKurz(datei, std::to_string(kopf.punkte) + " Punkte und " + std::to_string(kopf.kanten) +
+                          " Linien angekündigt, " + std::to_string(bedarf - f.Rest()) + " Bytes fehlen");
+    }
+    for (std::size_t i = 0; i < kopf.punkte; ++i) {
+        const Welt ort{f.F64(), f.F64()};
+        const PunktIndex nr = f.U16();
+        liste->AddPunkt(Punkt::Load(f), ort, nr);
+    }
+    for (std::size_t i = 0; i < kopf.punkte; ++i) {
+        const PunktIndex nr = f.U16();
+        liste->AddPktText(PktText::Load(f), nr);
+    }
+    for (std::size_t i = 0; i < kopf.kanten; ++i) {
+        const PunktIndex a = f.U16();
+        const PunktIndex e = f.U16();
+        liste->AddKante(Kante::Load(f), a, e);
+    }
+    netz.Netztyp = kopf.netztyp;
+    liste->WeltinBild();
+    return liste;
+}
+
+void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+                       Dateien& dateien) {
+    if (liste.MaxPkte > kMaxAnzahl || liste.MaxKant > kMaxAnzahl) {
+        throw Fehler("Eine Zarwikdatei fasst höchstens 65535 Punkte und 65535 Linien; dieses Netz hat " +
+                         std::to_string(liste.MaxPkte) + " Punkte und " + std::to_string(liste.MaxKant) +
+                         " Linien. Es wurde nichts gespeichert.",
+                     PfadText(datei));
+    }
+    ByteSchreiber f;
+    f.Reserviere(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
+                 static_cast<std::size_t>(liste.MaxKant) * kKantensatz);
+    liste.Store(f, netz);
+    dateien.Ersetze(datei, f.Inhalt());
+}
+
+std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
+                                     const Einstellungen& einstellungen, Netzangaben& netz) {
+    const std::string inhalt = dateien.Lies(datei, kGrenze);
+    ByteLeser f(inhalt);
+    return Liste::Load(f, einstellungen, netz, PfadText(datei));
+}
+
+bool AnsichtBrauchbar(const Liste& liste) {
+    if (!(liste.Faktor > 0.0) || !std::isfinite(liste.Faktor)) return false;
+    for (const double v :
+         {liste.MaxXW, liste.MinXW, liste.MaxYW, liste.MinYW, liste.XOffset, liste.YOffset}) {
+        if (!std::isfinite(v)) return false;
+    }
+    return true;
+}
+
+}  // namespace zrw

@@ -1,0 +1,25 @@
+// Saving and opening picture files (".ZRW"). The bytes: BilddateiFormat.h, `Liste::Store` and `Liste::Load`.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "model/Dateien.h"
+#include "model/FigListe.h"
+
+namespace zrw {
+
+/// Writes the plot and its view, replacing the file as a whole.
+/// @throws Fehler where it cannot be written or holds more points or lines than the format can count
+void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+                       Dateien& dateien);
+
+/// Opens a picture file. On a `Fehler` the given `netz` is as it was.
+[[nodiscard]] std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
+                                                   const Einstellungen& einstellungen, Netzangaben& netz);
+
+/// A view that shows something: finite extents and a positive, finite scale. Files of unknown origin may hold
+/// others.
+[[nodiscard]] bool AnsichtBrauchbar(const Liste& liste);
+
+}  // namespace zrw

@@ -1,0 +1,77 @@
+#include "model/Cp1252.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace zrw {
+namespace {
+
+/// Characters of the bytes 0x80 to 0x9F (Unicode mapping table CP1252); the rest equals Latin-1.
+constexpr std::array<char32_t, 32> kOben{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                         0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                         0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                         0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void HaengeAn(std::string& ziel, char32_t c) {
+    if (c < 0x80) {
+        ziel += static_cast<char>(c);
+    } else if (c < 0x800) {
+        ziel += static_cast<char>(0xC0 | (c >> 6U));
+        ziel += static_cast<char>(0x80 | (c & 0x3FU));
+    } else {
+        ziel += static_cast<char>(0xE0 | (c >> 12U));
+        ziel += static_cast<char>(0x80 | ((c >> 6U) & 0x3FU));
+        ziel += static_cast<char>(0x80 | (c & 0x3FU));
+    }
+}
+
+constexpr char32_t kKeins = 0xFFFFFFFF;
+
+/// Takes one character off the front; `kKeins` for a damaged sequence, of which one byte is taken.
+char32_t Nimm(std::string_view& t) {
+    const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(t[i]); };
+    const std::uint8_t b = byte(0);
+    const std::size_t laenge = b < 0x80 ? 1 : b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : b >= 0xC2 ? 2 : 0;
+    const bool ganz = laenge > 0 && laenge <= t.size() &&
+                      std::all_of(t.begin() + 1, t.begin() + static_cast<std::ptrdiff_t>(laenge),
+                                  [](char c) { return (static_cast<std::uint8_t>(c) & 0xC0U) == 0x80; });
+    if (!ganz) {
+        t.remove_prefix(1);
+        return kKeins;
+    }
+    char32_t c = laenge == 1 ? b : b & (0x7FU >> laenge);
+    for (std::size_t i = 1; i < laenge; ++i)
+        c = (c << 6U) | (byte(i) & 0x3FU);
+    t.remove_prefix(laenge);
+    return c;
+}
+
+char NachByte(char32_t c) {
+    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
+    const auto* stelle = std::find(kOben.begin(), kOben.end(), c);
+    return stelle != kOben.end() ? static_cast<char>(0x80 + (stelle - kOben.begin())) : '?';
+}
+
+}  // namespace
+
+std::string Cp1252NachUtf8(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char z : bytes) {
+        const auto b = static_cast<std::uint8_t>(z);
+        HaengeAn(text, b >= 0x80 && b < 0xA0 ? kOben[b - 0x80U] : b);
+    }
+    return text;
+}
+
+std::string Utf8NachCp1252(std::string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    while (!text.empty())
+        bytes += NachByte(Nimm(text));
+    return bytes;
+}
+
+}  // namespace zrw

@@ -1,0 +1,41 @@
+// The outside world of files behind one interface, so that readers and writers are tested in memory.
+// The real one: input/Systemdateien.h.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zrw {
+
+class Dateien {
+  public:
+    virtual ~Dateien() = default;
+
+    /// Whole content of a regular file of at most `grenze` bytes.
+    /// @throws Fehler where there is none, it cannot be read, is larger, or is a folder, pipe or device
+    [[nodiscard]] virtual std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const = 0;
+
+    /// Puts a file in place as a whole: at every moment its name holds the old content or the new one.
+    /// @throws Fehler; the old file then is as it was
+    virtual void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) = 0;
+
+    /// The file of this name in a folder, an exact match first, else without regard to case.
+    [[nodiscard]] virtual std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
+                                                                     const std::string& name) const = 0;
+};
+
+/// UTF-8 text of a path, for messages.
+[[nodiscard]] inline std::string PfadText(const std::filesystem::path& p) {
+    const std::u8string u = p.u8string();
+    return {u.begin(), u.end()};
+}
+
+/// Path of a UTF-8 text.
+[[nodiscard]] inline std::filesystem::path TextPfad(std::string_view utf8) {
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+}  // namespace zrw

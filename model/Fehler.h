@@ -1,0 +1,38 @@
+// The one error type of the project: a German message, the file and, for text, the line. Thrown at file
+// borders, shown at one place of the window or printed by the batch mode.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace zrw {
+
+class Fehler : public std::runtime_error {
+  public:
+    /// @param text what happened and what now, UTF-8
+    /// @param datei the file concerned, UTF-8; may be empty
+    /// @param zeile 1 for the first line, 0 where lines have no meaning
+    explicit Fehler(const std::string& text, std::string datei = {}, long zeile = 0)
+        : std::runtime_error(Meldung(text, datei, zeile)),
+          text_(text),
+          datei_(std::move(datei)),
+          zeile_(zeile) {}
+
+    [[nodiscard]] const std::string& Text() const { return text_; }
+    [[nodiscard]] const std::string& Datei() const { return datei_; }
+    [[nodiscard]] long Zeile() const { return zeile_; }
+
+    /// One line: "NETZ.EIN, Zeile 12: Text".
+    [[nodiscard]] static std::string Meldung(const std::string& text, const std::string& datei, long zeile) {
+        if (datei.empty()) return text;
+        return datei + (zeile > 0 ? ", Zeile " + std::to_string(zeile) : std::string()) + ": " + text;
+    }
+
+  private:
+    std::string text_;
+    std::string datei_;
+    long zeile_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,180 @@
+// The network of one plot: points, observation lines and labels in three singly linked lists, newest first,
+// with the view (scale, extents, offsets) and the display switches. Draws through a `Zeichner`, knows no
+// device. Not in here: what a figure looks like, and where a network comes from.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "model/Arena.h"
+#include "model/Einstellungen.h"
+#include "model/Figuren.h"
+#include "model/Figurenindex.h"
+#include "model/Knoten.h"
+#include "model/Netzangaben.h"
+#include "model/Werte.h"
+
+namespace zrw {
+
+class Liste {
+  public:
+    // World extents [m] and pan offsets [m].
+    double MaxXW = 0.0;
+    double MinXW = 0.0;
+    double MaxYW = 0.0;
+    double MinYW = 0.0;
+    double XOffset = 0.0;
+    double YOffset = 0.0;
+    std::int32_t MaxPkte = 0;  ///< number of points; every adder of points and labels keeps it
+    std::int32_t MaxKant = 0;  ///< number of lines
+    std::int32_t Weite = 0;    ///< picture width [px]
+    std::int32_t Hoehe = 0;    ///< picture height [px]
+    // Heads of the lists.
+    PPunktKnoten PunktKnoten = nullptr;
+    PPunktKante KanteKnoten = nullptr;
+    PPunktString PktTextKnoten = nullptr;
+    // Display switches. A new list does not show `FL` points: the window sets the switches it needs.
+    bool ShowPktText = true;
+    bool ShowBeob = true;
+    bool ShowGitter = false;
+    bool ShowKMQ = false;
+    bool ShowLegende = false;
+    bool ShowLgRes = false;
+    bool ShowHRes = false;
+    bool ShowLGGen = false;
+    bool LGGenOn = false;
+    bool ShowHGen = false;
+    bool ShowFP = true;
+    bool ShowFL = false;
+    bool ShowFH = true;
+    bool ShowNP = true;
+    bool ShowHilfP = true;
+    std::unique_ptr<Legende> Legend;
+
+    double Faktor = 1.0;  ///< scale of the view [m/px]
+
+    /// An empty list. The settings give the zoom step and the catch radius; they must outlive the list.
+    explicit Liste(const Einstellungen& einstellungen);
+    Liste(const Liste&) = delete;
+    Liste& operator=(const Liste&) = delete;
+    virtual ~Liste() = default;  // frees, never draws: `Done` is what wipes
+
+    /// Wipes and drops every figure; the counts stay.
+    virtual void Done(Zeichner& z);
+    virtual void Store(ByteSchreiber& f, const Netzangaben& netz) const;  // Bilddatei.cpp
+    virtual void PunktDone(Zeichner& z);
+    virtual void KanteDone(Zeichner& z);
+    virtual void PktTextDone(Zeichner& z);
+
+    /// Put a copy of the figure at the head of its list. Counts and duplicates are the caller's business.
+    virtual zrw::PunktKnoten& AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr);
+    virtual PunktKante& AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr);
+    virtual PunktString& AddPktText(const PktText& item, PunktIndex iNr);
+
+    // View: Ansicht.cpp
+    /// World extents, widened to whole kilometres with one to spare. Needs at least one point.
+    virtual void FindWorldMinMax();
+    /// Picture positions of all figures from their world coordinates.
+    virtual void WeltinBild();
+    /// Scale that fits the extents: horizontal extent / (`Hoehe` - 30), vertical extent / `Weite`.
+    virtual void Findfaktor();
+
+    virtual void DisplayPunkte(Zeichner& z);
+    virtual void DisplayKante(Zeichner& z);
+    virtual void DisplayPktText(Zeichner& z);
+
+    /// Moves a point by a mouse delta [px]; its world coordinates follow at the current scale.
+    virtual void MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy);
+    virtual void DragPktText(PunktString& u, Zeichner& z);
+
+    // Hit-tests: Treffer.cpp. A square of half-width "Fang" round the mouse; the newest figure wins.
+    /// Start of dragging: on a hit, hides the lines and labels at the point's position and sets `u`; on a
+    /// miss `u` stays as it was.
+    virtual bool MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z);
+    [[nodiscard]] virtual PPunktString MausPktText(Bildpunkt maus) const;
+
+    /// One zoom step out. Does not clear the picture, unlike `ZoomUp`: the caller does, and counts on it.
+    virtual void ZoomDown(Zeichner& z);
+    /// One zoom step in.
+    virtual void ZoomUp(Zeichner& z);
+    /// Pans by a picture delta [px]; draws nothing.
+    virtual void MoveMe(std::int64_t dx, std::int64_t dy);
+    /// Fits the extents into the picture and draws it. Does not recompute the extents.
+    virtual void Alles(Zeichner& z);
+    /// Draws the whole picture: background, grids, lines, points, labels, legend, results.
+    virtual void ShowPicture(Zeichner& z);
+
+    /// Reads a picture file. @param datei name for messages
+    /// @throws Fehler where the file is shorter than its counts say; `netz` then is unchanged
+    [[nodiscard]] static std::unique_ptr<Liste> Load(ByteLeser& f, const Einstellungen& einstellungen,
+                                                     Netzangaben& netz, const std::string& datei);
+
+    [[nodiscard]] PPunktKnoten SuchPkt(PunktIndex nr) const { return index_.FindePunkt(nr); }
+    [[nodiscard]] PktText* FindPktText(PunktIndex n) const;
+    [[nodiscard]] std::string GetPktText(PunktIndex n) const;
+    /// The point whose label reads `p`, cut to 14 bytes.
+    [[nodiscard]] PPunktKnoten FindPunkt(std::string_view p) const;
+    /// The line between two points, in either orientation.
+    [[nodiscard]] PPunktKante FindKante(PunktIndex a, PunktIndex b) const { return index_.FindeKante(a, b); }
+
+    /// Wipes the line, takes it out of the list and counts down. Nothing for null.
+    void DeleteKante(PPunktKante pk, Zeichner& z);
+    /// Deletes the lines at the point, its label and the point.
+    void DeletePunkt(PPunktKnoten pp, Zeichner& z);
+    /// Swaps start and end of a line.
+    void DreheKante(PunktKante& pk);
+    void ShowPunkt(zrw::PunktKnoten& pp, Zeichner& z);
+    void HidePunkt(zrw::PunktKnoten& pp, Zeichner& z);
+    void ChKante(LinieAttr newAttr, Zeichner& z);
+    void DruckBildschirm() {}  // stays in the interface, has never done anything
+    void ClearPicture(Zeichner& z) const;
+    /// Marks points and labels visible; with `show` false those of auxiliary points (number ending in W, K or
+    /// H) invisible. Draws nothing.
+    void DisplayHilfp(bool show);
+    /// Makes the legend if there is none and shows it.
+    void SetLegende(Zeichner& z);
+
+    [[nodiscard]] PPunktKnoten ClickPunkt(Bildpunkt maus) const;
+    /// The line whose segment passes within the catch radius of the mouse; the distance counts in whole
+    /// pixels, so that 5.9 px is caught with a radius of 5.
+    [[nodiscard]] PPunktKante PickKante(Bildpunkt maus) const;
+    /// Marks the legend as being dragged if its corner is caught.
+    void MausLegende(Bildpunkt maus);
+    /// The part of `Alles` that draws nothing. Leaves the view of an empty list alone.
+    void PasseEin();
+    /// Puts `p1` onto `p2` and hides the label of `p1`.
+    void ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z);
+
+    /// The point's kind is switched on.
+    [[nodiscard]] bool Dargestellt(const Punkt& p) const;
+    /// World position of a picture position.
+    [[nodiscard]] Welt BildinWelt(Bildpunkt b) const;
+    [[nodiscard]] const Einstellungen& Anzeige() const { return einstellungen_; }
+
+  private:
+    struct PunktPlatz {
+        zrw::PunktKnoten knoten;
+        Punkt figur;
+    };
+    struct KantePlatz {
+        PunktKante knoten;
+        Kante figur;
+    };
+    struct TextPlatz {
+        PunktString knoten;
+        PktText figur;
+    };
+
+    void ZeichneFiguren(Zeichner& z);
+    [[nodiscard]] bool Gefangen(Bildpunkt maus, Bildpunkt ort) const;
+
+    const Einstellungen& einstellungen_;
+    Arena<PunktPlatz> punktArena_;
+    Arena<KantePlatz> kanteArena_;
+    Arena<TextPlatz> textArena_;
+    Figurenindex index_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,33 @@
+// The one table of the point kinds: control-file key, caption, colour setting and display switch.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "model/Einstellungen.h"
+#include "model/FigListe.h"
+#include "model/Figuren.h"
+
+namespace zrw {
+
+struct Punktart {
+    PunktArt art;
+    std::string_view kuerzel;      ///< as in the control file and on the check boxes
+    std::string_view bezeichnung;  ///< German, UTF-8
+    Farbe Einstellungen::*farbe;
+    bool Liste::*schalter;
+};
+
+/// In the order of the enumeration.
+inline constexpr std::array<Punktart, 4> kPunktarten{{
+    {PunktArt::FP, "FP", "Festpunkt", &Einstellungen::FPCol, &Liste::ShowFP},
+    {PunktArt::FL, "FL", "Lagefestpunkt", &Einstellungen::FLCol, &Liste::ShowFL},
+    {PunktArt::FH, "FH", "Höhenfestpunkt", &Einstellungen::FHCol, &Liste::ShowFH},
+    {PunktArt::NP, "NP", "Neupunkt", &Einstellungen::NPCol, &Liste::ShowNP},
+}};
+
+[[nodiscard]] constexpr const Punktart& ZurArt(PunktArt art) {
+    return kPunktarten[static_cast<std::size_t>(art)];
+}
+
+}  // namespace zrw

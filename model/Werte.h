@@ -1,0 +1,81 @@
+// Small value types that cross the borders between the rooms: colour, picture and world position,
+// point index and point number. No behaviour beyond comparing and converting.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace zrw {
+
+/// Colour value 0x00BBGGRR: the low byte is red. Kept as 32 bits because picture files carry all four bytes.
+struct Farbe {
+    std::uint32_t wert = 0;
+    friend bool operator==(Farbe, Farbe) = default;
+};
+
+inline constexpr Farbe kSchwarz{0x000000};
+/// Background of the picture, hence also the colour that wipes.
+inline constexpr Farbe kWeiss{16777215};
+
+/// Picture position [px], x to the right, y downwards.
+struct Bildpunkt {
+    std::int64_t x = 0;
+    std::int64_t y = 0;
+    friend bool operator==(Bildpunkt, Bildpunkt) = default;
+};
+
+/// World position [m]. A control file calls the easting Y and the northing X; in here they have plain names,
+/// so that nobody has to remember which is which.
+struct Welt {
+    double rechts = 0.0;  ///< easting, to the right in the picture
+    double hoch = 0.0;    ///< northing, upwards in the picture
+};
+
+/// Internal number of a point, 1 to 65535; 0 means no point.
+using PunktIndex = std::uint16_t;
+inline constexpr PunktIndex kKeinPunkt = 0;
+/// Most points of a network: the range of `PunktIndex`.
+inline constexpr std::size_t kMaxPunkte = 65535;
+
+/// Point number as the user sees it: at most 14 bytes of code page 1252, longer texts are cut.
+class PunktNummernTyp {
+  public:
+    static constexpr std::size_t kLaenge = 14;
+
+    constexpr PunktNummernTyp() = default;
+    explicit constexpr PunktNummernTyp(std::string_view text)
+        : laenge_(static_cast<std::uint8_t>(std::min(text.size(), kLaenge))) {
+        for (std::size_t i = 0; i < laenge_; ++i)
+            zeichen_[i] = text[i];
+    }
+
+    [[nodiscard]] constexpr std::string_view Text() const { return {zeichen_.data(), laenge_}; }
+    [[nodiscard]] constexpr bool Leer() const { return laenge_ == 0; }
+
+    /// Exact comparison of the bytes: case and blanks count.
+    friend bool operator==(const PunktNummernTyp& a, const PunktNummernTyp& b) {
+        return a.Text() == b.Text();
+    }
+
+    /// Spread over all 64 bits; bytes behind the text are zero and therefore harmless.
+    [[nodiscard]] std::uint64_t Streuwert() const {
+        std::uint64_t a = 0;
+        std::uint64_t b = 0;
+        std::memcpy(&a, zeichen_.data(), 8);
+        std::memcpy(&b, zeichen_.data() + 8, 6);
+        std::uint64_t h = (a ^ (b + laenge_) * 0x9E3779B97F4A7C15ULL) * 0xBF58476D1CE4E5B9ULL;
+        h ^= h >> 32;
+        h *= 0x94D049BB133111EBULL;
+        return h ^ (h >> 29);
+    }
+
+  private:
+    std::array<char, kLaenge> zeichen_{};
+    std::uint8_t laenge_ = 0;
+};
+
+}  // namespace zrw

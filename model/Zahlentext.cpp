@@ -1,0 +1,85 @@
+#include "model/Zahlentext.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <system_error>
+
+namespace zrw {
+namespace {
+
+constexpr bool IstZiffer(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Skips one leading plus sign, which from_chars refuses; a second sign behind it stays an error.
+std::string_view OhnePlus(std::string_view t) {
+    if (t.size() > 1 && t.front() == '+' && t[1] != '-' && t[1] != '+') t.remove_prefix(1);
+    return t;
+}
+
+/// from_chars tells overflow and underflow apart only through the exponent's sign.
+bool IstUnterlauf(std::string_view t) {
+    const std::size_t e = t.find_first_of("eE");
+    if (e != std::string_view::npos) return e + 1 < t.size() && t[e + 1] == '-';
+    const std::string_view ganz = t.substr(0, t.find('.'));
+    return std::none_of(ganz.begin(), ganz.end(), [](char c) { return c >= '1' && c <= '9'; });
+}
+
+}  // namespace
+
+std::string_view OhneRand(std::string_view text) {
+    while (!text.empty() && IstLeerzeichen(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IstLeerzeichen(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+std::optional<double> LiesReal(std::string_view text) {
+    std::string_view t = OhnePlus(OhneRand(text));
+    // "inf" and "nan" would pass from_chars; a decimal real begins with a digit or a point.
+    const std::size_t anfang = !t.empty() && t.front() == '-' ? 1 : 0;
+    if (t.size() <= anfang || !(IstZiffer(t[anfang]) || t[anfang] == '.')) return std::nullopt;
+    std::string mitE;
+    if (const std::size_t d = t.find_first_of("dD"); d != std::string_view::npos) {
+        mitE = t;
+        mitE[d] = 'E';
+        t = mitE;
+    }
+    double wert = 0.0;
+    const auto [ende, fehler] = std::from_chars(t.data(), t.data() + t.size(), wert);
+    if (ende != t.data() + t.size()) return std::nullopt;
+    if (fehler == std::errc::result_out_of_range) {
+        return IstUnterlauf(t) ? std::optional<double>(0.0) : std::nullopt;
+    }
+    if (fehler != std::errc()) return std::nullopt;
+    return wert;
+}
+
+std::optional<std::int64_t> LiesGanz(std::string_view text) {
+    const std::string_view t = OhnePlus(OhneRand(text));
+    std::int64_t wert = 0;
+    const auto [ende, fehler] = std::from_chars(t.data(), t.data() + t.size(), wert);
+    if (t.empty() || fehler != std::errc() || ende != t.data() + t.size()) return std::nullopt;
+    return wert;
+}
+
+std::string SchreibeReal(double wert) {
+    std::array<char, 64> puffer{};
+    const auto ergebnis = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert);
+    return {puffer.data(), ergebnis.ptr};
+}
+
+std::string Festkomma(double wert, int breite, int stellen) {
+    std::array<char, 400> puffer{};  // the largest double has 309 digits before the point
+    const auto ergebnis = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert,
+                                        std::chars_format::fixed, std::clamp(stellen, 0, 60));
+    std::string text(puffer.data(), ergebnis.ec == std::errc() ? ergebnis.ptr : puffer.data());
+    if (text.size() < static_cast<std::size_t>(std::max(breite, 0))) {
+        text.insert(0, static_cast<std::size_t>(breite) - text.size(), ' ');
+    }
+    return text;
+}
+
+}  // namespace zrw
