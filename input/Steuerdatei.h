@@ -1,0 +1,48 @@
+// Reading a control file (".EIN") into a fresh network. Fitting and showing it is the caller's business, and
+// so is keeping the previous network when the reading fails.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "model/Dateien.h"
+#include "model/FigListe.h"
+#include "model/Netzangaben.h"
+
+namespace zrw {
+
+/// Something that the reading met and went on from.
+struct Meldung {
+    std::string text;   ///< German, UTF-8
+    std::string datei;  ///< name of the file without its folder
+    long zeile = 0;
+};
+/// Takes the messages of one reading as they come; there may be very many.
+using Meldungsempfaenger = std::function<void(const Meldung&)>;
+
+/// How a reading ended that did not fail altogether.
+enum class Leseende : std::uint8_t {
+    Vollstaendig,
+    Abgebrochen,   ///< an include file is missing: the network holds what was read before
+    Programmende,  ///< a coordinate file is missing: the program is to end
+};
+
+struct Lesung {
+    std::unique_ptr<Liste> liste;
+    Netzangaben netz;
+    Leseende ende = Leseende::Vollstaendig;
+    std::string endetext;  ///< the message of an ending other than `Vollstaendig`
+};
+
+/// @param einstellungen colours and label offsets; must outlive the network
+/// @throws Fehler where the file cannot be opened or a number outside the point lines is malformed
+[[nodiscard]] Lesung LeseSteuerdatei(const std::filesystem::path& datei, const Dateien& dateien,
+                                     const Einstellungen& einstellungen, const Meldungsempfaenger& meldung);
+
+/// Sexagesimal degrees.minutesseconds [-] to decimal degrees [deg].
+[[nodiscard]] double GradDezimal(double wert);
+
+}  // namespace zrw

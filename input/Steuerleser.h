@@ -1,0 +1,82 @@
+// The state of one reading of a control file and a member per kind of record. Which key leads to which
+// member: Steuersaetze.h.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "input/Feldleser.h"
+#include "input/Netzbauer.h"
+#include "input/Steuerdatei.h"
+#include "input/Zeilenquelle.h"
+#include "input/Zrwgeo.h"
+
+namespace zrw {
+
+struct Satz;
+
+/// Layout of the coordinates in a point line.
+enum class Koordinaten : std::uint8_t { Keine, Gitter, Winkel, Kartesisch };
+
+class Steuerleser {
+  public:
+    Steuerleser(const std::filesystem::path& datei, const Dateien& dateien,
+                const Einstellungen& einstellungen, const Meldungsempfaenger& meldung);
+
+    /// Reads until "$$$" or the end of the file. @throws Fehler with file and line
+    [[nodiscard]] Lesung Lies();
+
+    // One record each. `rest` is the line behind its first three characters.
+    void Uebergehe(std::string_view rest);
+    void Ende(std::string_view rest);
+    void LiesXVersatz(std::string_view rest);
+    void LiesYVersatz(std::string_view rest);
+    void LiesStandpunkt(std::string_view rest);
+    void LiesRichtung(std::string_view rest);
+    void LiesAzimut(std::string_view rest);
+    void LiesStrecke(std::string_view rest);
+    void LiesHoehenunterschied(std::string_view rest);
+    void LeseGPSVektoren(std::string_view rest);
+    void LiesEllipsoid(std::string_view rest);
+    void LiesTitel(std::string_view rest);
+    void LiesNetztyp(std::string_view rest);
+    void LiesPunktformat(std::string_view rest);
+    void LiesKoordinatensystem(std::string_view rest);
+    void FuegeEin(std::string_view rest);
+    void FuegeKoordinatenEin(std::string_view rest);
+    template <PunktArt art>
+    void LesePunkt(std::string_view rest) {
+        LesePunkt(art, rest);
+    }
+
+  private:
+    void LesePunkt(PunktArt punktart, std::string_view rest);
+    [[nodiscard]] bool LiesOrt(Koordinaten art, Feldleser& felder, Welt& ort) const;
+    [[nodiscard]] static bool LiesWinkel(Feldleser& felder, Welt& ort);
+    [[nodiscard]] bool LiesGitter(Feldleser& felder, Welt& ort) const;
+    [[nodiscard]] bool LiesKartesisch(Feldleser& felder, Welt& ort) const;
+    void LiesVektor(std::string_view rest);
+    void Beobachte(std::string_view rest, void (Netzbauer::*beobachtung)(PunktIndex, PunktIndex));
+    void Ziele(std::string_view rest, Farbe farbe);
+    [[nodiscard]] std::int32_t Ganzzahl(Feldleser& felder) const;
+    [[nodiscard]] double Realzahl(Feldleser& felder) const;
+    void Melde(std::string text) const;
+    [[noreturn]] void FalscheZahl() const;
+
+    const Einstellungen& einstellungen_;
+    const Meldungsempfaenger& meldung_;
+    Zeilenquelle quelle_;
+    Lesung lesung_;
+    Netzbauer bauer_;
+    Ellipsoid ellipsoid_;
+    const Satz* letzter_ = nullptr;  ///< most recent known key: what a continuation line continues
+    std::string_view zeile_;
+    PunktIndex standpunkt_ = kKeinPunkt;
+    std::int32_t punktformat_ = 0;
+    bool fertig_ = false;
+    std::uint64_t vektorenOffen_ = 0;  ///< GPS vectors still to come in the current block
+};
+
+}  // namespace zrw

@@ -1,0 +1,83 @@
+// The records of a control file: one row per key with its code, what it belongs to, and the member that reads
+// it. A new key is one row here and one member of `Steuerleser`.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "input/Steuerleser.h"
+
+namespace zrw {
+
+struct Satz {
+    std::string_view schluessel;
+    std::uint8_t code;  ///< number of the record, 1 to 51
+    void (Steuerleser::*lesen)(std::string_view rest);
+    bool imPunktblock = false;  ///< may stand between the lines of a point block without ending it
+};
+
+inline constexpr std::array<Satz, 51> kSaetze{{
+    {"$$$", 1, &Steuerleser::Ende},
+    {"$CC", 2, &Steuerleser::Uebergehe, true},
+    {"$MS", 3, &Steuerleser::Uebergehe},
+    {"$MR", 4, &Steuerleser::Uebergehe},
+    {"$MH", 5, &Steuerleser::Uebergehe},
+    {"$MA", 6, &Steuerleser::Uebergehe},
+    {"$MN", 7, &Steuerleser::Uebergehe},
+    {"$MV", 8, &Steuerleser::Uebergehe},
+    {"$R0", 9, &Steuerleser::Uebergehe},
+    {"$S0", 10, &Steuerleser::Uebergehe},
+    {"$V0", 11, &Steuerleser::Uebergehe},
+    {"$H0", 12, &Steuerleser::Uebergehe},
+    {"$P0", 13, &Steuerleser::Uebergehe},
+    {"$G0", 14, &Steuerleser::Uebergehe},
+    {"$XO", 15, &Steuerleser::LiesXVersatz, true},
+    {"$YO", 16, &Steuerleser::LiesYVersatz, true},
+    {"$RD", 17, &Steuerleser::Uebergehe},
+    {"$RS", 18, &Steuerleser::LiesStandpunkt},
+    {"$RZ", 19, &Steuerleser::LiesRichtung},
+    {"$ST", 20, &Steuerleser::LiesStrecke},
+    {"$SR", 21, &Steuerleser::Uebergehe},
+    {"$DH", 22, &Steuerleser::LiesHoehenunterschied},
+    {"$ZD", 23, &Steuerleser::LiesHoehenunterschied},
+    {"$SH", 24, &Steuerleser::LeseGPSVektoren},
+    {"$SV", 25, &Steuerleser::Uebergehe},
+    {"$SK", 26, &Steuerleser::Uebergehe},
+    {"$SG", 27, &Steuerleser::Uebergehe},
+    {"$EL", 28, &Steuerleser::LiesEllipsoid},
+    {"$QG", 29, &Steuerleser::Uebergehe},
+    {"$AU", 30, &Steuerleser::LiesTitel},
+    {"$GW", 31, &Steuerleser::Uebergehe},
+    {"$FP", 32, &Steuerleser::LesePunkt<PunktArt::FP>},
+    {"$NP", 33, &Steuerleser::LesePunkt<PunktArt::NP>},
+    {"$FL", 34, &Steuerleser::LesePunkt<PunktArt::FL>},
+    {"$FH", 35, &Steuerleser::LesePunkt<PunktArt::FH>},
+    {"$NT", 36, &Steuerleser::LiesNetztyp},
+    {"$AZ", 37, &Steuerleser::LiesAzimut},
+    {"$PD", 38, &Steuerleser::Uebergehe},
+    {"$PF", 39, &Steuerleser::LiesPunktformat},
+    {"$LS", 40, &Steuerleser::Uebergehe},
+    {"$SF", 41, &Steuerleser::FuegeEin},
+    {"$RF", 42, &Steuerleser::FuegeEin},
+    {"$HF", 43, &Steuerleser::FuegeEin},
+    {"$GF", 44, &Steuerleser::FuegeEin},
+    {"$KF", 45, &Steuerleser::FuegeKoordinatenEin, true},
+    {"$WF", 46, &Steuerleser::Uebergehe, true},
+    {"$RT", 47, &Steuerleser::Uebergehe},
+    {"$NI", 48, &Steuerleser::Uebergehe},
+    {"$KS", 49, &Steuerleser::LiesKoordinatensystem},
+    {"$LA", 50, &Steuerleser::Uebergehe},
+    {"$KV", 51, &Steuerleser::Uebergehe},
+}};
+
+/// Row of the key that the first three characters of a line are, or null.
+[[nodiscard]] const Satz* LeseSchluessel(std::string_view zeile);
+
+/// Whether the record introduces points.
+[[nodiscard]] constexpr bool IstPunktsatz(const Satz* satz) {
+    return satz != nullptr && satz->code >= 32 && satz->code <= 35;
+}
+
+}  // namespace zrw

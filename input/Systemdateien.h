@@ -1,0 +1,21 @@
+// Files of the operating system: bounded reading, atomic replacing, names without regard to case.
+#pragma once
+
+#include "model/Dateien.h"
+
+namespace zrw {
+
+class Systemdateien final : public Dateien {
+  public:
+    [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override;
+    /// Writes a file beside, flushes it to the disk and renames it. A symbolic link keeps pointing to its
+    /// target, which is replaced; an existing file keeps its access rights.
+    void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) override;
+    [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
+                                                             const std::string& name) const override;
+
+  private:
+    unsigned laufend_ = 0;  ///< sets the files beside of one program run apart
+};
+
+}  // namespace zrw
