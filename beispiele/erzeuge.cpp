@@ -1,0 +1,24 @@
+// Makes the example network: beispiel_erzeugen ZIELORDNER. The same files come out at every run.
+#include <filesystem>
+#include <iostream>
+
+#include "beispiele/Netz.h"
+#include "beispiele/Zufall.h"
+
+int main(int argc, char** argv) {
+    using namespace zrw::beispiel;
+    if (argc != 2) {
+        std::cerr << "Aufruf: beispiel_erzeugen ZIELORDNER\n";
+        return 2;
+    }
+    Netz netz;
+    netz.titel = "Netz Vogelsberg (frei erfunden)";
+    Zufall zufall(19741104);
+    const Rollen rollen = LegePunkteAn(netz, zufall);
+    Beobachte(netz, rollen, zufall);
+    if (!SchreibeSteuerdatei(netz, std::filesystem::path(argv[1]))) {
+        std::cerr << "Kann in den Ordner " << argv[1] << " nicht schreiben.\n";
+        return 1;
+    }
+    return 0;
+}
