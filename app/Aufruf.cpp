@@ -1,0 +1,150 @@
+#include "app/Aufruf.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "app/Formate.h"
+#include "model/Zahlentext.h"
+#include "ui/Schalter.h"
+
+namespace zrw {
+namespace {
+
+// Smaller pictures leave no room beside the margin that fitting keeps, larger ones no memory.
+constexpr std::int64_t kKleinste = 100;
+constexpr std::int64_t kGroesste = 16384;
+
+std::vector<std::string> Aufteilen(const std::string& liste) {
+    std::vector<std::string> teile;
+    std::size_t anfang = 0;
+    while (anfang <= liste.size()) {
+        const std::size_t ende = std::min(liste.find(',', anfang), liste.size());
+        if (ende > anfang) teile.push_back(liste.substr(anfang, ende - anfang));
+        anfang = ende + 1;
+    }
+    return teile;
+}
+
+Bildgroesse LiesGroesse(const std::string& text) {
+    const std::size_t x = text.find('x');
+    if (x != std::string::npos) {
+        const auto weite = LiesGanz(std::string_view(text).substr(0, x));
+        const auto hoehe = LiesGanz(std::string_view(text).substr(x + 1));
+        const auto geht = [](const auto& v) { return v && *v >= kKleinste && *v <= kGroesste; };
+        if (geht(weite) && geht(hoehe))
+            return {static_cast<std::int32_t>(*weite), static_cast<std::int32_t>(*hoehe)};
+    }
+    throw Falschaufruf{"--groesse erwartet BREITExHÖHE mit Werten von 100 bis 16384, nicht \"" + text + "\""};
+}
+
+std::vector<std::string> LiesFormate(const std::string& liste) {
+    auto formate = Aufteilen(liste);
+    if (formate.empty())
+        throw Falschaufruf{"--export erwartet eine Liste von Formaten (" + Formatnamen() + ")"};
+    for (const std::string& f : formate) {
+        if (FindeFormat(f) == nullptr)
+            throw Falschaufruf{"Unbekanntes Format \"" + f + "\" (möglich: " + Formatnamen() + ")"};
+    }
+    return formate;
+}
+
+std::vector<std::string> LiesSchalter(const std::string& liste) {
+    auto namen = Aufteilen(liste);
+    for (const std::string& n : namen) {
+        if (std::none_of(kSchalter.begin(), kSchalter.end(),
+                         [&](const Schalter& s) { return s.name == n; })) {
+            throw Falschaufruf{"Unbekannter Schalter \"" + n + "\""};
+        }
+    }
+    return namen;
+}
+
+void Haenge(std::vector<std::string>& ziel, std::vector<std::string> neue) {
+    ziel.insert(ziel.end(), neue.begin(), neue.end());
+}
+
+/// An option that takes a value.
+struct Option {
+    std::string_view name;
+    void (*lies)(Aufruf&, const std::string&);
+};
+
+constexpr std::array<Option, 6> kOptionen{{
+    {"--export",
+     [](Aufruf& a, const std::string& w) {
+         a.auftrag = Auftrag::Stapel;
+         Haenge(a.formate, LiesFormate(w));
+     }},
+    {"--ziel", [](Aufruf& a, const std::string& w) { a.ziel = w; }},
+    {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
+    {"--ein", [](Aufruf& a, const std::string& w) { Haenge(a.ein, LiesSchalter(w)); }},
+    {"--aus", [](Aufruf& a, const std::string& w) { Haenge(a.aus, LiesSchalter(w)); }},
+    {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
+}};
+
+}  // namespace
+
+Aufruf LiesAufruf(const std::vector<std::string>& worte) {
+    Aufruf a;
+    bool nurNamen = false;
+    for (std::size_t i = 0; i < worte.size(); ++i) {
+        const std::string& wort = worte[i];
+        if (nurNamen || wort.size() < 2 || wort[0] != '-') {
+            if (!a.datei.empty())
+                throw Falschaufruf{"Nur eine Datei ist möglich, \"" + wort + "\" ist zu viel"};
+            a.datei = wort;
+        } else if (wort == "--") {
+            nurNamen = true;
+        } else if (wort == "--help" || wort == "-h") {
+            a.auftrag = Auftrag::Hilfe;
+            return a;
+        } else if (wort == "--version") {
+            a.auftrag = Auftrag::Version;
+            return a;
+        } else {
+            // Both "--ziel ORDNER" and "--ziel=ORDNER".
+            const std::size_t gleich = wort.find('=');
+            const std::string name = wort.substr(0, gleich);
+            const auto* o = std::find_if(kOptionen.begin(), kOptionen.end(),
+                                         [&](const Option& p) { return p.name == name; });
+            if (o == kOptionen.end()) throw Falschaufruf{"Unbekannte Option \"" + name + "\""};
+            if (gleich == std::string::npos && i + 1 >= worte.size())
+                throw Falschaufruf{name + " erwartet einen Wert"};
+            o->lies(a, gleich == std::string::npos ? worte[++i] : wort.substr(gleich + 1));
+        }
+    }
+    if (a.auftrag == Auftrag::Stapel && a.datei.empty()) throw Falschaufruf{"Es fehlt der Name der Datei"};
+    return a;
+}
+
+std::string Hilfetext() {
+    std::string schalter;
+    for (const Schalter& s : kSchalter)
+        schalter += (schalter.empty() ? "" : " ") + std::string(s.name);
+    return "Aufruf:\n"
+           "  zarwik [DATEI]                          öffnet das Fenster, eine Steuerdatei (.EIN)\n"
+           "                                          oder Zarwikdatei (.ZRW) gleich mit\n"
+           "  zarwik --export LISTE [Optionen] DATEI  schreibt Dateien ohne Fenster\n"
+           "\n"
+           "  --export LISTE         Formate, durch Kommas getrennt: " +
+           Formatnamen() +
+           "\n"
+           "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner)\n"
+           "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x800,\n"
+           "                         bei einer Zarwikdatei die gespeicherte)\n"
+           "  --ein LISTE            Darstellung einschalten\n"
+           "  --aus LISTE            Darstellung ausschalten\n"
+           "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"
+           "  --help, --version\n"
+           "\n"
+           "Schalter für --ein und --aus:\n"
+           "  " +
+           schalter +
+           "\n"
+           "\n"
+           "Ergebnis: 0 in Ordnung; 1 etwas ließ sich nicht lesen oder schreiben; 2 falscher Aufruf.\n"
+           "Nicht lesbare Punktzeilen werden gemeldet und übergangen.\n";
+}
+
+}  // namespace zrw

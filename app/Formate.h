@@ -1,0 +1,35 @@
+// The output formats of the batch mode, a row each.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/Dateien.h"
+#include "model/FigListe.h"
+#include "model/Netzangaben.h"
+#include "output/Zeichenzustand.h"
+
+namespace zrw {
+
+/// What a format writes from.
+struct Ausgabe {
+    Liste& liste;
+    const Netzangaben& netz;
+    const Einstellungen& einstellungen;
+    Zeichenzustand& zustand;
+    Dateien& dateien;
+};
+
+struct Format {
+    std::string_view name;    ///< on the command line
+    std::string_view endung;  ///< of the file, with its dot
+    void (*schreibe)(const Ausgabe& a, const std::filesystem::path& datei);
+};
+
+/// Row of a format, or null.
+[[nodiscard]] const Format* FindeFormat(std::string_view name);
+
+/// All names, for messages.
+[[nodiscard]] std::string Formatnamen();
+
+}  // namespace zrw

@@ -1,0 +1,88 @@
+#include "app/Stapel.h"
+
+#include <QFileInfo>
+#include <algorithm>
+#include <cstdio>
+
+#include "app/Formate.h"
+#include "input/Systemdateien.h"
+#include "model/Fehler.h"
+#include "ui/Einstellungsablage.h"
+#include "ui/Schalter.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+constexpr Bildgroesse kUebliche{1200, 800};
+/// A stored picture size is used only where it could be that of a window.
+constexpr std::int32_t kKleinste = 100;
+constexpr std::int32_t kGroesste = 16384;
+
+void Drucke(const std::string& text) {
+    std::fprintf(stderr, "%s\n", text.c_str());
+}
+
+Einstellungen LadeEinstellungen(const Aufruf& aufruf) {
+    Einstellungen e;
+    if (!aufruf.einstellungen) {
+        LoadSettings(e, Einstellungsablage());
+        return e;
+    }
+    const QString datei = AusUtf8(*aufruf.einstellungen);
+    if (!QFileInfo(datei).isFile() || !QFileInfo(datei).isReadable()) {
+        throw Fehler("Kann Datei nicht öffnen (Einstellungen).", *aufruf.einstellungen);
+    }
+    LoadSettings(e, Einstellungsablage(datei));
+    return e;
+}
+
+void SetzeSchalter(const Aufruf& aufruf, Liste& liste, Zeichenzustand& zustand) {
+    const auto genannt = [](const std::vector<std::string>& namen, const Schalter& s) {
+        return std::find(namen.begin(), namen.end(), s.name) != namen.end();
+    };
+    for (const Schalter& s : kSchalter) {
+        Schalte(s, (s.anfangs || genannt(aufruf.ein, s)) && !genannt(aufruf.aus, s), &liste, zustand);
+    }
+}
+
+void SetzeGroesse(const Aufruf& aufruf, Liste& liste) {
+    const auto brauchbar = [](std::int32_t v) { return v >= kKleinste && v <= kGroesste; };
+    if (!aufruf.groesse && brauchbar(liste.Weite) && brauchbar(liste.Hoehe)) return;
+    const Bildgroesse g = aufruf.groesse.value_or(kUebliche);
+    liste.Weite = g.weite;
+    liste.Hoehe = g.hoehe;
+}
+
+void Exportiere(const Aufruf& aufruf) {
+    const Einstellungen einstellungen = LadeEinstellungen(aufruf);
+    const std::filesystem::path datei = TextPfad(aufruf.datei);
+    Systemdateien dateien;
+    Lesung lesung = OeffneNetz(datei, dateien, einstellungen, {}, aufruf.groesse.value_or(kUebliche),
+                               [](const Meldung& m) { Drucke(Fehler::Meldung(m.text, m.datei, m.zeile)); });
+    if (lesung.ende != Leseende::Vollstaendig) throw Fehler(lesung.endetext);
+    SetzeGroesse(aufruf, *lesung.liste);
+    Zeichenzustand zustand;
+    SetzeSchalter(aufruf, *lesung.liste, zustand);
+    const Ausgabe ausgabe{*lesung.liste, lesung.netz, einstellungen, zustand, dateien};
+    for (const std::string& name : aufruf.formate) {
+        const Format& format = *FindeFormat(name);
+        std::filesystem::path ziel = TextPfad(aufruf.ziel) / datei.stem();
+        ziel += TextPfad(format.endung);
+        format.schreibe(ausgabe, ziel);
+    }
+}
+
+}  // namespace
+
+int FuehreStapelAus(const Aufruf& aufruf) {
+    try {
+        Exportiere(aufruf);
+        return 0;
+    } catch (const std::exception& f) {
+        Drucke(f.what());
+        return 1;
+    }
+}
+
+}  // namespace zrw

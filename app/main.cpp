@@ -1,0 +1,61 @@
+// Start of the program: command line, then either the batch mode or the window.
+#include <QApplication>
+#include <QTimer>
+#include <clocale>
+#include <cstdio>
+
+#include "app/Aufruf.h"
+#include "app/Stapel.h"
+#include "input/Systemdateien.h"
+#include "ui/Einstellungsablage.h"
+#include "ui/Hauptfenster.h"
+#include "ui/Umwandlung.h"
+
+namespace {
+
+using namespace zrw;
+
+std::vector<std::string> Worte(int argc, char** argv) {
+    std::vector<std::string> worte;
+    // Qt knows how each system encodes its command line.
+    for (int i = 1; i < argc; ++i)
+        worte.push_back(NachUtf8(QString::fromLocal8Bit(argv[i])));
+    return worte;
+}
+
+int Fenster(const Aufruf& aufruf) {
+    QApplication::setApplicationName(QStringLiteral("Zarwik"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Zarwik"));
+    Einstellungen einstellungen;
+    LoadSettings(einstellungen, Einstellungsablage());
+    Netzangaben netz;
+    Zeichenzustand zustand;
+    Systemdateien dateien;
+    QtDialogdienst dialoge;
+    TZrwMainDlg fenster({einstellungen, netz, zustand, dateien, dialoge, QStringLiteral(ZRW_VERSION)});
+    dialoge.SetzeEltern(&fenster);
+    fenster.show();
+    if (!aufruf.datei.empty()) {
+        // When the window stands and has its size, as the network is fitted into it.
+        QTimer::singleShot(0, &fenster, [&] { fenster.Oeffne(TextPfad(aufruf.datei)); });
+    }
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Aufruf aufruf;
+    try {
+        aufruf = LiesAufruf(Worte(argc, argv));
+    } catch (const Falschaufruf& f) {
+        std::fprintf(stderr, "%s. Hilfe mit --help.\n", f.text.c_str());
+        return 2;
+    }
+    if (aufruf.auftrag == Auftrag::Hilfe) return std::fputs(Hilfetext().c_str(), stdout) < 0 ? 1 : 0;
+    if (aufruf.auftrag == Auftrag::Version) return std::puts("Zarwik " ZRW_VERSION) < 0 ? 1 : 0;
+    if (aufruf.auftrag == Auftrag::Stapel) qputenv("QT_QPA_PLATFORM", "offscreen");
+    int ohneArgumente = 1;  // all options are ours; Qt would take some of them for its own
+    const QApplication anwendung(ohneArgumente, argv);
+    return aufruf.auftrag == Auftrag::Stapel ? FuehreStapelAus(aufruf) : Fenster(aufruf);
+}

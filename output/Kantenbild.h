@@ -1,0 +1,83 @@
+// The strokes of an observation line, worked out once for screen, printer and export: line style first, then
+// the decorations of the other observations. Pure geometry; Figurenzeichner draws it.
+//
+// How a line reads, from its start S over its midpoint M to its end E:
+//   AR1   one-sided direction: the half at the standpoint S solid, the half towards the target E dashed
+//   AR2   two-sided direction: solid throughout
+//   AST   distance or height difference without a direction: dashed throughout
+//   Null  GPS vector alone: solid, running through its marker
+//   ARI1, ARI2, ASTI  the same, indirect: the line makes a detour round M. ARI1 solid before M and dashed
+//   after
+//         it; ARI2 a solid detour with the obstructed sight dashed under it; ASTI dashed with a solid detour
+// With a GPS marker, AR1, AR2 and AST leave it open: their strokes end at its corners.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <span>
+
+#include "model/Einstellungen.h"
+#include "model/Figuren.h"
+#include "model/Werte.h"
+
+namespace zrw {
+
+/// What is written in one go; the forms that a plotter file knows.
+enum class Zugform : std::uint8_t {
+    Strecke,                ///< one solid stroke
+    GPSMarke,               ///< closed outline of four sides
+    Siebenpunkt,            ///< solid polyline through seven points
+    SiebenpunktHalb,        ///< the same, last three strokes dashed
+    ZweiVoll,               ///< two separate solid strokes
+    ZweiGestrichelt,        ///< two separate dashed strokes
+    VollGestrichelt,        ///< a solid and a dashed stroke that meet
+    VollLueckeGestrichelt,  ///< a solid and a dashed stroke on both sides of a marker
+    Gestrichelt,            ///< one dashed stroke
+    Querstrich,             ///< tick across the line
+    Hoehenmarke,            ///< height-difference mark beside the line
+};
+
+/// One stroke of a form, between two of its points.
+struct Strich {
+    std::uint8_t von;
+    std::uint8_t nach;
+    bool gestrichelt;
+};
+
+/// The strokes of a form, in drawing order.
+[[nodiscard]] std::span<const Strich> Striche(Zugform form);
+
+struct Zug {
+    Zugform form = Zugform::Strecke;
+    std::array<Bildpunkt, 7> punkte{};
+};
+
+class Kantenbild {
+  public:
+    /// @param a, e ends of the line [px]; equal ends give nothing
+    /// @param e sizes in dots of the device that is drawn on
+    Kantenbild(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende,
+               const Einstellungen& groessen);
+
+    [[nodiscard]] std::span<const Zug> Zuege() const { return {zuege_.data(), anzahl_}; }
+
+  private:
+    struct Lage;
+    void Linie(LinieAttr lAttr, bool mitMarke, const Lage& l);
+    void Umweg(LinieAttr lAttr, const Lage& l);
+    void Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einstellungen& groessen);
+    void Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte);
+
+    // Most: two for an indirect line, marker, tick and three height marks.
+    std::array<Zug, 8> zuege_;
+    std::size_t anzahl_ = 0;
+};
+
+/// A line without a direction observation and without GPS is drawn in white: there, but not seen.
+[[nodiscard]] inline Farbe Kantenfarbe(KanteAttr kAttr, LinieAttr lAttr, Farbe farbe) {
+    return lAttr == LinieAttr::Null && !kAttr.Hat(KanteAttr::GPS) ? kWeiss : farbe;
+}
+
+}  // namespace zrw

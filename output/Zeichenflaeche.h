@@ -1,0 +1,96 @@
+// ONTO WHAT is drawn: the narrow surface that screen, printer and recording tests share. Nothing in it that a
+// printer could not do. Positions are device dots; whoever draws clips first (Abschneiden.h).
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "model/Werte.h"
+
+namespace zrw {
+
+enum class Strichart : std::uint8_t { Voll, Gestrichelt };
+
+struct Stift {
+    Farbe farbe = kSchwarz;
+    std::int32_t breite = 1;  ///< [dots], at least 1
+    Strichart art = Strichart::Voll;
+    friend bool operator==(const Stift&, const Stift&) = default;
+};
+
+struct Pinsel {
+    Farbe farbe = kWeiss;
+    bool leer = false;  ///< shapes stay open, text has no background
+    friend bool operator==(const Pinsel&, const Pinsel&) = default;
+};
+
+/// Position on a surface [dots], far within 32 bits.
+struct Flaechenpunkt {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+};
+
+/// Rectangle on a surface [dots]; `rechts` and `unten` lie on it.
+struct Rechteck {
+    std::int32_t links = 0;
+    std::int32_t oben = 0;
+    std::int32_t rechts = 0;
+    std::int32_t unten = 0;
+};
+
+class Zeichenflaeche {
+  public:
+    virtual ~Zeichenflaeche() = default;
+
+    /// What can be seen of the surface.
+    [[nodiscard]] virtual Rechteck Sichtbar() const = 0;
+
+    // Pen and brush of what is drawn next. Surfaces apply a change when they draw, so setting back costs
+    // nothing.
+    void SetzeStift(const Stift& stift) { stift_ = stift; }
+    void SetzePinsel(const Pinsel& pinsel) { pinsel_ = pinsel; }
+    [[nodiscard]] const Stift& AktuellerStift() const { return stift_; }
+    [[nodiscard]] const Pinsel& AktuellerPinsel() const { return pinsel_; }
+
+    /// Line with both ends drawn.
+    virtual void Linie(Flaechenpunkt von, Flaechenpunkt nach) = 0;
+    // Outline with the pen, inside with the brush.
+    virtual void ZeichneRechteck(const Rechteck& r) = 0;
+    virtual void Ellipse(const Rechteck& umschrieben) = 0;
+    virtual void Vieleck(std::span<const Flaechenpunkt> ecken) = 0;
+    /// Fills without an outline.
+    virtual void Fuelle(const Rechteck& r, Farbe farbe) = 0;
+
+    /// Text in code page 1252 with its top-left corner at `ort`, without background.
+    virtual void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) = 0;
+    [[nodiscard]] virtual std::int32_t Textbreite(std::string_view text) const = 0;
+    [[nodiscard]] virtual std::int32_t Texthoehe() const = 0;
+
+  private:
+    Stift stift_;
+    Pinsel pinsel_;
+};
+
+/// Sets pen and brush and puts back those of before at the end of its scope.
+class Stiftwechsel {
+  public:
+    Stiftwechsel(Zeichenflaeche& flaeche, const Stift& stift, const Pinsel& pinsel)
+        : flaeche_(flaeche), stift_(flaeche.AktuellerStift()), pinsel_(flaeche.AktuellerPinsel()) {
+        flaeche.SetzeStift(stift);
+        flaeche.SetzePinsel(pinsel);
+    }
+    ~Stiftwechsel() {
+        flaeche_.SetzeStift(stift_);
+        flaeche_.SetzePinsel(pinsel_);
+    }
+    Stiftwechsel(const Stiftwechsel&) = delete;
+    Stiftwechsel& operator=(const Stiftwechsel&) = delete;
+
+  private:
+    Zeichenflaeche& flaeche_;
+    Stift stift_;
+    Pinsel pinsel_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,45 @@
+// Everything modal that the window asks or tells the user, behind one interface, so that tests answer for the
+// user.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+class QWidget;
+
+namespace zrw {
+
+/// What a file dialog is opened with.
+struct Dateiwahl {
+    QString titel;
+    QString filter;     ///< in Qt's form: "Text (*.EIN);;Alle Dateien (*.*)"
+    QString ordner;     ///< empty: the system's own choice
+    QString vorschlag;  ///< proposed name, for saving
+    QString endung;     ///< added where the user gives none, for saving
+};
+
+class Dialogdienst {
+  public:
+    virtual ~Dialogdienst() = default;
+    virtual void Melde(const QString& text) = 0;
+    /// Yes or no.
+    [[nodiscard]] virtual bool Frage(const QString& text) = 0;
+    [[nodiscard]] virtual std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) = 0;
+    [[nodiscard]] virtual std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) = 0;
+};
+
+/// The real one: message boxes and file dialogs over a window.
+class QtDialogdienst final : public Dialogdienst {
+  public:
+    /// @param eltern may be set later, may be null
+    void SetzeEltern(QWidget* eltern) { eltern_ = eltern; }
+    void Melde(const QString& text) override;
+    bool Frage(const QString& text) override;
+    std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) override;
+    std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) override;
+
+  private:
+    QWidget* eltern_ = nullptr;
+};
+
+}  // namespace zrw

@@ -1,0 +1,28 @@
+// Where the settings of one user are kept: the registry on Windows, the file ZRWINI.ini elsewhere.
+#pragma once
+
+#include <QSettings>
+#include <memory>
+
+#include "model/Einstellungen.h"
+
+namespace zrw {
+
+class Einstellungsablage final : public EinstellungsSpeicher {
+  public:
+    /// The user's own store.
+    Einstellungsablage();
+    /// Another INI file of the same layout.
+    explicit Einstellungsablage(const QString& inidatei);
+
+    [[nodiscard]] std::optional<std::string> Lies(std::string_view schluessel) const override;
+    void Schreibe(std::string_view schluessel, const std::string& text) override;
+
+    /// Writes what is pending. @throws Fehler where the store cannot be written
+    void Sichere();
+
+  private:
+    std::unique_ptr<QSettings> ablage_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,166 @@
+// Main window: opening, saving, ending.
+#include <QCheckBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include "model/Bilddatei.h"
+#include "model/Fehler.h"
+#include "ui/Hauptfenster.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+/// Messages of one reading that a box can show.
+constexpr int kMeldungenInBox = 20;
+
+const QString kBildfilter = QStringLiteral("Zarwikdatei (*.ZRW *.zrw)");
+const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN *.ein);;Alle Dateien (*.*)");
+
+/// Collects the messages of one reading into the text of one box.
+class Sammler {
+  public:
+    void Nimm(const Meldung& m) {
+        if (++anzahl_ > kMeldungenInBox) return;
+        text_ += AusUtf8(m.text) + QStringLiteral("  (") + AusUtf8(m.datei) +
+                 (m.zeile > 0 ? QStringLiteral(", Zeile %1").arg(m.zeile) : QString()) +
+                 QStringLiteral(")\n");
+    }
+    [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
+    [[nodiscard]] QString Text() const {
+        if (anzahl_ <= kMeldungenInBox) return text_.trimmed();
+        return text_ + QStringLiteral("… insgesamt %1 Meldungen, hier die ersten %2")
+                           .arg(anzahl_)
+                           .arg(kMeldungenInBox);
+    }
+
+  private:
+    QString text_;
+    qint64 anzahl_ = 0;
+};
+
+/// The hourglass for the duration of a scope.
+class Sanduhr {
+  public:
+    Sanduhr() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Sanduhr() { QGuiApplication::restoreOverrideCursor(); }
+    Sanduhr(const Sanduhr&) = delete;
+    Sanduhr& operator=(const Sanduhr&) = delete;
+};
+
+}  // namespace
+
+void TZrwMainDlg::SpeedButton1Click() {
+    const auto name = programm_.dialoge.WaehleZumOeffnen(
+        {QStringLiteral("Zarwik erzeugen"), kSteuerfilter, ordner_, {}, {}});
+    if (name) Oeffne(NachPfad(*name));
+}
+
+void TZrwMainDlg::SpeedButton2Click() {
+    const auto name = programm_.dialoge.WaehleZumOeffnen(
+        {QStringLiteral("Zarwikdatei lesen"), kBildfilter, ordner_, {}, {}});
+    if (name) Oeffne(NachPfad(*name));
+}
+
+void TZrwMainDlg::SpeedButton9Click() {
+    (void)Speichere();
+}
+
+void TZrwMainDlg::SpeedButton7Click() {
+    if (programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere()) return;
+    close();
+}
+
+void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
+    Sammler meldungen;
+    Lesung lesung;
+    std::optional<Fehler> fehler;
+    try {
+        const Sanduhr sanduhr;
+        lesung = OeffneNetz(datei, programm_.dateien, programm_.einstellungen, programm_.netz,
+                            {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); });
+    } catch (const Fehler& f) {
+        fehler = f;
+    }
+    if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
+    if (fehler) {
+        // A control file that cannot be opened has never brought a box up; the status line names it.
+        const bool stumm = fehler->Zeile() == 0 && !IstBilddatei(datei);
+        statusBar()->showMessage(AusUtf8(fehler->what()));
+        if (!stumm) programm_.dialoge.Melde(AusUtf8(fehler->what()));
+        return;
+    }
+    if (lesung.ende == Leseende::Programmende) {
+        BeendeProgramm(AusUtf8(lesung.endetext));
+        return;
+    }
+    if (lesung.ende == Leseende::Abgebrochen) programm_.dialoge.Melde(AusUtf8(lesung.endetext));
+    Uebernimm(std::move(lesung), datei);
+}
+
+void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
+    const Sanduhr sanduhr;
+    if (gedrueckt_ != nullptr) gedrueckt_->Abbrechen();
+    gedrueckt_ = nullptr;
+    liste_ = std::move(lesung.liste);
+    programm_.netz = lesung.netz;
+    if (IstBilddatei(datei)) {
+        // Reading a picture file switches these two on, whatever they were.
+        for (std::size_t i = 0; i < kSchalter.size(); ++i) {
+            if (kSchalter[i].inListe == &Liste::ShowPktText || kSchalter[i].inListe == &Liste::ShowBeob) {
+                schalterkaesten_[i]->setChecked(true);
+            }
+        }
+    } else {
+        steuerdatei_ = datei;
+    }
+    for (std::size_t i = 0; i < kSchalter.size(); ++i) {
+        const bool ein =
+            schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
+        Schalte(kSchalter[i], ein, liste_.get(), programm_.zustand);
+    }
+    liste_->Weite = bild_->width();
+    liste_->Hoehe = bild_->height();
+    const QFileInfo info(AusUtf8(PfadText(datei)));
+    ordner_ = info.absolutePath();
+    const QString name = QDir::toNativeSeparators(info.filePath());
+    setWindowTitle(QStringLiteral("Zarwik ") + name);
+    statusBar()->showMessage(QStringLiteral("%1: %2 Punkte, %3 Linien")
+                                 .arg(info.fileName())
+                                 .arg(liste_->MaxPkte)
+                                 .arg(liste_->MaxKant));
+    ZeichneNeu();
+}
+
+bool TZrwMainDlg::Speichere() {
+    if (liste_ == nullptr) return true;
+    QString vorschlag;
+    if (!steuerdatei_.empty()) {
+        const QString name = QFileInfo(AusUtf8(PfadText(steuerdatei_))).fileName();
+        vorschlag = name.left(std::max<qsizetype>(name.size() - 4, 0));  // without the extension and its dot
+    }
+    const auto name = programm_.dialoge.WaehleZumSpeichern(
+        {QStringLiteral("Zarwik speichern"), kBildfilter, ordner_, vorschlag, QStringLiteral("ZRW")});
+    if (!name) return true;
+    try {
+        const Sanduhr sanduhr;
+        SchreibeBilddatei(*liste_, programm_.netz, NachPfad(*name), programm_.dateien);
+    } catch (const Fehler& f) {
+        programm_.dialoge.Melde(AusUtf8(f.what()));
+        return false;
+    }
+    ordner_ = QFileInfo(*name).absolutePath();
+    statusBar()->showMessage(QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name));
+    return true;
+}
+
+void TZrwMainDlg::BeendeProgramm(const QString& grund) {
+    programm_.dialoge.Melde(grund);
+    // The plot on screen is not to be lost to somebody else's missing file.
+    if (liste_ != nullptr && programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere())
+        return;
+    close();
+}
+
+}  // namespace zrw

@@ -1,0 +1,46 @@
+// The picture in the window. Copies the kept picture onto the screen and passes mouse events on; it draws
+// nothing of its own and knows no network.
+#pragma once
+
+#include <QWidget>
+
+#include "ui/Bildflaeche.h"
+
+namespace zrw {
+
+/// What the picture tells its window. Positions in picture coordinates [px].
+class Bildempfaenger {
+  public:
+    virtual ~Bildempfaenger() = default;
+    virtual void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    virtual void ImageZarwikMouseMove(Bildpunkt ort) = 0;
+    virtual void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    /// @param schritte wheel steps, positive away from the user
+    virtual void ImageZarwikWheel(Bildpunkt ort, int schritte) = 0;
+    virtual void ImageZarwikResize(int weite, int hoehe) = 0;
+};
+
+class ImageZarwik final : public QWidget {
+  public:
+    ImageZarwik(Bildflaeche& flaeche, Bildempfaenger& empfaenger, QWidget* eltern);
+
+    /// Shows the picture shifted, while it is being dragged.
+    void SetzeVerschiebung(Bildpunkt versatz);
+    [[nodiscard]] QSize sizeHint() const override { return {900, 600}; }
+
+  protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void wheelEvent(QWheelEvent* ereignis) override;
+
+  private:
+    Bildflaeche& flaeche_;
+    Bildempfaenger& empfaenger_;
+    QPoint versatz_;
+    int radrest_ = 0;  ///< fine wheels report parts of a step
+};
+
+}  // namespace zrw

@@ -1,0 +1,50 @@
+// The one table of the display switches: check box of the window, name on the command line, switch of the
+// network, and how it starts.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "model/FigListe.h"
+#include "output/Zeichenzustand.h"
+
+namespace zrw {
+
+struct Schalter {
+    std::string_view name;            ///< on the command line
+    std::string_view komponente;      ///< object name of the check box; empty: no check box
+    std::string_view beschriftung;    ///< caption, UTF-8
+    std::string_view hinweis;         ///< hint, UTF-8
+    bool Liste::*inListe;             ///< switch of the network, or null
+    bool Zeichenzustand::*imZustand;  ///< switch of the whole program, or null
+    bool anfangs;
+};
+
+inline constexpr std::array<Schalter, 15> kSchalter{{
+    {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Liste::ShowPktText, nullptr,
+     true},
+    {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Liste::ShowBeob, nullptr,
+     true},
+    {"tk25", "", "TK25", "TK25 Einteilung einblenden", &Liste::ShowGitter, nullptr, false},
+    {"kmq", "", "Kilometerquadrat", "Kilometerquadrate einblenden", &Liste::ShowKMQ, nullptr, false},
+    {"legende", "", "Legende", "", &Liste::ShowLegende, nullptr, false},
+    {"lageverb", "", "Lageverbesserungen", "", &Liste::ShowLgRes, nullptr, false},
+    {"hoehenverb", "", "Höhenverbesserungen", "", &Liste::ShowHRes, nullptr, false},
+    {"lagegen", "", "Lagegenauigkeit", "", &Liste::ShowLGGen, nullptr, false},
+    {"hoehengen", "", "Höhengenauigkeit", "", &Liste::ShowHGen, nullptr, false},
+    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Liste::ShowFP, nullptr, true},
+    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Liste::ShowFL, nullptr, true},
+    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Liste::ShowFH, nullptr, true},
+    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Liste::ShowNP, nullptr, true},
+    {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Liste::ShowHilfP,
+     nullptr, true},
+    {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "", nullptr, &Zeichenzustand::KurzeNummern, false},
+}};
+
+/// Puts one switch into effect.
+inline void Schalte(const Schalter& s, bool ein, Liste* liste, Zeichenzustand& zustand) {
+    if (s.inListe != nullptr && liste != nullptr) liste->*s.inListe = ein;
+    if (s.imZustand != nullptr) zustand.*s.imZustand = ein;
+}
+
+}  // namespace zrw

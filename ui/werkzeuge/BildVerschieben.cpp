@@ -1,0 +1,25 @@
+#include "ui/werkzeuge/BildVerschieben.h"
+
+namespace zrw {
+
+void BildVerschieben::Druecken(Bildpunkt ort) {
+    if (umgebung_.HatNetz()) anfang_ = ort;
+}
+
+void BildVerschieben::Ziehen(Bildpunkt ort) {
+    if (anfang_) umgebung_.ZeigeVerschoben({ort.x - anfang_->x, ort.y - anfang_->y});
+}
+
+void BildVerschieben::Loslassen(Bildpunkt ort) {
+    if (!anfang_) return;
+    const Bildpunkt versatz{ort.x - anfang_->x, ort.y - anfang_->y};
+    Abbrechen();
+    if (versatz != Bildpunkt{}) umgebung_.Verschiebe(versatz);
+}
+
+void BildVerschieben::Abbrechen() {
+    if (anfang_) umgebung_.ZeigeVerschoben({});
+    anfang_.reset();
+}
+
+}  // namespace zrw
