@@ -130,7 +130,7 @@ std::string Hilfetext() {
            "  --export LISTE         Formate, durch Kommas getrennt: " +
            Formatnamen() +
            "\n"
-           "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner)\n"
+           "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner); er wird angelegt\n"
            "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x800,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
            "  --ein LISTE            Darstellung einschalten\n"

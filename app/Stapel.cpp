@@ -64,10 +64,14 @@ void Exportiere(const Aufruf& aufruf) {
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, *lesung.liste, zustand);
+    const std::filesystem::path ordner = TextPfad(aufruf.ziel);
+    std::error_code fehler;
+    // The folder itself is made where its parent exists; writing tells whatever else is wrong with it.
+    if (!ordner.empty()) std::filesystem::create_directory(ordner, fehler);
     const Ausgabe ausgabe{*lesung.liste, lesung.netz, einstellungen, zustand, dateien};
     for (const std::string& name : aufruf.formate) {
         const Format& format = *FindeFormat(name);
-        std::filesystem::path ziel = TextPfad(aufruf.ziel) / datei.stem();
+        std::filesystem::path ziel = ordner / datei.stem();
         ziel += TextPfad(format.endung);
         format.schreibe(ausgabe, ziel);
     }

@@ -1,7 +1,6 @@
 // Start of the program: command line, then either the batch mode or the window.
 #include <QApplication>
 #include <QTimer>
-#include <clocale>
 #include <cstdio>
 
 #include "app/Aufruf.h"
@@ -27,12 +26,14 @@ int Fenster(const Aufruf& aufruf) {
     QApplication::setApplicationName(QStringLiteral("Zarwik"));
     QApplication::setApplicationDisplayName(QStringLiteral("Zarwik"));
     Einstellungen einstellungen;
-    LoadSettings(einstellungen, Einstellungsablage());
+    Einstellungsablage ablage;
+    LoadSettings(einstellungen, ablage);
     Netzangaben netz;
     Zeichenzustand zustand;
     Systemdateien dateien;
     QtDialogdienst dialoge;
-    TZrwMainDlg fenster({einstellungen, netz, zustand, dateien, dialoge, QStringLiteral(ZRW_VERSION)});
+    TZrwMainDlg fenster(
+        {einstellungen, ablage, netz, zustand, dateien, dialoge, QStringLiteral(ZRW_VERSION)});
     dialoge.SetzeEltern(&fenster);
     fenster.show();
     if (!aufruf.datei.empty()) {
@@ -41,6 +42,9 @@ int Fenster(const Aufruf& aufruf) {
     }
     return QApplication::exec();
 }
+
+/// Batch output is our own lines only; what Qt says about a missing session helps nobody there.
+void Verschweige(QtMsgType /*art*/, const QMessageLogContext& /*stelle*/, const QString& /*text*/) {}
 
 }  // namespace
 
@@ -54,7 +58,10 @@ int main(int argc, char** argv) {
     }
     if (aufruf.auftrag == Auftrag::Hilfe) return std::fputs(Hilfetext().c_str(), stdout) < 0 ? 1 : 0;
     if (aufruf.auftrag == Auftrag::Version) return std::puts("Zarwik " ZRW_VERSION) < 0 ? 1 : 0;
-    if (aufruf.auftrag == Auftrag::Stapel) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (aufruf.auftrag == Auftrag::Stapel) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(Verschweige);
+    }
     int ohneArgumente = 1;  // all options are ours; Qt would take some of them for its own
     const QApplication anwendung(ohneArgumente, argv);
     return aufruf.auftrag == Auftrag::Stapel ? FuehreStapelAus(aufruf) : Fenster(aufruf);

@@ -52,6 +52,10 @@ std::string Grund(int nummer) {
     throw Fehler(text + " (" + Grund(nummer) + ").", PfadText(datei));
 }
 
+[[noreturn]] void NichtZuOeffnen(const fs::path& datei, const std::string& grund) {
+    throw Oeffnungsfehler("Kann Datei nicht öffnen (" + grund + ").", PfadText(datei));
+}
+
 // The few calls that differ between the systems.
 #ifdef _WIN32
 Strom Oeffne(const fs::path& p, bool neu) {
@@ -138,12 +142,10 @@ fs::path FindeEintrag(const fs::path& ordner, const fs::path& name) {
 std::string Systemdateien::Lies(const fs::path& datei, std::size_t grenze) const {
     std::error_code fehler;
     const fs::file_status status = fs::status(datei, fehler);
-    if (!fs::exists(status)) Wirf("Kann Datei nicht öffnen", datei, fehler ? fehler.value() : ENOENT);
-    if (!fs::is_regular_file(status)) {
-        throw Fehler("Kann Datei nicht öffnen (keine gewöhnliche Datei).", PfadText(datei));
-    }
+    if (!fs::exists(status)) NichtZuOeffnen(datei, Grund(fehler ? fehler.value() : ENOENT));
+    if (!fs::is_regular_file(status)) NichtZuOeffnen(datei, "keine gewöhnliche Datei");
     const Strom strom = Oeffne(datei, false);
-    if (strom == nullptr) Wirf("Kann Datei nicht öffnen", datei, errno);
+    if (strom == nullptr) NichtZuOeffnen(datei, Grund(errno));
     const auto groesse = fs::file_size(datei, fehler);
     if (!fehler && groesse > grenze) {
         throw Fehler("Die Datei ist mit " + std::to_string(groesse) + " Bytes zu groß (höchstens " +

@@ -12,9 +12,9 @@ namespace zrw {
 namespace {
 
 /// Far above every real control file (a full network has about 14 MB), low enough for every machine.
-constexpr std::size_t kMaxDatei = std::size_t{256} << 20U;
+constexpr std::size_t kMaxDatei = std::size_t{128} << 20U;
 /// All include files of one reading together: continuation lines can name the same file again and again.
-constexpr std::size_t kMaxEinfuegungen = std::size_t{512} << 20U;
+constexpr std::size_t kMaxEinfuegungen = std::size_t{128} << 20U;
 
 }  // namespace
 

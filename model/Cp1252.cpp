@@ -44,6 +44,12 @@ char32_t Nimm(std::string_view& t) {
     char32_t c = laenge == 1 ? b : b & (0x7FU >> laenge);
     for (std::size_t i = 1; i < laenge; ++i)
         c = (c << 6U) | (byte(i) & 0x3FU);
+    // A longer form than needed and values that are no characters count as damage, too.
+    constexpr std::array<char32_t, 5> kKleinstes{0, 0, 0x80, 0x800, 0x10000};
+    if (c < kKleinstes[laenge] || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+        t.remove_prefix(1);
+        return kKeins;
+    }
     t.remove_prefix(laenge);
     return c;
 }

@@ -15,7 +15,8 @@ class Dateien {
     virtual ~Dateien() = default;
 
     /// Whole content of a regular file of at most `grenze` bytes.
-    /// @throws Fehler where there is none, it cannot be read, is larger, or is a folder, pipe or device
+    /// @throws Oeffnungsfehler where there is none, it may not be read, or is a folder, pipe or device
+    /// @throws Fehler where it is larger or reading fails
     [[nodiscard]] virtual std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const = 0;
 
     /// Puts a file in place as a whole: at every moment its name holds the old content or the new one.

@@ -34,24 +34,24 @@ const std::array<Schluessel, 20>& Ganzzahlen() {
 constexpr std::string_view kResMF = "ResMF";
 
 /// A stored integer has 32 bits; colours may stand there signed or unsigned.
-std::optional<std::uint32_t> LiesGanz32(const std::optional<std::string>& text) {
+std::optional<std::int64_t> LiesGanz32(const std::optional<std::string>& text) {
     if (!text) return std::nullopt;
     const auto wert = LiesGanz(*text);
     if (!wert || *wert < std::numeric_limits<std::int32_t>::min() ||
         *wert > std::numeric_limits<std::uint32_t>::max()) {
         return std::nullopt;
     }
-    return static_cast<std::uint32_t>(*wert);
+    return wert;
 }
 
-void Setze(Farbe& ziel, std::uint32_t wert) {
-    ziel.wert = wert;
+void Setze(Farbe& ziel, std::int64_t wert) {
+    ziel.wert = static_cast<std::uint32_t>(wert);
 }
-void Setze(std::uint16_t& ziel, std::uint32_t wert) {
-    ziel = static_cast<std::uint16_t>(wert & 0xFFFFU);
+void Setze(std::uint16_t& ziel, std::int64_t wert) {
+    ziel = static_cast<std::uint16_t>(wert & 0xFFFF);
 }
-void Setze(std::int32_t& ziel, std::uint32_t wert) {
-    ziel = static_cast<std::int32_t>(wert);
+void Setze(std::int32_t& ziel, std::int64_t wert) {
+    if (wert <= std::numeric_limits<std::int32_t>::max()) ziel = static_cast<std::int32_t>(wert);
 }
 
 std::int32_t Ganz(Farbe f) {

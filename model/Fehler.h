@@ -35,4 +35,10 @@ class Fehler : public std::runtime_error {
     long zeile_;
 };
 
+/// The file cannot be opened at all.
+class Oeffnungsfehler : public Fehler {
+  public:
+    using Fehler::Fehler;
+};
+
 }  // namespace zrw

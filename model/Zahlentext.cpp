@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <system_error>
 
 namespace zrw {
@@ -18,12 +19,24 @@ std::string_view OhnePlus(std::string_view t) {
     return t;
 }
 
-/// from_chars tells overflow and underflow apart only through the exponent's sign.
+/// Whether a well-formed number out of range is too small rather than too large: by the power of ten of its
+/// first digit that counts.
 bool IstUnterlauf(std::string_view t) {
-    const std::size_t e = t.find_first_of("eE");
-    if (e != std::string_view::npos) return e + 1 < t.size() && t[e + 1] == '-';
-    const std::string_view ganz = t.substr(0, t.find('.'));
-    return std::none_of(ganz.begin(), ganz.end(), [](char c) { return c >= '1' && c <= '9'; });
+    const std::size_t e = std::min(t.find_first_of("eE"), t.size());
+    const std::string_view mantisse = t.substr(0, e);
+    const std::size_t erste = mantisse.find_first_of("123456789");
+    if (erste == std::string_view::npos) return true;
+    const auto punkt = static_cast<std::int64_t>(std::min(mantisse.find('.'), mantisse.size()));
+    std::int64_t zehner = punkt - static_cast<std::int64_t>(erste);
+    if (e < t.size()) {
+        std::int64_t exponent = 0;
+        const std::string_view ziffern = t.substr(e + 1);
+        const auto [ende, fehler] = std::from_chars(ziffern.data() + (ziffern.starts_with('+') ? 1 : 0),
+                                                    ziffern.data() + ziffern.size(), exponent);
+        if (fehler == std::errc::result_out_of_range) return ziffern.starts_with('-');
+        zehner += exponent;
+    }
+    return zehner < 0;
 }
 
 }  // namespace
@@ -67,7 +80,11 @@ std::optional<std::int64_t> LiesGanz(std::string_view text) {
 
 std::string SchreibeReal(double wert) {
     std::array<char, 64> puffer{};
-    const auto ergebnis = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert);
+    // Plain digits as long as people read them; to_chars alone would write 100000 as 1e+05.
+    const double betrag = std::fabs(wert);
+    const bool schlicht = betrag == 0.0 || (betrag >= 1e-5 && betrag < 1e15);
+    const auto ergebnis = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert,
+                                        schlicht ? std::chars_format::fixed : std::chars_format::scientific);
     return {puffer.data(), ergebnis.ptr};
 }
 

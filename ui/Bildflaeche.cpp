@@ -102,7 +102,11 @@ void Bildflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
 }
 
 void Bildflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
-    maler_.fillRect(AlsQRect(r), AlsQColor(farbe));
+    // Cut to the picture first: a size from a file may be anything.
+    const Rechteck s = Sichtbar();
+    maler_.fillRect(AlsQRect({std::max(r.links, s.links), std::max(r.oben, s.oben),
+                              std::min(r.rechts, s.rechts), std::min(r.unten, s.unten)}),
+                    AlsQColor(farbe));
 }
 
 void Bildflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {

@@ -12,6 +12,11 @@
 #include "ui/Umwandlung.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
+/// The pictures sit in a static library, whose resources register only when asked to.
+static void MeldeBilderAn() {
+    Q_INIT_RESOURCE(bilder);
+}
+
 namespace zrw {
 namespace {
 
@@ -81,6 +86,7 @@ TZrwMainDlg::~TZrwMainDlg() {
 }
 
 void TZrwMainDlg::BaueFenster() {
+    MeldeBilderAn();
     setObjectName(QStringLiteral("TZrwMainDlg"));
     setWindowTitle(QStringLiteral("Zarwik Ver. ") + programm_.version);
     setWindowIcon(QIcon(QStringLiteral(":/bilder/zarwik.svg")));
@@ -115,7 +121,8 @@ void TZrwMainDlg::BaueFenster() {
         QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
     // The whole screen but for a strip that the system's own bar may need.
     const QRect schirm = screen()->availableGeometry();
-    setGeometry(schirm.x(), schirm.y(), schirm.width(), schirm.height() - 30);
+    move(schirm.topLeft());
+    resize(schirm.width(), schirm.height() - 30);
     bild_->setFocus();
 }
 

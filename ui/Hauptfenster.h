@@ -31,6 +31,7 @@ namespace zrw {
 /// What the program makes once and the window works with. All of it outlives the window.
 struct Programm {
     Einstellungen& einstellungen;
+    EinstellungsSpeicher& ablage;
     Netzangaben& netz;
     Zeichenzustand& zustand;
     Dateien& dateien;
@@ -73,6 +74,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void LoeseWerkzeuge();
 
     // HauptfensterDateien.cpp
+    void BereiteLesenVor();
     void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
     [[nodiscard]] bool Speichere();
     void BeendeProgramm(const QString& grund);

@@ -15,8 +15,8 @@ namespace {
 /// Messages of one reading that a box can show.
 constexpr int kMeldungenInBox = 20;
 
-const QString kBildfilter = QStringLiteral("Zarwikdatei (*.ZRW *.zrw)");
-const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN *.ein);;Alle Dateien (*.*)");
+const QString kBildfilter = QStringLiteral("Zarwikdatei (*.ZRW)");
+const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien (*.*)");
 
 /// Collects the messages of one reading into the text of one box.
 class Sammler {
@@ -75,20 +75,24 @@ void TZrwMainDlg::SpeedButton7Click() {
 void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     Sammler meldungen;
     Lesung lesung;
-    std::optional<Fehler> fehler;
+    QString fehler;
+    bool mitFenster = true;
     try {
         const Sanduhr sanduhr;
+        if (!IstBilddatei(datei)) BereiteLesenVor();
         lesung = OeffneNetz(datei, programm_.dateien, programm_.einstellungen, programm_.netz,
                             {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); });
+    } catch (const Oeffnungsfehler& f) {
+        fehler = AusUtf8(f.what());
+        // A control file that cannot be opened brings no box up; the status line names it.
+        mitFenster = IstBilddatei(datei);
     } catch (const Fehler& f) {
-        fehler = f;
+        fehler = AusUtf8(f.what());
     }
     if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
-    if (fehler) {
-        // A control file that cannot be opened has never brought a box up; the status line names it.
-        const bool stumm = fehler->Zeile() == 0 && !IstBilddatei(datei);
-        statusBar()->showMessage(AusUtf8(fehler->what()));
-        if (!stumm) programm_.dialoge.Melde(AusUtf8(fehler->what()));
+    if (!fehler.isEmpty()) {
+        statusBar()->showMessage(fehler);
+        if (mitFenster) programm_.dialoge.Melde(fehler);
         return;
     }
     if (lesung.ende == Leseende::Programmende) {
@@ -97,6 +101,14 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     }
     if (lesung.ende == Leseende::Abgebrochen) programm_.dialoge.Melde(AusUtf8(lesung.endetext));
     Uebernimm(std::move(lesung), datei);
+}
+
+/// Every reading of a control file starts from the stored settings, screen sizes and the usual font.
+void TZrwMainDlg::BereiteLesenVor() {
+    LoadSettings(programm_.einstellungen, programm_.ablage);
+    programm_.zustand.Geraetefaktor = 1.0;
+    programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
+    flaeche_.SetzeSchrift(Zeichenschrift());
 }
 
 void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
