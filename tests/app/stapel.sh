@@ -1,0 +1,120 @@
+#!/usr/bin/env bash
+# The batch mode from outside: files, exit status, messages, and that nothing half written stays.
+# usage: stapel.sh ZARWIK WURZEL
+set -uo pipefail
+zarwik=$1
+wurzel=$2
+ordner=$(mktemp -d)
+trap 'rm -rf "$ordner"' EXIT
+cd "$ordner" || exit 1
+export HOME=$ordner/heim XDG_CONFIG_HOME=$ordner/heim/.config
+mkdir -p "$XDG_CONFIG_HOME" aus
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
+fehler=0
+
+# erwarte STATUS BESCHREIBUNG ARGUMENTE...
+erwarte() {
+    local soll=$1 was=$2
+    shift 2
+    "$zarwik" "$@" >stdout 2>stderr
+    local ist=$?
+    [ $ist -eq "$soll" ] && return 0
+    echo "$was: Status $ist statt $soll"
+    cat stdout stderr
+    fehler=1
+}
+pruefe() {
+    local was=$1
+    shift
+    if ! "$@"; then
+        echo "$was: nicht erfüllt ($*)"
+        cat stderr
+        fehler=1
+    fi
+}
+
+erwarte 0 "Beispielnetz" --export zrw,png,bmp --ziel aus "$wurzel/beispiele/NETZ.EIN"
+pruefe "keine Ausgabe" test ! -s stderr
+pruefe "Zarwikdatei" test "$(stat -c %s aus/NETZ.ZRW)" -eq $((84 + 165 * (41 + 54) + 417 * 43))
+pruefe "PNG" test "$(head -c 4 aus/NETZ.png | tail -c 3)" = PNG
+pruefe "BMP" test "$(head -c 2 aus/NETZ.bmp)" = BM
+pruefe "sonst nichts" test "$(ls aus)" = "$(printf 'NETZ.ZRW\nNETZ.bmp\nNETZ.png')"
+
+# Saving and loading twice gives the first file back, once the records in reverse.
+erwarte 0 "erstes Laden" --export zrw --ziel aus2 aus/NETZ.ZRW
+erwarte 0 "zweites Laden" --export zrw --ziel aus3 aus2/NETZ.ZRW
+pruefe "dritte wie erste" cmp -s aus/NETZ.ZRW aus3/NETZ.ZRW
+umgekehrt() {
+    python3 - "$1" "$2" <<'PY'
+import sys
+a, b = (open(n, 'rb').read() for n in sys.argv[1:])
+punkte, kanten = (int.from_bytes(a[i:i + 4], 'little') for i in (56, 60))
+stelle, soll = 84, a[:84]
+for anzahl, laenge in ((punkte, 41), (punkte, 54), (kanten, 43)):
+    soll += b''.join(reversed([a[stelle + i * laenge:stelle + (i + 1) * laenge] for i in range(anzahl)]))
+    stelle += anzahl * laenge
+sys.exit(soll != b)
+PY
+}
+pruefe "zweite umgekehrt" umgekehrt aus/NETZ.ZRW aus2/NETZ.ZRW
+
+erwarte 0 "Größe" --export=zrw,png --groesse 500x400 --ziel=aus2 "$wurzel/beispiele/NETZ.EIN"
+pruefe "Weite und Höhe" test "$(od -An -tu4 -j64 -N8 aus2/NETZ.ZRW | xargs)" = "500 400"
+erwarte 0 "Schalter" --export png --aus punktnummern,fp --ein kurznr --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "Schalter wirken" test "$(cmp -s aus/NETZ.png aus3/NETZ.png; echo $?)" = 1
+printf '[ZRWPAR]\nNPCol=65280\n' >grün.ini
+erwarte 0 "Einstellungen" --export zrw --einstellungen grün.ini --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "Farbe der Neupunkte" test "$(od -An -tu4 -j102 -N4 aus3/NETZ.ZRW | xargs)" = 65280
+mkdir -p "$XDG_CONFIG_HOME" && cp grün.ini "$XDG_CONFIG_HOME/ZRWINI.ini"
+erwarte 0 "eigene Einstellungen" --export zrw --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
+pruefe "eigene gelten" test "$(od -An -tu4 -j102 -N4 aus2/NETZ.ZRW | xargs)" = 65280
+rm "$XDG_CONFIG_HOME/ZRWINI.ini"
+
+# einzeilig BESCHREIBUNG TEXTTEIL: one German line on standard error, and nothing written.
+rm -rf leer && mkdir leer
+einzeilig() {
+    pruefe "$1: eine Zeile" test "$(wc -l <stderr)" -eq 1
+    pruefe "$1: Text" grep -qF "$2" stderr
+    pruefe "$1: nichts geschrieben" test -z "$(ls -A leer)"
+}
+erwarte 1 "fehlende Datei" --export zrw --ziel leer gibtsnicht.EIN
+einzeilig "fehlende Datei" "gibtsnicht.EIN: Kann Datei nicht öffnen"
+printf '$NT x\n' >zahl.EIN
+erwarte 1 "falsche Zahl" --export zrw --ziel leer zahl.EIN
+einzeilig "falsche Zahl" "zahl.EIN, Zeile 1:"
+printf '$SF fehlt.SF\n' >einf.EIN
+erwarte 1 "fehlende Einfügung" --export zrw --ziel leer einf.EIN
+einzeilig "fehlende Einfügung" "Kann Datei fehlt.SF nicht öffenen!"
+head -c 500 aus/NETZ.ZRW >kurz.zrw
+erwarte 1 "kurze Zarwikdatei" --export zrw,png --ziel leer kurz.zrw
+einzeilig "kurze Zarwikdatei" "kurz.zrw: Die Datei ist keine vollständige Zarwikdatei"
+erwarte 1 "kein Zielordner" --export zrw --ziel gibts/nicht aus/NETZ.ZRW
+einzeilig "kein Zielordner" "gibts/nicht/NETZ.ZRW: Kann Datei nicht schreiben (nicht vorhanden)"
+erwarte 1 "Ordner als Datei" --export zrw --ziel leer aus
+einzeilig "Ordner als Datei" "keine gewöhnliche Datei"
+erwarte 1 "keine Einstellungen" --export zrw --ziel leer --einstellungen gibtsnicht.ini aus/NETZ.ZRW
+einzeilig "keine Einstellungen" "gibtsnicht.ini"
+
+# Point lines that cannot be read are all printed, and the rest is written.
+{ printf '$NT 1\n$FP A              1 1 1\n'; for i in $(seq 30); do printf '    P%-13s x\n' "$i"; done; } >punkte.EIN
+erwarte 0 "Lesefehler" --export zrw --ziel aus punkte.EIN
+pruefe "alle gemeldet" test "$(grep -c 'Lesefehler bei Punkt' stderr)" -eq 30
+pruefe "Rest geschrieben" test "$(stat -c %s aus/punkte.ZRW)" -eq $((84 + 41 + 54))
+
+for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groesse 5x5 x" "--groesse 99999x800 x" \
+    "--ein nichts x" "--export zrw a b"; do
+    # shellcheck disable=SC2086
+    erwarte 2 "falscher Aufruf $falsch" $falsch
+    pruefe "$falsch: eine Zeile" test "$(wc -l <stderr)" -eq 1
+done
+erwarte 0 "Hilfe" --help
+pruefe "Hilfe nennt alles" grep -q 'kurznr' stdout
+erwarte 0 "Version" --version
+pruefe "Version" grep -qE '^Zarwik [0-9]+\.' stdout
+
+# A comma locale changes nothing.
+for sprache in de_DE.UTF-8 C; do
+    LC_ALL=$sprache "$zarwik" --export zrw --ziel aus3 "$wurzel/beispiele/NETZ.EIN" 2>/dev/null
+    pruefe "Sprache $sprache" cmp -s aus/NETZ.ZRW aus3/NETZ.ZRW
+done
+exit $fehler

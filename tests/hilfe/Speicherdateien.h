@@ -1,0 +1,75 @@
+// The outside world in memory: files and stored settings as maps that a test fills and looks into.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Dateien.h"
+#include "model/Einstellungen.h"
+#include "model/Fehler.h"
+
+namespace zrw {
+
+/// Behaves as the files of the system do, without folders and with case folded for ASCII letters only.
+class Speicherdateien final : public Dateien {
+  public:
+    std::map<std::string, std::string> dateien;  ///< normal UTF-8 path -> bytes
+    bool voll = false;                           ///< every `Ersetze` fails and leaves the old file
+
+    [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
+        const auto stelle = dateien.find(Schluessel(datei));
+        if (stelle == dateien.end())
+            throw Fehler("Kann Datei nicht öffnen (nicht vorhanden).", PfadText(datei));
+        if (stelle->second.size() > grenze) {
+            throw Fehler("Die Datei ist mit " + std::to_string(stelle->second.size()) +
+                             " Bytes zu groß (höchstens " + std::to_string(grenze) + ").",
+                         PfadText(datei));
+        }
+        return stelle->second;
+    }
+    void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) override {
+        if (voll) throw Fehler("Kann Datei nicht schreiben (Datenträger voll).", PfadText(datei));
+        dateien[Schluessel(datei)] = inhalt;
+    }
+    [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
+                                                             const std::string& name) const override {
+        const std::string genau = Schluessel(ordner / TextPfad(name));
+        if (dateien.contains(genau)) return TextPfad(genau);
+        // The folder is a real path already; only the name in it may be written in another case.
+        const std::string fest = TextPfad(name).is_absolute() ? std::string() : Schluessel(ordner / "");
+        for (const auto& [pfad, inhalt] : dateien) {
+            if (pfad.starts_with(fest) && Klein(pfad) == Klein(genau)) return TextPfad(pfad);
+        }
+        return std::nullopt;
+    }
+
+  private:
+    static std::string Schluessel(const std::filesystem::path& p) { return PfadText(p.lexically_normal()); }
+    static std::string Klein(std::string text) {
+        for (char& c : text) {
+            if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 0x20);
+        }
+        return text;
+    }
+};
+
+class Speichereinstellungen final : public EinstellungsSpeicher {
+  public:
+    std::map<std::string, std::string, std::less<>> werte;
+    std::vector<std::string> geschrieben;  ///< keys in the order of writing
+
+    [[nodiscard]] std::optional<std::string> Lies(std::string_view schluessel) const override {
+        const auto stelle = werte.find(schluessel);
+        return stelle != werte.end() ? std::optional(stelle->second) : std::nullopt;
+    }
+    void Schreibe(std::string_view schluessel, const std::string& text) override {
+        werte[std::string(schluessel)] = text;
+        geschrieben.emplace_back(schluessel);
+    }
+};
+
+}  // namespace zrw

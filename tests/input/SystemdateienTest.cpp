@@ -1,0 +1,105 @@
+// Real files: what is read is bounded, what is written is whole or not there.
+#include "input/Systemdateien.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "model/Fehler.h"
+
+namespace zrw {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Systemdatei : public testing::Test {
+  protected:
+    Systemdatei() {
+        ordner = fs::temp_directory_path() / ("zrw-" + std::to_string(::getpid()));
+        fs::remove_all(ordner);
+        fs::create_directories(ordner / "Unter\xC3\x84" / "Tief");
+    }
+    ~Systemdatei() override { fs::remove_all(ordner); }
+
+    void Lege(const fs::path& name, const std::string& inhalt) const {
+        std::ofstream(ordner / name, std::ios::binary) << inhalt;
+    }
+    [[nodiscard]] std::string Inhalt(const fs::path& name) const {
+        std::ifstream s(ordner / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(s), {}};
+    }
+    [[nodiscard]] std::string FehlerBei(const fs::path& name, std::size_t grenze = 1000) const {
+        try {
+            (void)dateien.Lies(ordner / name, grenze);
+        } catch (const Fehler& f) {
+            return f.Text();
+        }
+        return "kein Fehler";
+    }
+
+    fs::path ordner;
+    Systemdateien dateien;
+};
+
+TEST_F(Systemdatei, LiestNurWasEineDateiIst) {
+    Lege("a", std::string("x\0y", 3));
+    EXPECT_EQ(dateien.Lies(ordner / "a", 3), std::string("x\0y", 3));
+    EXPECT_EQ(FehlerBei("a", 2), "Die Datei ist mit 3 Bytes zu groß (höchstens 2).");
+    EXPECT_EQ(FehlerBei("fehlt"), "Kann Datei nicht öffnen (nicht vorhanden).");
+    EXPECT_EQ(FehlerBei("."), "Kann Datei nicht öffnen (keine gewöhnliche Datei).");
+    EXPECT_EQ(FehlerBei("/dev/zero"), "Kann Datei nicht öffnen (keine gewöhnliche Datei).");
+    ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
+    EXPECT_EQ(FehlerBei("rohr"), "Kann Datei nicht öffnen (keine gewöhnliche Datei).");
+    EXPECT_EQ(FehlerBei(std::string(5000, 'n')), "Kann Datei nicht öffnen (Name zu lang).");
+}
+
+TEST_F(Systemdatei, ErsetztAlsGanzes) {
+    Lege("alt", "vorher");
+    fs::permissions(ordner / "alt", fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    fs::create_symlink("alt", ordner / "verweis");
+    dateien.Ersetze(ordner / "verweis", "nachher");
+    EXPECT_EQ(Inhalt("alt"), "nachher");
+    EXPECT_TRUE(fs::is_symlink(ordner / "verweis"));
+    EXPECT_EQ(fs::status(ordner / "alt").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    dateien.Ersetze(ordner / "neu", "");
+    EXPECT_TRUE(fs::exists(ordner / "neu"));
+}
+
+TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
+    Lege("alt", "vorher");
+    for (const fs::path& ziel : {ordner / "Unter\xC3\x84", ordner / "fehlt" / "x", ordner / "alt" / "x"}) {
+        EXPECT_THROW(dateien.Ersetze(ziel, "neu"), Fehler) << ziel;
+    }
+    EXPECT_EQ(Inhalt("alt"), "vorher");
+    // Nothing is left beside.
+    EXPECT_EQ(std::distance(fs::directory_iterator(ordner), fs::directory_iterator()), 2);
+}
+
+TEST_F(Systemdatei, FindetInJederSchreibweise) {
+    Lege("Unter\xC3\x84/Tief/Daten.SF", "");
+    Lege("GENAU", "");
+    Lege("genau", "");
+    struct Fall {
+        const char* name;
+        const char* fund;
+    };
+    for (const Fall& f : {Fall{"UNTER\xC3\xA4/tief/DATEN.sf", "Unter\xC3\x84/Tief/Daten.SF"},
+                          Fall{"genau", "genau"}, Fall{"GENAU", "GENAU"}, Fall{"Genau", "GENAU"},
+                          Fall{"Unter\xC3\x84", nullptr}, Fall{"nichts", nullptr}, Fall{"", nullptr}}) {
+        const auto fund = dateien.Finde(ordner, f.name);
+        if (f.fund == nullptr) {
+            EXPECT_FALSE(fund) << f.name;
+        } else {
+            ASSERT_TRUE(fund) << f.name;
+            EXPECT_EQ(fund->lexically_relative(ordner), fs::path(f.fund));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace zrw

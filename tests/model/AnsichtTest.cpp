@@ -1,0 +1,169 @@
+// The view: extents, scale, rounding to pixels, zooming, panning and moving points.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "model/Ganzzahl.h"
+#include "tests/hilfe/Probenetz.h"
+
+namespace zrw {
+namespace {
+
+constexpr auto kMax = std::numeric_limits<std::int64_t>::max();
+constexpr auto kMin = std::numeric_limits<std::int64_t>::min();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+/// Two points, a label and a line, fitted at 10 m a pixel: (120, 60) and (390, 190).
+struct Ansichtsnetz : Probenetz {
+    Ansichtsnetz() {
+        l.Weite = 600;
+        l.Hoehe = 430;
+        P(1, 1200, 3400);
+        P(2, 3900, 2100);
+        T(1, "1").Item->XBiO = 33;
+        K(1, 2);
+        l.FindWorldMinMax();
+        l.Alles(z);
+    }
+};
+
+// Truncated towards zero: below zero the spare kilometre shrinks.
+TEST(Ansicht, AusdehnungReichtZuGanzenKilometernMitEinemZugabe) {
+    constexpr double kFaelle[][4] = {{3412345, 3418765, 3411000, 3419000},
+                                     {5000, 6000, 4000, 7000},
+                                     {-5000, -2500.5, -6000, -1000},
+                                     {-1500, -200, -2000, 0},
+                                     {-10, 10, -1000, 1000}};
+    for (const auto& [klein, gross, min, max] : kFaelle) {
+        Probenetz n;
+        n.P(1, klein, gross);
+        n.P(2, (klein + gross) / 2, (klein + gross) / 2);
+        n.P(3, gross, klein);
+        n.l.FindWorldMinMax();
+        EXPECT_TRUE(n.l.MinXW == min && n.l.MaxXW == max) << n.l.MinXW << " " << n.l.MaxXW;
+        EXPECT_TRUE(n.l.MinYW == min && n.l.MaxYW == max) << n.l.MinYW << " " << n.l.MaxYW;
+    }
+}
+
+// The horizontal extent goes with the height less its margin, the vertical one with the width.
+TEST(Ansicht, FaktorPaartBreiteMitHoehe) {
+    constexpr int kFaelle[][5] = {
+        {3000, 2000, 640, 530, 6}, {2000, 2000, 500, 530, 4}, {1000, 3000, 600, 530, 5}};
+    for (const auto& [dx, dy, weite, hoehe, faktor] : kFaelle) {
+        Probenetz n;
+        n.l.MinXW = 7000;
+        n.l.MaxXW = 7000 + dx;
+        n.l.MinYW = -500;
+        n.l.MaxYW = dy - 500;
+        n.l.Weite = weite;
+        n.l.Hoehe = hoehe;
+        n.l.Findfaktor();
+        EXPECT_EQ(n.l.Faktor, faktor) << dx << " x " << dy;
+    }
+}
+
+TEST(Ansicht, RundenGehtBeiHaelftenZumGeradenNachbarnUndLaeuftNieUeber) {
+    for (const double v : {0.5, 1.5, 2.5, -0.5, -1.5, -2.5, 0.49999999999999994, 2251799813685247.5,
+                           2251799813685248.5, 2251799813685249.5, -2251799813685248.5, 4503599627370497.0}) {
+        EXPECT_EQ(RundeZuInt64(v), static_cast<std::int64_t>(std::nearbyint(v))) << v;
+    }
+    for (const double v : {9223372036854775808.0, 1e300, kInf}) {
+        EXPECT_EQ(RundeZuInt64(v), kMax) << v;
+        EXPECT_EQ(RundeZuInt64(-v), kMin) << v;
+    }
+    EXPECT_EQ(RundeZuInt64(9223372036854774784.0), 9223372036854774784);
+    EXPECT_EQ(RundeZuInt64(std::nan("")), kMin);
+}
+
+// Zooming out draws onto the old picture; whoever calls it has cleared before.
+TEST(Ansicht, VergroessernLeertUndVerkleinernNicht) {
+    Ansichtsnetz n;
+    const Zeilen bild{"Leeren 600 430",
+                      "Kante zeigen 0x000000 Null ST 120 60 390 190",
+                      "Punkt zeigen 0x000000 Krei Em 390 190",
+                      "Punkt zeigen 0x000000 Krei Em 120 60",
+                      "Text zeigen 0x000000 1 153 55",
+                      "Residuen",
+                      "Residuenmassstab"};
+    Zeilen zweimal{bild[0]};
+    zweimal.insert(zweimal.end(), bild.begin(), bild.end());
+    EXPECT_EQ(n.z.Nimm(), zweimal);
+    n.l.ZoomUp(n.z);
+    EXPECT_EQ(n.z.Nimm(),
+              (Zeilen{bild[0], "Kante zeigen 0x000000 Null ST 180 90 585 285",
+                      "Punkt zeigen 0x000000 Krei Em 585 285", "Punkt zeigen 0x000000 Krei Em 180 90",
+                      "Text zeigen 0x000000 1 213 85", bild[5], bild[6]}));
+    n.l.ZoomDown(n.z);
+    EXPECT_EQ(n.z.Nimm(), Zeilen(bild.begin() + 1, bild.end()));
+    EXPECT_DOUBLE_EQ(n.l.Faktor, 10);
+}
+
+TEST(Ansicht, SchiebenVersetzenEinpassen) {
+    Ansichtsnetz n;
+    PunktKnoten& p = *n.l.SuchPkt(1);
+    n.K(2, 9).Item->XBiE = 77;  // without a second point: stays
+    n.T(9, "9").Item->XO = 78;
+    n.z.zeilen.clear();
+    n.l.MoveMe(20, 30);  // network to the left and down
+    EXPECT_EQ(p.Item->Position(), (Bildpunkt{100, 90}));
+    EXPECT_EQ(n.l.XOffset, 200);
+    EXPECT_EQ(n.l.YOffset, 300);
+    n.l.PasseEin();
+    EXPECT_EQ(p.Item->Position(), (Bildpunkt{120, 60}));
+    EXPECT_EQ(n.l.FindKante(2, 9)->Item->Ende(), (Bildpunkt{77, 0}));
+    EXPECT_EQ(n.l.FindPktText(9)->XO, 78);
+    n.l.MovePunkt(p, 5, 7);  // follows the mouse
+    EXPECT_EQ(p.Item->Position(), (Bildpunkt{125, 67}));
+    EXPECT_EQ(n.l.FindKante(1, 2)->Item->Position(), (Bildpunkt{125, 67}));
+    EXPECT_TRUE(p.XWPu == 1250 && p.YWPu == 3330) << p.XWPu << " " << p.YWPu;
+    EXPECT_EQ(n.z.Nimm(), Zeilen{});
+    n.l.ZentrierPunkt(p, *n.l.SuchPkt(2), n.z);
+    EXPECT_EQ(n.z.Nimm(), Zeilen{"Text wischen 1 158 62"});
+    EXPECT_EQ(p.Item->Position(), (Bildpunkt{390, 190}));
+    EXPECT_TRUE(p.XWPu == 3900 && p.YWPu == 2100) << p.XWPu << " " << p.YWPu;
+    n.l.DragPktText(*n.l.PktTextKnoten, n.z);
+    EXPECT_EQ(n.l.FindPktText(9)->Textort(), (Bildpunkt{88, -5}));
+}
+
+TEST(Ansicht, BildinWeltIstDieUmkehrung) {
+    Ansichtsnetz n;
+    n.l.XOffset = -3412345.678;
+    n.l.YOffset = 987.6;
+    std::mt19937 zufall(7);
+    const auto pixel = [&] { return static_cast<std::int64_t>(zufall() % 20001) - 10000; };
+    for (int i = 0; i < 500; ++i) {
+        n.l.Faktor = static_cast<double>(zufall() % 9973 + 1) / 31;
+        const Bildpunkt b{pixel(), pixel()};
+        const Welt w = n.l.BildinWelt(b);
+        n.l.PunktKnoten->XWPu = w.rechts;
+        n.l.PunktKnoten->YWPu = w.hoch;
+        n.l.WeltinBild();
+        ASSERT_EQ(n.l.PunktKnoten->Item->Position(), b) << n.l.Faktor;
+    }
+}
+
+// Picture files bring any view.
+TEST(Ansicht, JedeAnsichtBleibtImWertebereich) {
+    for (const double faktor : {0.0, -0.0, kInf, -kInf, std::nan(""), 5e-324, 1.7e308, -3.0}) {
+        for (const std::int32_t hoehe : {std::numeric_limits<std::int32_t>::min(), 0, 30, 2147483647}) {
+            Ansichtsnetz n;
+            n.l.Faktor = faktor;
+            n.l.Weite = n.l.Hoehe = hoehe;
+            n.l.MoveMe(kMax, kMin);
+            n.l.MovePunkt(*n.l.PunktKnoten, kMin, 1);
+            n.l.ZoomUp(n.z);
+            n.l.ZoomDown(n.z);
+            PPunktKnoten u = nullptr;
+            (void)n.l.MausPunkt({kMin, 0}, u, n.z);
+            (void)n.l.PickKante({0, kMax});
+            n.l.FindWorldMinMax();
+            n.l.Alles(n.z);
+            EXPECT_EQ(n.z.zeilen.back(), "Residuenmassstab");
+        }
+    }
+}
+
+}  // namespace
+}  // namespace zrw

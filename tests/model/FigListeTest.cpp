@@ -1,0 +1,142 @@
+// The list: looking up by number, deleting, showing and the order of drawing.
+#include "model/FigListe.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+#include "tests/hilfe/Probenetz.h"
+
+namespace zrw {
+namespace {
+
+TEST(FigListe, PunktnummernGeltenGenauUndMitVierzehnZeichen) {
+    Probenetz n;
+    n.P(1);
+    n.T(1, "12345678901234");
+    n.T(1, "a1");
+    n.T(3, "ohne Punkt");
+    for (const char* text : {"12345678901234", "12345678901234567890", "a1"}) {
+        EXPECT_EQ(n.l.FindPunkt(text), n.l.PunktKnoten) << text;
+    }
+    for (const char* text : {"1234567890123", "A1", "a1 ", "", "ohne Punkt"}) {
+        EXPECT_EQ(n.l.FindPunkt(text), nullptr) << text;
+    }
+    EXPECT_EQ(n.l.GetPktText(1), "a1");
+    EXPECT_EQ(n.l.GetPktText(9), "");
+}
+
+TEST(FigListe, ZeigenUndLoeschenEinesPunktesNimmtSeineLinienMit) {
+    Probenetz n;
+    PunktKnoten& einsam = n.P(3);
+    PunktKnoten& p = n.P(1);
+    n.P(2);
+    EXPECT_EQ(n.l.PunktKnoten->Next, &p);  // newest first
+    n.T(1, "1").Item->Visible = p.Item->Visible = false;
+    n.T(2, "2");
+    n.K(1, 2, LinieAttr::AR1).Item->Visible = false;
+    PunktKante& schleife = n.K(2, 2, LinieAttr::AR2);
+    n.K(2, 1, LinieAttr::AST);
+    n.l.ShowPunkt(p, n.z);
+    EXPECT_EQ(n.z.Nimm(),
+              (Zeilen{"Kante zeigen 0x000000 AST ST 0 0 0 0", "Kante zeigen 0x000000 AR1 ST 0 0 0 0",
+                      "Text zeigen 0x000000 1 10 -5", "Punkt zeigen 0x000000 Krei Em 0 0"}));
+    n.l.DeletePunkt(&p, n.z);
+    n.l.DeletePunkt(&einsam, n.z);  // neither line nor label
+    n.l.DeleteKante(&schleife, n.z);
+    n.l.DeleteKante(&schleife, n.z);  // no longer in the list
+    n.l.DeleteKante(nullptr, n.z);
+    n.l.DeletePunkt(nullptr, n.z);
+    EXPECT_EQ(n.z.Nimm(), (Zeilen{"Kante wischen AST ST 0 0 0 0", "Kante wischen AR1 ST 0 0 0 0",
+                                  "Text wischen 1 10 -5", "Punkt wischen Krei Em 0 0",
+                                  "Punkt wischen Krei Em 0 0", "Kante wischen AR2 ST 0 0 0 0"}));
+    EXPECT_EQ(n.l.MaxPkte, 1);
+    EXPECT_EQ(n.l.MaxKant, 0);
+}
+
+// A new list does not show points of kind FL, nor lines that end at one.
+TEST(FigListe, JedeArtHatIhrenSchalter) {
+    EXPECT_FALSE(Probenetz().l.ShowFL);
+    for (const auto& [art, schalter] : {std::pair{PunktArt::FP, &Liste::ShowFP},
+                                        {PunktArt::FL, &Liste::ShowFL},
+                                        {PunktArt::FH, &Liste::ShowFH},
+                                        {PunktArt::NP, &Liste::ShowNP}}) {
+        Probenetz n;
+        n.P(1, 0, 0, art == PunktArt::FP ? PunktArt::NP : PunktArt::FP);
+        n.P(2, 0, 0, art);
+        n.T(2, "2");
+        n.K(1, 2);
+        n.K(2, 1);
+        n.l.ShowFL = true;
+        n.l.*schalter = false;
+        n.l.ShowPicture(n.z);
+        EXPECT_EQ(n.z.Nimm().size(), 4U);  // the other point between background and results
+        n.l.*schalter = true;
+        n.l.ShowPicture(n.z);
+        EXPECT_EQ(n.z.Nimm().size(), 8U);
+    }
+}
+
+TEST(FigListe, HilfspunkteEndenAufWKH) {
+    for (const std::string nummer : {"12W", "3K", "7H", "H", "W12", "12w", "7", ""}) {
+        const bool hilfspunkt = !nummer.empty() && nummer.find_last_of("WKH") + 1 == nummer.size();
+        Probenetz n;
+        const PunktKnoten& p = n.P(1);
+        const PunktString& t = n.T(1, nummer);
+        const PunktString& verwaist = n.T(9, "9H");
+        n.l.DisplayHilfp(false);
+        EXPECT_EQ(p.Item->Visible, !hilfspunkt) << nummer;
+        EXPECT_EQ(t.Item->Visible, !hilfspunkt) << nummer;
+        EXPECT_FALSE(verwaist.Item->Visible);
+        n.l.DisplayHilfp(true);
+        EXPECT_TRUE(p.Item->Visible && t.Item->Visible && verwaist.Item->Visible) << nummer;
+        n.l.ShowHilfP = false;  // hides every label, not only those of auxiliary points
+        n.l.DisplayPktText(n.z);
+        EXPECT_EQ(n.z.Nimm(), Zeilen{});
+    }
+}
+
+TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
+    Probenetz n;
+    n.l.Weite = 100;
+    n.l.Hoehe = 80;
+    n.P(1);
+    n.P(2).Item->PktTyp = PunktTyp::Drei;
+    n.T(7, "verwaist");
+    n.T(1, "1");
+    n.K(1, 7);  // a line without a second point stays away
+    n.K(1, 2, LinieAttr::AR1);
+    n.l.ChKante(LinieAttr::ASTI, n.z);
+    EXPECT_EQ(n.z.Nimm().size(), 4U);
+    n.l.ShowGitter = n.l.ShowKMQ = n.l.ShowLegende = true;
+    const Zeilen alles{"Leeren 100 80",
+                       "Gitter",
+                       "KMQ",
+                       "Kante zeigen 0x000000 ASTI ST 0 0 0 0",
+                       "Punkt zeigen 0x000000 Drei Em 0 0",
+                       "Punkt zeigen 0x000000 Krei Em 0 0",
+                       "Text zeigen 0x000000 1 10 -5",
+                       "Legende zeigen 2 2",
+                       "Residuen",
+                       "Residuenmassstab"};
+    n.l.Legend.reset();  // comes back when it is needed
+    n.l.ShowPicture(n.z);
+    EXPECT_EQ(n.z.Nimm(), alles);
+    n.l.ShowGitter = n.l.ShowKMQ = n.l.ShowLegende = n.l.ShowBeob = n.l.ShowPktText = false;
+    n.l.ShowPicture(n.z);
+    EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[0], alles[4], alles[5], alles[8], alles[9]}));
+
+    n.l.Done(n.z);
+    EXPECT_EQ(n.z.Nimm(), (Zeilen{"Text wischen 1 10 -5", "Text wischen verwaist 10 -5",
+                                  "Kante wischen ASTI ST 0 0 0 0", "Kante wischen ASTI ST 0 0 0 0",
+                                  "Punkt wischen Drei Em 0 0", "Punkt wischen Krei Em 0 0"}));
+    EXPECT_EQ(n.l.MaxPkte, 2);
+    EXPECT_EQ(n.l.MaxKant, 2);
+    EXPECT_NE(n.l.Legend, nullptr);
+    EXPECT_EQ(n.l.FindPunkt("1"), nullptr);
+    EXPECT_EQ(n.l.SuchPkt(1), nullptr);
+    EXPECT_EQ(n.l.FindKante(1, 2), nullptr);
+}
+
+}  // namespace
+}  // namespace zrw

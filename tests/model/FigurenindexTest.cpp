@@ -1,0 +1,101 @@
+// The look-ups beside the lists against plain walks, while figures come, turn and go at random.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "tests/hilfe/Probenetz.h"
+
+namespace zrw {
+namespace {
+
+template <class Knoten, class Bedingung>
+Knoten* Erster(Knoten* kopf, Bedingung b) {
+    while (kopf != nullptr && !b(*kopf))
+        kopf = kopf->Next;
+    return kopf;
+}
+
+template <class Knoten>
+Knoten* Stelle(Knoten* kopf, std::size_t i) {
+    return Erster(kopf, [&](const Knoten&) { return i-- == 0; });
+}
+
+PPunktKante Linie(Liste& l, PunktIndex a, PunktIndex b) {
+    return Erster(l.KanteKnoten, [=](const PunktKante& k) {
+        return (k.ANr == a && k.ENr == b) || (k.ANr == b && k.ENr == a);
+    });
+}
+
+void Vergleiche(Probenetz& n, PunktIndex nummern, int texte) {
+    Liste& l = n.l;
+    for (PunktIndex nr = 0; nr <= nummern; ++nr) {
+        PPunktKnoten p = Erster(l.PunktKnoten, [=](const PunktKnoten& k) { return k.PNr == nr; });
+        PPunktString t = Erster(l.PktTextKnoten, [=](const PunktString& k) { return k.TNr == nr; });
+        ASSERT_EQ(l.SuchPkt(nr), p) << nr;
+        ASSERT_EQ(l.FindPktText(nr), t != nullptr ? t->Item : nullptr) << nr;
+        for (const PunktIndex b : {PunktIndex{1}, nr, nummern})
+            ASSERT_EQ(l.FindKante(nr, b), Linie(l, nr, b)) << nr;
+        if (p == nullptr) continue;
+        for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next) {
+            if (k->ANr == nr || k->ENr == nr) n.z.ZeichneKante(*k->Item, Gang::Wischen);
+        }
+        if (t != nullptr) n.z.ZeichneText(*t->Item, Gang::Wischen);
+        n.z.ZeichnePunkt(*p->Item, Gang::Wischen);
+        const Zeilen erwartet = n.z.Nimm();
+        l.HidePunkt(*p, n.z);
+        ASSERT_EQ(n.z.Nimm(), erwartet) << nr;
+    }
+    for (int i = 0; i <= texte; ++i) {
+        const std::string text = "T" + std::to_string(i);
+        PPunktString t =
+            Erster(l.PktTextKnoten, [&](const PunktString& k) { return k.Item->Aus.Text() == text; });
+        ASSERT_EQ(l.FindPunkt(text), t != nullptr ? l.SuchPkt(t->TNr) : nullptr) << text;
+    }
+    std::int32_t kanten = 0;
+    for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next, ++kanten) {
+        ASSERT_EQ(l.FindKante(k->ENr, k->ANr), Linie(l, k->ANr, k->ENr));
+    }
+    ASSERT_EQ(l.MaxKant, kanten);
+}
+
+// Numbers, texts and pairs repeat, lines begin and end at one point, and keys vanish and come back.
+TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
+    struct {
+        PunktIndex nummern;
+        int texte, schritte, takt;
+    } constexpr kFaelle[] = {{5, 4, 4000, 1}, {40, 300, 6000, 60}, {400, 1, 3000, 300}};
+    for (const auto& f : kFaelle) {
+        std::mt19937 zufall(4711);
+        const auto nr = [&] { return static_cast<PunktIndex>(zufall() % f.nummern); };
+        Probenetz n;
+        for (int i = 0; i < f.schritte; ++i) {
+            const auto was = zufall() % 100;
+            PPunktKante k = Stelle(n.l.KanteKnoten, zufall() % static_cast<unsigned>(n.l.MaxKant + 1));
+            if (was < 20) {
+                n.P(nr());
+            } else if (was < 45) {
+                n.T(nr(), "T" + std::to_string(zufall() % static_cast<unsigned>(f.texte)));
+            } else if (was < 75) {
+                n.K(nr(), nr()).Item->XBiE = i;  // tells the lines apart in the record
+            } else if (was < 85 && k != nullptr) {
+                n.l.DreheKante(*k);
+            } else if (was < 93) {
+                n.l.DeleteKante(k, n.z);
+            } else if (was < 98) {
+                n.l.DeletePunkt(Stelle(n.l.PunktKnoten, zufall() % static_cast<unsigned>(n.l.MaxPkte + 1)),
+                                n.z);
+            } else if (zufall() % 40 == 0) {
+                n.l.PktTextDone(n.z);
+                n.l.KanteDone(n.z);
+                n.l.MaxKant = 0;
+            }
+            n.z.zeilen.clear();
+            if (i % f.takt != 0) continue;
+            Vergleiche(n, f.nummern, f.texte);
+            if (HasFatalFailure()) FAIL() << "step " << i << " with " << f.nummern << " numbers";
+        }
+    }
+}
+
+}  // namespace
+}  // namespace zrw

@@ -1,0 +1,148 @@
+// The figure under the mouse: catch box, distance from lines, overlaps and the ends of the number range.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "tests/hilfe/Probenetz.h"
+
+namespace zrw {
+namespace {
+
+constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
+
+PunktKante& Linie(Probenetz& n, Bildpunkt s, Bildpunkt e) {
+    PunktKante& k = n.K(1, 2);
+    k.Item->XO = s.x;
+    k.Item->YO = s.y;
+    k.Item->XBiE = e.x;
+    k.Item->YBiE = e.y;
+    return k;
+}
+
+// One box for points, labels and the legend.
+TEST(Treffer, DerFangkastenZaehltSeinenRandMit) {
+    struct {
+        std::uint16_t fang;
+        Bildpunkt ort;
+        std::int64_t dx, dy;
+        bool trifft;
+    } constexpr kFaelle[] = {{5, {100, 50}, 5, -5, true},      {5, {100, 50}, -5, 5, true},
+                             {5, {100, 50}, 6, 0, false},      {5, {100, 50}, -6, 0, false},
+                             {5, {100, 50}, 0, 6, false},      {5, {100, 50}, 0, -6, false},
+                             {0, {100, 50}, 0, 0, true},       {0, {100, 50}, 1, 0, false},
+                             {9, {kMin, kMax}, 0, 0, true},    {9, {kMax, kMin}, -9, 9, true},
+                             {9, {kMax, kMin}, -10, 0, false}, {65535, {kMin, kMax}, kMax, 0, false}};
+    for (const auto& f : kFaelle) {
+        const Bildpunkt maus{f.ort.x + f.dx, f.ort.y + f.dy};
+        Probenetz n;
+        n.e.Fang = f.fang;
+        n.e.PXOff = 0;
+        n.e.PYOff = 0;
+        PunktKnoten& p = n.P(1);
+        PunktString& t = n.T(1, "1");
+        for (Ort* o :
+             {static_cast<Ort*>(p.Item), static_cast<Ort*>(t.Item), static_cast<Ort*>(n.l.Legend.get())}) {
+            o->XO = f.ort.x;
+            o->YO = f.ort.y;
+        }
+        n.l.Legend->Move = !f.trifft;
+        n.l.MausLegende(maus);
+        EXPECT_EQ(n.l.ClickPunkt(maus), f.trifft ? &p : nullptr) << maus.x << " " << maus.y;
+        EXPECT_EQ(n.l.MausPktText(maus), f.trifft ? &t : nullptr) << maus.x << " " << maus.y;
+        EXPECT_EQ(n.l.Legend->Move, f.trifft) << maus.x << " " << maus.y;
+    }
+}
+
+TEST(Treffer, DieNeuesteFigurGewinntUndDerTextLiegtNebenDemPunkt) {
+    Probenetz n;
+    n.l.Legend.reset();
+    n.l.MausLegende({2, 2});
+    n.P(1);
+    n.P(2).Item->XO = 4;
+    n.T(1, "1");
+    n.T(2, "2").Item->YO = 4;
+    Linie(n, {0, 0}, {100, 0});
+    Linie(n, {0, 5}, {100, 5});
+    EXPECT_EQ(n.l.ClickPunkt({0, 0}), n.l.PunktKnoten);
+    EXPECT_EQ(n.l.MausPktText({10, -5}), n.l.PktTextKnoten);
+    EXPECT_EQ(n.l.MausPktText({0, 0}), nullptr);
+    EXPECT_EQ(n.l.PickKante({50, 0}), n.l.KanteKnoten);
+}
+
+TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {
+    Probenetz n;
+    PunktKnoten& p = n.P(1);
+    p.Item->XO = 12;
+    n.T(7, "fremd").Item->XO = 12;  // by position, not by number
+    n.T(1, "1");
+    Linie(n, {12, 0}, {50, 50});
+    Linie(n, {60, 60}, {12, 0});
+    Linie(n, {11, 0}, {50, 50});
+    PPunktKnoten u = nullptr;
+    EXPECT_TRUE(n.l.MausPunkt({14, -2}, u, n.z));
+    EXPECT_FALSE(n.l.MausPunkt({500, 500}, u, n.z));
+    EXPECT_EQ(u, &p);
+    EXPECT_EQ(n.z.Nimm(), (Zeilen{"Kante wischen Null ST 60 60 12 0", "Kante wischen Null ST 12 0 50 50",
+                                  "Text wischen fremd 22 -5"}));
+}
+
+TEST(Treffer, LinienZaehlenGanzePixel) {
+    constexpr std::int64_t kWeit = 4000000000000;
+    struct {
+        Bildpunkt s, e, maus;
+        bool trifft;
+    } constexpr kFaelle[] = {
+        {{0, 0}, {2000, 2100}, {709, 753}, true},   // 5.90 px
+        {{0, 0}, {2000, 2100}, {707, 751}, true},   // 5.97 px
+        {{0, 0}, {2000, 2100}, {706, 750}, false},  // 6.00 px
+        {{0, 0}, {100, 0}, {100, 5}, true},         // foot at the end
+        {{0, 0}, {100, 0}, {101, 0}, false},        // and beyond
+        {{0, 0}, {100, 0}, {-1, 0}, false},
+        {{40, 40}, {40, 40}, {40, 40}, false},  // no length
+        {{kMin, kMin}, {kMin, kMin}, {kMin, kMin}, false},
+        {{-kWeit, -kWeit}, {kWeit, kWeit}, {3, 0}, true},  // deep zoom: both ends far outside
+        {{-kWeit, -kWeit}, {kWeit, kWeit}, {20, 0}, false},
+        {{kMin, 300}, {kMax, 300}, {0, 0}, false},
+        {{kMin, 3}, {kMax, 3}, {0, 0}, true},
+        {{kMin, 0}, {kMax, 0}, {kMax, kMin}, false}};
+    for (const auto& f : kFaelle) {
+        Probenetz n;
+        PunktKante* soll = f.trifft ? &Linie(n, f.s, f.e) : (Linie(n, f.s, f.e), nullptr);
+        EXPECT_EQ(n.l.PickKante(f.maus), soll) << f.e.x << " " << f.maus.x << " " << f.maus.y;
+        EXPECT_EQ(Probenetz().l.PickKante(f.maus), nullptr);
+    }
+}
+
+// The same question answered the long way, by the three distances.
+TEST(Treffer, LinienfangGleichtDerRechnungMitWurzeln) {
+    std::mt19937 zufall(42);
+    const auto wuerfle = [&] { return static_cast<std::int64_t>(zufall() % 61) - 30; };
+    const auto quadrat = [](Bildpunkt a, Bildpunkt b) {
+        return static_cast<long double>((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y));
+    };
+    int treffer = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const Bildpunkt s{wuerfle(), wuerfle()};
+        const Bildpunkt e{wuerfle(), wuerfle()};
+        const Bildpunkt m{wuerfle(), wuerfle()};
+        const long double l2 = quadrat(s, e);
+        const long double pE = (l2 + quadrat(m, e) - quadrat(m, s)) / 2 / std::sqrt(l2);
+        const long double pS = (l2 + quadrat(m, s) - quadrat(m, e)) / 2 / std::sqrt(l2);
+        const long double h = std::sqrt(std::max(0.0L, quadrat(m, e) - pE * pE));
+        if (std::abs(h - 6) < 1e-9L) continue;  // on the edge the roots cannot tell
+        const bool soll = l2 > 0 && pE >= 0 && pS >= 0 && std::trunc(h) <= 5;
+        Probenetz n;
+        Linie(n, s, e);
+        ASSERT_EQ(n.l.PickKante(m) != nullptr, soll)
+            << s.x << " " << s.y << " " << e.x << " " << e.y << " " << m.x;
+        treffer += soll ? 1 : 0;
+    }
+    EXPECT_GT(treffer, 1000);
+}
+
+}  // namespace
+}  // namespace zrw

@@ -1,0 +1,199 @@
+#include "output/Figurenzeichner.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "output/Abschneiden.h"
+#include "tests/hilfe/MerkFlaeche.h"
+
+namespace zrw {
+namespace {
+
+using Zeilen = std::vector<std::string>;
+constexpr Farbe kRot{0x0000FF};
+
+class Zeichnen : public testing::Test {
+  protected:
+    Zeichnen() { zustand.flaeche = &flaeche; }
+
+    /// Strokes of a line from a to e in red, one text line a stroke: "- x y x y" solid, "~ x y x y" dashed.
+    Zeilen Kantenstriche(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt a, Bildpunkt e) {
+        Kante k = Kante::Create(kRot, kAttr, lAttr);
+        k.XO = a.x;
+        k.YO = a.y;
+        k.XBiE = e.x;
+        k.YBiE = e.y;
+        k.Show(zeichner);
+        Zeilen striche;
+        for (const std::string& z : flaeche.Nimm()) {
+            if (z.starts_with("Stift")) gestrichelt_ = z.ends_with("gestrichelt");
+            if (z.starts_with("Linie")) striche.push_back((gestrichelt_ ? "~" : "-") + z.substr(5));
+        }
+        return striche;
+    }
+
+    Einstellungen einstellungen;
+    Zeichenzustand zustand;
+    MerkFlaeche flaeche;
+    Figurenzeichner zeichner{zustand, einstellungen};
+
+  private:
+    bool gestrichelt_ = false;  // the pen keeps its style from one line to the next
+};
+
+TEST_F(Zeichnen, SymboleInGroesseUndFuellung) {
+    struct Fall {
+        PunktTyp typ;
+        PunktAttr attr;
+        Zeilen erwartet;
+    };
+    const std::string stift = "Stift 0x0000FF 1";
+    for (const Fall& f : {
+             Fall{PunktTyp::Pkt, PunktAttr::Fu, {stift, "Pinsel 0x0000FF", "Ellipse 98 48 102 52"}},
+             Fall{PunktTyp::Krei, PunktAttr::Em, {"Pinsel 0xFFFFFF", "Ellipse 96 46 104 54"}},
+             Fall{PunktTyp::Kreu, PunktAttr::Fu, {"Linie 96 50 104 50", "Linie 100 46 100 54"}},
+             Fall{PunktTyp::Qua, PunktAttr::Fu, {"Pinsel 0x0000FF", "Rechteck 96 46 104 54"}},
+             Fall{PunktTyp::Rau, PunktAttr::Fu, {"Vieleck 100 46 104 50 100 54 96 50"}},
+             Fall{PunktTyp::Drei, PunktAttr::Fu, {"Vieleck 100 46 104 54 96 54"}},
+             Fall{static_cast<PunktTyp>(77), PunktAttr::Fu, {}},
+         }) {
+        Punkt p = Punkt::Create(f.typ, kRot, f.attr);
+        p.XO = 100;
+        p.YO = 50;
+        p.Show(zeichner);
+        EXPECT_EQ(flaeche.Nimm(), f.erwartet) << static_cast<int>(f.typ);
+    }
+}
+
+TEST_F(Zeichnen, WischenIstDasselbeInWeiss) {
+    Punkt p = Punkt::Create(PunktTyp::Krei, kRot, PunktAttr::Fu);
+    p.Hide(zeichner);
+    EXPECT_EQ(flaeche.Nimm(), (Zeilen{"Stift 0xFFFFFF 1", "Pinsel 0xFFFFFF", "Ellipse -4 -4 4 4"}));
+    PktText t = PktText::Create("12W", kRot, einstellungen);
+    t.Show(zeichner);
+    t.Hide(zeichner);
+    EXPECT_EQ(flaeche.Nimm(), (Zeilen{"Text 0x0000FF 10 -5 12W", "Text 0xFFFFFF 10 -5 12W"}));
+}
+
+// The line runs to the right, so "across" is downwards in the picture.
+TEST_F(Zeichnen, LinienstilAufEinenBlick) {
+    struct Fall {
+        LinieAttr stil;
+        KanteAttr beobachtet;
+        Zeilen erwartet;
+    };
+    const KanteAttr gps = KanteAttr::GPS;
+    const Zeilen marke{"- 154 50 150 54", "- 150 54 146 50", "- 146 50 150 46", "- 150 46 154 50"};
+    const auto mit = [](Zeilen a, const Zeilen& b) {
+        a.insert(a.end(), b.begin(), b.end());
+        return a;
+    };
+    const std::array faelle{
+        Fall{LinieAttr::AR1, {}, {"- 100 50 150 50", "~ 150 50 200 50"}},
+        Fall{LinieAttr::AR2, {}, {"- 100 50 200 50"}},
+        Fall{LinieAttr::AST, {}, {"~ 100 50 200 50"}},
+        Fall{LinieAttr::Null, gps, mit({"- 100 50 200 50"}, marke)},
+        Fall{LinieAttr::AR1, gps, mit({"- 100 50 146 50", "~ 154 50 200 50"}, marke)},
+        Fall{LinieAttr::AR2, gps, mit({"- 100 50 146 50", "- 154 50 200 50"}, marke)},
+        Fall{LinieAttr::AST, gps, mit({"~ 100 50 146 50", "~ 154 50 200 50"}, marke)},
+        Fall{LinieAttr::ARI1,
+             {},
+             {"- 100 50 142 50", "- 142 50 146 54", "- 146 54 150 54", "~ 150 54 154 54", "~ 154 54 158 50",
+              "~ 158 50 200 50"}},
+        Fall{LinieAttr::ARI2,
+             {},
+             {"- 100 50 142 50", "- 142 50 146 54", "- 146 54 150 54", "- 150 54 154 54", "- 154 54 158 50",
+              "- 158 50 200 50", "~ 142 50 158 50"}},
+        Fall{static_cast<LinieAttr>(99), {}, {}},
+    };
+    for (const Fall& f : faelle) {
+        EXPECT_EQ(Kantenstriche(f.beobachtet, f.stil, {100, 50}, {200, 50}), f.erwartet)
+            << static_cast<int>(f.stil);
+    }
+    const Zeilen asti = Kantenstriche({}, LinieAttr::ASTI, {100, 50}, {200, 50});
+    EXPECT_EQ(asti.front(), "~ 100 50 142 50");
+    EXPECT_EQ(asti.back(), "~ 158 50 200 50");
+}
+
+TEST_F(Zeichnen, VerzierungenAnIhremPlatz) {
+    struct Fall {
+        KanteAttr::Art art;
+        Zeilen erwartet;
+    };
+    for (const Fall& f : {Fall{KanteAttr::ST, {"- 156 54 156 46"}}, Fall{KanteAttr::DH1, {"- 108 54 112 54"}},
+                          Fall{KanteAttr::DH2, {"- 108 54 112 54", "- 192 46 188 46"}}}) {
+        Zeilen striche = Kantenstriche(f.art, LinieAttr::AR2, {100, 50}, {200, 50});
+        ASSERT_FALSE(striche.empty());
+        striche.erase(striche.begin());
+        EXPECT_EQ(striche, f.erwartet) << static_cast<int>(f.art);
+    }
+    // The midpoint truncates towards zero in either direction: (-3) div 2 = -1.
+    EXPECT_EQ(Kantenstriche(KanteAttr::ST, LinieAttr::AR2, {103, 50}, {100, 50}).back(), "- 96 46 96 54");
+}
+
+TEST_F(Zeichnen, LinieOhneRichtungUndGPSIstWeiss) {
+    Kante k = Kante::Create(kRot, KanteAttr::ST, LinieAttr::Null);
+    k.XBiE = 50;
+    k.Show(zeichner);
+    for (const std::string& z : flaeche.Nimm()) {
+        if (!z.starts_with("Stift")) continue;
+        EXPECT_EQ(z, "Stift 0xFFFFFF 1");
+    }
+    EXPECT_TRUE(Kantenstriche(KanteAttr::GPS, LinieAttr::AR2, {7, 7}, {7, 7}).empty()) << "zero length";
+}
+
+TEST_F(Zeichnen, TextNachModusUndKurzschalter) {
+    PktText t = PktText::Create("12340056", kRot, einstellungen);
+    zustand.KurzeNummern = true;
+    t.Show(zeichner);
+    EXPECT_EQ(flaeche.Nimm(), Zeilen{"Text 0x0000FF 10 -5 0056"});
+    t.Aus = PunktNummernTyp("1234");
+    t.Show(zeichner);
+    EXPECT_EQ(flaeche.Nimm(), Zeilen{}) << "four characters and fewer leave nothing";
+    zustand.KurzeNummern = false;
+    zustand.modus = Zeichenmodus::Drucker;
+    zustand.Geraetefaktor = 6.25;
+    t.Show(zeichner);
+    EXPECT_EQ(flaeche.Nimm(), Zeilen{"Text 0x0000FF 62 -31 1234"}) << "62.5 and -31.25";
+}
+
+TEST_F(Zeichnen, FigurenWeitDraussenErreichenDieFlaecheNicht) {
+    constexpr auto kMax = std::numeric_limits<std::int64_t>::max();
+    Punkt p = Punkt::Create(PunktTyp::Krei, kRot, PunktAttr::Fu);
+    for (const std::int64_t x : {std::int64_t{900}, std::int64_t{-900}, std::int64_t{2147483646}}) {
+        p.XO = x;
+        p.Show(zeichner);
+    }
+    EXPECT_TRUE(Kantenstriche({}, LinieAttr::AR2, {-100, -5000}, {-5, 5000}).empty());
+    EXPECT_TRUE(
+        Kantenstriche(KanteAttr::AusMaske(255), LinieAttr::ARI2, {kMax, kMax}, {kMax - 5, kMax}).empty());
+    EXPECT_EQ(flaeche.Nimm(), Zeilen{});
+}
+
+TEST(AbschneidenTest, LangeLinienKreuzenDasBildAmRechtenOrt) {
+    const Rechteck bild{0, 0, 799, 599};
+    constexpr std::int64_t kWeit = 4'000'000'000'000'000;
+    struct Fall {
+        Bildpunkt a, b;
+        bool sichtbar;
+    };
+    for (const Fall& f : {Fall{{-kWeit, 300}, {kWeit, 300}, true}, Fall{{400, kWeit}, {400, -kWeit}, true},
+                          Fall{{-kWeit, -kWeit}, {kWeit, kWeit}, true}, Fall{{kWeit, 0}, {0, kWeit}, false},
+                          Fall{{INT64_MIN, INT64_MAX}, {INT64_MAX, INT64_MIN}, true}}) {
+        const auto teil = Abschneiden(f.a, f.b, bild);
+        ASSERT_EQ(teil.has_value(), f.sichtbar);
+        if (!teil) continue;
+        for (const Flaechenpunkt& p : {teil->first, teil->second}) {
+            EXPECT_TRUE(p.x >= -64 && p.x <= 863 && p.y >= -64 && p.y <= 663) << p.x << " " << p.y;
+        }
+    }
+    const auto quer = Abschneiden({-kWeit, 300}, {kWeit, 300}, bild);
+    EXPECT_EQ(quer->first.y, 300);
+    EXPECT_EQ(quer->first.x, -64);
+    const auto nah = Abschneiden({-5000, 10}, {700, 20}, bild);
+    EXPECT_EQ(nah->first.x, -5000) << "left whole, so that its dots do not depend on what is visible";
+}
+
+}  // namespace
+}  // namespace zrw

@@ -1,0 +1,255 @@
+// The main window, driven by its buttons, the mouse and the keyboard.
+#include "ui/Hauptfenster.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+#include <fstream>
+
+#include "input/Systemdateien.h"
+#include "tests/hilfe/Antwortdienst.h"
+#include "tests/hilfe/Speicherdateien.h"
+
+namespace zrw {
+namespace {
+
+constexpr const char* kBeispiel = ZRW_QUELLE "/beispiele/NETZ.EIN";
+
+class Hauptfenster : public testing::Test {
+  protected:
+    Hauptfenster() {
+        fenster.resize(1000, 700);
+        fenster.show();
+        bild = fenster.findChild<QWidget*>("ImageZarwik");
+    }
+
+    void Lege(const QString& name, const std::string& inhalt) const {
+        std::ofstream(ordner.filePath(name).toStdString(), std::ios::binary) << inhalt;
+    }
+    void Oeffne(const QString& name) { fenster.Oeffne(ordner.filePath(name).toStdString()); }
+    QToolButton& Knopf(const char* name) const { return *fenster.findChild<QToolButton*>(name); }
+    QString Status() const { return fenster.statusBar()->currentMessage(); }
+    void Rad(QPoint ort, int schritte) const {
+        QWheelEvent e(ort, bild->mapToGlobal(ort), {}, {0, schritte * 120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(bild, &e);
+    }
+    /// Picture position of the first point.
+    QPoint Punkt() const {
+        const zrw::Punkt& p = *fenster.Netz()->PunktKnoten->Item;
+        return {static_cast<int>(p.XO), static_cast<int>(p.YO)};
+    }
+
+    QTemporaryDir ordner;
+    Einstellungen einstellungen;
+    Speichereinstellungen ablage;
+    Netzangaben netz;
+    Zeichenzustand zustand;
+    Systemdateien dateien;
+    Antwortdienst dialoge;
+    TZrwMainDlg fenster{{einstellungen, ablage, netz, zustand, dateien, dialoge, "1.2"}};
+    QWidget* bild = nullptr;
+};
+
+TEST_F(Hauptfenster, OhneNetzTutKeinHandlerEtwas) {
+    EXPECT_EQ(fenster.windowTitle(), "Zarwik Ver. 1.2");
+    for (QToolButton* knopf : fenster.findChildren<QToolButton*>())
+        knopf->click();
+    for (QCheckBox* kasten : fenster.findChildren<QCheckBox*>())
+        kasten->toggle();
+    Rad({100, 100}, 3);
+    for (const auto taste : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+        QTest::mousePress(bild, taste, {}, {10, 10});
+        QTest::mouseMove(bild, {20, 20});
+        QTest::mouseRelease(bild, taste, {}, {20, 20});
+    }
+    fenster.resize(300, 300);
+    EXPECT_EQ(fenster.Netz(), nullptr);
+    EXPECT_TRUE(dialoge.meldungen.isEmpty());
+}
+
+TEST_F(Hauptfenster, OeffnetDasBeispielEingepasst) {
+    fenster.Oeffne(kBeispiel);
+    ASSERT_NE(fenster.Netz(), nullptr);
+    EXPECT_TRUE(fenster.windowTitle().startsWith("Zarwik ") && fenster.windowTitle().endsWith("NETZ.EIN"));
+    EXPECT_TRUE(Status().contains("165 Punkte")) << Status().toStdString();
+    EXPECT_TRUE(dialoge.meldungen.isEmpty());
+    const Liste& l = *fenster.Netz();
+    EXPECT_DOUBLE_EQ(l.Faktor, (l.MaxXW - l.MinXW) / (bild->height() - 30));
+    EXPECT_TRUE(l.ShowFL) << "the window switches all kinds on";
+    EXPECT_EQ(fenster.Bild().pixel(Punkt()), qRgb(255, 0, 0)) << "the newest point is a new point, filled";
+}
+
+TEST_F(Hauptfenster, FehlerLassenDasNetzStehen) {
+    fenster.Oeffne(kBeispiel);
+    const Liste* netzVorher = fenster.Netz();
+    const QImage bildVorher = fenster.Bild().copy();
+    const QString titel = fenster.windowTitle();
+
+    Oeffne("fehlt.EIN");
+    EXPECT_TRUE(dialoge.meldungen.isEmpty()) << "a control file that cannot be opened shows no box";
+    EXPECT_TRUE(Status().contains("fehlt.EIN")) << Status().toStdString();
+    Lege("kaputt.EIN", "$NT 1\n$EL x\n");
+    Oeffne("kaputt.EIN");
+    ASSERT_EQ(dialoge.meldungen.size(), 1);
+    EXPECT_TRUE(dialoge.meldungen[0].contains("kaputt.EIN, Zeile 2"));
+    Lege("kurz.zrw", std::string(90, '\1'));
+    Oeffne("kurz.zrw");
+    Oeffne("fehlt.zrw");
+    EXPECT_EQ(dialoge.meldungen.size(), 3);
+
+    EXPECT_EQ(fenster.Netz(), netzVorher);
+    EXPECT_EQ(fenster.Bild(), bildVorher);
+    EXPECT_EQ(fenster.windowTitle(), titel);
+    EXPECT_EQ(netz.Netztyp, 3);
+}
+
+TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
+    std::string inhalt = "$NT 1\n$FP";
+    for (int i = 0; i < 25; ++i)
+        inhalt += "    P" + std::to_string(i) + "            x\n";
+    Lege("n.EIN", inhalt);
+    Oeffne("n.EIN");
+    ASSERT_EQ(dialoge.meldungen.size(), 1);
+    const QString& text = dialoge.meldungen[0];
+    EXPECT_TRUE(text.contains("Lesefehler bei PunktP0  (n.EIN, Zeile 2)")) << text.toStdString();
+    EXPECT_TRUE(text.contains("PunktP19") && !text.contains("PunktP20")) << text.toStdString();
+    EXPECT_TRUE(text.contains("insgesamt 26")) << text.toStdString();  // and one that there are no points
+}
+
+TEST_F(Hauptfenster, FehlendeKoordinatendateiBeendetDasProgrammNachDerFrage) {
+    fenster.Oeffne(kBeispiel);
+    Lege("k.EIN", "$NT 1\n$FP A              1 1 1\n$KF fehlt.KF\n");
+    Oeffne("k.EIN");
+    EXPECT_EQ(dialoge.meldungen, QStringList{"Kann Datei fehlt.KF nicht öffnen!"});
+    EXPECT_EQ(dialoge.fragen, QStringList{"Zarwik speichern"});
+    EXPECT_FALSE(fenster.isVisible());
+}
+
+TEST_F(Hauptfenster, ZoomenHinUndZurueckGibtDasselbeBild) {
+    fenster.Oeffne(kBeispiel);
+    const double faktor = fenster.Netz()->Faktor;
+    const QImage vorher = fenster.Bild().copy();
+    Knopf("ButtonGroesser").click();
+    EXPECT_NEAR(fenster.Netz()->Faktor, faktor / 1.5, faktor * 1e-12);
+    EXPECT_NE(fenster.Bild(), vorher);
+    Knopf("ButtonKleiner").click();
+    EXPECT_EQ(fenster.Bild(), vorher);
+    Knopf("ButtonKleiner").click();
+    Knopf("SpeedButton3").click();
+    EXPECT_EQ(fenster.Bild(), vorher);
+}
+
+TEST_F(Hauptfenster, RadHaeltDenPunktUnterDemZeiger) {
+    fenster.Oeffne(kBeispiel);
+    const QPoint ort = Punkt();
+    const double faktor = fenster.Netz()->Faktor;
+    Rad(ort, -3);
+    EXPECT_NEAR(fenster.Netz()->Faktor, faktor * 8 / 27, faktor * 1e-9) << "down enlarges";
+    EXPECT_LE((Punkt() - ort).manhattanLength(), 4);
+    Rad(ort, 3);
+    EXPECT_NEAR(fenster.Netz()->Faktor, faktor, faktor * 1e-9);
+    Rad(ort, -100000);
+    for (int i = 0; i < 20; ++i)
+        Rad(ort, -10);
+    EXPECT_GT(fenster.Netz()->Faktor, 9e-6) << "zooming ends before positions lose their digits";
+    EXPECT_TRUE(std::isfinite(fenster.Netz()->XOffset));
+}
+
+TEST_F(Hauptfenster, BildVerschieben) {
+    struct Fall {
+        const char* name;
+        bool werkzeug;
+        Qt::MouseButton taste;
+        const char* ende;  // how the drag ends: "los", "esc", "rechts"
+        QPoint erwartet;
+    };
+    for (const Fall& f : {Fall{"Werkzeug", true, Qt::LeftButton, "los", {60, -25}},
+                          Fall{"mittlere Taste ohne Werkzeug", false, Qt::MiddleButton, "los", {60, -25}},
+                          Fall{"linke Taste ohne Werkzeug", false, Qt::LeftButton, "los", {0, 0}},
+                          Fall{"Escape bricht ab", true, Qt::LeftButton, "esc", {0, 0}},
+                          Fall{"zweite Taste bricht ab", true, Qt::LeftButton, "rechts", {0, 0}}}) {
+        fenster.Oeffne(kBeispiel);
+        Knopf("PanButton").setChecked(f.werkzeug);
+        const QPoint vorher = Punkt();
+        QTest::mousePress(bild, f.taste, {}, {200, 200});
+        QTest::mouseMove(bild, {230, 190});
+        if (f.ende == std::string("esc")) QTest::keyClick(bild, Qt::Key_Escape);
+        if (f.ende == std::string("rechts")) QTest::mousePress(bild, Qt::RightButton, {}, {240, 180});
+        QTest::mouseRelease(bild, f.taste, {}, {260, 175});
+        EXPECT_EQ(Punkt() - vorher, f.erwartet) << f.name;
+    }
+}
+
+TEST_F(Hauptfenster, StatuszeileZeigtWeltUndMassstab) {
+    Lege("n.EIN", "$NT 1\n$PF 1\n$FP A              1 5600000 3500000\n");
+    Oeffne("n.EIN");
+    QTest::mouseMove(bild, {100, 60});
+    const Liste& l = *fenster.Netz();
+    const double faktor = l.Faktor;
+    EXPECT_EQ(Status(), QString("%1 %2  M=1:%3")
+                            .arg(l.MinXW + 100 * faktor, 12, 'f', 2)
+                            .arg(l.MaxYW - 60 * faktor, 12, 'f', 2)
+                            .arg(faktor * 1000, 5, 'f', 0));
+}
+
+TEST_F(Hauptfenster, KaestenSchaltenDieDarstellung) {
+    fenster.Oeffne(kBeispiel);
+    const QImage alles = fenster.Bild().copy();
+    for (const char* name : {"CheckBoxPktNr", "CheckBoxBeob", "CheckBoxFP", "CheckBoxFL", "CheckBoxFH",
+                             "CheckBoxNP", "CheckBoxHilfspunkte", "CheckBoxALKKurz"}) {
+        auto* kasten = fenster.findChild<QCheckBox*>(name);
+        ASSERT_NE(kasten, nullptr) << name;
+        kasten->toggle();
+        EXPECT_NE(fenster.Bild(), alles) << name;
+        kasten->toggle();
+        EXPECT_EQ(fenster.Bild(), alles) << name;
+    }
+}
+
+TEST_F(Hauptfenster, SpeichernUndWiederLesen) {
+    fenster.Oeffne(kBeispiel);
+    const double faktor = fenster.Netz()->Faktor;
+    dialoge.datei = ordner.filePath("bild.ZRW");
+    Knopf("SpeedButton9").click();
+    EXPECT_EQ(dialoge.wahlen.back().vorschlag, "NETZ");
+    fenster.findChild<QCheckBox*>("CheckBoxBeob")->setChecked(false);
+    Knopf("SpeedButton2").click();
+    EXPECT_EQ(dialoge.wahlen.back().titel, "Zarwikdatei lesen");
+    EXPECT_EQ(fenster.Netz()->MaxKant, 417);
+    EXPECT_EQ(fenster.Netz()->Faktor, faktor);
+    EXPECT_TRUE(fenster.Netz()->ShowBeob) << "reading a picture file switches the observations on";
+    EXPECT_TRUE(dialoge.meldungen.isEmpty());
+    dialoge.datei = ordner.filePath("fehlt/bild.ZRW");
+    Knopf("SpeedButton9").click();
+    EXPECT_EQ(dialoge.meldungen.size(), 1);
+}
+
+TEST_F(Hauptfenster, BeendenFragtUndHaeltWasSichNichtSpeichernLiess) {
+    fenster.Oeffne(kBeispiel);
+    dialoge.ja = true;
+    dialoge.datei = ordner.filePath("fehlt/bild.ZRW");
+    Knopf("SpeedButton7").click();
+    EXPECT_TRUE(fenster.isVisible());
+    dialoge.datei.reset();
+    Knopf("SpeedButton7").click();
+    EXPECT_FALSE(fenster.isVisible()) << "a cancelled save dialog ends the program all the same";
+    EXPECT_EQ(dialoge.fragen, (QStringList{"Zarwik speichern", "Zarwik speichern"}));
+}
+
+TEST_F(Hauptfenster, GroesseAendernPasstDieListeAn) {
+    fenster.Oeffne(kBeispiel);
+    fenster.resize(800, 500);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fenster.Netz()->Weite, bild->width());
+    EXPECT_EQ(fenster.Netz()->Hoehe, bild->height());
+    EXPECT_EQ(fenster.Bild().size(), bild->size());
+}
+
+}  // namespace
+}  // namespace zrw
