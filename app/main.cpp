@@ -1,6 +1,5 @@
 // Start of the program: command line, then either the batch mode or the window.
 #include <QApplication>
-#include <QTimer>
 #include <cstdio>
 
 #include "app/Aufruf.h"
@@ -24,7 +23,6 @@ std::vector<std::string> Worte(int argc, char** argv) {
 
 int Fenster(const Aufruf& aufruf) {
     QApplication::setApplicationName(QStringLiteral("Zarwik"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Zarwik"));
     Einstellungen einstellungen;
     Einstellungsablage ablage;
     LoadSettings(einstellungen, ablage);
@@ -38,7 +36,8 @@ int Fenster(const Aufruf& aufruf) {
     fenster.show();
     if (!aufruf.datei.empty()) {
         // When the window stands and has its size, as the network is fitted into it.
-        QTimer::singleShot(0, &fenster, [&] { fenster.Oeffne(TextPfad(aufruf.datei)); });
+        QMetaObject::invokeMethod(
+            &fenster, [&] { fenster.Oeffne(TextPfad(aufruf.datei)); }, Qt::QueuedConnection);
     }
     return QApplication::exec();
 }

@@ -33,8 +33,8 @@ class KanteAttr {
     enum Art : std::uint8_t { ST, GPS, DH1, DH2 };
 
     constexpr KanteAttr() = default;
-    constexpr KanteAttr(Art art)
-        : maske_(Bit(art)) {}  // NOLINT(google-explicit-constructor): {ST} reads as a set
+    /// Implicit, so that {ST} and ST alone read as sets.
+    constexpr KanteAttr(Art art) : maske_(Bit(art)) {}  // NOLINT(google-explicit-constructor)
     [[nodiscard]] static constexpr KanteAttr AusMaske(std::uint8_t maske) {
         KanteAttr k;
         k.maske_ = maske;

@@ -29,7 +29,7 @@ struct Ansichtsnetz : Probenetz {
     }
 };
 
-// Truncated towards zero: below zero the spare kilometre shrinks.
+// Truncated towards zero: below zero the spare kilometre shrinks, and mirrored points have mirrored extents.
 TEST(Ansicht, AusdehnungReichtZuGanzenKilometernMitEinemZugabe) {
     constexpr double kFaelle[][4] = {{3412345, 3418765, 3411000, 3419000},
                                      {5000, 6000, 4000, 7000},
@@ -38,19 +38,18 @@ TEST(Ansicht, AusdehnungReichtZuGanzenKilometernMitEinemZugabe) {
                                      {-10, 10, -1000, 1000}};
     for (const auto& [klein, gross, min, max] : kFaelle) {
         Probenetz n;
-        n.P(1, klein, gross);
-        n.P(2, (klein + gross) / 2, (klein + gross) / 2);
-        n.P(3, gross, klein);
+        for (const double v : {gross, (klein + gross) / 2, klein, gross})
+            n.P(1, v, -v);
         n.l.FindWorldMinMax();
         EXPECT_TRUE(n.l.MinXW == min && n.l.MaxXW == max) << n.l.MinXW << " " << n.l.MaxXW;
-        EXPECT_TRUE(n.l.MinYW == min && n.l.MaxYW == max) << n.l.MinYW << " " << n.l.MaxYW;
+        EXPECT_TRUE(n.l.MinYW == -max && n.l.MaxYW == -min) << n.l.MinYW << " " << n.l.MaxYW;
     }
 }
 
 // The horizontal extent goes with the height less its margin, the vertical one with the width.
 TEST(Ansicht, FaktorPaartBreiteMitHoehe) {
     constexpr int kFaelle[][5] = {
-        {3000, 2000, 640, 530, 6}, {2000, 2000, 500, 530, 4}, {1000, 3000, 600, 530, 5}};
+        {3000, 2000, 640, 530, 6}, {2000, 2000, 400, 530, 5}, {1000, 3000, 600, 530, 5}};
     for (const auto& [dx, dy, weite, hoehe, faktor] : kFaelle) {
         Probenetz n;
         n.l.MinXW = 7000;

@@ -122,9 +122,9 @@ TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
     n.l.Legend.reset();  // comes back when it is needed
     n.l.ShowPicture(n.z);
     EXPECT_EQ(n.z.Nimm(), alles);
-    n.l.ShowGitter = n.l.ShowKMQ = n.l.ShowLegende = n.l.ShowBeob = n.l.ShowPktText = false;
+    n.l.ShowGitter = n.l.ShowLegende = n.l.ShowBeob = n.l.ShowPktText = false;
     n.l.ShowPicture(n.z);
-    EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[0], alles[4], alles[5], alles[8], alles[9]}));
+    EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[0], alles[2], alles[4], alles[5], alles[8], alles[9]}));
 
     n.l.Done(n.z);
     EXPECT_EQ(n.z.Nimm(), (Zeilen{"Text wischen 1 10 -5", "Text wischen verwaist 10 -5",
@@ -133,8 +133,10 @@ TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
     EXPECT_EQ(n.l.MaxPkte, 2);
     EXPECT_EQ(n.l.MaxKant, 2);
     EXPECT_NE(n.l.Legend, nullptr);
+    EXPECT_EQ(n.l.FindPktText(1), nullptr);
+    n.P(1);
     EXPECT_EQ(n.l.FindPunkt("1"), nullptr);
-    EXPECT_EQ(n.l.SuchPkt(1), nullptr);
+    EXPECT_EQ(n.l.SuchPkt(2), nullptr);
     EXPECT_EQ(n.l.FindKante(1, 2), nullptr);
 }
 

@@ -84,7 +84,7 @@ TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
             } else if (was < 98) {
                 n.l.DeletePunkt(Stelle(n.l.PunktKnoten, zufall() % static_cast<unsigned>(n.l.MaxPkte + 1)),
                                 n.z);
-            } else if (zufall() % 40 == 0) {
+            } else if (zufall() % 8 == 0) {
                 n.l.PktTextDone(n.z);
                 n.l.KanteDone(n.z);
                 n.l.MaxKant = 0;
