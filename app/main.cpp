@@ -1,5 +1,7 @@
 // Start of the program: command line, then either the batch mode or the window.
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <cstdio>
 
 #include "app/Aufruf.h"
@@ -23,6 +25,11 @@ std::vector<std::string> Worte(int argc, char** argv) {
 
 int Fenster(const Aufruf& aufruf) {
     QApplication::setApplicationName(QStringLiteral("Zarwik"));
+    // Zarwik speaks German on every system; Qt's own dialogs do too where its translations are installed.
+    QTranslator deutsch;
+    if (deutsch.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&deutsch);
+    }
     Einstellungen einstellungen;
     Einstellungsablage ablage;
     LoadSettings(einstellungen, ablage);

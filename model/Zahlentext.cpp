@@ -6,6 +6,8 @@
 #include <cmath>
 #include <system_error>
 
+#include "model/Ganzzahl.h"
+
 namespace zrw {
 namespace {
 
@@ -34,7 +36,7 @@ bool IstUnterlauf(std::string_view t) {
         const auto [ende, fehler] = std::from_chars(ziffern.data() + (ziffern.starts_with('+') ? 1 : 0),
                                                     ziffern.data() + ziffern.size(), exponent);
         if (fehler == std::errc::result_out_of_range) return ziffern.starts_with('-');
-        zehner += exponent;
+        zehner = Summe(zehner, exponent);
     }
     return zehner < 0;
 }

@@ -77,7 +77,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void BereiteLesenVor();
     void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
     [[nodiscard]] bool Speichere();
-    void BeendeProgramm(const QString& grund);
+    void BeendeProgramm();
 
     // HauptfensterAnsicht.cpp
     void ZeichneNeu();

@@ -27,16 +27,25 @@ class Sammler {
                  (m.zeile > 0 ? QStringLiteral(", Zeile %1").arg(m.zeile) : QString()) +
                  QStringLiteral(")\n");
     }
-    [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
+    /// What ended the reading, below the rest.
+    void Schliesse(const QString& text) {
+        if (!text.isEmpty()) schluss_ = text;
+    }
+    [[nodiscard]] bool Leer() const { return anzahl_ == 0 && schluss_.isEmpty(); }
     [[nodiscard]] QString Text() const {
-        if (anzahl_ <= kMeldungenInBox) return text_.trimmed();
-        return text_ + QStringLiteral("… insgesamt %1 Meldungen, hier die ersten %2")
-                           .arg(anzahl_)
-                           .arg(kMeldungenInBox);
+        QString text = text_;
+        if (anzahl_ > kMeldungenInBox) {
+            text += QStringLiteral("… insgesamt %1 Meldungen, hier die ersten %2\n")
+                        .arg(anzahl_)
+                        .arg(kMeldungenInBox);
+        }
+        if (!text.isEmpty() && !schluss_.isEmpty()) text += QLatin1Char('\n');
+        return (text + schluss_).trimmed();
     }
 
   private:
     QString text_;
+    QString schluss_;
     qint64 anzahl_ = 0;
 };
 
@@ -89,18 +98,17 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     } catch (const Fehler& f) {
         fehler = AusUtf8(f.what());
     }
-    if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
     if (!fehler.isEmpty()) {
         statusBar()->showMessage(fehler);
-        if (mitFenster) programm_.dialoge.Melde(fehler);
-        return;
+        if (mitFenster) meldungen.Schliesse(fehler);
     }
+    meldungen.Schliesse(AusUtf8(lesung.endetext));
+    if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
     if (lesung.ende == Leseende::Programmende) {
-        BeendeProgramm(AusUtf8(lesung.endetext));
-        return;
+        BeendeProgramm();
+    } else if (lesung.liste != nullptr) {
+        Uebernimm(std::move(lesung), datei);
     }
-    if (lesung.ende == Leseende::Abgebrochen) programm_.dialoge.Melde(AusUtf8(lesung.endetext));
-    Uebernimm(std::move(lesung), datei);
 }
 
 /// Every reading of a control file starts from the stored settings, screen sizes and the usual font.
@@ -167,8 +175,7 @@ bool TZrwMainDlg::Speichere() {
     return true;
 }
 
-void TZrwMainDlg::BeendeProgramm(const QString& grund) {
-    programm_.dialoge.Melde(grund);
+void TZrwMainDlg::BeendeProgramm() {
     // The plot on screen is not to be lost to somebody else's missing file.
     if (liste_ != nullptr && programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere())
         return;
