@@ -72,6 +72,13 @@ std::string Auszug(std::string_view zeile, std::size_t laenge = 40) {
     return Cp1252NachUtf8(text);
 }
 
+/// The file that an include record names, behind one separator.
+std::string_view Dateiname(std::string_view rest) {
+    Feldleser felder(rest);
+    felder.Ueberspringe(kTrenner);
+    return OhneRand(felder.Rest());
+}
+
 }  // namespace
 
 const Satz* LeseSchluessel(std::string_view zeile) {
@@ -212,11 +219,10 @@ void Steuerleser::FuegeEin(std::string_view rest) {
         Melde("Eine eingefügte Datei kann keine weitere einfügen; die Zeile wurde übergangen.");
         return;
     }
-    Feldleser felder(rest);
-    felder.Ueberspringe(kTrenner);
-    if (quelle_.OeffneEinfuegung(felder.Rest())) return;
+    const std::string_view name = Dateiname(rest);
+    if (quelle_.OeffneEinfuegung(name)) return;
     lesung_.ende = Leseende::Abgebrochen;
-    lesung_.endetext = "Kann Datei " + Auszug(OhneRand(felder.Rest()), kNamenslaenge) + " nicht öffenen!";
+    lesung_.endetext = "Kann Datei " + Auszug(name, kNamenslaenge) + " nicht öffenen!";
     fertig_ = true;
 }
 
@@ -226,8 +232,7 @@ void Steuerleser::FuegeKoordinatenEin(std::string_view rest) {
     if (!imBlock || lesung_.ende == Leseende::Vollstaendig) return;
     // A network without its coordinates is worth nothing: here the program ends, and says so in other words.
     lesung_.ende = Leseende::Programmende;
-    lesung_.endetext =
-        "Kann Datei " + Auszug(OhneRand(rest.substr(kTrenner)), kNamenslaenge) + " nicht öffnen!";
+    lesung_.endetext = "Kann Datei " + Auszug(Dateiname(rest), kNamenslaenge) + " nicht öffnen!";
 }
 
 // --- Points -----------------------------------------------------------------------------------------------

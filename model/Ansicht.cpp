@@ -10,7 +10,7 @@ namespace zrw {
 namespace {
 
 /// Margin of the picture that fitting leaves free [px].
-constexpr std::int32_t kBildrand = 30;
+constexpr double kBildrand = 30;
 
 }  // namespace
 

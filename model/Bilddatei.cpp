@@ -40,6 +40,14 @@ Kopf LiesKopf(ByteLeser& f, Liste& l) {
     return kopf;
 }
 
+template <class Knoten>
+std::size_t Anzahl(const Knoten* kopf) {
+    std::size_t n = 0;
+    for (; kopf != nullptr; kopf = kopf->Next)
+        ++n;
+    return n;
+}
+
 [[noreturn]] void ZuKurz(const std::string& datei, const std::string& was) {
     throw Fehler("Die Datei ist keine vollständige Zarwikdatei (" + was + "). Es wurde nichts geladen.",
                  datei);
@@ -109,6 +117,16 @@ void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::f
         throw Fehler("Eine Zarwikdatei fasst höchstens 65535 Punkte und 65535 Linien; dieses Netz hat " +
                          std::to_string(liste.MaxPkte) + " Punkte und " + std::to_string(liste.MaxKant) +
                          " Linien. Es wurde nichts gespeichert.",
+                     PfadText(datei));
+    }
+    // The file has one count for both. Lists of unknown origin may have come apart; such a file would read
+    // wrongly.
+    const std::size_t punkte = Anzahl(liste.PunktKnoten);
+    const std::size_t texte = Anzahl(liste.PktTextKnoten);
+    if (punkte != texte || punkte != static_cast<std::size_t>(liste.MaxPkte) ||
+        Anzahl(liste.KanteKnoten) != static_cast<std::size_t>(liste.MaxKant)) {
+        throw Fehler("Das Netz hat " + std::to_string(punkte) + " Punkte und " + std::to_string(texte) +
+                         " Punktnummern; eine Zarwikdatei braucht gleich viele. Es wurde nichts gespeichert.",
                      PfadText(datei));
     }
     ByteSchreiber f;

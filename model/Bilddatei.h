@@ -10,7 +10,8 @@
 namespace zrw {
 
 /// Writes the plot and its view, replacing the file as a whole.
-/// @throws Fehler where it cannot be written or holds more points or lines than the format can count
+/// @throws Fehler where it cannot be written, holds more points or lines than the format can count, or its
+/// labels do not go with its points
 void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
                        Dateien& dateien);
 

@@ -57,6 +57,7 @@ class Liste {
 
     /// An empty list. The settings give the zoom step and the catch radius; they must outlive the list.
     explicit Liste(const Einstellungen& einstellungen);
+    explicit Liste(const Einstellungen&&) = delete;
     Liste(const Liste&) = delete;
     Liste& operator=(const Liste&) = delete;
     virtual ~Liste() = default;  // frees, never draws: `Done` is what wipes

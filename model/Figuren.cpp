@@ -211,12 +211,12 @@ Legende Legende::Create() {
 }
 
 void Legende::Show(Zeichner& z) {
-    z.ZeichneLegende(*this, Gang::Zeigen);
+    if (Zeichenbar(*this)) z.ZeichneLegende(*this, Gang::Zeigen);
     Visible = true;
 }
 
 void Legende::Hide(Zeichner& z) {
-    z.ZeichneLegende(*this, Gang::Wischen);
+    if (Zeichenbar(*this)) z.ZeichneLegende(*this, Gang::Wischen);
     Visible = false;
 }
 

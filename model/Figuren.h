@@ -144,7 +144,8 @@ class PktText final : public Ort {
     [[nodiscard]] virtual bool IsVisible() const { return Visible; }
     /// Moves and leaves the label invisible, as `Punkt::MoveTo` does.
     virtual void MoveTo(std::int64_t newX, std::int64_t newY, Zeichner& z);
-    /// How far showing moved the label [px]: zero unless the drawer shifts it. The position stays.
+    /// How far showing moved the label [px]: zero with every drawer so far. The position stays. Dragging with
+    /// the mouse changes the offset and does not go through here.
     virtual Bildpunkt Drag(Zeichner& z);
 };
 
@@ -162,6 +163,7 @@ class Legende final : public Ort {
     /// A legend two pixels from the picture's top-left corner, not yet shown.
     [[nodiscard]] static Legende Create();
 
+    /// Counts as visible afterwards even where it lies beyond the drawable range and is not drawn.
     virtual void Show(Zeichner& z);
     virtual void Hide(Zeichner& z);
     virtual void Drag(std::int32_t newX, std::int32_t newY, Zeichner& z);

@@ -1,5 +1,6 @@
 #include "model/Figurenindex.h"
 
+#include <random>
 #include <utility>
 
 #include "model/Knoten.h"
@@ -18,15 +19,12 @@ void Lege(std::vector<Knoten*>& tafel, PunktIndex nr, Knoten* knoten) {
     tafel[nr] = knoten;
 }
 
-/// Both orientations of a pair give one key; the mixing is reversible, so equal hashes are equal pairs.
-std::uint64_t Paar(PunktIndex a, PunktIndex b) {
-    if (a > b) std::swap(a, b);
-    std::uint64_t h = (std::uint64_t{a} << 16U | b) + 1;
-    h *= 0x9E3779B97F4A7C15ULL;
-    h ^= h >> 32U;
-    h *= 0xD6E8FEB86659FD93ULL;
-    return h ^ (h >> 32U);
+/// A secret of its own for every list: a file cannot be made so that all its keys meet in one place.
+std::uint64_t NeueSaat() {
+    std::random_device zufall;
+    return std::uint64_t{zufall()} << 32U | zufall();
 }
+
 constexpr auto kImmerGleich = [](const PunktKante&) { return true; };
 
 auto HatText(const PunktNummernTyp& nummer) {
@@ -39,13 +37,25 @@ bool GleichesPaar(const PunktKante& x, const PunktKante& y) {
 
 }  // namespace
 
+Figurenindex::Figurenindex() : saat_(NeueSaat()) {}
+
+/// Both orientations of a pair give one key; the mixing is reversible, so equal hashes are equal pairs.
+std::uint64_t Figurenindex::Paar(PunktIndex a, PunktIndex b) const {
+    if (a > b) std::swap(a, b);
+    return Mische((std::uint64_t{a} << 16U | b) ^ saat_);
+}
+
+std::uint64_t Figurenindex::Streuwert(const PunktNummernTyp& nummer) const {
+    return nummer.Streuwert(saat_);
+}
+
 void Figurenindex::Auf(PunktKnoten& p) {
     Lege(punkte_, p.PNr, &p);
 }
 
 void Figurenindex::Auf(PunktString& t) {
     Lege(texte_, t.TNr, &t);
-    nachNummer_.Setze(t.Item->Aus.Streuwert(), &t, HatText(t.Item->Aus));
+    nachNummer_.Setze(Streuwert(t.Item->Aus), &t, HatText(t.Item->Aus));
 }
 
 void Figurenindex::Auf(PunktKante& k) {
@@ -79,9 +89,9 @@ void Figurenindex::Ab(PunktString& t) {
     while (ersatz != nullptr && !(ersatz->Item->Aus == nummer))
         ersatz = ersatz->Next;
     if (ersatz != nullptr) {
-        nachNummer_.Setze(nummer.Streuwert(), ersatz, HatText(nummer));
+        nachNummer_.Setze(Streuwert(nummer), ersatz, HatText(nummer));
     } else {
-        nachNummer_.Entferne(nummer.Streuwert(), &t);
+        nachNummer_.Entferne(Streuwert(nummer), &t);
     }
 }
 
@@ -94,9 +104,16 @@ void Figurenindex::Ab(PunktKante& k) {
         if (zeiger != nullptr && *zeiger == &k) *zeiger = NaechsteKante(k, nr);
     }
     if (FindeKante(k.ANr, k.ENr) != &k) return;
-    PunktKante* ersatz = ErsteKante(k.ANr);
-    while (ersatz != nullptr && !GleichesPaar(*ersatz, k))
-        ersatz = NaechsteKante(*ersatz, k.ANr);
+    // Both points list the lines of the pair in the same order. Searching from both ends in step takes as
+    // long as the point with fewer lines takes; the other one may be a station with tens of thousands.
+    PunktKante* vonA = ErsteKante(k.ANr);
+    PunktKante* vonE = ErsteKante(k.ENr);
+    while (vonA != nullptr && vonE != nullptr && !GleichesPaar(*vonA, k) && !GleichesPaar(*vonE, k)) {
+        vonA = NaechsteKante(*vonA, k.ANr);
+        vonE = NaechsteKante(*vonE, k.ENr);
+    }
+    PunktKante* ersatz = nullptr;
+    if (vonA != nullptr && vonE != nullptr) ersatz = GleichesPaar(*vonA, k) ? vonA : vonE;
     if (ersatz != nullptr) {
         nachPaar_.Setze(Paar(k.ANr, k.ENr), ersatz, kImmerGleich);
     } else {
@@ -131,7 +148,7 @@ PunktString* Figurenindex::FindeText(PunktIndex nr) const {
 }
 
 PunktString* Figurenindex::FindeText(const PunktNummernTyp& nummer) const {
-    return nachNummer_.Finde(nummer.Streuwert(), HatText(nummer));
+    return nachNummer_.Finde(Streuwert(nummer), HatText(nummer));
 }
 
 PunktKante* Figurenindex::FindeKante(PunktIndex a, PunktIndex b) const {

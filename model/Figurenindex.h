@@ -86,6 +86,8 @@ class Streutafel {
 /// The indexes of one list. Told of every node that enters (already linked at the head) or leaves.
 class Figurenindex {
   public:
+    Figurenindex();
+
     void Auf(PunktKnoten& p);
     void Auf(PunktString& t);
     void Auf(PunktKante& k);
@@ -109,6 +111,10 @@ class Figurenindex {
     [[nodiscard]] static PunktKante* NaechsteKante(const PunktKante& k, PunktIndex nr);
 
   private:
+    [[nodiscard]] std::uint64_t Paar(PunktIndex a, PunktIndex b) const;
+    [[nodiscard]] std::uint64_t Streuwert(const PunktNummernTyp& nummer) const;
+
+    std::uint64_t saat_;
     std::vector<PunktKnoten*> punkte_;
     std::vector<PunktString*> texte_;
     std::vector<PunktKante*> kantenAm_;

@@ -41,6 +41,13 @@ inline constexpr PunktIndex kKeinPunkt = 0;
 /// Most points of a network: the range of `PunktIndex`.
 inline constexpr std::size_t kMaxPunkte = 65535;
 
+/// Reversible mixing of 64 bits (the finaliser of splitmix64, Steele, Lea and Flood 2014).
+[[nodiscard]] constexpr std::uint64_t Mische(std::uint64_t h) {
+    h = (h ^ (h >> 30U)) * 0xBF58476D1CE4E5B9ULL;
+    h = (h ^ (h >> 27U)) * 0x94D049BB133111EBULL;
+    return h ^ (h >> 31U);
+}
+
 /// Point number as the user sees it: at most 14 bytes of code page 1252, longer texts are cut.
 class PunktNummernTyp {
   public:
@@ -61,16 +68,13 @@ class PunktNummernTyp {
         return a.Text() == b.Text();
     }
 
-    /// Spread over all 64 bits; bytes behind the text are zero and therefore harmless.
-    [[nodiscard]] std::uint64_t Streuwert() const {
+    /// Spread over all 64 bits, differently for every `saat`; bytes behind the text are zero.
+    [[nodiscard]] std::uint64_t Streuwert(std::uint64_t saat) const {
         std::uint64_t a = 0;
         std::uint64_t b = 0;
         std::memcpy(&a, zeichen_.data(), 8);
         std::memcpy(&b, zeichen_.data() + 8, 6);
-        std::uint64_t h = (a ^ (b + laenge_) * 0x9E3779B97F4A7C15ULL) * 0xBF58476D1CE4E5B9ULL;
-        h ^= h >> 32;
-        h *= 0x94D049BB133111EBULL;
-        return h ^ (h >> 29);
+        return Mische(Mische(a ^ saat) ^ b ^ (std::uint64_t{laenge_} << 56U));
     }
 
   private:

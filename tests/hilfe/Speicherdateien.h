@@ -23,7 +23,7 @@ class Speicherdateien final : public Dateien {
     [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
         const auto stelle = dateien.find(Schluessel(datei));
         if (stelle == dateien.end())
-            throw Fehler("Kann Datei nicht öffnen (nicht vorhanden).", PfadText(datei));
+            throw Oeffnungsfehler("Kann Datei nicht öffnen (nicht vorhanden).", PfadText(datei));
         if (stelle->second.size() > grenze) {
             throw Fehler("Die Datei ist mit " + std::to_string(stelle->second.size()) +
                              " Bytes zu groß (höchstens " + std::to_string(grenze) + ").",

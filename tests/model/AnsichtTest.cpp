@@ -64,8 +64,9 @@ TEST(Ansicht, FaktorPaartBreiteMitHoehe) {
 }
 
 TEST(Ansicht, RundenGehtBeiHaelftenZumGeradenNachbarnUndLaeuftNieUeber) {
-    for (const double v : {0.5, 1.5, 2.5, -0.5, -1.5, -2.5, 0.49999999999999994, 2251799813685247.5,
-                           2251799813685248.5, 2251799813685249.5, -2251799813685248.5, 4503599627370497.0}) {
+    for (const double v :
+         {0.5, 1.5, 2.5, -0.5, -1.5, -2.5, 0.49999999999999994, 2251799813685247.5, 2251799813685248.5,
+          2251799813685249.5, -2251799813685248.5, 4503599627370495.0, 4503599627370497.0}) {
         EXPECT_EQ(RundeZuInt64(v), static_cast<std::int64_t>(std::nearbyint(v))) << v;
     }
     for (const double v : {9223372036854775808.0, 1e300, kInf}) {

@@ -87,8 +87,11 @@ TEST(Figuren, GeaenderteKantenSindImmerSichtbar) {
                       "Kante wischen ARI2" + ort + "7 8", "Kante zeigen 0x800080 AST" + ort + "7 8",
                       "Kante wischen AST" + ort + "7 8"}));
     Legende l = Legende::Create();
+    l.Drag(-3, 2147483646, z);
+    EXPECT_EQ(z.Nimm(), (Zeilen{"Legende wischen 2 2", "Legende zeigen -3 2147483646"}));
     l.Drag(-3, 2147483647, z);
-    EXPECT_EQ(z.Nimm(), (Zeilen{"Legende wischen 2 2", "Legende zeigen -3 2147483647"}));
+    EXPECT_EQ(z.Nimm(), Zeilen{"Legende wischen -3 2147483646"})
+        << "beyond the range: not drawn, but visible";
     EXPECT_TRUE(l.Visible);
 }
 
