@@ -1,6 +1,8 @@
 #include "input/Netzbauer.h"
 
+#include <span>
 #include <string>
+#include <utility>
 
 #include "model/Fehler.h"
 #include "model/Punktarten.h"
@@ -14,7 +16,7 @@ constexpr std::int32_t kMaxKanten = 1'000'000;
 }  // namespace
 
 void Netzbauer::Punkt(PunktArt art, std::string_view nummer, std::int64_t code, Welt ort) {
-    if (liste_.FindPunkt(nummer) != nullptr) return;
+    if (liste_.FindPunktNr(PunktNummernTyp(nummer)) != kKeinPunkt) return;
     if (static_cast<std::size_t>(liste_.MaxPkte) >= kMaxPunkte) {
         throw Fehler(
             "Das Netz hat mehr als 65535 Punkte, mehr kann Zarwik nicht darstellen. Es wurde nichts "
@@ -28,9 +30,56 @@ void Netzbauer::Punkt(PunktArt art, std::string_view nummer, std::int64_t code, 
     liste_.AddPktText(PktText::Create(nummer, farbe, einstellungen_), nr);
 }
 
-PunktIndex Netzbauer::PunktIndexVon(std::string_view nummer) const {
-    const PunktKnoten* p = liste_.FindPunkt(nummer);
-    return p != nullptr ? p->PNr : kKeinPunkt;
+Netzbauer::Wartende& Netzbauer::Reihe() {
+    if (anzahl_ == wartende_.size()) Trage();
+    return wartende_[anzahl_++];
+}
+
+void Netzbauer::Standpunkt(std::string_view nummer) {
+    Wartende& w = Reihe();
+    w.standpunkt = true;
+    w.nach = PunktNummernTyp(nummer);
+}
+
+void Netzbauer::Beobachte(Art art, std::string_view von, std::string_view nach, Farbe farbe) {
+    Wartende& w = Reihe();
+    w.standpunkt = false;
+    w.art = art;
+    w.farbe = farbe;
+    w.von = PunktNummernTyp(von);
+    w.nach = PunktNummernTyp(nach);
+}
+
+void Netzbauer::Trage() {
+    const std::span<Wartende> reihe(wartende_.data(), std::exchange(anzahl_, 0));
+    for (Wartende& w : reihe) {
+        w.p2 = liste_.FindPunktNr(w.nach);
+        if (!w.standpunkt && w.art != Art::Richtung) w.p1 = liste_.FindPunktNr(w.von);
+    }
+    for (Wartende& w : reihe) {
+        if (w.standpunkt) standpunkt_ = w.p2;
+        if (w.art == Art::Richtung) w.p1 = standpunkt_;
+    }
+    for (const Wartende& w : reihe) {
+        if (!w.standpunkt) Fasse(w);
+    }
+}
+
+void Netzbauer::Fasse(const Wartende& w) {
+    switch (w.art) {
+        case Art::Richtung:
+            Richtung(w.p1, w.p2, w.farbe);
+            break;
+        case Art::Strecke:
+            Strecke(w.p1, w.p2);
+            break;
+        case Art::Hoehenunterschied:
+            Hoehenunterschied(w.p1, w.p2);
+            break;
+        case Art::GPSVektor:
+            GPSVektor(w.p1, w.p2);
+            break;
+    }
 }
 
 PPunktKante Netzbauer::Zusammenfuehren(PunktIndex p1, PunktIndex p2, Farbe farbe, KanteAttr kAttr,

@@ -2,8 +2,9 @@
 // gathers all observations between them.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 #include "model/FigListe.h"
@@ -20,20 +21,42 @@ class Netzbauer {
     /// @throws Fehler (without place) where the network is full
     void Punkt(PunktArt art, std::string_view nummer, std::int64_t code, Welt ort);
 
-    /// Index of the point with that number (cut to 14 bytes, compared exactly), 0 if there is none.
-    [[nodiscard]] PunktIndex PunktIndexVon(std::string_view nummer) const;
+    enum class Art : std::uint8_t { Richtung, Strecke, Hoehenunterschied, GPSVektor };
+    /// One observation between the points with these numbers; a direction starts at the last standpoint
+    /// instead. Unknown points and a point with itself are dropped. It enters the network with `Trage`, at
+    /// the latest.
+    void Beobachte(Art art, std::string_view von, std::string_view nach, Farbe farbe = {});
+    /// Standpoint of the directions that follow.
+    void Standpunkt(std::string_view nummer);
+    /// Enters what waits. To be called before a point is added, for an observation does not know later
+    /// points.
+    void Trage();
 
-    // One observation from p1 to p2. Unknown points and a point with itself are dropped.
+  private:
+    /// Observations wait in a small queue: looking up many at once lets their memory accesses overlap, and
+    /// those are what reading a large network spends its time on.
+    struct Wartende {
+        Art art = Art::Richtung;
+        bool standpunkt = false;  ///< no observation: sets the standpoint
+        Farbe farbe;
+        PunktNummernTyp von;
+        PunktNummernTyp nach;
+        PunktIndex p1 = kKeinPunkt;
+        PunktIndex p2 = kKeinPunkt;
+    };
+    Wartende& Reihe();
+    void Fasse(const Wartende& w);
     void Richtung(PunktIndex p1, PunktIndex p2, Farbe farbe);
     void Strecke(PunktIndex p1, PunktIndex p2);
     void Hoehenunterschied(PunktIndex p1, PunktIndex p2);
     void GPSVektor(PunktIndex p1, PunktIndex p2);
-
-  private:
     /// The line of the pair if there is one, else a new one p1 -> p2 with these attributes and nothing.
     PPunktKante Zusammenfuehren(PunktIndex p1, PunktIndex p2, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr);
     void Orientiere(PunktKante& k, PunktIndex anfang);
 
+    std::array<Wartende, 64> wartende_;
+    std::size_t anzahl_ = 0;
+    PunktIndex standpunkt_ = kKeinPunkt;
     Liste& liste_;
     const Einstellungen& einstellungen_;
 };

@@ -133,6 +133,7 @@ Lesung Steuerleser::Lies() {
             }
             (this->*satz->lesen)(rest);
         }
+        bauer_.Trage();
     } catch (const Fehler& f) {
         if (f.Zeile() > 0) throw;
         throw Fehler(f.Text(), quelle_.Datei(), quelle_.Zeile());
@@ -252,6 +253,7 @@ void Steuerleser::LesePunkt(PunktArt punktart, std::string_view rest) {
         Melde(Auszug(text));
         return;
     }
+    bauer_.Trage();
     bauer_.Punkt(punktart, nummer, *code, ort);
 }
 
@@ -311,11 +313,11 @@ bool Steuerleser::LiesKartesisch(Feldleser& felder, Welt& ort) const {
 // --- Observations -----------------------------------------------------------------------------------------
 
 void Steuerleser::LiesStandpunkt(std::string_view rest) {
-    standpunkt_ = bauer_.PunktIndexVon(NaechstesWort(rest));
+    bauer_.Standpunkt(NaechstesWort(rest));
 }
 
 void Steuerleser::Ziele(std::string_view rest, Farbe farbe) {
-    bauer_.Richtung(standpunkt_, bauer_.PunktIndexVon(NaechstesWort(rest)), farbe);
+    bauer_.Beobachte(Netzbauer::Art::Richtung, {}, NaechstesWort(rest), farbe);
 }
 
 void Steuerleser::LiesRichtung(std::string_view rest) {
@@ -326,18 +328,17 @@ void Steuerleser::LiesAzimut(std::string_view rest) {
     Ziele(rest, einstellungen_.AZCol);
 }
 
-void Steuerleser::Beobachte(std::string_view rest, void (Netzbauer::*beobachtung)(PunktIndex, PunktIndex)) {
-    const PunktIndex p1 = bauer_.PunktIndexVon(NaechstesWort(rest));
-    const PunktIndex p2 = bauer_.PunktIndexVon(NaechstesWort(rest));
-    (bauer_.*beobachtung)(p1, p2);
+void Steuerleser::Beobachte(std::string_view rest, Netzbauer::Art art) {
+    const std::string_view von = NaechstesWort(rest);
+    bauer_.Beobachte(art, von, NaechstesWort(rest));
 }
 
 void Steuerleser::LiesStrecke(std::string_view rest) {
-    Beobachte(rest, &Netzbauer::Strecke);
+    Beobachte(rest, Netzbauer::Art::Strecke);
 }
 
 void Steuerleser::LiesHoehenunterschied(std::string_view rest) {
-    Beobachte(rest, &Netzbauer::Hoehenunterschied);
+    Beobachte(rest, Netzbauer::Art::Hoehenunterschied);
 }
 
 void Steuerleser::LeseGPSVektoren(std::string_view rest) {
@@ -365,7 +366,7 @@ void Steuerleser::LiesVektor(std::string_view rest) {
     const std::string_view von = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
     felder.Ueberspringe(kTrenner);
     const std::string_view nach = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
-    bauer_.GPSVektor(bauer_.PunktIndexVon(von), bauer_.PunktIndexVon(nach));
+    bauer_.Beobachte(Netzbauer::Art::GPSVektor, von, nach);
 }
 
 // --- Messages ---------------------------------------------------------------------------------------------

@@ -58,7 +58,7 @@ class Steuerleser {
     [[nodiscard]] bool LiesGitter(Feldleser& felder, Welt& ort) const;
     [[nodiscard]] bool LiesKartesisch(Feldleser& felder, Welt& ort) const;
     void LiesVektor(std::string_view rest);
-    void Beobachte(std::string_view rest, void (Netzbauer::*beobachtung)(PunktIndex, PunktIndex));
+    void Beobachte(std::string_view rest, Netzbauer::Art art);
     void Ziele(std::string_view rest, Farbe farbe);
     [[nodiscard]] std::int32_t Ganzzahl(Feldleser& felder) const;
     [[nodiscard]] double Realzahl(Feldleser& felder) const;
@@ -73,7 +73,6 @@ class Steuerleser {
     Ellipsoid ellipsoid_;
     const Satz* letzter_ = nullptr;  ///< most recent known key: what a continuation line continues
     std::string_view zeile_;
-    PunktIndex standpunkt_ = kKeinPunkt;
     std::int32_t punktformat_ = 0;
     bool fertig_ = false;
     std::uint64_t vektorenOffen_ = 0;  ///< GPS vectors still to come in the current block

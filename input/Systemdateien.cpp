@@ -97,7 +97,7 @@ fs::path NameDaneben(const fs::path& ziel, unsigned& laufend) {
     std::error_code fehler;
     for (;;) {
         fs::path name = ziel;
-        name += "." + std::to_string(Prozess()) + "-" + std::to_string(laufend++) + ".neu";
+        name += '.' + std::to_string(Prozess()) + '-' + std::to_string(laufend++) + ".neu";
         if (!fs::exists(fs::symlink_status(name, fehler))) return name;
     }
 }

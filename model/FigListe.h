@@ -117,6 +117,11 @@ class Liste {
     [[nodiscard]] std::string GetPktText(PunktIndex n) const;
     /// The point whose label reads `p`, cut to 14 bytes.
     [[nodiscard]] PPunktKnoten FindPunkt(std::string_view p) const;
+    /// Internal number of that point, 0 if there is none.
+    [[nodiscard]] PunktIndex FindPunktNr(const PunktNummernTyp& p) const {
+        const PunktIndex nr = index_.FindeNummer(p);
+        return SuchPkt(nr) != nullptr ? nr : kKeinPunkt;
+    }
     /// The line between two points, in either orientation.
     [[nodiscard]] PPunktKante FindKante(PunktIndex a, PunktIndex b) const { return index_.FindeKante(a, b); }
 

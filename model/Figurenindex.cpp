@@ -25,29 +25,13 @@ std::uint64_t NeueSaat() {
     return std::uint64_t{zufall()} << 32U | zufall();
 }
 
-constexpr auto kImmerGleich = [](const PunktKante&) { return true; };
-
-auto HatText(const PunktNummernTyp& nummer) {
-    return [&nummer](const PunktString& t) { return t.Item->Aus == nummer; };
-}
-
 bool GleichesPaar(const PunktKante& x, const PunktKante& y) {
     return (x.ANr == y.ANr && x.ENr == y.ENr) || (x.ANr == y.ENr && x.ENr == y.ANr);
 }
 
 }  // namespace
 
-Figurenindex::Figurenindex() : saat_(NeueSaat()) {}
-
-/// Both orientations of a pair give one key; the mixing is reversible, so equal hashes are equal pairs.
-std::uint64_t Figurenindex::Paar(PunktIndex a, PunktIndex b) const {
-    if (a > b) std::swap(a, b);
-    return Mische((std::uint64_t{a} << 16U | b) ^ saat_);
-}
-
-std::uint64_t Figurenindex::Streuwert(const PunktNummernTyp& nummer) const {
-    return nummer.Streuwert(saat_);
-}
+Figurenindex::Figurenindex() : nachNummer_(NeueSaat()), nachPaar_(NeueSaat()) {}
 
 void Figurenindex::Auf(PunktKnoten& p) {
     Lege(punkte_, p.PNr, &p);
@@ -55,7 +39,7 @@ void Figurenindex::Auf(PunktKnoten& p) {
 
 void Figurenindex::Auf(PunktString& t) {
     Lege(texte_, t.TNr, &t);
-    nachNummer_.Setze(Streuwert(t.Item->Aus), &t, HatText(t.Item->Aus));
+    nachNummer_.Setze(t.Item->Aus, {&t, t.TNr});
 }
 
 void Figurenindex::Auf(PunktKante& k) {
@@ -65,7 +49,7 @@ void Figurenindex::Auf(PunktKante& k) {
         k.naechsteAmEnde_ = Hole(kantenAm_, k.ENr);
         Lege(kantenAm_, k.ENr, &k);
     }
-    nachPaar_.Setze(Paar(k.ANr, k.ENr), &k, kImmerGleich);
+    nachPaar_.Setze({k.ANr, k.ENr}, &k);
 }
 
 void Figurenindex::Ab(PunktKnoten& p) {
@@ -89,9 +73,9 @@ void Figurenindex::Ab(PunktString& t) {
     while (ersatz != nullptr && !(ersatz->Item->Aus == nummer))
         ersatz = ersatz->Next;
     if (ersatz != nullptr) {
-        nachNummer_.Setze(Streuwert(nummer), ersatz, HatText(nummer));
+        nachNummer_.Setze(nummer, {ersatz, ersatz->TNr});
     } else {
-        nachNummer_.Entferne(Streuwert(nummer), &t);
+        nachNummer_.Entferne(nummer);
     }
 }
 
@@ -115,9 +99,9 @@ void Figurenindex::Ab(PunktKante& k) {
     PunktKante* ersatz = nullptr;
     if (vonA != nullptr && vonE != nullptr) ersatz = GleichesPaar(*vonA, k) ? vonA : vonE;
     if (ersatz != nullptr) {
-        nachPaar_.Setze(Paar(k.ANr, k.ENr), ersatz, kImmerGleich);
+        nachPaar_.Setze({k.ANr, k.ENr}, ersatz);
     } else {
-        nachPaar_.Entferne(Paar(k.ANr, k.ENr), &k);
+        nachPaar_.Entferne({k.ANr, k.ENr});
     }
 }
 
@@ -139,20 +123,8 @@ void Figurenindex::LeereKanten() {
     nachPaar_.Leere();
 }
 
-PunktKnoten* Figurenindex::FindePunkt(PunktIndex nr) const {
-    return Hole(punkte_, nr);
-}
-
 PunktString* Figurenindex::FindeText(PunktIndex nr) const {
     return Hole(texte_, nr);
-}
-
-PunktString* Figurenindex::FindeText(const PunktNummernTyp& nummer) const {
-    return nachNummer_.Finde(Streuwert(nummer), HatText(nummer));
-}
-
-PunktKante* Figurenindex::FindeKante(PunktIndex a, PunktIndex b) const {
-    return nachPaar_.Finde(Paar(a, b), kImmerGleich);
 }
 
 PunktKante* Figurenindex::ErsteKante(PunktIndex nr) const {

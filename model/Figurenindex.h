@@ -3,6 +3,7 @@
 // from the head of the list would find first: the newest figure.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -15,40 +16,29 @@ struct PunktKnoten;
 struct PunktString;
 class PunktKante;
 
-/// Open addressing from a 64-bit hash to a node. `gleich(knoten)` settles equal hashes.
-template <class Knoten>
+/// Open addressing from a key to a value that is false where there is none. The keys stand in the table
+/// itself, so that a search touches no node: memory is what reading a large network waits for.
+template <class Schluessel, class Wert>
 class Streutafel {
   public:
-    template <class Gleich>
-    [[nodiscard]] Knoten* Finde(std::uint64_t streu, Gleich gleich) const {
-        if (faecher_.empty()) return nullptr;
-        for (std::size_t i = Platz(streu); faecher_[i].knoten != nullptr; i = Weiter(i)) {
-            if (faecher_[i].streu == streu && gleich(*faecher_[i].knoten)) return faecher_[i].knoten;
-        }
-        return nullptr;
+    explicit Streutafel(std::uint64_t saat) : saat_(saat) {}
+
+    [[nodiscard]] Wert Finde(const Schluessel& s) const {
+        return faecher_.empty() ? Wert{} : faecher_[Suche(s)].wert;
     }
-    /// Enters the node; a node that equals it is displaced, as the head of a list hides what is behind it.
-    template <class Gleich>
-    void Setze(std::uint64_t streu, Knoten* knoten, Gleich gleich) {
+    /// Enters the value; one of the same key is displaced, as the head of a list hides what is behind it.
+    void Setze(const Schluessel& s, Wert wert) {
         if ((belegt_ + 1) * 5 > faecher_.size() * 4) Wachse();
-        std::size_t i = Platz(streu);
-        while (faecher_[i].knoten != nullptr &&
-               !(faecher_[i].streu == streu && gleich(*faecher_[i].knoten))) {
-            i = Weiter(i);
-        }
-        if (faecher_[i].knoten == nullptr) ++belegt_;
-        faecher_[i] = {streu, knoten};
+        Fach& fach = faecher_[Suche(s)];
+        if (!fach.wert) ++belegt_;
+        fach = {s, wert};
     }
-    void Entferne(std::uint64_t streu, const Knoten* knoten) {
-        if (faecher_.empty()) return;
-        std::size_t i = Platz(streu);
-        while (faecher_[i].knoten != knoten) {
-            if (faecher_[i].knoten == nullptr) return;
-            i = Weiter(i);
-        }
+    void Entferne(const Schluessel& s) {
+        if (!Finde(s)) return;
+        std::size_t i = Suche(s);
         // Close the gap, so that a search never has to step over removed entries.
-        for (std::size_t j = Weiter(i); faecher_[j].knoten != nullptr; j = Weiter(j)) {
-            const std::size_t heim = Platz(faecher_[j].streu);
+        for (std::size_t j = Weiter(i); faecher_[j].wert; j = Weiter(j)) {
+            const std::size_t heim = Platz(faecher_[j].schluessel);
             if (((j - heim) & (faecher_.size() - 1)) < ((j - i) & (faecher_.size() - 1))) continue;
             faecher_[i] = faecher_[j];
             i = j;
@@ -63,24 +53,42 @@ class Streutafel {
 
   private:
     struct Fach {
-        std::uint64_t streu = 0;
-        Knoten* knoten = nullptr;
+        Schluessel schluessel{};
+        Wert wert{};
     };
-    [[nodiscard]] std::size_t Platz(std::uint64_t streu) const { return streu & (faecher_.size() - 1); }
+    [[nodiscard]] std::size_t Platz(const Schluessel& s) const {
+        return s.Streuwert(saat_) & (faecher_.size() - 1);
+    }
     [[nodiscard]] std::size_t Weiter(std::size_t i) const { return (i + 1) & (faecher_.size() - 1); }
+    /// The place of the key, or the free one where it belongs.
+    [[nodiscard]] std::size_t Suche(const Schluessel& s) const {
+        std::size_t i = Platz(s);
+        while (faecher_[i].wert && !(faecher_[i].schluessel == s))
+            i = Weiter(i);
+        return i;
+    }
     void Wachse() {
         std::vector<Fach> alt(faecher_.empty() ? 64 : faecher_.size() * 2);
         alt.swap(faecher_);
         for (const Fach& f : alt) {
-            if (f.knoten == nullptr) continue;
-            std::size_t i = Platz(f.streu);
-            while (faecher_[i].knoten != nullptr)
-                i = Weiter(i);
-            faecher_[i] = f;
+            if (f.wert) faecher_[Suche(f.schluessel)] = f;
         }
     }
+    std::uint64_t saat_;
     std::vector<Fach> faecher_;
     std::size_t belegt_ = 0;
+};
+
+/// Two points, whichever is named first.
+class Punktpaar {
+  public:
+    Punktpaar() = default;
+    Punktpaar(PunktIndex a, PunktIndex b) : wert_(std::uint32_t{std::min(a, b)} << 16U | std::max(a, b)) {}
+    friend bool operator==(Punktpaar, Punktpaar) = default;
+    [[nodiscard]] std::uint64_t Streuwert(std::uint64_t saat) const { return Mische(wert_ ^ saat); }
+
+  private:
+    std::uint32_t wert_ = 0;
 };
 
 /// The indexes of one list. Told of every node that enters (already linked at the head) or leaves.
@@ -101,25 +109,34 @@ class Figurenindex {
     void LeereTexte();
     void LeereKanten();
 
-    [[nodiscard]] PunktKnoten* FindePunkt(PunktIndex nr) const;
+    [[nodiscard]] PunktKnoten* FindePunkt(PunktIndex nr) const {
+        return nr < punkte_.size() ? punkte_[nr] : nullptr;
+    }
     [[nodiscard]] PunktString* FindeText(PunktIndex nr) const;
-    [[nodiscard]] PunktString* FindeText(const PunktNummernTyp& nummer) const;
+    [[nodiscard]] PunktString* FindeText(const PunktNummernTyp& nummer) const {
+        return nachNummer_.Finde(nummer).text;
+    }
+    /// Internal number of the point with that label, 0 if there is none.
+    [[nodiscard]] PunktIndex FindeNummer(const PunktNummernTyp& nummer) const {
+        return nachNummer_.Finde(nummer).nr;
+    }
     /// The newest line between two points, in either orientation.
-    [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const;
+    [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const { return nachPaar_.Finde({a, b}); }
     /// The lines at a point, newest first: `for (k = ErsteKante(nr); k; k = NaechsteKante(*k, nr))`.
     [[nodiscard]] PunktKante* ErsteKante(PunktIndex nr) const;
     [[nodiscard]] static PunktKante* NaechsteKante(const PunktKante& k, PunktIndex nr);
 
   private:
-    [[nodiscard]] std::uint64_t Paar(PunktIndex a, PunktIndex b) const;
-    [[nodiscard]] std::uint64_t Streuwert(const PunktNummernTyp& nummer) const;
-
-    std::uint64_t saat_;
+    struct Texteintrag {
+        PunktString* text = nullptr;
+        PunktIndex nr = kKeinPunkt;
+        explicit operator bool() const { return text != nullptr; }
+    };
     std::vector<PunktKnoten*> punkte_;
     std::vector<PunktString*> texte_;
     std::vector<PunktKante*> kantenAm_;
-    Streutafel<PunktString> nachNummer_;
-    Streutafel<PunktKante> nachPaar_;
+    Streutafel<PunktNummernTyp, Texteintrag> nachNummer_;
+    Streutafel<Punktpaar, PunktKante*> nachPaar_;
 };
 
 }  // namespace zrw

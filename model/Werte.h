@@ -65,19 +65,21 @@ class PunktNummernTyp {
 
     /// Exact comparison of the bytes: case and blanks count.
     friend bool operator==(const PunktNummernTyp& a, const PunktNummernTyp& b) {
-        return a.Text() == b.Text();
+        return a.Wort(0) == b.Wort(0) && a.Wort(6) == b.Wort(6) && a.laenge_ == b.laenge_;
     }
 
     /// Spread over all 64 bits, differently for every `saat`; bytes behind the text are zero.
     [[nodiscard]] std::uint64_t Streuwert(std::uint64_t saat) const {
-        std::uint64_t a = 0;
-        std::uint64_t b = 0;
-        std::memcpy(&a, zeichen_.data(), 8);
-        std::memcpy(&b, zeichen_.data() + 8, 6);
-        return Mische(Mische(a ^ saat) ^ b ^ (std::uint64_t{laenge_} << 56U));
+        return Mische(Mische(Wort(0) ^ saat) ^ Wort(6) ^ (std::uint64_t{laenge_} << 8U));
     }
 
   private:
+    /// Eight bytes from a place on: two of these compare faster than a text of any length.
+    [[nodiscard]] std::uint64_t Wort(std::size_t stelle) const {
+        std::uint64_t w = 0;
+        std::memcpy(&w, zeichen_.data() + stelle, sizeof w);
+        return w;
+    }
     std::array<char, kLaenge> zeichen_{};
     std::uint8_t laenge_ = 0;
 };

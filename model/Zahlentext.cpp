@@ -56,19 +56,21 @@ std::optional<double> LiesReal(std::string_view text) {
     // "inf" and "nan" would pass from_chars; a decimal real begins with a digit or a point.
     const std::size_t anfang = !t.empty() && t.front() == '-' ? 1 : 0;
     if (t.size() <= anfang || !(IstZiffer(t[anfang]) || t[anfang] == '.')) return std::nullopt;
+    double wert = 0.0;
+    std::from_chars_result gelesen = std::from_chars(t.data(), t.data() + t.size(), wert);
     std::string mitE;
-    if (const std::size_t d = t.find_first_of("dD"); d != std::string_view::npos) {
+    if (const auto d = static_cast<std::size_t>(gelesen.ptr - t.data());
+        d < t.size() && (t[d] == 'd' || t[d] == 'D')) {
         mitE = t;
         mitE[d] = 'E';
         t = mitE;
+        gelesen = std::from_chars(t.data(), t.data() + t.size(), wert);
     }
-    double wert = 0.0;
-    const auto [ende, fehler] = std::from_chars(t.data(), t.data() + t.size(), wert);
-    if (ende != t.data() + t.size()) return std::nullopt;
-    if (fehler == std::errc::result_out_of_range) {
+    if (gelesen.ptr != t.data() + t.size()) return std::nullopt;
+    if (gelesen.ec == std::errc::result_out_of_range) {
         return IstUnterlauf(t) ? std::optional<double>(0.0) : std::nullopt;
     }
-    if (fehler != std::errc()) return std::nullopt;
+    if (gelesen.ec != std::errc()) return std::nullopt;
     return wert;
 }
 

@@ -1,0 +1,49 @@
+// Steps measured in turn inside one process, so that what disturbs the machine disturbs them alike, and their
+// ratio to the first step, paired by round.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace zrw::bench {
+
+using Uhr = std::chrono::steady_clock;
+
+/// Time between two readings [ms].
+[[nodiscard]] inline double Millisekunden(Uhr::duration d) {
+    return std::chrono::duration<double, std::milli>(d).count();
+}
+
+/// Time that the work takes [ms]; its result lives on until the clock has stopped, so that tearing down what
+/// was built is not part of the building.
+template <class Arbeit>
+[[nodiscard]] double Miss(Arbeit arbeit) {
+    const Uhr::time_point anfang = Uhr::now();
+    const auto ergebnis = arbeit();
+    const Uhr::time_point ende = Uhr::now();
+    (void)ergebnis;
+    return Millisekunden(ende - anfang);
+}
+
+struct Schritt {
+    std::string name;
+    std::size_t bytes = 0;          ///< what one run reads or writes; 0 where that has no meaning
+    std::function<double()> messe;  ///< one run [ms]
+    std::vector<double> zeiten{};   ///< one entry a round [ms]
+};
+
+/// One unmeasured round, then `runden` rounds of all steps in turn.
+void Laufe(std::vector<Schritt>& schritte, int runden);
+
+/// Prints a row per step: minimum and median [ms], MB/s from the median, median ratio to the first step.
+void Drucke(const std::vector<Schritt>& schritte);
+
+[[nodiscard]] double Median(std::vector<double> werte);
+
+/// Resident memory of this process [bytes], 0 where the system does not say.
+[[nodiscard]] std::size_t Speicherbedarf();
+
+}  // namespace zrw::bench

@@ -1,0 +1,102 @@
+// Arbitrary bytes as a picture file: loaded, drawn onto a surface that insists on its limits, edited and
+// saved. `Fehler` is the only way to refuse them.
+#include "model/Bilddatei.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "fuzz/Proben.h"
+#include "model/Bytes.h"
+#include "model/Fehler.h"
+#include "output/Figurenzeichner.h"
+
+namespace {
+
+constexpr std::int32_t kWeite = 800;
+constexpr std::int32_t kHoehe = 600;
+
+/// A device that computes exactly up to some distance from its edges: nothing further out may reach it.
+class Pruefflaeche final : public zrw::Zeichenflaeche {
+  public:
+    [[nodiscard]] zrw::Rechteck Sichtbar() const override { return {0, 0, kWeite - 1, kHoehe - 1}; }
+    void Linie(zrw::Flaechenpunkt von, zrw::Flaechenpunkt nach) override {
+        Pruefe(von);
+        Pruefe(nach);
+    }
+    void ZeichneRechteck(const zrw::Rechteck& r) override { Pruefe(r); }
+    void Ellipse(const zrw::Rechteck& r) override { Pruefe(r); }
+    void Vieleck(std::span<const zrw::Flaechenpunkt> ecken) override {
+        for (const zrw::Flaechenpunkt p : ecken)
+            Pruefe(p);
+    }
+    void Fuelle(const zrw::Rechteck& r, zrw::Farbe /*farbe*/) override { Pruefe(r); }
+    void Text(zrw::Flaechenpunkt ort, std::string_view text, zrw::Farbe /*farbe*/) override {
+        Pruefe(ort);
+        zrw::fuzz::Verlange(text.size() <= zrw::PunktNummernTyp::kLaenge, "kein Text ist zu lang");
+    }
+    [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override {
+        return static_cast<std::int32_t>(text.size()) * 6;
+    }
+    [[nodiscard]] std::int32_t Texthoehe() const override { return 13; }
+
+  private:
+    static void Pruefe(zrw::Flaechenpunkt p) {
+        constexpr std::int32_t kReichweite = 20000;
+        zrw::fuzz::Verlange(
+            p.x >= -kReichweite && p.x <= kReichweite && p.y >= -kReichweite && p.y <= kReichweite,
+            "jede Koordinate liegt nahe der Flaeche");
+    }
+    static void Pruefe(const zrw::Rechteck& r) {
+        Pruefe(zrw::Flaechenpunkt{r.links, r.oben});
+        Pruefe(zrw::Flaechenpunkt{r.rechts, r.unten});
+    }
+};
+
+/// What opening does with a file of unknown origin.
+void PasseInsFenster(zrw::Liste& liste) {
+    liste.Weite = kWeite;
+    liste.Hoehe = kHoehe;
+    if (zrw::AnsichtBrauchbar(liste)) return;
+    liste.FindWorldMinMax();
+    liste.PasseEin();
+}
+
+void Pruefe(std::string_view eingabe) {
+    const zrw::Einstellungen einstellungen;
+    zrw::Netzangaben netz;
+    zrw::ByteLeser leser(eingabe);
+    const std::unique_ptr<zrw::Liste> liste = zrw::Liste::Load(leser, einstellungen, netz, "bild.zrw");
+    zrw::fuzz::Verlange(leser.Gut(), "Laden liest nicht ueber das Ende");
+    zrw::fuzz::PruefeListe(*liste);
+    zrw::fuzz::PruefeSpeichern(*liste, netz);
+    const double faktor = liste->Faktor;
+    liste->Findfaktor();  // with whatever picture size the file names
+    liste->Faktor = faktor;
+
+    Pruefflaeche flaeche;
+    zrw::Zeichenzustand zustand;
+    zustand.flaeche = &flaeche;
+    zrw::Figurenzeichner z(zustand, einstellungen);
+    PasseInsFenster(*liste);
+    liste->ShowPicture(z);
+    zrw::fuzz::Bediene(*liste, z);
+    zustand.modus = zrw::Zeichenmodus::Drucker;
+    zustand.Geraetefaktor = 6.25;
+    zustand.KurzeNummern = true;
+    liste->ShowPicture(z);
+    zrw::fuzz::Bearbeite(*liste, z);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
+    const std::string eingabe(daten, daten + groesse);
+    try {
+        Pruefe(eingabe);
+    } catch (const zrw::Fehler&) {  // refused with a message
+    }
+    return 0;
+}
