@@ -60,6 +60,13 @@ void Netzbauer::Trage() {
         if (w.standpunkt) standpunkt_ = w.p2;
         if (w.art == Art::Richtung) w.p1 = standpunkt_;
     }
+    // Two more rounds that decide nothing: what they touch is at hand when the lines are merged one by one.
+    for (Wartende& w : reihe) {
+        w.kante = liste_.FindKante(w.p1, w.p2);
+    }
+    for (Wartende& w : reihe) {
+        if (w.kante != nullptr) w.stil = w.kante->Item->LAttr;
+    }
     for (const Wartende& w : reihe) {
         if (!w.standpunkt) Fasse(w);
     }

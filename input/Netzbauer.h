@@ -43,6 +43,8 @@ class Netzbauer {
         PunktNummernTyp nach;
         PunktIndex p1 = kKeinPunkt;
         PunktIndex p2 = kKeinPunkt;
+        PPunktKante kante = nullptr;
+        LinieAttr stil = LinieAttr::Null;
     };
     Wartende& Reihe();
     void Fasse(const Wartende& w);

@@ -117,6 +117,9 @@ Steuerleser::Steuerleser(const std::filesystem::path& datei, const Dateien& date
       ellipsoid_(EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite)) {}
 
 Lesung Steuerleser::Lies() {
+    // A point or a line takes about so many bytes of a control file.
+    lesung_.liste->Erwarte(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
+                           std::min<std::size_t>(quelle_.Groesse() / 80, 200'000));
     try {
         while (!fertig_ && quelle_.Naechste(zeile_)) {
             const Satz* satz = LeseSchluessel(zeile_);

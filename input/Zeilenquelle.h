@@ -25,6 +25,8 @@ class Zeilenquelle {
     [[nodiscard]] bool OeffneEinfuegung(std::string_view name);
     [[nodiscard]] bool EinfuegungOffen() const { return eingefuegt_.offen; }
 
+    /// Size of the control file [bytes].
+    [[nodiscard]] std::size_t Groesse() const { return haupt_.inhalt.size(); }
     /// File name and line of the last line read, for messages.
     [[nodiscard]] std::string Datei() const { return PfadText(Aktuell().pfad.filename()); }
     [[nodiscard]] long Zeile() const { return Aktuell().nummer; }

@@ -1,5 +1,6 @@
 #include "model/Figurenindex.h"
 
+#include <algorithm>
 #include <random>
 #include <utility>
 
@@ -43,13 +44,26 @@ void Figurenindex::Auf(PunktString& t) {
 }
 
 void Figurenindex::Auf(PunktKante& k) {
+    neuesteKante_ = &k;
+    if (verkettet_) KetteAn(k);
+    nachPaar_.Setze({k.ANr, k.ENr}, &k);
+}
+
+void Figurenindex::Verkette() {
+    std::vector<PunktKante*> alle;
+    for (PunktKante* k = neuesteKante_; k != nullptr; k = k->Next)
+        alle.push_back(k);
+    std::for_each(alle.rbegin(), alle.rend(), [this](PunktKante* k) { KetteAn(*k); });
+    verkettet_ = true;
+}
+
+void Figurenindex::KetteAn(PunktKante& k) {
     k.naechsteAmStart_ = Hole(kantenAm_, k.ANr);
     Lege(kantenAm_, k.ANr, &k);
     if (k.ENr != k.ANr) {
         k.naechsteAmEnde_ = Hole(kantenAm_, k.ENr);
         Lege(kantenAm_, k.ENr, &k);
     }
-    nachPaar_.Setze({k.ANr, k.ENr}, &k);
 }
 
 void Figurenindex::Ab(PunktKnoten& p) {
@@ -80,6 +94,7 @@ void Figurenindex::Ab(PunktString& t) {
 }
 
 void Figurenindex::Ab(PunktKante& k) {
+    if (neuesteKante_ == &k) neuesteKante_ = k.Next;
     for (const PunktIndex nr : {k.ANr, k.ENr}) {
         PunktKante** zeiger = nr < kantenAm_.size() ? &kantenAm_[nr] : nullptr;
         while (zeiger != nullptr && *zeiger != nullptr && *zeiger != &k) {
@@ -118,7 +133,14 @@ void Figurenindex::LeereTexte() {
     nachNummer_.Leere();
 }
 
+void Figurenindex::Erwarte(std::size_t punkte, std::size_t kanten) {
+    nachNummer_.Erwarte(punkte);
+    nachPaar_.Erwarte(kanten);
+}
+
 void Figurenindex::LeereKanten() {
+    neuesteKante_ = nullptr;
+    verkettet_ = false;
     kantenAm_.clear();
     nachPaar_.Leere();
 }
@@ -127,7 +149,8 @@ PunktString* Figurenindex::FindeText(PunktIndex nr) const {
     return Hole(texte_, nr);
 }
 
-PunktKante* Figurenindex::ErsteKante(PunktIndex nr) const {
+PunktKante* Figurenindex::ErsteKante(PunktIndex nr) {
+    if (!verkettet_) Verkette();
     return Hole(kantenAm_, nr);
 }
 

@@ -46,6 +46,11 @@ class Streutafel {
         faecher_[i] = {};
         --belegt_;
     }
+    /// Makes room for so many entries at once.
+    void Erwarte(std::size_t anzahl) {
+        while (anzahl * 5 > faecher_.size() * 4)
+            Wachse();
+    }
     void Leere() {
         faecher_.clear();
         belegt_ = 0;
@@ -99,12 +104,15 @@ class Figurenindex {
     void Auf(PunktKnoten& p);
     void Auf(PunktString& t);
     void Auf(PunktKante& k);
-    /// `Ab` runs while the node still is in its list: an older figure of the same key takes its place.
+    /// An older figure of the same key takes the place of one that leaves. `Ab` runs while a point or label still
+    /// is in its list and after a line has left it; its `Next` is valid in either case.
     void Ab(PunktKnoten& p);
     void Ab(PunktString& t);
     void Ab(PunktKante& k);
     /// The line is about to swap its ends: its places among the lines of both points swap with them.
     static void Drehe(PunktKante& k);
+    /// Announces so many figures; saves growing on the way.
+    void Erwarte(std::size_t punkte, std::size_t kanten);
     void LeerePunkte();
     void LeereTexte();
     void LeereKanten();
@@ -123,7 +131,7 @@ class Figurenindex {
     /// The newest line between two points, in either orientation.
     [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const { return nachPaar_.Finde({a, b}); }
     /// The lines at a point, newest first: `for (k = ErsteKante(nr); k; k = NaechsteKante(*k, nr))`.
-    [[nodiscard]] PunktKante* ErsteKante(PunktIndex nr) const;
+    [[nodiscard]] PunktKante* ErsteKante(PunktIndex nr);
     [[nodiscard]] static PunktKante* NaechsteKante(const PunktKante& k, PunktIndex nr);
 
   private:
@@ -134,6 +142,12 @@ class Figurenindex {
     };
     std::vector<PunktKnoten*> punkte_;
     std::vector<PunktString*> texte_;
+    /// The lines at each point are chained when somebody first asks for them: reading a network never does.
+    void Verkette();
+    void KetteAn(PunktKante& k);
+
+    PunktKante* neuesteKante_ = nullptr;  ///< head of the list of lines
+    bool verkettet_ = false;
     std::vector<PunktKante*> kantenAm_;
     Streutafel<PunktNummernTyp, Texteintrag> nachNummer_;
     Streutafel<Punktpaar, PunktKante*> nachPaar_;

@@ -54,10 +54,9 @@ class PunktNummernTyp {
     static constexpr std::size_t kLaenge = 14;
 
     constexpr PunktNummernTyp() = default;
-    explicit constexpr PunktNummernTyp(std::string_view text)
+    explicit PunktNummernTyp(std::string_view text)
         : laenge_(static_cast<std::uint8_t>(std::min(text.size(), kLaenge))) {
-        for (std::size_t i = 0; i < laenge_; ++i)
-            zeichen_[i] = text[i];
+        if (laenge_ > 0) std::memcpy(zeichen_.data(), text.data(), laenge_);
     }
 
     [[nodiscard]] constexpr std::string_view Text() const { return {zeichen_.data(), laenge_}; }
