@@ -1,6 +1,6 @@
 // Main window: view, mouse and status line.
 #include <algorithm>
-#include <cmath>
+#include <cstdlib>
 #include <string>
 
 #include "model/Zahlentext.h"
@@ -44,7 +44,7 @@ void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     const double z = programm_.einstellungen.Zoomschritt;
     const double s = l.Faktor;
     const double danach = groesser ? s * z : s / z;
-    if (!(danach >= kFeinster && danach <= kGroebster) && std::isfinite(s) && s > 0) {
+    if (groesser ? danach < kFeinster : danach > kGroebster) {
         statusBar()->showMessage(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
         return;
     }
