@@ -104,8 +104,8 @@ class Figurenindex {
     void Auf(PunktKnoten& p);
     void Auf(PunktString& t);
     void Auf(PunktKante& k);
-    /// An older figure of the same key takes the place of one that leaves. `Ab` runs while a point or label still
-    /// is in its list and after a line has left it; its `Next` is valid in either case.
+    /// An older figure of the same key takes the place of one that leaves. `Ab` runs while a point or label
+    /// still is in its list and after a line has left it; its `Next` is valid in either case.
     void Ab(PunktKnoten& p);
     void Ab(PunktString& t);
     void Ab(PunktKante& k);

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Installs the Debian packages that a script needs; to be sourced. Does nothing, and says nothing, where all are there.
 # usage: brauche PAKET...
 brauche() {
