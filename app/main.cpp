@@ -49,7 +49,7 @@ int Fenster(const Aufruf& aufruf) {
     return QApplication::exec();
 }
 
-/// Batch output is our own lines only; what Qt says about a missing session helps nobody there.
+/// Batch output is our own lines only; what Qt says about a missing desktop helps nobody there.
 void Verschweige(QtMsgType /*art*/, const QMessageLogContext& /*stelle*/, const QString& /*text*/) {}
 
 }  // namespace
