@@ -88,6 +88,7 @@ constexpr std::array<Option, 6> kOptionen{{
 Aufruf LiesAufruf(const std::vector<std::string>& worte) {
     Aufruf a;
     bool nurNamen = false;
+    bool mitOption = false;
     for (std::size_t i = 0; i < worte.size(); ++i) {
         const std::string& wort = worte[i];
         if (nurNamen || wort.size() < 2 || wort[0] != '-') {
@@ -111,9 +112,11 @@ Aufruf LiesAufruf(const std::vector<std::string>& worte) {
             if (o == kOptionen.end()) throw Falschaufruf{"Unbekannte Option \"" + name + "\""};
             if (gleich == std::string::npos && i + 1 >= worte.size())
                 throw Falschaufruf{name + " erwartet einen Wert"};
+            mitOption = true;
             o->lies(a, gleich == std::string::npos ? worte[++i] : wort.substr(gleich + 1));
         }
     }
+    if (a.auftrag == Auftrag::Fenster && mitOption) throw Falschaufruf{"Optionen gelten nur mit --export"};
     if (a.auftrag == Auftrag::Stapel && a.datei.empty()) throw Falschaufruf{"Es fehlt der Name der Datei"};
     return a;
 }

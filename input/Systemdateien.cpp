@@ -165,6 +165,9 @@ void Systemdateien::Ersetze(const fs::path& datei, std::string_view inhalt) {
     const fs::path ziel = fehler ? datei : echt;
     if (fs::is_directory(ziel, fehler))
         throw Fehler("Kann Datei nicht schreiben (ist ein Ordner).", PfadText(datei));
+    // Renaming onto a device or a pipe would take it away from the whole system.
+    if (fs::exists(ziel, fehler) && !fs::is_regular_file(ziel, fehler))
+        throw Fehler("Kann Datei nicht schreiben (keine gewöhnliche Datei).", PfadText(datei));
     const fs::path daneben = NameDaneben(ziel, laufend_);
     try {
         Schreibe(daneben, inhalt);

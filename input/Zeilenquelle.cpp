@@ -23,6 +23,8 @@ Zeilenquelle::Zeilenquelle(const std::filesystem::path& steuerdatei, const Datei
     haupt_.pfad = steuerdatei;
     haupt_.inhalt = dateien.Lies(steuerdatei, kMaxDatei);
     haupt_.offen = true;
+    // Editors put this mark before UTF-8 text; it must not hide the first key.
+    if (haupt_.inhalt.starts_with("\xEF\xBB\xBF")) haupt_.stelle = 3;
 }
 
 bool Zeilenquelle::Naechste(std::string_view& zeile) {

@@ -8,6 +8,11 @@
 
 namespace zrw {
 
+QString MitEndung(const QString& name, const QString& endung) {
+    const QString schluss = QLatin1Char('.') + endung;
+    return endung.isEmpty() || name.endsWith(schluss, Qt::CaseInsensitive) ? name : name + schluss;
+}
+
 void QtDialogdienst::Melde(const QString& text) {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Zarwik"), text, QMessageBox::Ok, eltern_);
     box.setTextFormat(Qt::PlainText);
@@ -17,7 +22,8 @@ void QtDialogdienst::Melde(const QString& text) {
 bool QtDialogdienst::Frage(const QString& text) {
     QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, eltern_);
     const auto* ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
-    box.addButton(QStringLiteral("&Nein"), QMessageBox::NoRole);
+    // Not QMessageBox::NoRole: Escape would press that, and a plot would be gone for one key too many.
+    box.addButton(QStringLiteral("&Nein"), QMessageBox::DestructiveRole);
     box.exec();
     return box.clickedButton() == ja;
 }
@@ -31,10 +37,16 @@ std::optional<QString> QtDialogdienst::WaehleZumOeffnen(const Dateiwahl& wahl) {
 std::optional<QString> QtDialogdienst::WaehleZumSpeichern(const Dateiwahl& wahl) {
     QFileDialog dialog(eltern_, wahl.titel, wahl.ordner, wahl.filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(wahl.endung);
+    // The question about replacing must name the file that is written, so it is asked here, with the
+    // extension.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.selectFile(wahl.vorschlag);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return dialog.selectedFiles().front();
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString name = MitEndung(dialog.selectedFiles().front(), wahl.endung);
+        const QString frage = QStringLiteral("%1 ist bereits vorhanden. Ersetzen?");
+        if (!QFileInfo::exists(name) || Frage(frage.arg(QDir::toNativeSeparators(name)))) return name;
+    }
+    return std::nullopt;
 }
 
 }  // namespace zrw

@@ -18,6 +18,10 @@ struct Dateiwahl {
     QString endung;     ///< added where the user gives none, for saving
 };
 
+/// The name with ".ENDUNG" behind it unless it ends so already, in any case. A name may have other dots:
+/// "Netz.2024" becomes "Netz.2024.ZRW".
+[[nodiscard]] QString MitEndung(const QString& name, const QString& endung);
+
 class Dialogdienst {
   public:
     virtual ~Dialogdienst() = default;

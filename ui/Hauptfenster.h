@@ -104,7 +104,6 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
-    Bildpunkt maus_;
     QString ordner_;                     ///< of the last file
     std::filesystem::path steuerdatei_;  ///< last control file, proposes the name for saving
 };

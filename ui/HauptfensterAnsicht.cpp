@@ -94,7 +94,6 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
 
 void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
     if (liste_ == nullptr) return;
-    maus_ = ort;
     if (gedrueckt_ != nullptr) gedrueckt_->Ziehen(ort);
     ZeigeStatus(ort);
 }
@@ -108,7 +107,6 @@ void TZrwMainDlg::ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) {
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
     if (liste_ == nullptr || gedrueckt_ != nullptr) return;
-    maus_ = ort;
     // Turning down enlarges, turning up shrinks.
     const int anzahl = std::min(std::abs(schritte), 10);
     for (int i = 0; i < anzahl; ++i)

@@ -102,7 +102,7 @@ pruefe "alle gemeldet" test "$(grep -c 'Lesefehler bei Punkt' stderr)" -eq 30
 pruefe "Rest geschrieben" test "$(stat -c %s aus/punkte.ZRW)" -eq $((84 + 41 + 54))
 
 for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groesse 5x5 x" "--groesse 99999x800 x" \
-    "--ein nichts x" "--export zrw a b"; do
+    "--ein nichts x" "--export zrw a b" "--groesse 800x600 x"; do
     # shellcheck disable=SC2086
     erwarte 2 "falscher Aufruf $falsch" $falsch
     pruefe "$falsch: eine Zeile" test "$(wc -l <stderr)" -eq 1

@@ -138,6 +138,8 @@ TEST_F(Steuerdatei, OeffnenPasstEinUndSagtWasFehlt) {
         "$NT 1\n$FP A              1 3412345 5601000\n    B              1 3418765 5602000\n";
     EXPECT_DOUBLE_EQ(oeffne("N.EIN").liste->Faktor, 8000.0 / 500);
     dateien.dateien["L.EIN"] = "$CC nichts\n";
+    dateien.dateien["B.EIN"] = "\xEF\xBB\xBF" + dateien.dateien["N.EIN"];
+    EXPECT_EQ(oeffne("B.EIN").liste->MaxPkte, 2) << "a byte order mark does not hide the first key";
     EXPECT_EQ(oeffne("L.EIN").liste->Faktor, 1.0);
     EXPECT_EQ(meldungen.size(), 1U) << "an empty network is told";
     // A picture file changes the network type only; a view that shows nothing is fitted anew.

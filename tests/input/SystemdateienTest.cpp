@@ -75,9 +75,16 @@ TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
     for (const fs::path& ziel : {ordner / "Unter\xC3\x84", ordner / "fehlt" / "x", ordner / "alt" / "x"}) {
         EXPECT_THROW(dateien.Ersetze(ziel, "neu"), Fehler) << ziel;
     }
+    // A pipe stays a pipe, by its own name and by a link to it.
+    ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
+    fs::create_symlink("rohr", ordner / "verweis");
+    for (const char* ziel : {"rohr", "verweis"}) {
+        EXPECT_THROW(dateien.Ersetze(ordner / ziel, "neu"), Fehler) << ziel;
+        EXPECT_TRUE(fs::is_fifo(ordner / ziel)) << ziel;
+    }
     EXPECT_EQ(Inhalt("alt"), "vorher");
     // Nothing is left beside.
-    EXPECT_EQ(std::distance(fs::directory_iterator(ordner), fs::directory_iterator()), 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(ordner), fs::directory_iterator()), 4);
 }
 
 TEST_F(Systemdatei, FindetInJederSchreibweise) {

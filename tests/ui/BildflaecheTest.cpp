@@ -10,6 +10,7 @@
 #include "input/Oeffnen.h"
 #include "input/Systemdateien.h"
 #include "output/Figurenzeichner.h"
+#include "ui/Dialogdienst.h"
 #include "ui/Einstellungsablage.h"
 
 namespace zrw {
@@ -64,6 +65,15 @@ TEST(BildflaecheTest, SchriftIstMetrischArial) {
     // Advance widths of Arial at 11 px, rounded by the hinting: digits 6, "W" 10 or 11.
     EXPECT_EQ(flaeche.Textbreite("0123456789"), 60);
     EXPECT_EQ(flaeche.Textbreite("\xFC"), flaeche.Textbreite("u")) << "code page 1252";
+}
+
+TEST(DialogdienstTest, EndungAuchHinterAnderenPunkten) {
+    for (const auto& [name, erwartet] : {std::pair{"Netz", "Netz.ZRW"},
+                                         {"Netz.2024", "Netz.2024.ZRW"},
+                                         {"a/b.zrw", "a/b.zrw"},
+                                         {"ZRW", "ZRW.ZRW"}}) {
+        EXPECT_EQ(MitEndung(name, "ZRW"), erwartet);
+    }
 }
 
 TEST(EinstellungsablageTest, IniDateiMitAbschnittUndTexten) {
