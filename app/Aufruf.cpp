@@ -11,10 +11,6 @@
 namespace zrw {
 namespace {
 
-// Smaller pictures leave no room beside the margin that fitting keeps, larger ones no memory.
-constexpr std::int64_t kKleinste = 100;
-constexpr std::int64_t kGroesste = 16384;
-
 std::vector<std::string> Aufteilen(const std::string& liste) {
     std::vector<std::string> teile;
     std::size_t anfang = 0;
@@ -31,7 +27,7 @@ Bildgroesse LiesGroesse(const std::string& text) {
     if (x != std::string::npos) {
         const auto weite = LiesGanz(std::string_view(text).substr(0, x));
         const auto hoehe = LiesGanz(std::string_view(text).substr(x + 1));
-        const auto geht = [](const auto& v) { return v && *v >= kKleinste && *v <= kGroesste; };
+        const auto geht = [](const auto& v) { return v && BrauchbareGroesse(*v); };
         if (geht(weite) && geht(hoehe))
             return {static_cast<std::int32_t>(*weite), static_cast<std::int32_t>(*hoehe)};
     }

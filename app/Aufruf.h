@@ -1,6 +1,7 @@
 // The command line, taken apart. Knows no files and no window.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -8,6 +9,12 @@
 #include "input/Oeffnen.h"
 
 namespace zrw {
+
+/// A width or height that a picture may have [px]. Smaller ones leave no room beside the margin that fitting
+/// keeps, larger ones no memory.
+[[nodiscard]] constexpr bool BrauchbareGroesse(std::int64_t v) {
+    return v >= 100 && v <= 16384;
+}
 
 enum class Auftrag { Fenster, Stapel, Hilfe, Version };
 

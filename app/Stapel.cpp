@@ -15,9 +15,6 @@ namespace zrw {
 namespace {
 
 constexpr Bildgroesse kUebliche{1200, 800};
-/// A stored picture size is used only where it could be that of a window.
-constexpr std::int32_t kKleinste = 100;
-constexpr std::int32_t kGroesste = 16384;
 
 void Drucke(const std::string& text) {
     std::fprintf(stderr, "%s\n", text.c_str());
@@ -47,8 +44,8 @@ void SetzeSchalter(const Aufruf& aufruf, Liste& liste, Zeichenzustand& zustand) 
 }
 
 void SetzeGroesse(const Aufruf& aufruf, Liste& liste) {
-    const auto brauchbar = [](std::int32_t v) { return v >= kKleinste && v <= kGroesste; };
-    if (!aufruf.groesse && brauchbar(liste.Weite) && brauchbar(liste.Hoehe)) return;
+    // A stored picture size is used only where it could be that of a window.
+    if (!aufruf.groesse && BrauchbareGroesse(liste.Weite) && BrauchbareGroesse(liste.Hoehe)) return;
     const Bildgroesse g = aufruf.groesse.value_or(kUebliche);
     liste.Weite = g.weite;
     liste.Hoehe = g.hoehe;
