@@ -35,7 +35,7 @@ class Speicher final : public Dateien {
         if (i == kNamen.size() || inhalte_[i].size() > grenze) throw Fehler("nicht lesbar", PfadText(datei));
         return std::string(inhalte_[i]);
     }
-    void Ersetze(const std::filesystem::path& datei, std::string_view /*inhalt*/) override {
+    [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
         throw Fehler("nur zum Lesen", PfadText(datei));
     }
     /// Ends the supply after some megabytes: one input may include a file again and again, which is no hang

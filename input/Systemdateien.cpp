@@ -82,7 +82,7 @@ bool AufPlatte(std::FILE* f) {
     return ::fsync(::fileno(f)) == 0;
 }
 void OrdnerAufPlatte(const fs::path& ordner) {
-    const int fd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int fd = ::open(ordner.empty() ? "." : ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd < 0) return;
     (void)::fsync(fd);  // the file is whole already; some file systems refuse this for folders
     ::close(fd);
@@ -102,16 +102,51 @@ fs::path NameDaneben(const fs::path& ziel, unsigned& laufend) {
     }
 }
 
-void Schreibe(const fs::path& datei, std::string_view inhalt) {
-    constexpr const char* kText = "Kann Datei nicht schreiben";
-    Strom strom = Oeffne(datei, true);
-    if (strom == nullptr) Wirf(kText, datei, errno);
-    const bool ganz = std::fwrite(inhalt.data(), 1, inhalt.size(), strom.get()) == inhalt.size() &&
-                      std::fflush(strom.get()) == 0 && AufPlatte(strom.get());
-    const int nummer = errno;
-    if (!ganz) Wirf(kText, datei, nummer);
-    if (std::fclose(strom.release()) != 0) Wirf(kText, datei, errno);
-}
+/// Writes a file beside its target and renames it.
+class Schreiber final : public Dateischreiber {
+  public:
+    /// @param genannt the target as the user called it, for messages
+    Schreiber(const fs::path& genannt, fs::path ziel, fs::path daneben)
+        : genannt_(genannt), ziel_(std::move(ziel)), daneben_(std::move(daneben)) {
+        strom_ = Oeffne(daneben_, true);
+        if (strom_ == nullptr) Wirf(kText, genannt_, errno);
+        // Callers hand over large pieces; a second buffer would only copy them.
+        std::setvbuf(strom_.get(), nullptr, _IONBF, 0);
+        liegtDaneben_ = true;
+    }
+    ~Schreiber() override {
+        strom_.reset();
+        std::error_code fehler;
+        if (liegtDaneben_) fs::remove(daneben_, fehler);
+    }
+    Schreiber(const Schreiber&) = delete;
+    Schreiber& operator=(const Schreiber&) = delete;
+
+    void Schreibe(std::string_view bytes) override {
+        if (std::fwrite(bytes.data(), 1, bytes.size(), strom_.get()) != bytes.size())
+            Wirf(kText, genannt_, errno);
+    }
+    void Sichere() override {
+        if (!AufPlatte(strom_.get()) || std::fclose(strom_.release()) != 0) Wirf(kText, genannt_, errno);
+    }
+    void Uebernimm() override {
+        std::error_code fehler;
+        const fs::file_status alt = fs::status(ziel_, fehler);
+        if (fs::exists(alt)) fs::permissions(daneben_, alt.permissions(), fehler);
+        fs::rename(daneben_, ziel_, fehler);
+        if (fehler) Wirf(kText, genannt_, fehler.value());
+        liegtDaneben_ = false;
+        OrdnerAufPlatte(ziel_.parent_path());
+    }
+
+  private:
+    static constexpr const char* kText = "Kann Datei nicht schreiben";
+    fs::path genannt_;
+    fs::path ziel_;
+    fs::path daneben_;
+    Strom strom_;
+    bool liegtDaneben_ = false;
+};
 
 /// Lower case of the letters that German file names use: ASCII and the Latin-1 letters, UTF-8.
 std::string Klein(std::string text) {
@@ -159,27 +194,17 @@ std::string Systemdateien::Lies(const fs::path& datei, std::size_t grenze) const
     return inhalt;
 }
 
-void Systemdateien::Ersetze(const fs::path& datei, std::string_view inhalt) {
+std::unique_ptr<Dateischreiber> Systemdateien::Beginne(const fs::path& datei) {
     std::error_code fehler;
     const fs::path echt = fs::weakly_canonical(datei, fehler);
-    const fs::path ziel = fehler ? datei : echt;
+    fs::path ziel = fehler ? datei : echt;
     if (fs::is_directory(ziel, fehler))
         throw Fehler("Kann Datei nicht schreiben (ist ein Ordner).", PfadText(datei));
     // Renaming onto a device or a pipe would take it away from the whole system.
     if (fs::exists(ziel, fehler) && !fs::is_regular_file(ziel, fehler))
         throw Fehler("Kann Datei nicht schreiben (keine gewöhnliche Datei).", PfadText(datei));
-    const fs::path daneben = NameDaneben(ziel, laufend_);
-    try {
-        Schreibe(daneben, inhalt);
-        const fs::file_status alt = fs::status(ziel, fehler);
-        if (fs::exists(alt)) fs::permissions(daneben, alt.permissions(), fehler);
-        fs::rename(daneben, ziel, fehler);
-        if (fehler) Wirf("Kann Datei nicht schreiben", datei, fehler.value());
-    } catch (const Fehler& f) {
-        fs::remove(daneben, fehler);
-        throw Fehler(f.Text(), PfadText(datei));
-    }
-    OrdnerAufPlatte(ziel.parent_path());
+    fs::path daneben = NameDaneben(ziel, laufend_);
+    return std::make_unique<Schreiber>(datei, std::move(ziel), std::move(daneben));
 }
 
 std::optional<fs::path> Systemdateien::Finde(const fs::path& ordner, const std::string& name) const {

@@ -4,11 +4,26 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace zrw {
+
+/// A file that is being written beside the one whose place it takes at the end. Dropped before `Uebernimm`,
+/// it leaves no trace.
+class Dateischreiber {
+  public:
+    virtual ~Dateischreiber() = default;
+    /// Appends. @throws Fehler
+    virtual void Schreibe(std::string_view bytes) = 0;
+    /// Brings everything written onto the disk; nothing is written afterwards. @throws Fehler
+    virtual void Sichere() = 0;
+    /// Takes the place, after `Sichere`: at every moment the name holds the old content or the new one.
+    /// @throws Fehler; the old file then is as it was
+    virtual void Uebernimm() = 0;
+};
 
 class Dateien {
   public:
@@ -19,9 +34,16 @@ class Dateien {
     /// @throws Fehler where it is larger or reading fails
     [[nodiscard]] virtual std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const = 0;
 
-    /// Puts a file in place as a whole: at every moment its name holds the old content or the new one.
-    /// @throws Fehler; the old file then is as it was
-    virtual void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) = 0;
+    /// Begins a new content for a file.
+    /// @throws Fehler where it could not be written; the old file then is as it was
+    [[nodiscard]] virtual std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) = 0;
+    /// Puts a whole content in place at once. @throws Fehler as `Dateischreiber` does
+    void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) {
+        const auto neu = Beginne(datei);
+        neu->Schreibe(inhalt);
+        neu->Sichere();
+        neu->Uebernimm();
+    }
 
     /// The file of this name in a folder, an exact match first, else without regard to case.
     [[nodiscard]] virtual std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,

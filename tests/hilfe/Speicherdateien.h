@@ -18,7 +18,7 @@ namespace zrw {
 class Speicherdateien final : public Dateien {
   public:
     std::map<std::string, std::string> dateien;  ///< normal UTF-8 path -> bytes
-    bool voll = false;                           ///< every `Ersetze` fails and leaves the old file
+    std::size_t platz = SIZE_MAX;                ///< bytes that can be written before the disk is full
 
     [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
         const auto stelle = dateien.find(Schluessel(datei));
@@ -31,9 +31,8 @@ class Speicherdateien final : public Dateien {
         }
         return stelle->second;
     }
-    void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) override {
-        if (voll) throw Fehler("Kann Datei nicht schreiben (Datenträger voll).", PfadText(datei));
-        dateien[Schluessel(datei)] = inhalt;
+    [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
+        return std::make_unique<Schreiber>(*this, Schluessel(datei));
     }
     [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
                                                              const std::string& name) const override {
@@ -48,6 +47,24 @@ class Speicherdateien final : public Dateien {
     }
 
   private:
+    class Schreiber final : public Dateischreiber {
+      public:
+        Schreiber(Speicherdateien& dateien, std::string name) : dateien_(dateien), name_(std::move(name)) {}
+        void Schreibe(std::string_view bytes) override {
+            if (bytes.size() > dateien_.platz)
+                throw Fehler("Kann Datei nicht schreiben (Datenträger voll).", name_);
+            dateien_.platz -= bytes.size();
+            inhalt_ += bytes;
+        }
+        void Sichere() override {}
+        void Uebernimm() override { dateien_.dateien[name_] = std::move(inhalt_); }
+
+      private:
+        Speicherdateien& dateien_;
+        std::string name_;
+        std::string inhalt_;
+    };
+
     static std::string Schluessel(const std::filesystem::path& p) { return PfadText(p.lexically_normal()); }
     static std::string Klein(std::string text) {
         for (char& c : text) {

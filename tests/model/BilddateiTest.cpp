@@ -186,7 +186,7 @@ TEST(Bilddatei, WasNichtPasstLaesstDieAlteDateiStehen) {
     for (const auto& [punkte, kanten] : {std::pair{65536, 2}, {3, 65536}, {4, 2}, {3, 1}, {3, 2}}) {
         Dateinetz n;
         n.d.dateien[kName] = "alt";
-        n.d.voll = kanten == punkte - 1;
+        n.d.platz = kanten == punkte - 1 ? 0 : SIZE_MAX;
         n.l.MaxPkte = punkte;
         n.l.MaxKant = kanten;
         EXPECT_THROW(n.Schreibe(n.l), Fehler) << punkte << " " << kanten;
