@@ -11,7 +11,10 @@
 #include "fuzz/Proben.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
+#include "output/Export.h"
 #include "output/Figurenzeichner.h"
+#include "tests/hilfe/Festuhr.h"
+#include "tests/hilfe/Speicherdateien.h"
 
 namespace {
 
@@ -35,14 +38,18 @@ class Pruefflaeche final : public zrw::Zeichenflaeche {
     void Fuelle(const zrw::Rechteck& r, zrw::Farbe /*farbe*/) override { Pruefe(r); }
     void Text(zrw::Flaechenpunkt ort, std::string_view text, zrw::Farbe /*farbe*/) override {
         Pruefe(ort);
-        zrw::fuzz::Verlange(text.size() <= zrw::PunktNummernTyp::kLaenge, "kein Text ist zu lang");
+        zrw::fuzz::Verlange(text.size() <= kLaengsterText, "kein Text ist zu lang");
     }
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override {
         return static_cast<std::int32_t>(text.size()) * 6;
     }
     [[nodiscard]] std::int32_t Texthoehe() const override { return 13; }
+    [[nodiscard]] std::int32_t Schriftgrad() const override { return 8; }
+    [[nodiscard]] std::int32_t Schrifthoehe() const override { return 11; }
 
   private:
+    static constexpr std::size_t kLaengsterText = 40;  // the title of the legend with its time
+
     static void Pruefe(zrw::Flaechenpunkt p) {
         constexpr std::int32_t kReichweite = 20000;
         zrw::fuzz::Verlange(
@@ -64,6 +71,40 @@ void PasseInsFenster(zrw::Liste& liste) {
     liste.PasseEin();
 }
 
+/// Number of lines of a file, each of which must end in CR LF and pass the check.
+template <class Pruefung>
+std::size_t PruefeZeilen(std::string_view datei, Pruefung pruefung) {
+    std::size_t zeilen = 0;
+    while (!datei.empty()) {
+        const std::size_t ende = datei.find("\r\n");
+        zrw::fuzz::Verlange(ende != std::string_view::npos, "jede Zeile hat ihr Ende");
+        pruefung(datei.substr(0, ende), zeilen++);
+        datei.remove_prefix(ende + 2);
+    }
+    return zeilen;
+}
+
+/// Whatever the network holds, both files keep their form, and the network stays as it is.
+void PruefeExport(zrw::Liste& liste, zrw::Zeichner& z, zrw::Zeichenzustand& zustand) {
+    zrw::ByteSchreiber vorher;
+    liste.Store(vorher, {});
+    zrw::Speicherdateien dateien;
+    const double faktor = zrw::Druckfaktor(25000, 600);
+    zrw::Exportiere(liste, z, zustand, dateien, {faktor, zrw::kPlotname, zrw::kDxfname});
+    const std::size_t zeilen =
+        PruefeZeilen(dateien.dateien[zrw::kDxfname], [](std::string_view zeile, std::size_t nummer) {
+            zrw::fuzz::Verlange(nummer % 2 == 1 || (zeile.size() == 3 && zeile[2] >= '0' && zeile[2] <= '9'),
+                                "jede zweite Zeile ist ein Gruppencode");
+        });
+    zrw::fuzz::Verlange(zeilen % 2 == 0, "die Zeichnung besteht aus Paaren");
+    PruefeZeilen(dateien.dateien[zrw::kPlotname], [](std::string_view zeile, std::size_t /*nummer*/) {
+        zrw::fuzz::Verlange(zeile.ends_with("PU;") || zeile.ends_with("PU; LT;"), "der Stift ist oben");
+    });
+    zrw::ByteSchreiber nachher;
+    liste.Store(nachher, {});
+    zrw::fuzz::Verlange(vorher.Inhalt() == nachher.Inhalt(), "der Export aendert nichts");
+}
+
 void Pruefe(std::string_view eingabe) {
     const zrw::Einstellungen einstellungen;
     zrw::Netzangaben netz;
@@ -79,14 +120,18 @@ void Pruefe(std::string_view eingabe) {
     Pruefflaeche flaeche;
     zrw::Zeichenzustand zustand;
     zustand.flaeche = &flaeche;
-    zrw::Figurenzeichner z(zustand, einstellungen);
+    const zrw::Festuhr uhr;
+    zrw::Figurenzeichner z(zustand, einstellungen, netz, uhr);
     PasseInsFenster(*liste);
+    liste->ShowGitter = liste->ShowKMQ = liste->ShowLegende = true;
+    netz.Abbildungsmodus = static_cast<std::uint8_t>(netz.Netztyp & 3);
     liste->ShowPicture(z);
     zrw::fuzz::Bediene(*liste, z);
     zustand.modus = zrw::Zeichenmodus::Drucker;
     zustand.Geraetefaktor = 6.25;
     zustand.KurzeNummern = true;
     liste->ShowPicture(z);
+    PruefeExport(*liste, z, zustand);
     zrw::fuzz::Bearbeite(*liste, z);
 }
 

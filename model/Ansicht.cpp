@@ -39,11 +39,10 @@ void Liste::Findfaktor() {
 }
 
 void Liste::WeltinBild() {
-    const double links = MinXW + XOffset;
-    const double oben = MaxYW + YOffset;
     for (zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
-        p->Item->XO = RundeZuInt64((p->XWPu - links) / Faktor);
-        p->Item->YO = RundeZuInt64((oben - p->YWPu) / Faktor);
+        const Bildpunkt b = Bildort({p->XWPu, p->YWPu});
+        p->Item->XO = b.x;
+        p->Item->YO = b.y;
     }
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
         if (const zrw::PunktKnoten* a = SuchPkt(k->ANr); a != nullptr) {
@@ -66,6 +65,11 @@ void Liste::WeltinBild() {
 Welt Liste::BildinWelt(Bildpunkt b) const {
     return {MinXW + XOffset + static_cast<double>(b.x) * Faktor,
             MaxYW + YOffset - static_cast<double>(b.y) * Faktor};
+}
+
+Bildpunkt Liste::Bildort(Welt w) const {
+    return {RundeZuInt64((w.rechts - (MinXW + XOffset)) / Faktor),
+            RundeZuInt64((MaxYW + YOffset - w.hoch) / Faktor)};
 }
 
 void Liste::PasseEin() {

@@ -148,6 +148,8 @@ class Liste {
     /// The line whose segment passes within the catch radius of the mouse; the distance counts in whole
     /// pixels, so that 5.9 px is caught with a radius of 5.
     [[nodiscard]] PPunktKante PickKante(Bildpunkt maus) const;
+    /// Whether a position lies within the catch radius of the mouse.
+    [[nodiscard]] bool Gefangen(Bildpunkt maus, Bildpunkt ort) const;
     /// Marks the legend as being dragged if its corner is caught.
     void MausLegende(Bildpunkt maus);
     /// The part of `Alles` that draws nothing. Leaves the view of an empty list alone.
@@ -159,6 +161,8 @@ class Liste {
     [[nodiscard]] bool Dargestellt(const Punkt& p) const;
     /// World position of a picture position.
     [[nodiscard]] Welt BildinWelt(Bildpunkt b) const;
+    /// Picture position of a world position, rounded to whole pixels.
+    [[nodiscard]] Bildpunkt Bildort(Welt w) const;
     [[nodiscard]] const Einstellungen& Anzeige() const { return einstellungen_; }
 
   private:
@@ -176,7 +180,6 @@ class Liste {
     };
 
     void ZeichneFiguren(Zeichner& z);
-    [[nodiscard]] bool Gefangen(Bildpunkt maus, Bildpunkt ort) const;
 
     const Einstellungen& einstellungen_;
     Arena<PunktPlatz> punktArena_;

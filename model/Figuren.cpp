@@ -177,11 +177,11 @@ void PktText::Done(Zeichner& z) {
 }
 
 void PktText::Show(Zeichner& z) {
-    if (Visible && Zeichenbar(*this)) z.ZeichneText(*this, Gang::Zeigen);
+    if (Visible) z.ZeichneText(*this, Gang::Zeigen);
 }
 
 void PktText::Hide(Zeichner& z) {
-    if (Zeichenbar(*this)) z.ZeichneText(*this, Gang::Wischen);
+    z.ZeichneText(*this, Gang::Wischen);
     Visible = false;
 }
 

@@ -2,6 +2,8 @@
 // needs it after a picture file was opened.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace zrw {
@@ -14,5 +16,12 @@ struct Netzangaben {
     double XVersatz = 0.0;             ///< offset of every northing read [m]
     double YVersatz = 0.0;             ///< offset of every easting read [m]
 };
+
+/// Whether the coordinates of a network type lie in the grid of the map sheets. Networks of other types have
+/// neither sheets nor kilometre squares.
+[[nodiscard]] constexpr bool HatKartengitter(std::int32_t netztyp) {
+    constexpr std::array<std::int32_t, 6> kMitGitter{2, 3, 4, 6, 7, 51};
+    return std::find(kMitGitter.begin(), kMitGitter.end(), netztyp) != kMitGitter.end();
+}
 
 }  // namespace zrw

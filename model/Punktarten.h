@@ -1,4 +1,4 @@
-// The one table of the point kinds: control-file key, caption, colour setting and display switch.
+// The one table of the point kinds: control-file key, captions, colour setting and display switch.
 #pragma once
 
 #include <array>
@@ -14,16 +14,17 @@ struct Punktart {
     PunktArt art;
     std::string_view kuerzel;      ///< as in the control file and on the check boxes
     std::string_view bezeichnung;  ///< German, UTF-8
+    std::string_view legende;      ///< in the key of the legend, UTF-8
     Farbe Einstellungen::*farbe;
     bool Liste::*schalter;
 };
 
 /// In the order of the enumeration.
 inline constexpr std::array<Punktart, 4> kPunktarten{{
-    {PunktArt::FP, "FP", "Festpunkt", &Einstellungen::FPCol, &Liste::ShowFP},
-    {PunktArt::FL, "FL", "Lagefestpunkt", &Einstellungen::FLCol, &Liste::ShowFL},
-    {PunktArt::FH, "FH", "Höhenfestpunkt", &Einstellungen::FHCol, &Liste::ShowFH},
-    {PunktArt::NP, "NP", "Neupunkt", &Einstellungen::NPCol, &Liste::ShowNP},
+    {PunktArt::FP, "FP", "Festpunkt", "Anschlußpunkt 2D,3D", &Einstellungen::FPCol, &Liste::ShowFP},
+    {PunktArt::FL, "FL", "Lagefestpunkt", "Anschlußpunkt 2D", &Einstellungen::FLCol, &Liste::ShowFL},
+    {PunktArt::FH, "FH", "Höhenfestpunkt", "Anschlußpunkt Höhe", &Einstellungen::FHCol, &Liste::ShowFH},
+    {PunktArt::NP, "NP", "Neupunkt", "Neupunkt", &Einstellungen::NPCol, &Liste::ShowNP},
 }};
 
 [[nodiscard]] constexpr const Punktart& ZurArt(PunktArt art) {

@@ -1,10 +1,13 @@
 #include "output/Figurenzeichner.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 
+#include "model/FigListe.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
+#include "output/Kartengitter.h"
+#include "output/Legendenbild.h"
 
 namespace zrw {
 namespace {
@@ -12,77 +15,146 @@ namespace {
 /// Characters that short numbers leave out at the front.
 constexpr std::size_t kKurzeStelle = 4;
 
+// Sizes in the drawing are in metres of the world: it has no scale of its own.
+constexpr double kDxfRadius = 2.0;
+constexpr double kDxfTexthoehe = 2.0;
+constexpr double kDxfTextabstand = 2.0;
+constexpr double kDxfQuerstrich = 1.0;  ///< to each side
+
 /// Square round a position, reaching `r` dots to each side.
 Rechteck Umkreis(Flaechenpunkt m, std::int32_t r) {
     return {m.x - r, m.y - r, m.x + r, m.y + r};
 }
 
-void Kreuz(Zeichenflaeche& f, Flaechenpunkt m, std::int32_t r) {
-    f.Linie({m.x - r, m.y}, {m.x + r, m.y});
-    f.Linie({m.x, m.y - r}, {m.x, m.y + r});
+Dxfart Kantenart(bool gestrichelt) {
+    return {dxf::kBeobachtungen, gestrichelt ? dxf::kGestrichelt : dxf::kDurchgezogen};
 }
 
-void Raute(Zeichenflaeche& f, Flaechenpunkt m, std::int32_t quer, std::int32_t laengs) {
-    f.Vieleck(std::array<Flaechenpunkt, 4>{
-        {{m.x, m.y - laengs}, {m.x + quer, m.y}, {m.x, m.y + laengs}, {m.x - quer, m.y}}});
-}
-
-void Dreieck(Zeichenflaeche& f, Flaechenpunkt m, std::int32_t r) {
-    f.Vieleck(std::array<Flaechenpunkt, 3>{{{m.x, m.y - r}, {m.x + r, m.y + r}, {m.x - r, m.y + r}}});
-}
+constexpr Dxfart kPunktart{dxf::kPunkte};
+constexpr Dxfart kTextart{dxf::kPunktnummern};
 
 }  // namespace
+
+Plotdatei* Figurenzeichner::Plot(Gang gang) const {
+    return zustand_.ExportActive && gang == Gang::Zeigen ? zustand_.PlotFile : nullptr;
+}
+
+DXFUnit* Figurenzeichner::Dxf(Gang gang) const {
+    const bool offen = zustand_.Dxf != nullptr && zustand_.Dxf->DxfIsOpen();
+    return offen && gang == Gang::Zeigen ? zustand_.Dxf : nullptr;
+}
+
+/// World position of a dot of the export. Rounded to dots, as the plot is: both files then agree.
+Dxfpunkt Figurenzeichner::Weltort(Bildpunkt b) const {
+    const Welt w = zustand_.Exportnetz->BildinWelt(b);
+    return {w.rechts, w.hoch};
+}
 
 void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
     if (zustand_.flaeche != nullptr) zustand_.flaeche->Fuelle({0, 0, weite, hoehe}, kWeiss);
 }
 
-void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Gang gang) {
-    if (zustand_.flaeche == nullptr) return;
-    Symbol(punkt.PktTyp, punkt.PktAttr, gang == Gang::Wischen ? kWeiss : punkt.Farbe, punkt.Position());
-}
+// --- Points -----------------------------------------------------------------------------------------------
 
-void Figurenzeichner::Symbol(PunktTyp typ, PunktAttr attr, Farbe farbe, Bildpunkt mitte) {
-    Zeichenflaeche& f = *zustand_.flaeche;
+void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Gang gang) {
     const Einstellungen& e = einstellungen_;
+    const Bildpunkt m = punkt.Position();
     const std::int32_t groesste = std::max(
         {e.PTSize, e.HPSize, e.Kreuzgroesse, e.Quadratgroesse, e.RauteQuer, e.RauteLaengs, e.Dreieckgroesse});
-    if (!InReichweite(mitte, groesste + 1, f.Sichtbar())) return;
-    const Flaechenpunkt m = Aufflaeche(mitte);
-    const Stiftwechsel wechsel(f, {farbe, 1, Strichart::Voll},
-                               {attr == PunktAttr::Fu ? farbe : kWeiss, false});
-    switch (typ) {
+    Zeichenflaeche* f = zustand_.flaeche;
+    if (f != nullptr && !InReichweite(m, groesste + 1, f->Sichtbar())) f = nullptr;
+    const Symbolziel ziel{f, Plot(gang), Dxf(gang)};
+    const Farbe farbe = gang == Gang::Wischen ? kWeiss : punkt.Farbe;
+    std::optional<Stiftwechsel> wechsel;
+    if (f != nullptr) {
+        wechsel.emplace(*f, Stift{farbe, 1, Strichart::Voll},
+                        Pinsel{punkt.PktAttr == PunktAttr::Fu ? farbe : kWeiss, false});
+    }
+    switch (punkt.PktTyp) {
         case PunktTyp::Pkt:
-            f.Ellipse(Umkreis(m, e.HPSize));
+            Scheibe(ziel, m, e.HPSize, punkt.PktTyp);
             break;
         case PunktTyp::Krei:
-            f.Ellipse(Umkreis(m, e.PTSize));
+            Scheibe(ziel, m, e.PTSize, punkt.PktTyp);
             break;
-        case PunktTyp::Kreu:
-            Kreuz(f, m, e.Kreuzgroesse);
+        case PunktTyp::Kreu: {
+            const std::int64_t r = e.Kreuzgroesse;
+            Kreuz(ziel, {{{m.x - r, m.y}, {m.x + r, m.y}, {m.x, m.y - r}, {m.x, m.y + r}}});
             break;
-        case PunktTyp::Qua:
-            f.ZeichneRechteck(Umkreis(m, e.Quadratgroesse));
+        }
+        case PunktTyp::Qua: {
+            const std::int64_t r = e.Quadratgroesse;
+            Vieleck(ziel,
+                    std::array<Bildpunkt, 4>{
+                        {{m.x - r, m.y - r}, {m.x + r, m.y - r}, {m.x + r, m.y + r}, {m.x - r, m.y + r}}});
             break;
+        }
         case PunktTyp::Rau:
-            Raute(f, m, e.RauteQuer, e.RauteLaengs);
+            Vieleck(ziel, std::array<Bildpunkt, 4>{{{m.x, m.y - e.RauteLaengs},
+                                                    {m.x + e.RauteQuer, m.y},
+                                                    {m.x, m.y + e.RauteLaengs},
+                                                    {m.x - e.RauteQuer, m.y}}});
             break;
-        case PunktTyp::Drei:
-            Dreieck(f, m, e.Dreieckgroesse);
+        case PunktTyp::Drei: {
+            const std::int64_t r = e.Dreieckgroesse;
+            Vieleck(ziel, std::array<Bildpunkt, 3>{{{m.x, m.y - r}, {m.x + r, m.y + r}, {m.x - r, m.y + r}}});
             break;
+        }
     }
 }
 
-void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
-    if (zustand_.flaeche == nullptr) return;
-    const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
-    const Farbe farbe = gang == Gang::Wischen ? kWeiss : eigene;
-    const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
-    for (const Zug& zug : bild.Zuege())
-        Zeichne(zug, farbe);
+void Figurenzeichner::Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, PunktTyp typ) const {
+    const bool kreis = typ == PunktTyp::Krei;
+    if (ziel.flaeche != nullptr) ziel.flaeche->Ellipse(Umkreis(Aufflaeche(m), radius));
+    if (ziel.plot != nullptr && kreis) ziel.plot->Kreis(m, radius);
+    if (ziel.plot != nullptr && !kreis) ziel.plot->Punkt(m);
+    if (ziel.dxf != nullptr && kreis) ziel.dxf->DxfCircle(kPunktart, Weltort(m), kDxfRadius);
+    if (ziel.dxf != nullptr) ziel.dxf->DxfPoint(kPunktart, Weltort(m));
 }
 
-void Figurenzeichner::Zeichne(const Zug& zug, Farbe farbe) {
+void Figurenzeichner::Kreuz(const Symbolziel& ziel, const std::array<Bildpunkt, 4>& enden) const {
+    for (const std::size_t i : {std::size_t{0}, std::size_t{2}}) {
+        if (ziel.flaeche != nullptr) ziel.flaeche->Linie(Aufflaeche(enden[i]), Aufflaeche(enden[i + 1]));
+        if (ziel.dxf != nullptr) ziel.dxf->DxfLine(kPunktart, Weltort(enden[i]), Weltort(enden[i + 1]));
+    }
+    if (ziel.plot != nullptr) ziel.plot->Kreuz(enden);
+}
+
+/// Square, rhombus, triangle.
+void Figurenzeichner::Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const {
+    if (ziel.flaeche != nullptr) {
+        std::array<Flaechenpunkt, 4> dort{};
+        std::transform(ecken.begin(), ecken.end(), dort.begin(), Aufflaeche);
+        ziel.flaeche->Vieleck({dort.data(), ecken.size()});
+    }
+    if (ziel.plot != nullptr && ecken.size() == 3) ziel.plot->Dreieck({ecken[0], ecken[1], ecken[2]});
+    if (ziel.plot != nullptr && ecken.size() == 4) {
+        ziel.plot->Viereck({ecken[0], ecken[1], ecken[2], ecken[3]});
+    }
+    if (ziel.dxf == nullptr) return;
+    for (std::size_t i = 0; i < ecken.size(); ++i)
+        ziel.dxf->DxfLine(kPunktart, Weltort(ecken[i]), Weltort(ecken[(i + 1) % ecken.size()]));
+}
+
+// --- Lines ------------------------------------------------------------------------------------------------
+
+void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
+    const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
+    if (zustand_.flaeche != nullptr) {
+        const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
+        const Farbe farbe = gang == Gang::Wischen ? kWeiss : eigene;
+        for (const Zug& zug : bild.Zuege())
+            ZeigeZug(zug, farbe);
+    }
+    Plotdatei* plot = Plot(gang);
+    const DXFUnit* dxf = Dxf(gang);
+    for (const Zug& zug : bild.Zuege()) {
+        if (plot != nullptr) plot->Linienzug(zug);
+        if (dxf != nullptr) SchreibeZug(zug, kante);
+    }
+}
+
+void Figurenzeichner::ZeigeZug(const Zug& zug, Farbe farbe) {
     Zeichenflaeche& f = *zustand_.flaeche;
     for (const Strich& strich : Striche(zug.form)) {
         const auto teil = Abschneiden(zug.punkte[strich.von], zug.punkte[strich.nach], f.Sichtbar());
@@ -93,8 +165,42 @@ void Figurenzeichner::Zeichne(const Zug& zug, Farbe farbe) {
     }
 }
 
+void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
+    if (zug.form != Zugform::Querstrich) {
+        for (const Strich& s : Striche(zug.form)) {
+            zustand_.Dxf->DxfLine(Kantenart(s.gestrichelt), Weltort(zug.punkte[s.von]),
+                                  Weltort(zug.punkte[s.nach]));
+        }
+        return;
+    }
+    // The drawing has its tick in the middle of the line and in metres, wherever the plot has it.
+    const Dxfpunkt a = Weltort(kante.Position());
+    const Dxfpunkt e = Weltort(kante.Ende());
+    const double laenge = std::hypot(e.x - a.x, e.y - a.y);
+    if (!(laenge > 0.0)) return;
+    const double qx = -(e.y - a.y) / laenge * kDxfQuerstrich;
+    const double qy = (e.x - a.x) / laenge * kDxfQuerstrich;
+    const double mx = a.x + (e.x - a.x) / 2;
+    const double my = a.y + (e.y - a.y) / 2;
+    zustand_.Dxf->DxfLine(Kantenart(false), {mx + qx, my + qy}, {mx - qx, my - qy});
+}
+
+// --- Labels -----------------------------------------------------------------------------------------------
+
 void Figurenzeichner::ZeichneText(const PktText& text, Gang gang) {
-    if (zustand_.flaeche == nullptr) return;
+    if (zustand_.flaeche != nullptr) ZeigeText(text, gang == Gang::Wischen ? kWeiss : text.Col);
+    // The files always get the whole number. The plot shifts it by the horizontal offset in both directions;
+    // plotted sheets have their numbers there.
+    if (Plotdatei* plot = Plot(gang); plot != nullptr)
+        plot->Text(text.Position(), text.XBiO, text.Aus.Text());
+    if (DXFUnit* dxf = Dxf(gang); dxf != nullptr) {
+        Dxfpunkt ort = Weltort(text.Position());
+        ort.x += kDxfTextabstand;
+        dxf->DxfText(text.Aus.Text(), kTextart, ort, 0.0, kDxfTexthoehe);
+    }
+}
+
+void Figurenzeichner::ZeigeText(const PktText& text, Farbe farbe) {
     Zeichenflaeche& f = *zustand_.flaeche;
     Bildpunkt ort = text.Textort();
     if (zustand_.modus == Zeichenmodus::Drucker) {
@@ -109,7 +215,22 @@ void Figurenzeichner::ZeichneText(const PktText& text, Gang gang) {
     const std::int64_t rand =
         std::int64_t{f.Texthoehe()} * 2 * static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
     if (zeichen.empty() || !InReichweite(ort, rand, f.Sichtbar())) return;
-    f.Text(Aufflaeche(ort), zeichen, gang == Gang::Wischen ? kWeiss : text.Col);
+    f.Text(Aufflaeche(ort), zeichen, farbe);
+}
+
+// --- Overlays ---------------------------------------------------------------------------------------------
+
+void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
+    if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
+    if (zustand_.flaeche != nullptr) Legendenbild(*zustand_.flaeche, einstellungen_).Zeichne(legende, gang);
+}
+
+void Figurenzeichner::GitterShow(const Liste& liste) {
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kartenblaetter(netz_);
+}
+
+void Figurenzeichner::KMGitterShow(const Liste& liste) {
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kilometerquadrate();
 }
 
 }  // namespace zrw

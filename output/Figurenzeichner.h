@@ -1,10 +1,19 @@
-// Draws the figures of a network onto the current surface. One routine per shape family; wiping is the same
-// routine in white. Shapes that cannot touch the surface are left out.
+// Draws the figures and overlays of a network onto the current surface and, while an export runs, writes the
+// same shapes into its files. One routine per shape family; wiping is the same routine in white. On the
+// surface, shapes that cannot touch it are left out; the files get all of them.
 #pragma once
 
+#include <array>
+#include <cstdint>
+#include <span>
+
 #include "model/Einstellungen.h"
+#include "model/Netzangaben.h"
 #include "model/Zeichner.h"
+#include "output/DXFUnit.h"
 #include "output/Kantenbild.h"
+#include "output/Plotdatei.h"
+#include "output/Uhr.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeichenzustand.h"
 
@@ -12,21 +21,42 @@ namespace zrw {
 
 class Figurenzeichner final : public Zeichner {
   public:
-    /// Both must outlive the drawer.
-    Figurenzeichner(Zeichenzustand& zustand, const Einstellungen& einstellungen)
-        : zustand_(zustand), einstellungen_(einstellungen) {}
+    /// All must outlive the drawer. @param netz for the map sheets @param uhr for the legend
+    Figurenzeichner(Zeichenzustand& zustand, const Einstellungen& einstellungen, const Netzangaben& netz,
+                    const Uhr& uhr)
+        : zustand_(zustand), einstellungen_(einstellungen), netz_(netz), uhr_(uhr) {}
 
     void ClearPicture(std::int32_t weite, std::int32_t hoehe) override;
     void ZeichnePunkt(const Punkt& punkt, Gang gang) override;
     void ZeichneKante(const Kante& kante, Gang gang) override;
     void ZeichneText(const PktText& text, Gang gang) override;
+    void ZeichneLegende(Legende& legende, Gang gang) override;
+    void GitterShow(const Liste& liste) override;
+    void KMGitterShow(const Liste& liste) override;
 
   private:
-    void Symbol(PunktTyp typ, PunktAttr attr, Farbe farbe, Bildpunkt mitte);
-    void Zeichne(const Zug& zug, Farbe farbe);
+    /// Where a point symbol is drawn to: what is null is left out.
+    struct Symbolziel {
+        Zeichenflaeche* flaeche;
+        Plotdatei* plot;
+        DXFUnit* dxf;
+    };
+    // Symbols, by shape family; corners in picture coordinates.
+    void Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, PunktTyp typ) const;
+    void Kreuz(const Symbolziel& ziel, const std::array<Bildpunkt, 4>& enden) const;
+    void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
+
+    void ZeigeZug(const Zug& zug, Farbe farbe);
+    void SchreibeZug(const Zug& zug, const Kante& kante);
+    void ZeigeText(const PktText& text, Farbe farbe);
+    [[nodiscard]] Plotdatei* Plot(Gang gang) const;
+    [[nodiscard]] DXFUnit* Dxf(Gang gang) const;
+    [[nodiscard]] Dxfpunkt Weltort(Bildpunkt b) const;
 
     Zeichenzustand& zustand_;
     const Einstellungen& einstellungen_;
+    const Netzangaben& netz_;
+    const Uhr& uhr_;
 };
 
 }  // namespace zrw

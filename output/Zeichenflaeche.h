@@ -65,7 +65,12 @@ class Zeichenflaeche {
     /// Text in code page 1252 with its top-left corner at `ort`, without background.
     virtual void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) = 0;
     [[nodiscard]] virtual std::int32_t Textbreite(std::string_view text) const = 0;
+    /// Height of a line of text.
     [[nodiscard]] virtual std::int32_t Texthoehe() const = 0;
+    /// Nominal size of the font [pt], whole.
+    [[nodiscard]] virtual std::int32_t Schriftgrad() const = 0;
+    /// The same in dots, positive.
+    [[nodiscard]] virtual std::int32_t Schrifthoehe() const = 0;
 
   private:
     Stift stift_;

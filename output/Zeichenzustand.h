@@ -1,21 +1,29 @@
-// What drawing depends on beside the figures: the current surface and its mode. Made by `main`, handed on by
-// reference; printing and export switch it for their duration.
+// What drawing depends on beside the figures: the current surface and its mode, and the files that an export
+// writes. Made by `main`, handed on by reference; printing and export switch it for their duration.
 #pragma once
 
 #include <cstdint>
 
 namespace zrw {
 
+class DXFUnit;
+class Liste;
+class Plotdatei;
 class Zeichenflaeche;
 
 enum class Zeichenmodus : std::uint8_t { Bildschirm = 0, Drucker = 1 };
 
 struct Zeichenzustand {
-    Zeichenflaeche* flaeche = nullptr;  ///< null: nothing is drawn
+    Zeichenflaeche* flaeche = nullptr;  ///< null: no device, only the export files are drawn to
     Zeichenmodus modus = Zeichenmodus::Bildschirm;
     double Geraetefaktor = 1.0;  ///< device dots per screen pixel [-]
-    bool ExportActive = false;   ///< the drawing routines write to the export files, too
     bool KurzeNummern = false;   ///< labels without their first four characters
+
+    // Export: the drawing routines write to these files, too. Set by `Exportiere` only.
+    bool ExportActive = false;
+    Plotdatei* PlotFile = nullptr;      ///< null: no plotter file is asked for
+    DXFUnit* Dxf = nullptr;             ///< null: no drawing is asked for
+    const Liste* Exportnetz = nullptr;  ///< whose view turns picture positions into world positions
 };
 
 }  // namespace zrw

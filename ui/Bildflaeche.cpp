@@ -1,5 +1,6 @@
 #include "ui/Bildflaeche.h"
 
+#include <QFontInfo>
 #include <QPen>
 #include <QPolygon>
 #include <algorithm>
@@ -11,6 +12,9 @@ namespace {
 
 /// 8 pt on a screen of 96 dots per inch. In pixels, so that every screen and the batch mode give one picture.
 constexpr int kSchrifthoehe = 11;
+/// Screens are taken as 96 dots per inch, as printers' dots are scaled from them.
+constexpr int kPunkteJeZoll = 72;
+constexpr int kPixelJeZoll = 96;
 
 QRect AlsQRect(const Rechteck& r) {
     return {QPoint(r.links, r.oben), QPoint(r.rechts, r.unten)};
@@ -120,6 +124,14 @@ std::int32_t Bildflaeche::Textbreite(std::string_view text) const {
 
 std::int32_t Bildflaeche::Texthoehe() const {
     return masse_.height();
+}
+
+std::int32_t Bildflaeche::Schriftgrad() const {
+    return Schrifthoehe() * kPunkteJeZoll / kPixelJeZoll;
+}
+
+std::int32_t Bildflaeche::Schrifthoehe() const {
+    return QFontInfo(schrift_).pixelSize();
 }
 
 }  // namespace zrw

@@ -31,6 +31,8 @@ class Bildflaeche final : public Zeichenflaeche {
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override;
     [[nodiscard]] std::int32_t Texthoehe() const override;
+    [[nodiscard]] std::int32_t Schriftgrad() const override;
+    [[nodiscard]] std::int32_t Schrifthoehe() const override;
 
   private:
     void Beginne();

@@ -10,12 +10,14 @@ namespace zrw {
 class Antwortdienst final : public Dialogdienst {
   public:
     QStringList meldungen;
+    QStringList gesagt;
     QStringList fragen;
     QList<Dateiwahl> wahlen;
     bool ja = false;
     std::optional<QString> datei;  ///< chosen in every file dialog; none: cancelled
 
     void Melde(const QString& text) override { meldungen << text; }
+    void Sage(const QString& text) override { gesagt << text; }
     bool Frage(const QString& text) override {
         fragen << text;
         return ja;

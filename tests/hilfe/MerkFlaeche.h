@@ -48,6 +48,8 @@ class MerkFlaeche final : public Zeichenflaeche {
         return 6 * static_cast<std::int32_t>(text.size());
     }
     [[nodiscard]] std::int32_t Texthoehe() const override { return 12; }
+    [[nodiscard]] std::int32_t Schriftgrad() const override { return 8; }
+    [[nodiscard]] std::int32_t Schrifthoehe() const override { return 11; }
 
   private:
     void Form(const char* name, const Rechteck& r) {

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "output/Abschneiden.h"
+#include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/MerkFlaeche.h"
 
 namespace zrw {
@@ -34,9 +35,11 @@ class Zeichnen : public testing::Test {
     }
 
     Einstellungen einstellungen;
+    Netzangaben netz;
+    Festuhr uhr;
     Zeichenzustand zustand;
     MerkFlaeche flaeche;
-    Figurenzeichner zeichner{zustand, einstellungen};
+    Figurenzeichner zeichner{zustand, einstellungen, netz, uhr};
 
   private:
     bool gestrichelt_ = false;  // the pen keeps its style from one line to the next
@@ -53,7 +56,7 @@ TEST_F(Zeichnen, SymboleInGroesseUndFuellung) {
              Fall{PunktTyp::Pkt, PunktAttr::Fu, {stift, "Pinsel 0x0000FF", "Ellipse 98 48 102 52"}},
              Fall{PunktTyp::Krei, PunktAttr::Em, {"Pinsel 0xFFFFFF", "Ellipse 96 46 104 54"}},
              Fall{PunktTyp::Kreu, PunktAttr::Fu, {"Linie 96 50 104 50", "Linie 100 46 100 54"}},
-             Fall{PunktTyp::Qua, PunktAttr::Fu, {"Pinsel 0x0000FF", "Rechteck 96 46 104 54"}},
+             Fall{PunktTyp::Qua, PunktAttr::Fu, {"Pinsel 0x0000FF", "Vieleck 96 46 104 46 104 54 96 54"}},
              Fall{PunktTyp::Rau, PunktAttr::Fu, {"Vieleck 100 46 104 50 100 54 96 50"}},
              Fall{PunktTyp::Drei, PunktAttr::Fu, {"Vieleck 100 46 104 54 96 54"}},
              Fall{static_cast<PunktTyp>(77), PunktAttr::Fu, {}},

@@ -29,6 +29,8 @@ TEST(BildflaecheTest, ZeichnenUndWischenLaesstEinWeissesBild) {
         OeffneNetz(ZRW_QUELLE "/beispiele/NETZ.EIN", dateien, einstellungen, {}, {900, 700}, {});
     Liste& l = *lesung.liste;
     l.ShowFL = true;
+    const Netzangaben netz;
+    const Systemuhr uhr;
     // Every line style and symbol, and ends far outside.
     int i = 0;
     for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next, ++i) {
@@ -45,7 +47,7 @@ TEST(BildflaecheTest, ZeichnenUndWischenLaesstEinWeissesBild) {
         l.WeltinBild();
         Bildflaeche flaeche(900, 700);
         Zeichenzustand zustand{.flaeche = &flaeche};
-        Figurenzeichner zeichner(zustand, einstellungen);
+        Figurenzeichner zeichner(zustand, einstellungen, netz, uhr);
         l.ShowPicture(zeichner);
         EXPECT_NE(flaeche.Bild(), Weiss(900, 700));
         for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next)

@@ -1,0 +1,187 @@
+#include "output/Kartengitter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "input/Zrwgeo.h"
+#include "model/Ganzzahl.h"
+#include "output/Abschneiden.h"
+
+namespace zrw {
+namespace {
+
+constexpr Dxfart kGitterart{dxf::kGitter};
+// The drawing has its grid in picture coordinates; so are these.
+constexpr double kDxfTexthoehe = 8.0;
+constexpr double kDxfTextabstand = 5.0;
+
+constexpr double kWestrand = 5.6666666667;  ///< of the sheet columns [deg], 5°40'
+constexpr double kNordrand = 56.0;          ///< of the sheet rows [deg]
+constexpr double kSpaltenminuten = 10.0;    ///< width of a sheet [arc minutes]
+constexpr double kZeilenminuten = 6.0;      ///< height of a sheet [arc minutes]
+constexpr double kKilometer = 1000.0;
+
+/// Steps from `von` to `bis`, at least one; infinite where one of them is no number.
+double Schritte(double von, double bis, double schritt) {
+    const double n = (bis - von) / schritt + 1;
+    return std::isnan(n) ? HUGE_VAL : std::max(n, 1.0);
+}
+
+bool Zeichenbar(double spalten, double zeilen) {
+    return spalten * zeilen <= Kartengitter::kHoechstensFelder;
+}
+
+/// Geographic positions under a picture, in the mapping of one network.
+class Geonetz {
+  public:
+    Geonetz(const Netzangaben& netz, const Liste& liste)
+        : liste_(liste),
+          modus_(static_cast<Abbildung>(netz.Abbildungsmodus)),
+          hauptmeridian_(netz.Hauptmeridian),
+          ellipsoid_(EllipsoidRadii(netz.Ellipsoid, Grad{50.0})) {}
+
+    [[nodiscard]] Geograph Geographisch(Welt w) const {
+        return GridToGeo(modus_, w.hoch, w.rechts, ellipsoid_.f, ellipsoid_.a);
+    }
+    [[nodiscard]] Bildpunkt Bildort(double breite, double laenge) const {
+        const Gitterpunkt g =
+            GeoToGrid(modus_, hauptmeridian_, Grad{laenge}, Grad{breite}, ellipsoid_.f, ellipsoid_.a);
+        return liste_.Bildort({g.rechts, g.hoch});
+    }
+
+  private:
+    const Liste& liste_;
+    Abbildung modus_;
+    int hauptmeridian_;
+    Ellipsoid ellipsoid_;
+};
+
+/// The position is one on earth. Far from the central meridian the series yield anything.
+bool AufErden(const Geograph& g) {
+    return std::fabs(g.breite.wert) < 89.0 && std::fabs(g.laenge.wert) <= 360.0;
+}
+
+/// Characters `ab` and the next of a kilometre text, as far as there are any.
+std::string Zwei(const std::string& text, std::size_t ab) {
+    return text.size() > ab ? text.substr(ab, 2) : std::string();
+}
+
+std::string Quadratnummer(double x, double y) {
+    const std::string e = std::to_string(RundeZuInt64(std::trunc(x / kKilometer)));
+    const std::string n = std::to_string(RundeZuInt64(std::trunc(y / kKilometer)));
+    return Zwei(e, 0) + Zwei(n, 0) + Zwei(e, 2) + Zwei(n, 2);
+}
+
+}  // namespace
+
+Welt Kartengitter::Ecke(bool rechtsUnten) const {
+    return liste_.BildinWelt(rechtsUnten ? Bildpunkt{liste_.Weite, liste_.Hoehe} : Bildpunkt{});
+}
+
+void Kartengitter::Strich(Bildpunkt von, Bildpunkt nach) const {
+    if (ziel_.flaeche != nullptr) {
+        if (const auto teil = Abschneiden(von, nach, ziel_.flaeche->Sichtbar())) {
+            const Stiftwechsel wechsel(*ziel_.flaeche, {ziel_.farbe, 1, Strichart::Voll}, {kWeiss, true});
+            ziel_.flaeche->Linie(teil->first, teil->second);
+        }
+    }
+    if (ziel_.dxf != nullptr) {
+        ziel_.dxf->DxfLine(kGitterart, {static_cast<double>(von.x), static_cast<double>(von.y)},
+                           {static_cast<double>(nach.x), static_cast<double>(nach.y)});
+    }
+}
+
+/// @param ort south-west corner of the sheet or square; the number stands inside it
+/// @param feldbreite its width [px]
+void Kartengitter::Nummer(Bildpunkt ort, std::string_view text, std::int64_t feldbreite) const {
+    if (ziel_.flaeche != nullptr && ziel_.flaeche->Textbreite(text) <= feldbreite) {
+        Zeichenflaeche& f = *ziel_.flaeche;
+        const Bildpunkt platz{Summe(ort.x, 2 * f.Schriftgrad()), Differenz(ort.y, 2 * f.Schrifthoehe())};
+        const std::int64_t rand = std::int64_t{f.Texthoehe()} * 2 * static_cast<std::int64_t>(text.size());
+        if (InReichweite(platz, rand, f.Sichtbar())) f.Text(Aufflaeche(platz), text, ziel_.farbe);
+    }
+    if (ziel_.dxf != nullptr) {
+        ziel_.dxf->DxfText(text, kGitterart,
+                           {static_cast<double>(ort.x) + kDxfTextabstand, static_cast<double>(ort.y)}, 0.0,
+                           kDxfTexthoehe);
+    }
+}
+
+void Kartengitter::Kartenblaetter(const Netzangaben& netz) {
+    const Geonetz geo(netz, liste_);
+    const Geograph unten = geo.Geographisch(Ecke(true));
+    const Geograph oben = geo.Geographisch(Ecke(false));
+    if (!AufErden(unten) || !AufErden(oben)) return;
+    const double suedrand = unten.breite.wert;
+    const double ostrand = unten.laenge.wert;
+    auto spalte = static_cast<int>((oben.laenge.wert - kWestrand) * 60 / kSpaltenminuten);
+    const auto zeile = static_cast<int>((kNordrand - oben.breite.wert) * 60 / kZeilenminuten);
+    const double laenge0 = spalte * kSpaltenminuten / 60 + kWestrand;
+    const double breite0 = kNordrand - zeile * kZeilenminuten / 60;
+    const double blattbreite = kSpaltenminuten / 60;
+    const double blatthoehe = kZeilenminuten / 60;
+    if (!Zeichenbar(Schritte(laenge0, ostrand, blattbreite), Schritte(suedrand, breite0, blatthoehe))) return;
+
+    const std::int64_t breiteImBild =
+        Differenz(geo.Bildort(breite0, laenge0 + blattbreite).x, geo.Bildort(breite0, laenge0).x);
+    for (double laenge = laenge0; laenge <= ostrand; laenge += blattbreite, ++spalte) {
+        int nummer = zeile * 100 + spalte;
+        double breite = breite0;
+        Bildpunkt vorher = geo.Bildort(breite, laenge);
+        do {
+            breite -= blatthoehe;
+            const Bildpunkt hier = geo.Bildort(breite, laenge);
+            Strich(vorher, hier);
+            Nummer(hier, std::to_string(nummer), breiteImBild);
+            vorher = hier;
+            nummer += 100;
+        } while (breite >= suedrand);
+    }
+    // Parallels are curved in the grid: a piece for every minute of longitude.
+    double breite = breite0;
+    do {
+        double laenge = laenge0;
+        Bildpunkt vorher = geo.Bildort(breite, laenge);
+        do {
+            laenge += 1.0 / 60;
+            const Bildpunkt hier = geo.Bildort(breite, laenge);
+            Strich(vorher, hier);
+            vorher = hier;
+        } while (laenge <= ostrand);
+        breite -= blatthoehe;
+    } while (breite > suedrand);
+}
+
+void Kartengitter::Kilometerquadrate() {
+    const Welt oben = Ecke(false);
+    const Welt unten = Ecke(true);
+    const double x0 = std::trunc(oben.rechts / kKilometer) * kKilometer;
+    const double y0 = std::trunc(oben.hoch / kKilometer) * kKilometer;
+    const double spalten = Schritte(x0, unten.rechts, kKilometer);
+    const double zeilen = Schritte(unten.hoch, y0, kKilometer);
+    if (!Zeichenbar(spalten, zeilen)) return;
+
+    const std::int64_t breiteImBild = RundeZuInt64(kKilometer / liste_.Faktor);
+    // Counted, not compared: at the far end of the number range a kilometre more changes nothing.
+    for (int s = 0; s < static_cast<int>(spalten); ++s) {
+        const double x = x0 + s * kKilometer;
+        if (x > unten.rechts) break;
+        for (int z = 0; z < static_cast<int>(zeilen); ++z) {
+            const double y = y0 - (z + 1) * kKilometer;
+            const Bildpunkt hier = liste_.Bildort({x, y});
+            Strich(liste_.Bildort({x, y + kKilometer}), hier);
+            Nummer(hier, Quadratnummer(x, y), breiteImBild);
+        }
+    }
+    for (int z = 0; z < static_cast<int>(zeilen); ++z) {
+        const double y = y0 - z * kKilometer;
+        if (y < unten.hoch) break;
+        for (int s = 0; s < static_cast<int>(spalten); ++s) {
+            const double x = x0 + s * kKilometer;
+            Strich(liste_.Bildort({x, y}), liste_.Bildort({x + kKilometer, y}));
+        }
+    }
+}
+
+}  // namespace zrw

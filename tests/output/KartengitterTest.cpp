@@ -1,0 +1,174 @@
+#include "output/Kartengitter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+#include <set>
+
+#include "input/Zrwgeo.h"
+#include "tests/hilfe/MerkFlaeche.h"
+#include "tests/hilfe/Probenetz.h"
+#include "tests/hilfe/Speicherdateien.h"
+
+namespace zrw {
+namespace {
+
+constexpr Farbe kBlau{0xFF0000};
+
+class Gitter : public testing::Test {
+  protected:
+    /// A picture of 800 x 600 pixels with its top-left corner at a world position.
+    void Schaue(Welt ecke, double faktor) {
+        l.Weite = 800;
+        l.Hoehe = 600;
+        l.MinXW = ecke.rechts;
+        l.MaxYW = ecke.hoch;
+        l.Faktor = faktor;
+    }
+    /// World position of a geographic one, for networks on Bessel's ellipsoid in the zone of 9 degrees.
+    static Welt Ort(double breite, double laenge) {
+        const Ellipsoid b = EllipsoidRadii(1, Grad{50});
+        const Gitterpunkt g = GeoToGrid(Abbildung::GaussKrueger, 9, Grad{laenge}, Grad{breite}, b.f, b.a);
+        return {g.rechts, g.hoch};
+    }
+    Zeilen Blaetter() {
+        Kartengitter({&flaeche, nullptr, kBlau}, l).Kartenblaetter(netz);
+        return flaeche.Nimm();
+    }
+    Zeilen Quadrate() {
+        Kartengitter({&flaeche, nullptr, kBlau}, l).Kilometerquadrate();
+        return flaeche.Nimm();
+    }
+    /// Numbers among drawn lines.
+    static std::multiset<std::string> Nummern(const Zeilen& zeilen) {
+        std::multiset<std::string> nummern;
+        for (const std::string& z : zeilen) {
+            if (z.starts_with("Text")) nummern.insert(z.substr(z.rfind(' ') + 1));
+        }
+        return nummern;
+    }
+
+    Einstellungen e;
+    Liste l{e};
+    Netzangaben netz;
+    MerkFlaeche flaeche;
+};
+
+// Sheets that everybody can look up: 5521 Gedern, 5421 Ulrichstein, 5422 Herbstein, 5522 Freiensteinau.
+TEST_F(Gitter, BlattnummernStehenInIhremBlatt) {
+    // Ulrichstein reaches from 9°10' to 9°20' E and from 50°36' to 50°30' N.
+    Schaue(Ort(50.62, 9.1), 40);
+    const Zeilen zeilen = Blaetter();
+    EXPECT_EQ(zeilen[0], "Stift 0xFF0000 1");
+    const auto nummern = Nummern(zeilen);
+    EXPECT_TRUE(nummern.contains("5421") && nummern.contains("5422") && nummern.contains("5521"))
+        << nummern.size();
+    const Bildpunkt ecke = l.Bildort(Ort(50.5, 9 + 1.0 / 3));  // south-west corner of Herbstein
+    EXPECT_NE(std::find(zeilen.begin(), zeilen.end(),
+                        "Text 0xFF0000 " + std::to_string(ecke.x + 16) + " " + std::to_string(ecke.y - 22) +
+                            " 5422"),
+              zeilen.end());
+    // The meridian between the two sheets passes through that corner.
+    EXPECT_TRUE(std::any_of(zeilen.begin(), zeilen.end(), [&](const std::string& z) {
+        return z.starts_with("Linie") &&
+               z.ends_with(" " + std::to_string(ecke.x) + " " + std::to_string(ecke.y));
+    }));
+}
+
+TEST_F(Gitter, BeginntMitDemBlattDerEcke) {
+    struct Fall {
+        double breite, laenge;
+        const char* erste;
+    };
+    // Just inside a sheet; north of 56 degrees and west of 5°40' the arithmetic goes on with negative
+    // numbers.
+    for (const Fall& f :
+         {Fall{50.5999, 9.1667, "5421"}, Fall{50.6001, 9.1667, "5321"}, Fall{50.5999, 9.1666, "5420"},
+          Fall{56.25, 9.1667, "-179"}, Fall{50.5999, 5.4, "5399"}}) {
+        Schaue(Ort(f.breite, f.laenge), 20);
+        Speicherdateien d;
+        DXFUnit dxf(d);
+        dxf.DxfFileName = "a";
+        dxf.DxfOpen();
+        Kartengitter({nullptr, &dxf, kBlau}, l).Kartenblaetter(netz);
+        dxf.DxfClose();
+        dxf.Uebernimm();
+        const std::string& text = d.dateien["a"];
+        const std::size_t erster = text.find("  1\r\n");
+        ASSERT_NE(erster, std::string::npos) << f.erste;
+        EXPECT_EQ(text.substr(erster + 5, text.find('\r', erster + 5) - erster - 5), f.erste) << f.breite;
+    }
+}
+
+TEST_F(Gitter, KilometerquadrateMitNummern) {
+    Schaue({3512400, 5679800}, 5);  // 4 km by 3 km
+    const Zeilen zeilen = Quadrate();
+    // Vertical lines begin at the first whole kilometre below the top.
+    EXPECT_EQ(zeilen[0], "Text 0xFF0000 -64 338 35561278");
+    EXPECT_TRUE(std::find(zeilen.begin(), zeilen.end(), "Linie 120 160 120 360") != zeilen.end());
+    EXPECT_EQ(Nummern(zeilen),
+              (std::multiset<std::string>{"35561276", "35561277", "35561278", "35561376", "35561377",
+                                          "35561378", "35561476", "35561477", "35561478", "35561576",
+                                          "35561577", "35561578", "35561676", "35561677", "35561678"}));
+    EXPECT_TRUE(std::find(zeilen.begin(), zeilen.end(), "Linie -80 160 120 160") != zeilen.end());
+    // Fewer digits give what there is.
+    Schaue({-500, 1500}, 5);
+    EXPECT_TRUE(Nummern(Quadrate()).contains("00") && Nummern(Quadrate()).contains("10"));
+    // Too narrow for their numbers: 48 dots a number, 40 a square.
+    Schaue({3512400, 5679800}, 25);
+    const Zeilen eng = Quadrate();
+    EXPECT_TRUE(Nummern(eng).empty());
+    EXPECT_GT(eng.size(), 300U);
+}
+
+// The drawing has every piece of its own, in picture coordinates, with numbers however narrow.
+TEST_F(Gitter, ZeichnungInBildkoordinaten) {
+    Schaue({3512400, 5679800}, 25);
+    l.Weite = l.Hoehe = 20;
+    Speicherdateien d;
+    DXFUnit dxf(d);
+    dxf.DxfFileName = "a";
+    dxf.DxfOpen();
+    Kartengitter({&flaeche, &dxf, kBlau}, l).Kilometerquadrate();
+    dxf.DxfClose();
+    dxf.Uebernimm();
+    const std::string linie =
+        "  0\r\nLINE\r\n  8\r\nGITTER\r\n  6\r\nCONTINUOUS\r\n 10\r\n-1.60000000000000E+0001\r\n 20\r\n"
+        " 3.20000000000000E+0001\r\n 30\r\n 0.00000000000000E+0000\r\n 11\r\n-1.60000000000000E+0001\r\n "
+        "21\r\n"
+        " 7.20000000000000E+0001\r\n 31\r\n 0.00000000000000E+0000\r\n";
+    const std::string text =
+        "  0\r\nTEXT\r\n  8\r\nGITTER\r\n  6\r\nCONTINUOUS\r\n 10\r\n-1.10000000000000E+0001\r\n 20\r\n"
+        " 7.20000000000000E+0001\r\n 30\r\n 0.00000000000000E+0000\r\n 40\r\n 8.00000000000000E+0000\r\n  "
+        "1\r\n"
+        "35561278\r\n 50\r\n    0.0000\r\n";
+    EXPECT_EQ(d.dateien["a"],
+              "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n" + linie + text + "  0\r\nENDSEC\r\n  0\r\nEOF\r\n");
+}
+
+// Whatever the view: a grid or none, but at once.
+TEST_F(Gitter, JedeAnsichtIstSchnellFertig) {
+    constexpr double kInf = std::numeric_limits<double>::infinity();
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    const auto anfang = std::chrono::steady_clock::now();
+    std::size_t meiste = 0;
+    for (const double faktor :
+         {1e-300, 1e-9, 1e-3, 1.0, 30.0, 300.0, 30000.0, 1e9, 1e300, 0.0, -5.0, kInf, kNan}) {
+        for (const Welt& ecke : {Welt{3490000, 5606000}, Welt{0, 0}, Welt{-500, 120}, Welt{3e7, -3e7},
+                                 Welt{-1e18, 1e18}, Welt{1e300, 1e300}, Welt{kInf, kNan}, Welt{2e9, 5e6}}) {
+            for (const int modus : {0, 1, 2, 255}) {
+                netz.Abbildungsmodus = static_cast<std::uint8_t>(modus);
+                netz.Hauptmeridian = modus == 255 ? std::numeric_limits<std::int32_t>::max() : 9;
+                Schaue(ecke, faktor);
+                meiste = std::max({meiste, Blaetter().size(), Quadrate().size()});
+            }
+        }
+    }
+    EXPECT_TRUE(meiste > 1000 && meiste < 500000) << meiste;
+    EXPECT_LT(std::chrono::steady_clock::now() - anfang, std::chrono::seconds(30));
+}
+
+}  // namespace
+}  // namespace zrw
