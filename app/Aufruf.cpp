@@ -34,6 +34,18 @@ Bildgroesse LiesGroesse(const std::string& text) {
     throw Falschaufruf{"--groesse erwartet BREITExHÖHE mit Werten von 100 bis 16384, nicht \"" + text + "\""};
 }
 
+std::string LiesMassstabtext(const std::string& text) {
+    if (LiesMassstab(text)) return std::string(OhneRand(text));
+    throw Falschaufruf{"--massstab erwartet eine Zahl größer als 0, nicht \"" + text + "\""};
+}
+
+int LiesAufloesung(const std::string& text) {
+    constexpr std::int64_t kFeinste = 100000;
+    const auto dpi = LiesGanz(text);
+    if (dpi && *dpi >= 1 && *dpi <= kFeinste) return static_cast<int>(*dpi);
+    throw Falschaufruf{"--dpi erwartet eine ganze Zahl von 1 bis 100000, nicht \"" + text + "\""};
+}
+
 std::vector<std::string> LiesFormate(const std::string& liste) {
     auto formate = Aufteilen(liste);
     if (formate.empty())
@@ -66,7 +78,7 @@ struct Option {
     void (*lies)(Aufruf&, const std::string&);
 };
 
-constexpr std::array<Option, 6> kOptionen{{
+constexpr std::array<Option, 8> kOptionen{{
     {"--export",
      [](Aufruf& a, const std::string& w) {
          a.auftrag = Auftrag::Stapel;
@@ -74,6 +86,8 @@ constexpr std::array<Option, 6> kOptionen{{
      }},
     {"--ziel", [](Aufruf& a, const std::string& w) { a.ziel = w; }},
     {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
+    {"--massstab", [](Aufruf& a, const std::string& w) { a.massstab = LiesMassstabtext(w); }},
+    {"--dpi", [](Aufruf& a, const std::string& w) { a.dpi = LiesAufloesung(w); }},
     {"--ein", [](Aufruf& a, const std::string& w) { Haenge(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { Haenge(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
@@ -132,6 +146,8 @@ std::string Hilfetext() {
            "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner); er wird angelegt\n"
            "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x800,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
+           "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf und plt (sonst 25000)\n"
+           "  --dpi ZAHL             Auflösung des Drucks in Punkten je Zoll (sonst 600)\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "input/Oeffnen.h"
+#include "output/Export.h"
 
 namespace zrw {
 
@@ -24,7 +25,9 @@ struct Aufruf {
     std::vector<std::string> formate;  ///< names from the format table
     std::string ziel;                  ///< target folder; empty: the working folder
     std::optional<Bildgroesse> groesse;
-    std::vector<std::string> ein;  ///< switches by name
+    std::string massstab = kUeblicherMassstab;  ///< denominator, readable by `LiesMassstab`
+    int dpi = kUeblicheAufloesung;              ///< resolution of the print [dots per inch]
+    std::vector<std::string> ein;               ///< switches by name
     std::vector<std::string> aus;
     std::optional<std::string> einstellungen;
 };

@@ -7,6 +7,7 @@
 
 #include "model/Bilddatei.h"
 #include "model/Fehler.h"
+#include "output/Export.h"
 #include "output/Figurenzeichner.h"
 #include "ui/Bildflaeche.h"
 
@@ -21,7 +22,8 @@ void SchreibeZrw(const Ausgabe& a, const std::filesystem::path& datei) {
 void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const char* art) {
     Bildflaeche flaeche(a.liste.Weite, a.liste.Hoehe);
     a.zustand.flaeche = &flaeche;
-    Figurenzeichner zeichner(a.zustand, a.einstellungen);
+    const Systemuhr uhr;
+    Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
     a.liste.ShowPicture(zeichner);
     a.zustand.flaeche = nullptr;
     QByteArray bytes;
@@ -33,10 +35,25 @@ void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const ch
     a.dateien.Ersetze(datei, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-constexpr std::array<Format, 3> kFormate{{
-    {"zrw", ".ZRW", &SchreibeZrw},
-    {"png", ".png", [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "PNG"); }},
-    {"bmp", ".bmp", [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "BMP"); }},
+void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
+    const Systemuhr uhr;
+    Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
+    auftrag.faktor = a.druckfaktor;
+    Exportiere(a.liste, zeichner, a.zustand, a.dateien, auftrag);
+}
+
+constexpr std::array<Format, 5> kFormate{{
+    {"zrw", ".ZRW", {}, &SchreibeZrw},
+    {"png", ".png", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "PNG"); }},
+    {"bmp", ".bmp", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "BMP"); }},
+    {"dxf",
+     {},
+     kDxfname,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeExport(a, {.plot = {}, .dxf = d}); }},
+    {"plt",
+     {},
+     kPlotname,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeExport(a, {.plot = d, .dxf = {}}); }},
 }};
 
 }  // namespace

@@ -18,11 +18,13 @@ struct Ausgabe {
     const Einstellungen& einstellungen;
     Zeichenzustand& zustand;
     Dateien& dateien;
+    double druckfaktor;  ///< [m/dot] of the print
 };
 
 struct Format {
-    std::string_view name;    ///< on the command line
-    std::string_view endung;  ///< of the file, with its dot
+    std::string_view name;       ///< on the command line
+    std::string_view endung;     ///< of the file, with its dot; the rest of the name is that of the input
+    std::string_view dateiname;  ///< fixed name instead; may be empty
     void (*schreibe)(const Ausgabe& a, const std::filesystem::path& datei);
 };
 

@@ -7,6 +7,7 @@
 #include "app/Formate.h"
 #include "input/Systemdateien.h"
 #include "model/Fehler.h"
+#include "output/Export.h"
 #include "ui/Einstellungsablage.h"
 #include "ui/Schalter.h"
 #include "ui/Umwandlung.h"
@@ -34,12 +35,13 @@ Einstellungen LadeEinstellungen(const Aufruf& aufruf) {
     return e;
 }
 
-void SetzeSchalter(const Aufruf& aufruf, Liste& liste, Zeichenzustand& zustand) {
+void SetzeSchalter(const Aufruf& aufruf, Lesung& lesung, Zeichenzustand& zustand) {
     const auto genannt = [](const std::vector<std::string>& namen, const Schalter& s) {
         return std::find(namen.begin(), namen.end(), s.name) != namen.end();
     };
     for (const Schalter& s : kSchalter) {
-        Schalte(s, (s.anfangs || genannt(aufruf.ein, s)) && !genannt(aufruf.aus, s), &liste, zustand);
+        Schalte(s, (s.anfangs || genannt(aufruf.ein, s)) && !genannt(aufruf.aus, s), lesung.liste.get(),
+                lesung.netz, zustand);
     }
 }
 
@@ -60,17 +62,21 @@ void Exportiere(const Aufruf& aufruf) {
     if (lesung.ende != Leseende::Vollstaendig) throw Fehler(lesung.endetext);
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
-    SetzeSchalter(aufruf, *lesung.liste, zustand);
+    SetzeSchalter(aufruf, lesung, zustand);
+    // The legend names the scale of the print, as in the window.
+    lesung.liste->Legend->Masstab = aufruf.massstab;
     const std::filesystem::path ordner = TextPfad(aufruf.ziel);
     std::error_code fehler;
     // The folder itself is made where its parent exists; writing tells whatever else is wrong with it.
     if (!ordner.empty()) std::filesystem::create_directory(ordner, fehler);
-    const Ausgabe ausgabe{*lesung.liste, lesung.netz, einstellungen, zustand, dateien};
+    const Ausgabe ausgabe{*lesung.liste, lesung.netz,
+                          einstellungen, zustand,
+                          dateien,       Druckfaktor(*LiesMassstab(aufruf.massstab), aufruf.dpi)};
     for (const std::string& name : aufruf.formate) {
         const Format& format = *FindeFormat(name);
-        std::filesystem::path ziel = ordner / datei.stem();
-        ziel += TextPfad(format.endung);
-        format.schreibe(ausgabe, ziel);
+        std::filesystem::path ziel = TextPfad(format.dateiname);
+        if (ziel.empty()) (ziel = datei.stem()) += TextPfad(format.endung);
+        format.schreibe(ausgabe, ordner / ziel);
     }
 }
 

@@ -36,9 +36,11 @@ int Fenster(const Aufruf& aufruf) {
     Netzangaben netz;
     Zeichenzustand zustand;
     Systemdateien dateien;
+    const Systemuhr uhr;
+    const Systemdrucker drucker;
     QtDialogdienst dialoge;
     TZrwMainDlg fenster(
-        {einstellungen, ablage, netz, zustand, dateien, dialoge, QStringLiteral(ZRW_VERSION)});
+        {einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, QStringLiteral(ZRW_VERSION)});
     dialoge.SetzeEltern(&fenster);
     fenster.show();
     if (!aufruf.datei.empty()) {

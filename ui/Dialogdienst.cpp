@@ -13,10 +13,19 @@ QString MitEndung(const QString& name, const QString& endung) {
     return endung.isEmpty() || name.endsWith(schluss, Qt::CaseInsensitive) ? name : name + schluss;
 }
 
-void QtDialogdienst::Melde(const QString& text) {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Zarwik"), text, QMessageBox::Ok, eltern_);
+void QtDialogdienst::Zeige(int symbol, const QString& text) {
+    QMessageBox box(static_cast<QMessageBox::Icon>(symbol), QStringLiteral("Zarwik"), text, QMessageBox::Ok,
+                    eltern_);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+void QtDialogdienst::Melde(const QString& text) {
+    Zeige(QMessageBox::Warning, text);
+}
+
+void QtDialogdienst::Sage(const QString& text) {
+    Zeige(QMessageBox::Information, text);
 }
 
 bool QtDialogdienst::Frage(const QString& text) {

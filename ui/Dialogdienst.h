@@ -25,7 +25,10 @@ struct Dateiwahl {
 class Dialogdienst {
   public:
     virtual ~Dialogdienst() = default;
+    /// What went wrong.
     virtual void Melde(const QString& text) = 0;
+    /// What has been done.
+    virtual void Sage(const QString& text) = 0;
     /// Yes or no.
     [[nodiscard]] virtual bool Frage(const QString& text) = 0;
     [[nodiscard]] virtual std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) = 0;
@@ -38,11 +41,14 @@ class QtDialogdienst final : public Dialogdienst {
     /// @param eltern may be set later, may be null
     void SetzeEltern(QWidget* eltern) { eltern_ = eltern; }
     void Melde(const QString& text) override;
+    void Sage(const QString& text) override;
     bool Frage(const QString& text) override;
     std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) override;
     std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) override;
 
   private:
+    void Zeige(int symbol, const QString& text);
+
     QWidget* eltern_ = nullptr;
 };
 

@@ -6,10 +6,12 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 
 #include "ui/Umwandlung.h"
+#include "ui/werkzeuge/LegendeVerschieben.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
 /// The pictures sit in a static library, whose resources register only when asked to.
@@ -29,7 +31,7 @@ struct Befehl {
     void (TZrwMainDlg::*klick)();
 };
 
-constexpr std::array<Befehl, 7> kBefehle{{
+constexpr std::array<Befehl, 9> kBefehle{{
     {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
@@ -38,6 +40,8 @@ constexpr std::array<Befehl, 7> kBefehle{{
     {"ButtonGroesser", "Bild größer", "groesser", "+", &TZrwMainDlg::ButtonGroesserClick},
     {"ButtonKleiner", "Bild kleiner", "kleiner", "-", &TZrwMainDlg::ButtonKleinerClick},
     {"SpeedButton3", "Alles darstellen", "alles", "Home", &TZrwMainDlg::SpeedButton3Click},
+    {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click},
+    {"SpeedButton16", "DXF und HPGL Format ausgeben", "dxf", "Ctrl+E", &TZrwMainDlg::SpeedButton16Click},
 }};
 
 QToolButton* NeuerKnopf(std::string_view komponente, std::string_view hinweis, std::string_view bild,
@@ -76,7 +80,9 @@ class Werkzeugleiste final : public QWidget {
 }  // namespace
 
 TZrwMainDlg::TZrwMainDlg(const Programm& programm)
-    : programm_(programm), flaeche_(1, 1), zeichner_(programm.zustand, programm.einstellungen) {
+    : programm_(programm),
+      flaeche_(1, 1),
+      zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr) {
     programm_.zustand.flaeche = &flaeche_;
     BaueFenster();
 }
@@ -103,6 +109,8 @@ void TZrwMainDlg::BaueFenster() {
     knoepfe->setSpacing(2);
     BaueBefehle(*knoepfe);
     BaueWerkzeuge(*knoepfe);
+    knoepfe->addSpacing(12);
+    BaueMassstab(*knoepfe);
     knoepfe->addStretch();
     reihen->addLayout(knoepfe);
     auto* kaesten = new QHBoxLayout;
@@ -147,6 +155,7 @@ void TZrwMainDlg::BaueBefehle(QBoxLayout& reihe) {
 
 void TZrwMainDlg::BaueWerkzeuge(QBoxLayout& reihe) {
     mitteltaste_ = NeuesWerkzeug<BildVerschieben>(*this);
+    legendenecke_ = NeuesWerkzeug<LegendeVerschieben>(*this);
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
         const Werkzeugzeile& zeile = kWerkzeuge[i];
         werkzeuge_.push_back(zeile.neu(*this));
@@ -174,6 +183,19 @@ void TZrwMainDlg::BaueSchalter(QBoxLayout& reihe) {
     }
 }
 
+void TZrwMainDlg::BaueMassstab(QBoxLayout& reihe) {
+    auto* schild = new QLabel(QStringLiteral("Druckmaßstab 1:"), this);
+    EditMasstab_ = new Massstabfeld(this);
+    EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
+    EditMasstab_->setToolTip(QStringLiteral("Druckmaßstab"));
+    EditMasstab_->setFixedWidth(
+        EditMasstab_->fontMetrics().horizontalAdvance(QStringLiteral("000000000000")));
+    schild->setBuddy(EditMasstab_);
+    reihe.addWidget(schild);
+    reihe.addWidget(EditMasstab_);
+    legendentexte_ = new TZRWLBLForm(this);
+}
+
 void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     werkzeuge_[nummer]->Abbrechen();
     if (unten) {
@@ -193,7 +215,17 @@ void TZrwMainDlg::LoeseWerkzeuge() {
 }
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
-    Schalte(schalter, ein, liste_.get(), programm_.zustand);
+    if (schalter.imKartengitter && ein) {
+        if (liste_ == nullptr) {
+            schalterkaesten_[static_cast<std::size_t>(&schalter - kSchalter.data())]->setChecked(false);
+            return;
+        }
+        if (!HatKartengitter(programm_.netz.Netztyp)) {
+            statusBar()->showMessage(
+                QStringLiteral("Zum Koordinatensystem dieses Netzes gibt es kein Kartengitter."));
+        }
+    }
+    Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
     if (liste_ != nullptr) ZeichneNeu();
 }
 

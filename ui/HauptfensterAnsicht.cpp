@@ -86,7 +86,7 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
     if (taste == Qt::MiddleButton) {
         gedrueckt_ = mitteltaste_.get();
     } else if (taste == Qt::LeftButton) {
-        gedrueckt_ = Aktiv();
+        gedrueckt_ = UeberLegendenecke(ort) ? legendenecke_.get() : Aktiv();
     }
     taste_ = taste;
     if (gedrueckt_ != nullptr) gedrueckt_->Druecken(ort);
@@ -94,8 +94,19 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
 
 void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
     if (liste_ == nullptr) return;
-    if (gedrueckt_ != nullptr) gedrueckt_->Ziehen(ort);
+    if (gedrueckt_ != nullptr) {
+        gedrueckt_->Ziehen(ort);
+    } else {
+        ZeigeZeiger(ort);
+    }
     ZeigeStatus(ort);
+}
+
+/// The pointer tells what a press would do here.
+void TZrwMainDlg::ZeigeZeiger(Bildpunkt ort) {
+    const Werkzeug* werkzeug = UeberLegendenecke(ort) ? legendenecke_.get() : Aktiv();
+    const Qt::CursorShape zeiger = werkzeug != nullptr ? werkzeug->Zeiger() : Qt::ArrowCursor;
+    if (bild_->cursor().shape() != zeiger) bild_->setCursor(zeiger);
 }
 
 void TZrwMainDlg::ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) {

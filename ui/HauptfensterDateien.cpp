@@ -2,11 +2,11 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include "model/Bilddatei.h"
 #include "model/Fehler.h"
 #include "ui/Hauptfenster.h"
+#include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -47,15 +47,6 @@ class Sammler {
     QString text_;
     QString schluss_;
     qint64 anzahl_ = 0;
-};
-
-/// The hourglass for the duration of a scope.
-class Sanduhr {
-  public:
-    Sanduhr() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Sanduhr() { QGuiApplication::restoreOverrideCursor(); }
-    Sanduhr(const Sanduhr&) = delete;
-    Sanduhr& operator=(const Sanduhr&) = delete;
 };
 
 }  // namespace
@@ -138,7 +129,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         const bool ein =
             schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
-        Schalte(kSchalter[i], ein, liste_.get(), programm_.zustand);
+        Schalte(kSchalter[i], ein, liste_.get(), programm_.netz, programm_.zustand);
     }
     liste_->Weite = bild_->width();
     liste_->Hoehe = bild_->height();

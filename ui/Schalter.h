@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "model/FigListe.h"
+#include "model/Netzangaben.h"
 #include "output/Zeichenzustand.h"
 
 namespace zrw {
@@ -18,6 +19,7 @@ struct Schalter {
     bool Liste::*inListe;             ///< switch of the network, or null
     bool Zeichenzustand::*imZustand;  ///< switch of the whole program, or null
     bool anfangs;
+    bool imKartengitter = false;  ///< only for networks that have a map grid
 };
 
 inline constexpr std::array<Schalter, 15> kSchalter{{
@@ -25,8 +27,10 @@ inline constexpr std::array<Schalter, 15> kSchalter{{
      true},
     {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Liste::ShowBeob, nullptr,
      true},
-    {"tk25", "", "TK25", "TK25 Einteilung einblenden", &Liste::ShowGitter, nullptr, false},
-    {"kmq", "", "Kilometerquadrat", "Kilometerquadrate einblenden", &Liste::ShowKMQ, nullptr, false},
+    {"tk25", "CheckBoxGitter", "TK25", "TK25 Einteilung einblenden", &Liste::ShowGitter, nullptr, false,
+     true},
+    {"kmq", "CheckBoxKMQ", "Kilometerquadrat", "Kilometerquadrate einblenden", &Liste::ShowKMQ, nullptr,
+     false, true},
     {"legende", "", "Legende", "", &Liste::ShowLegende, nullptr, false},
     {"lageverb", "", "Lageverbesserungen", "", &Liste::ShowLgRes, nullptr, false},
     {"hoehenverb", "", "Höhenverbesserungen", "", &Liste::ShowHRes, nullptr, false},
@@ -42,7 +46,9 @@ inline constexpr std::array<Schalter, 15> kSchalter{{
 }};
 
 /// Puts one switch into effect.
-inline void Schalte(const Schalter& s, bool ein, Liste* liste, Zeichenzustand& zustand) {
+inline void Schalte(const Schalter& s, bool ein, Liste* liste, const Netzangaben& netz,
+                    Zeichenzustand& zustand) {
+    if (s.imKartengitter && !HatKartengitter(netz.Netztyp)) ein = false;
     if (s.inListe != nullptr && liste != nullptr) liste->*s.inListe = ein;
     if (s.imZustand != nullptr) zustand.*s.imZustand = ein;
 }

@@ -13,12 +13,18 @@
 
 #include "input/Systemdateien.h"
 #include "tests/hilfe/Antwortdienst.h"
+#include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
 
 namespace zrw {
 namespace {
 
 constexpr const char* kBeispiel = ZRW_QUELLE "/beispiele/NETZ.EIN";
+
+class Festdrucker final : public Druckauskunft {
+  public:
+    [[nodiscard]] int Aufloesung() const override { return 600; }
+};
 
 class Hauptfenster : public testing::Test {
   protected:
@@ -51,8 +57,10 @@ class Hauptfenster : public testing::Test {
     Netzangaben netz;
     Zeichenzustand zustand;
     Systemdateien dateien;
+    Festuhr uhr;
+    Festdrucker drucker;
     Antwortdienst dialoge;
-    TZrwMainDlg fenster{{einstellungen, ablage, netz, zustand, dateien, dialoge, "1.2"}};
+    TZrwMainDlg fenster{{einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, "1.2"}};
     QWidget* bild = nullptr;
 };
 

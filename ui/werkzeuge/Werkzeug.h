@@ -17,6 +17,12 @@ class Werkzeugumgebung {
     virtual void ZeigeVerschoben(Bildpunkt versatz) = 0;
     /// Pans the view so that the network moves by this picture delta [px], and redraws.
     virtual void Verschiebe(Bildpunkt versatz) = 0;
+    /// Corner of the legend. Like the next three, only while it is being dragged.
+    [[nodiscard]] virtual Bildpunkt Legendenort() const = 0;
+    virtual void FasseLegende(Bildpunkt ort) = 0;
+    virtual void ZieheLegende(Bildpunkt ort) = 0;
+    /// Redraws what the legend was dragged over.
+    virtual void LegendeLosgelassen() = 0;
 };
 
 class Werkzeug {

@@ -1,0 +1,47 @@
+#include "ui/Massstabfeld.h"
+
+#include <QValidator>
+#include <algorithm>
+
+#include "output/Export.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+class Massstabpruefer final : public QValidator {
+  public:
+    Massstabpruefer(QString zuletzt, QObject* eltern) : QValidator(eltern), zuletzt_(std::move(zuletzt)) {}
+
+    State validate(QString& text, int& /*stelle*/) const override {
+        if (LiesMassstab(NachUtf8(text))) return Acceptable;
+        const auto passt = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; };
+        // What can still become a number: digits with at most one point.
+        const bool anfang = std::all_of(text.begin(), text.end(), passt) && text.count(u'.') <= 1;
+        return anfang ? Intermediate : Invalid;
+    }
+    /// Called where the user leaves the field in between.
+    void fixup(QString& text) const override { text = zuletzt_; }
+    void Merke(const QString& text) { zuletzt_ = text; }
+
+  private:
+    QString zuletzt_;
+};
+
+}  // namespace
+
+Massstabfeld::Massstabfeld(QWidget* eltern) : QLineEdit(eltern) {
+    constexpr int kStellen = 12;
+    const QString anfang = AusUtf8(kUeblicherMassstab);
+    auto* pruefer = new Massstabpruefer(anfang, this);
+    setText(anfang);
+    setMaxLength(kStellen);
+    setValidator(pruefer);
+    connect(this, &QLineEdit::editingFinished, this, [this, pruefer] { pruefer->Merke(text()); });
+}
+
+std::optional<double> Massstabfeld::Massstab() const {
+    return LiesMassstab(NachUtf8(text()));
+}
+
+}  // namespace zrw
