@@ -1,7 +1,9 @@
-// Makes the example network: beispiel_erzeugen ZIELORDNER. The same files come out at every run.
+// Makes the example network and the sheet of line styles: beispiel_erzeugen ZIELORDNER. The same files come
+// out at every run.
 #include <filesystem>
 #include <iostream>
 
+#include "beispiele/Linientafel.h"
 #include "beispiele/Netz.h"
 #include "beispiele/Zufall.h"
 
@@ -16,7 +18,8 @@ int main(int argc, char** argv) {
     Zufall zufall(19741104);
     const Rollen rollen = LegePunkteAn(netz, zufall);
     Beobachte(netz, rollen, zufall);
-    if (!SchreibeSteuerdatei(netz, std::filesystem::path(argv[1]))) {
+    const std::filesystem::path ziel(argv[1]);
+    if (!SchreibeSteuerdatei(netz, ziel) || !SchreibeLinientafel(ziel)) {
         std::cerr << "Kann in den Ordner " << argv[1] << " nicht schreiben.\n";
         return 1;
     }
