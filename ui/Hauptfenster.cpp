@@ -147,7 +147,9 @@ void TZrwMainDlg::BaueBefehle(QBoxLayout& reihe) {
                           QStringLiteral(")"));
         connect(knopf, &QToolButton::clicked, this, [this, klick = b.klick] { (this->*klick)(); });
         reihe.addWidget(knopf);
-        if (b.klick == &TZrwMainDlg::SpeedButton7Click || b.klick == &TZrwMainDlg::SpeedButton3Click) {
+        // Files, view and output are groups of their own.
+        if (b.klick == &TZrwMainDlg::SpeedButton7Click || b.klick == &TZrwMainDlg::SpeedButton3Click ||
+            b.klick == &TZrwMainDlg::SpeedButton16Click) {
             reihe.addWidget(Trennstrich(this));
         }
     }

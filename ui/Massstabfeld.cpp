@@ -14,11 +14,10 @@ class Massstabpruefer final : public QValidator {
     Massstabpruefer(QString zuletzt, QObject* eltern) : QValidator(eltern), zuletzt_(std::move(zuletzt)) {}
 
     State validate(QString& text, int& /*stelle*/) const override {
-        if (LiesMassstab(NachUtf8(text))) return Acceptable;
+        // Digits with at most one point; what is no positive number yet may become one.
         const auto passt = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; };
-        // What can still become a number: digits with at most one point.
-        const bool anfang = std::all_of(text.begin(), text.end(), passt) && text.count(u'.') <= 1;
-        return anfang ? Intermediate : Invalid;
+        if (!std::all_of(text.begin(), text.end(), passt) || text.count(u'.') > 1) return Invalid;
+        return LiesMassstab(NachUtf8(text)) ? Acceptable : Intermediate;
     }
     /// Called where the user leaves the field in between.
     void fixup(QString& text) const override { text = zuletzt_; }

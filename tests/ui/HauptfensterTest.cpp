@@ -4,14 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QDir>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 #include <fstream>
 
 #include "input/Systemdateien.h"
+#include "model/Bytes.h"
 #include "tests/hilfe/Antwortdienst.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
@@ -260,6 +265,170 @@ TEST_F(Hauptfenster, GroesseAendernPasstDieListeAn) {
     EXPECT_EQ(fenster.Netz()->Weite, bild->width());
     EXPECT_EQ(fenster.Netz()->Hoehe, bild->height());
     EXPECT_EQ(fenster.Bild().size(), bild->size());
+}
+
+/// Runs the window in a folder of its own: the export writes where the program stands.
+class Exportfenster : public Hauptfenster {
+  protected:
+    Exportfenster() { QDir::setCurrent(ordner.path()); }
+    ~Exportfenster() override { QDir::setCurrent(vorher_); }
+
+    QLineEdit& Feld() const { return *fenster.findChild<QLineEdit*>("EditMasstab"); }
+    [[nodiscard]] QByteArray Inhalt(const QString& name) const {
+        QFile f(ordner.filePath(name));
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("fehlt");
+    }
+    [[nodiscard]] std::string Gespeichert() const {
+        ByteSchreiber f;
+        fenster.Netz()->Store(f, netz);
+        return std::string(f.Inhalt());
+    }
+
+  private:
+    QString vorher_ = QDir::currentPath();
+};
+
+TEST_F(Exportfenster, SchreibtBeideDateienUndAendertNichts) {
+    fenster.Oeffne(kBeispiel);
+    const std::string netzVorher = Gespeichert();
+    const QImage bildVorher = fenster.Bild().copy();
+    Knopf("SpeedButton16").click();
+    EXPECT_EQ(dialoge.gesagt,
+              QStringList{"Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."});
+    EXPECT_TRUE(dialoge.meldungen.isEmpty());
+    const QByteArray plot = Inhalt("ZRW.PLT");
+    EXPECT_EQ(plot.count("CI 4"), Inhalt("ZRW.DXF").count("CIRCLE"));
+    EXPECT_EQ(plot.count("LB "), 165);
+    EXPECT_EQ(Gespeichert(), netzVorher);
+    EXPECT_EQ(fenster.Bild(), bildVorher);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    // Another scale, another plot; the same drawing but for rounding.
+    Feld().setText("50000");
+    Knopf("SpeedButton16").click();
+    EXPECT_NE(Inhalt("ZRW.PLT"), plot);
+}
+
+TEST_F(Exportfenster, MisslungenesLaesstAllesStehen) {
+    fenster.Oeffne(kBeispiel);
+    const QImage bildVorher = fenster.Bild().copy();
+    const std::string netzVorher = Gespeichert();
+    Lege("ZRW.PLT", "alt");
+    QDir(ordner.path()).mkdir("ZRW.DXF");  // a folder in the way
+    Knopf("SpeedButton16").click();
+    ASSERT_EQ(dialoge.meldungen.size(), 1);
+    EXPECT_TRUE(dialoge.meldungen[0].startsWith("ZRW.DXF: Kann Datei nicht schreiben"));
+    EXPECT_TRUE(dialoge.gesagt.isEmpty());
+    EXPECT_EQ(Inhalt("ZRW.PLT"), "alt");
+    EXPECT_EQ(QDir(ordner.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 2);
+    EXPECT_EQ(Gespeichert(), netzVorher);
+    EXPECT_EQ(fenster.Bild(), bildVorher);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(zustand.ExportActive);
+    Knopf("ButtonGroesser").click();
+    EXPECT_NE(fenster.Bild(), bildVorher) << "the window works on";
+}
+
+TEST_F(Exportfenster, MassstabfeldNimmtNurPositiveZahlen) {
+    fenster.Oeffne(kBeispiel);
+    EXPECT_EQ(Feld().text(), "25000");
+    Feld().selectAll();
+    QTest::keyClicks(&Feld(), "-a1,e5.0 0:0");
+    EXPECT_EQ(Feld().text(), "15.000");
+    Feld().selectAll();
+    QTest::keyClicks(&Feld(), "0");
+    Knopf("SpeedButton16").click();
+    EXPECT_EQ(dialoge.meldungen, QStringList{"Der Druckmaßstab muss eine Zahl größer als 0 sein."});
+    EXPECT_EQ(Inhalt("ZRW.PLT"), "fehlt");
+    QTest::keyClick(&Feld(), Qt::Key_Return);
+    EXPECT_EQ(Feld().text(), "25000") << "what is no scale does not stay in the field";
+    Feld().selectAll();
+    QTest::keyClicks(&Feld(), "500\r");
+    Feld().clear();
+    QTest::keyClick(&Feld(), Qt::Key_Return);
+    EXPECT_EQ(Feld().text(), "500");
+}
+
+TEST_F(Exportfenster, LegendeMitTextenUndMassstab) {
+    fenster.Oeffne(kBeispiel);
+    const QImage ohne = fenster.Bild().copy();
+    auto* dialog = fenster.findChild<QDialog*>("TZRWLBLForm");
+    auto* kasten = dialog->findChild<QCheckBox*>("CheckBox1");
+    const auto bearbeite = [&](const auto& tun) {
+        QTimer::singleShot(0, dialog, [&] {
+            tun();
+            dialog->findChild<QPushButton*>("Button1")->click();
+        });
+        Knopf("SpeedButton12").click();
+    };
+    bearbeite([&] {
+        EXPECT_FALSE(kasten->isChecked());
+        EXPECT_EQ(dialog->findChild<QLineEdit*>("Edit1")->text(), "Netz Vogelsberg (frei erfunden)");
+        kasten->setChecked(true);
+        dialog->findChild<QLineEdit*>("Edit1")->setText("Straße \u4e2d");
+        dialog->findChild<QLineEdit*>("Edit2")->setText("Los 2");
+    });
+    const Legende& l = *fenster.Netz()->Legend;
+    EXPECT_EQ(l.Bez1,
+              "Stra\xDF"
+              "e ?");
+    EXPECT_EQ(l.Bez2, "Los 2");
+    EXPECT_EQ(l.Masstab, "25000");
+    EXPECT_TRUE(fenster.Netz()->ShowLegende && l.Visible);
+    EXPECT_EQ(l.Zeit, "21.11.2026 09:05:00");
+    EXPECT_NE(fenster.Bild(), ohne);
+
+    // Dragged by its corner, in whatever mode; Escape puts it back.
+    const QImage mit = fenster.Bild().copy();
+    Knopf("PanButton").setChecked(true);
+    const double links = fenster.Netz()->XOffset;
+    QTest::mouseMove(bild, {4, 5});
+    EXPECT_EQ(bild->cursor().shape(), Qt::SizeAllCursor);
+    QTest::mousePress(bild, Qt::LeftButton, {}, {4, 5});
+    EXPECT_TRUE(l.Move);
+    QTest::mouseMove(bild, {104, 205});
+    EXPECT_EQ(l.Position(), (Bildpunkt{102, 202}));
+    QTest::keyClick(bild, Qt::Key_Escape);
+    EXPECT_EQ(l.Position(), (Bildpunkt{2, 2}));
+    EXPECT_EQ(fenster.Bild(), mit);
+    QTest::mouseRelease(bild, Qt::LeftButton, {}, {104, 205});
+    QTest::mousePress(bild, Qt::LeftButton, {}, {4, 5});
+    QTest::mouseRelease(bild, Qt::LeftButton, {}, {104, 205});
+    EXPECT_EQ(l.Position(), (Bildpunkt{102, 202}));
+    EXPECT_FALSE(l.Move);
+    EXPECT_EQ(fenster.Netz()->XOffset, links) << "the view has not moved";
+
+    // The export names the scale of the print in the next picture, and is not in the files.
+    Feld().setText("5000");
+    Knopf("SpeedButton16").click();
+    EXPECT_EQ(l.Masstab, "5000");
+    EXPECT_FALSE(Inhalt("ZRW.PLT").contains("Los 2") || Inhalt("ZRW.DXF").contains("Los 2"));
+    bearbeite([&] { kasten->setChecked(false); });
+    EXPECT_EQ(fenster.Bild(), ohne);
+}
+
+TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
+    auto* tk25 = fenster.findChild<QCheckBox*>("CheckBoxGitter");
+    tk25->click();
+    EXPECT_FALSE(tk25->isChecked()) << "without a network";
+    fenster.Oeffne(kBeispiel);
+    const QImage ohne = fenster.Bild().copy();
+    for (const char* name : {"CheckBoxGitter", "CheckBoxKMQ"}) {
+        auto* kasten = fenster.findChild<QCheckBox*>(name);
+        kasten->click();
+        EXPECT_NE(fenster.Bild(), ohne) << name;
+        kasten->click();
+        EXPECT_EQ(fenster.Bild(), ohne) << name;
+    }
+    tk25->click();
+    Lege("n.EIN", "$NT 5\n$FP A              1 5600000 3500000\n");
+    Oeffne("n.EIN");
+    EXPECT_TRUE(tk25->isChecked()) << "the box stays";
+    EXPECT_FALSE(fenster.Netz()->ShowGitter);
+    fenster.findChild<QCheckBox*>("CheckBoxKMQ")->click();
+    EXPECT_FALSE(fenster.Netz()->ShowKMQ);
+    EXPECT_TRUE(Status().contains("kein Kartengitter"));
+    fenster.Oeffne(kBeispiel);
+    EXPECT_TRUE(fenster.Netz()->ShowGitter);
 }
 
 }  // namespace
