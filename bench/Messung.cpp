@@ -54,4 +54,18 @@ std::size_t Speicherbedarf() {
     return 0;
 }
 
+std::size_t Spitzenbedarf(const std::function<void()>& arbeit) {
+    std::ofstream("/proc/self/clear_refs") << "5";  // the peak begins anew
+    const std::size_t vorher = Speicherbedarf();
+    arbeit();
+    std::ifstream status("/proc/self/status");
+    std::string wort;
+    std::size_t kilobytes = 0;
+    while (status >> wort) {
+        if (wort == "VmHWM:" && status >> kilobytes) break;
+    }
+    const std::size_t spitze = kilobytes * 1024;
+    return spitze > vorher ? spitze - vorher : 0;
+}
+
 }  // namespace zrw::bench

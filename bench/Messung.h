@@ -46,4 +46,8 @@ void Drucke(const std::vector<Schritt>& schritte);
 /// Resident memory of this process [bytes], 0 where the system does not say.
 [[nodiscard]] std::size_t Speicherbedarf();
 
+/// The most memory that the work holds at a time beyond what was there before [bytes]; 0 where the system
+/// does not say.
+[[nodiscard]] std::size_t Spitzenbedarf(const std::function<void()>& arbeit);
+
 }  // namespace zrw::bench

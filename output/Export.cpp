@@ -19,6 +19,9 @@ class Exportansicht {
   public:
     Exportansicht(Liste& liste, Zeichenzustand& zustand, double faktor)
         : liste_(liste), zustand_(zustand), vorher_(zustand), faktor_(liste.Faktor) {
+        std::size_t anzahl = 0;
+        FuerJedePosition([&](std::int64_t& /*wert*/) { ++anzahl; });
+        positionen_.reserve(anzahl);
         FuerJedePosition([this](std::int64_t& wert) { positionen_.push_back(wert); });
         // Nothing of this redraw stays on the screen, so it does not go there at all.
         zustand_.flaeche = nullptr;

@@ -1,0 +1,141 @@
+// How fast a plot is exported to both files, beside the raw limit: writing the same bytes with plain buffered
+// output, without bringing them onto the disk and with that.
+// usage: bench_export [ROUNDS]
+#include "output/Export.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "bench/Messung.h"
+#include "bench/Netzgenerator.h"
+#include "input/Oeffnen.h"
+#include "input/Systemdateien.h"
+#include "output/Figurenzeichner.h"
+#include "output/Uhr.h"
+#include "tests/hilfe/Speicherdateien.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using zrw::bench::Miss;
+
+/// A folder of its own that goes with its owner.
+class Zwischenordner {
+  public:
+    Zwischenordner() : pfad_(fs::temp_directory_path() / "zarwik_bench_export") {
+        fs::create_directories(pfad_);
+    }
+    ~Zwischenordner() {
+        std::error_code fehler;
+        fs::remove_all(pfad_, fehler);
+    }
+    Zwischenordner(const Zwischenordner&) = delete;
+    Zwischenordner& operator=(const Zwischenordner&) = delete;
+    [[nodiscard]] const fs::path& Pfad() const { return pfad_; }
+
+  private:
+    fs::path pfad_;
+};
+
+/// The bytes in the pieces in which a program with plain output would hand them over: line by line.
+void SchreibeSchlicht(const fs::path& name, const std::string& bytes) {
+    std::ofstream f(name, std::ios::binary | std::ios::trunc);
+    for (std::size_t i = 0; i < bytes.size();) {
+        const std::size_t ende = bytes.find('\n', i) + 1;
+        f.write(bytes.data() + i, static_cast<std::streamsize>(ende - i));
+        i = ende;
+    }
+}
+
+std::string Lies(const fs::path& name) {
+    return zrw::Systemdateien().Lies(name, std::size_t{1} << 32U);
+}
+
+double MB(std::size_t bytes) {
+    return static_cast<double>(bytes) / 1e6;
+}
+
+int Vergleiche(int runden) {
+    const zrw::Einstellungen e;
+    zrw::Systemdateien system;
+    const Zwischenordner ordner;
+    zrw::Speicherdateien quelle;
+    quelle.dateien["N.EIN"] = zrw::bench::ErzeugeSteuerdatei({.paare = 200000, .beobachtungen = 294000});
+    const zrw::Lesung netz = zrw::OeffneNetz("N.EIN", quelle, e, {}, {1200, 800}, {});
+    quelle.dateien.clear();
+    netz.liste->ShowFL = true;
+
+    const zrw::Systemuhr uhr;
+    zrw::Zeichenzustand zustand;
+    zrw::Figurenzeichner zeichner(zustand, e, netz.netz, uhr);
+    const fs::path plotname = ordner.Pfad() / zrw::kPlotname;
+    const fs::path dxfname = ordner.Pfad() / zrw::kDxfname;
+    const auto exportiere = [&](bool plot, bool dxf) {
+        return Miss([&] {
+            zrw::Exportauftrag auftrag{zrw::Druckfaktor(25000, 600), {}, {}};
+            if (plot) auftrag.plot = plotname;
+            if (dxf) auftrag.dxf = dxfname;
+            zrw::Exportiere(*netz.liste, zeichner, zustand, system, auftrag);
+            return 0;
+        });
+    };
+    const std::size_t speicher = zrw::bench::Spitzenbedarf([&] { (void)exportiere(true, true); });
+    // The same network without its lines: a file of a fraction of the size.
+    netz.liste->ShowBeob = false;
+    const std::size_t ohneLinien = zrw::bench::Spitzenbedarf([&] { (void)exportiere(true, true); });
+    const auto klein = fs::file_size(dxfname) + fs::file_size(plotname);
+    netz.liste->ShowBeob = true;
+    (void)exportiere(true, true);
+    const std::string plotbytes = Lies(plotname);
+    const std::string dxfbytes = Lies(dxfname);
+    const std::size_t bytes = plotbytes.size() + dxfbytes.size();
+    std::printf("%d Punkte, %d Linien -> %.1f MB DXF, %.1f MB PLT\n", netz.liste->MaxPkte,
+                netz.liste->MaxKant, MB(dxfbytes.size()), MB(plotbytes.size()));
+    std::printf("Speicher des Exports: %.2f MB fuer %.1f MB Dateien, %.2f MB fuer %.1f MB\n\n", MB(speicher),
+                MB(bytes), MB(ohneLinien), MB(klein));
+
+    const auto schlicht = [&] {
+        SchreibeSchlicht(plotname, plotbytes);
+        SchreibeSchlicht(dxfname, dxfbytes);
+    };
+    std::vector<zrw::bench::Schritt> schritte{
+        {"(a) dieselben Bytes, gepuffert, Zeile um Zeile", bytes,
+         [&] {
+             return Miss([&] {
+                 schlicht();
+                 return 0;
+             });
+         }},
+        {"(b) dieselben Bytes ersetzt, auf die Platte", bytes,
+         [&] {
+             return Miss([&] {
+                 system.Ersetze(plotname, plotbytes);
+                 system.Ersetze(dxfname, dxfbytes);
+                 return 0;
+             });
+         }},
+        {"(c) Export in beide Dateien", bytes, [&] { return exportiere(true, true); }},
+        {"    nur DXF", dxfbytes.size(), [&] { return exportiere(false, true); }},
+        {"    nur PLT", plotbytes.size(), [&] { return exportiere(true, false); }},
+        {"    ohne Datei: nur zeichnen", 0, [&] { return exportiere(false, false); }},
+    };
+    zrw::bench::Laufe(schritte, runden);
+    zrw::bench::Drucke(schritte);
+    return 0;
+}
+
+}  // namespace
+
+int main(int anzahl, char** argumente) {
+    const int runden = anzahl > 1 ? std::atoi(argumente[1]) : 5;
+    try {
+        return Vergleiche(runden > 0 ? runden : 5);
+    } catch (const std::exception& f) {
+        std::fprintf(stderr, "%s\n", f.what());
+        return 1;
+    }
+}
