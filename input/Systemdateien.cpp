@@ -31,12 +31,13 @@ using Strom = std::unique_ptr<std::FILE, Schliesser>;
 
 /// The system's own texts come in the language of the system; these are the ones that users meet.
 std::string Grund(int nummer) {
-    static constexpr std::array<std::pair<int, const char*>, 10> kGruende{{
+    static constexpr std::array<std::pair<int, const char*>, 11> kGruende{{
         {ENOENT, "nicht vorhanden"},
         {EACCES, "keine Berechtigung"},
         {EPERM, "keine Berechtigung"},
         {EROFS, "Datenträger schreibgeschützt"},
         {ENOSPC, "Datenträger voll"},
+        {EFBIG, "Datei zu groß"},
         {EISDIR, "ist ein Ordner"},
         {ENOTDIR, "ein Teil des Pfades ist kein Ordner"},
         {ENAMETOOLONG, "Name zu lang"},

@@ -70,6 +70,26 @@ erwarte 0 "eigene Einstellungen" --export zrw --ziel aus2 "$wurzel/beispiele/NET
 pruefe "eigene gelten" test "$(od -An -tu4 -j102 -N4 aus2/NETZ.ZRW | xargs)" = 65280
 rm "$XDG_CONFIG_HOME/ZRWINI.ini"
 
+# An export that cannot be finished: the disk is full (here: a limit on the size of files) or the folder closed.
+mkdir voll
+cp "$wurzel/README.md" voll/ZRW.DXF
+cp "$wurzel/README.md" voll/ZRW.PLT
+for art in dxf plt; do
+    (
+        trap '' XFSZ
+        ulimit -f 24
+        exec "$zarwik" --export $art --ziel voll "$wurzel/beispiele/NETZ.EIN"
+    ) >stdout 2>stderr
+    pruefe "$art: voller Datenträger: Status" test $? -eq 1
+    pruefe "$art: voller Datenträger: Text" grep -qF "ZRW.${art^^}: Kann Datei nicht schreiben (Datei zu groß)" stderr
+    pruefe "$art: die alte bleibt" cmp -s voll/ZRW.${art^^} "$wurzel/README.md"
+done
+pruefe "nichts daneben" test "$(ls voll)" = "$(printf 'ZRW.DXF\nZRW.PLT')"
+erwarte 0 "doppelter Maßstab" --export plt --massstab 12500 --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
+erwarte 0 "doppelte Auflösung" --export plt --dpi 1200 --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "dasselbe in Punkten" cmp -s aus2/ZRW.PLT aus3/ZRW.PLT
+rm -f aus2/ZRW.PLT aus3/ZRW.PLT
+
 # einzeilig BESCHREIBUNG TEXTTEIL: one German line on standard error, and nothing written.
 rm -rf leer && mkdir leer
 einzeilig() {
@@ -102,7 +122,8 @@ pruefe "alle gemeldet" test "$(grep -c 'Lesefehler bei Punkt' stderr)" -eq 30
 pruefe "Rest geschrieben" test "$(stat -c %s aus/punkte.ZRW)" -eq $((84 + 41 + 54))
 
 for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groesse 5x5 x" "--groesse 99999x800 x" \
-    "--ein nichts x" "--export zrw a b" "--groesse 800x600 x"; do
+    "--ein nichts x" "--export dxf --massstab 0 x" "--export dxf --massstab 1:500 x" "--export plt --dpi 0 x" \
+    "--export plt --dpi 1.5 x" "--export zrw a b" "--groesse 800x600 x"; do
     # shellcheck disable=SC2086
     erwarte 2 "falscher Aufruf $falsch" $falsch
     pruefe "$falsch: eine Zeile" test "$(wc -l <stderr)" -eq 1
