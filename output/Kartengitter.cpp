@@ -97,7 +97,9 @@ void Kartengitter::Strich(Bildpunkt von, Bildpunkt nach) const {
 void Kartengitter::Nummer(Bildpunkt ort, std::string_view text, std::int64_t feldbreite) const {
     if (ziel_.flaeche != nullptr && ziel_.flaeche->Textbreite(text) <= feldbreite) {
         Zeichenflaeche& f = *ziel_.flaeche;
-        const Bildpunkt platz{Summe(ort.x, 2 * f.Schriftgrad()), Differenz(ort.y, 2 * f.Schrifthoehe())};
+        const std::int64_t einzug = f.Schriftgrad();
+        const std::int64_t hoehe = f.Schrifthoehe();
+        const Bildpunkt platz{Summe(ort.x, 2 * einzug), Differenz(ort.y, 2 * hoehe)};
         const std::int64_t rand = std::int64_t{f.Texthoehe()} * 2 * static_cast<std::int64_t>(text.size());
         if (InReichweite(platz, rand, f.Sichtbar())) f.Text(Aufflaeche(platz), text, ziel_.farbe);
     }
@@ -125,18 +127,21 @@ void Kartengitter::Kartenblaetter(const Netzangaben& netz) {
 
     const std::int64_t breiteImBild =
         Differenz(geo.Bildort(breite0, laenge0 + blattbreite).x, geo.Bildort(breite0, laenge0).x);
-    for (double laenge = laenge0; laenge <= ostrand; laenge += blattbreite, ++spalte) {
+    double meridian = laenge0;
+    while (meridian <= ostrand) {
         int nummer = zeile * 100 + spalte;
         double breite = breite0;
-        Bildpunkt vorher = geo.Bildort(breite, laenge);
+        Bildpunkt vorher = geo.Bildort(breite, meridian);
         do {
             breite -= blatthoehe;
-            const Bildpunkt hier = geo.Bildort(breite, laenge);
+            const Bildpunkt hier = geo.Bildort(breite, meridian);
             Strich(vorher, hier);
             Nummer(hier, std::to_string(nummer), breiteImBild);
             vorher = hier;
             nummer += 100;
         } while (breite >= suedrand);
+        meridian += blattbreite;
+        ++spalte;
     }
     // Parallels are curved in the grid: a piece for every minute of longitude.
     double breite = breite0;

@@ -33,7 +33,8 @@ void Legendenbild::Zeichne(const Legende& l, Gang gang) const {
     const std::int32_t w = Breite(l);
     const std::int32_t h = flaeche_.Texthoehe();
     const std::int32_t s = einstellungen_.PTSize;
-    if (!InReichweite(l.Position(), std::int64_t{w} + kZeilen * h + 3 * s, flaeche_.Sichtbar())) return;
+    const std::int64_t reichweite = std::int64_t{w} + std::int64_t{h} * kZeilen + std::int64_t{s} * 3;
+    if (!InReichweite(l.Position(), reichweite, flaeche_.Sichtbar())) return;
     const auto [x, y] = Aufflaeche(l.Position());
     const bool wischen = gang == Gang::Wischen;
     const auto farbe = [&](Farbe eigene) { return wischen ? kWeiss : eigene; };
