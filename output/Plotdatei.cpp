@@ -66,7 +66,7 @@ void Plotdatei::Linienzug(const Zug& zug) {
 }
 
 void Plotdatei::Punkt(Bildpunkt ort) {
-    Zeile(kPunkt, Paare<1>({ort}));
+    Zeile(kPunkt, Paare(std::array{ort}));
 }
 
 void Plotdatei::Kreis(Bildpunkt mitte, std::int64_t radius) {
@@ -78,7 +78,7 @@ void Plotdatei::Kreuz(const std::array<Bildpunkt, 4>& enden) {
 }
 
 void Plotdatei::Dreieck(const std::array<Bildpunkt, 3>& ecken) {
-    Zeile(kDreieck, Paare<4>({ecken[0], ecken[1], ecken[2], ecken[0]}));
+    Zeile(kDreieck, Paare(std::array{ecken[0], ecken[1], ecken[2], ecken[0]}));
 }
 
 void Plotdatei::Viereck(const std::array<Bildpunkt, 4>& ecken) {
@@ -93,7 +93,8 @@ void Plotdatei::Viereck(const std::array<Bildpunkt, 4>& ecken) {
 }
 
 void Plotdatei::Text(Bildpunkt ort, std::int64_t abstand, std::string_view text) {
-    Zeile(kText, Paare<1>({{Summe(ort.x, abstand), Differenz(ort.y, abstand)}}), text);
+    const Bildpunkt platz{Summe(ort.x, abstand), Differenz(ort.y, abstand)};
+    Zeile(kText, Paare(std::array{platz}), text);
 }
 
 }  // namespace zrw

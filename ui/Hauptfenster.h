@@ -92,7 +92,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void Zoome(double x, double y, bool groesser);
     void ZeigeStatus(Bildpunkt ort);
     void ZeigeZeiger(Bildpunkt ort);
-    [[nodiscard]] Werkzeug* Aktiv();
+    [[nodiscard]] Werkzeug* Aktiv() const;
     void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikMouseMove(Bildpunkt ort) override;
     void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
@@ -116,7 +116,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     Figurenzeichner zeichner_;
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
-    std::unique_ptr<Werkzeug> legendenecke_;            ///< dragging the legend, whatever mode is on
+    std::unique_ptr<Werkzeug> legendenecke_;            ///< dragging the legend, with no mode on
     Werkzeug* gedrueckt_ = nullptr;                     ///< has the mouse button that is down
     Qt::MouseButton taste_ = Qt::NoButton;
     std::vector<QToolButton*> werkzeugknoepfe_;

@@ -69,7 +69,7 @@ void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {
     statusBar()->showMessage(AusUtf8(text));
 }
 
-Werkzeug* TZrwMainDlg::Aktiv() {
+Werkzeug* TZrwMainDlg::Aktiv() const {
     for (std::size_t i = 0; i < werkzeugknoepfe_.size(); ++i) {
         if (werkzeugknoepfe_[i]->isChecked()) return werkzeuge_[i].get();
     }

@@ -61,8 +61,10 @@ void TZrwMainDlg::SpeedButton16Click() {
 
 // --- Dragging the legend ----------------------------------------------------------------------------------
 
+/// Where a press would take hold of the legend: with a tool mode on, the press is the tool's.
 bool TZrwMainDlg::UeberLegendenecke(Bildpunkt ort) const {
-    return liste_ != nullptr && liste_->ShowLegende && liste_->Gefangen(ort, liste_->Legend->Position());
+    return liste_ != nullptr && liste_->ShowLegende && Aktiv() == nullptr &&
+           liste_->Gefangen(ort, liste_->Legend->Position());
 }
 
 Bildpunkt TZrwMainDlg::Legendenort() const {

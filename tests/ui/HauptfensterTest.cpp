@@ -377,9 +377,8 @@ TEST_F(Exportfenster, LegendeMitTextenUndMassstab) {
     EXPECT_EQ(l.Zeit, "21.11.2026 09:05:00");
     EXPECT_NE(fenster.Bild(), ohne);
 
-    // Dragged by its corner, in whatever mode; Escape puts it back.
+    // Dragged by its corner while no tool is down; Escape puts it back.
     const QImage mit = fenster.Bild().copy();
-    Knopf("PanButton").setChecked(true);
     const double links = fenster.Netz()->XOffset;
     QTest::mouseMove(bild, {4, 5});
     EXPECT_EQ(bild->cursor().shape(), Qt::SizeAllCursor);
@@ -395,6 +394,10 @@ TEST_F(Exportfenster, LegendeMitTextenUndMassstab) {
     QTest::mouseRelease(bild, Qt::LeftButton, {}, {104, 205});
     EXPECT_EQ(l.Position(), (Bildpunkt{102, 202}));
     EXPECT_FALSE(l.Move);
+    Knopf("PanButton").setChecked(true);
+    QTest::mousePress(bild, Qt::LeftButton, {}, {102, 202});
+    EXPECT_FALSE(l.Move) << "the tool has the mouse";
+    QTest::mouseRelease(bild, Qt::LeftButton, {}, {102, 202});
     EXPECT_EQ(fenster.Netz()->XOffset, links) << "the view has not moved";
 
     // The export names the scale of the print in the next picture, and is not in the files.

@@ -1,4 +1,4 @@
-// Dragging the legend by its corner. Not a mode with a button: the corner is caught whatever mode is on.
+// Dragging the legend by its corner. Not a mode with a button: the corner is caught while no mode is on.
 #pragma once
 
 #include <optional>
