@@ -138,8 +138,11 @@ void Kantenbild::Umweg(LinieAttr lAttr, const Lage& l) {
         Nimm(Zugform::Siebenpunkt, {l.s, ab, links, l.AbMitte(0, w), rechts, an, l.e});
         Nimm(Zugform::Gestrichelt, {ab, an});
     } else {
+        // The form has three dashed strokes: they share the way to the end.
+        const double rest = (l.laenge / 2 - 2 * w) / 3;
         Nimm(Zugform::Gestrichelt, {l.s, ab});
-        Nimm(Zugform::SiebenpunktHalb, {ab, links, rechts, an, an, an, l.e});
+        Nimm(Zugform::SiebenpunktHalb,
+             {ab, links, rechts, an, l.AbMitte(2 * w + rest, 0), l.AbMitte(2 * w + 2 * rest, 0), l.e});
     }
 }
 
