@@ -1,24 +1,10 @@
 #include "model/FigListe.h"
 
-#include <string_view>
-#include <utility>
-
 #include "model/Punktarten.h"
 #include "model/Zeichner.h"
 
 namespace zrw {
 namespace {
-
-/// Takes a node out of its list. False where the list does not hold it.
-template <class Knoten>
-bool HaengeAus(Knoten*& kopf, const Knoten* knoten) {
-    Knoten** zeiger = &kopf;
-    while (*zeiger != nullptr && *zeiger != knoten)
-        zeiger = &(*zeiger)->Next;
-    if (*zeiger == nullptr) return false;
-    *zeiger = knoten->Next;
-    return true;
-}
 
 /// Wipes every figure of a list from its head on and empties the list.
 template <class Knoten>
@@ -27,17 +13,6 @@ void Leere(Knoten*& kopf, Zeichner& z) {
         kopf->Item->Done(z);
         kopf = kopf->Next;
     }
-}
-
-template <class Figur>
-void Zeige(Figur& figur, Zeichner& z) {
-    figur.Visible = true;
-    figur.Show(z);
-}
-
-bool IstHilfspunkt(const PktText& text) {
-    const std::string_view nummer = text.Aus.Text();
-    return !nummer.empty() && std::string_view("WKH").find(nummer.back()) != std::string_view::npos;
 }
 
 }  // namespace
@@ -113,80 +88,6 @@ std::string Liste::GetPktText(PunktIndex n) const {
 PPunktKnoten Liste::FindPunkt(std::string_view p) const {
     const PunktString* knoten = index_.FindeText(PunktNummernTyp(p));
     return knoten != nullptr ? SuchPkt(knoten->TNr) : nullptr;
-}
-
-// --- Editing ----------------------------------------------------------------------------------------------
-
-void Liste::DeleteKante(PPunktKante pk, Zeichner& z) {
-    if (pk == nullptr || !HaengeAus(KanteKnoten, pk)) return;
-    index_.Ab(*pk);
-    pk->Item->Done(z);
-    --MaxKant;
-}
-
-void Liste::DeletePunkt(PPunktKnoten pp, Zeichner& z) {
-    if (pp == nullptr) return;
-    const PunktIndex nr = pp->PNr;
-    // One walk for all lines of the point: a station may carry tens of thousands of them.
-    PPunktKante* zeiger = &KanteKnoten;
-    while (*zeiger != nullptr) {
-        PPunktKante k = *zeiger;
-        if (k->ANr != nr && k->ENr != nr) {
-            zeiger = &k->Next;
-            continue;
-        }
-        *zeiger = k->Next;
-        index_.Ab(*k);
-        k->Item->Done(z);
-        --MaxKant;
-    }
-    if (PPunktString t = index_.FindeText(nr); t != nullptr) {
-        index_.Ab(*t);
-        HaengeAus(PktTextKnoten, t);
-        t->Item->Done(z);
-    }
-    index_.Ab(*pp);
-    if (!HaengeAus(PunktKnoten, pp)) return;
-    pp->Item->Done(z);
-    --MaxPkte;
-}
-
-void Liste::DreheKante(PunktKante& pk) {
-    index_.Drehe(pk);
-    std::swap(pk.ANr, pk.ENr);
-    std::swap(pk.Item->XO, pk.Item->XBiE);
-    std::swap(pk.Item->YO, pk.Item->YBiE);
-}
-
-void Liste::ShowPunkt(zrw::PunktKnoten& pp, Zeichner& z) {
-    for (PPunktKante k = index_.ErsteKante(pp.PNr); k != nullptr;
-         k = Figurenindex::NaechsteKante(*k, pp.PNr)) {
-        Zeige(*k->Item, z);
-    }
-    if (PktText* t = FindPktText(pp.PNr); t != nullptr) Zeige(*t, z);
-    Zeige(*pp.Item, z);
-}
-
-void Liste::HidePunkt(zrw::PunktKnoten& pp, Zeichner& z) {
-    for (PPunktKante k = index_.ErsteKante(pp.PNr); k != nullptr;
-         k = Figurenindex::NaechsteKante(*k, pp.PNr)) {
-        k->Item->Hide(z);
-    }
-    if (PktText* t = FindPktText(pp.PNr); t != nullptr) t->Hide(z);
-    pp.Item->Hide(z);
-}
-
-void Liste::ChKante(LinieAttr newAttr, Zeichner& z) {
-    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next)
-        k->Item->ChangeLAttr(newAttr, z);
-}
-
-void Liste::DisplayHilfp(bool show) {
-    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        const bool sichtbar = show || !IstHilfspunkt(*t->Item);
-        if (PPunktKnoten p = FindPunkt(t->Item->Aus.Text()); p != nullptr) p->Item->Visible = sichtbar;
-        t->Item->Visible = sichtbar;
-    }
 }
 
 // --- Drawing ----------------------------------------------------------------------------------------------

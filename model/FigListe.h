@@ -127,6 +127,13 @@ class Liste {
     /// The line between two points, in either orientation.
     [[nodiscard]] PPunktKante FindKante(PunktIndex a, PunktIndex b) const { return index_.FindeKante(a, b); }
 
+    // Bearbeiten.cpp
+    /// Takes a line, or a point with its lines and its label, out of the lists and counts down. Draws
+    /// nothing. The figures live on in the arena, so `SetzeZurueck` can put them back in their places as long
+    /// as the lists are then as they were left. A figure that is in no list is not taken.
+    Herausnahme NimmHeraus(PunktKante& pk);
+    Herausnahme NimmHeraus(zrw::PunktKnoten& pp);
+    void SetzeZurueck(const Herausnahme& h);
     /// Wipes the line, takes it out of the list and counts down. Nothing for null.
     void DeleteKante(PPunktKante pk, Zeichner& z);
     /// Deletes the lines at the point, its label and the point.

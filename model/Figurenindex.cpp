@@ -26,6 +26,16 @@ std::uint64_t NeueSaat() {
     return std::uint64_t{zufall()} << 32U | zufall();
 }
 
+/// The first node of a list that fits, one of which does; `einziger` where it is known to be the only one.
+template <class Knoten, class Bedingung>
+Knoten* Erster(Knoten& kopf, Bedingung passt, Knoten* einziger) {
+    if (einziger != nullptr) return einziger;
+    Knoten* k = &kopf;
+    while (!passt(*k))
+        k = k->Next;
+    return k;
+}
+
 bool GleichesPaar(const PunktKante& x, const PunktKante& y) {
     return (x.ANr == y.ANr && x.ENr == y.ENr) || (x.ANr == y.ENr && x.ENr == y.ANr);
 }
@@ -118,6 +128,36 @@ void Figurenindex::Ab(PunktKante& k) {
     } else {
         nachPaar_.Entferne({k.ANr, k.ENr});
     }
+}
+
+void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
+    // A point of the same number nearer the head keeps answering.
+    Lege(punkte_, p.PNr,
+         Erster(
+             kopf, [&](const PunktKnoten& k) { return k.PNr == p.PNr; },
+             FindePunkt(p.PNr) == nullptr ? &p : nullptr));
+}
+
+void Figurenindex::Zurueck(PunktString& t, PunktString& kopf) {
+    Lege(texte_, t.TNr,
+         Erster(
+             kopf, [&](const PunktString& k) { return k.TNr == t.TNr; },
+             FindeText(t.TNr) == nullptr ? &t : nullptr));
+    const PunktNummernTyp& nummer = t.Item->Aus;
+    PunktString* erster = Erster(
+        kopf, [&](const PunktString& k) { return k.Item->Aus == nummer; },
+        FindeText(nummer) == nullptr ? &t : nullptr);
+    nachNummer_.Setze(nummer, {erster, erster->TNr});
+}
+
+void Figurenindex::Zurueck(PunktKante& k, PunktKante& kopf) {
+    neuesteKante_ = &kopf;
+    // The chains at the points are made anew when somebody asks for them.
+    verkettet_ = false;
+    kantenAm_.clear();
+    nachPaar_.Setze({k.ANr, k.ENr}, Erster(
+                                        kopf, [&](const PunktKante& x) { return GleichesPaar(x, k); },
+                                        FindeKante(k.ANr, k.ENr) == nullptr ? &k : nullptr));
 }
 
 void Figurenindex::Drehe(PunktKante& k) {

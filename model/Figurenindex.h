@@ -109,6 +109,10 @@ class Figurenindex {
     void Ab(PunktKnoten& p);
     void Ab(PunktString& t);
     void Ab(PunktKante& k);
+    /// A figure is back in its place, somewhere behind the head of its list.
+    void Zurueck(PunktKnoten& p, PunktKnoten& kopf);
+    void Zurueck(PunktString& t, PunktString& kopf);
+    void Zurueck(PunktKante& k, PunktKante& kopf);
     /// The line is about to swap its ends: its places among the lines of both points swap with them.
     static void Drehe(PunktKante& k);
     /// Announces so many figures; saves growing on the way.

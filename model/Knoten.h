@@ -2,6 +2,8 @@
 // numbers of its points; node and figure live in the arena of their `Liste`.
 #pragma once
 
+#include <vector>
+
 #include "model/Figuren.h"
 #include "model/Werte.h"
 
@@ -39,5 +41,20 @@ struct PunktString {
     PunktString* Next = nullptr;
 };
 using PPunktString = PunktString*;
+
+/// Where a figure stood that was taken out of its list.
+template <class Knoten>
+struct Platz {
+    Knoten* knoten = nullptr;
+    Knoten* davor = nullptr;  ///< null: it was the head
+    bool sichtbar = false;
+};
+
+/// Figures that were taken out together, with their places.
+struct Herausnahme {
+    Platz<PunktKnoten> punkt;
+    Platz<PunktString> text;
+    std::vector<Platz<PunktKante>> kanten;  ///< in the order of leaving
+};
 
 }  // namespace zrw

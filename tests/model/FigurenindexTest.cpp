@@ -58,6 +58,33 @@ void Vergleiche(Probenetz& n, PunktIndex nummern, int texte) {
     ASSERT_EQ(l.MaxKant, kanten);
 }
 
+/// Every node in order, with what undoing must bring back.
+std::vector<std::pair<const void*, bool>> Bestand(const Liste& l) {
+    std::vector<std::pair<const void*, bool>> b{{nullptr, l.MaxPkte == l.MaxKant}};
+    for (PPunktKnoten p = l.PunktKnoten; p != nullptr; p = p->Next)
+        b.emplace_back(p, p->Item->Visible);
+    for (PPunktString t = l.PktTextKnoten; t != nullptr; t = t->Next)
+        b.emplace_back(t, t->Item->Visible);
+    for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next)
+        b.emplace_back(k, k->Item->Visible);
+    return b;
+}
+
+/// A point and a line that are taken out, wiped and put back leave everything as it was.
+void NimmUndSetzeZurueck(Probenetz& n, std::size_t a, std::size_t b) {
+    const auto vorher = Bestand(n.l);
+    PPunktKnoten p = Stelle(n.l.PunktKnoten, a % static_cast<std::size_t>(n.l.MaxPkte + 1));
+    if (p == nullptr) return;
+    const Herausnahme erste = n.l.NimmHeraus(*p);
+    for (const auto& k : erste.kanten)
+        k.knoten->Item->Hide(n.z);
+    PPunktKante k = Stelle(n.l.KanteKnoten, b % static_cast<std::size_t>(n.l.MaxKant + 1));
+    const Herausnahme zweite = k != nullptr ? n.l.NimmHeraus(*k) : Herausnahme{};
+    n.l.SetzeZurueck(zweite);
+    n.l.SetzeZurueck(erste);
+    ASSERT_EQ(Bestand(n.l), vorher);
+}
+
 // Numbers, texts and pairs repeat, lines begin and end at one point, and keys vanish and come back.
 TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
     struct {
@@ -81,6 +108,8 @@ TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
                 n.l.DreheKante(*k);
             } else if (was < 93) {
                 n.l.DeleteKante(k, n.z);
+            } else if (was < 96) {
+                NimmUndSetzeZurueck(n, zufall(), zufall());
             } else if (was < 98) {
                 n.l.DeletePunkt(Stelle(n.l.PunktKnoten, zufall() % static_cast<unsigned>(n.l.MaxPkte + 1)),
                                 n.z);

@@ -1,0 +1,160 @@
+// Editing of the list: deleting, taking out and putting back, showing and hiding points, line styles.
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "model/FigListe.h"
+#include "model/Zeichner.h"
+
+namespace zrw {
+namespace {
+
+/// Takes a node out of its list. Nothing where the list does not hold it; else the node before it, null for
+/// the head.
+template <class Knoten>
+std::optional<Knoten*> HaengeAus(Knoten*& kopf, const Knoten* knoten) {
+    Knoten* davor = nullptr;
+    Knoten** zeiger = &kopf;
+    while (*zeiger != nullptr && *zeiger != knoten) {
+        davor = *zeiger;
+        zeiger = &davor->Next;
+    }
+    if (*zeiger == nullptr) return std::nullopt;
+    *zeiger = knoten->Next;
+    return davor;
+}
+
+template <class Knoten>
+void HaengeEin(Knoten*& kopf, Knoten& knoten, Knoten* davor) {
+    Knoten*& stelle = davor != nullptr ? davor->Next : kopf;
+    knoten.Next = stelle;
+    stelle = &knoten;
+}
+
+template <class Figur>
+void Zeige(Figur& figur, Zeichner& z) {
+    figur.Visible = true;
+    figur.Show(z);
+}
+
+bool IstHilfspunkt(const PktText& text) {
+    const std::string_view nummer = text.Aus.Text();
+    return !nummer.empty() && std::string_view("WKH").find(nummer.back()) != std::string_view::npos;
+}
+
+}  // namespace
+
+// --- Taking out and putting back --------------------------------------------------------------------------
+
+Herausnahme Liste::NimmHeraus(PunktKante& pk) {
+    Herausnahme h;
+    const auto davor = HaengeAus(KanteKnoten, &pk);
+    if (!davor) return h;
+    index_.Ab(pk);
+    --MaxKant;
+    h.kanten.push_back({&pk, *davor, pk.Item->Visible});
+    return h;
+}
+
+Herausnahme Liste::NimmHeraus(zrw::PunktKnoten& pp) {
+    Herausnahme h;
+    const PunktIndex nr = pp.PNr;
+    // One walk for all lines of the point: a station may carry tens of thousands of them.
+    PPunktKante davor = nullptr;
+    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
+        if (k->ANr != nr && k->ENr != nr) {
+            davor = k;
+            continue;
+        }
+        (davor != nullptr ? davor->Next : KanteKnoten) = k->Next;
+        index_.Ab(*k);
+        --MaxKant;
+        h.kanten.push_back({k, davor, k->Item->Visible});
+    }
+    if (PPunktString t = index_.FindeText(nr); t != nullptr) {
+        index_.Ab(*t);
+        h.text = {t, HaengeAus(PktTextKnoten, t).value_or(nullptr), t->Item->Visible};
+    }
+    index_.Ab(pp);
+    if (const auto vor = HaengeAus(PunktKnoten, &pp)) {
+        --MaxPkte;
+        h.punkt = {&pp, *vor, pp.Item->Visible};
+    }
+    return h;
+}
+
+void Liste::SetzeZurueck(const Herausnahme& h) {
+    if (h.punkt.knoten != nullptr) {
+        HaengeEin(PunktKnoten, *h.punkt.knoten, h.punkt.davor);
+        index_.Zurueck(*h.punkt.knoten, *PunktKnoten);
+        h.punkt.knoten->Item->Visible = h.punkt.sichtbar;
+        ++MaxPkte;
+    }
+    if (h.text.knoten != nullptr) {
+        HaengeEin(PktTextKnoten, *h.text.knoten, h.text.davor);
+        index_.Zurueck(*h.text.knoten, *PktTextKnoten);
+        h.text.knoten->Item->Visible = h.text.sichtbar;
+    }
+    // The last that left had the fewest before it.
+    for (auto k = h.kanten.rbegin(); k != h.kanten.rend(); ++k) {
+        HaengeEin(KanteKnoten, *k->knoten, k->davor);
+        index_.Zurueck(*k->knoten, *KanteKnoten);
+        k->knoten->Item->Visible = k->sichtbar;
+        ++MaxKant;
+    }
+}
+
+// --- Editing ----------------------------------------------------------------------------------------------
+
+void Liste::DeleteKante(PPunktKante pk, Zeichner& z) {
+    if (pk != nullptr && !NimmHeraus(*pk).kanten.empty()) pk->Item->Done(z);
+}
+
+void Liste::DeletePunkt(PPunktKnoten pp, Zeichner& z) {
+    if (pp == nullptr) return;
+    const Herausnahme h = NimmHeraus(*pp);
+    for (const auto& k : h.kanten)
+        k.knoten->Item->Done(z);
+    if (h.text.knoten != nullptr) h.text.knoten->Item->Done(z);
+    if (h.punkt.knoten != nullptr) h.punkt.knoten->Item->Done(z);
+}
+
+void Liste::DreheKante(PunktKante& pk) {
+    index_.Drehe(pk);
+    std::swap(pk.ANr, pk.ENr);
+    std::swap(pk.Item->XO, pk.Item->XBiE);
+    std::swap(pk.Item->YO, pk.Item->YBiE);
+}
+
+void Liste::ShowPunkt(zrw::PunktKnoten& pp, Zeichner& z) {
+    for (PPunktKante k = index_.ErsteKante(pp.PNr); k != nullptr;
+         k = Figurenindex::NaechsteKante(*k, pp.PNr)) {
+        Zeige(*k->Item, z);
+    }
+    if (PktText* t = FindPktText(pp.PNr); t != nullptr) Zeige(*t, z);
+    Zeige(*pp.Item, z);
+}
+
+void Liste::HidePunkt(zrw::PunktKnoten& pp, Zeichner& z) {
+    for (PPunktKante k = index_.ErsteKante(pp.PNr); k != nullptr;
+         k = Figurenindex::NaechsteKante(*k, pp.PNr)) {
+        k->Item->Hide(z);
+    }
+    if (PktText* t = FindPktText(pp.PNr); t != nullptr) t->Hide(z);
+    pp.Item->Hide(z);
+}
+
+void Liste::ChKante(LinieAttr newAttr, Zeichner& z) {
+    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next)
+        k->Item->ChangeLAttr(newAttr, z);
+}
+
+void Liste::DisplayHilfp(bool show) {
+    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
+        const bool sichtbar = show || !IstHilfspunkt(*t->Item);
+        if (PPunktKnoten p = FindPunkt(t->Item->Aus.Text()); p != nullptr) p->Item->Visible = sichtbar;
+        t->Item->Visible = sichtbar;
+    }
+}
+
+}  // namespace zrw
