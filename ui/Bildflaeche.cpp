@@ -1,39 +1,10 @@
 #include "ui/Bildflaeche.h"
 
-#include <QFontInfo>
-#include <QPen>
-#include <QPolygon>
 #include <algorithm>
 
-#include "ui/Umwandlung.h"
-
 namespace zrw {
-namespace {
 
-/// 8 pt on a screen of 96 dots per inch. In pixels, so that every screen and the batch mode give one picture.
-constexpr int kSchrifthoehe = 11;
-/// Screens are taken as 96 dots per inch, as printers' dots are scaled from them.
-constexpr int kPunkteJeZoll = 72;
-constexpr int kPixelJeZoll = 96;
-
-QRect AlsQRect(const Rechteck& r) {
-    return {QPoint(r.links, r.oben), QPoint(r.rechts, r.unten)};
-}
-
-}  // namespace
-
-QFont Zeichenschrift() {
-    QFont schrift(QStringLiteral("Arial"));
-    schrift.setPixelSize(kSchrifthoehe);
-    schrift.setStyleStrategy(
-        static_cast<QFont::StyleStrategy>(QFont::NoAntialias | QFont::NoSubpixelAntialias));
-    // Whole-pixel advances without kerning: a label's pixels then do not depend on its neighbours.
-    schrift.setHintingPreference(QFont::PreferFullHinting);
-    schrift.setKerning(false);
-    return schrift;
-}
-
-Bildflaeche::Bildflaeche(int weite, int hoehe) : schrift_(Zeichenschrift()), masse_(schrift_) {
+Bildflaeche::Bildflaeche(int weite, int hoehe) {
     SetzeGroesse(weite, hoehe);
 }
 
@@ -41,97 +12,8 @@ void Bildflaeche::SetzeGroesse(int weite, int hoehe) {
     if (maler_.isActive()) maler_.end();
     bild_ = QImage(std::max(weite, 1), std::max(hoehe, 1), QImage::Format_RGB32);
     bild_.fill(Qt::white);
-    Beginne();
-}
-
-void Bildflaeche::Beginne() {
     maler_.begin(&bild_);
-    maler_.setRenderHint(QPainter::Antialiasing, false);
-    maler_.setRenderHint(QPainter::TextAntialiasing, false);
-    maler_.setFont(schrift_);
-    stift_.reset();
-    pinsel_.reset();
-}
-
-void Bildflaeche::SetzeSchrift(const QFont& schrift) {
-    schrift_ = schrift;
-    masse_ = QFontMetrics(schrift_);
-    maler_.setFont(schrift_);
-}
-
-void Bildflaeche::WendeStiftAn(const Stift& stift) {
-    if (stift_ == stift) return;
-    QPen pen(AlsQColor(stift.farbe));
-    pen.setWidth(stift.breite > 1 ? stift.breite : 0);
-    pen.setCosmetic(stift.breite <= 1);
-    pen.setStyle(stift.art == Strichart::Gestrichelt ? Qt::DashLine : Qt::SolidLine);
-    maler_.setPen(pen);
-    stift_ = stift;
-}
-
-void Bildflaeche::WendePinselAn(const Pinsel& pinsel) {
-    if (pinsel_ == pinsel) return;
-    maler_.setBrush(pinsel.leer ? QBrush(Qt::NoBrush) : QBrush(AlsQColor(pinsel.farbe)));
-    pinsel_ = pinsel;
-}
-
-Rechteck Bildflaeche::Sichtbar() const {
-    return {0, 0, bild_.width() - 1, bild_.height() - 1};
-}
-
-void Bildflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
-    WendeStiftAn(AktuellerStift());
-    maler_.drawLine(von.x, von.y, nach.x, nach.y);
-}
-
-void Bildflaeche::ZeichneRechteck(const Rechteck& r) {
-    WendeStiftAn(AktuellerStift());
-    WendePinselAn(AktuellerPinsel());
-    maler_.drawRect(QRect(r.links, r.oben, r.rechts - r.links, r.unten - r.oben));
-}
-
-void Bildflaeche::Ellipse(const Rechteck& u) {
-    WendeStiftAn(AktuellerStift());
-    WendePinselAn(AktuellerPinsel());
-    maler_.drawEllipse(QRect(u.links, u.oben, u.rechts - u.links, u.unten - u.oben));
-}
-
-void Bildflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
-    WendeStiftAn(AktuellerStift());
-    WendePinselAn(AktuellerPinsel());
-    QPolygon vieleck;
-    for (const Flaechenpunkt& p : ecken)
-        vieleck << QPoint(p.x, p.y);
-    maler_.drawPolygon(vieleck);
-}
-
-void Bildflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
-    // Cut to the picture first: a size from a file may be anything.
-    const Rechteck s = Sichtbar();
-    maler_.fillRect(AlsQRect({std::max(r.links, s.links), std::max(r.oben, s.oben),
-                              std::min(r.rechts, s.rechts), std::min(r.unten, s.unten)}),
-                    AlsQColor(farbe));
-}
-
-void Bildflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
-    WendeStiftAn({farbe, 1, Strichart::Voll});
-    maler_.drawText(ort.x, ort.y + masse_.ascent(), AusNetz(text));
-}
-
-std::int32_t Bildflaeche::Textbreite(std::string_view text) const {
-    return masse_.horizontalAdvance(AusNetz(text));
-}
-
-std::int32_t Bildflaeche::Texthoehe() const {
-    return masse_.height();
-}
-
-std::int32_t Bildflaeche::Schriftgrad() const {
-    return Schrifthoehe() * kPunkteJeZoll / kPixelJeZoll;
-}
-
-std::int32_t Bildflaeche::Schrifthoehe() const {
-    return QFontInfo(schrift_).pixelSize();
+    BindeAn(maler_, {0, 0, bild_.width() - 1, bild_.height() - 1});
 }
 
 }  // namespace zrw

@@ -1,0 +1,130 @@
+#include "ui/Malerflaeche.h"
+
+#include <QFontInfo>
+#include <QPen>
+#include <QPolygon>
+#include <algorithm>
+
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+/// 8 pt on a screen of 96 dots per inch. In pixels, so that every screen and the batch mode give one picture.
+constexpr int kSchrifthoehe = 11;
+/// Screens are taken as 96 dots per inch, as printers' dots are scaled from them.
+constexpr int kPunkteJeZoll = 72;
+constexpr int kPixelJeZoll = 96;
+
+QRect AlsQRect(const Rechteck& r) {
+    return {QPoint(r.links, r.oben), QPoint(r.rechts, r.unten)};
+}
+
+}  // namespace
+
+QFont Zeichenschrift() {
+    QFont schrift(QStringLiteral("Arial"));
+    schrift.setPixelSize(kSchrifthoehe);
+    schrift.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::NoAntialias | QFont::NoSubpixelAntialias));
+    // Whole-pixel advances without kerning: a label's pixels then do not depend on its neighbours.
+    schrift.setHintingPreference(QFont::PreferFullHinting);
+    schrift.setKerning(false);
+    return schrift;
+}
+
+Malerflaeche::Malerflaeche() : schrift_(Zeichenschrift()), masse_(schrift_) {}
+
+Malerflaeche::Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift)
+    : schrift_(schrift), masse_(schrift_) {
+    BindeAn(maler, sichtbar);
+}
+
+void Malerflaeche::BindeAn(QPainter& maler, const Rechteck& sichtbar) {
+    maler_ = &maler;
+    sichtbar_ = sichtbar;
+    maler_->setRenderHint(QPainter::Antialiasing, false);
+    maler_->setRenderHint(QPainter::TextAntialiasing, false);
+    maler_->setFont(schrift_);
+    stift_.reset();
+    pinsel_.reset();
+}
+
+void Malerflaeche::SetzeSchrift(const QFont& schrift) {
+    schrift_ = schrift;
+    masse_ = QFontMetrics(schrift_);
+    maler_->setFont(schrift_);
+}
+
+void Malerflaeche::WendeStiftAn(const Stift& stift) {
+    if (stift_ == stift) return;
+    QPen pen(AlsQColor(stift.farbe));
+    pen.setWidth(stift.breite > 1 ? stift.breite : 0);
+    pen.setCosmetic(stift.breite <= 1);
+    pen.setStyle(stift.art == Strichart::Gestrichelt ? Qt::DashLine : Qt::SolidLine);
+    maler_->setPen(pen);
+    stift_ = stift;
+}
+
+void Malerflaeche::WendePinselAn(const Pinsel& pinsel) {
+    if (pinsel_ == pinsel) return;
+    maler_->setBrush(pinsel.leer ? QBrush(Qt::NoBrush) : QBrush(AlsQColor(pinsel.farbe)));
+    pinsel_ = pinsel;
+}
+
+void Malerflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    WendeStiftAn(AktuellerStift());
+    maler_->drawLine(von.x, von.y, nach.x, nach.y);
+}
+
+void Malerflaeche::ZeichneRechteck(const Rechteck& r) {
+    WendeStiftAn(AktuellerStift());
+    WendePinselAn(AktuellerPinsel());
+    maler_->drawRect(QRect(r.links, r.oben, r.rechts - r.links, r.unten - r.oben));
+}
+
+void Malerflaeche::Ellipse(const Rechteck& u) {
+    WendeStiftAn(AktuellerStift());
+    WendePinselAn(AktuellerPinsel());
+    maler_->drawEllipse(QRect(u.links, u.oben, u.rechts - u.links, u.unten - u.oben));
+}
+
+void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    WendeStiftAn(AktuellerStift());
+    WendePinselAn(AktuellerPinsel());
+    QPolygon vieleck;
+    for (const Flaechenpunkt& p : ecken)
+        vieleck << QPoint(p.x, p.y);
+    maler_->drawPolygon(vieleck);
+}
+
+void Malerflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+    // Cut to the picture first: a size from a file may be anything.
+    const Rechteck s = Sichtbar();
+    maler_->fillRect(AlsQRect({std::max(r.links, s.links), std::max(r.oben, s.oben),
+                              std::min(r.rechts, s.rechts), std::min(r.unten, s.unten)}),
+                    AlsQColor(farbe));
+}
+
+void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    WendeStiftAn({farbe, 1, Strichart::Voll});
+    maler_->drawText(ort.x, ort.y + masse_.ascent(), AusNetz(text));
+}
+
+std::int32_t Malerflaeche::Textbreite(std::string_view text) const {
+    return masse_.horizontalAdvance(AusNetz(text));
+}
+
+std::int32_t Malerflaeche::Texthoehe() const {
+    return masse_.height();
+}
+
+std::int32_t Malerflaeche::Schriftgrad() const {
+    return Schrifthoehe() * kPunkteJeZoll / kPixelJeZoll;
+}
+
+std::int32_t Malerflaeche::Schrifthoehe() const {
+    return QFontInfo(schrift_).pixelSize();
+}
+
+}  // namespace zrw

@@ -1,0 +1,56 @@
+// A painter of Qt as a drawing surface: what picture, preview and every device that Qt paints on share.
+// Without antialiasing, for text too, so that drawing in white wipes exactly what was drawn.
+#pragma once
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+#include <optional>
+
+#include "output/Zeichenflaeche.h"
+
+namespace zrw {
+
+/// The drawing font: "Arial" or its metric twin, with the settings that keep its pixels reproducible.
+[[nodiscard]] QFont Zeichenschrift();
+
+class Malerflaeche : public Zeichenflaeche {
+  public:
+    /// @param maler must be active and outlive the surface @param sichtbar what can be seen of its device
+    Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift = Zeichenschrift());
+
+    void SetzeSchrift(const QFont& schrift);
+    [[nodiscard]] const QFont& Schrift() const { return schrift_; }
+
+    [[nodiscard]] Rechteck Sichtbar() const override { return sichtbar_; }
+    void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
+    void ZeichneRechteck(const Rechteck& r) override;
+    void Ellipse(const Rechteck& umschrieben) override;
+    void Vieleck(std::span<const Flaechenpunkt> ecken) override;
+    void Fuelle(const Rechteck& r, Farbe farbe) override;
+    void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override;
+    [[nodiscard]] std::int32_t Texthoehe() const override;
+    [[nodiscard]] std::int32_t Schriftgrad() const override;
+    [[nodiscard]] std::int32_t Schrifthoehe() const override;
+
+  protected:
+    /// For surfaces that own their painter and begin it later.
+    Malerflaeche();
+    /// Takes a painter that has just begun.
+    void BindeAn(QPainter& maler, const Rechteck& sichtbar);
+
+  private:
+    void WendeStiftAn(const Stift& stift);
+    void WendePinselAn(const Pinsel& pinsel);
+
+    QPainter* maler_ = nullptr;
+    Rechteck sichtbar_;
+    QFont schrift_;
+    QFontMetrics masse_;
+    // What the painter holds now; none after it began.
+    std::optional<Stift> stift_;
+    std::optional<Pinsel> pinsel_;
+};
+
+}  // namespace zrw
