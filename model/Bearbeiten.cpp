@@ -127,19 +127,13 @@ void Liste::DreheKante(PunktKante& pk) {
 }
 
 void Liste::ShowPunkt(zrw::PunktKnoten& pp, Zeichner& z) {
-    for (PPunktKante k = index_.ErsteKante(pp.PNr); k != nullptr;
-         k = Figurenindex::NaechsteKante(*k, pp.PNr)) {
-        Zeige(*k->Item, z);
-    }
+    FuerKantenAm(pp.PNr, [&](PunktKante& k) { Zeige(*k.Item, z); });
     if (PktText* t = FindPktText(pp.PNr); t != nullptr) Zeige(*t, z);
     Zeige(*pp.Item, z);
 }
 
 void Liste::HidePunkt(zrw::PunktKnoten& pp, Zeichner& z) {
-    for (PPunktKante k = index_.ErsteKante(pp.PNr); k != nullptr;
-         k = Figurenindex::NaechsteKante(*k, pp.PNr)) {
-        k->Item->Hide(z);
-    }
+    FuerKantenAm(pp.PNr, [&](PunktKante& k) { k.Item->Hide(z); });
     if (PktText* t = FindPktText(pp.PNr); t != nullptr) t->Hide(z);
     pp.Item->Hide(z);
 }

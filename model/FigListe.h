@@ -136,6 +136,12 @@ class Liste {
     void SetzeZurueck(const Herausnahme& h);
     /// Wipes the line, takes it out of the list and counts down. Nothing for null.
     void DeleteKante(PPunktKante pk, Zeichner& z);
+    /// Calls `tun(PunktKante&)` for every line at a point, newest first.
+    template <class Tun>
+    void FuerKantenAm(PunktIndex nr, Tun tun) {
+        for (PPunktKante k = index_.ErsteKante(nr); k != nullptr; k = Figurenindex::NaechsteKante(*k, nr))
+            tun(*k);
+    }
     /// Deletes the lines at the point, its label and the point.
     void DeletePunkt(PPunktKnoten pp, Zeichner& z);
     /// Swaps start and end of a line.

@@ -1,0 +1,146 @@
+// Every change of the network that can be undone, one small class each. They change the list and draw
+// nothing: the window redraws when its stack of changes moves. Nodes stay where they are in memory as long as
+// their list lives, so a change keeps pointers to them; the stack is emptied with the list.
+#pragma once
+
+#include <QUndoCommand>
+#include <vector>
+
+#include "model/FigListe.h"
+
+namespace zrw {
+
+/// A point at another place in the world.
+class PunktVersetzt final : public QUndoCommand {
+  public:
+    PunktVersetzt(PunktKnoten& punkt, Welt nach);
+    void redo() override { Setze(neu_); }
+    void undo() override { Setze(alt_); }
+
+  private:
+    void Setze(Welt ort);
+    PunktKnoten& punkt_;
+    Welt alt_, neu_;
+};
+
+/// A label at another offset from its point [px].
+class NummerVersetzt final : public QUndoCommand {
+  public:
+    NummerVersetzt(PktText& text, Bildpunkt abstand);
+    void redo() override { Setze(neu_); }
+    void undo() override { Setze(alt_); }
+
+  private:
+    void Setze(Bildpunkt abstand);
+    PktText& text_;
+    Bildpunkt alt_, neu_;
+};
+
+/// The visibility of figures: hidden and shown points and numbers.
+class SichtbarkeitGeaendert final : public QUndoCommand {
+  public:
+    explicit SichtbarkeitGeaendert(const QString& name) { setText(name); }
+    /// Figures that are visible in that way already are left out.
+    void Nimm(bool& sichtbar, bool neu);
+    /// A point with its lines and its label, as hiding and showing points takes them.
+    void NimmPunkt(Liste& liste, const PunktKnoten& punkt, bool neu);
+    [[nodiscard]] bool Leer() const { return schalter_.empty(); }
+    void redo() override;
+    void undo() override;
+
+  private:
+    std::vector<bool*> schalter_;
+    std::vector<bool> neu_;
+};
+
+/// Other observations on a line.
+class KanteGeaendert final : public QUndoCommand {
+  public:
+    KanteGeaendert(Kante& kante, LinieAttr richtung, KanteAttr weitere);
+    void redo() override;
+    void undo() override { redo(); }
+
+  private:
+    Kante& kante_;
+    LinieAttr andereRichtung_;
+    KanteAttr andereWeitere_;
+};
+
+class KanteEingefuegt final : public QUndoCommand {
+  public:
+    KanteEingefuegt(Liste& liste, const Kante& kante, PunktIndex anfang, PunktIndex ende);
+    void redo() override;
+    void undo() override;
+
+  private:
+    Liste& liste_;
+    Kante kante_;
+    PunktIndex anfang_, ende_;
+    PunktKante* knoten_ = nullptr;  ///< from the first time on
+    Herausnahme platz_;
+};
+
+class KanteGeloescht final : public QUndoCommand {
+  public:
+    KanteGeloescht(Liste& liste, PunktKante& kante);
+    void redo() override { platz_ = liste_.NimmHeraus(kante_); }
+    void undo() override { liste_.SetzeZurueck(platz_); }
+
+  private:
+    Liste& liste_;
+    PunktKante& kante_;
+    Herausnahme platz_;
+};
+
+/// A new point with its label.
+class PunktEingefuegt final : public QUndoCommand {
+  public:
+    PunktEingefuegt(Liste& liste, const Punkt& punkt, const PktText& text, Welt ort, PunktIndex nr);
+    void redo() override;
+    void undo() override { platz_ = liste_.NimmHeraus(*knoten_); }
+
+  private:
+    Liste& liste_;
+    Punkt punkt_;
+    PktText text_;
+    Welt ort_;
+    PunktIndex nr_;
+    PunktKnoten* knoten_ = nullptr;
+    Herausnahme platz_;
+};
+
+/// A point with its lines and its label.
+class PunktGeloescht final : public QUndoCommand {
+  public:
+    PunktGeloescht(Liste& liste, PunktKnoten& punkt);
+    void redo() override { platz_ = liste_.NimmHeraus(punkt_); }
+    void undo() override { liste_.SetzeZurueck(platz_); }
+
+  private:
+    Liste& liste_;
+    PunktKnoten& punkt_;
+    Herausnahme platz_;
+};
+
+/// Another kind, with its colour for point and label, another symbol, another place.
+class PunktGeaendert final : public QUndoCommand {
+  public:
+    struct Angaben {
+        PunktArt art = PunktArt::FP;
+        PunktTyp symbol = PunktTyp::Pkt;
+        Farbe farbe;
+        Welt ort;
+    };
+    /// @param text the label, or null
+    PunktGeaendert(PunktKnoten& punkt, PktText* text, const Angaben& neu);
+    void redo() override;
+    void undo() override { redo(); }
+
+  private:
+    PunktKnoten& punkt_;
+    PktText* text_;
+    Angaben andere_;
+    Farbe andereTextfarbe_;
+};
+
+}  // namespace zrw
