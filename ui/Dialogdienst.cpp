@@ -1,10 +1,15 @@
 #include "ui/Dialogdienst.h"
 
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include "ui/Umwandlung.h"
 
 namespace zrw {
 
@@ -37,6 +42,36 @@ bool QtDialogdienst::Frage(const QString& text) {
     return box.clickedButton() == ja;
 }
 
+std::optional<bool> QtDialogdienst::FrageMitAbbruch(const QString& text) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, eltern_);
+    const auto* ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
+    const auto* nein = box.addButton(QStringLiteral("&Nein"), QMessageBox::NoRole);
+    box.setEscapeButton(box.addButton(QStringLiteral("&Abbrechen"), QMessageBox::RejectRole));
+    box.exec();
+    if (box.clickedButton() == ja) return true;
+    if (box.clickedButton() == nein) return false;
+    return std::nullopt;
+}
+
+std::optional<QFont> QtDialogdienst::WaehleSchrift(const QFont& anfang) {
+    bool gewaehlt = false;
+    const QFont schrift =
+        QFontDialog::getFont(&gewaehlt, anfang, eltern_, QStringLiteral("Zeichenfont wählen"));
+    if (!gewaehlt) return std::nullopt;
+    return schrift;
+}
+
+std::optional<QString> QtDialogdienst::WaehleAus(const QStringList& texte) {
+    QMenu menue(eltern_);
+    int nummer = 0;
+    for (const QString& text : texte)
+        menue.addAction(QStringLiteral("&%1  ").arg(++nummer) + QDir::toNativeSeparators(text))
+            ->setData(text);
+    const QAction* gewaehlt = menue.exec(QCursor::pos());
+    if (gewaehlt == nullptr) return std::nullopt;
+    return gewaehlt->data().toString();
+}
+
 std::optional<QString> QtDialogdienst::WaehleZumOeffnen(const Dateiwahl& wahl) {
     const QString name = QFileDialog::getOpenFileName(eltern_, wahl.titel, wahl.ordner, wahl.filter);
     if (name.isEmpty()) return std::nullopt;
@@ -56,6 +91,14 @@ std::optional<QString> QtDialogdienst::WaehleZumSpeichern(const Dateiwahl& wahl)
         if (!QFileInfo::exists(name) || Frage(frage.arg(QDir::toNativeSeparators(name)))) return name;
     }
     return std::nullopt;
+}
+
+std::optional<Farbe> QtDialogdienst::WaehleFarbe(Farbe anfang) {
+    const QColor farbe = QColorDialog::getColor(AlsQColor(anfang), eltern_, QStringLiteral("Farbe wählen"));
+    if (!farbe.isValid()) return std::nullopt;
+    const QRgb rgb = farbe.rgb();
+    return Farbe{static_cast<std::uint32_t>(qRed(rgb)) | static_cast<std::uint32_t>(qGreen(rgb)) << 8U |
+                 static_cast<std::uint32_t>(qBlue(rgb)) << 16U};
 }
 
 }  // namespace zrw

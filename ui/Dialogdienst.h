@@ -2,8 +2,12 @@
 // user.
 #pragma once
 
+#include <QFont>
 #include <QString>
+#include <QStringList>
 #include <optional>
+
+#include "model/Werte.h"
 
 class QWidget;
 
@@ -31,8 +35,15 @@ class Dialogdienst {
     virtual void Sage(const QString& text) = 0;
     /// Yes or no.
     [[nodiscard]] virtual bool Frage(const QString& text) = 0;
+    /// Yes or no, or none of both: cancelled.
+    [[nodiscard]] virtual std::optional<bool> FrageMitAbbruch(const QString& text) = 0;
     [[nodiscard]] virtual std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) = 0;
     [[nodiscard]] virtual std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) = 0;
+    /// @param anfang what the dialog begins with
+    [[nodiscard]] virtual std::optional<Farbe> WaehleFarbe(Farbe anfang) = 0;
+    [[nodiscard]] virtual std::optional<QFont> WaehleSchrift(const QFont& anfang) = 0;
+    /// One of several texts from a menu at the mouse.
+    [[nodiscard]] virtual std::optional<QString> WaehleAus(const QStringList& texte) = 0;
 };
 
 /// The real one: message boxes and file dialogs over a window.
@@ -43,8 +54,12 @@ class QtDialogdienst final : public Dialogdienst {
     void Melde(const QString& text) override;
     void Sage(const QString& text) override;
     bool Frage(const QString& text) override;
+    std::optional<bool> FrageMitAbbruch(const QString& text) override;
     std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) override;
     std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) override;
+    std::optional<Farbe> WaehleFarbe(Farbe anfang) override;
+    std::optional<QFont> WaehleSchrift(const QFont& anfang) override;
+    std::optional<QString> WaehleAus(const QStringList& texte) override;
 
   private:
     void Zeige(int symbol, const QString& text);

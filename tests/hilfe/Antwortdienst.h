@@ -14,10 +14,23 @@ class Antwortdienst final : public Dialogdienst {
     QStringList fragen;
     QList<Dateiwahl> wahlen;
     bool ja = false;
+    std::optional<bool> antwort;  ///< to questions that can be cancelled
+    std::optional<QFont> schrift;
+    QStringList auswahl;           ///< what was offered last
     std::optional<QString> datei;  ///< chosen in every file dialog; none: cancelled
+    std::optional<Farbe> farbe;    ///< chosen in every colour dialog; none: cancelled
 
     void Melde(const QString& text) override { meldungen << text; }
     void Sage(const QString& text) override { gesagt << text; }
+    std::optional<bool> FrageMitAbbruch(const QString& text) override {
+        fragen << text;
+        return antwort;
+    }
+    std::optional<QFont> WaehleSchrift(const QFont& /*anfang*/) override { return schrift; }
+    std::optional<QString> WaehleAus(const QStringList& texte) override {
+        auswahl = texte;
+        return datei;
+    }
     bool Frage(const QString& text) override {
         fragen << text;
         return ja;
@@ -30,6 +43,7 @@ class Antwortdienst final : public Dialogdienst {
         wahlen << wahl;
         return datei;
     }
+    std::optional<Farbe> WaehleFarbe(Farbe /*anfang*/) override { return farbe; }
 };
 
 }  // namespace zrw

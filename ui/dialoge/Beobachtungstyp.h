@@ -1,0 +1,66 @@
+// The type of an observation as the network keeps it, and as the dialog offers it.
+#pragma once
+
+#include <cstdint>
+
+#include "model/Figuren.h"
+
+namespace zrw {
+
+struct Beobachtungstyp {
+    LinieAttr richtung = LinieAttr::AST;
+    KanteAttr weitere;
+    friend bool operator==(const Beobachtungstyp&, const Beobachtungstyp&) = default;
+};
+
+struct Beobachtungswahl {
+    int richtung = 0;  ///< 0 none, 1 one-sided, 2 two-sided
+    bool strecke = false;
+    bool gps = false;
+    bool indirekt = false;
+    int hoehe = 0;  ///< as `richtung`
+    friend bool operator==(const Beobachtungswahl&, const Beobachtungswahl&) = default;
+};
+
+/// @param vorher bits without a member are taken over from here: a picture file keeps them
+[[nodiscard]] constexpr Beobachtungstyp AlsTyp(const Beobachtungswahl& w, KanteAttr vorher = {}) {
+    constexpr std::uint8_t kUnbekannt = 0xF0;
+    Beobachtungstyp t;
+    t.weitere = KanteAttr::AusMaske(vorher.Maske() & kUnbekannt);
+    if (w.strecke) t.weitere.Setze(KanteAttr::ST);
+    if (w.gps) t.weitere.Setze(KanteAttr::GPS);
+    if (w.hoehe == 1) t.weitere.Setze(KanteAttr::DH1);
+    if (w.hoehe == 2) t.weitere.Setze(KanteAttr::DH2);
+
+    if (w.richtung == 1) {
+        t.richtung = w.indirekt ? LinieAttr::ARI1 : LinieAttr::AR1;
+    } else if (w.richtung == 2) {
+        t.richtung = w.indirekt ? LinieAttr::ARI2 : LinieAttr::AR2;
+    } else if (w.indirekt) {
+        t.richtung = LinieAttr::ASTI;
+    } else {
+        // A GPS vector is drawn by its own symbol and has no line of sight.
+        const bool nurGps = w.gps && !w.strecke && w.hoehe == 0;
+        t.richtung = nurGps ? LinieAttr::Null : LinieAttr::AST;
+    }
+    return t;
+}
+
+/// Bytes of a picture file that name no kind of direction count as none.
+[[nodiscard]] constexpr Beobachtungswahl AlsWahl(const Beobachtungstyp& t) {
+    Beobachtungswahl w;
+    if (t.richtung == LinieAttr::AR1 || t.richtung == LinieAttr::ARI1) w.richtung = 1;
+    if (t.richtung == LinieAttr::AR2 || t.richtung == LinieAttr::ARI2) w.richtung = 2;
+    w.indirekt =
+        t.richtung == LinieAttr::ARI1 || t.richtung == LinieAttr::ARI2 || t.richtung == LinieAttr::ASTI;
+    w.strecke = t.weitere.Hat(KanteAttr::ST);
+    w.gps = t.weitere.Hat(KanteAttr::GPS);
+    if (t.weitere.Hat(KanteAttr::DH2)) {
+        w.hoehe = 2;
+    } else if (t.weitere.Hat(KanteAttr::DH1)) {
+        w.hoehe = 1;
+    }
+    return w;
+}
+
+}  // namespace zrw

@@ -1,0 +1,37 @@
+// The numbers of all points hidden since the program was started; chosen ones are shown again.
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+#include <functional>
+
+class QListView;
+class QStringListModel;
+
+namespace zrw {
+
+class TFormHiddenPkt final : public QDialog {
+  public:
+    explicit TFormHiddenPkt(QWidget* eltern);
+
+    /// Adds a number at its sorted place, also one that stands there already.
+    void Nimm(const QString& nummer);
+    /// Many at once, in the time of one. Deselects.
+    void Nimm(const QStringList& nummern);
+    /// Removes one entry of this text, if there is one.
+    void Entferne(const QString& nummer);
+    [[nodiscard]] QStringList Nummern() const;
+
+    /// "Anzeigen", unless the list is empty: once for each selected entry in the order of the list. The
+    /// entries are gone by then.
+    std::function<void(const QString& nummer)> zeige;
+    std::function<void()> fertig;  ///< once afterwards, even if none was selected
+
+  private:
+    void Zeige();
+
+    QListView* ListBox1_;
+    QStringListModel* nummern_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,48 @@
+// The display settings. Every control changes its setting at once; closing keeps them for the next run.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <vector>
+
+#include "model/Einstellungen.h"
+#include "ui/Dialogdienst.h"
+
+class QBoxLayout;
+class QFormLayout;
+class QLineEdit;
+
+namespace zrw {
+
+class TZRWParameter final : public QDialog {
+  public:
+    /// Deletes itself when closed.
+    TZRWParameter(Einstellungen& einstellungen, EinstellungsSpeicher& speicher, Dialogdienst& dialoge,
+                  QWidget* eltern);
+
+    std::function<void()> geschlossen;  ///< after the settings were saved
+
+    void done(int ergebnis) override;
+
+  protected:
+    bool event(QEvent* ereignis) override;
+
+  private:
+    void BaueFarben(QBoxLayout& links, QBoxLayout& mitte);
+    void BaueZahlen(QBoxLayout& spalte);
+    template <class Zahl>
+    void BaueZahl(QFormLayout& form, const QString& name, const QString& schild, Zahl Einstellungen::*feld,
+                  int von, int bis);
+    void ZeigeEinstellungen();
+    void ZoomfaktorGetippt(const QString& text);
+    void UebernimmResiduenmassstab();
+
+    Einstellungen& e_;
+    EinstellungsSpeicher& speicher_;
+    Dialogdienst& dialoge_;
+    std::vector<std::function<void()>> anzeigen_;  ///< one for each control: shows its setting
+    QLineEdit* EditZoomfaktor_ = nullptr;
+    QLineEdit* EditMFRes_ = nullptr;
+};
+
+}  // namespace zrw
