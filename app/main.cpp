@@ -39,8 +39,9 @@ int Fenster(const Aufruf& aufruf) {
     const Systemuhr uhr;
     const Systemdrucker drucker;
     QtDialogdienst dialoge;
-    TZrwMainDlg fenster(
-        {einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, QStringLiteral(ZRW_VERSION)});
+    Sitzung sitzung;
+    TZrwMainDlg fenster({einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, sitzung,
+                         QStringLiteral(ZRW_VERSION)});
     dialoge.SetzeEltern(&fenster);
     fenster.show();
     if (!aufruf.datei.empty()) {

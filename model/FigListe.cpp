@@ -75,6 +75,20 @@ PunktString& Liste::AddPktText(const PktText& item, PunktIndex iNr) {
 
 // --- Looking up -------------------------------------------------------------------------------------------
 
+bool Liste::Enthaelt(const zrw::PunktKnoten& p) const {
+    const zrw::PunktKnoten* k = PunktKnoten;
+    while (k != nullptr && k != &p)
+        k = k->Next;
+    return k != nullptr;
+}
+
+bool Liste::Enthaelt(const PunktKante& k) const {
+    const PunktKante* erste = KanteKnoten;
+    while (erste != nullptr && erste != &k)
+        erste = erste->Next;
+    return erste != nullptr;
+}
+
 PktText* Liste::FindPktText(PunktIndex n) const {
     const PunktString* knoten = index_.FindeText(n);
     return knoten != nullptr ? knoten->Item : nullptr;
@@ -100,6 +114,12 @@ bool Liste::Dargestellt(const Punkt& p) const {
     return this->*ZurArt(p.PktArt).schalter;
 }
 
+bool Liste::Dargestellt(const PunktKante& k) const {
+    const zrw::PunktKnoten* a = SuchPkt(k.ANr);
+    const zrw::PunktKnoten* e = SuchPkt(k.ENr);
+    return a != nullptr && e != nullptr && Dargestellt(*a->Item) && Dargestellt(*e->Item);
+}
+
 void Liste::DisplayPunkte(Zeichner& z) {
     for (PPunktKnoten p = PunktKnoten; p != nullptr; p = p->Next) {
         if (Dargestellt(*p->Item)) p->Item->Show(z);
@@ -108,10 +128,7 @@ void Liste::DisplayPunkte(Zeichner& z) {
 
 void Liste::DisplayKante(Zeichner& z) {
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        const zrw::PunktKnoten* a = SuchPkt(k->ANr);
-        const zrw::PunktKnoten* e = SuchPkt(k->ENr);
-        if (a == nullptr || e == nullptr) continue;
-        if (Dargestellt(*a->Item) && Dargestellt(*e->Item)) k->Item->Show(z);
+        if (Dargestellt(*k)) k->Item->Show(z);
     }
 }
 

@@ -115,6 +115,9 @@ class Liste {
                                                      Netzangaben& netz, const std::string& datei);
 
     [[nodiscard]] PPunktKnoten SuchPkt(PunktIndex nr) const { return index_.FindePunkt(nr); }
+    /// Whether the node is in its list: figures that were taken out are not.
+    [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const;
+    [[nodiscard]] bool Enthaelt(const PunktKante& k) const;
     [[nodiscard]] PktText* FindPktText(PunktIndex n) const;
     [[nodiscard]] std::string GetPktText(PunktIndex n) const;
     /// The point whose label reads `p`, cut to 14 bytes.
@@ -158,6 +161,12 @@ class Liste {
     void SetLegende(Zeichner& z);
 
     [[nodiscard]] PPunktKnoten ClickPunkt(Bildpunkt maus) const;
+    // The same for what the picture shows: neither hidden figures nor kinds that are switched off.
+    [[nodiscard]] PPunktKnoten ClickGezeigten(Bildpunkt maus) const;
+    [[nodiscard]] PPunktString ClickGezeigtenText(Bildpunkt maus) const;
+    [[nodiscard]] PPunktKante PickGezeigte(Bildpunkt maus) const;
+    /// Hides the lines and labels at the position of a point.
+    void LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z);
     /// The line whose segment passes within the catch radius of the mouse; the distance counts in whole
     /// pixels, so that 5.9 px is caught with a radius of 5.
     [[nodiscard]] PPunktKante PickKante(Bildpunkt maus) const;
@@ -172,6 +181,8 @@ class Liste {
 
     /// The point's kind is switched on.
     [[nodiscard]] bool Dargestellt(const Punkt& p) const;
+    /// The kinds of both its points are switched on.
+    [[nodiscard]] bool Dargestellt(const PunktKante& k) const;
     /// World position of a picture position.
     [[nodiscard]] Welt BildinWelt(Bildpunkt b) const;
     /// Picture position of a world position, rounded to whole pixels.

@@ -29,6 +29,17 @@ bool Klein(std::int64_t v) {
     return v > -(1LL << 29) && v < (1LL << 29);
 }
 
+/// Whether the segment of a line passes within `r` pixels of the mouse.
+bool Trifft(const Kante& k, Bildpunkt maus, std::int64_t r) {
+    const std::int64_t sx = Differenz(k.XO, maus.x);
+    const std::int64_t sy = Differenz(k.YO, maus.y);
+    const std::int64_t ex = Differenz(k.XBiE, maus.x);
+    const std::int64_t ey = Differenz(k.YBiE, maus.y);
+    if (Klein(sx) && Klein(sy) && Klein(ex) && Klein(ey)) return TrifftStrecke(sx, sy, ex, ey, r);
+    return TrifftStrecke(static_cast<double>(sx), static_cast<double>(sy), static_cast<double>(ex),
+                         static_cast<double>(ey), static_cast<double>(r));
+}
+
 }  // namespace
 
 bool Liste::Gefangen(Bildpunkt maus, Bildpunkt ort) const {
@@ -44,17 +55,28 @@ PPunktKnoten Liste::ClickPunkt(Bildpunkt maus) const {
     return nullptr;
 }
 
-bool Liste::MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z) {
-    const PPunktKnoten treffer = ClickPunkt(maus);
-    if (treffer == nullptr) return false;
+PPunktKnoten Liste::ClickGezeigten(Bildpunkt maus) const {
+    for (PPunktKnoten p = PunktKnoten; p != nullptr; p = p->Next) {
+        if (Gefangen(maus, p->Item->Position()) && p->Item->Visible && Dargestellt(*p->Item)) return p;
+    }
+    return nullptr;
+}
+
+void Liste::LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z) {
     // By position, not by number: what meets the point in the picture must not stay behind when it moves.
-    const Bildpunkt ort = treffer->Item->Position();
+    const Bildpunkt ort = punkt.Item->Position();
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
         if (k->Item->Position() == ort || k->Item->Ende() == ort) k->Item->Hide(z);
     }
     for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
         if (t->Item->Position() == ort) t->Item->Hide(z);
     }
+}
+
+bool Liste::MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z) {
+    const PPunktKnoten treffer = ClickPunkt(maus);
+    if (treffer == nullptr) return false;
+    LoesePunkt(*treffer, z);
     u = treffer;
     return true;
 }
@@ -66,23 +88,31 @@ PPunktString Liste::MausPktText(Bildpunkt maus) const {
     return nullptr;
 }
 
+PPunktString Liste::ClickGezeigtenText(Bildpunkt maus) const {
+    if (!ShowPktText || !ShowHilfP) return nullptr;
+    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
+        if (!t->Item->Visible || !Gefangen(maus, t->Item->Textort())) continue;
+        const zrw::PunktKnoten* p = SuchPkt(t->TNr);
+        if (p != nullptr && Dargestellt(*p->Item)) return t;
+    }
+    return nullptr;
+}
+
 void Liste::MausLegende(Bildpunkt maus) {
     if (Legend != nullptr) Legend->Move = Gefangen(maus, Legend->Position());
 }
 
 PPunktKante Liste::PickKante(Bildpunkt maus) const {
-    const std::int64_t r = einstellungen_.Fang;
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        const std::int64_t sx = Differenz(k->Item->XO, maus.x);
-        const std::int64_t sy = Differenz(k->Item->YO, maus.y);
-        const std::int64_t ex = Differenz(k->Item->XBiE, maus.x);
-        const std::int64_t ey = Differenz(k->Item->YBiE, maus.y);
-        const bool klein = Klein(sx) && Klein(sy) && Klein(ex) && Klein(ey);
-        const bool trifft =
-            klein ? TrifftStrecke(sx, sy, ex, ey, r)
-                  : TrifftStrecke(static_cast<double>(sx), static_cast<double>(sy), static_cast<double>(ex),
-                                  static_cast<double>(ey), static_cast<double>(r));
-        if (trifft) return k;
+        if (Trifft(*k->Item, maus, einstellungen_.Fang)) return k;
+    }
+    return nullptr;
+}
+
+PPunktKante Liste::PickGezeigte(Bildpunkt maus) const {
+    if (!ShowBeob) return nullptr;
+    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
+        if (k->Item->Visible && Trifft(*k->Item, maus, einstellungen_.Fang) && Dargestellt(*k)) return k;
     }
     return nullptr;
 }

@@ -1,17 +1,29 @@
 #include "ui/Hauptfenster.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QCompleter>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
+#include <QShortcut>
+#include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "ui/Umbruchleiste.h"
 #include "ui/Umwandlung.h"
-#include "ui/werkzeuge/LegendeVerschieben.h"
+#include "ui/Zentrierkasten.h"
+#include "ui/dialoge/TFormBeobTyp.h"
+#include "ui/dialoge/TFormData.h"
+#include "ui/dialoge/TFormHiddenPkt.h"
+#include "ui/dialoge/TFormHidePunkte.h"
+#include "ui/dialoge/TFormPunktart.h"
+#include "ui/dialoge/TZRWLBLForm.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
 /// The pictures sit in a static library, whose resources register only when asked to.
@@ -29,19 +41,34 @@ struct Befehl {
     const char* bild;
     const char* taste;  ///< shortcut in Qt's portable form, or empty
     void (TZrwMainDlg::*klick)();
+    bool gruppenende = false;
 };
 
-constexpr std::array<Befehl, 9> kBefehle{{
+constexpr std::array<Befehl, 21> kBefehle{{
     {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
+    {"LetzteDateienButton", "Letzte Dateien", "letzte", "", &TZrwMainDlg::LetzteDateienClick},
     {"SpeedButton9", "Zarwik speichern", "speichern", "Ctrl+S", &TZrwMainDlg::SpeedButton9Click},
-    {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click},
+    {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click, true},
+    {"RueckgaengigButton", "Rückgängig", "rueckgaengig", "Ctrl+Z", &TZrwMainDlg::Rueckgaengig},
+    {"WiederholenButton", "Wiederholen", "wiederholen", "Ctrl+Y", &TZrwMainDlg::Wiederhole, true},
     {"ButtonGroesser", "Bild größer", "groesser", "+", &TZrwMainDlg::ButtonGroesserClick},
     {"ButtonKleiner", "Bild kleiner", "kleiner", "-", &TZrwMainDlg::ButtonKleinerClick},
     {"SpeedButton3", "Alles darstellen", "alles", "Home", &TZrwMainDlg::SpeedButton3Click},
+    {"EinpassenButton", "Sichtbare Punkte einpassen", "einpassen", "F", &TZrwMainDlg::EinpassenClick, true},
+    {"SpeedButton14", "Punkte verstecken", "punkte_verstecken", "", &TZrwMainDlg::SpeedButton14Click},
+    {"SpeedButton15", "Versteckte Punkte", "versteckte_punkte", "", &TZrwMainDlg::SpeedButton15Click},
+    {"NummernZeigenButton", "Versteckte Punktnummern zeigen", "nummern_zeigen", "",
+     &TZrwMainDlg::NummernZeigenClick, true},
     {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click},
-    {"SpeedButton16", "DXF und HPGL Format ausgeben", "dxf", "Ctrl+E", &TZrwMainDlg::SpeedButton16Click},
+    {"SpeedButton16", "DXF und HPGL Format ausgeben", "dxf", "Ctrl+E", &TZrwMainDlg::SpeedButton16Click,
+     true},
+    {"SpeedButton8", "Zeichenfont wählen", "schrift", "", &TZrwMainDlg::SpeedButton8Click},
+    {"ColorButton", "Zarwikeinstellungen", "einstellungen", "", &TZrwMainDlg::ColorButtonClick},
+    {"SpeedButton4", "Programminfo", "info", "", &TZrwMainDlg::SpeedButton4Click},
+    {"SpeedButton6", "Hilfe", "hilfe", "F1", &TZrwMainDlg::SpeedButton6Click, true},
+    {"SpeedButton10", "Punkt anzeigen", "punkt_anzeigen", "", nullptr},
 }};
 
 QToolButton* NeuerKnopf(std::string_view komponente, std::string_view hinweis, std::string_view bild,
@@ -82,20 +109,30 @@ class Werkzeugleiste final : public QWidget {
 TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     : programm_(programm),
       flaeche_(1, 1),
-      zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr) {
+      zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
+      ordner_(programm.sitzung.Ordner()) {
+    constexpr int kSchritte = 500;
+    aenderungen_.setUndoLimit(kSchritte);
     programm_.zustand.flaeche = &flaeche_;
     BaueFenster();
+    BaueDialoge();
+    connect(&aenderungen_, &QUndoStack::indexChanged, this, [this] { NetzGeaendert(); });
+    connect(&aenderungen_, &QUndoStack::cleanChanged, this, [this] { ZeigeTitel(); });
 }
 
 TZrwMainDlg::~TZrwMainDlg() {
+    // Its signals would reach a window that is half gone.
+    aenderungen_.disconnect(this);
     programm_.zustand.flaeche = nullptr;
 }
 
 void TZrwMainDlg::BaueFenster() {
     MeldeBilderAn();
     setObjectName(QStringLiteral("TZrwMainDlg"));
-    setWindowTitle(QStringLiteral("Zarwik Ver. ") + programm_.version);
+    titel_ = QStringLiteral("Zarwik Ver. ") + programm_.version;
+    ZeigeTitel();
     setWindowIcon(QIcon(QStringLiteral(":/bilder/zarwik.svg")));
+    setAcceptDrops(true);
 
     auto* mitte = new QWidget(this);
     auto* spalte = new QVBoxLayout(mitte);
@@ -105,18 +142,13 @@ void TZrwMainDlg::BaueFenster() {
     auto* reihen = new QVBoxLayout(leiste);
     reihen->setContentsMargins(6, 4, 6, 4);
     reihen->setSpacing(2);
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->setSpacing(2);
+    auto* knoepfe = new Umbruchleiste(nullptr, 2, 2);
     BaueBefehle(*knoepfe);
     BaueWerkzeuge(*knoepfe);
-    knoepfe->addSpacing(12);
-    BaueMassstab(*knoepfe);
-    knoepfe->addStretch();
+    BaueFelder(*knoepfe);
     reihen->addLayout(knoepfe);
-    auto* kaesten = new QHBoxLayout;
-    kaesten->setSpacing(12);
+    auto* kaesten = new Umbruchleiste(nullptr, 12, 2);
     BaueSchalter(*kaesten);
-    kaesten->addStretch();
     reihen->addLayout(kaesten);
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(flaeche_, *this, mitte);
@@ -125,39 +157,55 @@ void TZrwMainDlg::BaueFenster() {
 
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->setSizeGripEnabled(false);
-    statusBar()->showMessage(
-        QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
-    // The whole screen but for a strip that the system's own bar may need.
-    const QRect schirm = screen()->availableGeometry();
-    move(schirm.topLeft());
-    resize(schirm.width(), schirm.height() - 30);
+    ZeigeStatus(QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
+    if (!restoreGeometry(programm_.sitzung.Fensterlage())) {
+        // The whole screen but for a strip that the system's own bar may need.
+        const QRect schirm = screen()->availableGeometry();
+        move(schirm.topLeft());
+        resize(schirm.width(), schirm.height() - 30);
+    }
     bild_->setFocus();
 }
 
-void TZrwMainDlg::BaueBefehle(QBoxLayout& reihe) {
+/// Key names as they stand on a German keyboard.
+static QString Tastenname(const QKeySequence& taste) {
+    return taste.toString(QKeySequence::NativeText)
+        .replace(QStringLiteral("Ctrl"), QStringLiteral("Strg"))
+        .replace(QStringLiteral("Shift"), QStringLiteral("Umschalt"))
+        .replace(QStringLiteral("Home"), QStringLiteral("Pos1"));
+}
+
+void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
     for (const Befehl& b : kBefehle) {
         auto* knopf = NeuerKnopf(b.komponente, b.hinweis, b.bild, this);
         const QKeySequence taste(QString::fromLatin1(b.taste));
-        knopf->setShortcut(taste);
-        knopf->setToolTip(QString::fromUtf8(b.hinweis) + QStringLiteral(" (") +
-                          taste.toString(QKeySequence::NativeText)
-                              .replace(QStringLiteral("Ctrl"), QStringLiteral("Strg"))
-                              .replace(QStringLiteral("Shift"), QStringLiteral("Umschalt"))
-                              .replace(QStringLiteral("Home"), QStringLiteral("Pos1")) +
-                          QStringLiteral(")"));
-        connect(knopf, &QToolButton::clicked, this, [this, klick = b.klick] { (this->*klick)(); });
-        reihe.addWidget(knopf);
-        // Files, view and output are groups of their own.
-        if (b.klick == &TZrwMainDlg::SpeedButton7Click || b.klick == &TZrwMainDlg::SpeedButton3Click ||
-            b.klick == &TZrwMainDlg::SpeedButton16Click) {
-            reihe.addWidget(Trennstrich(this));
+        if (!taste.isEmpty()) {
+            knopf->setShortcut(taste);
+            knopf->setToolTip(QString::fromUtf8(b.hinweis) + QStringLiteral(" (") + Tastenname(taste) +
+                              QLatin1Char(')'));
         }
+        if (b.klick != nullptr)
+            connect(knopf, &QToolButton::clicked, this, [this, klick = b.klick] { (this->*klick)(); });
+        if (b.klick == nullptr) continue;  // stands beside the field that it belongs to
+        reihe.addWidget(knopf);
+        if (b.gruppenende) reihe.addWidget(Trennstrich(this));
+    }
+    Knopf("SpeedButton14").setCheckable(true);
+    // Shows the point when the mouse button comes up, also with the keyboard.
+    connect(&Knopf("SpeedButton10"), &QToolButton::released, this, [this] { SpeedButton10Click(); });
+    for (const auto& [name, geht, ereignis] :
+         {std::tuple{"RueckgaengigButton", &QUndoStack::canUndo, &QUndoStack::canUndoChanged},
+          {"WiederholenButton", &QUndoStack::canRedo, &QUndoStack::canRedoChanged}}) {
+        QToolButton& knopf = Knopf(name);
+        knopf.setEnabled((aenderungen_.*geht)());
+        connect(&aenderungen_, ereignis, &knopf, &QToolButton::setEnabled);
     }
 }
 
-void TZrwMainDlg::BaueWerkzeuge(QBoxLayout& reihe) {
+void TZrwMainDlg::BaueWerkzeuge(QLayout& reihe) {
     mitteltaste_ = NeuesWerkzeug<BildVerschieben>(*this);
-    legendenecke_ = NeuesWerkzeug<LegendeVerschieben>(*this);
+    Werkzeugumgebung& umgebung = *this;  // the base is private
+    legendenecke_ = std::make_unique<LegendeVerschieben>(umgebung);
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
         const Werkzeugzeile& zeile = kWerkzeuge[i];
         werkzeuge_.push_back(zeile.neu(*this));
@@ -167,9 +215,10 @@ void TZrwMainDlg::BaueWerkzeuge(QBoxLayout& reihe) {
         werkzeugknoepfe_.push_back(knopf);
         reihe.addWidget(knopf);
     }
+    reihe.addWidget(Trennstrich(this));
 }
 
-void TZrwMainDlg::BaueSchalter(QBoxLayout& reihe) {
+void TZrwMainDlg::BaueSchalter(QLayout& reihe) {
     for (const Schalter& s : kSchalter) {
         if (s.komponente.empty()) {
             schalterkaesten_.push_back(nullptr);
@@ -185,7 +234,8 @@ void TZrwMainDlg::BaueSchalter(QBoxLayout& reihe) {
     }
 }
 
-void TZrwMainDlg::BaueMassstab(QBoxLayout& reihe) {
+/// Print scale and point numbers.
+void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     auto* schild = new QLabel(QStringLiteral("Druckmaßstab 1:"), this);
     EditMasstab_ = new Massstabfeld(this);
     EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
@@ -195,25 +245,85 @@ void TZrwMainDlg::BaueMassstab(QBoxLayout& reihe) {
     schild->setBuddy(EditMasstab_);
     reihe.addWidget(schild);
     reihe.addWidget(EditMasstab_);
+
+    nummern_ = new QStringListModel(this);
+    ComboBox1_ = new QComboBox(this);
+    ComboBox1_->setObjectName(QStringLiteral("ComboBox1"));
+    ComboBox1_->setToolTip(QStringLiteral("Punkt aus Liste anzeigen"));
+    ComboBox1_->setAccessibleName(ComboBox1_->toolTip());
+    ComboBox1_->setEditable(true);
+    ComboBox1_->setInsertPolicy(QComboBox::NoInsert);
+    // As wide as a number, not as the widest of 65 000.
+    ComboBox1_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    ComboBox1_->setMinimumContentsLength(static_cast<int>(PunktNummernTyp::kLaenge));
+    ComboBox1_->setModel(nummern_);
+    ComboBox1_->setCompleter(new QCompleter(nummern_, ComboBox1_));
+    ComboBox1_->completer()->setFilterMode(Qt::MatchContains);
+    ComboBox1_->completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    ComboBox1_->setEditText(QStringLiteral("Punktnummern"));
+    connect(ComboBox1_, &QComboBox::textActivated, this,
+            [this](const QString& nummer) { ZeigePunkt(nummer); });
+    connect(ComboBox1_->lineEdit(), &QLineEdit::returnPressed, this,
+            [this] { ZeigePunkt(ComboBox1_->currentText()); });
+    auto* suche = new QShortcut(QKeySequence(QStringLiteral("Ctrl+F")), this);
+    connect(suche, &QShortcut::activated, this, [this] {
+        ComboBox1_->setFocus();
+        ComboBox1_->lineEdit()->selectAll();
+    });
+    reihe.addWidget(ComboBox1_);
+    reihe.addWidget(&Knopf("SpeedButton10"));
+}
+
+void TZrwMainDlg::BaueDialoge() {
+    zentrierkasten_ = new Zentrierkasten(bild_);
+    zentrierkasten_->zentriere = [this](const std::optional<QString>& zentrum, const QStringList& exzentren) {
+        ZentriereListe(zentrum, exzentren);
+    };
+    zentrierkasten_->zentrumGewaehlt = [this](const QString& nummer) { ComboBox1_->setCurrentText(nummer); };
+    zentrierkasten_->beendet = [this] {
+        Knopf("SpeedButton13").setChecked(false);
+        ZeichneNeu();
+    };
     legendentexte_ = new TZRWLBLForm(this);
+    versteckte_ = new TFormHiddenPkt(this);
+    versteckte_->zeige = [this](const QString& nummer) { zuZeigen_ << nummer; };
+    versteckte_->fertig = [this] { ZeigeVerborgene(std::exchange(zuZeigen_, {})); };
+    punkteVerstecken_ = new TFormHidePunkte(this);
+    punkteVerstecken_->verstecken = [this](const QStringList& nummern) { VerbergePunkte(nummern); };
+    connect(punkteVerstecken_, &QDialog::finished, this,
+            [this] { Knopf("SpeedButton14").setChecked(false); });
+    ergebnisse_ = new TFormData(this);
+    punktart_ = new TFormPunktart(this);
+    punktart_->zeichnen = [this] { ZeichnePunktart(); };
+    beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
+}
+
+QToolButton& TZrwMainDlg::Knopf(const char* komponente) const {
+    return *findChild<QToolButton*>(QString::fromUtf8(komponente));
 }
 
 void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
-    werkzeuge_[nummer]->Abbrechen();
-    if (unten) {
-        // One mode at most; none is allowed, which an exclusive button group is not.
-        for (std::size_t i = 0; i < werkzeugknoepfe_.size(); ++i) {
-            if (i != nummer) werkzeugknoepfe_[i]->setChecked(false);
-        }
-        bild_->setCursor(werkzeuge_[nummer]->Zeiger());
-    } else if (Aktiv() == nullptr) {
-        bild_->unsetCursor();
+    BrichAb();
+    if (!unten) {
+        werkzeuge_[nummer]->Beende();
+        gewaehlt_ = nullptr;
+        if (Aktiv() == nullptr) bild_->unsetCursor();
+        return;
     }
+    // One mode at most; none is allowed, which an exclusive button group is not.
+    for (std::size_t i = 0; i < werkzeugknoepfe_.size(); ++i) {
+        if (i != nummer) werkzeugknoepfe_[i]->setChecked(false);
+    }
+    werkzeuge_[nummer]->Beginne();
+    bild_->setCursor(werkzeuge_[nummer]->Zeiger());
+    ZeigeStatus(werkzeuge_[nummer]->Anleitung());
 }
 
 void TZrwMainDlg::LoeseWerkzeuge() {
     for (QToolButton* knopf : werkzeugknoepfe_)
         knopf->setChecked(false);
+    Knopf("SpeedButton14").setChecked(false);
+    zentrierkasten_->hide();
 }
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
@@ -229,15 +339,6 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
     }
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
     if (liste_ != nullptr) ZeichneNeu();
-}
-
-void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
-    if (ereignis->key() == Qt::Key_Escape && gedrueckt_ != nullptr) {
-        gedrueckt_->Abbrechen();
-        gedrueckt_ = nullptr;
-        return;
-    }
-    QMainWindow::keyPressEvent(ereignis);
 }
 
 }  // namespace zrw

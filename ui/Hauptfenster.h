@@ -1,13 +1,16 @@
-// The main window: tool panel, picture and status line. Owns the current network and forwards: building of
-// the window in Hauptfenster.cpp, files in HauptfensterDateien.cpp, view and mouse in
-// HauptfensterAnsicht.cpp, legend and export in HauptfensterAusgabe.cpp.
+// The main window: tool panel, picture and status line. Owns the current network and forwards. By topic:
+// building and switches in Hauptfenster.cpp, files in HauptfensterDateien.cpp, view, mouse and keys in
+// HauptfensterAnsicht.cpp, points, numbers and centring in HauptfensterPunkte.cpp, legend, export and
+// dialogs in HauptfensterAusgabe.cpp.
 #pragma once
 
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QToolButton>
+#include <QUndoStack>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "input/Oeffnen.h"
@@ -23,13 +26,25 @@
 #include "ui/ImageZarwik.h"
 #include "ui/Massstabfeld.h"
 #include "ui/Schalter.h"
-#include "ui/dialoge/TZRWLBLForm.h"
+#include "ui/Sitzung.h"
+#include "ui/werkzeuge/LegendeVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
 
-class QBoxLayout;
 class QCheckBox;
+class QComboBox;
+class QLayout;
+class QStringListModel;
 
 namespace zrw {
+
+class Hilfefenster;
+class TFormBeobTyp;
+class TFormData;
+class TFormHiddenPkt;
+class TFormHidePunkte;
+class TFormPunktart;
+class TZRWLBLForm;
+class Zentrierkasten;
 
 /// What the program makes once and the window works with. All of it outlives the window.
 struct Programm {
@@ -41,6 +56,7 @@ struct Programm {
     const Uhr& uhr;
     const Druckauskunft& drucker;
     Dialogdienst& dialoge;
+    Sitzung& sitzung;
     QString version;
 };
 
@@ -50,11 +66,12 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     ~TZrwMainDlg() override;
 
     /// Opens a control file or, by its extension, a picture file. Messages go to the dialog service; the
-    /// previous network stays where the new one cannot be read.
+    /// previous network stays where the new one cannot be read, and where the user would lose changes.
     void Oeffne(const std::filesystem::path& datei);
     /// The current network, or null before one is opened.
     [[nodiscard]] const Liste* Netz() const { return liste_.get(); }
     [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
+    [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !aenderungen_.isClean(); }
 
     // Click handlers, by component.
     void SpeedButton1Click();   ///< open a control file
@@ -62,68 +79,130 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void SpeedButton9Click();   ///< "Zarwik speichern"
     void SpeedButton7Click();   ///< "Zarwik beenden"
     void SpeedButton3Click();   ///< "Alles darstellen"
+    void SpeedButton4Click();   ///< "Programminfo"
+    void SpeedButton6Click();   ///< "Hilfe"
+    void SpeedButton8Click();   ///< "Zeichenfont wählen"
+    void SpeedButton10Click();  ///< "Punkt anzeigen"
     void SpeedButton12Click();  ///< "Legendentexte"
+    void SpeedButton14Click();  ///< "Punkte verstecken"
+    void SpeedButton15Click();  ///< "Versteckte Punkte"
     void SpeedButton16Click();  ///< "DXF und HPGL Format ausgeben"
+    void ColorButtonClick();
     void ButtonGroesserClick();
     void ButtonKleinerClick();
+    void EinpassenClick();      ///< fits the visible points
+    void NummernZeigenClick();  ///< shows all hidden numbers
+    void LetzteDateienClick();
+    void Rueckgaengig() { aenderungen_.undo(); }
+    void Wiederhole() { aenderungen_.redo(); }
 
   protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
+    void closeEvent(QCloseEvent* ereignis) override;
+    void dragEnterEvent(QDragEnterEvent* ereignis) override;
+    void dropEvent(QDropEvent* ereignis) override;
 
   private:
     // Hauptfenster.cpp
     void BaueFenster();
-    void BaueBefehle(QBoxLayout& reihe);
-    void BaueWerkzeuge(QBoxLayout& reihe);
-    void BaueSchalter(QBoxLayout& reihe);
-    void BaueMassstab(QBoxLayout& reihe);
+    void BaueBefehle(QLayout& reihe);
+    void BaueWerkzeuge(QLayout& reihe);
+    void BaueSchalter(QLayout& reihe);
+    void BaueFelder(QLayout& reihe);
+    void BaueDialoge();
     void WerkzeugGewaehlt(std::size_t nummer, bool unten);
     void SchalterGewaehlt(const Schalter& schalter, bool ein);
     void LoeseWerkzeuge();
+    [[nodiscard]] QToolButton& Knopf(const char* komponente) const;
 
     // HauptfensterDateien.cpp
     void BereiteLesenVor();
     void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
     [[nodiscard]] bool Speichere();
-    void BeendeProgramm();
+    [[nodiscard]] bool DarfVerwerfen();
+    void ZeigeTitel();
 
     // HauptfensterAnsicht.cpp
-    void ZeichneNeu();
     void Zoome(double x, double y, bool groesser);
+    void SetzeAnsicht(double faktor, Welt linksOben);
+    void MerkeAnsicht();
     void ZeigeStatus(Bildpunkt ort);
     void ZeigeZeiger(Bildpunkt ort);
     [[nodiscard]] Werkzeug* Aktiv() const;
+    [[nodiscard]] bool NimmtLegende(Bildpunkt ort) const;
+    void BrichAb();
     void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikMouseMove(Bildpunkt ort) override;
     void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikWheel(Bildpunkt ort, int schritte) override;
     void ImageZarwikResize(int weite, int hoehe) override;
-    [[nodiscard]] bool HatNetz() const override { return liste_ != nullptr; }
-    void ZeigeVerschoben(Bildpunkt versatz) override;
+    [[nodiscard]] Liste* AktuelleListe() override { return liste_.get(); }
+    [[nodiscard]] const Einstellungen& Anzeige() const override { return programm_.einstellungen; }
+    [[nodiscard]] Zeichner& Bildzeichner() override { return zeichner_; }
+    void BildGeaendert() override { bild_->update(); }
+    void ZeichneNeu() override;
+    void ZeigeVorschau(Vorschau vorschau) override;
+    void ZeigeStatus(const QString& text) override { statusBar()->showMessage(text); }
+    void Tue(std::unique_ptr<QUndoCommand> aenderung) override { aenderungen_.push(aenderung.release()); }
+    void ZeigeVerschoben(Bildpunkt versatz) override { bild_->SetzeVerschiebung(versatz); }
     void Verschiebe(Bildpunkt versatz) override;
+    void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
+    void ZoomeUm(Bildpunkt ort) override;
+    void AnsichtZurueck() override;
+
+    // HauptfensterPunkte.cpp
+    void NetzGeaendert();
+    void FuelleNummern();
+    void ZeigePunkt(const QString& nummer);
+    void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
+    void ZeichnePunktart();
+    void FuegePunktEin(const struct Punkteingabe& eingabe, Welt ort);
+    void VerbergePunkte(const QStringList& nummern);
+    void ZeigeVerborgene(const QStringList& nummern);
+    void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
+    void VerbergePunkt(PunktKnoten& punkt) override;
+    void WaehlePunkt(PunktKnoten& punkt) override;
+    void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
+    void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
+    [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }
 
     // HauptfensterAusgabe.cpp
     void ZeigeFehler(const std::exception& fehler);
-    [[nodiscard]] bool UeberLegendenecke(Bildpunkt ort) const;
-    [[nodiscard]] Bildpunkt Legendenort() const override;
-    void FasseLegende(Bildpunkt ort) override;
-    void ZieheLegende(Bildpunkt ort) override;
-    void LegendeLosgelassen() override;
+    void ZeigeHilfe(int kontext);
 
     Programm programm_;
     std::unique_ptr<Liste> liste_;
+    QUndoStack aenderungen_;
+    bool ungesichert_ = false;  ///< changes that cannot be undone
+    bool beendet_ = false;      ///< closing has been asked about
     Bildflaeche flaeche_;
     Figurenzeichner zeichner_;
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
-    std::unique_ptr<Werkzeug> legendenecke_;            ///< dragging the legend, with no mode on
-    Werkzeug* gedrueckt_ = nullptr;                     ///< has the mouse button that is down
+    std::unique_ptr<LegendeVerschieben> legendenecke_;
+    Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
     Qt::MouseButton taste_ = Qt::NoButton;
+    Bildpunkt maus_;  ///< last mouse position over the picture [px]
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
     Massstabfeld* EditMasstab_ = nullptr;
+    QComboBox* ComboBox1_ = nullptr;
+    QStringListModel* nummern_ = nullptr;  ///< of all points, in the order in which they were read
+    std::int32_t nummernstand_ = 0;        ///< number of points that `nummern_` was made from
+    Zentrierkasten* zentrierkasten_ = nullptr;
     TZRWLBLForm* legendentexte_ = nullptr;
+    TFormBeobTyp* beobachtungstyp_ = nullptr;
+    TFormPunktart* punktart_ = nullptr;
+    TFormHidePunkte* punkteVerstecken_ = nullptr;
+    TFormHiddenPkt* versteckte_ = nullptr;
+    TFormData* ergebnisse_ = nullptr;
+    Hilfefenster* hilfe_ = nullptr;    ///< made when it is first needed
+    QStringList zuZeigen_;             ///< hidden points that are being shown again
+    PunktKnoten* gewaehlt_ = nullptr;  ///< the point in the dialog of point kinds
+    /// Views before zooming: scale and world position of the top-left corner.
+    std::vector<std::pair<double, Welt>> ansichten_;
+    QString titel_;
     QString ordner_;                     ///< of the last file
     std::filesystem::path steuerdatei_;  ///< last control file, proposes the name for saving
 };

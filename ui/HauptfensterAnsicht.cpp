@@ -1,11 +1,16 @@
 // Main window: view, mouse and status line.
+#include <QApplication>
+#include <QKeyEvent>
 #include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "model/Zahlentext.h"
 #include "ui/Hauptfenster.h"
+#include "ui/Hilfethemen.h"
 #include "ui/Umwandlung.h"
+#include "ui/dialoge/TFormData.h"
 
 namespace zrw {
 namespace {
@@ -14,6 +19,10 @@ namespace {
 /// picture. Beyond them positions lose their last digit, and nobody finds back.
 constexpr double kFeinster = 1e-5;
 constexpr double kGroebster = 1e6;
+/// Margin round fitted points, with room for their numbers [px].
+constexpr int kRand = 40;
+/// Scale for a single point [m/px].
+constexpr double kEinzelpunkt = 0.5;
 
 }  // namespace
 
@@ -24,10 +33,94 @@ void TZrwMainDlg::ZeichneNeu() {
     bild_->update();
 }
 
+void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
+    if (!vorschau) {
+        bild_->SetzeVorschau({});
+        return;
+    }
+    bild_->SetzeVorschau([this, vorschau = std::move(vorschau)](Zeichenflaeche& flaeche) {
+        Zeichenzustand zustand = programm_.zustand;
+        zustand.flaeche = &flaeche;
+        Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+        vorschau(zeichner, flaeche);
+    });
+}
+
 void TZrwMainDlg::SpeedButton3Click() {
     if (liste_ == nullptr) return;
+    BrichAb();
     liste_->Alles(zeichner_);
     bild_->update();
+}
+
+/// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
+void TZrwMainDlg::EinpassenClick() {
+    if (liste_ == nullptr) return;
+    Welt min{};
+    Welt max{};
+    bool leer = true;
+    for (const PunktKnoten* p = liste_->PunktKnoten; p != nullptr; p = p->Next) {
+        if (!p->Item->Visible || !liste_->Dargestellt(*p->Item)) continue;
+        const Welt ort{p->XWPu, p->YWPu};
+        min = leer ? ort : Welt{std::min(min.rechts, ort.rechts), std::min(min.hoch, ort.hoch)};
+        max = leer ? ort : Welt{std::max(max.rechts, ort.rechts), std::max(max.hoch, ort.hoch)};
+        leer = false;
+    }
+    if (leer) {
+        ZeigeStatus(QStringLiteral("Es ist kein Punkt sichtbar."));
+        return;
+    }
+    const double dx = max.rechts - min.rechts;
+    const double dy = max.hoch - min.hoch;
+    const double weite = std::max(liste_->Weite - 2 * kRand, 1);
+    const double hoehe = std::max(liste_->Hoehe - 2 * kRand, 1);
+    // One point alone, or several at one place: a few hundred metres round it.
+    const double faktor = dx > 0 || dy > 0 ? std::max(dx / weite, dy / hoehe) : kEinzelpunkt;
+    MerkeAnsicht();
+    SetzeAnsicht(faktor, {(min.rechts + max.rechts - liste_->Weite * faktor) / 2,
+                          (min.hoch + max.hoch + liste_->Hoehe * faktor) / 2});
+}
+
+/// @param linksOben world position of the picture's top-left corner
+void TZrwMainDlg::SetzeAnsicht(double faktor, Welt linksOben) {
+    if (!(faktor >= kFeinster && faktor <= kGroebster)) {
+        ZeigeStatus(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
+        return;
+    }
+    BrichAb();
+    liste_->Faktor = faktor;
+    liste_->XOffset = linksOben.rechts - liste_->MinXW;
+    liste_->YOffset = linksOben.hoch - liste_->MaxYW;
+    ZeichneNeu();
+}
+
+void TZrwMainDlg::MerkeAnsicht() {
+    constexpr std::size_t kHoechstens = 50;
+    if (ansichten_.size() == kHoechstens) ansichten_.erase(ansichten_.begin());
+    ansichten_.emplace_back(liste_->Faktor, liste_->BildinWelt({}));
+}
+
+void TZrwMainDlg::AnsichtZurueck() {
+    if (liste_ == nullptr || ansichten_.empty()) return;
+    const auto [faktor, ecke] = ansichten_.back();
+    ansichten_.pop_back();
+    SetzeAnsicht(faktor, ecke);
+}
+
+void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
+    const auto weite = static_cast<double>(std::max<std::int64_t>(std::llabs(a.x - b.x), 1));
+    const auto hoehe = static_cast<double>(std::max<std::int64_t>(std::llabs(a.y - b.y), 1));
+    const Welt eckeA = liste_->BildinWelt(a);
+    const Welt eckeB = liste_->BildinWelt(b);
+    const double faktor = liste_->Faktor * std::max(weite / liste_->Weite, hoehe / liste_->Hoehe);
+    MerkeAnsicht();
+    SetzeAnsicht(faktor, {(eckeA.rechts + eckeB.rechts - liste_->Weite * faktor) / 2,
+                          (eckeA.hoch + eckeB.hoch + liste_->Hoehe * faktor) / 2});
+}
+
+void TZrwMainDlg::ZoomeUm(Bildpunkt ort) {
+    MerkeAnsicht();
+    Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
 }
 
 void TZrwMainDlg::ButtonGroesserClick() {
@@ -40,12 +133,13 @@ void TZrwMainDlg::ButtonKleinerClick() {
 
 /// One zoom step that keeps the world position at (x, y) [px] in place.
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
+    BrichAb();
     Liste& l = *liste_;
     const double z = programm_.einstellungen.Zoomschritt;
     const double s = l.Faktor;
     const double danach = groesser ? s * z : s / z;
     if (groesser ? danach < kFeinster : danach > kGroebster) {
-        statusBar()->showMessage(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
+        ZeigeStatus(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
         return;
     }
     // Zooming out does not clear the picture by itself.
@@ -66,7 +160,7 @@ void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {
     const Welt w = liste_->BildinWelt(ort);
     const std::string text = Festkomma(w.rechts, 12, 2) + " " + Festkomma(w.hoch, 12, 2) + " " +
                              " M=1:" + Festkomma(liste_->Faktor * 1000, 5, 0);
-    statusBar()->showMessage(AusUtf8(text));
+    ZeigeStatus(AusUtf8(text));
 }
 
 Werkzeug* TZrwMainDlg::Aktiv() const {
@@ -76,44 +170,98 @@ Werkzeug* TZrwMainDlg::Aktiv() const {
     return nullptr;
 }
 
+/// Ends the drag that is under way.
+void TZrwMainDlg::BrichAb() {
+    if (gedrueckt_ != nullptr) std::exchange(gedrueckt_, nullptr)->Abbrechen();
+}
+
+/// The legend's corner is caught with no mode on and while numbers are moved; else the press is the tool's.
+bool TZrwMainDlg::NimmtLegende(Bildpunkt ort) const {
+    const bool frei = Aktiv() == nullptr || Knopf("MoveTextButton").isChecked();
+    return frei && legendenecke_->UeberEcke(ort);
+}
+
 void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
     if (gedrueckt_ != nullptr) {
         // A second button during a drag ends it.
-        gedrueckt_->Abbrechen();
-        gedrueckt_ = nullptr;
+        BrichAb();
         return;
     }
-    if (taste == Qt::MiddleButton) {
-        gedrueckt_ = mitteltaste_.get();
-    } else if (taste == Qt::LeftButton) {
-        gedrueckt_ = UeberLegendenecke(ort) ? legendenecke_.get() : Aktiv();
+    if (liste_ == nullptr) return;
+    if (taste == Qt::RightButton && Aktiv() != nullptr) {
+        Aktiv()->RechteTaste();
+        return;
     }
+    Werkzeug* werkzeug = nullptr;
+    if (taste == Qt::MiddleButton) {
+        werkzeug = mitteltaste_.get();
+    } else if (taste == Qt::LeftButton) {
+        werkzeug = NimmtLegende(ort) ? legendenecke_.get() : Aktiv();
+    }
+    if (werkzeug == nullptr) return;
     taste_ = taste;
-    if (gedrueckt_ != nullptr) gedrueckt_->Druecken(ort);
+    gedrueckt_ = werkzeug;
+    werkzeug->Druecken(ort);
 }
 
 void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
+    maus_ = ort;
     if (liste_ == nullptr) return;
+    ZeigeStatus(ort);
     if (gedrueckt_ != nullptr) {
         gedrueckt_->Ziehen(ort);
     } else {
         ZeigeZeiger(ort);
+        if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) werkzeug->Schweben(ort);
     }
-    ZeigeStatus(ort);
+    if (!Knopf("DataButton").isChecked()) ergebnisse_->hide();
 }
 
 /// The pointer tells what a press would do here.
 void TZrwMainDlg::ZeigeZeiger(Bildpunkt ort) {
-    const Werkzeug* werkzeug = UeberLegendenecke(ort) ? legendenecke_.get() : Aktiv();
+    const Werkzeug* werkzeug = NimmtLegende(ort) ? legendenecke_.get() : Aktiv();
     const Qt::CursorShape zeiger = werkzeug != nullptr ? werkzeug->Zeiger() : Qt::ArrowCursor;
     if (bild_->cursor().shape() != zeiger) bild_->setCursor(zeiger);
 }
 
 void TZrwMainDlg::ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) {
     if (gedrueckt_ == nullptr || taste != taste_) return;
-    Werkzeug* werkzeug = gedrueckt_;
-    gedrueckt_ = nullptr;
-    werkzeug->Loslassen(ort);
+    std::exchange(gedrueckt_, nullptr)->Loslassen(ort);
+}
+
+void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
+    const bool nurTaste = (ereignis->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (ereignis->modifiers() == Qt::ControlModifier && ereignis->key() == Qt::Key_F1) {
+        ZeigeHilfe(ThemaZu(QApplication::focusWidget()));
+        return;
+    }
+    if (ereignis->key() == Qt::Key_Escape) {
+        if (gedrueckt_ != nullptr) {
+            BrichAb();
+        } else if (Aktiv() != nullptr) {
+            Aktiv()->Abbrechen();
+        }
+        return;
+    }
+    // A tenth of the picture at a time.
+    constexpr int kTeile = 10;
+    if (nurTaste && liste_ != nullptr) {
+        const std::int64_t x = liste_->Weite / kTeile;
+        const std::int64_t y = liste_->Hoehe / kTeile;
+        switch (ereignis->key()) {
+            case Qt::Key_Left:
+                return Verschiebe({x, 0});
+            case Qt::Key_Right:
+                return Verschiebe({-x, 0});
+            case Qt::Key_Up:
+                return Verschiebe({0, y});
+            case Qt::Key_Down:
+                return Verschiebe({0, -y});
+            default:
+                break;
+        }
+    }
+    QMainWindow::keyPressEvent(ereignis);
 }
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
@@ -126,6 +274,7 @@ void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
 }
 
 void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
+    BrichAb();
     flaeche_.SetzeGroesse(weite, hoehe);
     if (liste_ == nullptr) return;
     liste_->Weite = weite;
@@ -133,11 +282,8 @@ void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
     ZeichneNeu();
 }
 
-void TZrwMainDlg::ZeigeVerschoben(Bildpunkt versatz) {
-    bild_->SetzeVerschiebung(versatz);
-}
-
 void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
+    BrichAb();
     liste_->MoveMe(-versatz.x, versatz.y);
     ZeichneNeu();
 }

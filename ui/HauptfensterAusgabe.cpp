@@ -1,24 +1,21 @@
-// Main window: legend and export.
+// Main window: legend, export, dialogs and help.
 #include <QDir>
 #include <QFileInfo>
-#include <algorithm>
-#include <limits>
 
 #include "model/Fehler.h"
 #include "output/Export.h"
 #include "ui/Hauptfenster.h"
+#include "ui/Hilfefenster.h"
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
+#include "ui/Zentrierkasten.h"
+#include "ui/dialoge/TAboutBox.h"
+#include "ui/dialoge/TFormData.h"
+#include "ui/dialoge/TFormPunktart.h"
+#include "ui/dialoge/TZRWLBLForm.h"
+#include "ui/dialoge/TZRWParameter.h"
 
 namespace zrw {
-namespace {
-
-std::int32_t Auf32(std::int64_t v) {
-    using Grenze = std::numeric_limits<std::int32_t>;
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(v, Grenze::min(), Grenze::max()));
-}
-
-}  // namespace
 
 /// The one place that tells what an action could not do; its scopes have put everything back by then.
 void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
@@ -59,30 +56,53 @@ void TZrwMainDlg::SpeedButton16Click() {
         QStringLiteral("Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."));
 }
 
-// --- Dragging the legend ----------------------------------------------------------------------------------
+// --- Dialogs and help -------------------------------------------------------------------------------------
 
-/// Where a press would take hold of the legend: with a tool mode on, the press is the tool's.
-bool TZrwMainDlg::UeberLegendenecke(Bildpunkt ort) const {
-    return liste_ != nullptr && liste_->ShowLegende && Aktiv() == nullptr &&
-           liste_->Gefangen(ort, liste_->Legend->Position());
+void TZrwMainDlg::ColorButtonClick() {
+    auto* dialog = new TZRWParameter(programm_.einstellungen, programm_.ablage, programm_.dialoge, this);
+    dialog->geschlossen = [this] { ZeichneNeu(); };
+    dialog->show();
 }
 
-Bildpunkt TZrwMainDlg::Legendenort() const {
-    return liste_->Legend->Position();
+void TZrwMainDlg::SpeedButton8Click() {
+    if (const auto schrift = programm_.dialoge.WaehleSchrift(flaeche_.Schrift())) {
+        // Drawing in white must wipe every pixel of a text.
+        QFont ohneGlaettung = *schrift;
+        ohneGlaettung.setStyleStrategy(Zeichenschrift().styleStrategy());
+        flaeche_.SetzeSchrift(ohneGlaettung);
+        ZeichneNeu();
+    }
 }
 
-void TZrwMainDlg::FasseLegende(Bildpunkt ort) {
-    liste_->MausLegende(ort);
+void TZrwMainDlg::SpeedButton4Click() {
+    auto* info = new TAboutBox(programm_.version, this);
+    info->setAttribute(Qt::WA_DeleteOnClose);
+    info->open();
 }
 
-void TZrwMainDlg::ZieheLegende(Bildpunkt ort) {
-    liste_->Legend->Drag(Auf32(ort.x), Auf32(ort.y), zeichner_);
-    bild_->update();
+void TZrwMainDlg::SpeedButton6Click() {
+    ZeigeHilfe(kErsteSeite);
 }
 
-void TZrwMainDlg::LegendeLosgelassen() {
-    liste_->Legend->Move = false;
-    ZeichneNeu();
+void TZrwMainDlg::ZeigeHilfe(int kontext) {
+    if (hilfe_ == nullptr) hilfe_ = new Hilfefenster(this);
+    hilfe_->Zeige(kontext);
+}
+
+void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
+    const bool zeigen = sichtbar && liste_ != nullptr;
+    switch (welches) {
+        case Nebenfenster::Zentrierung:
+            zeigen ? zentrierkasten_->Zeige() : zentrierkasten_->hide();
+            break;
+        case Nebenfenster::Punktart:
+            gewaehlt_ = nullptr;
+            punktart_->setVisible(zeigen);
+            break;
+        case Nebenfenster::Ergebnisse:
+            ergebnisse_->setVisible(zeigen);
+            break;
+    }
 }
 
 }  // namespace zrw

@@ -1,13 +1,18 @@
 // Main window: opening, saving, ending.
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
+#include <QMimeData>
+#include <QUrl>
 
 #include "model/Bilddatei.h"
 #include "model/Fehler.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
+#include "ui/dialoge/TFormData.h"
 
 namespace zrw {
 namespace {
@@ -69,10 +74,57 @@ void TZrwMainDlg::SpeedButton9Click() {
 
 void TZrwMainDlg::SpeedButton7Click() {
     if (programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere()) return;
+    beendet_ = true;  // has been asked
     close();
 }
 
+void TZrwMainDlg::LetzteDateienClick() {
+    const QStringList dateien = programm_.sitzung.LetzteDateien();
+    if (dateien.isEmpty()) {
+        ZeigeStatus(QStringLiteral("Es wurde noch keine Datei geöffnet."));
+    } else if (const auto datei = programm_.dialoge.WaehleAus(dateien)) {
+        Oeffne(NachPfad(*datei));
+    }
+}
+
+/// Asks what is to become of changes that are not saved. False where the user wants to stay.
+bool TZrwMainDlg::DarfVerwerfen() {
+    if (liste_ == nullptr || !Ungesichert()) return true;
+    const auto antwort = programm_.dialoge.FrageMitAbbruch(QStringLiteral("Zarwik speichern"));
+    return antwort && (!*antwort || (Speichere() && !Ungesichert()));
+}
+
+void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
+    if (!beendet_ && !DarfVerwerfen()) {
+        ereignis->ignore();
+        return;
+    }
+    LoeseWerkzeuge();
+    programm_.sitzung.MerkeFensterlage(saveGeometry());
+    ereignis->accept();
+}
+
+void TZrwMainDlg::dragEnterEvent(QDragEnterEvent* ereignis) {
+    if (ereignis->mimeData()->hasUrls()) ereignis->acceptProposedAction();
+}
+
+void TZrwMainDlg::dropEvent(QDropEvent* ereignis) {
+    for (const QUrl& url : ereignis->mimeData()->urls()) {
+        if (!url.isLocalFile()) continue;
+        ereignis->acceptProposedAction();
+        Oeffne(NachPfad(url.toLocalFile()));
+        return;
+    }
+}
+
+/// The file, and a star while there is something to save.
+void TZrwMainDlg::ZeigeTitel() {
+    setWindowTitle(titel_ + (Ungesichert() ? QStringLiteral("*") : QString()));
+}
+
 void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
+    BrichAb();
+    if (!DarfVerwerfen()) return;
     Sammler meldungen;
     Lesung lesung;
     QString fehler;
@@ -90,13 +142,17 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
         fehler = AusUtf8(f.what());
     }
     if (!fehler.isEmpty()) {
-        statusBar()->showMessage(fehler);
+        ZeigeStatus(fehler);
         if (mitFenster) meldungen.Schliesse(fehler);
     }
     meldungen.Schliesse(AusUtf8(lesung.endetext));
     if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
     if (lesung.ende == Leseende::Programmende) {
-        BeendeProgramm();
+        // The plot on screen is not to be lost to somebody else's missing file.
+        if (liste_ != nullptr && programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere())
+            return;
+        beendet_ = true;
+        close();
     } else if (lesung.liste != nullptr) {
         Uebernimm(std::move(lesung), datei);
     }
@@ -112,9 +168,16 @@ void TZrwMainDlg::BereiteLesenVor() {
 
 void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
     const Sanduhr sanduhr;
-    if (gedrueckt_ != nullptr) gedrueckt_->Abbrechen();
-    gedrueckt_ = nullptr;
+    // Nothing may point into the network that goes now.
+    for (const auto& werkzeug : werkzeuge_)
+        werkzeug->Abbrechen();
+    ergebnisse_->hide();
+    gewaehlt_ = nullptr;
+    ansichten_.clear();
+    aenderungen_.clear();
+    ungesichert_ = false;
     liste_ = std::move(lesung.liste);
+    FuelleNummern();
     programm_.netz = lesung.netz;
     if (IstBilddatei(datei)) {
         // Reading a picture file switches these two on, whatever they were.
@@ -136,11 +199,14 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     const QFileInfo info(AusUtf8(PfadText(datei)));
     ordner_ = info.absolutePath();
     const QString name = QDir::toNativeSeparators(info.filePath());
-    setWindowTitle(QStringLiteral("Zarwik ") + name);
-    statusBar()->showMessage(QStringLiteral("%1: %2 Punkte, %3 Linien")
-                                 .arg(info.fileName())
-                                 .arg(liste_->MaxPkte)
-                                 .arg(liste_->MaxKant));
+    titel_ = QStringLiteral("Zarwik ") + name;
+    ZeigeTitel();
+    programm_.sitzung.NimmDatei(info.absoluteFilePath());
+    programm_.sitzung.MerkeOrdner(ordner_);
+    ZeigeStatus(QStringLiteral("%1: %2 Punkte, %3 Linien")
+                    .arg(info.fileName())
+                    .arg(liste_->MaxPkte)
+                    .arg(liste_->MaxKant));
     ZeichneNeu();
 }
 
@@ -157,20 +223,16 @@ bool TZrwMainDlg::Speichere() {
     try {
         const Sanduhr sanduhr;
         SchreibeBilddatei(*liste_, programm_.netz, NachPfad(*name), programm_.dateien);
-    } catch (const Fehler& f) {
-        programm_.dialoge.Melde(AusUtf8(f.what()));
+    } catch (const std::exception& f) {
+        ZeigeFehler(f);
         return false;
     }
+    ungesichert_ = false;
+    aenderungen_.setClean();
+    ZeigeTitel();
     ordner_ = QFileInfo(*name).absolutePath();
-    statusBar()->showMessage(QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name));
+    ZeigeStatus(QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name));
     return true;
-}
-
-void TZrwMainDlg::BeendeProgramm() {
-    // The plot on screen is not to be lost to somebody else's missing file.
-    if (liste_ != nullptr && programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere())
-        return;
-    close();
 }
 
 }  // namespace zrw

@@ -28,6 +28,12 @@ ImageZarwik::ImageZarwik(Bildflaeche& flaeche, Bildempfaenger& empfaenger, QWidg
     setAccessibleName(QStringLiteral("Netzbild"));
 }
 
+void ImageZarwik::SetzeVorschau(std::function<void(Zeichenflaeche&)> vorschau) {
+    if (!vorschau_ && !vorschau) return;
+    vorschau_ = std::move(vorschau);
+    update();
+}
+
 void ImageZarwik::SetzeVerschiebung(Bildpunkt versatz) {
     versatz_ = QPoint(static_cast<int>(versatz.x), static_cast<int>(versatz.y));
     update();
@@ -37,6 +43,9 @@ void ImageZarwik::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     if (!versatz_.isNull()) maler.fillRect(rect(), Qt::white);
     maler.drawImage(versatz_, flaeche_.Bild());
+    if (!vorschau_ || !versatz_.isNull()) return;
+    Malerflaeche flaeche(maler, {0, 0, width() - 1, height() - 1}, flaeche_.Schrift());
+    vorschau_(flaeche);
 }
 
 void ImageZarwik::resizeEvent(QResizeEvent* ereignis) {

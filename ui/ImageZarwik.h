@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "ui/Bildflaeche.h"
 
@@ -24,6 +25,9 @@ class ImageZarwik final : public QWidget {
   public:
     ImageZarwik(Bildflaeche& flaeche, Bildempfaenger& empfaenger, QWidget* eltern);
 
+    /// Draws over the picture until the next call; an empty one draws nothing. Left out while the picture is
+    /// shifted.
+    void SetzeVorschau(std::function<void(Zeichenflaeche&)> vorschau);
     /// Shows the picture shifted, while it is being dragged.
     void SetzeVerschiebung(Bildpunkt versatz);
     [[nodiscard]] QSize sizeHint() const override { return {900, 600}; }
@@ -40,6 +44,7 @@ class ImageZarwik final : public QWidget {
     Bildflaeche& flaeche_;
     Bildempfaenger& empfaenger_;
     QPoint versatz_;
+    std::function<void(Zeichenflaeche&)> vorschau_;
     int radrest_ = 0;  ///< fine wheels report parts of a step
 };
 

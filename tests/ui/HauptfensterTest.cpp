@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QDialog>
 #include <QDir>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -65,7 +66,9 @@ class Hauptfenster : public testing::Test {
     Festuhr uhr;
     Festdrucker drucker;
     Antwortdienst dialoge;
-    TZrwMainDlg fenster{{einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, "1.2"}};
+    Sitzung sitzung{ordner.filePath("sitzung.ini")};
+    TZrwMainDlg fenster{
+        {einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, sitzung, "1.2"}};
     QWidget* bild = nullptr;
 };
 

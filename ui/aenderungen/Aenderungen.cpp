@@ -39,12 +39,14 @@ void SichtbarkeitGeaendert::NimmPunkt(Liste& liste, const PunktKnoten& punkt, bo
 void SichtbarkeitGeaendert::redo() {
     for (std::size_t i = 0; i < schalter_.size(); ++i)
         *schalter_[i] = neu_[i];
+    if (danach) danach(true);
 }
 
 void SichtbarkeitGeaendert::undo() {
     // Backwards: a figure that is named twice ends as it was first.
     for (std::size_t i = schalter_.size(); i-- > 0;)
         *schalter_[i] = !neu_[i];
+    if (danach) danach(false);
 }
 
 KanteGeaendert::KanteGeaendert(Kante& kante, LinieAttr richtung, KanteAttr weitere)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QUndoCommand>
+#include <functional>
 #include <vector>
 
 #include "model/FigListe.h"
@@ -45,6 +46,8 @@ class SichtbarkeitGeaendert final : public QUndoCommand {
     /// A point with its lines and its label, as hiding and showing points takes them.
     void NimmPunkt(Liste& liste, const PunktKnoten& punkt, bool neu);
     [[nodiscard]] bool Leer() const { return schalter_.empty(); }
+    /// Called after the change with true, after taking it back with false; may be empty.
+    std::function<void(bool getan)> danach;
     void redo() override;
     void undo() override;
 

@@ -2,8 +2,12 @@
 
 namespace zrw {
 
+QString BildVerschieben::Anleitung() const {
+    return QStringLiteral("Bild verschieben: Bild mit gedrückter Maustaste ziehen.");
+}
+
 void BildVerschieben::Druecken(Bildpunkt ort) {
-    if (umgebung_.HatNetz()) anfang_ = ort;
+    if (umgebung_.AktuelleListe() != nullptr) anfang_ = ort;
 }
 
 void BildVerschieben::Ziehen(Bildpunkt ort) {

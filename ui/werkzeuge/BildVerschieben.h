@@ -16,6 +16,7 @@ class BildVerschieben final : public Werkzeug {
     void Loslassen(Bildpunkt ort) override;
     void Abbrechen() override;
     [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::OpenHandCursor; }
+    [[nodiscard]] QString Anleitung() const override;
 
   private:
     Werkzeugumgebung& umgebung_;

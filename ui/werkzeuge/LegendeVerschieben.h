@@ -1,4 +1,5 @@
-// Dragging the legend by its corner. Not a mode with a button: the corner is caught while no mode is on.
+// Dragging the legend by its corner. Not a mode with a button: the corner is caught with no mode on and while
+// point numbers are moved.
 #pragma once
 
 #include <optional>
@@ -11,14 +12,18 @@ class LegendeVerschieben final : public Werkzeug {
   public:
     explicit LegendeVerschieben(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
+    /// Whether a press here would take hold of the legend; `Druecken` needs that.
+    [[nodiscard]] bool UeberEcke(Bildpunkt ort) const;
     void Druecken(Bildpunkt ort) override;
     void Ziehen(Bildpunkt ort) override;
     void Loslassen(Bildpunkt ort) override;
     void Abbrechen() override;
     [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::SizeAllCursor; }
+    [[nodiscard]] QString Anleitung() const override { return {}; }
 
   private:
-    void Beende(Bildpunkt legendenort);
+    void Setze(Bildpunkt ort);
+    void Schliesse();
 
     Werkzeugumgebung& umgebung_;
     Bildpunkt vorher_;                 ///< where the legend was

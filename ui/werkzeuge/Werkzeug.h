@@ -1,39 +1,88 @@
-// A tool mode: what press, drag and release on the picture do while its button is down. One small class per
-// mode, plain positions instead of Qt's events, registered in one row of Werkzeugtafel.h.
+// A tool mode: what the mouse does to the picture while its button is down. One small class per mode, plain
+// positions instead of Qt's events, registered in one row of Werkzeugtafel.h.
 #pragma once
 
+#include <QString>
+#include <QUndoCommand>
 #include <Qt>
+#include <functional>
+#include <memory>
 
-#include "model/Werte.h"
+#include "model/FigListe.h"
+#include "model/Zeichner.h"
+#include "output/Zeichenflaeche.h"
 
 namespace zrw {
+
+class TFormBeobTyp;
+
+/// Draws over the picture without changing it; an empty one draws nothing.
+using Vorschau = std::function<void(Zeichner&, Zeichenflaeche&)>;
+
+/// Windows that some modes work with, shown while their button is down.
+enum class Nebenfenster : std::uint8_t { Zentrierung, Punktart, Ergebnisse };
 
 /// What a tool may do to the window.
 class Werkzeugumgebung {
   public:
     virtual ~Werkzeugumgebung() = default;
-    [[nodiscard]] virtual bool HatNetz() const = 0;
+    /// The current network, or null before one is opened.
+    [[nodiscard]] virtual Liste* AktuelleListe() = 0;
+    [[nodiscard]] virtual const Einstellungen& Anzeige() const = 0;
+    /// Draws into the picture itself; `BildGeaendert` then shows it.
+    [[nodiscard]] virtual Zeichner& Bildzeichner() = 0;
+    virtual void BildGeaendert() = 0;
+    /// Draws the whole picture anew from the world coordinates.
+    virtual void ZeichneNeu() = 0;
+    virtual void ZeigeVorschau(Vorschau vorschau) = 0;
+    virtual void ZeigeStatus(const QString& text) = 0;
+    /// Does the change, remembers it for undoing and redraws.
+    virtual void Tue(std::unique_ptr<QUndoCommand> aenderung) = 0;
+
     /// Shows the picture shifted without changing the view.
     virtual void ZeigeVerschoben(Bildpunkt versatz) = 0;
     /// Pans the view so that the network moves by this picture delta [px], and redraws.
     virtual void Verschiebe(Bildpunkt versatz) = 0;
-    /// Corner of the legend. Like the next three, only while it is being dragged.
-    [[nodiscard]] virtual Bildpunkt Legendenort() const = 0;
-    virtual void FasseLegende(Bildpunkt ort) = 0;
-    virtual void ZieheLegende(Bildpunkt ort) = 0;
-    /// Redraws what the legend was dragged over.
-    virtual void LegendeLosgelassen() = 0;
+    /// Fills the picture with a rectangle of it, given by two corners.
+    virtual void ZoomeAuf(Bildpunkt a, Bildpunkt b) = 0;
+    /// One step in about a position.
+    virtual void ZoomeUm(Bildpunkt ort) = 0;
+    /// The view before the last zoom.
+    virtual void AnsichtZurueck() = 0;
+
+    /// Puts the eccentre onto the centre, for good.
+    virtual void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) = 0;
+    virtual void VerbergePunkt(PunktKnoten& punkt) = 0;
+    /// Fills the dialog of the point kinds.
+    virtual void WaehlePunkt(PunktKnoten& punkt) = 0;
+    /// Lists the results of a point or a line; one of them is null.
+    virtual void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) = 0;
+    [[nodiscard]] virtual TFormBeobTyp& Beobachtungsdialog() = 0;
+    /// Shows nothing without a network.
+    virtual void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) = 0;
 };
 
 class Werkzeug {
   public:
     virtual ~Werkzeug() = default;
+    /// Its button goes down or up.
+    virtual void Beginne() {}
+    virtual void Beende() { Abbrechen(); }
     virtual void Druecken(Bildpunkt ort) = 0;
     virtual void Ziehen(Bildpunkt ort) = 0;
     virtual void Loslassen(Bildpunkt ort) = 0;
-    /// Ends what is under way and leaves everything as before the press.
+    /// The mouse moves with no button down.
+    virtual void Schweben(Bildpunkt /*ort*/) {}
+    /// The right button without a drag under way.
+    virtual void RechteTaste() { Abbrechen(); }
+    /// Ends what is under way and leaves everything as before the press. Also when the network is about to be
+    /// replaced: afterwards the tool holds nothing of it.
     virtual void Abbrechen() = 0;
+    /// Figures may have left the network: drops those that did.
+    virtual void NetzGeaendert() {}
     [[nodiscard]] virtual Qt::CursorShape Zeiger() const = 0;
+    /// What to do with it, for the status line.
+    [[nodiscard]] virtual QString Anleitung() const = 0;
 };
 
 }  // namespace zrw

@@ -5,8 +5,14 @@
 #include <memory>
 #include <string_view>
 
+#include "ui/werkzeuge/BeobachtungBearbeiten.h"
 #include "ui/werkzeuge/BildVerschieben.h"
+#include "ui/werkzeuge/Klickwerkzeuge.h"
+#include "ui/werkzeuge/NummerVerschieben.h"
+#include "ui/werkzeuge/PunktVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
+#include "ui/werkzeuge/ZentrierenMaus.h"
+#include "ui/werkzeuge/ZoomRechteck.h"
 
 namespace zrw {
 
@@ -22,8 +28,20 @@ std::unique_ptr<Werkzeug> NeuesWerkzeug(Werkzeugumgebung& umgebung) {
     return std::make_unique<W>(umgebung);
 }
 
-inline constexpr std::array<Werkzeugzeile, 1> kWerkzeuge{{
+inline constexpr std::array<Werkzeugzeile, 13> kWerkzeuge{{
     {"PanButton", "Bild verschieben", "verschieben", &NeuesWerkzeug<BildVerschieben>},
+    {"ZoomInButton", "Zoomen mit der Maus", "zoom_rechteck", &NeuesWerkzeug<ZoomRechteck>},
+    {"MovePktButton", "Punkt verschieben", "punkt_verschieben", &NeuesWerkzeug<PunktVerschieben>},
+    {"MoveTextButton", "Punktnummer verschieben", "nummer_verschieben", &NeuesWerkzeug<NummerVerschieben>},
+    {"EditBeobButton", "Beobachtung ändern", "beobachtung", &NeuesWerkzeug<BeobachtungBearbeiten>},
+    {"PunktartButton", "Punktart ändern", "punktart", &NeuesWerkzeug<PunktartWaehlen>},
+    {"DelPunktButton", "Punkt löschen", "punkt_loeschen", &NeuesWerkzeug<PunktLoeschen>},
+    {"DelBeobButton", "Beobachtung löschen", "beobachtung_loeschen", &NeuesWerkzeug<BeobachtungLoeschen>},
+    {"ZentrierButton", "Punktzentrierung mit Maus", "zentrieren_maus", &NeuesWerkzeug<ZentrierenMaus>},
+    {"SpeedButton13", "Punktzentrierung", "zentrieren", &NeuesWerkzeug<Punktzentrierung>},
+    {"HidePktNrButton", "Punktnummer verstecken", "nummer_verstecken", &NeuesWerkzeug<NummerVerstecken>},
+    {"HidePktButton", "Punkt verstecken", "punkt_verstecken", &NeuesWerkzeug<PunktVerstecken>},
+    {"DataButton", "Ausgleichungsergebnisse zeigen", "ergebnisse", &NeuesWerkzeug<ErgebnisZeigen>},
 }};
 
 }  // namespace zrw

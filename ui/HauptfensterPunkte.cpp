@@ -1,0 +1,266 @@
+// Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
+#include <QComboBox>
+#include <QStringListModel>
+#include <algorithm>
+#include <cmath>
+
+#include "model/Punktarten.h"
+#include "model/Zahlentext.h"
+#include "output/Abschneiden.h"
+#include "ui/Hauptfenster.h"
+#include "ui/Sanduhr.h"
+#include "ui/Umwandlung.h"
+#include "ui/Zentrierkasten.h"
+#include "ui/aenderungen/Aenderungen.h"
+#include "ui/dialoge/TFormData.h"
+#include "ui/dialoge/TFormHiddenPkt.h"
+#include "ui/dialoge/TFormHidePunkte.h"
+#include "ui/dialoge/TFormPunktart.h"
+
+namespace zrw {
+namespace {
+
+constexpr Farbe kSuchfarbe{0xFF0000};
+
+std::string AlsNummer(const QString& text) {
+    return Utf8NachCp1252(NachUtf8(text));
+}
+
+}  // namespace
+
+/// A change was made, undone or made again.
+void TZrwMainDlg::NetzGeaendert() {
+    if (liste_ == nullptr) return;
+    if (gewaehlt_ != nullptr && !liste_->Enthaelt(*gewaehlt_)) gewaehlt_ = nullptr;
+    if (nummernstand_ != liste_->MaxPkte) FuelleNummern();
+    ZeichneNeu();
+    for (const auto& werkzeug : werkzeuge_)
+        werkzeug->NetzGeaendert();
+}
+
+/// The numbers of all points in the order in which they were read.
+void TZrwMainDlg::FuelleNummern() {
+    QStringList nummern;
+    for (const PunktString* t = liste_->PktTextKnoten; t != nullptr; t = t->Next)
+        nummern << AusNetz(t->Item->Aus.Text());
+    std::reverse(nummern.begin(), nummern.end());
+    nummern_->setStringList(nummern);
+    ComboBox1_->setEditText(QStringLiteral("Punktnummern"));
+    zentrierkasten_->Fuelle(nummern);
+    if (zentrierkasten_->isVisible()) zentrierkasten_->Zeige();
+    nummernstand_ = liste_->MaxPkte;
+}
+
+// --- Finding a point --------------------------------------------------------------------------------------
+
+void TZrwMainDlg::SpeedButton10Click() {
+    ZeigePunkt(ComboBox1_->currentText());
+}
+
+/// Brings a point into view and marks it. A part of a number finds the first that holds it.
+void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
+    if (liste_ == nullptr || nummer.isEmpty()) return;
+    PPunktKnoten punkt = liste_->FindPunkt(AlsNummer(nummer));
+    if (punkt == nullptr) {
+        const QStringList treffer = nummern_->stringList().filter(nummer, Qt::CaseInsensitive);
+        if (!treffer.isEmpty()) punkt = liste_->FindPunkt(AlsNummer(treffer.front()));
+    }
+    if (punkt == nullptr) {
+        ZeigeStatus(QStringLiteral("Einen Punkt %1 gibt es nicht.").arg(nummer));
+        return;
+    }
+    BrichAb();
+    const QString gefunden = AusNetz(liste_->GetPktText(punkt->PNr));
+    ComboBox1_->setEditText(gefunden);
+    const Rechteck bild = flaeche_.Sichtbar();
+    if (!InReichweite(punkt->Item->Position(), 0, bild)) {
+        const double f = liste_->Faktor;
+        liste_->XOffset = punkt->XWPu - liste_->MinXW - liste_->Weite / 2.0 * f;
+        liste_->YOffset = punkt->YWPu - liste_->MaxYW + liste_->Hoehe / 2.0 * f;
+    }
+    ZeichneNeu();
+    if (!InReichweite(punkt->Item->Position(), 0, bild)) return;
+    const Flaechenpunkt m = Aufflaeche(punkt->Item->Position());
+    {
+        const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
+        for (const std::int32_t r : {50, 25})
+            flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
+    }
+    bild_->update();
+    ZeigeStatus(QStringLiteral("Punkt ") + gefunden);
+    if (Knopf("DataButton").isChecked()) ZeigeErgebnis(punkt, nullptr);
+}
+
+void TZrwMainDlg::ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) {
+    if (punkt != nullptr) {
+        ergebnisse_->Zeige(*liste_, *punkt);
+    } else if (kante != nullptr) {
+        ergebnisse_->Zeige(*liste_, *kante);
+    }
+}
+
+// --- Centring ---------------------------------------------------------------------------------------------
+
+/// Not undone by any command, so what came before cannot be undone either.
+void TZrwMainDlg::Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
+    liste_->ZentrierPunkt(exzentrum, zentrum, zeichner_);
+    ungesichert_ = true;
+    aenderungen_.clear();
+    ZeigeTitel();
+    ZeichneNeu();
+}
+
+void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren) {
+    if (liste_ == nullptr) return;
+    const Sanduhr sanduhr;
+    PPunktKnoten ziel = zentrum ? liste_->FindPunkt(AlsNummer(*zentrum)) : nullptr;
+    if (ziel != nullptr && !exzentren.isEmpty()) {
+        for (const QString& nummer : exzentren) {
+            if (PPunktKnoten p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
+                liste_->ZentrierPunkt(*p, *ziel, zeichner_);
+        }
+        ungesichert_ = true;
+        aenderungen_.clear();
+        ZeigeTitel();
+    }
+    ZeichneNeu();
+}
+
+// --- Hiding -----------------------------------------------------------------------------------------------
+
+void TZrwMainDlg::SpeedButton14Click() {
+    if (!Knopf("SpeedButton14").isChecked()) {
+        punkteVerstecken_->hide();
+        return;
+    }
+    punkteVerstecken_->Fuelle(nummern_->stringList());
+    punkteVerstecken_->show();
+}
+
+void TZrwMainDlg::SpeedButton15Click() {
+    versteckte_->show();
+    versteckte_->raise();
+}
+
+void TZrwMainDlg::VerbergePunkt(PunktKnoten& punkt) {
+    const Sanduhr sanduhr;
+    VerbergePunkte({AusNetz(liste_->GetPktText(punkt.PNr))});
+}
+
+void TZrwMainDlg::VerbergePunkte(const QStringList& nummern) {
+    if (liste_ == nullptr) return;
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt verstecken"));
+    for (const QString& nummer : nummern) {
+        if (const PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
+            aenderung->NimmPunkt(*liste_, *p, false);
+    }
+    // The list of hidden points goes with the change, there and back.
+    aenderung->danach = [this, nummern](bool getan) {
+        if (getan) {
+            versteckte_->Nimm(nummern);
+        } else {
+            for (const QString& nummer : nummern)
+                versteckte_->Entferne(nummer);
+        }
+    };
+    if (nummern.isEmpty()) {
+        ZeichneNeu();
+    } else {
+        Tue(std::move(aenderung));
+    }
+}
+
+/// Numbers that this network does not have are passed over: the list of hidden points outlives a network.
+void TZrwMainDlg::ZeigeVerborgene(const QStringList& nummern) {
+    if (liste_ == nullptr) return;
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt anzeigen"));
+    for (const QString& nummer : nummern) {
+        if (const PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
+            aenderung->NimmPunkt(*liste_, *p, true);
+    }
+    if (nummern.isEmpty() || aenderung->Leer()) {
+        ZeichneNeu();
+        return;
+    }
+    aenderung->danach = [this, nummern, erstesMal = true](bool getan) mutable {
+        if (!getan) versteckte_->Nimm(nummern);
+        if (getan && !erstesMal) {
+            for (const QString& nummer : nummern)
+                versteckte_->Entferne(nummer);
+        }
+        erstesMal = false;
+    };
+    Tue(std::move(aenderung));
+}
+
+void TZrwMainDlg::NummernZeigenClick() {
+    if (liste_ == nullptr) return;
+    auto aenderung =
+        std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Versteckte Punktnummern zeigen"));
+    for (PPunktString t = liste_->PktTextKnoten; t != nullptr; t = t->Next) {
+        // The number of a hidden point stays with it.
+        const PunktKnoten* p = liste_->SuchPkt(t->TNr);
+        if (p != nullptr && p->Item->Visible) aenderung->Nimm(t->Item->Visible, true);
+    }
+    if (!aenderung->Leer()) Tue(std::move(aenderung));
+}
+
+// --- Point kinds ------------------------------------------------------------------------------------------
+
+void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
+    gewaehlt_ = &punkt;
+    punktart_->Zeige({AusNetz(liste_->GetPktText(punkt.PNr)),
+                      ArtNachFarbe(punkt.Item->Farbe, programm_.einstellungen), punkt.Item->PktTyp,
+                      AusUtf8(Festkomma(punkt.XWPu, 0, 4)), AusUtf8(Festkomma(punkt.YWPu, 0, 4)), false});
+}
+
+/// "Zeichnen": changes the picked point, or inserts a new one.
+void TZrwMainDlg::ZeichnePunktart() {
+    if (liste_ == nullptr) return;
+    const Punkteingabe e = punktart_->Eingabe();
+    const auto rechts = LiesReal(NachUtf8(e.rechts));
+    const auto hoch = LiesReal(NachUtf8(e.hoch));
+    if (!rechts || !hoch) {
+        programm_.dialoge.Melde(
+            QStringLiteral("Die Koordinaten sind keine Zahlen (Dezimaltrenner ist der Punkt)."));
+        return;
+    }
+    const Welt ort{*rechts, *hoch};
+    if (e.neu) {
+        FuegePunktEin(e, ort);
+        return;
+    }
+    if (gewaehlt_ == nullptr) {
+        programm_.dialoge.Melde(QStringLiteral("Bitte zuerst einen Punkt im Bild anklicken."));
+        return;
+    }
+    // What the dialog shows with four decimals is the place itself unless somebody changed it.
+    const bool hier = e.rechts == AusUtf8(Festkomma(gewaehlt_->XWPu, 0, 4)) &&
+                      e.hoch == AusUtf8(Festkomma(gewaehlt_->YWPu, 0, 4));
+    const PunktGeaendert::Angaben neu{e.art, e.symbol, programm_.einstellungen.*ZurArt(e.art).farbe,
+                                      hier ? Welt{gewaehlt_->XWPu, gewaehlt_->YWPu} : ort};
+    Tue(std::make_unique<PunktGeaendert>(*gewaehlt_, liste_->FindPktText(gewaehlt_->PNr), neu));
+}
+
+void TZrwMainDlg::FuegePunktEin(const Punkteingabe& eingabe, Welt ort) {
+    const std::string nummer(OhneRand(AlsNummer(eingabe.nummer)));
+    const auto lehneAb = [&](const QString& grund) { programm_.dialoge.Melde(grund); };
+    if (nummer.empty()) return lehneAb(QStringLiteral("Der neue Punkt braucht eine Nummer."));
+    if (nummer.size() > PunktNummernTyp::kLaenge)
+        return lehneAb(QStringLiteral("Die Punktnummer ist zu lang (höchstens 14 Zeichen)."));
+    if (liste_->FindPunkt(nummer) != nullptr)
+        return lehneAb(QStringLiteral("Den Punkt %1 gibt es schon.").arg(eingabe.nummer));
+    std::size_t nr = 1;
+    while (nr <= kMaxPunkte && liste_->SuchPkt(static_cast<PunktIndex>(nr)) != nullptr)
+        ++nr;
+    if (nr > kMaxPunkte || liste_->MaxPkte >= static_cast<std::int32_t>(kMaxPunkte))
+        return lehneAb(QStringLiteral("Mehr als 65 535 Punkte fasst ein Netz nicht."));
+    const Farbe farbe = programm_.einstellungen.*ZurArt(eingabe.art).farbe;
+    Punkt punkt = Punkt::Create(eingabe.symbol, farbe, PunktAttr::Fu);
+    punkt.PktArt = eingabe.art;
+    Tue(std::make_unique<PunktEingefuegt>(*liste_, punkt,
+                                          PktText::Create(nummer, farbe, programm_.einstellungen), ort,
+                                          static_cast<PunktIndex>(nr)));
+}
+
+}  // namespace zrw

@@ -1,0 +1,46 @@
+// The group box "Punktzentrierung": many eccentres are chosen from a list and put onto one centre. It knows
+// numbers only; whoever owns it moves the points. Can be dragged about.
+#pragma once
+
+#include <QGroupBox>
+#include <QStringList>
+#include <functional>
+#include <optional>
+
+class QListView;
+class QStringListModel;
+
+namespace zrw {
+
+class Zentrierkasten final : public QGroupBox {
+  public:
+    explicit Zentrierkasten(QWidget* eltern);
+
+    /// The points of a new network; the list of centres is empty until the box is shown.
+    void Fuelle(const QStringList& nummern);
+    /// Points that are no longer in the network, or new in it.
+    void Entferne(const QString& nummer);
+    /// Every eccentre may be a centre.
+    void Zeige();
+
+    /// "Zentrieren" with a centre and the selected eccentres, which leave both lists afterwards. Without a
+    /// centre the first argument is empty.
+    std::function<void(const std::optional<QString>& zentrum, const QStringList& exzentren)> zentriere;
+    std::function<void(const QString& nummer)> zentrumGewaehlt;
+    std::function<void()> beendet;
+
+  protected:
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
+
+  private:
+    void Zentriere();
+
+    QListView* ExzListBox_;
+    QListView* PZListBox_;
+    QStringListModel* exzentren_;
+    QStringListModel* zentren_;
+    QPoint griff_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,119 @@
+#include "ui/werkzeuge/BeobachtungBearbeiten.h"
+
+#include "ui/aenderungen/Aenderungen.h"
+#include "ui/dialoge/TFormBeobTyp.h"
+#include "ui/werkzeuge/Markierung.h"
+
+namespace zrw {
+
+QString BeobachtungBearbeiten::Anleitung() const {
+    if (erster_ != nullptr) return QStringLiteral("Beobachtung einfügen P1 gesetzt P2 anklicken");
+    if (umgebung_.Beobachtungsdialog().NeueBeobachtung())
+        return QStringLiteral("Beobachtung einfügen: P1 anklicken, dann P2.");
+    return QStringLiteral("Beobachtung ändern: Linie anklicken, dann im Fenster „Beobachtungstyp“ ändern.");
+}
+
+void BeobachtungBearbeiten::Beginne() {
+    TFormBeobTyp& dialog = umgebung_.Beobachtungsdialog();
+    dialog.geaendert = [this] { TypGewaehlt(); };
+    dialog.neuUmgeschaltet = [this] {
+        Abbrechen();
+        umgebung_.ZeigeStatus(Anleitung());
+    };
+    if (umgebung_.AktuelleListe() != nullptr) dialog.show();
+}
+
+void BeobachtungBearbeiten::Beende() {
+    Abbrechen();
+    TFormBeobTyp& dialog = umgebung_.Beobachtungsdialog();
+    dialog.geaendert = {};
+    dialog.neuUmgeschaltet = {};
+    dialog.hide();
+}
+
+void BeobachtungBearbeiten::Druecken(Bildpunkt ort) {
+    Liste* netz = umgebung_.AktuelleListe();
+    if (netz == nullptr) return;
+    if (!umgebung_.Beobachtungsdialog().NeueBeobachtung()) {
+        Waehle(netz->PickGezeigte(ort));
+        return;
+    }
+    PPunktKnoten punkt = netz->ClickGezeigten(ort);
+    if (punkt == nullptr) return;
+    if (erster_ != nullptr) {
+        Verbinde(*netz, *punkt);
+    } else {
+        erster_ = punkt;
+        umgebung_.ZeigeStatus(Anleitung());
+        ZeigeGewaehltes({});
+    }
+}
+
+void BeobachtungBearbeiten::Waehle(PunktKante* kante) {
+    kante_ = kante;
+    if (kante != nullptr)
+        umgebung_.Beobachtungsdialog().Zeige(AlsWahl({kante->Item->LAttr, kante->Item->KAttr}));
+    ZeigeGewaehltes({});
+}
+
+/// The dialog has another type: the picked line takes it at once.
+void BeobachtungBearbeiten::TypGewaehlt() {
+    if (kante_ == nullptr) return;
+    Kante& kante = *kante_->Item;
+    const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(), kante.KAttr);
+    if (typ == Beobachtungstyp{kante.LAttr, kante.KAttr}) return;
+    umgebung_.Tue(std::make_unique<KanteGeaendert>(kante, typ.richtung, typ.weitere));
+}
+
+void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
+    PunktKnoten& erster = *erster_;
+    Abbrechen();
+    umgebung_.ZeigeStatus(Anleitung());
+    if (&erster == &zweiter || erster.PNr == zweiter.PNr) return;
+    PunktKante* vorhanden = netz.FindKante(erster.PNr, zweiter.PNr);
+    const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(),
+                                       vorhanden != nullptr ? vorhanden->Item->KAttr : KanteAttr());
+    if (vorhanden != nullptr) {
+        umgebung_.Tue(std::make_unique<KanteGeaendert>(*vorhanden->Item, typ.richtung, typ.weitere));
+        return;
+    }
+    const Kante neu = Kante::Create(umgebung_.Anzeige().GPSCol, typ.weitere, typ.richtung);
+    umgebung_.Tue(std::make_unique<KanteEingefuegt>(netz, neu, erster.PNr, zweiter.PNr));
+}
+
+void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {
+    Liste* netz = umgebung_.AktuelleListe();
+    if (netz == nullptr) return;
+    const bool neu = umgebung_.Beobachtungsdialog().NeueBeobachtung();
+    ZeigeGewaehltes(neu ? MarkiereTreffer(netz->ClickGezeigten(ort))
+                        : MarkiereTreffer(netz->PickGezeigte(ort)));
+    if (erster_ != nullptr) umgebung_.ZeigeStatus(Anleitung());
+}
+
+void BeobachtungBearbeiten::ZeigeGewaehltes(Vorschau dazu) {
+    const Vorschau gewaehlt = erster_ != nullptr ? MarkiereTreffer(erster_) : MarkiereTreffer(kante_);
+    umgebung_.ZeigeVorschau([=](Zeichner& z, Zeichenflaeche& f) {
+        if (gewaehlt) gewaehlt(z, f);
+        if (dazu) dazu(z, f);
+    });
+}
+
+void BeobachtungBearbeiten::Abbrechen() {
+    kante_ = nullptr;
+    erster_ = nullptr;
+    umgebung_.ZeigeVorschau({});
+}
+
+void BeobachtungBearbeiten::NetzGeaendert() {
+    Liste& netz = *umgebung_.AktuelleListe();
+    if (kante_ != nullptr && !netz.Enthaelt(*kante_)) kante_ = nullptr;
+    if (erster_ != nullptr && !netz.Enthaelt(*erster_)) erster_ = nullptr;
+    // Undone or done again: the dialog shows what the line has now.
+    if (kante_ != nullptr) {
+        Waehle(kante_);
+    } else {
+        ZeigeGewaehltes({});
+    }
+}
+
+}  // namespace zrw

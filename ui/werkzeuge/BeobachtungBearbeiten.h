@@ -1,0 +1,35 @@
+// Editing observations with their dialog: a click picks a line, whose type the dialog then shows and changes;
+// with "Neue Beobachtung" two clicks insert a line of the dialog's type.
+#pragma once
+
+#include "ui/werkzeuge/Werkzeug.h"
+
+namespace zrw {
+
+class BeobachtungBearbeiten final : public Werkzeug {
+  public:
+    explicit BeobachtungBearbeiten(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
+
+    void Beginne() override;
+    void Beende() override;
+    void Druecken(Bildpunkt ort) override;
+    void Ziehen(Bildpunkt /*ort*/) override {}
+    void Loslassen(Bildpunkt /*ort*/) override {}
+    void Schweben(Bildpunkt ort) override;
+    void Abbrechen() override;
+    void NetzGeaendert() override;
+    [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::PointingHandCursor; }
+    [[nodiscard]] QString Anleitung() const override;
+
+  private:
+    void Waehle(PunktKante* kante);
+    void TypGewaehlt();
+    void Verbinde(Liste& netz, PunktKnoten& zweiter);
+    void ZeigeGewaehltes(Vorschau dazu);
+
+    Werkzeugumgebung& umgebung_;
+    PunktKante* kante_ = nullptr;    ///< picked, the dialog changes it
+    PunktKnoten* erster_ = nullptr;  ///< first point of a new line
+};
+
+}  // namespace zrw

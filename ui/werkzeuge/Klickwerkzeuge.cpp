@@ -1,0 +1,127 @@
+#include "ui/werkzeuge/Klickwerkzeuge.h"
+
+#include "ui/aenderungen/Aenderungen.h"
+#include "ui/werkzeuge/Markierung.h"
+
+namespace zrw {
+
+void Klickwerkzeug::Druecken(Bildpunkt ort) {
+    Liste* netz = umgebung_.AktuelleListe();
+    if (netz == nullptr) return;
+    umgebung_.ZeigeVorschau({});
+    Klick(*netz, ort);
+}
+
+void Klickwerkzeug::Schweben(Bildpunkt ort) {
+    Liste* netz = umgebung_.AktuelleListe();
+    umgebung_.ZeigeVorschau(netz != nullptr ? Treffer(*netz, ort) : Vorschau());
+}
+
+Vorschau Punktwerkzeug::Treffer(Liste& netz, Bildpunkt ort) const {
+    return MarkiereTreffer(netz.ClickGezeigten(ort));
+}
+
+void Punktwerkzeug::Klick(Liste& netz, Bildpunkt ort) {
+    if (PPunktKnoten p = netz.ClickGezeigten(ort); p != nullptr) Nimm(netz, *p);
+}
+
+QString PunktLoeschen::Anleitung() const {
+    return QStringLiteral("Punkt löschen: Punkt anklicken; seine Linien gehen mit.");
+}
+
+void PunktLoeschen::Nimm(Liste& netz, PunktKnoten& punkt) {
+    Umgebung().Tue(std::make_unique<PunktGeloescht>(netz, punkt));
+}
+
+QString PunktVerstecken::Anleitung() const {
+    return QStringLiteral("Punkt verstecken: Punkt anklicken.");
+}
+
+void PunktVerstecken::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
+    Umgebung().VerbergePunkt(punkt);
+}
+
+void PunktartWaehlen::Beende() {
+    Abbrechen();
+    Umgebung().ZeigeNebenfenster(Nebenfenster::Punktart, false);
+}
+
+QString PunktartWaehlen::Anleitung() const {
+    return QStringLiteral("Punktart ändern: Punkt anklicken, Angaben wählen, „Zeichnen“.");
+}
+
+void PunktartWaehlen::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
+    Umgebung().WaehlePunkt(punkt);
+}
+
+namespace {
+
+PktText* Nummer(Liste& netz, Bildpunkt ort) {
+    if (const PunktString* t = netz.ClickGezeigtenText(ort); t != nullptr) return t->Item;
+    const PunktKnoten* p = netz.ClickGezeigten(ort);
+    PktText* text = p != nullptr ? netz.FindPktText(p->PNr) : nullptr;
+    return text != nullptr && text->Visible ? text : nullptr;
+}
+
+}  // namespace
+
+QString NummerVerstecken::Anleitung() const {
+    return QStringLiteral("Punktnummer verstecken: Nummer oder Punkt anklicken.");
+}
+
+Vorschau NummerVerstecken::Treffer(Liste& netz, Bildpunkt ort) const {
+    const PktText* text = Nummer(netz, ort);
+    return text != nullptr ? MarkiereText(*text) : Vorschau();
+}
+
+void NummerVerstecken::Klick(Liste& netz, Bildpunkt ort) {
+    PktText* text = Nummer(netz, ort);
+    if (text == nullptr) return;
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punktnummer verstecken"));
+    aenderung->Nimm(text->Visible, false);
+    Umgebung().Tue(std::move(aenderung));
+}
+
+QString BeobachtungLoeschen::Anleitung() const {
+    return QStringLiteral("Beobachtung löschen: Linie anklicken.");
+}
+
+Vorschau BeobachtungLoeschen::Treffer(Liste& netz, Bildpunkt ort) const {
+    return MarkiereTreffer(netz.PickGezeigte(ort));
+}
+
+void BeobachtungLoeschen::Klick(Liste& netz, Bildpunkt ort) {
+    if (PPunktKante k = netz.PickGezeigte(ort); k != nullptr)
+        Umgebung().Tue(std::make_unique<KanteGeloescht>(netz, *k));
+}
+
+void ErgebnisZeigen::Beende() {
+    Abbrechen();
+    Umgebung().ZeigeNebenfenster(Nebenfenster::Ergebnisse, false);
+}
+
+QString ErgebnisZeigen::Anleitung() const {
+    return QStringLiteral("Ausgleichungsergebnisse zeigen: Punkt oder Linie anklicken.");
+}
+
+Vorschau ErgebnisZeigen::Treffer(Liste& netz, Bildpunkt ort) const {
+    const PunktKnoten* p = netz.ClickGezeigten(ort);
+    return p != nullptr ? MarkiereTreffer(p) : MarkiereTreffer(netz.PickGezeigte(ort));
+}
+
+void ErgebnisZeigen::Klick(Liste& netz, Bildpunkt ort) {
+    const PunktKnoten* p = netz.ClickGezeigten(ort);
+    const PunktKante* k = p == nullptr ? netz.PickGezeigte(ort) : nullptr;
+    if (p != nullptr || k != nullptr) Umgebung().ZeigeErgebnis(p, k);
+}
+
+void Punktzentrierung::Beende() {
+    Abbrechen();
+    Umgebung().ZeigeNebenfenster(Nebenfenster::Zentrierung, false);
+}
+
+QString Punktzentrierung::Anleitung() const {
+    return QStringLiteral("Punktzentrierung: Exzentren und Zentrum in den Listen wählen, „Zentrieren“.");
+}
+
+}  // namespace zrw

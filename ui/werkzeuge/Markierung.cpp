@@ -1,0 +1,75 @@
+#include "ui/werkzeuge/Markierung.h"
+
+#include <algorithm>
+
+#include "output/Abschneiden.h"
+
+namespace zrw {
+namespace {
+
+/// Stands out from every colour that figures have by default.
+constexpr Farbe kMarkierung{0x00A5FF};
+constexpr std::int32_t kBreite = 3;
+constexpr std::int32_t kRadius = 9;
+constexpr std::int32_t kRand = 2;
+
+Stiftwechsel Markierstift(Zeichenflaeche& f, std::int32_t breite) {
+    return {f, {kMarkierung, breite, Strichart::Voll}, {kWeiss, true}};
+}
+
+}  // namespace
+
+Vorschau MarkierePunkt(Bildpunkt ort) {
+    return [ort](Zeichner& /*z*/, Zeichenflaeche& f) {
+        if (!InReichweite(ort, kRadius, f.Sichtbar())) return;
+        const auto m = Aufflaeche(ort);
+        const auto stift = Markierstift(f, kBreite);
+        f.Ellipse({m.x - kRadius, m.y - kRadius, m.x + kRadius, m.y + kRadius});
+    };
+}
+
+Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende) {
+    return [=](Zeichner& /*z*/, Zeichenflaeche& f) {
+        const auto stift = Markierstift(f, kBreite);
+        if (const auto teil = Abschneiden(anfang, ende, f.Sichtbar())) f.Linie(teil->first, teil->second);
+    };
+}
+
+Vorschau MarkiereText(const PktText& text) {
+    return [text](Zeichner& /*z*/, Zeichenflaeche& f) {
+        const std::int32_t breite = f.Textbreite(text.Aus.Text());
+        if (!InReichweite(text.Textort(), breite + kRand, f.Sichtbar())) return;
+        const auto o = Aufflaeche(text.Textort());
+        const auto stift = Markierstift(f, 1);
+        f.ZeichneRechteck({o.x - kRand, o.y - kRand, o.x + breite + kRand, o.y + f.Texthoehe() + kRand});
+    };
+}
+
+Vorschau MarkiereRechteck(Bildpunkt a, Bildpunkt b) {
+    return [=](Zeichner& /*z*/, Zeichenflaeche& f) {
+        const auto stift = Markierstift(f, 1);
+        const Rechteck s = f.Sichtbar();
+        const auto x = [&](std::int64_t v) {
+            return static_cast<std::int32_t>(std::clamp<std::int64_t>(v, s.links - 1, s.rechts + 1));
+        };
+        const auto y = [&](std::int64_t v) {
+            return static_cast<std::int32_t>(std::clamp<std::int64_t>(v, s.oben - 1, s.unten + 1));
+        };
+        f.ZeichneRechteck(
+            {x(std::min(a.x, b.x)), y(std::min(a.y, b.y)), x(std::max(a.x, b.x)), y(std::max(a.y, b.y))});
+    };
+}
+
+Vorschau MarkiereTreffer(const PunktKnoten* punkt) {
+    return punkt != nullptr ? MarkierePunkt(punkt->Item->Position()) : Vorschau();
+}
+
+Vorschau MarkiereTreffer(const PunktKante* kante) {
+    return kante != nullptr ? MarkiereKante(kante->Item->Position(), kante->Item->Ende()) : Vorschau();
+}
+
+Vorschau MarkiereTreffer(const PunktString* text) {
+    return text != nullptr ? MarkiereText(*text->Item) : Vorschau();
+}
+
+}  // namespace zrw

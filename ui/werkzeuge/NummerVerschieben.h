@@ -1,0 +1,26 @@
+// Moving a point number: the label follows the mouse, the release keeps its offset. The point stays.
+#pragma once
+
+#include "ui/werkzeuge/Werkzeug.h"
+
+namespace zrw {
+
+class NummerVerschieben final : public Werkzeug {
+  public:
+    explicit NummerVerschieben(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
+
+    void Druecken(Bildpunkt ort) override;
+    void Ziehen(Bildpunkt ort) override;
+    void Loslassen(Bildpunkt ort) override;
+    void Schweben(Bildpunkt ort) override;
+    void Abbrechen() override;
+    [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::CrossCursor; }
+    [[nodiscard]] QString Anleitung() const override;
+
+  private:
+    Werkzeugumgebung& umgebung_;
+    PktText* text_ = nullptr;  ///< under the mouse while it is dragged
+    Bildpunkt anfang_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,44 @@
+// Moving a point: its symbol, its lines and its label follow the mouse, the release moves it.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "ui/werkzeuge/Werkzeug.h"
+
+namespace zrw {
+
+class PunktVerschieben final : public Werkzeug {
+  public:
+    explicit PunktVerschieben(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
+
+    void Druecken(Bildpunkt ort) override;
+    void Ziehen(Bildpunkt ort) override;
+    void Loslassen(Bildpunkt ort) override;
+    void Schweben(Bildpunkt ort) override;
+    void Abbrechen() override;
+    [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::CrossCursor; }
+    [[nodiscard]] QString Anleitung() const override;
+
+  private:
+    void Loese(Liste& netz);
+    void StelleHer();
+    void ZeigeVerschoben(Zeichner& z, Bildpunkt versatz) const;
+
+    Werkzeugumgebung& umgebung_;
+    PunktKnoten* punkt_ = nullptr;  ///< under the mouse while it is dragged
+    Bildpunkt anfang_;
+    /// A line at the place of the point; its ends that belong to the point follow.
+    struct Folger {
+        Kante* kante;
+        bool mitAnfang;
+        bool mitEnde;
+        bool gezeigt;  ///< by the switches of the network
+    };
+    // What was visible at the place of the point.
+    std::vector<Folger> kanten_;
+    std::vector<PktText*> texte_;
+    bool sichtbar_ = false;
+};
+
+}  // namespace zrw
