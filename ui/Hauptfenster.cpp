@@ -48,7 +48,7 @@ constexpr std::array<Befehl, 21> kBefehle{{
     {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
-    {"LetzteDateienButton", "Letzte Dateien", "letzte", "", &TZrwMainDlg::LetzteDateienClick},
+    {"LetzteDateienButton", "Letzte Dateien", "letzte_dateien", "", &TZrwMainDlg::LetzteDateienClick},
     {"SpeedButton9", "Zarwik speichern", "speichern", "Ctrl+S", &TZrwMainDlg::SpeedButton9Click},
     {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click, true},
     {"RueckgaengigButton", "Rückgängig", "rueckgaengig", "Ctrl+Z", &TZrwMainDlg::Rueckgaengig},
