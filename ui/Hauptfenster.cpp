@@ -1,5 +1,6 @@
 #include "ui/Hauptfenster.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
@@ -15,6 +16,7 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "ui/Hilfefenster.h"
 #include "ui/Umbruchleiste.h"
 #include "ui/Umwandlung.h"
 #include "ui/Zentrierkasten.h"
@@ -116,6 +118,7 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     programm_.zustand.flaeche = &flaeche_;
     BaueFenster();
     BaueDialoge();
+    qApp->installEventFilter(this);
     connect(&aenderungen_, &QUndoStack::indexChanged, this, [this] { NetzGeaendert(); });
     connect(&aenderungen_, &QUndoStack::cleanChanged, this, [this] { ZeigeTitel(); });
 }

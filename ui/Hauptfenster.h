@@ -96,6 +96,9 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void Rueckgaengig() { aenderungen_.undo(); }
     void Wiederhole() { aenderungen_.redo(); }
 
+    /// Help keys work in every window of the program.
+    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+
   protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
@@ -197,7 +200,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     TFormHidePunkte* punkteVerstecken_ = nullptr;
     TFormHiddenPkt* versteckte_ = nullptr;
     TFormData* ergebnisse_ = nullptr;
-    Hilfefenster* hilfe_ = nullptr;    ///< made when it is first needed
+    std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QStringList zuZeigen_;             ///< hidden points that are being shown again
     PunktKnoten* gewaehlt_ = nullptr;  ///< the point in the dialog of point kinds
     /// Views before zooming: scale and world position of the top-left corner.

@@ -1,5 +1,4 @@
 // Main window: view, mouse and status line.
-#include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
 #include <cstdlib>
@@ -8,7 +7,6 @@
 
 #include "model/Zahlentext.h"
 #include "ui/Hauptfenster.h"
-#include "ui/Hilfethemen.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/TFormData.h"
 
@@ -231,10 +229,6 @@ void TZrwMainDlg::ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) {
 
 void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
     const bool nurTaste = (ereignis->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (ereignis->modifiers() == Qt::ControlModifier && ereignis->key() == Qt::Key_F1) {
-        ZeigeHilfe(ThemaZu(QApplication::focusWidget()));
-        return;
-    }
     if (ereignis->key() == Qt::Key_Escape) {
         if (gedrueckt_ != nullptr) {
             BrichAb();

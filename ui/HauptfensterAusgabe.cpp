@@ -1,6 +1,8 @@
 // Main window: legend, export, dialogs and help.
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 
 #include "model/Fehler.h"
 #include "output/Export.h"
@@ -85,8 +87,19 @@ void TZrwMainDlg::SpeedButton6Click() {
 }
 
 void TZrwMainDlg::ZeigeHilfe(int kontext) {
-    if (hilfe_ == nullptr) hilfe_ = new Hilfefenster(this);
+    if (hilfe_ == nullptr) hilfe_ = std::make_unique<Hilfefenster>();
     hilfe_->Zeige(kontext);
+}
+
+bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::KeyPress && empfaenger->isWidgetType()) {
+        const auto* taste = static_cast<QKeyEvent*>(ereignis);
+        if (taste->key() == Qt::Key_F1 && taste->modifiers() == Qt::ControlModifier) {
+            ZeigeHilfe(ThemaZu(QApplication::focusWidget()));
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(empfaenger, ereignis);
 }
 
 void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {

@@ -1,6 +1,7 @@
 // Main window: opening, saving, ending.
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -10,6 +11,7 @@
 #include "model/Bilddatei.h"
 #include "model/Fehler.h"
 #include "ui/Hauptfenster.h"
+#include "ui/Hilfefenster.h"
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/TFormData.h"
@@ -100,6 +102,10 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         return;
     }
     LoeseWerkzeuge();
+    // An open settings window keeps what was chosen in it; the help would keep the program running.
+    for (QDialog* dialog : findChildren<QDialog*>())
+        dialog->close();
+    if (hilfe_ != nullptr) hilfe_->close();
     programm_.sitzung.MerkeFensterlage(saveGeometry());
     ereignis->accept();
 }
