@@ -41,9 +41,9 @@ bool IstBilddatei(const std::filesystem::path& datei) {
 
 Lesung OeffneNetz(const std::filesystem::path& datei, const Dateien& dateien,
                   const Einstellungen& einstellungen, const Netzangaben& bisher, Bildgroesse bild,
-                  const Meldungsempfaenger& meldung) {
+                  const Meldungsempfaenger& meldung, const Lesefortschritt& fortschritt) {
     if (IstBilddatei(datei)) return OeffneBilddatei(datei, dateien, einstellungen, bisher, bild, meldung);
-    Lesung lesung = LeseSteuerdatei(datei, dateien, einstellungen, meldung);
+    Lesung lesung = LeseSteuerdatei(datei, dateien, einstellungen, meldung, fortschritt);
     Liste& liste = *lesung.liste;
     liste.Weite = bild.weite;
     liste.Hoehe = bild.hoehe;

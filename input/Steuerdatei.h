@@ -9,6 +9,7 @@
 #include <string>
 
 #include "model/Dateien.h"
+#include "model/Fehler.h"
 #include "model/FigListe.h"
 #include "model/Netzangaben.h"
 
@@ -22,6 +23,15 @@ struct Meldung {
 };
 /// Takes the messages of one reading as they come; there may be very many.
 using Meldungsempfaenger = std::function<void(const Meldung&)>;
+
+/// Told now and then which part of the control file is read [0 to 1]; answers whether to go on.
+using Lesefortschritt = std::function<bool(double anteil)>;
+
+/// The reading was given up by `Lesefortschritt`.
+class Leseabbruch : public Fehler {
+  public:
+    using Fehler::Fehler;
+};
 
 /// How a reading ended that did not fail altogether.
 enum class Leseende : std::uint8_t {
@@ -39,8 +49,10 @@ struct Lesung {
 
 /// @param einstellungen colours and label offsets; must outlive the network
 /// @throws Fehler where the file cannot be opened or a number outside the point lines is malformed
+/// @throws Leseabbruch
 [[nodiscard]] Lesung LeseSteuerdatei(const std::filesystem::path& datei, const Dateien& dateien,
-                                     const Einstellungen& einstellungen, const Meldungsempfaenger& meldung);
+                                     const Einstellungen& einstellungen, const Meldungsempfaenger& meldung,
+                                     const Lesefortschritt& fortschritt = {});
 
 /// Sexagesimal degrees.minutesseconds [-] to decimal degrees [deg].
 [[nodiscard]] double GradDezimal(double wert);

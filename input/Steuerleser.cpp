@@ -101,16 +101,19 @@ double GradDezimal(double wert) {
 }
 
 Lesung LeseSteuerdatei(const std::filesystem::path& datei, const Dateien& dateien,
-                       const Einstellungen& einstellungen, const Meldungsempfaenger& meldung) {
-    return Steuerleser(datei, dateien, einstellungen, meldung).Lies();
+                       const Einstellungen& einstellungen, const Meldungsempfaenger& meldung,
+                       const Lesefortschritt& fortschritt) {
+    return Steuerleser(datei, dateien, einstellungen, meldung, fortschritt).Lies();
 }
 
 // --- Record loop ------------------------------------------------------------------------------------------
 
 Steuerleser::Steuerleser(const std::filesystem::path& datei, const Dateien& dateien,
-                         const Einstellungen& einstellungen, const Meldungsempfaenger& meldung)
+                         const Einstellungen& einstellungen, const Meldungsempfaenger& meldung,
+                         const Lesefortschritt& fortschritt)
     : einstellungen_(einstellungen),
       meldung_(meldung),
+      fortschritt_(fortschritt),
       quelle_(datei, dateien),
       lesung_{std::make_unique<Liste>(einstellungen), {}, Leseende::Vollstaendig, {}},
       bauer_(*lesung_.liste, einstellungen),
@@ -121,7 +124,9 @@ Lesung Steuerleser::Lies() {
     lesung_.liste->Erwarte(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
                            std::min<std::size_t>(quelle_.Groesse() / 80, 200'000));
     try {
-        while (!fertig_ && quelle_.Naechste(zeile_)) {
+        constexpr unsigned kTakt = 8192;  // lines between two reports
+        for (unsigned zeilen = 1; !fertig_ && quelle_.Naechste(zeile_); ++zeilen) {
+            if (zeilen % kTakt == 0) Berichte();
             const Satz* satz = LeseSchluessel(zeile_);
             const std::string_view rest = zeile_.substr(std::min<std::size_t>(3, zeile_.size()));
             if (vektorenOffen_ > 0) {
@@ -137,6 +142,8 @@ Lesung Steuerleser::Lies() {
             (this->*satz->lesen)(rest);
         }
         bauer_.Trage();
+    } catch (const Leseabbruch&) {
+        throw;
     } catch (const Fehler& f) {
         if (f.Zeile() > 0) throw;
         throw Fehler(f.Text(), quelle_.Datei(), quelle_.Zeile());
@@ -373,6 +380,11 @@ void Steuerleser::LiesVektor(std::string_view rest) {
 }
 
 // --- Messages ---------------------------------------------------------------------------------------------
+
+void Steuerleser::Berichte() const {
+    if (fortschritt_ && !fortschritt_(quelle_.Anteil()))
+        throw Leseabbruch("Das Lesen wurde abgebrochen.", quelle_.Datei());
+}
 
 void Steuerleser::Melde(std::string text) const {
     if (meldung_) meldung_({std::move(text), quelle_.Datei(), quelle_.Zeile()});

@@ -23,7 +23,8 @@ enum class Koordinaten : std::uint8_t { Keine, Gitter, Winkel, Kartesisch };
 class Steuerleser {
   public:
     Steuerleser(const std::filesystem::path& datei, const Dateien& dateien,
-                const Einstellungen& einstellungen, const Meldungsempfaenger& meldung);
+                const Einstellungen& einstellungen, const Meldungsempfaenger& meldung,
+                const Lesefortschritt& fortschritt);
 
     /// Reads until "$$$" or the end of the file. @throws Fehler with file and line
     [[nodiscard]] Lesung Lies();
@@ -63,10 +64,12 @@ class Steuerleser {
     [[nodiscard]] std::int32_t Ganzzahl(Feldleser& felder) const;
     [[nodiscard]] double Realzahl(Feldleser& felder) const;
     void Melde(std::string text) const;
+    void Berichte() const;
     [[noreturn]] void FalscheZahl() const;
 
     const Einstellungen& einstellungen_;
     const Meldungsempfaenger& meldung_;
+    const Lesefortschritt& fortschritt_;
     Zeilenquelle quelle_;
     Lesung lesung_;
     Netzbauer bauer_;

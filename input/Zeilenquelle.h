@@ -27,6 +27,10 @@ class Zeilenquelle {
 
     /// Size of the control file [bytes].
     [[nodiscard]] std::size_t Groesse() const { return haupt_.inhalt.size(); }
+    /// Part of it that has been read [0 to 1].
+    [[nodiscard]] double Anteil() const {
+        return static_cast<double>(haupt_.stelle) / static_cast<double>(haupt_.inhalt.size() + 1);
+    }
     /// File name and line of the last line read, for messages.
     [[nodiscard]] std::string Datei() const { return PfadText(Aktuell().pfad.filename()); }
     [[nodiscard]] long Zeile() const { return Aktuell().nummer; }

@@ -1,11 +1,15 @@
 // Main window: opening, saving, ending.
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
 #include <QDropEvent>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QUrl>
 
 #include "model/Bilddatei.h"
@@ -54,6 +58,59 @@ class Sammler {
     QString text_;
     QString schluss_;
     qint64 anzahl_ = 0;
+};
+
+/// Shows the progress of a longer reading in the status line; Escape ends it. All other input waits: a second
+/// file must not be opened inside the first.
+class Lesebalken {
+  public:
+    explicit Lesebalken(QStatusBar& zeile) : zustand_(std::make_shared<Zustand>(zeile)) {}
+    bool operator()(double anteil) const { return zustand_->Zeige(anteil); }
+
+  private:
+    class Zustand final : public QObject {
+      public:
+        explicit Zustand(QStatusBar& zeile) : zeile_(zeile) {
+            uhr_.start();
+            qApp->installEventFilter(this);
+        }
+        ~Zustand() override {
+            if (balken_ != nullptr) zeile_.removeWidget(balken_.get());
+        }
+        bool Zeige(double anteil) {
+            constexpr int kTausendstel = 1000;
+            constexpr qint64 kOhneBalken = 150;  // [ms] shorter readings only flicker
+            if (uhr_.elapsed() < kOhneBalken) return true;
+            if (balken_ == nullptr) {
+                balken_ = std::make_unique<QProgressBar>();
+                balken_->setRange(0, kTausendstel);
+                balken_->setFormat(QStringLiteral("Lesen: %p % – Esc bricht ab"));
+                zeile_.addWidget(balken_.get(), 1);
+                balken_->show();
+            }
+            balken_->setValue(static_cast<int>(anteil * kTausendstel));
+            QCoreApplication::processEvents();
+            return !abgebrochen_;
+        }
+
+      protected:
+        bool eventFilter(QObject* /*empfaenger*/, QEvent* ereignis) override {
+            if (ereignis->type() == QEvent::KeyPress || ereignis->type() == QEvent::ShortcutOverride) {
+                abgebrochen_ = abgebrochen_ || static_cast<QKeyEvent*>(ereignis)->key() == Qt::Key_Escape;
+                return true;
+            }
+            // QInputEvent::isInputEvent does not count closing and dropping.
+            return ereignis->isInputEvent() || ereignis->type() == QEvent::Close ||
+                   ereignis->type() == QEvent::Drop;
+        }
+
+      private:
+        QStatusBar& zeile_;
+        QElapsedTimer uhr_;
+        std::unique_ptr<QProgressBar> balken_;
+        bool abgebrochen_ = false;
+    };
+    std::shared_ptr<Zustand> zustand_;  // a callback is copied
 };
 
 }  // namespace
@@ -138,8 +195,13 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     try {
         const Sanduhr sanduhr;
         if (!IstBilddatei(datei)) BereiteLesenVor();
-        lesung = OeffneNetz(datei, programm_.dateien, programm_.einstellungen, programm_.netz,
-                            {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); });
+        lesung = OeffneNetz(
+            datei, programm_.dateien, programm_.einstellungen, programm_.netz,
+            {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); },
+            Lesebalken(*statusBar()));
+    } catch (const Leseabbruch& f) {
+        ZeigeStatus(AusUtf8(f.what()));
+        return;
     } catch (const Oeffnungsfehler& f) {
         fehler = AusUtf8(f.what());
         // A control file that cannot be opened brings no box up; the status line names it.

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <chrono>
 
 #include "input/Oeffnen.h"
@@ -158,6 +160,23 @@ TEST(GradDezimalTest, WandeltGradMinutenSekunden) {
     EXPECT_DOUBLE_EQ(GradDezimal(-9.5), -(9 + 50.0 / 60));
     EXPECT_NEAR(GradDezimal(51.123456), 51 + 12.0 / 60 + 34.56 / 3600, 1e-9);
     EXPECT_EQ(GradDezimal(0.0), 0.0);
+}
+
+TEST(Lesefortschritt, SteigtUndBrichtAb) {
+    const Einstellungen e;
+    Speicherdateien d;
+    d.dateien["N.EIN"] = "$NT 3\n$FP A              1 1 1\n";
+    for (int i = 0; i < 40000; ++i)
+        d.dateien["N.EIN"] += "$ST A B\n";
+    std::vector<double> anteile;
+    const Lesung ganz = LeseSteuerdatei("N.EIN", d, e, {}, [&](double anteil) {
+        anteile.push_back(anteil);
+        return true;
+    });
+    EXPECT_EQ(ganz.liste->MaxPkte, 1);
+    ASSERT_GE(anteile.size(), 3U);
+    EXPECT_TRUE(std::is_sorted(anteile.begin(), anteile.end()) && anteile.front() > 0 && anteile.back() <= 1);
+    EXPECT_THROW((void)LeseSteuerdatei("N.EIN", d, e, {}, [](double) { return false; }), Leseabbruch);
 }
 
 }  // namespace
