@@ -1,5 +1,6 @@
 // Main window: legend, export, dialogs and help.
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -61,6 +62,9 @@ void TZrwMainDlg::SpeedButton16Click() {
 // --- Dialogs and help -------------------------------------------------------------------------------------
 
 void TZrwMainDlg::ColorButtonClick() {
+    // One at a time: two would not show each other's changes. Closing saves.
+    for (auto* offen : findChildren<QDialog*>(QStringLiteral("TZRWParameter")))
+        offen->close();
     auto* dialog = new TZRWParameter(programm_.einstellungen, programm_.ablage, programm_.dialoge, this);
     dialog->geschlossen = [this] { ZeichneNeu(); };
     dialog->show();
@@ -77,8 +81,8 @@ void TZrwMainDlg::SpeedButton8Click() {
 }
 
 void TZrwMainDlg::SpeedButton4Click() {
-    auto* info = new TAboutBox(programm_.version, this);
-    info->setAttribute(Qt::WA_DeleteOnClose);
+    auto* info = findChild<QDialog*>(QStringLiteral("TAboutBox"));
+    if (info == nullptr) info = new TAboutBox(programm_.version, this);
     info->open();
 }
 

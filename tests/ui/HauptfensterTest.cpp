@@ -1,75 +1,23 @@
 // The main window, driven by its buttons, the mouse and the keyboard.
-#include "ui/Hauptfenster.h"
-
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
 #include <QDialog>
 #include <QDir>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
-#include <QWheelEvent>
-#include <fstream>
 
-#include "input/Systemdateien.h"
-#include "model/Bytes.h"
-#include "tests/hilfe/Antwortdienst.h"
-#include "tests/hilfe/Festuhr.h"
-#include "tests/hilfe/Speicherdateien.h"
+#include "tests/ui/Fenster.h"
 
 namespace zrw {
 namespace {
 
-constexpr const char* kBeispiel = ZRW_QUELLE "/beispiele/NETZ.EIN";
-
-class Festdrucker final : public Druckauskunft {
-  public:
-    [[nodiscard]] int Aufloesung() const override { return 600; }
-};
-
-class Hauptfenster : public testing::Test {
+class Hauptfenster : public Fensterprobe {
   protected:
-    Hauptfenster() {
-        fenster.resize(1000, 700);
-        fenster.show();
-        bild = fenster.findChild<QWidget*>("ImageZarwik");
-    }
-
-    void Lege(const QString& name, const std::string& inhalt) const {
-        std::ofstream(ordner.filePath(name).toStdString(), std::ios::binary) << inhalt;
-    }
-    void Oeffne(const QString& name) { fenster.Oeffne(ordner.filePath(name).toStdString()); }
-    QToolButton& Knopf(const char* name) const { return *fenster.findChild<QToolButton*>(name); }
-    QString Status() const { return fenster.statusBar()->currentMessage(); }
-    void Rad(QPoint ort, int schritte) const {
-        QWheelEvent e(ort, bild->mapToGlobal(ort), {}, {0, schritte * 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(bild, &e);
-    }
     /// Picture position of the first point.
     QPoint Punkt() const {
         const zrw::Punkt& p = *fenster.Netz()->PunktKnoten->Item;
         return {static_cast<int>(p.XO), static_cast<int>(p.YO)};
     }
-
-    QTemporaryDir ordner;
-    Einstellungen einstellungen;
-    Speichereinstellungen ablage;
-    Netzangaben netz;
-    Zeichenzustand zustand;
-    Systemdateien dateien;
-    Festuhr uhr;
-    Festdrucker drucker;
-    Antwortdienst dialoge;
-    Sitzung sitzung{ordner.filePath("sitzung.ini")};
-    TZrwMainDlg fenster{
-        {einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, sitzung, "1.2"}};
-    QWidget* bild = nullptr;
 };
 
 TEST_F(Hauptfenster, OhneNetzTutKeinHandlerEtwas) {
@@ -280,11 +228,6 @@ class Exportfenster : public Hauptfenster {
     [[nodiscard]] QByteArray Inhalt(const QString& name) const {
         QFile f(ordner.filePath(name));
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("fehlt");
-    }
-    [[nodiscard]] std::string Gespeichert() const {
-        ByteSchreiber f;
-        fenster.Netz()->Store(f, netz);
-        return std::string(f.Inhalt());
     }
 
   private:

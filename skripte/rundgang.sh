@@ -1,0 +1,95 @@
+#!/usr/bin/env bash
+# Drives the real window through a day's work, as a user would: skripte/rundgang.sh ZARWIK [FOLDER FOR SCREENSHOTS]
+# Needs no display: it starts one of its own. The plot that everything was undone in must be the one from the start.
+set -euo pipefail
+zarwik=$(readlink -f "$1")
+wurzel=$(cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.." && pwd)
+. "$wurzel/skripte/pakete.sh"
+brauche xvfb xdotool openbox imagemagick
+bilder=$(readlink -f "${2:-$(mktemp -d)}")
+ordner=$(mktemp -d)
+mkdir -p "$bilder"
+cp "$wurzel"/beispiele/*.EIN "$wurzel"/beispiele/*.?F "$ordner"
+cd "$ordner"
+export XDG_CONFIG_HOME=$ordner XDG_RUNTIME_DIR=$ordner HOME=$ordner
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 1400x950x24 2>/dev/null)
+anzeige=$!
+read -r -u 3 nummer
+export DISPLAY=:$nummer
+openbox >/dev/null 2>&1 &
+verwalter=$!
+"$zarwik" NETZ.EIN &
+programm=$!
+trap 'kill $programm $verwalter $anzeige 2>/dev/null; rm -rf "$ordner"' EXIT
+
+fenster=$(timeout 20 xdotool search --sync --onlyvisible --name '^Zarwik .*NETZ.EIN' | tail -1)
+xdotool windowsize --sync "$fenster" 1180 800
+sleep 0.5
+nach() { xdotool mousemove --window "$fenster" "$1" "$2" && sleep 0.1; }
+klick() { nach "$1" "$2" && xdotool click "${3:-1}" && sleep 0.3; }
+ziehe() { nach "$1" "$2" && xdotool mousedown 1 && nach $((($1 + $3) / 2)) $((($2 + $4) / 2)) && nach "$3" "$4" &&
+    xdotool mouseup 1 && sleep 0.3; }
+taste() { xdotool key "$@" && sleep 0.4; }
+bild() { import -window "${2:-$fenster}" "$bilder/$1.png"; }
+speichere() { # the dialog takes the name, an existing file is replaced
+    taste ctrl+s && sleep 0.5 && xdotool type "$ordner/$1" && taste Return && sleep 0.5
+}
+# The row of buttons, by what they do.
+declare -A knopf=([pan]=732 [zoom]=766 [punkt]=800 [nummer]=834 [beob]=868 [art]=902 [loesche]=935 [zentriere]=1004
+    [hidenr]=1072 [hide]=1106 [daten]=1139 [versteckte]=445 [nummern]=479 [alles]=338 [einpassen]=372)
+modus() { klick "${knopf[$1]}" 19; }
+
+modus alles
+speichere anfang.ZRW
+bild 01_geoeffnet
+nach 506 430
+for _ in 1 2 3; do xdotool click 5; done # the wheel: closer
+sleep 0.3
+bild 02_vergroessert
+modus pan
+ziehe 300 300 420 380
+modus alles
+modus punkt
+ziehe 428 380 620 300 # point 10
+bild 03_punkt_verschoben
+modus nummer
+ziehe 361 104 420 160 # number REF2, right of its point
+modus hide
+klick 330 406 # point 11
+modus hidenr
+klick 436 328 # number 34, by its point
+bild 04_versteckt
+modus beob
+dialog=$(xdotool search --sync --onlyvisible --name '^Beobachtungstyp$' | tail -1)
+imDialog() { xdotool mousemove --window "$dialog" "$1" "$2" click 1 && sleep 0.3; }
+imDialog 175 49 # both directions
+imDialog 16 232 # new lines
+xdotool windowmove "$dialog" 900 300
+klick 593 606 # REF5
+klick 651 307 # to REF3
+bild 05_beobachtung_eingefuegt root
+modus art
+art=$(xdotool search --sync --onlyvisible --name '^Punktart$' | tail -1)
+xdotool windowmove "$art" 900 300
+klick 210 436 # point 24
+bild 06_punktart root
+modus pan
+for _ in $(seq 30); do taste ctrl+z; done
+modus alles
+speichere ende.ZRW
+bild 07_zurueckgenommen
+cmp anfang.ZRW ende.ZRW && echo "Zurückgenommen: der Plan ist der vom Anfang."
+modus zentriere
+klick 210 436 # 24 onto 8
+klick 251 359
+klick 332 511 # 14 onto 11
+klick 330 406
+bild 08_zentriert
+speichere zentriert.ZRW
+modus zentriere
+cmp -s anfang.ZRW zentriert.ZRW && { echo "Zentrieren hat nichts geändert." && exit 1; }
+xdotool key ctrl+q
+sleep 0.5
+xdotool key n
+wait $programm
+echo "Rundgang beendet, Bilder in $bilder"
