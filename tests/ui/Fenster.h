@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QCoreApplication>
+#include <QListView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
@@ -172,6 +174,27 @@ class Netzprobe : public Fensterprobe {
         return neu;
     }
 
+    /// Lines and numbers hang on points that exist and stand where those are, and the counts are right.
+    void PruefeNetz() const {
+        const Liste& l = *fenster.Netz();
+        std::int32_t punkte = 0;
+        for (const PunktKnoten* p = l.PunktKnoten; p != nullptr; p = p->Next, ++punkte)
+            ASSERT_EQ(l.SuchPkt(p->PNr), p);
+        ASSERT_EQ(l.MaxPkte, punkte);
+        std::int32_t kanten = 0;
+        for (const PunktKante* k = l.KanteKnoten; k != nullptr; k = k->Next, ++kanten) {
+            ASSERT_TRUE(l.SuchPkt(k->ANr) != nullptr && l.SuchPkt(k->ENr) != nullptr);
+            ASSERT_EQ(k->Item->Position(), l.SuchPkt(k->ANr)->Item->Position());
+            ASSERT_EQ(k->Item->Ende(), l.SuchPkt(k->ENr)->Item->Position());
+            ASSERT_NE(l.FindKante(k->ENr, k->ANr), nullptr);
+        }
+        ASSERT_EQ(l.MaxKant, kanten);
+        for (const PunktString* t = l.PktTextKnoten; t != nullptr; t = t->Next) {
+            ASSERT_EQ(l.FindPktText(t->TNr), t->Item);
+            ASSERT_EQ(t->Item->Position(), l.SuchPkt(t->TNr)->Item->Position());
+        }
+    }
+
     void Druecke(QPoint ort, Qt::MouseButton taste = Qt::LeftButton) const {
         QTest::mousePress(bild, taste, {}, ort);
     }
@@ -195,19 +218,38 @@ class Netzprobe : public Fensterprobe {
         if (teil == nullptr) throw std::runtime_error(std::string("no component ") + name);
         return *teil;
     }
+    [[nodiscard]] QStringList Eintraege(const char* kasten, const char* liste) const {
+        const QAbstractItemModel& modell = *Finde<QListView>(kasten, liste).model();
+        QStringList texte;
+        for (int i = 0; i < modell.rowCount(); ++i)
+            texte << modell.index(i, 0).data().toString();
+        return texte;
+    }
+    /// Selects exactly these entries.
+    void Waehle(const char* kasten, const char* liste, const QStringList& texte) const {
+        auto& ansicht = Finde<QListView>(kasten, liste);
+        ansicht.clearSelection();
+        for (int i = 0; i < ansicht.model()->rowCount(); ++i) {
+            const QModelIndex stelle = ansicht.model()->index(i, 0);
+            if (texte.contains(stelle.data().toString()))
+                ansicht.selectionModel()->select(stelle, QItemSelectionModel::Select);
+        }
+    }
     void NimmAllesZurueck() {
         for (int i = 0; i < 1000 && Knopf("RueckgaengigButton").isEnabled(); ++i)
             fenster.Rueckgaengig();
     }
 };
 
+}  // namespace zrw
+
+// Readable in a failing comparison; found by the namespace of the Qt types.
 inline void PrintTo(const QString& text, std::ostream* aus) {
     *aus << text.toStdString();
 }
-
-}  // namespace zrw
-
-// Lists of lines are readable in a failing comparison.
+inline void PrintTo(const QPoint& p, std::ostream* aus) {
+    *aus << "(" << p.x() << ", " << p.y() << ")";
+}
 inline void PrintTo(const QStringList& zeilen, std::ostream* aus) {
     *aus << "[" << zeilen.join(" | ").toStdString() << "]";
 }

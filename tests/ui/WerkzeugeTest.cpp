@@ -1,0 +1,642 @@
+// The tool modes: what press, drag, release and abort do to the network and to the view.
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <cmath>
+#include <functional>
+#include <random>
+#include <vector>
+
+#include "tests/hilfe/Probenetz.h"
+#include "tests/ui/Fenster.h"
+#include "ui/werkzeuge/Werkzeugtafel.h"
+
+namespace zrw {
+namespace {
+
+/// How a drag ends.
+enum class Ende { Los, Escape, Rechts, Mitte, Groesse, Werkzeug };
+
+class Werkzeuge : public Netzprobe {
+  protected:
+    void SetUp() override {
+        ASSERT_EQ(bild->size(), QSize(800, 530));
+        ASSERT_EQ(Ort("A"), A);
+        ASSERT_EQ(Ort("B"), B);
+        ASSERT_EQ(Ort("C"), C);
+        ASSERT_EQ(Ort("D"), C);
+        ASSERT_EQ(Ort("E"), E);
+    }
+    /// The network as read, without asking.
+    void Neu() {
+        dialoge.antwort = false;
+        Oeffne("n.EIN");
+        Bildgroesse({800, 530});
+    }
+    void Beende(QPoint ort, Ende ende) {
+        if (ende == Ende::Escape) QTest::keyClick(bild, Qt::Key_Escape);
+        if (ende == Ende::Rechts) Druecke(ort, Qt::RightButton);
+        if (ende == Ende::Mitte) Druecke(ort, Qt::MiddleButton);
+        if (ende == Ende::Groesse) Bildgroesse({820, 540});
+        if (ende == Ende::Werkzeug) Modus("DataButton");
+        Lass(ort);
+        if (ende == Ende::Rechts) Lass(ort, Qt::RightButton);
+        if (ende == Ende::Mitte) Lass(ort, Qt::MiddleButton);
+    }
+    void Verbirg(const char* nummer) {
+        Modus("HidePktButton");
+        Klick(Ort(nummer));
+    }
+};
+
+TEST_F(Werkzeuge, ZiehenAendertDieListe) {
+    const auto nichts = [] {};
+    struct Fall {
+        const char* name;
+        const char* modus;
+        std::function<void()> vorher;
+        QPoint druck;
+        std::vector<QPoint> weg;
+        QStringList erwartet;
+    };
+    const QPoint nrA = Textort("A");
+    const QPoint nrD = Textort("D");
+    const Fall faelle[] = {
+        {"Punkt mit Linien und Nummer",
+         "MovePktButton",
+         nichts,
+         A,
+         {{90, 300}, {145, 240}},
+         {"+ P A 145 240 FP Krei", "- P A 125 250 FP Krei"}},
+        {"am Rand des Fangs",
+         "MovePktButton",
+         nichts,
+         E + QPoint(5, -5),
+         {E + QPoint(15, 5)},
+         {"+ P E 385 135 NP Krei", "- P E 375 125 NP Krei"}},
+        {"neben dem Fang", "MovePktButton", nichts, E + QPoint(6, 0), {E + QPoint(30, 0)}, {}},
+        {"von zweien an einem Ort der neuere",
+         "MovePktButton",
+         nichts,
+         C,
+         {{300, 60}},
+         {"+ P D 300 60 NP Krei", "- P D 250 125 NP Krei"}},
+        {"die Linie zum verborgenen Nachbarn bleibt verborgen",
+         "MovePktButton",
+         [this] { Verbirg("B"); },
+         A,
+         {{100, 200}},
+         {"+ P A 100 200 FP Krei", "- P A 125 250 FP Krei"}},
+        {"der verborgene Punkt am Ort bleibt verborgen",
+         "MovePktButton",
+         [this] { Verbirg("D"); },
+         C,
+         {{300, 60}},
+         {"+ P C 300 60 NP Krei", "- P C 250 125 NP Krei"}},
+        {"eine verborgene Nummer bleibt verborgen",
+         "MovePktButton",
+         [&] {
+             Modus("HidePktNrButton");
+             Klick(nrA);
+         },
+         A,
+         {{100, 200}},
+         {"+ P A 100 200 FP Krei", "- P A 125 250 FP Krei"}},
+        {"ein verborgener Punkt", "MovePktButton", [this] { Verbirg("E"); }, E, {{300, 60}}, {}},
+        {"hin und zurueck", "MovePktButton", nichts, A, {{300, 60}, A}, {}},
+        {"ohne Bewegung", "MovePktButton", nichts, A, {}, {}},
+        {"aus dem Bild hinaus",
+         "MovePktButton",
+         nichts,
+         A,
+         {{-300, -60}, {-500, 900}},
+         {"+ P A -500 900 FP Krei", "- P A 125 250 FP Krei"}},
+        {"Nummer",
+         "MoveTextButton",
+         nichts,
+         nrA,
+         {nrA + QPoint(7, 7), nrA + QPoint(-30, 12)},
+         {"+ N A -20 7", "- N A 10 -5"}},
+        {"von zwei Nummern die neuere",
+         "MoveTextButton",
+         nichts,
+         nrD,
+         {nrD + QPoint(0, 40)},
+         {"+ N D 10 35", "- N D 10 -5"}},
+        {"Nummer ohne Bewegung", "MoveTextButton", nichts, nrA, {nrA + QPoint(9, 9), nrA}, {}},
+        {"eine verborgene Nummer ist nicht da",
+         "MoveTextButton",
+         [this] { Verbirg("A"); },
+         nrA,
+         {nrA + QPoint(30, 30)},
+         {}},
+        {"der Punkt ist keine Nummer", "MoveTextButton", nichts, A - QPoint(4, 0), {{300, 300}}, {}},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Neu();
+        f.vorher();
+        Modus(f.modus);
+        const QStringList vorher = Figuren();
+        const std::string bytesVorher = Gespeichert();
+        const QImage bildVorher = fenster.Bild().copy();
+        Druecke(f.druck);
+        for (const QPoint p : f.weg)
+            QTest::mouseMove(bild, p);
+        Lass(f.weg.empty() ? f.druck : f.weg.back());
+        EXPECT_EQ(Aenderung(vorher), f.erwartet);
+        PruefeNetz();
+        if (f.erwartet.isEmpty()) {
+            EXPECT_TRUE(Gespeichert() == bytesVorher);
+            EXPECT_TRUE(fenster.Bild() == bildVorher);
+            continue;
+        }
+        EXPECT_TRUE(fenster.windowTitle().endsWith('*'));
+        fenster.Rueckgaengig();
+        EXPECT_TRUE(Gespeichert() == bytesVorher);
+        EXPECT_TRUE(fenster.Bild() == bildVorher);
+        fenster.Wiederhole();
+        EXPECT_EQ(Aenderung(vorher), f.erwartet);
+    }
+}
+
+TEST_F(Werkzeuge, WasGezogenWirdFolgtDerMaus) {
+    struct Fall {
+        const char* modus;
+        QPoint druck;
+        QRect dort;  // where nothing else stands
+    };
+    for (const Fall& f : {Fall{"MovePktButton", A, {85, 335, 60, 40}},
+                          Fall{"MoveTextButton", Textort("A"), {105, 335, 40, 40}}}) {
+        Neu();
+        Modus(f.modus);
+        const QImage vorher = bild->grab(f.dort).toImage();
+        Druecke(f.druck);
+        QTest::mouseMove(bild, f.druck + QPoint(-20, 110));
+        const QImage dabei = bild->grab(f.dort).toImage();
+        EXPECT_FALSE(dabei == vorher) << f.modus;
+        Lass(f.druck + QPoint(-20, 110));
+        EXPECT_TRUE(fenster.Bild().copy(f.dort).convertToFormat(dabei.format()) == dabei) << f.modus;
+    }
+}
+
+TEST_F(Werkzeuge, AbbruchLaesstAllesWieVorher) {
+    const struct {
+        const char* modus;
+        QPoint druck;
+    } faelle[] = {{"PanButton", {400, 300}},
+                  {"ZoomInButton", {400, 300}},
+                  {"MovePktButton", A},
+                  {"MovePktButton", C},
+                  {"MoveTextButton", Textort("A")}};
+    for (const auto& f : faelle) {
+        for (const Ende ende : {Ende::Escape, Ende::Rechts, Ende::Mitte, Ende::Groesse, Ende::Werkzeug}) {
+            SCOPED_TRACE(std::string(f.modus) + " " + std::to_string(static_cast<int>(ende)));
+            Neu();
+            Modus(f.modus);
+            const QStringList vorher = Figuren();
+            const QImage bildVorher = fenster.Bild().copy();
+            Druecke(f.druck);
+            QTest::mouseMove(bild, f.druck + QPoint(30, 40));
+            Beende(f.druck + QPoint(50, 20), ende);
+            EXPECT_EQ(Aenderung(vorher), QStringList());
+            EXPECT_FALSE(fenster.Ungesichert());
+            EXPECT_EQ(fenster.Netz()->Faktor, 8);
+            Bildgroesse({800, 530});
+            EXPECT_TRUE(fenster.Bild() == bildVorher);
+            // Nothing is left of the preview either.
+            QTest::mouseMove(bild, {790, 520});
+            EXPECT_TRUE(bild->grab().toImage() ==
+                        bildVorher.convertToFormat(bild->grab().toImage().format()));
+        }
+    }
+}
+
+TEST_F(Werkzeuge, EinAnderesNetzMittenImZiehen) {
+    Oeffne("a.EIN");
+    const QStringList anderes = Figuren();
+    const std::string bytes = Gespeichert();
+    for (const Werkzeugzeile& w : kWerkzeuge) {
+        for (const QPoint druck : {A, Textort("A"), (A + B) / 2}) {
+            for (const bool vorherKlick : {false, true}) {
+                SCOPED_TRACE(std::string(w.komponente));
+                Neu();
+                Modus(w.komponente.data());
+                if (vorherKlick) Klick(E);
+                Druecke(druck);
+                QTest::mouseMove(bild, druck + QPoint(40, 30));
+                Oeffne("a.EIN");
+                ASSERT_EQ(Aenderung(anderes), QStringList());
+                QTest::mouseMove(bild, druck + QPoint(60, 30));
+                Lass(druck + QPoint(60, 30));
+                // A release of the old press does nothing to the new network.
+                EXPECT_TRUE(Gespeichert() == bytes);
+                EXPECT_FALSE(fenster.Ungesichert());
+                (void)bild->grab();
+                for (const char* knopf : {"DrawButton", "RadioGroupRichtg2"})
+                    fenster.findChild<QAbstractButton*>(knopf)->click();
+                EXPECT_EQ(Aenderung(anderes), QStringList());
+                Knopf(w.komponente.data()).setChecked(false);
+            }
+        }
+    }
+}
+
+TEST_F(Werkzeuge, BeobachtungAendern) {
+    struct Fall {
+        QPoint klick;
+        std::vector<const char*> wahl;
+        const char* vorher;
+        const char* nachher;
+    };
+    const QPoint ab = (A + B) / 2;
+    const QPoint ce = (C + E) / 2;
+    for (const Fall& f : {
+             Fall{ab, {"RadioGroupRichtg2"}, "A-B AR1 0", "A-B AR2 0"},
+             Fall{ab, {"RadioGroupRichtg0"}, "A-B AR1 0", "A-B AST 0"},
+             Fall{ab, {"CheckBoxStrecke"}, "A-B AR1 0", "A-B AR1 1"},
+             Fall{ab, {"CheckBoxGps"}, "A-B AR1 0", "A-B AR1 2"},
+             Fall{ab, {"CheckBoxGps", "RadioGroupRichtg0"}, "A-B AR1 0", "A-B Null 2"},
+             Fall{ab, {"RadioGroupZenit1"}, "A-B AR1 0", "A-B AR1 4"},
+             Fall{ab, {"RadioGroupZenit2"}, "A-B AR1 0", "A-B AR1 8"},
+             Fall{ab, {"CheckBoxInd"}, "A-B AR1 0", "A-B ARI1 0"},
+             Fall{ab, {"CheckBoxInd", "RadioGroupRichtg2"}, "A-B AR1 0", "A-B ARI2 0"},
+             Fall{ab, {"CheckBoxInd", "RadioGroupRichtg0"}, "A-B AR1 0", "A-B ASTI 0"},
+             Fall{ab, {"CheckBoxInd", "CheckBoxGps"}, "A-B AR1 0", "A-B AR1 2"},
+             Fall{ce, {"CheckBoxStrecke"}, "C-E AST 1", "C-E AST 0"},
+             Fall{ce, {"CheckBoxGps"}, "C-E AST 1", "C-E AST 3"},
+             Fall{ce, {"CheckBoxStrecke", "CheckBoxGps"}, "C-E AST 1", "C-E Null 2"},
+             Fall{ce, {"RadioGroupZenit1", "RadioGroupRichtg1"}, "C-E AST 1", "C-E AR1 5"},
+         }) {
+        SCOPED_TRACE(f.nachher);
+        Neu();
+        Modus("EditBeobButton");
+        EXPECT_TRUE(fenster.findChild<QDialog*>("TFormBeobTyp")->isVisible());
+        const std::string bytes = Gespeichert();
+        const QStringList vorher = Figuren();
+        Klick(f.klick);
+        EXPECT_FALSE(fenster.Ungesichert()) << "picking changes nothing";
+        for (const char* knopf : f.wahl) {
+            const QStringList davor = Figuren();
+            Finde("TFormBeobTyp", knopf).click();
+            EXPECT_EQ(Aenderung(davor).size(), 2) << knopf << " changes the line at once";
+        }
+        EXPECT_EQ(Aenderung(vorher), (QStringList{QString("+ L ") + f.nachher, QString("- L ") + f.vorher}));
+        // Undone, the dialog shows what the line has: the same choice leads to the same line again.
+        fenster.Rueckgaengig();
+        Finde("TFormBeobTyp", f.wahl.back()).click();
+        EXPECT_EQ(Aenderung(vorher), (QStringList{QString("+ L ") + f.nachher, QString("- L ") + f.vorher}));
+        NimmAllesZurueck();
+        EXPECT_TRUE(Gespeichert() == bytes);
+    }
+    // Dropped: nothing changes any more.
+    for (const auto& loesen : std::vector<std::function<void()>>{
+             [this] { QTest::keyClick(bild, Qt::Key_Escape); },
+             [this] {
+                 Klick({5, 5}, Qt::RightButton);
+             },
+             [this] {
+                 Klick({700, 500});
+             },
+             [this] { Finde("TFormBeobTyp", "CheckBoxNeuBeob").click(); },
+         }) {
+        Neu();
+        Modus("EditBeobButton");
+        Klick(ab);
+        loesen();
+        const QStringList vorher = Figuren();
+        Finde("TFormBeobTyp", "RadioGroupRichtg2").click();
+        Finde("TFormBeobTyp", "RadioGroupRichtg0").click();
+        EXPECT_EQ(Aenderung(vorher), QStringList());
+    }
+    Knopf("EditBeobButton").click();
+    EXPECT_FALSE(fenster.findChild<QDialog*>("TFormBeobTyp")->isVisible());
+}
+
+TEST_F(Werkzeuge, BeobachtungEinfuegen) {
+    const auto nichts = [] {};
+    struct Fall {
+        const char* name;
+        QPoint erster;
+        std::function<void()> dazwischen;
+        QPoint zweiter;
+        QStringList erwartet;
+    };
+    const Fall faelle[] = {
+        {"neu", A, nichts, E, {"+ L A-E AR2 1"}},
+        {"neu, ueber leere Stelle",
+         A,
+         [this] {
+             Klick({700, 500});
+         },
+         E,
+         {"+ L A-E AR2 1"}},
+        {"vorhanden", A, nichts, B, {"+ L A-B AR2 1", "- L A-B AR1 0"}},
+        {"vorhanden, andersherum", B, nichts, A, {"+ L A-B AR2 1", "- L A-B AR1 0"}},
+        {"auf sich selbst", A, nichts, A, {}},
+        {"Escape", A, [this] { QTest::keyClick(bild, Qt::Key_Escape); }, E, {}},
+        {"rechte Taste",
+         A,
+         [this] {
+             Klick({700, 500}, Qt::RightButton);
+         },
+         E,
+         {}},
+        {"zweite Taste",
+         A,
+         [this] {
+             Druecke({700, 500});
+             Klick({700, 500}, Qt::RightButton);
+             Lass({700, 500});
+         },
+         E,
+         {}},
+        {"anderes Werkzeug",
+         A,
+         [this] {
+             Modus("PanButton");
+             Modus("EditBeobButton");
+         },
+         E,
+         {}},
+        {"verborgener Punkt", A, [this] { Verbirg("E"), Modus("EditBeobButton"); }, E, {}},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Neu();
+        Modus("EditBeobButton");
+        Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+        Finde("TFormBeobTyp", "RadioGroupRichtg2").click();
+        Finde("TFormBeobTyp", "CheckBoxStrecke").setChecked(true);
+        const std::string bytes = Gespeichert();
+        Klick(f.erster);
+        QTest::mouseMove(bild, {600, 400});
+        EXPECT_EQ(Status(), "Beobachtung einfügen P1 gesetzt P2 anklicken");
+        f.dazwischen();
+        const QStringList vorher = Figuren();
+        Klick(f.zweiter);
+        EXPECT_EQ(Aenderung(vorher), f.erwartet);
+        PruefeNetz();
+        NimmAllesZurueck();
+        EXPECT_TRUE(Gespeichert() == bytes);
+    }
+    Neu();
+    Klick(A);
+    Klick(E);
+    ASSERT_NE(fenster.Netz()->KanteKnoten, nullptr);
+    EXPECT_EQ(Name(fenster.Netz()->KanteKnoten->ENr), "E");
+    EXPECT_EQ(fenster.Netz()->KanteKnoten->Item->Farbe, einstellungen.GPSCol);
+}
+
+TEST_F(Werkzeuge, KlickeLoeschenUndVerbergen) {
+    struct Fall {
+        const char* modus;
+        QPoint klick;
+        QStringList erwartet;
+    };
+    for (const Fall& f : {
+             Fall{"DelPunktButton",
+                  A,
+                  {"- L A-B AR1 0", "- L A-C AR1 0", "- N A 10 -5", "- P A 125 250 FP Krei"}},
+             Fall{"DelPunktButton", C, {"- L B-D AR1 0", "- N D 10 -5", "- P D 250 125 NP Krei"}},
+             Fall{"DelPunktButton", (A + B) / 2, {}},
+             Fall{"DelBeobButton", (A + B) / 2, {"- L A-B AR1 0"}},
+             Fall{"DelBeobButton", (C + E) / 2 + QPoint(0, 5), {"- L C-E AST 1"}},
+             Fall{"DelBeobButton", (C + E) / 2 + QPoint(0, 7), {}},
+             Fall{"DelBeobButton", {700, 500}, {}},
+             Fall{"HidePktButton",
+                  A,
+                  {"+ L A-B AR1 0 -", "+ L A-C AR1 0 -", "+ N A 10 -5 -", "+ P A 125 250 FP Krei -",
+                   "- L A-B AR1 0", "- L A-C AR1 0", "- N A 10 -5", "- P A 125 250 FP Krei"}},
+             Fall{"HidePktButton", {700, 500}, {}},
+             Fall{"HidePktNrButton", Textort("A"), {"+ N A 10 -5 -", "- N A 10 -5"}},
+             Fall{"HidePktNrButton", B, {"+ N B 10 -5 -", "- N B 10 -5"}},
+             Fall{"HidePktNrButton", {700, 500}, {}},
+             Fall{"DataButton", A, {}},
+             Fall{"DataButton", (A + B) / 2, {}},
+             Fall{"PunktartButton", A, {}},
+             Fall{"SpeedButton13", A, {}},
+         }) {
+        SCOPED_TRACE(f.modus);
+        Neu();
+        Modus(f.modus);
+        const QStringList vorher = Figuren();
+        const std::string bytes = Gespeichert();
+        const QImage bildVorher = fenster.Bild().copy();
+        const QImage ohne = bild->grab().toImage();
+        QTest::mouseMove(bild, f.klick);
+        EXPECT_TRUE(f.erwartet.isEmpty() || bild->grab().toImage() != ohne) << "the hit is highlighted";
+        Klick(f.klick);
+        EXPECT_EQ(Aenderung(vorher), f.erwartet);
+        PruefeNetz();
+        EXPECT_EQ(fenster.Ungesichert(), !f.erwartet.isEmpty());
+        Klick(f.klick, Qt::RightButton);
+        EXPECT_EQ(Aenderung(vorher), f.erwartet) << "the right button takes nothing";
+        NimmAllesZurueck();
+        EXPECT_TRUE(Gespeichert() == bytes);
+        EXPECT_TRUE(fenster.Bild() == bildVorher);
+    }
+}
+
+TEST_F(Werkzeuge, LeereNetzeUndNetzeOhneLinienUndNummern) {
+    Lege("leer.EIN", "$NT 3\n");
+    Lege("ohne.EIN",
+         "$NT 3\n$FP A              1         1000         1000\n    B              1 3000 2000\n");
+    Probenetz n;  // labels that belong to no point
+    n.P(1, 1000, 1000);
+    n.P(2, 3000, 2000);
+    n.T(8, "X");
+    n.T(9, "Y");
+    n.K(1, 2);
+    n.l.FindWorldMinMax();
+    n.l.Weite = 800;
+    n.l.Hoehe = 530;
+    n.l.PasseEin();
+    ByteSchreiber f;
+    n.l.Store(f, netz);
+    Lege("ohne.ZRW", std::string(f.Inhalt()));
+    dialoge.antwort = false;
+    for (const char* datei : {"leer.EIN", "ohne.EIN", "ohne.ZRW"}) {
+        SCOPED_TRACE(datei);
+        Oeffne(datei);
+        const std::int32_t punkte = fenster.Netz()->MaxPkte;
+        const std::string bytes = Gespeichert();
+        for (const char* knopf : {"EinpassenButton", "ButtonGroesser", "ButtonKleiner", "SpeedButton3",
+                                  "NummernZeigenButton", "SpeedButton10"}) {
+            Knopf(knopf).click();
+        }
+        EXPECT_TRUE(std::isfinite(fenster.Netz()->Faktor) && fenster.Netz()->Faktor > 0);
+        for (const Werkzeugzeile& w : kWerkzeuge) {
+            Modus(w.komponente.data());
+            for (const QPoint p : {A, B, E, (A + B) / 2, (A + E) / 2, Textort("A"), QPoint(700, 500)}) {
+                Ziehe(p, p + QPoint(20, 20));
+                Klick(p);
+                Klick(p, Qt::RightButton);
+            }
+            Knopf("SpeedButton3").click();
+        }
+        NimmAllesZurueck();
+        EXPECT_EQ(fenster.Netz()->MaxPkte, punkte);
+    }
+}
+
+TEST_F(Werkzeuge, AlleGeloeschtUndZurueck) {
+    const std::string bytes = Gespeichert();
+    const QImage bildVorher = fenster.Bild().copy();
+    Modus("DelPunktButton");
+    for (const QPoint p : {A, B, C, C, E})
+        Klick(p);
+    EXPECT_EQ(Figuren(), QStringList());
+    PruefeNetz();
+    Knopf("EinpassenButton").click();
+    EXPECT_TRUE(Status().contains("kein Punkt sichtbar"));
+    for (const Werkzeugzeile& w : kWerkzeuge) {
+        Modus(w.komponente.data());
+        Ziehe(A, B);
+        Klick(A, Qt::RightButton);
+    }
+    Knopf("SpeedButton3").click();
+    NimmAllesZurueck();
+    Knopf("SpeedButton3").click();
+    EXPECT_TRUE(Gespeichert() == bytes);
+    EXPECT_TRUE(fenster.Bild() == bildVorher);
+}
+
+TEST_F(Werkzeuge, ZoomenMitRechteckUndKlick) {
+    struct Fall {
+        const char* name;
+        QPoint von, nach;
+        double faktor;
+        QPoint bleibt;  // this picture position keeps its world position ...
+        QPoint dort;    // ... and is then shown here
+    };
+    Modus("ZoomInButton");
+    for (const Fall& f : {
+             Fall{"Rechteck", {100, 100}, {500, 365}, 4, {300, 232}, {400, 265}},
+             Fall{"rueckwaerts", {500, 365}, {100, 100}, 4, {300, 232}, {400, 265}},
+             Fall{"breit", {0, 200}, {400, 210}, 4, {200, 205}, {400, 265}},
+             Fall{"hoch", {300, 0}, {310, 265}, 4, {305, 132}, {400, 265}},
+             Fall{"Klick", {125, 250}, {125, 250}, 8.0 * 2 / 3, {125, 250}, {125, 250}},
+             Fall{"Zittern", {125, 250}, {128, 247}, 8.0 * 2 / 3, {128, 247}, {128, 247}},
+         }) {
+        SCOPED_TRACE(f.name);
+        const QImage vorher = fenster.Bild().copy();
+        const Liste& l = *fenster.Netz();
+        const Welt ort = l.BildinWelt({f.bleibt.x(), f.bleibt.y()});
+        Ziehe(f.von, f.nach);
+        EXPECT_NEAR(l.Faktor, f.faktor, 1e-9);
+        const Welt danach = l.BildinWelt({f.dort.x(), f.dort.y()});
+        EXPECT_NEAR(danach.rechts, ort.rechts, 8) << "within a pixel";
+        EXPECT_NEAR(danach.hoch, ort.hoch, 8);
+        EXPECT_FALSE(fenster.Ungesichert());
+        Klick({1, 1}, Qt::RightButton);
+        EXPECT_EQ(l.Faktor, 8);
+        EXPECT_TRUE(fenster.Bild() == vorher);
+        Klick({1, 1}, Qt::RightButton);
+        EXPECT_TRUE(fenster.Bild() == vorher) << "there is no view before the first";
+    }
+    const QImage vorher = fenster.Bild().copy();
+    Klick({300, 200});
+    const QImage eins = fenster.Bild().copy();
+    Klick({300, 200});
+    Klick({300, 200}, Qt::RightButton);
+    EXPECT_TRUE(fenster.Bild() == eins);
+    Klick({300, 200}, Qt::RightButton);
+    EXPECT_TRUE(fenster.Bild() == vorher);
+}
+
+TEST_F(Werkzeuge, ZeigerUndStatustextJederArt) {
+    QStringList texte;
+    for (const Werkzeugzeile& w : kWerkzeuge) {
+        Modus(w.komponente.data());
+        EXPECT_GT(Status().size(), 20) << w.komponente;
+        texte << Status();
+        for (const Werkzeugzeile& anderes : kWerkzeuge)
+            EXPECT_EQ(Knopf(anderes.komponente.data()).isChecked(), &anderes == &w);
+        EXPECT_EQ(bild->cursor().shape() == Qt::ArrowCursor, w.komponente == "SpeedButton13") << w.komponente;
+    }
+    EXPECT_EQ(texte.removeDuplicates(), 0);
+    Knopf("DataButton").click();
+    EXPECT_EQ(bild->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_FALSE(Knopf("DataButton").isChecked());
+}
+
+/// Random edits with every mode; undoing and redoing them all gives the very same files and pictures.
+TEST_F(Werkzeuge, AllesZurueckUndWiederVor) {
+    for (const unsigned saat : {1U, 2U, 3U}) {
+        SCOPED_TRACE(saat);
+        Neu();
+        std::mt19937 zufall(saat);
+        const auto w = [&](int n) { return static_cast<int>(zufall() % static_cast<unsigned>(n)); };
+        const auto irgendwo = [&] {
+            const QPoint wackeln(w(7) - 3, w(7) - 3);
+            if (w(5) == 0) return QPoint(w(800), w(530));
+            const Liste& l = *fenster.Netz();
+            std::vector<QPoint> orte;
+            for (const PunktKnoten* p = l.PunktKnoten; p != nullptr; p = p->Next)
+                orte.emplace_back(static_cast<int>(p->Item->XO), static_cast<int>(p->Item->YO));
+            for (const PunktString* t = l.PktTextKnoten; t != nullptr; t = t->Next)
+                orte.emplace_back(static_cast<int>(t->Item->Textort().x),
+                                  static_cast<int>(t->Item->Textort().y));
+            for (const PunktKante* k = l.KanteKnoten; k != nullptr; k = k->Next) {
+                orte.emplace_back(static_cast<int>((k->Item->XO + k->Item->XBiE) / 2),
+                                  static_cast<int>((k->Item->YO + k->Item->YBiE) / 2));
+            }
+            return orte.empty() ? wackeln : orte[zufall() % orte.size()] + wackeln;
+        };
+        const std::string anfang = Gespeichert();
+        const QImage bildAnfang = fenster.Bild().copy();
+        for (int i = 0; i < 300; ++i) {
+            const char* modi[] = {"MovePktButton",  "MoveTextButton", "EditBeobButton",
+                                  "EditBeobButton", "PunktartButton", "PunktartButton",
+                                  "DelBeobButton",  "HidePktButton",  "HidePktNrButton"};
+            Modus(w(25) == 0 ? "DelPunktButton" : modi[w(9)]);
+            Ziehe(irgendwo(), irgendwo());
+            Klick(irgendwo());
+            const int wahl = w(12);
+            if (wahl < 3) {
+                Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(wahl == 0);
+                if (wahl == 0) {
+                    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText(QString("N%1").arg(i));
+                    Finde<QLineEdit>("TFormPunktart", "PktY").setText(QString::number(w(6000)));
+                    Finde<QLineEdit>("TFormPunktart", "PktX").setText(QString::number(w(3500)));
+                }
+                Finde("TFormPunktart", ("RadioGroupPktArt" + std::to_string(w(4))).c_str()).click();
+                Finde("TFormPunktart", ("RadioGroupSymb" + std::to_string(w(6))).c_str()).click();
+                Finde("TFormPunktart", "DrawButton").click();
+            } else if (wahl < 6) {
+                Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(wahl == 3);
+                Finde("TFormBeobTyp", ("RadioGroupRichtg" + std::to_string(w(3))).c_str()).click();
+                Finde("TFormBeobTyp", wahl == 4 ? "CheckBoxStrecke" : "CheckBoxGps").click();
+            } else if (wahl == 6) {
+                Waehle("TFormHiddenPkt", "ListBox1", Eintraege("TFormHiddenPkt", "ListBox1").mid(0, 2));
+                Finde("TFormHiddenPkt", "UnhiddenButton").click();
+            } else if (wahl == 7) {
+                Knopf("NummernZeigenButton").click();
+            } else if (wahl == 8) {
+                for (int n = w(6); n > 0; --n)
+                    fenster.Rueckgaengig();
+                if (w(2) == 0) fenster.Wiederhole();
+            }
+            PruefeNetz();
+            if (HasFatalFailure()) return;
+        }
+        const std::string ende = Gespeichert();
+        const QStringList figurenEnde = Figuren();
+        const QImage bildEnde = fenster.Bild().copy();
+        ASSERT_FALSE(ende == anfang);
+        NimmAllesZurueck();
+        EXPECT_TRUE(Gespeichert() == anfang);
+        EXPECT_TRUE(fenster.Bild() == bildAnfang);
+        EXPECT_FALSE(fenster.Ungesichert());
+        EXPECT_FALSE(fenster.windowTitle().endsWith('*'));
+        while (Knopf("WiederholenButton").isEnabled())
+            fenster.Wiederhole();
+        EXPECT_EQ(Aenderung(figurenEnde), QStringList());
+        EXPECT_TRUE(Gespeichert() == ende);
+        EXPECT_TRUE(fenster.Bild() == bildEnde);
+    }
+}
+
+}  // namespace
+}  // namespace zrw
