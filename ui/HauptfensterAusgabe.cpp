@@ -1,9 +1,11 @@
 // Main window: legend, export, dialogs and help.
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QUrl>
 
 #include "model/Fehler.h"
 #include "output/Export.h"
@@ -87,6 +89,14 @@ void TZrwMainDlg::SpeedButton4Click() {
 }
 
 void TZrwMainDlg::SpeedButton6Click() {
+#ifdef Q_OS_WIN
+    // Offices that have a help file of their own put it where they work.
+    const QString eigene = QStringLiteral("ZRWHELP.HLP");
+    if (QFileInfo::exists(eigene) && programm_.dialoge.Frage(eigene + QStringLiteral(" öffnen?"))) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(eigene).absoluteFilePath()));
+        return;
+    }
+#endif
     ZeigeHilfe(kErsteSeite);
 }
 
