@@ -235,6 +235,16 @@ class Netzprobe : public Fensterprobe {
                 ansicht.selectionModel()->select(stelle, QItemSelectionModel::Select);
         }
     }
+    /// The network as read, without asking.
+    void Neu() {
+        dialoge.antwort = false;
+        Oeffne("n.EIN");
+        Bildgroesse({800, 530});
+    }
+    void Verbirg(const char* nummer) {
+        Modus("HidePktButton");
+        Klick(Ort(nummer));
+    }
     void NimmAllesZurueck() {
         for (int i = 0; i < 1000 && Knopf("RueckgaengigButton").isEnabled(); ++i)
             fenster.Rueckgaengig();

@@ -1,0 +1,422 @@
+// Points by their numbers: centring, hiding, kinds, the number box; and the keys of the view.
+#include <QComboBox>
+#include <QCompleter>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "tests/ui/Fenster.h"
+
+namespace zrw {
+namespace {
+
+class Punkte : public Netzprobe {
+  protected:
+    [[nodiscard]] QStringList Verborgene() const { return Eintraege("TFormHiddenPkt", "ListBox1"); }
+    QLineEdit& Feld(const char* name) const { return Finde<QLineEdit>("TFormPunktart", name); }
+    void Zeichne(const QString& nummer, const QString& rechts, const QString& hoch) const {
+        Feld("PktNummer").setText(nummer);
+        Feld("PktY").setText(rechts);
+        Feld("PktX").setText(hoch);
+        Finde("TFormPunktart", "DrawButton").click();
+    }
+};
+
+TEST_F(Punkte, ZentrierenMitDerMaus) {
+    Modus("ZentrierButton");
+    const QStringList vorher = Figuren();
+    const QStringList erwartet{"+ N A 10 -5 -", "+ P A 375 250 FP Krei", "- N A 10 -5",
+                               "- P A 125 250 FP Krei"};
+    Klick({700, 500});
+    Klick(A);
+    EXPECT_EQ(Status(), "Zentrierung Exzentrum gewählt, bitte Zentrum anklicken.");
+    QTest::mouseMove(bild, {600, 400});
+    EXPECT_EQ(Status(), "Exzentrum gewählt, bitte Zentrum wählen.");
+    Klick({700, 500}, Qt::RightButton);
+    QTest::mouseMove(bild, {610, 400});
+    EXPECT_TRUE(Status().contains("M=1:")) << "dropped";
+    Klick(B);
+    QTest::keyClick(bild, Qt::Key_Escape);
+    Klick(E);
+    Modus("PanButton");
+    Modus("ZentrierButton");
+    Klick(A);
+    Klick({700, 500});  // finds no point and keeps the choice
+    EXPECT_EQ(Aenderung(vorher), QStringList());
+    Klick(B);
+    EXPECT_EQ(Aenderung(vorher), erwartet);
+    PruefeNetz();
+    EXPECT_TRUE(fenster.Ungesichert());
+    // The next click chooses a new eccentre.
+    Klick(E);
+    EXPECT_EQ(Aenderung(vorher), erwartet);
+}
+
+TEST_F(Punkte, ZentrierenMitDenListen) {
+    struct Fall {
+        const char* name;
+        QStringList exzentren;
+        QStringList zentrum;
+        QStringList bleiben;
+        QStringList beiB;  // points that are where B is afterwards
+        QStringList zentren;
+    };
+    const QStringList alle{"A", "B", "C", "D", "E"};
+    for (const Fall& f : {
+             Fall{
+                 "drei hintereinander", {"C", "D", "E"}, {"B"}, {"A", "B"}, {"B", "C", "D", "E"}, {"A", "B"}},
+             Fall{"erste und letzte", {"A", "E"}, {"B"}, {"B", "C", "D"}, {"A", "B", "E"}, {"B", "C", "D"}},
+             Fall{
+                 "das Zentrum selbst dabei", {"A", "B", "C"}, {"B"}, {"D", "E"}, {"A", "B", "C"}, {"D", "E"}},
+             Fall{"kein Exzentrum", {}, {"B"}, alle, {"B"}, alle},
+             Fall{"kein Zentrum", {"A", "C"}, {}, alle, {"B"}, alle},
+             Fall{"nichts", {}, {}, alle, {"B"}, alle},
+         }) {
+        SCOPED_TRACE(f.name);
+        Knopf("SpeedButton13").setChecked(false);
+        Neu();
+        EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), alle);
+        EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), QStringList());
+        Modus("SpeedButton13");
+        EXPECT_TRUE(fenster.findChild<QWidget*>("GroupBox1")->isVisible());
+        EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), alle);
+        Waehle("GroupBox1", "ExzListBox", f.exzentren);
+        Waehle("GroupBox1", "PZListBox", f.zentrum);
+        const std::string bytes = Gespeichert();
+        Finde("GroupBox1", "OkButton").click();
+        EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), f.bleiben);
+        EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), f.zentren);
+        PruefeNetz();
+        for (const QString& nummer : alle) {
+            EXPECT_EQ(Ort(nummer.toStdString()) == B, f.beiB.contains(nummer)) << nummer.toStdString();
+        }
+        EXPECT_EQ(fenster.Ungesichert(), f.beiB.size() > 1);
+        EXPECT_EQ(Gespeichert() == bytes, f.beiB.size() == 1);
+        Finde("GroupBox1", "Abbruch").click();
+        EXPECT_FALSE(fenster.findChild<QWidget*>("GroupBox1")->isVisible());
+        EXPECT_FALSE(Knopf("SpeedButton13").isChecked());
+        EXPECT_TRUE(Knopf("SpeedButton13").isVisible());
+    }
+    // A click in the eccentres proposes the centre of the same row; one in the centres shows its number.
+    Neu();
+    Modus("SpeedButton13");
+    auto& exzentren = Finde<QListView>("GroupBox1", "ExzListBox");
+    auto& zentren = Finde<QListView>("GroupBox1", "PZListBox");
+    const auto klick = [](QListView& l, int zeile) {
+        QTest::mouseClick(l.viewport(), Qt::LeftButton, {},
+                          l.visualRect(l.model()->index(zeile, 0)).center());
+    };
+    klick(exzentren, 2);
+    EXPECT_EQ(zentren.currentIndex().data().toString(), "C");
+    klick(zentren, 1);
+    EXPECT_EQ(fenster.findChild<QComboBox*>("ComboBox1")->currentText(), "B");
+    EXPECT_FALSE(fenster.Ungesichert());
+}
+
+TEST_F(Punkte, VerborgenUndWiederGezeigt) {
+    const std::string bytes = Gespeichert();
+    const QImage vorher = fenster.Bild().copy();
+    Verbirg("E");
+    EXPECT_EQ(Verborgene(), QStringList{"E"});
+    Knopf("SpeedButton14").click();
+    EXPECT_EQ(Eintraege("TFormHidePunkte", "ListBoxPkt"), (QStringList{"A", "B", "C", "D", "E"}));
+    Finde("TFormHidePunkte", "Button1").click();  // none selected
+    EXPECT_EQ(Verborgene(), QStringList{"E"});
+    Waehle("TFormHidePunkte", "ListBoxPkt", {"B", "C", "D"});
+    Finde("TFormHidePunkte", "Button1").click();
+    EXPECT_EQ(Verborgene(), (QStringList{"B", "C", "D", "E"}));
+    EXPECT_EQ(Eintraege("TFormHidePunkte", "ListBoxPkt").size(), 5) << "they stay in the list";
+    EXPECT_EQ(Figuren().filter("L ").size(), 4);
+    for (const QString& zeile : Figuren().filter("L "))
+        EXPECT_TRUE(zeile.endsWith(" -")) << zeile.toStdString() << " ends at a hidden point";
+    Finde("TFormHidePunkte", "Button2").click();
+    EXPECT_FALSE(Knopf("SpeedButton14").isChecked());
+
+    Knopf("SpeedButton15").click();
+    Finde("TFormHiddenPkt", "UnhiddenButton").click();  // none selected
+    EXPECT_EQ(Verborgene().size(), 4);
+    Waehle("TFormHiddenPkt", "ListBox1", {"B", "C", "D"});  // in a row
+    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    EXPECT_EQ(Verborgene(), QStringList{"E"});
+    Waehle("TFormHiddenPkt", "ListBox1", {"E"});
+    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    EXPECT_EQ(Verborgene(), QStringList());
+    EXPECT_TRUE(Gespeichert() == bytes);
+    EXPECT_TRUE(fenster.Bild() == vorher);
+
+    // The list goes with the changes, there and back.
+    for (const QStringList& stand : {QStringList{"E"}, {"B", "C", "D", "E"}, {"E"}, {}}) {
+        fenster.Rueckgaengig();
+        EXPECT_EQ(Verborgene(), stand);
+    }
+    EXPECT_FALSE(fenster.Ungesichert());
+    for (int i = 0; i < 4; ++i)
+        fenster.Wiederhole();
+    EXPECT_EQ(Verborgene(), QStringList());
+    EXPECT_TRUE(Gespeichert() == bytes);
+}
+
+TEST_F(Punkte, VerborgeneEinesAnderenNetzes) {
+    Verbirg("E");
+    Verbirg("A");
+    dialoge.antwort = false;
+    Oeffne("a.EIN");
+    EXPECT_EQ(Verborgene(), (QStringList{"A", "E"})) << "the list outlives the network";
+    const std::string bytes = Gespeichert();
+    Waehle("TFormHiddenPkt", "ListBox1", {"A", "E"});
+    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    EXPECT_EQ(Verborgene(), QStringList());
+    EXPECT_TRUE(Gespeichert() == bytes);
+    EXPECT_FALSE(fenster.Ungesichert());
+}
+
+TEST_F(Punkte, NummernKommenWieder) {
+    const QStringList vorher = Figuren();
+    Modus("HidePktNrButton");
+    for (const QPoint p : {Textort("A"), Textort("B"), Textort("E")})
+        Klick(p);
+    EXPECT_EQ(Aenderung(vorher), (QStringList{"+ N A 10 -5 -", "+ N B 10 -5 -", "+ N E 10 -5 -",
+                                              "- N A 10 -5", "- N B 10 -5", "- N E 10 -5"}));
+    EXPECT_EQ(Verborgene(), QStringList());
+    Verbirg("B");
+    Waehle("TFormHiddenPkt", "ListBox1", {"B"});
+    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    EXPECT_EQ(Aenderung(vorher),
+              (QStringList{"+ N A 10 -5 -", "+ N E 10 -5 -", "- N A 10 -5", "- N E 10 -5"}))
+        << "a number comes with its point";
+    Verbirg("E");
+    Knopf("NummernZeigenButton").click();
+    EXPECT_EQ(Figuren().filter("N A"), QStringList{"N A 10 -5"});
+    EXPECT_EQ(Figuren().filter("N E"), QStringList{"N E 10 -5 -"}) << "its point is hidden";
+    NimmAllesZurueck();
+    EXPECT_EQ(Aenderung(vorher), QStringList());
+}
+
+TEST_F(Punkte, ArtUndOrtAendern) {
+    const std::string bytes = Gespeichert();
+    const QStringList vorher = Figuren();
+    Modus("PunktartButton");
+    EXPECT_TRUE(fenster.findChild<QDialog*>("TFormPunktart")->isVisible());
+    Klick(A);
+    EXPECT_EQ(Feld("PktNummer").text(), "A");
+    EXPECT_EQ(Feld("PktY").text(), "1000.0000");
+    EXPECT_EQ(Feld("PktX").text(), "1000.0000");
+    EXPECT_TRUE(Finde("TFormPunktart", "RadioGroupPktArt0").isChecked());
+    EXPECT_TRUE(Finde("TFormPunktart", "RadioGroupSymb1").isChecked());
+    Finde("TFormPunktart", "RadioGroupPktArt2").click();
+    Finde("TFormPunktart", "RadioGroupSymb5").click();
+    EXPECT_EQ(Aenderung(vorher), QStringList()) << "not before \"Zeichnen\"";
+    Finde("TFormPunktart", "DrawButton").click();
+    EXPECT_EQ(Aenderung(vorher), (QStringList{"+ P A 125 250 FH Drei", "- P A 125 250 FP Krei"}));
+    EXPECT_EQ(Punkt("A")->Item->Farbe, einstellungen.FHCol);
+    EXPECT_EQ(fenster.Netz()->FindPktText(Punkt("A")->PNr)->Col, einstellungen.FHCol);
+    Zeichne("A", "1080", " 1.16D+03 ");
+    EXPECT_EQ(Aenderung(vorher), (QStringList{"+ P A 135 230 FH Drei", "- P A 125 250 FP Krei"}));
+    PruefeNetz();
+    NimmAllesZurueck();
+    EXPECT_TRUE(Gespeichert() == bytes);
+    Knopf("PunktartButton").click();
+    EXPECT_FALSE(fenster.findChild<QDialog*>("TFormPunktart")->isVisible());
+}
+
+TEST_F(Punkte, NeuerPunkt) {
+    const std::string bytes = Gespeichert();
+    const QStringList vorher = Figuren();
+    Modus("PunktartButton");
+    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
+    Finde("TFormPunktart", "RadioGroupPktArt1").click();
+    Finde("TFormPunktart", "RadioGroupSymb3").click();
+    Zeichne(" Süd 1 ", "2800", "1400");
+    EXPECT_EQ(Aenderung(vorher), (QStringList{"+ N Süd 1 10 -5", "+ P Süd 1 350 200 FL Qua"}));
+    PruefeNetz();
+    EXPECT_TRUE(dialoge.meldungen.isEmpty());
+    EXPECT_EQ(fenster.findChild<QComboBox*>("ComboBox1")->findText("Süd 1"), 5);
+    EXPECT_TRUE(Eintraege("GroupBox1", "ExzListBox").contains("Süd 1"));
+    fenster.Rueckgaengig();
+    EXPECT_TRUE(Gespeichert() == bytes);
+    EXPECT_EQ(fenster.findChild<QComboBox*>("ComboBox1")->findText("Süd 1"), -1);
+    fenster.Wiederhole();
+    // A line to it goes with it.
+    Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+    Modus("EditBeobButton");
+    Klick({350, 200});
+    Klick(A);
+    EXPECT_EQ(Figuren().filter("Süd 1-A").size(), 1);
+    Modus("DelPunktButton");
+    Klick({350, 200});
+    EXPECT_EQ(Aenderung(vorher), QStringList());
+    NimmAllesZurueck();
+    EXPECT_TRUE(Gespeichert() == bytes);
+}
+
+TEST_F(Punkte, AbgelehnteAngaben) {
+    const QString zahlen = "Die Koordinaten sind keine Zahlen (Dezimaltrenner ist der Punkt).";
+    const struct {
+        bool neu;
+        const char* nummer;
+        const char* rechts;
+        const char* hoch;
+        QString meldung;
+    } faelle[] = {
+        {true, "", "1500", "1500", "Der neue Punkt braucht eine Nummer."},
+        {true, "   ", "1500", "1500", "Der neue Punkt braucht eine Nummer."},
+        {true, "A", "1500", "1500", "Den Punkt A gibt es schon."},
+        {true, "Q", "", "1500", zahlen},
+        {true, "Q", "1500", "1500,5", zahlen},
+        {true, "Q", "nan", "1500", zahlen},
+        {true, "Q", "1500", "1e999", zahlen},
+        {false, "A", "x", "1500", zahlen},
+        {false, "A", "1500", "1500", "Bitte zuerst einen Punkt im Bild anklicken."},
+    };
+    Modus("PunktartButton");
+    const std::string bytes = Gespeichert();
+    for (const auto& f : faelle) {
+        SCOPED_TRACE(f.meldung.toStdString());
+        dialoge.meldungen.clear();
+        Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(f.neu);
+        Zeichne(f.nummer, f.rechts, f.hoch);
+        EXPECT_EQ(dialoge.meldungen, QStringList{f.meldung});
+        EXPECT_TRUE(Gespeichert() == bytes);
+        EXPECT_FALSE(fenster.Ungesichert());
+    }
+    // The picked point is gone: there is none to change.
+    Klick(A);
+    Modus("DelPunktButton");
+    Klick(A);
+    Modus("PunktartButton");
+    dialoge.meldungen.clear();
+    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(false);
+    Zeichne("A", "1500", "1500");
+    EXPECT_EQ(dialoge.meldungen, QStringList{"Bitte zuerst einen Punkt im Bild anklicken."});
+}
+
+TEST_F(Punkte, VollesNetz) {
+    std::string inhalt = "$NT 3\n$FP";
+    for (int i = 1; i <= 65535; ++i) {
+        const std::string nummer = std::to_string(i);
+        inhalt += (i == 1 ? " " : "    ") + nummer + std::string(15 - nummer.size(), ' ') + "1 " +
+                  std::to_string(1000 + i % 256) + " " + std::to_string(1000 + i / 256) + "\n";
+    }
+    Lege("voll.EIN", inhalt + "$$$\n");
+    Oeffne("voll.EIN");
+    ASSERT_EQ(fenster.Netz()->MaxPkte, 65535);
+    dialoge.meldungen.clear();
+    Modus("PunktartButton");
+    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
+    Zeichne("Q", "1500", "1500");
+    EXPECT_EQ(dialoge.meldungen, QStringList{"Mehr als 65 535 Punkte fasst ein Netz nicht."});
+    EXPECT_EQ(fenster.Netz()->MaxPkte, 65535);
+    // A number that has become free is taken again.
+    Modus("DelPunktButton");
+    Klick(Ort("65535"));
+    Modus("PunktartButton");
+    Zeichne("Q", "1500", "1500");
+    EXPECT_NE(Punkt("Q"), nullptr);
+    EXPECT_EQ(fenster.Netz()->MaxPkte, 65535);
+}
+
+TEST_F(Punkte, NummernfeldSuchtUndZeigt) {
+    Lege("s.EIN",
+         "$NT 3\n$FP A              1         1000         1000\n"
+         "    ROTST          1         3000         1000\n    ROTEN          1         3000         2000\n"
+         "    Tal            1         2000         1500\n$$$\n");
+    Oeffne("s.EIN");
+    auto& feld = *fenster.findChild<QComboBox*>("ComboBox1");
+    EXPECT_EQ(feld.count(), 4);
+    bild->setFocus();
+    QTest::keyClick(bild, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(feld.hasFocus());
+    int weg = 0;  // how far the picture is panned away first
+    for (const auto& [getippt, gefunden] : {std::pair{"ROTEN", "ROTEN"},
+                                            {"otst", "ROTST"},
+                                            {"ROT", "ROTST"},
+                                            {"al", "Tal"},
+                                            {"A", "A"},
+                                            {"TAL", "Tal"}}) {
+        SCOPED_TRACE(getippt);
+        for (int i = 0; i < weg; ++i)
+            QTest::keyClick(bild, Qt::Key_Left);
+        weg += 5;
+        feld.lineEdit()->selectAll();
+        const double faktor = fenster.Netz()->Faktor;
+        const QImage vorher = fenster.Bild().copy();
+        QTest::keyClicks(feld.lineEdit(), getippt);
+        feld.completer()->popup()->hide();
+        QTest::keyClick(feld.lineEdit(), Qt::Key_Return);
+        EXPECT_EQ(feld.currentText(), gefunden);
+        EXPECT_EQ(Status(), QString("Punkt ") + gefunden);
+        EXPECT_TRUE(bild->rect().contains(Ort(gefunden)));
+        EXPECT_EQ(fenster.Netz()->Faktor, faktor);
+        EXPECT_FALSE(fenster.Bild() == vorher) << "marked";
+        EXPECT_EQ(fenster.Bild().pixelColor(Ort(gefunden) - QPoint(0, 25)), QColor(0, 0, 255));
+    }
+    const QImage vorher = fenster.Bild().copy();
+    for (const char* getippt : {"XYZ", "Punktnummern", ""}) {
+        feld.setEditText(getippt);
+        Knopf("SpeedButton10").click();
+        EXPECT_TRUE(fenster.Bild() == vorher) << getippt;
+    }
+    EXPECT_FALSE(fenster.Ungesichert());
+    Modus("DelPunktButton");
+    Klick(Ort("Tal"));
+    EXPECT_EQ(feld.count(), 3);
+}
+
+TEST_F(Punkte, TastenDerAnsicht) {
+    const Liste& l = *fenster.Netz();
+    const QImage alles = fenster.Bild().copy();
+    const auto taste = [&](const auto& t) {
+        QTest::keyClick(bild, t);
+        QTest::qWait(150);  // a shortcut shows its button pressed for a moment
+    };
+    for (const auto& [pfeil, weg] : {std::pair{Qt::Key_Left, QPoint(80, 0)},
+                                     {Qt::Key_Right, QPoint(-80, 0)},
+                                     {Qt::Key_Up, QPoint(0, 53)},
+                                     {Qt::Key_Down, QPoint(0, -53)}}) {
+        const QPoint vorher = Ort("A");
+        QTest::keyClick(bild, pfeil);
+        EXPECT_EQ(Ort("A") - vorher, weg);
+    }
+    EXPECT_TRUE(fenster.Bild() == alles);
+    taste('+');
+    EXPECT_NEAR(l.Faktor, 16.0 / 3, 1e-9);
+    taste('-');
+    taste('-');
+    EXPECT_NEAR(l.Faktor, 12, 1e-9);
+    QTest::keyClick(bild, Qt::Key_Left);
+    taste(Qt::Key_Home);
+    EXPECT_TRUE(fenster.Bild() == alles);
+
+    // F fits what is visible, with a margin: wide, tall, one point, one place.
+    const struct {
+        const char* name;
+        const char* netz;
+        QRect rahmen;
+    } faelle[] = {
+        {"breit", "A              1 1000 1000\n    B              1 1720 1010\n", {40, 260, 721, 11}},
+        {"hoch", "A              1 1000 1000\n    B              1 1001 1045\n", {395, 40, 11, 451}},
+        {"einer", "A              1 1000 1000\n", {400, 265, 1, 1}},
+        {"zwei an einem Ort",
+         "A              1 1000 1000\n    B              1 1000 1000\n",
+         {400, 265, 1, 1}},
+    };
+    for (const auto& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Lege("f.EIN", std::string("$NT 3\n$FP ") + f.netz + "$$$\n");
+        Oeffne("f.EIN");
+        ASSERT_NE(Punkt("A"), nullptr);
+        taste(Qt::Key_F);
+        QRect rahmen(Ort("A"), QSize(1, 1));
+        if (Punkt("B") != nullptr) rahmen |= QRect(Ort("B"), QSize(1, 1));
+        EXPECT_EQ(rahmen, f.rahmen);
+    }
+    Neu();
+    Verbirg("A");
+    Verbirg("B");
+    taste(Qt::Key_F);
+    EXPECT_EQ(Ort("C").x(), 40) << "hidden points do not count";
+    EXPECT_EQ(Ort("E").x(), 760);
+}
+
+}  // namespace
+}  // namespace zrw
