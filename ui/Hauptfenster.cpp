@@ -183,7 +183,10 @@ void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
         auto* knopf = NeuerKnopf(b.komponente, b.hinweis, b.bild, this);
         const QKeySequence taste(QString::fromLatin1(b.taste));
         if (!taste.isEmpty()) {
-            knopf->setShortcut(taste);
+            // Not the button's own shortcut: it plays the click, and a second press within that is lost.
+            if (b.klick != nullptr)
+                connect(new QShortcut(taste, this), &QShortcut::activated, this,
+                        [this, klick = b.klick] { (this->*klick)(); });
             knopf->setToolTip(QString::fromUtf8(b.hinweis) + QStringLiteral(" (") + Tastenname(taste) +
                               QLatin1Char(')'));
         }
@@ -282,7 +285,9 @@ void TZrwMainDlg::BaueDialoge() {
     zentrierkasten_->zentriere = [this](const std::optional<QString>& zentrum, const QStringList& exzentren) {
         ZentriereListe(zentrum, exzentren);
     };
-    zentrierkasten_->zentrumGewaehlt = [this](const QString& nummer) { ComboBox1_->setCurrentText(nummer); };
+    zentrierkasten_->zentrumGewaehlt = [this](const QString& nummer) {
+        ComboBox1_->setCurrentIndex(ComboBox1_->findText(nummer));
+    };
     zentrierkasten_->beendet = [this] {
         Knopf("SpeedButton13").setChecked(false);
         ZeichneNeu();
@@ -299,6 +304,10 @@ void TZrwMainDlg::BaueDialoge() {
     punktart_ = new TFormPunktart(this);
     punktart_->zeichnen = [this] { ZeichnePunktart(); };
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
+    // Closing the window of a mode ends the mode.
+    connect(punktart_, &QDialog::finished, this, [this] { Knopf("PunktartButton").setChecked(false); });
+    connect(beobachtungstyp_, &QDialog::finished, this,
+            [this] { Knopf("EditBeobButton").setChecked(false); });
 }
 
 QToolButton& TZrwMainDlg::Knopf(const char* komponente) const {

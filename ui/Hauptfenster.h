@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSet>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QUndoStack>
@@ -93,8 +94,8 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void EinpassenClick();      ///< fits the visible points
     void NummernZeigenClick();  ///< shows all hidden numbers
     void LetzteDateienClick();
-    void Rueckgaengig() { aenderungen_.undo(); }
-    void Wiederhole() { aenderungen_.redo(); }
+    void Rueckgaengig();
+    void Wiederhole();
 
     /// Help keys work in every window of the program.
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
@@ -119,7 +120,6 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     [[nodiscard]] QToolButton& Knopf(const char* komponente) const;
 
     // HauptfensterDateien.cpp
-    void BereiteLesenVor();
     void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
     [[nodiscard]] bool Speichere();
     [[nodiscard]] bool DarfVerwerfen();
@@ -127,8 +127,10 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
 
     // HauptfensterAnsicht.cpp
     void Zoome(double x, double y, bool groesser);
-    void SetzeAnsicht(double faktor, Welt linksOben);
-    void MerkeAnsicht();
+    /// False where the scale lies beyond what zooming allows.
+    bool SetzeAnsicht(double faktor, Welt linksOben);
+    void MerkeAnsicht(double faktor, Welt linksOben);
+    void HebeHervor();
     void ZeigeStatus(Bildpunkt ort);
     void ZeigeZeiger(Bildpunkt ort);
     [[nodiscard]] Werkzeug* Aktiv() const;
@@ -161,6 +163,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ZeichnePunktart();
     void FuegePunktEin(const struct Punkteingabe& eingabe, Welt ort);
     void VerbergePunkte(const QStringList& nummern);
+    void Verberge(std::unique_ptr<class SichtbarkeitGeaendert> aenderung, const QStringList& nummern);
     void ZeigeVerborgene(const QStringList& nummern);
     void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
     void VerbergePunkt(PunktKnoten& punkt) override;
@@ -201,8 +204,11 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     TFormHiddenPkt* versteckte_ = nullptr;
     TFormData* ergebnisse_ = nullptr;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
-    QStringList zuZeigen_;             ///< hidden points that are being shown again
-    PunktKnoten* gewaehlt_ = nullptr;  ///< the point in the dialog of point kinds
+    QStringList zuZeigen_;                 ///< hidden points that are being shown again
+    QSet<QString> zentriert_;              ///< numbers that left the lists of centring
+    bool ausdehnungAlt_ = false;           ///< points may lie beyond the extents of the network
+    Welt gewaehltOrt_;                     ///< as the dialog of point kinds shows it
+    PunktKnoten* gewaehlt_ = nullptr;      ///< the point in the dialog of point kinds
     /// Views before zooming: scale and world position of the top-left corner.
     std::vector<std::pair<double, Welt>> ansichten_;
     QString titel_;

@@ -29,6 +29,12 @@ void TZrwMainDlg::ZeichneNeu() {
     liste_->WeltinBild();
     liste_->ShowPicture(zeichner_);
     bild_->update();
+    HebeHervor();
+}
+
+/// What lies under the mouse now: the picture has moved below it.
+void TZrwMainDlg::HebeHervor() {
+    if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr && gedrueckt_ == nullptr) werkzeug->Schweben(maus_);
 }
 
 void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
@@ -47,8 +53,10 @@ void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
 void TZrwMainDlg::SpeedButton3Click() {
     if (liste_ == nullptr) return;
     BrichAb();
+    if (std::exchange(ausdehnungAlt_, false)) liste_->FindWorldMinMax();
     liste_->Alles(zeichner_);
     bild_->update();
+    HebeHervor();
 }
 
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
@@ -74,28 +82,28 @@ void TZrwMainDlg::EinpassenClick() {
     const double hoehe = std::max(liste_->Hoehe - 2 * kRand, 1);
     // One point alone, or several at one place: a few hundred metres round it.
     const double faktor = dx > 0 || dy > 0 ? std::max(dx / weite, dy / hoehe) : kEinzelpunkt;
-    MerkeAnsicht();
     SetzeAnsicht(faktor, {(min.rechts + max.rechts - liste_->Weite * faktor) / 2,
                           (min.hoch + max.hoch + liste_->Hoehe * faktor) / 2});
 }
 
 /// @param linksOben world position of the picture's top-left corner
-void TZrwMainDlg::SetzeAnsicht(double faktor, Welt linksOben) {
+bool TZrwMainDlg::SetzeAnsicht(double faktor, Welt linksOben) {
     if (!(faktor >= kFeinster && faktor <= kGroebster)) {
         ZeigeStatus(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
-        return;
+        return false;
     }
     BrichAb();
     liste_->Faktor = faktor;
     liste_->XOffset = linksOben.rechts - liste_->MinXW;
     liste_->YOffset = linksOben.hoch - liste_->MaxYW;
     ZeichneNeu();
+    return true;
 }
 
-void TZrwMainDlg::MerkeAnsicht() {
+void TZrwMainDlg::MerkeAnsicht(double faktor, Welt linksOben) {
     constexpr std::size_t kHoechstens = 50;
     if (ansichten_.size() == kHoechstens) ansichten_.erase(ansichten_.begin());
-    ansichten_.emplace_back(liste_->Faktor, liste_->BildinWelt({}));
+    ansichten_.emplace_back(faktor, linksOben);
 }
 
 void TZrwMainDlg::AnsichtZurueck() {
@@ -110,15 +118,19 @@ void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
     const auto hoehe = static_cast<double>(std::max<std::int64_t>(std::llabs(a.y - b.y), 1));
     const Welt eckeA = liste_->BildinWelt(a);
     const Welt eckeB = liste_->BildinWelt(b);
-    const double faktor = liste_->Faktor * std::max(weite / liste_->Weite, hoehe / liste_->Hoehe);
-    MerkeAnsicht();
-    SetzeAnsicht(faktor, {(eckeA.rechts + eckeB.rechts - liste_->Weite * faktor) / 2,
-                          (eckeA.hoch + eckeB.hoch + liste_->Hoehe * faktor) / 2});
+    const double vorher = liste_->Faktor;
+    const Welt ecke = liste_->BildinWelt({});
+    const double faktor = vorher * std::max(weite / liste_->Weite, hoehe / liste_->Hoehe);
+    if (SetzeAnsicht(faktor, {(eckeA.rechts + eckeB.rechts - liste_->Weite * faktor) / 2,
+                              (eckeA.hoch + eckeB.hoch + liste_->Hoehe * faktor) / 2}))
+        MerkeAnsicht(vorher, ecke);
 }
 
 void TZrwMainDlg::ZoomeUm(Bildpunkt ort) {
-    MerkeAnsicht();
+    const double vorher = liste_->Faktor;
+    const Welt ecke = liste_->BildinWelt({});
     Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
+    if (liste_->Faktor != vorher) MerkeAnsicht(vorher, ecke);
 }
 
 void TZrwMainDlg::ButtonGroesserClick() {
@@ -152,6 +164,7 @@ void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
         l.ZoomDown(zeichner_);
     }
     bild_->update();
+    HebeHervor();
 }
 
 void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {

@@ -30,6 +30,7 @@ void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
 
 void TZrwMainDlg::SpeedButton12Click() {
     if (liste_ == nullptr) return;
+    BrichAb();
     legendentexte_->Bearbeite(*liste_);
     liste_->Legend->Masstab = Utf8NachCp1252(NachUtf8(EditMasstab_->text()));
     ZeichneNeu();
@@ -37,6 +38,7 @@ void TZrwMainDlg::SpeedButton12Click() {
 
 void TZrwMainDlg::SpeedButton16Click() {
     if (liste_ == nullptr) return;
+    BrichAb();  // figures that are being dragged are out of the picture
     const auto massstab = EditMasstab_->Massstab();
     if (!massstab) {
         programm_.dialoge.Melde(QStringLiteral("Der Druckmaßstab muss eine Zahl größer als 0 sein."));

@@ -154,6 +154,7 @@ bool TZrwMainDlg::DarfVerwerfen() {
 }
 
 void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
+    BrichAb();
     if (!beendet_ && !DarfVerwerfen()) {
         ereignis->ignore();
         return;
@@ -194,7 +195,8 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     bool mitFenster = true;
     try {
         const Sanduhr sanduhr;
-        if (!IstBilddatei(datei)) BereiteLesenVor();
+        // Every reading of a control file starts from the stored settings: they colour what is read.
+        if (!IstBilddatei(datei)) LoadSettings(programm_.einstellungen, programm_.ablage);
         lesung = OeffneNetz(
             datei, programm_.dateien, programm_.einstellungen, programm_.netz,
             {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); },
@@ -226,14 +228,6 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     }
 }
 
-/// Every reading of a control file starts from the stored settings, screen sizes and the usual font.
-void TZrwMainDlg::BereiteLesenVor() {
-    LoadSettings(programm_.einstellungen, programm_.ablage);
-    programm_.zustand.Geraetefaktor = 1.0;
-    programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
-    flaeche_.SetzeSchrift(Zeichenschrift());
-}
-
 void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
     const Sanduhr sanduhr;
     // Nothing may point into the network that goes now.
@@ -244,6 +238,8 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     ansichten_.clear();
     aenderungen_.clear();
     ungesichert_ = false;
+    ausdehnungAlt_ = false;
+    zentriert_.clear();
     liste_ = std::move(lesung.liste);
     FuelleNummern();
     programm_.netz = lesung.netz;
@@ -256,6 +252,10 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
         }
     } else {
         steuerdatei_ = datei;
+        // And from screen sizes and the usual font.
+        programm_.zustand.Geraetefaktor = 1.0;
+        programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
+        flaeche_.SetzeSchrift(Zeichenschrift());
     }
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         const bool ein =
@@ -275,11 +275,14 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
                     .arg(info.fileName())
                     .arg(liste_->MaxPkte)
                     .arg(liste_->MaxKant));
+    // A mode that was chosen before there was a network.
+    if (Aktiv() != nullptr) Aktiv()->Beginne();
     ZeichneNeu();
 }
 
 bool TZrwMainDlg::Speichere() {
     if (liste_ == nullptr) return true;
+    BrichAb();  // figures that are being dragged are marked invisible
     QString vorschlag;
     if (!steuerdatei_.empty()) {
         const QString name = QFileInfo(AusUtf8(PfadText(steuerdatei_))).fileName();
@@ -299,6 +302,8 @@ bool TZrwMainDlg::Speichere() {
     aenderungen_.setClean();
     ZeigeTitel();
     ordner_ = QFileInfo(*name).absolutePath();
+    programm_.sitzung.MerkeOrdner(ordner_);
+    programm_.sitzung.NimmDatei(QFileInfo(*name).absoluteFilePath());
     ZeigeStatus(QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name));
     return true;
 }

@@ -2,7 +2,7 @@
 #include <QComboBox>
 #include <QStringListModel>
 #include <algorithm>
-#include <cmath>
+#include <iterator>
 
 #include "model/Punktarten.h"
 #include "model/Zahlentext.h"
@@ -28,10 +28,26 @@ std::string AlsNummer(const QString& text) {
 
 }  // namespace
 
+// A drag under way ends first: its figures are out of the picture, and what is changed may be one of them.
+void TZrwMainDlg::Rueckgaengig() {
+    BrichAb();
+    aenderungen_.undo();
+}
+
+void TZrwMainDlg::Wiederhole() {
+    BrichAb();
+    aenderungen_.redo();
+}
+
 /// A change was made, undone or made again.
 void TZrwMainDlg::NetzGeaendert() {
     if (liste_ == nullptr) return;
+    ausdehnungAlt_ = true;
     if (gewaehlt_ != nullptr && !liste_->Enthaelt(*gewaehlt_)) gewaehlt_ = nullptr;
+    // The dialog must not put the point back to where it was.
+    if (gewaehlt_ != nullptr &&
+        (gewaehlt_->XWPu != gewaehltOrt_.rechts || gewaehlt_->YWPu != gewaehltOrt_.hoch))
+        WaehlePunkt(*gewaehlt_);
     if (nummernstand_ != liste_->MaxPkte) FuelleNummern();
     ZeichneNeu();
     for (const auto& werkzeug : werkzeuge_)
@@ -46,8 +62,12 @@ void TZrwMainDlg::FuelleNummern() {
     std::reverse(nummern.begin(), nummern.end());
     nummern_->setStringList(nummern);
     ComboBox1_->setEditText(QStringLiteral("Punktnummern"));
-    zentrierkasten_->Fuelle(nummern);
+    QStringList exzentren;
+    std::copy_if(nummern.begin(), nummern.end(), std::back_inserter(exzentren),
+                 [this](const QString& nummer) { return !zentriert_.contains(nummer); });
+    zentrierkasten_->Fuelle(exzentren);
     if (zentrierkasten_->isVisible()) zentrierkasten_->Zeige();
+    if (punkteVerstecken_->isVisible()) punkteVerstecken_->Fuelle(nummern);
     nummernstand_ = liste_->MaxPkte;
 }
 
@@ -118,6 +138,7 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
         for (const QString& nummer : exzentren) {
             if (PPunktKnoten p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
                 liste_->ZentrierPunkt(*p, *ziel, zeichner_);
+            zentriert_ << nummer;
         }
         ungesichert_ = true;
         aenderungen_.clear();
@@ -144,7 +165,9 @@ void TZrwMainDlg::SpeedButton15Click() {
 
 void TZrwMainDlg::VerbergePunkt(PunktKnoten& punkt) {
     const Sanduhr sanduhr;
-    VerbergePunkte({AusNetz(liste_->GetPktText(punkt.PNr))});
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt verstecken"));
+    aenderung->NimmPunkt(*liste_, punkt, false);
+    Verberge(std::move(aenderung), {AusNetz(liste_->GetPktText(punkt.PNr))});
 }
 
 void TZrwMainDlg::VerbergePunkte(const QStringList& nummern) {
@@ -153,6 +176,16 @@ void TZrwMainDlg::VerbergePunkte(const QStringList& nummern) {
     for (const QString& nummer : nummern) {
         if (const PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
             aenderung->NimmPunkt(*liste_, *p, false);
+    }
+    Verberge(std::move(aenderung), nummern);
+}
+
+void TZrwMainDlg::Verberge(std::unique_ptr<SichtbarkeitGeaendert> aenderung, const QStringList& nummern) {
+    if (aenderung->Leer()) {
+        // Hidden already: they stand in the list once more, but there is nothing to undo.
+        versteckte_->Nimm(nummern);
+        ZeichneNeu();
+        return;
     }
     // The list of hidden points goes with the change, there and back.
     aenderung->danach = [this, nummern](bool getan) {
@@ -163,11 +196,7 @@ void TZrwMainDlg::VerbergePunkte(const QStringList& nummern) {
                 versteckte_->Entferne(nummer);
         }
     };
-    if (nummern.isEmpty()) {
-        ZeichneNeu();
-    } else {
-        Tue(std::move(aenderung));
-    }
+    Tue(std::move(aenderung));
 }
 
 /// Numbers that this network does not have are passed over: the list of hidden points outlives a network.
@@ -195,6 +224,7 @@ void TZrwMainDlg::ZeigeVerborgene(const QStringList& nummern) {
 
 void TZrwMainDlg::NummernZeigenClick() {
     if (liste_ == nullptr) return;
+    BrichAb();
     auto aenderung =
         std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Versteckte Punktnummern zeigen"));
     for (PPunktString t = liste_->PktTextKnoten; t != nullptr; t = t->Next) {
@@ -209,6 +239,7 @@ void TZrwMainDlg::NummernZeigenClick() {
 
 void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
     gewaehlt_ = &punkt;
+    gewaehltOrt_ = {punkt.XWPu, punkt.YWPu};
     punktart_->Zeige({AusNetz(liste_->GetPktText(punkt.PNr)),
                       ArtNachFarbe(punkt.Item->Farbe, programm_.einstellungen), punkt.Item->PktTyp,
                       AusUtf8(Festkomma(punkt.XWPu, 0, 4)), AusUtf8(Festkomma(punkt.YWPu, 0, 4)), false});
@@ -239,7 +270,9 @@ void TZrwMainDlg::ZeichnePunktart() {
                       e.hoch == AusUtf8(Festkomma(gewaehlt_->YWPu, 0, 4));
     const PunktGeaendert::Angaben neu{e.art, e.symbol, programm_.einstellungen.*ZurArt(e.art).farbe,
                                       hier ? Welt{gewaehlt_->XWPu, gewaehlt_->YWPu} : ort};
-    Tue(std::make_unique<PunktGeaendert>(*gewaehlt_, liste_->FindPktText(gewaehlt_->PNr), neu));
+    const Punkt& p = *gewaehlt_->Item;
+    const bool gleich = hier && p.PktArt == neu.art && p.PktTyp == neu.symbol && p.Farbe == neu.farbe;
+    if (!gleich) Tue(std::make_unique<PunktGeaendert>(*gewaehlt_, liste_->FindPktText(gewaehlt_->PNr), neu));
 }
 
 void TZrwMainDlg::FuegePunktEin(const Punkteingabe& eingabe, Welt ort) {

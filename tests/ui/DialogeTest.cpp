@@ -109,7 +109,8 @@ TEST(TFormPunktart, EingabeUndArtNachFarbe) {
     QTest::keyClicks(&Finde<QLineEdit>(form, "PktY"), ".5");
     Klicke(form, {"RadioGroupPktArt1", "RadioGroupSymb4", "CheckBoxNeuPkt", "DrawButton"});
     const Punkteingabe e = form.Eingabe();
-    EXPECT_EQ((QStringList{e.nummer, e.rechts, e.hoch}), (QStringList{"12345678901234", "1.5", "2"}));
+    EXPECT_EQ((QStringList{e.nummer, e.rechts, e.hoch}), (QStringList{"123456789012345678", "1.5", "2"}))
+        << "too long a number is refused, not cut";
     EXPECT_TRUE(e.art == PunktArt::FL && e.symbol == PunktTyp::Rau && e.neu && gezeichnet == 1);
 
     Einstellungen s;

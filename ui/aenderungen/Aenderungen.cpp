@@ -49,14 +49,16 @@ void SichtbarkeitGeaendert::undo() {
     if (danach) danach(false);
 }
 
-KanteGeaendert::KanteGeaendert(Kante& kante, LinieAttr richtung, KanteAttr weitere)
-    : kante_(kante), andereRichtung_(richtung), andereWeitere_(weitere) {
+KanteGeaendert::KanteGeaendert(Liste& liste, PunktKante& kante, LinieAttr richtung, KanteAttr weitere,
+                               bool drehen)
+    : liste_(liste), kante_(kante), andereRichtung_(richtung), andereWeitere_(weitere), drehen_(drehen) {
     setText(QStringLiteral("Beobachtung ändern"));
 }
 
 void KanteGeaendert::redo() {
-    std::swap(kante_.LAttr, andereRichtung_);
-    std::swap(kante_.KAttr, andereWeitere_);
+    std::swap(kante_.Item->LAttr, andereRichtung_);
+    std::swap(kante_.Item->KAttr, andereWeitere_);
+    if (drehen_) liste_.DreheKante(kante_);
 }
 
 KanteEingefuegt::KanteEingefuegt(Liste& liste, const Kante& kante, PunktIndex anfang, PunktIndex ende)

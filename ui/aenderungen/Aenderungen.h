@@ -59,14 +59,18 @@ class SichtbarkeitGeaendert final : public QUndoCommand {
 /// Other observations on a line.
 class KanteGeaendert final : public QUndoCommand {
   public:
-    KanteGeaendert(Kante& kante, LinieAttr richtung, KanteAttr weitere);
+    /// @param drehen its ends change places, too
+    KanteGeaendert(Liste& liste, PunktKante& kante, LinieAttr richtung, KanteAttr weitere,
+                   bool drehen = false);
     void redo() override;
     void undo() override { redo(); }
 
   private:
-    Kante& kante_;
+    Liste& liste_;
+    PunktKante& kante_;
     LinieAttr andereRichtung_;
     KanteAttr andereWeitere_;
+    bool drehen_;
 };
 
 class KanteEingefuegt final : public QUndoCommand {

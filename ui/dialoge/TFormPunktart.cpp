@@ -52,7 +52,6 @@ TFormPunktart::TFormPunktart(QWidget* eltern)
       CheckBoxNeuPkt_(new QCheckBox(QStringLiteral("Neupunkt"), this)) {
     setObjectName(QStringLiteral("TFormPunktart"));
     setWindowTitle(QStringLiteral("Punktart"));
-    PktNummer_->setMaxLength(static_cast<int>(PunktNummernTyp::kLaenge));
     RadioGroupPktArt_->setToolTip(QStringLiteral("Punktart angeben"));
     CheckBoxNeuPkt_->setObjectName(QStringLiteral("CheckBoxNeuPkt"));
     CheckBoxNeuPkt_->setToolTip(QStringLiteral("Neupunkt einfügen"));

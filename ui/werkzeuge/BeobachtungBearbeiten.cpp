@@ -62,7 +62,8 @@ void BeobachtungBearbeiten::TypGewaehlt() {
     Kante& kante = *kante_->Item;
     const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(), kante.KAttr);
     if (typ == Beobachtungstyp{kante.LAttr, kante.KAttr}) return;
-    umgebung_.Tue(std::make_unique<KanteGeaendert>(kante, typ.richtung, typ.weitere));
+    umgebung_.Tue(
+        std::make_unique<KanteGeaendert>(*umgebung_.AktuelleListe(), *kante_, typ.richtung, typ.weitere));
 }
 
 void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
@@ -74,7 +75,11 @@ void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
     const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(),
                                        vorhanden != nullptr ? vorhanden->Item->KAttr : KanteAttr());
     if (vorhanden != nullptr) {
-        umgebung_.Tue(std::make_unique<KanteGeaendert>(*vorhanden->Item, typ.richtung, typ.weitere));
+        // What is one-sided points from the first point to the second.
+        const Beobachtungswahl wahl = umgebung_.Beobachtungsdialog().Wahl();
+        const bool drehen = vorhanden->ANr != erster.PNr && (wahl.richtung == 1 || wahl.hoehe == 1);
+        if (!drehen && typ == Beobachtungstyp{vorhanden->Item->LAttr, vorhanden->Item->KAttr}) return;
+        umgebung_.Tue(std::make_unique<KanteGeaendert>(netz, *vorhanden, typ.richtung, typ.weitere, drehen));
         return;
     }
     const Kante neu = Kante::Create(umgebung_.Anzeige().GPSCol, typ.weitere, typ.richtung);
@@ -90,7 +95,7 @@ void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {
     if (erster_ != nullptr) umgebung_.ZeigeStatus(Anleitung());
 }
 
-void BeobachtungBearbeiten::ZeigeGewaehltes(Vorschau dazu) {
+void BeobachtungBearbeiten::ZeigeGewaehltes(const Vorschau& dazu) {
     const Vorschau gewaehlt = erster_ != nullptr ? MarkiereTreffer(erster_) : MarkiereTreffer(kante_);
     umgebung_.ZeigeVorschau([=](Zeichner& z, Zeichenflaeche& f) {
         if (gewaehlt) gewaehlt(z, f);
@@ -105,6 +110,8 @@ void BeobachtungBearbeiten::Abbrechen() {
 }
 
 void BeobachtungBearbeiten::NetzGeaendert() {
+    // Another tool may have the preview.
+    if (kante_ == nullptr && erster_ == nullptr) return;
     Liste& netz = *umgebung_.AktuelleListe();
     if (kante_ != nullptr && !netz.Enthaelt(*kante_)) kante_ = nullptr;
     if (erster_ != nullptr && !netz.Enthaelt(*erster_)) erster_ = nullptr;

@@ -13,7 +13,7 @@ class BeobachtungBearbeiten final : public Werkzeug {
     void Beginne() override;
     void Beende() override;
     void Druecken(Bildpunkt ort) override;
-    void Ziehen(Bildpunkt /*ort*/) override {}
+    void Ziehen(Bildpunkt ort) override { Schweben(ort); }
     void Loslassen(Bildpunkt /*ort*/) override {}
     void Schweben(Bildpunkt ort) override;
     void Abbrechen() override;
@@ -25,7 +25,7 @@ class BeobachtungBearbeiten final : public Werkzeug {
     void Waehle(PunktKante* kante);
     void TypGewaehlt();
     void Verbinde(Liste& netz, PunktKnoten& zweiter);
-    void ZeigeGewaehltes(Vorschau dazu);
+    void ZeigeGewaehltes(const Vorschau& dazu);
 
     Werkzeugumgebung& umgebung_;
     PunktKante* kante_ = nullptr;    ///< picked, the dialog changes it

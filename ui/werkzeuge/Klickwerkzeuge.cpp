@@ -57,6 +57,7 @@ void PunktartWaehlen::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
 namespace {
 
 PktText* Nummer(Liste& netz, Bildpunkt ort) {
+    if (!netz.ShowPktText || !netz.ShowHilfP) return nullptr;
     if (const PunktString* t = netz.ClickGezeigtenText(ort); t != nullptr) return t->Item;
     const PunktKnoten* p = netz.ClickGezeigten(ort);
     PktText* text = p != nullptr ? netz.FindPktText(p->PNr) : nullptr;

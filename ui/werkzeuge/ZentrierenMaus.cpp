@@ -19,6 +19,7 @@ void ZentrierenMaus::Druecken(Bildpunkt ort) {
         umgebung_.ZeigeStatus(QStringLiteral("Zentrierung Exzentrum gewählt, bitte Zentrum anklicken."));
         return;
     }
+    if (punkt == exzentrum_) return;  // a double click
     PunktKnoten& exzentrum = *exzentrum_;
     Abbrechen();
     umgebung_.Zentriere(exzentrum, *punkt);

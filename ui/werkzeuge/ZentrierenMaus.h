@@ -10,7 +10,7 @@ class ZentrierenMaus final : public Werkzeug {
     explicit ZentrierenMaus(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
     void Druecken(Bildpunkt ort) override;
-    void Ziehen(Bildpunkt /*ort*/) override {}
+    void Ziehen(Bildpunkt ort) override { Schweben(ort); }
     void Loslassen(Bildpunkt /*ort*/) override {}
     void Schweben(Bildpunkt ort) override;
     void Abbrechen() override;
