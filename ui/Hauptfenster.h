@@ -15,19 +15,13 @@
 #include <vector>
 
 #include "input/Oeffnen.h"
-#include "model/Dateien.h"
-#include "model/Einstellungen.h"
 #include "model/FigListe.h"
-#include "model/Netzangaben.h"
 #include "output/Figurenzeichner.h"
-#include "output/Zeichenzustand.h"
 #include "ui/Bildflaeche.h"
-#include "ui/Dialogdienst.h"
-#include "ui/Druckauskunft.h"
 #include "ui/ImageZarwik.h"
 #include "ui/Massstabfeld.h"
+#include "ui/Programm.h"
 #include "ui/Schalter.h"
-#include "ui/Sitzung.h"
 #include "ui/werkzeuge/LegendeVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
 
@@ -46,20 +40,6 @@ class TFormHidePunkte;
 class TFormPunktart;
 class TZRWLBLForm;
 class Zentrierkasten;
-
-/// What the program makes once and the window works with. All of it outlives the window.
-struct Programm {
-    Einstellungen& einstellungen;
-    EinstellungsSpeicher& ablage;
-    Netzangaben& netz;
-    Zeichenzustand& zustand;
-    Dateien& dateien;
-    const Uhr& uhr;
-    const Druckauskunft& drucker;
-    Dialogdienst& dialoge;
-    Sitzung& sitzung;
-    QString version;
-};
 
 class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private Werkzeugumgebung {
   public:

@@ -1,0 +1,31 @@
+// What the program makes once and hands on to its window.
+#pragma once
+
+#include <QString>
+
+#include "model/Dateien.h"
+#include "model/Einstellungen.h"
+#include "model/Netzangaben.h"
+#include "output/Uhr.h"
+#include "output/Zeichenzustand.h"
+#include "ui/Dialogdienst.h"
+#include "ui/Druckauskunft.h"
+#include "ui/Sitzung.h"
+
+namespace zrw {
+
+/// All of it outlives the window.
+struct Programm {
+    Einstellungen& einstellungen;
+    EinstellungsSpeicher& ablage;
+    Netzangaben& netz;
+    Zeichenzustand& zustand;
+    Dateien& dateien;
+    const Uhr& uhr;
+    const Druckauskunft& drucker;
+    Dialogdienst& dialoge;
+    Sitzung& sitzung;
+    QString version;
+};
+
+}  // namespace zrw
