@@ -72,6 +72,9 @@ modus art
 art=$(xdotool search --sync --onlyvisible --name '^Punktart$' | tail -1)
 xdotool windowmove "$art" 900 300
 klick 210 436 # point 24
+dialog=$art
+imDialog 162 76  # FH
+imDialog 243 298 # draw it
 bild 06_punktart root
 modus pan
 for _ in $(seq 30); do taste ctrl+z; done
@@ -88,6 +91,12 @@ bild 08_zentriert
 speichere zentriert.ZRW
 modus zentriere
 cmp -s anfang.ZRW zentriert.ZRW && { echo "Zentrieren hat nichts geändert." && exit 1; }
+taste ctrl+shift+o
+xdotool type "$ordner/zentriert.ZRW"
+taste Return
+sleep 0.5
+xdotool getwindowname "$fenster" | grep -q 'zentriert.ZRW$' || { echo "Nicht wieder geöffnet." && exit 1; }
+bild 09_wieder_geoeffnet
 xdotool key ctrl+q
 sleep 0.5
 xdotool key n
