@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "model/FigListe.h"
 #include "model/Ganzzahl.h"

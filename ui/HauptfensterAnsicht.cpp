@@ -82,8 +82,11 @@ void TZrwMainDlg::EinpassenClick() {
     const double hoehe = std::max(liste_->Hoehe - 2 * kRand, 1);
     // One point alone, or several at one place: a few hundred metres round it.
     const double faktor = dx > 0 || dy > 0 ? std::max(dx / weite, dy / hoehe) : kEinzelpunkt;
-    SetzeAnsicht(faktor, {(min.rechts + max.rechts - liste_->Weite * faktor) / 2,
-                          (min.hoch + max.hoch + liste_->Hoehe * faktor) / 2});
+    const double vorher = liste_->Faktor;
+    const Welt ecke = liste_->BildinWelt({});
+    if (SetzeAnsicht(faktor, {(min.rechts + max.rechts - liste_->Weite * faktor) / 2,
+                              (min.hoch + max.hoch + liste_->Hoehe * faktor) / 2}))
+        MerkeAnsicht(vorher, ecke);
 }
 
 /// @param linksOben world position of the picture's top-left corner

@@ -15,7 +15,22 @@
 namespace zrw {
 namespace {
 
-class Bedienfallen : public Netzprobe {};
+class Bedienfallen : public Netzprobe {
+  protected:
+    /// Networks that no control file gives: picture files may hold them.
+    void OeffneAlsBilddatei(Liste& l) {
+        l.FindWorldMinMax();
+        l.Weite = 800;
+        l.Hoehe = 530;
+        l.PasseEin();
+        ByteSchreiber f;
+        Netzangaben a;
+        a.Netztyp = 3;
+        l.Store(f, a);
+        Lege("o.ZRW", std::string(f.Inhalt()));
+        Oeffne("o.ZRW");
+    }
+};
 
 TEST_F(Bedienfallen, SpeichernMittenImZiehen) {
     Modus("MovePktButton");
@@ -262,16 +277,7 @@ TEST_F(Bedienfallen, PunktOhneNummerLaesstSichVerstecken) {
     n.T(8, "X");
     n.T(9, "Y");  // labels of points that do not exist
     n.K(1, 2);
-    n.l.FindWorldMinMax();
-    n.l.Weite = 800;
-    n.l.Hoehe = 530;
-    n.l.PasseEin();
-    ByteSchreiber f;
-    Netzangaben a;
-    a.Netztyp = 3;
-    n.l.Store(f, a);
-    Lege("o.ZRW", std::string(f.Inhalt()));
-    Oeffne("o.ZRW");
+    OeffneAlsBilddatei(n.l);
     ASSERT_EQ(dialoge.meldungen, QStringList());
     const zrw::Punkt& p = *fenster.Netz()->SuchPkt(1)->Item;
     Modus("HidePktButton");
@@ -285,16 +291,7 @@ TEST_F(Bedienfallen, ZweiPunkteEinerNummer) {
     n.P(2, 3000, 2000);
     n.T(1, "X");
     n.T(2, "X");
-    n.l.FindWorldMinMax();
-    n.l.Weite = 800;
-    n.l.Hoehe = 530;
-    n.l.PasseEin();
-    ByteSchreiber f;
-    Netzangaben a;
-    a.Netztyp = 3;
-    n.l.Store(f, a);
-    Lege("o.ZRW", std::string(f.Inhalt()));
-    Oeffne("o.ZRW");
+    OeffneAlsBilddatei(n.l);
     for (const PunktIndex nr : {PunktIndex{1}, PunktIndex{2}}) {
         const zrw::Punkt& p = *fenster.Netz()->SuchPkt(nr)->Item;
         Modus("HidePktButton");
