@@ -9,6 +9,7 @@
 #include "output/Abschneiden.h"
 #include "output/Kartengitter.h"
 #include "output/Legendenbild.h"
+#include "output/Residuenbild.h"
 
 namespace zrw {
 namespace {
@@ -232,6 +233,19 @@ void Figurenzeichner::GitterShow(const Liste& liste) {
 
 void Figurenzeichner::KMGitterShow(const Liste& liste) {
     Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kilometerquadrate();
+}
+
+bool Figurenzeichner::ZeigtResiduen() const {
+    return zustand_.flaeche != nullptr && !zustand_.ExportActive;
+}
+
+void Figurenzeichner::ZeichnePunktRes(const Liste& liste) {
+    if (!ZeigtResiduen() || zustand_.Ergebnisse == nullptr) return;
+    Residuenbild(zustand_, einstellungen_, liste).ZeichnePunktRes(*zustand_.Ergebnisse);
+}
+
+void Figurenzeichner::DrawResMasstab(const Liste& liste) {
+    if (ZeigtResiduen()) Residuenbild(zustand_, einstellungen_, liste).DrawResMasstab();
 }
 
 }  // namespace zrw

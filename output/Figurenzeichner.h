@@ -33,6 +33,8 @@ class Figurenzeichner final : public Zeichner {
     void ZeichneLegende(Legende& legende, Gang gang) override;
     void GitterShow(const Liste& liste) override;
     void KMGitterShow(const Liste& liste) override;
+    void ZeichnePunktRes(const Liste& liste) override;
+    void DrawResMasstab(const Liste& liste) override;
 
   private:
     /// Where a point symbol is drawn to: what is null is left out.
@@ -51,6 +53,7 @@ class Figurenzeichner final : public Zeichner {
     void ZeigeText(const PktText& text, Farbe farbe);
     [[nodiscard]] Plotdatei* Plot(Gang gang) const;
     [[nodiscard]] DXFUnit* Dxf(Gang gang) const;
+    [[nodiscard]] bool ZeigtResiduen() const;
     [[nodiscard]] Dxfpunkt Weltort(Bildpunkt b) const;
 
     Zeichenzustand& zustand_;

@@ -9,6 +9,7 @@ namespace zrw {
 class DXFUnit;
 class Liste;
 class Plotdatei;
+class Punktergebnisse;
 class Zeichenflaeche;
 
 enum class Zeichenmodus : std::uint8_t { Bildschirm = 0, Drucker = 1 };
@@ -16,8 +17,9 @@ enum class Zeichenmodus : std::uint8_t { Bildschirm = 0, Drucker = 1 };
 struct Zeichenzustand {
     Zeichenflaeche* flaeche = nullptr;  ///< null: no device, only the export files are drawn to
     Zeichenmodus modus = Zeichenmodus::Bildschirm;
-    double Geraetefaktor = 1.0;  ///< device dots per screen pixel [-]
-    bool KurzeNummern = false;   ///< labels without their first four characters
+    double Geraetefaktor = 1.0;             ///< device dots per screen pixel [-]
+    bool KurzeNummern = false;              ///< labels without their first four characters
+    Punktergebnisse* Ergebnisse = nullptr;  ///< null: no results are known
 
     // Export: the drawing routines write to these files, too. Set by `Exportiere` only.
     bool ExportActive = false;

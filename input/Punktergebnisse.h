@@ -1,0 +1,29 @@
+// What the adjustment found for single points, as the drawing of residuals and accuracies needs it.
+#pragma once
+
+#include <string_view>
+
+namespace zrw {
+
+/// Fields of the coordinate table, in the units of the adjustment (lengths [mm]); 0 where a field is null.
+struct Punktergebnis {
+    double dY = 0.0;   ///< residual of the easting
+    double dX = 0.0;   ///< residual of the northing
+    double dH = 0.0;   ///< residual of the height
+    double A = 0.0;    ///< semi-major axis of the error ellipse
+    double B = 0.0;    ///< semi-minor axis
+    double Phi = 0.0;  ///< direction of the ellipse [gon]
+    double mH = 0.0;   ///< standard deviation of the height
+    double mL = 0.0;   ///< standard deviation of the position
+};
+
+class Punktergebnisse {
+  public:
+    virtual ~Punktergebnisse() = default;
+    /// Called once before a picture: makes the answers those of the table as it now is.
+    virtual void Erneuere() = 0;
+    /// The results of the point of this number (code page 1252), null without any. Holds until `Erneuere`.
+    [[nodiscard]] virtual const Punktergebnis* Zu(std::string_view nummer) const = 0;
+};
+
+}  // namespace zrw

@@ -1,0 +1,270 @@
+#include "output/Residuenbild.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <optional>
+#include <string>
+
+#include "model/Cp1252.h"
+#include "model/Ganzzahl.h"
+#include "model/Zahlentext.h"
+#include "output/Abschneiden.h"
+
+namespace zrw {
+namespace {
+
+/// Gon per radian, a little below 200/pi: ellipses have their corners where this puts them.
+constexpr double kRho = 63.66197723675394;
+constexpr int kVollkreis = 400;       ///< [gon]
+constexpr int kGroessterWinkel = 25;  ///< between two corners of an ellipse [gon]
+constexpr int kKleinsterWinkel = 2;
+/// Standard deviation of a position above which its ellipse is drawn wide [mm].
+constexpr double kGrobeLage = 20.0;
+constexpr double kFussbreite = 2.0;  ///< half width of the end strokes [mm]
+/// Beyond the figure itself: rounding, and what wide pens add.
+constexpr double kZeichenrand = 8.0;
+
+constexpr double kMillimeter = 10.0;  ///< in a centimetre
+constexpr double kSchmalste = 40.0;   ///< bar of whole centimetres [px]
+constexpr double kBreiteste = 400.0;
+constexpr double kAndereSchmalste = 50.0;  ///< bar of other steps [px]
+
+struct Richtung {
+    double cos = 1.0;
+    double sin = 0.0;
+};
+
+Richtung RichtungVon(double gon) {
+    return {std::cos(gon / kRho), std::sin(gon / kRho)};
+}
+
+/// The corners of all ellipses lie at whole gon.
+using Richtungen = std::array<Richtung, kVollkreis + kGroessterWinkel + 1>;
+
+const Richtungen& GanzeGon() {
+    static const Richtungen kTafel = [] {
+        Richtungen tafel;
+        for (std::size_t t = 0; t < tafel.size(); ++t)
+            tafel[t] = RichtungVon(static_cast<double>(t));
+        return tafel;
+    }();
+    return kTafel;
+}
+
+/// Angle between two corners of an ellipse [gon], for sides of about two dots.
+std::size_t Eckwinkel(double umfang) {
+    const std::int64_t halber = umfang == 0.0 ? kVollkreis : RundeZuInt64(kVollkreis / umfang);
+    if (halber > kGroessterWinkel / 2) return kGroessterWinkel;
+    return static_cast<std::size_t>(2 * std::max<std::int64_t>(halber, kKleinsterWinkel / 2));
+}
+
+/// Whole dots of a residual, towards zero.
+std::int64_t Ganze(double v) {
+    return RundeZuInt64(std::trunc(v));
+}
+
+/// Step of the scale bar: ziffer * 10^exponent [cm].
+struct Teilung {
+    int ziffer = 1;
+    int exponent = 0;
+
+    /// So many steps, as the decimal number that it is; nothing beyond the numbers there are.
+    [[nodiscard]] std::optional<double> Mal(int schritte) const {
+        return LiesReal(std::to_string(ziffer * schritte) + "e" + std::to_string(exponent));
+    }
+};
+
+/// @param pixel width of a bar of whole centimetres on the screen, positive
+Teilung WaehleTeilung(double pixel) {
+    if (pixel >= kSchmalste && pixel <= kBreiteste) return {};
+    // A product may fall short of its round value in the last place.
+    const double genug = kAndereSchmalste * (1 - 1e-9);
+    const int kleinster = static_cast<int>(std::floor(std::log10(kAndereSchmalste) - std::log10(pixel))) - 1;
+    for (int exponent = kleinster; exponent <= kleinster + 2; ++exponent) {
+        for (const int ziffer : {1, 2, 5}) {
+            const Teilung t{ziffer, exponent};
+            const auto k = t.Mal(1);
+            if (k && *k * pixel >= genug) return t;
+        }
+    }
+    return {1, kleinster + 3};
+}
+
+}  // namespace
+
+Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& einstellungen,
+                           const Liste& liste)
+    : flaeche_(*zustand.flaeche),
+      einstellungen_(einstellungen),
+      liste_(liste),
+      // Printing leaves a device factor behind that means nothing on the screen.
+      geraetefaktor_(zustand.modus == Zeichenmodus::Drucker ? zustand.Geraetefaktor : 1.0),
+      f_(geraetefaktor_ * einstellungen.ResMF) {}
+
+void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
+    if (const auto teil = Abschneiden(von, nach, flaeche_.Sichtbar())) {
+        flaeche_.Linie(teil->first, teil->second);
+    }
+}
+
+// --- Points -----------------------------------------------------------------------------------------------
+
+void Residuenbild::ZeichnePunktRes(Punktergebnisse& ergebnisse) const {
+    if (!liste_.ShowLgRes && !liste_.ShowHRes && !liste_.ShowLGGen && !liste_.ShowHGen) return;
+    ergebnisse.Erneuere();
+    const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
+    for (const PunktKnoten* p = liste_.PunktKnoten; p != nullptr; p = p->Next) {
+        if (!liste_.Dargestellt(*p->Item) || !p->Item->IsVisible()) continue;
+        const PktText* text = liste_.FindPktText(p->PNr);
+        if (text == nullptr || text->Aus.Leer()) continue;
+        if (const Punktergebnis* e = ergebnisse.Zu(text->Aus.Text())) Punktbild(p->Item->Position(), *e);
+    }
+}
+
+void Residuenbild::Punktbild(Bildpunkt ort, const Punktergebnis& e) const {
+    const auto stift = [this](Farbe farbe, std::int32_t breite = 1) {
+        flaeche_.SetzeStift({farbe, breite, Strichart::Voll});
+    };
+    const double dY = e.dY * f_;
+    const double dX = e.dX * f_;
+    const double dH = e.dH * f_;
+    if (liste_.ShowLgRes && std::isfinite(dY) && std::isfinite(dX)) {
+        stift(einstellungen_.LGRCol);
+        Strich(ort, {Summe(ort.x, Ganze(dY)), Differenz(ort.y, Ganze(dX))});
+    }
+    if (liste_.ShowHRes && std::isfinite(dH)) {
+        stift(einstellungen_.HRCol);
+        Strich(ort, {ort.x, Differenz(ort.y, Ganze(dH))});
+    }
+    if (liste_.ShowLGGen) {
+        const bool fein = e.mL <= kGrobeLage;  // not-a-number is not
+        stift(einstellungen_.LGGCol, fein ? 1 : 2);
+        // From an azimuth to the direction in the picture.
+        DrawEllipse(Gon{-(e.Phi + 100)}, e.A * f_, e.B * f_, static_cast<double>(ort.x),
+                    static_cast<double>(ort.y));
+    }
+    if (liste_.ShowHGen) {
+        stift(einstellungen_.HGCol);
+        Hoehengenauigkeit(ort, e.mH);
+    }
+}
+
+void Residuenbild::Hoehengenauigkeit(Bildpunkt ort, double mH) const {
+    const double hoehe = mH / 2 * f_;
+    const double breite = kFussbreite * f_;
+    if (!std::isfinite(hoehe) || !std::isfinite(breite)) return;
+    const std::int64_t h = RundeZuInt64(hoehe);
+    const std::int64_t w = RundeZuInt64(breite);
+    const std::int64_t oben = Differenz(ort.y, h);
+    const std::int64_t unten = Summe(ort.y, h);
+    Strich({ort.x, oben}, {ort.x, unten});
+    for (const std::int64_t y : {oben, unten})
+        Strich({Differenz(ort.x, w), y}, {Summe(ort.x, w), y});
+}
+
+void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0) const {
+    const double umfang = std::numbers::pi * (1.5 * (a + b) - std::sqrt(a * b));
+    // Finite only for axes that are, and of one sign.
+    if (!std::isfinite(umfang) || !std::isfinite(phi.wert)) return;
+    const Rechteck s = flaeche_.Sichtbar();
+    const double reichweite = std::max(std::fabs(a), std::fabs(b)) + kZeichenrand;
+    const double links = x0 - reichweite;
+    const double rechts = x0 + reichweite;
+    const double oben = y0 - reichweite;
+    const double unten = y0 + reichweite;
+    if (rechts < s.links || links > s.rechts || unten < s.oben || oben > s.unten) return;
+    const bool ganz = links >= s.links && rechts <= s.rechts && oben >= s.oben && unten <= s.unten;
+    const Richtung alpha = RichtungVon(phi.wert);
+    const auto ecke = [&](const Richtung& t) {
+        const double c = a * t.cos;
+        const double q = b * t.sin;
+        return Bildpunkt{RundeZuInt64(x0 + alpha.cos * c + alpha.sin * q),
+                         RundeZuInt64(y0 + alpha.cos * q - alpha.sin * c)};
+    };
+    const Richtungen& tafel = GanzeGon();
+    const std::size_t winkel = Eckwinkel(umfang);
+    Bildpunkt vorige = ecke(tafel[0]);
+    for (std::size_t t = 0; t <= kVollkreis;) {
+        t += winkel;
+        const Bildpunkt naechste = ecke(tafel[t]);
+        if (ganz) {
+            flaeche_.Linie(Aufflaeche(vorige), Aufflaeche(naechste));
+        } else {
+            Strich(vorige, naechste);
+        }
+        vorige = naechste;
+    }
+}
+
+// --- Scale bar --------------------------------------------------------------------------------------------
+
+void Residuenbild::Schreibe(Bildpunkt ort, std::string_view text) const {
+    // No character is wider than twice the line height.
+    const std::int64_t rand = std::int64_t{flaeche_.Texthoehe()} * 2 * static_cast<std::int64_t>(text.size());
+    if (InReichweite(ort, rand, flaeche_.Sichtbar())) flaeche_.Text(Aufflaeche(ort), text, kSchwarz);
+}
+
+void Residuenbild::DrawResMasstab() const {
+    if (!liste_.ShowLgRes && !liste_.ShowHRes && !liste_.ShowLGGen && !liste_.LGGenOn && !liste_.ShowHGen)
+        return;
+    // On the screen, whatever the device: paper has the same numbers.
+    const double pixel = kTeile * kMillimeter * einstellungen_.ResMF;
+    if (!(pixel > 0.0) || !std::isfinite(pixel)) return;
+    const Teilung teilung = WaehleTeilung(pixel);
+    Balkentexte texte;
+    for (int i = 0; i <= kTeile; ++i) {
+        const auto wert = teilung.Mal(i);
+        if (!wert) return;
+        texte[static_cast<std::size_t>(i)] = SchreibeReal(*wert);
+    }
+    const double laenge = teilung.Mal(1).value_or(0.0) * pixel * geraetefaktor_;
+    if (laenge >= kTeile && laenge < static_cast<double>(kZeichengrenze)) Balken(laenge, texte);
+}
+
+/// From the bottom: a margin of a line of text, the bar, its labels, the caption.
+void Residuenbild::Balken(double laenge, const Balkentexte& texte) const {
+    const std::string titel = Utf8NachCp1252("Residuenmaßstab");
+    const std::string_view einheit = "cm";
+    const Rechteck s = flaeche_.Sichtbar();
+    const std::int64_t h = flaeche_.Texthoehe();
+    const std::int64_t rand = h / 4;
+    const std::int64_t strich = std::max<std::int64_t>(h / 3, 2);
+    const std::int64_t fuge = flaeche_.Textbreite(" ");
+    const std::int64_t links = s.links + h;
+    const std::int64_t grund = s.unten - h;
+    const std::int64_t oben = grund - strich - 2 * h;
+    if (oben - rand < s.oben || links > s.rechts) return;  // no room
+
+    std::int64_t breiteste = 0;
+    for (const std::string& t : texte)
+        breiteste = std::max<std::int64_t>(breiteste, flaeche_.Textbreite(t));
+    const bool alle = laenge > static_cast<double>(kTeile * (breiteste + fuge));
+    const std::int64_t anfang = links + flaeche_.Textbreite(texte.front()) / 2;
+    const auto teilpunkt = [&](std::size_t i) {
+        return anfang + RundeZuInt64(laenge * static_cast<double>(i) / kTeile);
+    };
+    const std::int64_t ende = teilpunkt(kTeile);
+    const std::int64_t einheitort = ende + flaeche_.Textbreite(texte.back()) / 2 + fuge;
+    const std::int64_t rechts =
+        std::max(einheitort + flaeche_.Textbreite(einheit), links + flaeche_.Textbreite(titel)) + rand;
+
+    // The network would make it unreadable.
+    flaeche_.Fuelle({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
+                     static_cast<std::int32_t>(std::min<std::int64_t>(rechts, s.rechts)),
+                     static_cast<std::int32_t>(grund + rand)},
+                    kWeiss);
+    const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
+    Schreibe({links, oben}, titel);
+    Schreibe({einheitort, oben + h}, einheit);
+    Strich({anfang, grund}, {ende, grund});
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        const std::int64_t x = teilpunkt(i);
+        Strich({x, grund}, {x, grund - strich});
+        if (alle || i == 0 || i == kTeile)
+            Schreibe({x - flaeche_.Textbreite(texte[i]) / 2, oben + h}, texte[i]);
+    }
+}
+
+}  // namespace zrw
