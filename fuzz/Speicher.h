@@ -35,6 +35,9 @@ class Speicher final : public Dateien {
         if (i == kNamen.size() || inhalte_[i].size() > grenze) throw Fehler("nicht lesbar", PfadText(datei));
         return std::string(inhalte_[i]);
     }
+    [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& /*datei*/) const override {
+        return std::nullopt;
+    }
     [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
         throw Fehler("nur zum Lesen", PfadText(datei));
     }

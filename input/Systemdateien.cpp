@@ -208,6 +208,16 @@ std::unique_ptr<Dateischreiber> Systemdateien::Beginne(const fs::path& datei) {
     return std::make_unique<Schreiber>(datei, std::move(ziel), std::move(daneben));
 }
 
+std::optional<Dateistand> Systemdateien::Stand(const fs::path& datei) const {
+    std::error_code fehler;
+    if (!fs::is_regular_file(datei, fehler)) return std::nullopt;
+    const std::uintmax_t groesse = fs::file_size(datei, fehler);
+    if (fehler) return std::nullopt;
+    const auto zeit = fs::last_write_time(datei, fehler);
+    if (fehler) return std::nullopt;
+    return Dateistand{groesse, std::int64_t{zeit.time_since_epoch().count()}};
+}
+
 std::optional<fs::path> Systemdateien::Finde(const fs::path& ordner, const std::string& name) const {
     std::error_code fehler;
     fs::path stelle = ordner;

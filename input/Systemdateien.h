@@ -8,6 +8,7 @@ namespace zrw {
 class Systemdateien final : public Dateien {
   public:
     [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override;
+    [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& datei) const override;
     /// Writes a file beside, flushes it to the disk and renames it. A symbolic link keeps pointing to its
     /// target, which is replaced; an existing file keeps its access rights.
     [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -25,6 +26,13 @@ class Dateischreiber {
     virtual void Uebernimm() = 0;
 };
 
+/// Tells one content of a file from a later one.
+struct Dateistand {
+    std::uintmax_t groesse = 0;
+    std::int64_t zeit = 0;  ///< of the last change, in whatever the system counts
+    friend bool operator==(const Dateistand&, const Dateistand&) = default;
+};
+
 class Dateien {
   public:
     virtual ~Dateien() = default;
@@ -33,6 +41,9 @@ class Dateien {
     /// @throws Oeffnungsfehler where there is none, it may not be read, or is a folder, pipe or device
     /// @throws Fehler where it is larger or reading fails
     [[nodiscard]] virtual std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const = 0;
+
+    /// None where there is no regular file.
+    [[nodiscard]] virtual std::optional<Dateistand> Stand(const std::filesystem::path& datei) const = 0;
 
     /// Begins a new content for a file.
     /// @throws Fehler where it could not be written; the old file then is as it was

@@ -31,6 +31,13 @@ class Speicherdateien final : public Dateien {
         }
         return stelle->second;
     }
+    [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& datei) const override {
+        const auto stelle = dateien.find(Schluessel(datei));
+        if (stelle == dateien.end()) return std::nullopt;
+        // The content itself tells one state from another.
+        return Dateistand{stelle->second.size(),
+                          static_cast<std::int64_t>(std::hash<std::string>()(stelle->second))};
+    }
     [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
         return std::make_unique<Schreiber>(*this, Schluessel(datei));
     }

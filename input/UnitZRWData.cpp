@@ -1,0 +1,209 @@
+#include "input/UnitZRWData.h"
+
+#include <algorithm>
+#include <cctype>
+#include <iterator>
+#include <utility>
+
+#include "input/Paradoxleser.h"
+#include "input/Paradoxschreiber.h"
+#include "model/Cp1252.h"
+#include "model/Fehler.h"
+
+namespace zrw {
+namespace {
+
+/// Largest table that is read: several million rows.
+constexpr std::size_t kGroessteTabelle = std::size_t{512} << 20U;
+/// Fields that queries look rows up by.
+constexpr std::array<std::string_view, 7> kSuchfelder{"PKT", "P1", "P2", "PS", "PZ", "PA", "PE"};
+
+bool GleichesFeld(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+}
+
+std::size_t Stelle(std::span<const std::string> spalten, std::string_view name) {
+    return static_cast<std::size_t>(
+        std::find_if(spalten.begin(), spalten.end(),
+                     [&](const std::string& s) { return GleichesFeld(s, name); }) -
+        spalten.begin());
+}
+
+/// The columns in the order of the description, then those that it does not know.
+void Ordne(Antwort& antwort, std::span<const Tabellenfeld> felder) {
+    std::vector<std::string> spalten;
+    std::vector<std::size_t> herkunft;
+    std::vector<bool> benutzt(antwort.spalten.size(), false);
+    for (const Tabellenfeld& f : felder) {
+        const std::size_t stelle = Stelle(antwort.spalten, f.name);
+        spalten.emplace_back(f.name);
+        herkunft.push_back(stelle);
+        if (stelle < benutzt.size()) benutzt[stelle] = true;
+    }
+    for (std::size_t i = 0; i < benutzt.size(); ++i) {
+        if (benutzt[i]) continue;
+        spalten.push_back(antwort.spalten[i]);
+        herkunft.push_back(i);
+    }
+    for (auto& zeile : antwort.zeilen) {
+        std::vector<Zelle> neu(herkunft.size());
+        for (std::size_t i = 0; i < herkunft.size(); ++i) {
+            if (herkunft[i] < zeile.size()) neu[i] = std::move(zeile[herkunft[i]]);
+        }
+        zeile = std::move(neu);
+    }
+    antwort.spalten = std::move(spalten);
+}
+
+double Zahl(const Zelle& zelle) {
+    if (const auto* ganz = std::get_if<std::int64_t>(&zelle)) return static_cast<double>(*ganz);
+    const auto* real = std::get_if<double>(&zelle);
+    return real != nullptr ? *real : 0.0;
+}
+
+std::size_t Nummer(Tabelle t) {
+    return static_cast<std::size_t>(t);
+}
+
+}  // namespace
+
+void TDM::SetzeOrdner(std::filesystem::path ordner) {
+    if (ordner == ordner_) return;
+    ordner_ = std::move(ordner);
+    for (std::size_t i = 0; i < staende_.size(); ++i) {
+        if (!staende_[i]) continue;
+        datenbank_.Entferne(kErgebnistabellen[i].name);
+        staende_[i].reset();
+    }
+    punkte_.clear();
+    punktestand_.reset();
+    gemeldet_.reset();
+}
+
+bool TDM::Vorhanden(std::string_view datei) const {
+    return dateien_.Finde(ordner_, std::string(datei)).has_value();
+}
+
+std::optional<std::filesystem::path> TDM::Datei(Tabelle tabelle) const {
+    // Looking through the folder takes longer than looking at the file that was there before.
+    const auto& stand = staende_[Nummer(tabelle)];
+    if (stand && dateien_.Stand(stand->datei)) return stand->datei;
+    return dateien_.Finde(ordner_, std::string(Beschreibung(tabelle).name) + ".DB");
+}
+
+bool TDM::Aktualisiere(Tabelle tabelle) {
+    auto& stand = staende_[Nummer(tabelle)];
+    const auto datei = Datei(tabelle);
+    const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
+    if (!jetzt) return false;
+    if (!stand || stand->datei != *datei || stand->stand != *jetzt) Importiere(tabelle, *datei, *jetzt);
+    return true;
+}
+
+void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand) {
+    const std::string name = PfadText(datei.filename());
+    const std::string inhalt = dateien_.Lies(datei, kGroessteTabelle);
+    // The adjustment may be writing it right now: half a table must not take the place of the old one.
+    if (dateien_.Stand(datei) != stand)
+        throw Fehler("Die Tabelle wird gerade geschrieben. Bitte später noch einmal versuchen.", name);
+    const paradox::Leser leser(inhalt, name);
+    std::vector<std::string> spalten;
+    for (const paradox::Feld& f : leser.Felder())
+        spalten.push_back(f.name);
+    datenbank_.Ersetze(Beschreibung(tabelle).name, spalten, kSuchfelder,
+                       [&](const Datenbank::Zeilenziel& ziel) { leser.FuerJedeZeile(ziel); });
+    staende_[Nummer(tabelle)] = Stand{datei, stand, std::move(spalten)};
+}
+
+Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
+    const Ergebnistabelle& t = Beschreibung(tabelle);
+    if (!Aktualisiere(tabelle)) throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(t.name) + ".DB");
+    // Queries without an order mean that of the table; the database would give that of its indexes.
+    constexpr std::string_view kOrdnung = "order by";
+    const bool geordnet = std::search(abfrage.begin(), abfrage.end(), kOrdnung.begin(), kOrdnung.end(),
+                                      [](unsigned char a, unsigned char b) {
+                                          return std::tolower(a) == std::tolower(b);
+                                      }) != abfrage.end();
+    Antwort antwort = datenbank_.Frage(std::string(abfrage) + (geordnet ? "" : " order by rowid"));
+    Ordne(antwort, t.felder);
+    return antwort;
+}
+
+TDM::Punkttafel TDM::LiesPunkte() const {
+    static constexpr std::array<std::pair<std::string_view, double Punktergebnis::*>, 8> kFelder{{
+        {"dY", &Punktergebnis::dY},
+        {"dX", &Punktergebnis::dX},
+        {"dH", &Punktergebnis::dH},
+        {"A", &Punktergebnis::A},
+        {"B", &Punktergebnis::B},
+        {"Phi", &Punktergebnis::Phi},
+        {"mH", &Punktergebnis::mH},
+        {"mL", &Punktergebnis::mL},
+    }};
+    // One walk over the table in place of one query a point: the first row of a number is what that would
+    // give.
+    std::string abfrage = "SELECT KOOTABLE.PKT";
+    const auto& spalten = staende_[Nummer(Tabelle::Koordinaten)]->spalten;
+    for (const auto& [feld, ziel] : kFelder)
+        abfrage += Stelle(spalten, feld) < spalten.size() ? ",KOOTABLE." + std::string(feld) : ",NULL";
+    Punkttafel tafel;
+    datenbank_.FuerJedeZeile(abfrage + " from KOOTABLE order by rowid", [&](std::span<const Zelle> zeile) {
+        const auto* text = std::get_if<std::string>(&zeile.front());
+        if (text == nullptr) return;
+        const std::string nummer = Utf8NachCp1252(*text);
+        if (nummer.empty() || nummer.size() > PunktNummernTyp::kLaenge) return;
+        const auto [stelle, neu] = tafel.try_emplace(PunktNummernTyp(nummer));
+        if (!neu) return;
+        for (std::size_t i = 0; i < kFelder.size(); ++i)
+            stelle->second.*kFelder[i].second = Zahl(zeile[i + 1]);
+    });
+    return tafel;
+}
+
+void TDM::Erneuere() {
+    const auto datei = Datei(Tabelle::Koordinaten);
+    const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
+    if (!jetzt) {
+        punkte_.clear();
+        punktestand_.reset();
+        return;
+    }
+    if (punktestand_ == jetzt || gemeldet_ == jetzt) return;
+    try {
+        Aktualisiere(Tabelle::Koordinaten);
+        punkte_ = LiesPunkte();
+        punktestand_ = jetzt;
+        gemeldet_.reset();
+    } catch (const Fehler& f) {
+        gemeldet_ = jetzt;
+        meldung_ = f.what();
+    }
+}
+
+const Punktergebnis* TDM::Zu(std::string_view nummer) const {
+    const auto stelle = punkte_.find(PunktNummernTyp(nummer));
+    return stelle != punkte_.end() ? &stelle->second : nullptr;
+}
+
+std::string TDM::NimmMeldung() {
+    return std::exchange(meldung_, {});
+}
+
+void ErzeugeTabelle(Dateien& dateien, const std::filesystem::path& ordner, Tabelle tabelle,
+                    std::span<const std::vector<paradox::Wert>> zeilen, std::time_t zeit) {
+    const Ergebnistabelle& t = Beschreibung(tabelle);
+    std::vector<paradox::Feld> felder;
+    for (const Tabellenfeld& f : t.felder)
+        felder.push_back({std::string(f.name), f.typ, f.groesse});
+    const paradox::Dateipaar paar = paradox::Schreibe(t.name, felder, zeilen, zeit);
+    dateien.Ersetze(ordner / (std::string(t.name) + ".DB"), paar.db);
+    dateien.Ersetze(ordner / (std::string(t.name) + ".PX"), paar.px);
+}
+
+void ErzeugeTabellen(Dateien& dateien, const std::filesystem::path& ordner, std::time_t zeit) {
+    for (std::size_t i = 0; i < kErgebnistabellen.size(); ++i)
+        ErzeugeTabelle(dateien, ordner, static_cast<Tabelle>(i), {}, zeit);
+}
+
+}  // namespace zrw

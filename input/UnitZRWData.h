@@ -1,0 +1,83 @@
+// The result tables of the adjustment beside the control file: found without regard to case, imported into a
+// database in memory when they are first asked and whenever they have changed, and only ever read.
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "input/Datenbank.h"
+#include "input/Ergebnistabellen.h"
+#include "input/Punktergebnisse.h"
+#include "model/Dateien.h"
+#include "model/Werte.h"
+
+namespace zrw {
+
+class TDM final : public Punktergebnisse {
+  public:
+    /// @param dateien must outlive the module
+    explicit TDM(const Dateien& dateien) : dateien_(dateien) {}
+
+    /// Where the tables lie.
+    void SetzeOrdner(std::filesystem::path ordner);
+    /// Whether a file of this name lies there.
+    [[nodiscard]] bool Vorhanden(std::string_view datei) const;
+
+    /// Rows of a query over one table, its fields first and in their order, further ones of the file behind
+    /// them; missing fields are null.
+    /// @throws Fehler where the table is missing, damaged or lacks a field of the query; what was imported
+    /// before then still answers the next query if the file is back in its old state
+    [[nodiscard]] Antwort Frage(Tabelle tabelle, std::string_view abfrage);
+
+    /// Failures are kept for `NimmMeldung`, once for each state of the file; the old results then stay.
+    void Erneuere() override;
+    [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override;
+    /// What went wrong with the results of points since the last call, else empty.
+    [[nodiscard]] std::string NimmMeldung();
+
+  private:
+    /// What has been imported of one table.
+    struct Stand {
+        std::filesystem::path datei;
+        Dateistand stand;
+        std::vector<std::string> spalten;
+    };
+    struct Streuung {
+        [[nodiscard]] std::size_t operator()(const PunktNummernTyp& nummer) const {
+            return nummer.Streuwert(0x5A4157494BULL);
+        }
+    };
+    using Punkttafel = std::unordered_map<PunktNummernTyp, Punktergebnis, Streuung>;
+
+    [[nodiscard]] std::optional<std::filesystem::path> Datei(Tabelle tabelle) const;
+    /// Brings the database to the state of the file. @return whether there is one
+    bool Aktualisiere(Tabelle tabelle);
+    void Importiere(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand);
+    [[nodiscard]] Punkttafel LiesPunkte() const;
+
+    const Dateien& dateien_;
+    std::filesystem::path ordner_;
+    Datenbank datenbank_;
+    std::array<std::optional<Stand>, kErgebnistabellen.size()> staende_;
+    Punkttafel punkte_;
+    std::optional<Dateistand> punktestand_;  ///< of the coordinates that `punkte_` came from
+    std::optional<Dateistand> gemeldet_;     ///< state that failed and has been told
+    std::string meldung_;
+};
+
+/// Makes one table with its index; what was there under its name is replaced. @param zeilen one value per
+/// field each @param zeit [s since 1970]
+/// @throws Fehler where the files cannot be written
+void ErzeugeTabelle(Dateien& dateien, const std::filesystem::path& ordner, Tabelle tabelle,
+                    std::span<const std::vector<paradox::Wert>> zeilen, std::time_t zeit);
+
+/// Makes all ten tables empty, in their order. Nothing in the program as delivered does: the adjustment makes
+/// them.
+void ErzeugeTabellen(Dateien& dateien, const std::filesystem::path& ordner, std::time_t zeit);
+
+}  // namespace zrw

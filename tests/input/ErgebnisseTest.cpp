@@ -1,0 +1,227 @@
+// The result tables: imported, asked, listed and marked, against rows worked out by hand.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "input/Ergebnisabfragen.h"
+#include "input/MarkiereFehler.h"
+#include "input/Paradoxschreiber.h"
+#include "input/UnitZRWData.h"
+#include "model/Fehler.h"
+#include "tests/hilfe/Probenetz.h"
+#include "tests/hilfe/Speicherdateien.h"
+
+namespace zrw {
+namespace {
+
+using paradox::Wert;
+using Namen = std::vector<std::pair<std::string, std::string>>;
+
+class Ergebnisse : public testing::Test {
+  protected:
+    Ergebnisse() { daten.SetzeOrdner("netz"); }
+
+    /// A table whose rows have the given values in the named fields and null elsewhere, IDs from 1 on.
+    void Lege(Tabelle t, const std::vector<std::vector<std::pair<std::string_view, Wert>>>& zeilen) {
+        std::vector<std::vector<Wert>> alle;
+        for (const auto& zeile : zeilen) {
+            std::vector<Wert> werte(Beschreibung(t).felder.size());
+            werte[0] = std::int64_t{1} + static_cast<std::int64_t>(alle.size());
+            for (const auto& [feld, wert] : zeile)
+                werte.at(Feld(t, feld)) = wert;
+            alle.push_back(werte);
+        }
+        ErzeugeTabelle(dateien, "netz", t, alle, 0);
+    }
+    static std::size_t Feld(Tabelle t, std::string_view name) {
+        const auto felder = Beschreibung(t).felder;
+        const auto stelle =
+            std::find_if(felder.begin(), felder.end(), [&](const auto& f) { return f.name == name; });
+        return static_cast<std::size_t>(stelle - felder.begin());
+    }
+    /// IDs of the rows of a listing.
+    std::vector<std::int64_t> Ids(const Ergebnisreiter& r, std::string_view a, std::string_view b = {}) {
+        std::vector<std::int64_t> ids;
+        for (const auto& zeile :
+             daten.Frage(r.tabelle, Abfragetext(b.empty() ? r.punkt : r.kante, a, b)).zeilen)
+            ids.push_back(std::get<std::int64_t>(zeile[0]));
+        return ids;
+    }
+
+    Speicherdateien dateien;
+    TDM daten{dateien};
+};
+
+TEST_F(Ergebnisse, ErzeugteTabellenSindLeerUndVollstaendig) {
+    Lege(Tabelle::Strecken, {{{"P1", "A"}}});
+    for (int mal = 0; mal < 2; ++mal)
+        ErzeugeTabellen(dateien, "netz", 0);
+    EXPECT_EQ(dateien.dateien.size(), 20U);
+    for (std::size_t i = 0; i < kErgebnistabellen.size(); ++i) {
+        const Antwort alles = daten.Frage(static_cast<Tabelle>(i), kErgebnistabellen[i].alles);
+        EXPECT_TRUE(alles.zeilen.empty()) << kErgebnistabellen[i].name;
+        EXPECT_EQ(alles.spalten.size(), kErgebnistabellen[i].felder.size());
+    }
+    const auto klammern = daten.Frage(Tabelle::GpsPunkte3D, "SELECT \"X(GPS)\" from WGSTABLE");
+    EXPECT_TRUE(klammern.zeilen.empty());
+}
+
+TEST_F(Ergebnisse, AuflistungenAllerReiter) {
+    const Namen paare{{"1", "2"},
+                      {"2", "1"},
+                      {"1", "3"},
+                      {"3", "2"},
+                      {"O'B", "1"},
+                      {"KÜHBG", "12345678901234"},
+                      {"12345678901234", "KÜHBG"},
+                      {"", "1"},
+                      {"1", "2"}};
+    std::vector<std::vector<std::pair<std::string_view, Wert>>> zeilen;
+    for (const Ergebnisreiter& r : kErgebnisreiter) {
+        const bool paarig = Feld(r.tabelle, "PKT") == Beschreibung(r.tabelle).felder.size();
+        const bool satz = Feld(r.tabelle, "PS") < Beschreibung(r.tabelle).felder.size();
+        zeilen.clear();
+        for (const auto& [a, b] : paare) {
+            if (!paarig) {
+                zeilen.push_back({{"PKT", std::string_view(a)}});
+            } else {
+                zeilen.push_back(
+                    {{satz ? "PS" : "P1", std::string_view(a)}, {satz ? "PZ" : "P2", std::string_view(b)}});
+            }
+        }
+        Lege(r.tabelle, zeilen);
+        const bool gerichtet = r.tabelle == Tabelle::Gps;
+        for (const std::string n :
+             {"1", "2", "3", "O'B", "KÜHBG", "12345678901234", "fehlt", "1' OR '1'='1"}) {
+            std::vector<std::int64_t> erwartet;
+            for (std::size_t i = 0; i < paare.size(); ++i) {
+                if (paare[i].first == n || (paarig && paare[i].second == n))
+                    erwartet.push_back(static_cast<std::int64_t>(i) + 1);
+            }
+            EXPECT_EQ(Ids(r, n), erwartet) << r.titel << " " << n;
+            for (const std::string m : {"1", "2", "KÜHBG", "12345678901234", "O'B"}) {
+                erwartet.clear();
+                for (std::size_t i = 0; i < paare.size(); ++i) {
+                    const auto& [a, b] = paare[i];
+                    const bool hin = a == n && b == m;
+                    const bool her = a == m && b == n;
+                    if (paarig ? hin || (her && !gerichtet) : a == n || a == m)
+                        erwartet.push_back(static_cast<std::int64_t>(i) + 1);
+                }
+                EXPECT_EQ(Ids(r, n, m), erwartet) << r.titel << " " << n << " " << m;
+            }
+        }
+    }
+}
+
+TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
+    // Other order, one field less (H), one more, one in another case.
+    using paradox::Feldtyp;
+    const std::vector<paradox::Feld> felder{{"ID", Feldtyp::Lang, 4},
+                                            {"x", Feldtyp::Zahl, 8},
+                                            {"PKT", Feldtyp::Alpha, 14},
+                                            {"NEU", Feldtyp::Alpha, 3},
+                                            {"dY", Feldtyp::Zahl, 8}};
+    const std::vector<std::vector<Wert>> zeilen{{std::int64_t{7}, 1.5, "P", "abc", -2.0}};
+    dateien.dateien["netz/kootable.db"] = paradox::Schreibe("KOO", felder, zeilen, 0).db;
+    const Antwort a = daten.Frage(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "P"));
+    ASSERT_EQ(a.zeilen.size(), 1U);
+    EXPECT_EQ(std::get<double>(a.zeilen[0][Feld(Tabelle::Koordinaten, "X")]), 1.5);
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(a.zeilen[0][Feld(Tabelle::Koordinaten, "H")]));
+    EXPECT_EQ(a.spalten.back(), "NEU");
+    EXPECT_EQ(std::get<std::string>(a.zeilen[0].back()), "abc");
+    daten.Erneuere();
+    ASSERT_NE(daten.Zu("P"), nullptr);
+    EXPECT_EQ(daten.Zu("P")->dY, -2.0);
+    EXPECT_EQ(daten.Zu("P")->dX, 0.0) << "a missing field counts as null";
+
+    // A field that the query needs.
+    const std::vector<paradox::Feld> ohne{{"ID", Feldtyp::Lang, 4}, {"X", Feldtyp::Zahl, 8}};
+    dateien.dateien["netz/kootable.db"] = paradox::Schreibe("KOO", ohne, {}, 0).db;
+    try {
+        static_cast<void>(daten.Frage(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "P")));
+        FAIL() << "the point numbers are missing";
+    } catch (const Fehler& f) {
+        EXPECT_NE(std::string(f.what()).find("KOOTABLE.PKT"), std::string::npos) << f.what();
+    }
+}
+
+TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
+    Lege(Tabelle::Koordinaten,
+         {{{"PKT", "A"}, {"dY", 3.0}}, {{"PKT", "A"}, {"dY", 4.0}}, {{"PKT", "K\xC3\x9C"}, {"A", 5.0}}});
+    daten.Erneuere();
+    EXPECT_EQ(daten.Zu("A")->dY, 3.0) << "the first row of a number";
+    EXPECT_EQ(daten.Zu("K\xDC")->A, 5.0) << "labels are code page 1252";
+    EXPECT_EQ(daten.Zu("B"), nullptr);
+    EXPECT_EQ(daten.NimmMeldung(), "");
+
+    std::string& db = dateien.dateien["netz/KooTABLE.DB"];
+    const std::string heil = db;
+    db.resize(2100);
+    daten.Erneuere();
+    EXPECT_EQ(daten.Zu("A")->dY, 3.0);
+    EXPECT_NE(daten.NimmMeldung().find("KooTABLE.DB"), std::string::npos);
+    daten.Erneuere();
+    EXPECT_EQ(daten.NimmMeldung(), "") << "told once for each state of the file";
+    EXPECT_THROW(
+        static_cast<void>(daten.Frage(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "A"))),
+        Fehler);
+
+    Lege(Tabelle::Koordinaten, {{{"PKT", "A"}, {"dY", 9.0}}});
+    daten.Erneuere();
+    EXPECT_EQ(daten.Zu("A")->dY, 9.0) << "a new calculation is seen";
+    EXPECT_EQ(Ids(kErgebnisreiter[0], "A").size(), 1U);
+    dateien.dateien.erase("netz/KooTABLE.DB");
+    daten.Erneuere();
+    EXPECT_EQ(daten.Zu("A"), nullptr);
+}
+
+TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
+    Probenetz n;
+    for (const char* name : {"1", "2", "3", "4", "5", "6", "7"}) {
+        const auto nr = static_cast<PunktIndex>(name[0] - '0');
+        n.P(nr);
+        n.T(nr, name);
+    }
+    n.K(2, 1);
+    for (PunktIndex i = 2; i < 7; ++i)
+        n.K(i, static_cast<PunktIndex>(i + 1));
+    const auto marken = [&] {
+        std::set<int> nummern;  // first point of each marked line, lines being one number apart
+        for (const auto* k = n.l.KanteKnoten; k != nullptr; k = k->Next) {
+            if (k->Item->Farbe == n.e.GFCol) nummern.insert(std::min(k->ANr, k->ENr));
+        }
+        return nummern;
+    };
+    const auto zeile = [](std::string_view p, std::string_view von, std::string_view q, std::string_view nach,
+                          std::string_view flag, bool grob) {
+        return std::vector<std::pair<std::string_view, Wert>>{{p, von}, {q, nach}, {flag, grob}};
+    };
+    Lege(Tabelle::Richtungen, {zeile("PS", "2", "PZ", "3", "FF", true)});
+    Lege(Tabelle::Hoehenunterschiede, {zeile("P1", "3", "P2", "4", "FF", true)});
+    Lege(Tabelle::Gps, {zeile("P1", "5", "P2", "4", "FF", true)});
+    Lege(Tabelle::Streckenkontrollen, {zeile("P1", "5", "P2", "6", "GF", true)});
+    Lege(Tabelle::Linien, {zeile("PA", "6", "PE", "7", "GF", true)});
+    EXPECT_TRUE(MarkiereFehler(n.l, daten, n.e).empty());
+    EXPECT_EQ(marken(), (std::set{3, 4, 5, 6})) << "no direction without the table of distances";
+
+    // Not flagged, unknown points, no line between them, and one in the other orientation.
+    Lege(Tabelle::Strecken,
+         {zeile("P1", "4", "P2", "5", "FF", false), zeile("P1", "1", "P2", "99", "FF", true),
+          zeile("P1", "1", "P2", "7", "FF", true), zeile("P1", "1", "P2", "2", "FF", true)});
+    EXPECT_TRUE(MarkiereFehler(n.l, daten, n.e).empty());
+    EXPECT_EQ(marken(), (std::set{1, 2, 3, 4, 5, 6}));
+
+    for (auto* k = n.l.KanteKnoten; k != nullptr; k = k->Next)
+        k->Item->Farbe = kSchwarz;
+    dateien.dateien["netz/DHTABLE.DB"] = "kaputt";
+    dateien.dateien.erase("netz/RTGTABLE.DB");
+    const auto meldungen = MarkiereFehler(n.l, daten, n.e);
+    ASSERT_EQ(meldungen.size(), 1U);
+    EXPECT_NE(meldungen[0].find("DHTABLE.DB"), std::string::npos);
+    EXPECT_EQ(marken(), (std::set{1, 4, 5, 6})) << "the other tables mark all the same";
+}
+
+}  // namespace
+}  // namespace zrw
