@@ -61,7 +61,7 @@ std::vector<std::string> LiesSchalter(const std::string& liste) {
     auto namen = Aufteilen(liste);
     for (const std::string& n : namen) {
         if (std::none_of(kSchalter.begin(), kSchalter.end(),
-                         [&](const Schalter& s) { return s.name == n; })) {
+                         [&](const Schalter& s) { return !n.empty() && s.name == n; })) {
             throw Falschaufruf{"Unbekannter Schalter \"" + n + "\""};
         }
     }
@@ -133,8 +133,9 @@ Aufruf LiesAufruf(const std::vector<std::string>& worte) {
 
 std::string Hilfetext() {
     std::string schalter;
-    for (const Schalter& s : kSchalter)
-        schalter += (schalter.empty() ? "" : " ") + std::string(s.name);
+    for (const Schalter& s : kSchalter) {
+        if (!s.name.empty()) schalter += (schalter.empty() ? "" : " ") + std::string(s.name);
+    }
     return "Aufruf:\n"
            "  zarwik [DATEI]                          öffnet das Fenster, eine Steuerdatei (.EIN)\n"
            "                                          oder Zarwikdatei (.ZRW) gleich mit\n"

@@ -5,7 +5,9 @@
 #include <cstdio>
 
 #include "app/Formate.h"
+#include "input/MarkiereFehler.h"
 #include "input/Systemdateien.h"
+#include "input/UnitZRWData.h"
 #include "model/Fehler.h"
 #include "output/Export.h"
 #include "ui/Einstellungsablage.h"
@@ -53,6 +55,18 @@ void SetzeGroesse(const Aufruf& aufruf, Liste& liste) {
     liste.Hoehe = g.hoehe;
 }
 
+/// Tables beside the control file mark its observations; a picture file carries its marks.
+void WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Einstellungen& einstellungen) {
+    const std::filesystem::path datei = TextPfad(aufruf.datei);
+    std::error_code fehler;
+    const auto alias = TavelinOrdner(Einstellungsablage());
+    const bool bild = IstBilddatei(datei);
+    daten.SetzeOrdner(bild && alias ? *alias : std::filesystem::absolute(datei, fehler).parent_path());
+    if (bild) return;
+    for (const std::string& text : MarkiereFehler(liste, daten, einstellungen))
+        Drucke(text);
+}
+
 void Exportiere(const Aufruf& aufruf) {
     const Einstellungen einstellungen = LadeEinstellungen(aufruf);
     const std::filesystem::path datei = TextPfad(aufruf.datei);
@@ -63,6 +77,9 @@ void Exportiere(const Aufruf& aufruf) {
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, lesung, zustand);
+    TDM daten(dateien);
+    WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
+    zustand.Ergebnisse = &daten;
     // The legend names the scale of the print, as in the window.
     lesung.liste->Legend->Masstab = aufruf.massstab;
     const std::filesystem::path ordner = TextPfad(aufruf.ziel);
@@ -78,6 +95,7 @@ void Exportiere(const Aufruf& aufruf) {
         if (ziel.empty()) (ziel = datei.stem()) += TextPfad(format.endung);
         format.schreibe(ausgabe, ordner / ziel);
     }
+    if (const std::string meldung = daten.NimmMeldung(); !meldung.empty()) Drucke(meldung);
 }
 
 }  // namespace

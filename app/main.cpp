@@ -37,10 +37,11 @@ int Fenster(const Aufruf& aufruf) {
     Zeichenzustand zustand;
     Systemdateien dateien;
     const Systemuhr uhr;
-    const Systemdrucker drucker;
+    TDM daten(dateien);
+    Systemdrucker drucker;
     QtDialogdienst dialoge;
     Sitzung sitzung;
-    TZrwMainDlg fenster({einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, sitzung,
+    TZrwMainDlg fenster({einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung,
                          QStringLiteral(ZRW_VERSION)});
     dialoge.SetzeEltern(&fenster);
     fenster.show();

@@ -45,4 +45,12 @@ void Einstellungsablage::Sichere() {
     }
 }
 
+std::optional<std::filesystem::path> TavelinOrdner(const EinstellungsSpeicher& ablage) {
+    constexpr const char* kAlias = "TAVELIN";
+    if (qEnvironmentVariableIsSet(kAlias)) return NachPfad(qEnvironmentVariable(kAlias));
+    const auto wert = ablage.Lies(kAlias);
+    if (!wert || wert->empty()) return std::nullopt;
+    return TextPfad(*wert);
+}
+
 }  // namespace zrw

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QSettings>
+#include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "model/Einstellungen.h"
 
@@ -24,5 +26,9 @@ class Einstellungsablage final : public EinstellungsSpeicher {
   private:
     std::unique_ptr<QSettings> ablage_;
 };
+
+/// Folder of the result tables as the user set it under the name "TAVELIN", in the environment or among the
+/// settings; none where it is not set.
+[[nodiscard]] std::optional<std::filesystem::path> TavelinOrdner(const EinstellungsSpeicher& ablage);
 
 }  // namespace zrw

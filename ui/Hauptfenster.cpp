@@ -46,7 +46,7 @@ struct Befehl {
     bool gruppenende = false;
 };
 
-constexpr std::array<Befehl, 21> kBefehle{{
+constexpr std::array<Befehl, 24> kBefehle{{
     {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
@@ -64,6 +64,10 @@ constexpr std::array<Befehl, 21> kBefehle{{
     {"NummernZeigenButton", "Versteckte Punktnummern zeigen", "nummern_zeigen", "",
      &TZrwMainDlg::NummernZeigenClick, true},
     {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click},
+    {"SpeedButton5", "Zarwik drucken", "drucken", "Ctrl+P", &TZrwMainDlg::SpeedButton5Click},
+    {"SpeedButton11", "Druckereinstellungen", "drucker", "", &TZrwMainDlg::SpeedButton11Click},
+    {"SpeedButtonClipbrd", "Grafik als Bitmap speichern", "bitmap", "",
+     &TZrwMainDlg::SpeedButtonClipbrdClick},
     {"SpeedButton16", "DXF und HPGL Format ausgeben", "dxf", "Ctrl+E", &TZrwMainDlg::SpeedButton16Click,
      true},
     {"SpeedButton8", "Zeichenfont wählen", "schrift", "", &TZrwMainDlg::SpeedButton8Click},
@@ -155,13 +159,14 @@ void TZrwMainDlg::BaueFenster() {
     reihen->addLayout(kaesten);
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(flaeche_, *this, mitte);
+    bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) { ZeigeAusgabebereich(flaeche); });
     spalte->addWidget(bild_, 1);
     setCentralWidget(mitte);
 
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->setSizeGripEnabled(false);
     ZeigeStatus(QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
-    if (!restoreGeometry(programm_.sitzung.Fensterlage())) {
+    if (!restoreGeometry(programm_.sitzung.Stand(QStringLiteral("Fensterlage")))) {
         // The whole screen but for a strip that the system's own bar may need.
         const QRect schirm = screen()->availableGeometry();
         move(schirm.topLeft());
@@ -246,6 +251,7 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     EditMasstab_ = new Massstabfeld(this);
     EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
     EditMasstab_->setToolTip(QStringLiteral("Druckmaßstab"));
+    connect(EditMasstab_, &QLineEdit::textChanged, this, [this] { bild_->update(); });  // the output area
     EditMasstab_->setFixedWidth(
         EditMasstab_->fontMetrics().horizontalAdvance(QStringLiteral("000000000000")));
     schild->setBuddy(EditMasstab_);
@@ -300,7 +306,9 @@ void TZrwMainDlg::BaueDialoge() {
     punkteVerstecken_->verstecken = [this](const QStringList& nummern) { VerbergePunkte(nummern); };
     connect(punkteVerstecken_, &QDialog::finished, this,
             [this] { Knopf("SpeedButton14").setChecked(false); });
-    ergebnisse_ = new TFormData(this);
+    ergebnisse_ = new TFormData(programm_.sitzung, this);
+    ergebnisse_->reiterGewechselt = [this] { ListeAuf(); };
+    ergebnisse_->zeigePunkt = [this](const QString& nummer) { MarkierePunkt(nummer); };
     punktart_ = new TFormPunktart(this);
     punktart_->zeichnen = [this] { ZeichnePunktart(); };
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
@@ -350,6 +358,7 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         }
     }
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
+    if (schalter.schliesstErgebnisse) ergebnisse_->hide();
     if (liste_ != nullptr) ZeichneNeu();
 }
 

@@ -1,7 +1,8 @@
 // The main window: tool panel, picture and status line. Owns the current network and forwards. By topic:
 // building and switches in Hauptfenster.cpp, files in HauptfensterDateien.cpp, view, mouse and keys in
 // HauptfensterAnsicht.cpp, points, numbers and centring in HauptfensterPunkte.cpp, legend, export and
-// dialogs in HauptfensterAusgabe.cpp.
+// dialogs in HauptfensterAusgabe.cpp, printing and bitmaps in HauptfensterDruck.cpp,
+// results in HauptfensterErgebnisse.cpp.
 #pragma once
 
 #include <QMainWindow>
@@ -55,19 +56,22 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !aenderungen_.isClean(); }
 
     // Click handlers, by component.
-    void SpeedButton1Click();   ///< open a control file
-    void SpeedButton2Click();   ///< "Zarwik lesen"
-    void SpeedButton9Click();   ///< "Zarwik speichern"
-    void SpeedButton7Click();   ///< "Zarwik beenden"
-    void SpeedButton3Click();   ///< "Alles darstellen"
-    void SpeedButton4Click();   ///< "Programminfo"
-    void SpeedButton6Click();   ///< "Hilfe"
-    void SpeedButton8Click();   ///< "Zeichenfont wählen"
-    void SpeedButton10Click();  ///< "Punkt anzeigen"
-    void SpeedButton12Click();  ///< "Legendentexte"
-    void SpeedButton14Click();  ///< "Punkte verstecken"
-    void SpeedButton15Click();  ///< "Versteckte Punkte"
-    void SpeedButton16Click();  ///< "DXF und HPGL Format ausgeben"
+    void SpeedButton1Click();        ///< open a control file
+    void SpeedButton2Click();        ///< "Zarwik lesen"
+    void SpeedButton9Click();        ///< "Zarwik speichern"
+    void SpeedButton7Click();        ///< "Zarwik beenden"
+    void SpeedButton3Click();        ///< "Alles darstellen"
+    void SpeedButton4Click();        ///< "Programminfo"
+    void SpeedButton5Click();        ///< "Zarwik drucken"
+    void SpeedButton6Click();        ///< "Hilfe"
+    void SpeedButton8Click();        ///< "Zeichenfont wählen"
+    void SpeedButton10Click();       ///< "Punkt anzeigen"
+    void SpeedButton11Click();       ///< "Druckereinstellungen"
+    void SpeedButton12Click();       ///< "Legendentexte"
+    void SpeedButton14Click();       ///< "Punkte verstecken"
+    void SpeedButton15Click();       ///< "Versteckte Punkte"
+    void SpeedButton16Click();       ///< "DXF und HPGL Format ausgeben"
+    void SpeedButtonClipbrdClick();  ///< "Grafik als Bitmap speichern"
     void ColorButtonClick();
     void ButtonGroesserClick();
     void ButtonKleinerClick();
@@ -110,7 +114,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     /// False where the scale lies beyond what zooming allows.
     bool SetzeAnsicht(double faktor, Welt linksOben);
     void MerkeAnsicht(double faktor, Welt linksOben);
-    void HebeHervor();
+    void ZeigeBild();
     void ZeigeStatus(Bildpunkt ort);
     void ZeigeZeiger(Bildpunkt ort);
     [[nodiscard]] Werkzeug* Aktiv() const;
@@ -139,6 +143,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void NetzGeaendert();
     void FuelleNummern();
     void ZeigePunkt(const QString& nummer);
+    const PunktKnoten* MarkierePunkt(const QString& nummer);
     void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
     void ZeichnePunktart();
     void FuegePunktEin(const struct Punkteingabe& eingabe, Welt ort);
@@ -148,9 +153,20 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
-    void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
     void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
     [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }
+
+    // HauptfensterErgebnisse.cpp
+    void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
+    void DisplayPunkt(const PunktKnoten& punkt);
+    void DisplayKante(const PunktKante& kante);
+    void ListeAuf();
+    void WaehleTabellenordner(const std::filesystem::path& datei);
+    void MarkiereFehler();
+
+    // HauptfensterDruck.cpp
+    [[nodiscard]] std::optional<double> Druckmassstab();
+    void ZeigeAusgabebereich(Zeichenflaeche& flaeche) const;
 
     // HauptfensterAusgabe.cpp
     void ZeigeFehler(const std::exception& fehler);
@@ -183,12 +199,13 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     TFormHidePunkte* punkteVerstecken_ = nullptr;
     TFormHiddenPkt* versteckte_ = nullptr;
     TFormData* ergebnisse_ = nullptr;
-    std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
-    QStringList zuZeigen_;                 ///< hidden points that are being shown again
-    QSet<QString> zentriert_;              ///< numbers that left the lists of centring
-    bool ausdehnungAlt_ = false;           ///< points may lie beyond the extents of the network
-    Welt gewaehltOrt_;                     ///< as the dialog of point kinds shows it
-    PunktKnoten* gewaehlt_ = nullptr;      ///< the point in the dialog of point kinds
+    std::unique_ptr<Hilfefenster> hilfe_;      ///< made when it is first needed
+    std::pair<QString, QString> aufgelistet_;  ///< numbers of what the results are of; a point has one
+    QStringList zuZeigen_;                     ///< hidden points that are being shown again
+    QSet<QString> zentriert_;                  ///< numbers that left the lists of centring
+    bool ausdehnungAlt_ = false;               ///< points may lie beyond the extents of the network
+    Welt gewaehltOrt_;                         ///< as the dialog of point kinds shows it
+    PunktKnoten* gewaehlt_ = nullptr;          ///< the point in the dialog of point kinds
     /// Views before zooming: scale and world position of the top-left corner.
     std::vector<std::pair<double, Welt>> ansichten_;
     QString titel_;

@@ -28,13 +28,19 @@ void TZrwMainDlg::ZeichneNeu() {
     if (liste_ == nullptr) return;
     liste_->WeltinBild();
     liste_->ShowPicture(zeichner_);
-    bild_->update();
-    HebeHervor();
+    ZeigeBild();
 }
 
-/// What lies under the mouse now: the picture has moved below it.
-void TZrwMainDlg::HebeHervor() {
+/// After every drawing of the network.
+void TZrwMainDlg::ZeigeBild() {
+    bild_->update();
+    // What lies under the mouse now: the picture has moved below it.
     if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr && gedrueckt_ == nullptr) werkzeug->Schweben(maus_);
+    const QString meldung = AusUtf8(programm_.daten.NimmMeldung());
+    if (meldung.isEmpty()) return;
+    // Not from within a drawing: a box would let the next one in.
+    QMetaObject::invokeMethod(
+        this, [this, meldung] { programm_.dialoge.Melde(meldung); }, Qt::QueuedConnection);
 }
 
 void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
@@ -55,8 +61,7 @@ void TZrwMainDlg::SpeedButton3Click() {
     BrichAb();
     if (std::exchange(ausdehnungAlt_, false)) liste_->FindWorldMinMax();
     liste_->Alles(zeichner_);
-    bild_->update();
-    HebeHervor();
+    ZeigeBild();
 }
 
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
@@ -166,8 +171,7 @@ void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     } else {
         l.ZoomDown(zeichner_);
     }
-    bild_->update();
-    HebeHervor();
+    ZeigeBild();
 }
 
 void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {

@@ -39,13 +39,8 @@ void TZrwMainDlg::SpeedButton12Click() {
 void TZrwMainDlg::SpeedButton16Click() {
     if (liste_ == nullptr) return;
     BrichAb();  // figures that are being dragged are out of the picture
-    const auto massstab = EditMasstab_->Massstab();
-    if (!massstab) {
-        programm_.dialoge.Melde(QStringLiteral("Der Druckmaßstab muss eine Zahl größer als 0 sein."));
-        EditMasstab_->setFocus();
-        EditMasstab_->selectAll();
-        return;
-    }
+    const auto massstab = Druckmassstab();
+    if (!massstab) return;
     try {
         const Sanduhr sanduhr;
         const double faktor = Druckfaktor(*massstab, programm_.drucker.Aufloesung());

@@ -164,7 +164,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
     for (QDialog* dialog : findChildren<QDialog*>())
         dialog->close();
     if (hilfe_ != nullptr) hilfe_->close();
-    programm_.sitzung.MerkeFensterlage(saveGeometry());
+    programm_.sitzung.MerkeStand(QStringLiteral("Fensterlage"), saveGeometry());
     ereignis->accept();
 }
 
@@ -234,6 +234,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->Abbrechen();
     ergebnisse_->hide();
+    aufgelistet_ = {};
     gewaehlt_ = nullptr;
     ansichten_.clear();
     aenderungen_.clear();
@@ -243,6 +244,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     liste_ = std::move(lesung.liste);
     FuelleNummern();
     programm_.netz = lesung.netz;
+    WaehleTabellenordner(datei);
     if (IstBilddatei(datei)) {
         // Reading a picture file switches these two on, whatever they were.
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
@@ -277,6 +279,8 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
                     .arg(liste_->MaxKant));
     // A mode that was chosen before there was a network.
     if (Aktiv() != nullptr) Aktiv()->Beginne();
+    // A picture file carries its marks.
+    if (!IstBilddatei(datei)) MarkiereFehler();
     ZeichneNeu();
 }
 

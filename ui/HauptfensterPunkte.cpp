@@ -79,7 +79,18 @@ void TZrwMainDlg::SpeedButton10Click() {
 
 /// Brings a point into view and marks it. A part of a number finds the first that holds it.
 void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
-    if (liste_ == nullptr || nummer.isEmpty()) return;
+    const PunktKnoten* punkt = MarkierePunkt(nummer);
+    if (punkt == nullptr) return;
+    // A window without any results would only be in the way.
+    const auto liegtBei = [this](const Ergebnisreiter& r) { return programm_.daten.Vorhanden(r.datei); };
+    if (Knopf("DataButton").isChecked() ||
+        std::any_of(kErgebnisreiter.begin(), kErgebnisreiter.end(), liegtBei))
+        DisplayPunkt(*punkt);
+}
+
+/// Brings the point into view and marks it. @return null where there is none of this number
+const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
+    if (liste_ == nullptr || nummer.isEmpty()) return nullptr;
     PPunktKnoten punkt = liste_->FindPunkt(AlsNummer(nummer));
     if (punkt == nullptr) {
         const QStringList treffer = nummern_->stringList().filter(nummer, Qt::CaseInsensitive);
@@ -87,7 +98,7 @@ void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
     }
     if (punkt == nullptr) {
         ZeigeStatus(QStringLiteral("Einen Punkt %1 gibt es nicht.").arg(nummer));
-        return;
+        return nullptr;
     }
     BrichAb();
     const QString gefunden = AusNetz(liste_->GetPktText(punkt->PNr));
@@ -99,7 +110,7 @@ void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
         liste_->YOffset = punkt->YWPu - liste_->MaxYW + liste_->Hoehe / 2.0 * f;
     }
     ZeichneNeu();
-    if (!InReichweite(punkt->Item->Position(), 0, bild)) return;
+    if (!InReichweite(punkt->Item->Position(), 0, bild)) return punkt;
     const Flaechenpunkt m = Aufflaeche(punkt->Item->Position());
     {
         const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
@@ -108,15 +119,7 @@ void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
     }
     bild_->update();
     ZeigeStatus(QStringLiteral("Punkt ") + gefunden);
-    if (Knopf("DataButton").isChecked()) ZeigeErgebnis(punkt, nullptr);
-}
-
-void TZrwMainDlg::ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) {
-    if (punkt != nullptr) {
-        ergebnisse_->Zeige(*liste_, *punkt);
-    } else if (kante != nullptr) {
-        ergebnisse_->Zeige(*liste_, *kante);
-    }
+    return punkt;
 }
 
 // --- Centring ---------------------------------------------------------------------------------------------

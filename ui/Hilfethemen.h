@@ -27,7 +27,7 @@ inline constexpr std::string_view kNachschlagen = "Nachschlagen";
 /// Page that help opens with, and for everything that has none of its own.
 inline constexpr int kErsteSeite = 1;
 
-inline constexpr std::array<Hilfethema, 34> kHilfethemen{{
+inline constexpr std::array<Hilfethema, 36> kHilfethemen{{
     {kErsteSeite, "01_erste_schritte.md", "Erste Schritte", kErsteSchritte},
     {5, "05_dateien.md", "Öffnen, speichern, beenden", kErsteSchritte},
     {26, "26_rueckgaengig.md", "Änderungen zurücknehmen", kErsteSchritte},
@@ -39,6 +39,7 @@ inline constexpr std::array<Hilfethema, 34> kHilfethemen{{
     {25, "25_schalter.md", "Schalter der Darstellung", kDarstellung},
     {4, "04_kartengitter.md", "Kartenblätter und Kilometerquadrate", kDarstellung},
     {28, "28_legende.md", "Legende", kDarstellung},
+    {36, "36_genauigkeiten.md", "Verbesserungen und Genauigkeiten", kDarstellung},
 
     {34, "34_werkzeuge.md", "Mit Werkzeugen arbeiten", kMausbedienung},
     {7, "07_bild_verschieben.md", "Bild verschieben", kMausbedienung},
@@ -62,6 +63,7 @@ inline constexpr std::array<Hilfethema, 34> kHilfethemen{{
     {30, "30_einstellungen.md", "Zarwikeinstellungen und Schrift", kDialogfenster},
 
     {32, "32_tasten.md", "Tasten und Maus", kNachschlagen},
+    {35, "35_drucken.md", "Drucken und Bild speichern", kNachschlagen},
     {3, "03_ausgabe.md", "Plan ausgeben: DXF und HPGL/2", kNachschlagen},
     {27, "27_dateiformate.md", "Dateien und Formate", kNachschlagen},
     {29, "29_stapelbetrieb.md", "Stapelbetrieb", kNachschlagen},
@@ -74,7 +76,7 @@ struct Hilfekomponente {
     int kontext;
 };
 
-inline constexpr std::array<Hilfekomponente, 64> kHilfekomponenten{{
+inline constexpr std::array<Hilfekomponente, 67> kHilfekomponenten{{
     // Files
     {"SpeedButton1", 5},
     {"SpeedButton2", 5},
@@ -111,6 +113,9 @@ inline constexpr std::array<Hilfekomponente, 64> kHilfekomponenten{{
     {"RueckgaengigButton", 26},
     {"WiederholenButton", 26},
     // Output
+    {"SpeedButton5", 35},
+    {"SpeedButton11", 35},
+    {"SpeedButtonClipbrd", 35},
     {"SpeedButton16", 3},
     {"EditMasstab", 3},
     {"SpeedButton12", 28},
@@ -124,11 +129,11 @@ inline constexpr std::array<Hilfekomponente, 64> kHilfekomponenten{{
     {"CheckBoxKMQ", 4},
     {"CheckBoxPktNr", 25},
     {"CheckBoxBeob", 25},
-    {"CheckBoxPreview", 25},
-    {"CheckBoxLGRes", 25},
-    {"CheckBoxHRes", 25},
-    {"CheckBoxLgGen", 25},
-    {"CheckBoxHGen", 25},
+    {"CheckBoxPreview", 35},
+    {"CheckBoxLGRes", 36},
+    {"CheckBoxHRes", 36},
+    {"CheckBoxLgGen", 36},
+    {"CheckBoxHGen", 36},
     {"CheckBoxFP", 25},
     {"CheckBoxFL", 25},
     {"CheckBoxFH", 25},

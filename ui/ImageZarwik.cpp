@@ -43,9 +43,9 @@ void ImageZarwik::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     if (!versatz_.isNull()) maler.fillRect(rect(), Qt::white);
     maler.drawImage(versatz_, flaeche_.Bild());
-    if (!vorschau_ || !versatz_.isNull()) return;
     Malerflaeche flaeche(maler, {0, 0, width() - 1, height() - 1}, flaeche_.Schrift());
-    vorschau_(flaeche);
+    if (ueberlagerung_) ueberlagerung_(flaeche);
+    if (vorschau_ && versatz_.isNull()) vorschau_(flaeche);
 }
 
 void ImageZarwik::resizeEvent(QResizeEvent* ereignis) {

@@ -28,6 +28,10 @@ class ImageZarwik final : public QWidget {
     /// Draws over the picture until the next call; an empty one draws nothing. Left out while the picture is
     /// shifted.
     void SetzeVorschau(std::function<void(Zeichenflaeche&)> vorschau);
+    /// Draws what always lies over the picture, below the preview.
+    void SetzeUeberlagerung(std::function<void(Zeichenflaeche&)> ueberlagerung) {
+        ueberlagerung_ = std::move(ueberlagerung);
+    }
     /// Shows the picture shifted, while it is being dragged.
     void SetzeVerschiebung(Bildpunkt versatz);
     [[nodiscard]] QSize sizeHint() const override { return {900, 600}; }
@@ -45,6 +49,7 @@ class ImageZarwik final : public QWidget {
     Bildempfaenger& empfaenger_;
     QPoint versatz_;
     std::function<void(Zeichenflaeche&)> vorschau_;
+    std::function<void(Zeichenflaeche&)> ueberlagerung_;
     int radrest_ = 0;  ///< fine wheels report parts of a step
 };
 

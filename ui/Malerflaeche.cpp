@@ -59,8 +59,9 @@ void Malerflaeche::SetzeSchrift(const QFont& schrift) {
 void Malerflaeche::WendeStiftAn(const Stift& stift) {
     if (stift_ == stift) return;
     QPen pen(AlsQColor(stift.farbe));
-    pen.setWidth(stift.breite > 1 ? stift.breite : 0);
-    pen.setCosmetic(stift.breite <= 1);
+    const int breite = stift.breite * strichbreite_;
+    pen.setWidth(breite > 1 ? breite : 0);
+    pen.setCosmetic(breite <= 1);
     pen.setStyle(stift.art == Strichart::Gestrichelt ? Qt::DashLine : Qt::SolidLine);
     maler_->setPen(pen);
     stift_ = stift;

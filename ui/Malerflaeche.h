@@ -37,6 +37,8 @@ class Malerflaeche : public Zeichenflaeche {
   protected:
     /// For surfaces that own their painter and begin it later.
     Malerflaeche();
+    /// Width of a pen of width 1 [dots], for devices whose dots are too fine to be seen.
+    void SetzeStrichbreite(int dots) { strichbreite_ = dots; }
     /// Takes a painter that has just begun.
     void BindeAn(QPainter& maler, const Rechteck& sichtbar);
 
@@ -48,6 +50,7 @@ class Malerflaeche : public Zeichenflaeche {
     Rechteck sichtbar_;
     QFont schrift_;
     QFontMetrics masse_;
+    int strichbreite_ = 1;
     // What the painter holds now; none after it began.
     std::optional<Stift> stift_;
     std::optional<Pinsel> pinsel_;

@@ -3,13 +3,14 @@
 
 #include <QString>
 
+#include "input/UnitZRWData.h"
 #include "model/Dateien.h"
 #include "model/Einstellungen.h"
 #include "model/Netzangaben.h"
 #include "output/Uhr.h"
 #include "output/Zeichenzustand.h"
 #include "ui/Dialogdienst.h"
-#include "ui/Druckauskunft.h"
+#include "ui/Drucker.h"
 #include "ui/Sitzung.h"
 
 namespace zrw {
@@ -22,7 +23,8 @@ struct Programm {
     Zeichenzustand& zustand;
     Dateien& dateien;
     const Uhr& uhr;
-    const Druckauskunft& drucker;
+    TDM& daten;
+    Drucker& drucker;
     Dialogdienst& dialoge;
     Sitzung& sitzung;
     QString version;

@@ -12,17 +12,18 @@
 namespace zrw {
 
 struct Schalter {
-    std::string_view name;            ///< on the command line
+    std::string_view name;            ///< on the command line; empty: not there
     std::string_view komponente;      ///< object name of the check box; empty: no check box
     std::string_view beschriftung;    ///< caption, UTF-8
     std::string_view hinweis;         ///< hint, UTF-8
     bool Liste::*inListe;             ///< switch of the network, or null
     bool Zeichenzustand::*imZustand;  ///< switch of the whole program, or null
     bool anfangs;
-    bool imKartengitter = false;  ///< only for networks that have a map grid
+    bool imKartengitter = false;       ///< only for networks that have a map grid
+    bool schliesstErgebnisse = false;  ///< the results window goes
 };
 
-inline constexpr std::array<Schalter, 15> kSchalter{{
+inline constexpr std::array<Schalter, 16> kSchalter{{
     {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Liste::ShowPktText, nullptr,
      true},
     {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Liste::ShowBeob, nullptr,
@@ -31,17 +32,18 @@ inline constexpr std::array<Schalter, 15> kSchalter{{
      true},
     {"kmq", "CheckBoxKMQ", "Kilometerquadrat", "Kilometerquadrate einblenden", &Liste::ShowKMQ, nullptr,
      false, true},
+    {"", "CheckBoxPreview", "Ausgabebereich", "Ausgabebereich einblenden", nullptr, nullptr, false},
     {"legende", "", "Legende", "", &Liste::ShowLegende, nullptr, false},
-    {"lageverb", "", "Lageverbesserungen", "", &Liste::ShowLgRes, nullptr, false},
-    {"hoehenverb", "", "Höhenverbesserungen", "", &Liste::ShowHRes, nullptr, false},
-    {"lagegen", "", "Lagegenauigkeit", "", &Liste::ShowLGGen, nullptr, false},
-    {"hoehengen", "", "Höhengenauigkeit", "", &Liste::ShowHGen, nullptr, false},
-    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Liste::ShowFP, nullptr, true},
-    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Liste::ShowFL, nullptr, true},
-    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Liste::ShowFH, nullptr, true},
-    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Liste::ShowNP, nullptr, true},
+    {"lageverb", "CheckBoxLGRes", "Lageverbesserungen", "", &Liste::ShowLgRes, nullptr, false, false, true},
+    {"hoehenverb", "CheckBoxHRes", "Höhenverbesserungen", "", &Liste::ShowHRes, nullptr, false, false, true},
+    {"lagegen", "CheckBoxLgGen", "Lagegenauigkeit", "", &Liste::ShowLGGen, nullptr, false, false, true},
+    {"hoehengen", "CheckBoxHGen", "Höhengenauigkeit", "", &Liste::ShowHGen, nullptr, false, false, true},
+    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Liste::ShowFP, nullptr, true, false, true},
+    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Liste::ShowFH, nullptr, true, false, true},
+    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Liste::ShowNP, nullptr, true, false, true},
+    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Liste::ShowFL, nullptr, true, false, true},
     {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Liste::ShowHilfP,
-     nullptr, true},
+     nullptr, true, false, true},
     {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "", nullptr, &Zeichenzustand::KurzeNummern, false},
 }};
 

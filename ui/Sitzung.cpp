@@ -7,7 +7,6 @@ namespace {
 
 const QString kDateien = QStringLiteral("Sitzung/Dateien");
 const QString kOrdner = QStringLiteral("Sitzung/Ordner");
-const QString kLage = QStringLiteral("Sitzung/Fensterlage");
 
 QString EigeneDatei() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -39,12 +38,12 @@ void Sitzung::MerkeOrdner(const QString& ordner) {
     ablage_.setValue(kOrdner, ordner);
 }
 
-QByteArray Sitzung::Fensterlage() const {
-    return ablage_.value(kLage).toByteArray();
+QByteArray Sitzung::Stand(const QString& name) const {
+    return ablage_.value(QStringLiteral("Sitzung/") + name).toByteArray();
 }
 
-void Sitzung::MerkeFensterlage(const QByteArray& lage) {
-    ablage_.setValue(kLage, lage);
+void Sitzung::MerkeStand(const QString& name, const QByteArray& stand) {
+    ablage_.setValue(QStringLiteral("Sitzung/") + name, stand);
 }
 
 }  // namespace zrw

@@ -22,8 +22,9 @@ class Sitzung {
     void NimmDatei(const QString& datei);
     [[nodiscard]] QString Ordner() const;
     void MerkeOrdner(const QString& ordner);
-    [[nodiscard]] QByteArray Fensterlage() const;
-    void MerkeFensterlage(const QByteArray& lage);
+    /// Place of a window, widths of columns: whatever a part of the window puts there under its name.
+    [[nodiscard]] QByteArray Stand(const QString& name) const;
+    void MerkeStand(const QString& name, const QByteArray& stand);
 
   private:
     QSettings ablage_;

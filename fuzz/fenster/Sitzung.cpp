@@ -22,6 +22,7 @@
 #include "fuzz/Proben.h"
 #include "input/Systemdateien.h"
 #include "tests/hilfe/Antwortdienst.h"
+#include "tests/hilfe/Festdrucker.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
 #include "ui/Hauptfenster.h"
@@ -29,11 +30,6 @@
 namespace {
 
 using namespace zrw;
-
-class Festdrucker final : public Druckauskunft {
-  public:
-    [[nodiscard]] int Aufloesung() const override { return 600; }
-};
 
 class Sitzungslauf {
   public:
@@ -234,11 +230,12 @@ class Sitzungslauf {
     Zeichenzustand zustand_;
     Systemdateien system_;
     Festuhr uhr_;
+    TDM daten_{system_};
     Festdrucker drucker_;
     Antwortdienst dialoge_;
     Sitzung sitzung_{ordner_.filePath("sitzung.ini")};
     TZrwMainDlg fenster_{
-        {einstellungen_, ablage_, netz_, zustand_, system_, uhr_, drucker_, dialoge_, sitzung_, "0"}};
+        {einstellungen_, ablage_, netz_, zustand_, system_, uhr_, daten_, drucker_, dialoge_, sitzung_, "0"}};
     QTimer modal_;
 };
 

@@ -258,12 +258,12 @@ TEST_F(Aenderungen, FrageVorDemVerwerfen) {
 
 TEST_F(Aenderungen, AbgelegteUndLetzteDateien) {
     const auto lege = [this](const QList<QUrl>& adressen) {
-        QMimeData daten;
-        adressen.isEmpty() ? daten.setText("n.EIN") : daten.setUrls(adressen);
-        QDragEnterEvent herein({50, 50}, Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QMimeData inhalt;
+        adressen.isEmpty() ? inhalt.setText("n.EIN") : inhalt.setUrls(adressen);
+        QDragEnterEvent herein({50, 50}, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&fenster, &herein);
         EXPECT_EQ(herein.isAccepted(), !adressen.isEmpty());
-        QDropEvent e(QPointF(50, 50), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent e(QPointF(50, 50), Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&fenster, &e);
     };
     lege({QUrl("https://example.org/a.EIN"), QUrl::fromLocalFile(ordner.filePath("a.EIN"))});

@@ -337,7 +337,7 @@ TEST_F(Bedienfallen, DialogGeschlossenLoestDenKnopf) {
 
 TEST_F(Bedienfallen, WerkzeugOhneNetzDannNetz) {
     TZrwMainDlg zweites{
-        {einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, sitzung, "1.2"}};
+        {einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1.2"}};
     zweites.show();
     for (const auto& [knopf, name] :
          {std::pair{"EditBeobButton", "TFormBeobTyp"}, {"PunktartButton", "TFormPunktart"}}) {

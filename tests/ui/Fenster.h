@@ -17,16 +17,12 @@
 #include "input/Systemdateien.h"
 #include "model/Bytes.h"
 #include "tests/hilfe/Antwortdienst.h"
+#include "tests/hilfe/Festdrucker.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
 #include "ui/Hauptfenster.h"
 
 namespace zrw {
-
-class Festdrucker final : public Druckauskunft {
-  public:
-    [[nodiscard]] int Aufloesung() const override { return 600; }
-};
 
 class Fensterprobe : public testing::Test {
   protected:
@@ -65,11 +61,12 @@ class Fensterprobe : public testing::Test {
     Zeichenzustand zustand;
     Systemdateien dateien;
     Festuhr uhr;
+    TDM daten{dateien};
     Festdrucker drucker;
     Antwortdienst dialoge;
     Sitzung sitzung{ordner.filePath("sitzung.ini")};
     TZrwMainDlg fenster{
-        {einstellungen, ablage, netz, zustand, dateien, uhr, drucker, dialoge, sitzung, "1.2"}};
+        {einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1.2"}};
     QWidget* bild = nullptr;
 };
 

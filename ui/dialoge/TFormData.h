@@ -1,25 +1,54 @@
-// What is known about a point or a line that was clicked.
+// The results browser: what the adjustment found for a point or a line, one table a tab. Read only.
 #pragma once
 
 #include <QDialog>
+#include <functional>
 
-#include "model/FigListe.h"
+#include "input/Ergebnisabfragen.h"
+#include "ui/Sitzung.h"
+#include "ui/dialoge/Ergebnismodell.h"
 
-class QPlainTextEdit;
+class QLabel;
+class QTabBar;
+class QTableView;
 
 namespace zrw {
 
 class TFormData final : public QDialog {
   public:
-    explicit TFormData(QWidget* eltern);
+    /// @param sitzung remembers the widths of the columns and the place of the window
+    TFormData(Sitzung& sitzung, QWidget* eltern);
+    ~TFormData() override;
 
-    void Zeige(Liste& netz, const PunktKnoten& punkt);
-    void Zeige(Liste& netz, const PunktKante& kante);
+    /// Another tab is to list what was listed last.
+    std::function<void()> reiterGewechselt;
+    /// The point of this number is to be shown in the plot.
+    std::function<void(const QString&)> zeigePunkt;
+
+    [[nodiscard]] const Ergebnisreiter& Reiter() const;
+    /// What is listed. @param angaben a line about it @param nummer its point, of a line the first one
+    void Betitle(const QString& titel, const QString& angaben, const QString& nummer);
+    void Fuelle(Antwort antwort);
+    /// An empty grid. @param grund told below it
+    void Leere(const QString& grund);
+    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+    /// Shows the window without taking the keyboard.
+    void Zeige();
 
   private:
-    void ZeigeText(const QString& titel, const QString& text);
+    void BaueGitter();
+    void Kopiere(bool alles) const;
+    void ZeigeEndpunkt(int zeile) const;
+    void MerkeSpalten() const;
 
-    QPlainTextEdit* text_;
+    Sitzung& sitzung_;
+    Ergebnismodell modell_;
+    QLabel* angaben_;
+    QTableView* gitter_;
+    QLabel* hinweis_;
+    QTabBar* reiter_;
+    QString nummer_;
+    int gezeigt_ = -1;  ///< tab whose columns stand in the grid
 };
 
 }  // namespace zrw

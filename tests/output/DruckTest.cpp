@@ -1,0 +1,105 @@
+// Printing at scale: where things come to lie on the sheet, and that a job leaves nothing behind.
+#include "output/Druck.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "model/Bytes.h"
+#include "output/Figurenzeichner.h"
+#include "tests/hilfe/Festuhr.h"
+#include "tests/hilfe/MerkFlaeche.h"
+#include "tests/hilfe/Probenetz.h"
+
+namespace zrw {
+namespace {
+
+class Druck : public testing::Test {
+  protected:
+    Druck() {
+        zustand.flaeche = &bild;
+        n.l.Weite = 800;
+        n.l.Hoehe = 600;
+        n.l.MaxYW = 1000;
+        n.l.Faktor = 7.5;
+        n.P(1, 0, 1000);
+        n.P(2, 250, 1000);
+        n.T(1, "A");
+        n.T(2, "B");
+        n.K(1, 2);
+        n.l.WeltinBild();
+        blatt.sichtbar = {0, 0, 4723, 3306};
+    }
+
+    [[nodiscard]] std::string Stand() const {
+        ByteSchreiber f;
+        n.l.Store(f, netz);
+        return std::string(f.Inhalt()) + std::to_string(n.e.PTSize) + std::to_string(n.e.Querstrich);
+    }
+    void Drucke(double aufloesung) {
+        zrw::Drucke(n.l, zeichner, zustand, n.e, blatt, {25000, "25000", {4724, 3307, aufloesung}});
+    }
+
+    Probenetz n;
+    Netzangaben netz;
+    Festuhr uhr;
+    Zeichenzustand zustand;
+    MerkFlaeche bild;
+    MerkFlaeche blatt;
+    Figurenzeichner zeichner{zustand, n.e, netz, uhr};
+};
+
+TEST_F(Druck, MassstabSymboleUndSchriftAufDemBlatt) {
+    // 250 m at 1:25000 are 10 mm: 236 dots of 600 to the inch. The circle of 4 px becomes one of 25 dots, the
+    // label's offset (10, -5) px becomes (62, -31) dots, halves to even.
+    const std::string vorher = Stand();
+    Drucke(600);
+    const auto enthaelt = [&](const char* zeile) {
+        return std::find(blatt.zeilen.begin(), blatt.zeilen.end(), zeile) != blatt.zeilen.end();
+    };
+    EXPECT_TRUE(enthaelt("Ellipse -25 -25 25 25"));
+    EXPECT_TRUE(enthaelt("Ellipse 211 -25 261 25"));
+    EXPECT_TRUE(enthaelt("Text 0x000000 62 -31 A"));
+    EXPECT_TRUE(enthaelt("Text 0x000000 298 -31 B"));
+    EXPECT_EQ(Stand(), vorher);
+    EXPECT_EQ(zustand.flaeche, &bild);
+    EXPECT_EQ(zustand.modus, Zeichenmodus::Bildschirm);
+    EXPECT_DOUBLE_EQ(zustand.Geraetefaktor, 0.16) << "stays at screen to printer";
+    EXPECT_TRUE(bild.zeilen.empty());
+}
+
+TEST_F(Druck, LegendeStehtImSelbenEckUndBehaeltDenMassstab) {
+    n.l.ShowLegende = true;
+    n.l.Legend = std::make_unique<Legende>(Legende::Create());
+    Drucke(600);
+    const auto rahmen = std::find_if(blatt.zeilen.begin(), blatt.zeilen.end(),
+                                     [](const std::string& z) { return z.starts_with("Rechteck"); });
+    ASSERT_NE(rahmen, blatt.zeilen.end());
+    EXPECT_TRUE(rahmen->starts_with("Rechteck 10 10")) << *rahmen << ": (2, 2) px are (12, 12) dots";
+    EXPECT_EQ(n.l.Legend->Masstab, "25000");
+    EXPECT_EQ(n.l.Legend->Position(), (Bildpunkt{2, 2}));
+}
+
+TEST_F(Druck, EinAbgebrochenerAuftragHinterlaesstNichts) {
+    class Abbruch final : public Zeichner {
+        void ClearPicture(std::int32_t /*weite*/, std::int32_t /*hoehe*/) override {}
+        void ZeichnePunkt(const Punkt& /*p*/, Gang /*g*/) override { throw std::bad_alloc(); }
+        void ZeichneKante(const Kante& /*k*/, Gang /*g*/) override {}
+        void ZeichneText(const PktText& /*t*/, Gang /*g*/) override {}
+    } abbruch;
+    const std::string vorher = Stand();
+    EXPECT_THROW(zrw::Drucke(n.l, abbruch, zustand, n.e, blatt, {5000, "5000", {100, 100, 1200}}),
+                 std::bad_alloc);
+    EXPECT_EQ(Stand(), vorher);
+    EXPECT_EQ(zustand.flaeche, &bild);
+    EXPECT_DOUBLE_EQ(zustand.Geraetefaktor, 1.0);
+}
+
+TEST_F(Druck, AusgabebereichInBildpunkten) {
+    // A sheet of 200 by 140 mm at 1:25000 covers 5000 by 3500 m.
+    const Bildpunkt ecke = Ausgabebereich(n.l, 25000, {4724, 3307, 600});
+    EXPECT_EQ(ecke, (Bildpunkt{667, 467}));
+}
+
+}  // namespace
+}  // namespace zrw

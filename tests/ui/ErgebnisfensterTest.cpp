@@ -1,0 +1,166 @@
+// Results in the window: the browser, marked observations and the overlays.
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QFile>
+#include <QHeaderView>
+#include <QTabBar>
+#include <QTableView>
+
+#include "tests/ui/Fenster.h"
+
+namespace zrw {
+namespace {
+
+using paradox::Wert;
+
+class Ergebnisfenster : public Netzprobe {
+  protected:
+    Ergebnisfenster() {
+        const auto strecke = [](std::int64_t id, std::string_view p1, std::string_view p2, double st,
+                                bool ff) {
+            std::vector<Wert> z(17);
+            z[0] = id;
+            z[1] = p1;
+            z[2] = p2;
+            z[3] = st;
+            z[16] = ff;
+            return z;
+        };
+        Tabelle(zrw::Tabelle::Strecken,
+                {strecke(1, "C", "E", 1000.1235, true), strecke(2, "E", "C", 0.25, false),
+                 strecke(3, "A", "C", 1414.2, false)});
+        std::vector<Wert> gps(41);
+        gps[0] = std::int64_t{1};
+        gps[1] = "C";
+        gps[2] = "E";
+        gps[34] = 7.0;
+        gps[35] = 8.4;
+        gps[38] = true;
+        Tabelle(zrw::Tabelle::Gps, {gps});
+        std::vector<Wert> punkt(20);
+        punkt[0] = std::int64_t{1};
+        punkt[1] = "E";
+        punkt[7] = 40.0;
+        Tabelle(zrw::Tabelle::Koordinaten, {punkt});
+        Oeffne("n.EIN");
+    }
+    void Tabelle(zrw::Tabelle t, const std::vector<std::vector<Wert>>& zeilen) {
+        ErzeugeTabelle(dateien, ordner.path().toStdString(), t, zeilen, 0);
+    }
+    void Klick(QPoint ort) const { QTest::mouseClick(bild, Qt::LeftButton, {}, ort); }
+    [[nodiscard]] QDialog& Fenster() const { return *fenster.findChild<QDialog*>("TFormData"); }
+    [[nodiscard]] QTableView& Gitter() const { return *Fenster().findChild<QTableView*>("DBGrid1"); }
+    void Reiter(int i) const { Fenster().findChild<QTabBar*>("TabControl1")->setCurrentIndex(i); }
+    [[nodiscard]] QString Zelle(int zeile, const char* titel) const {
+        const auto* m = Gitter().model();
+        for (int s = 0; s < m->columnCount(); ++s) {
+            if (m->headerData(s, Qt::Horizontal) == QString(titel))
+                return m->index(zeile, s).data().toString();
+        }
+        return "keine Spalte";
+    }
+};
+
+TEST_F(Ergebnisfenster, ListetPunktUndLinieAufJedemReiter) {
+    Knopf("DataButton").click();
+    Klick(E);
+    ASSERT_TRUE(Fenster().isVisible());
+    EXPECT_EQ(Fenster().windowTitle(), "Abriss nach der Ausgleichung Punkt E");
+    EXPECT_EQ(Zelle(0, "dY"), "40");
+    EXPECT_EQ(Zelle(0, "Höhe"), "") << "null";
+    Reiter(2);
+    ASSERT_EQ(Gitter().model()->rowCount(), 2);
+    EXPECT_EQ(Zelle(0, "ST"), "1000.124");
+    EXPECT_EQ(Zelle(1, "ST"), ".250");
+    EXPECT_EQ(Zelle(0, "FF"), "ja");
+    Reiter(3);
+    EXPECT_EQ(Gitter().model()->rowCount(), 0) << "there is no table of height differences";
+    Klick((C + E) / 2);
+    EXPECT_EQ(Fenster().windowTitle(), "Abriss nach der Ausgleichung P1= C  P2= E");
+    Reiter(1);
+    ASSERT_EQ(Gitter().model()->rowCount(), 1);
+    EXPECT_EQ(Zelle(0, "NMFX"), "7");
+    EXPECT_EQ(Zelle(0, "NMFY"), "NK") << "flagged as not controlled";
+    EXPECT_EQ(Zelle(0, "NKY"), "ja");
+    EXPECT_TRUE(dialoge.meldungen.isEmpty());
+}
+
+TEST_F(Ergebnisfenster, SortiertKopiertUndZeigtDenAnderenEndpunkt) {
+    Knopf("DataButton").click();
+    Klick(E);
+    Reiter(2);
+    Gitter().sortByColumn(3, Qt::AscendingOrder);
+    EXPECT_EQ(Zelle(0, "ST"), ".250") << "by value, not by text";
+    Gitter().selectRow(0);
+    QTest::keyClick(&Gitter(), Qt::Key_C, Qt::ControlModifier);
+    const QString kopie = QGuiApplication::clipboard()->text();
+    EXPECT_TRUE(kopie.startsWith("2\tE\tC\t.250\t")) << kopie.toStdString();
+    EXPECT_EQ(kopie.count('\n'), 0);
+    emit Gitter().doubleClicked(Gitter().model()->index(0, 0));
+    EXPECT_EQ(Status(), "Punkt C");
+    EXPECT_EQ(Gitter().model()->rowCount(), 2) << "the listing stays";
+    EXPECT_EQ(Gitter().editTriggers(), QAbstractItemView::NoEditTriggers);
+    Gitter().horizontalHeader()->resizeSection(3, 222);
+    Reiter(0);
+    Reiter(2);
+    EXPECT_EQ(Gitter().columnWidth(3), 222) << "widths are remembered";
+}
+
+TEST_F(Ergebnisfenster, DieWahlEinerNummerListetUndDieMausVerbirgt) {
+    auto* nummern = fenster.findChild<QComboBox*>("ComboBox1");
+    emit nummern->textActivated("E");
+    EXPECT_TRUE(Fenster().isVisible());
+    QTest::mouseMove(bild, {30, 30});
+    EXPECT_FALSE(Fenster().isVisible());
+    QFile::remove(ordner.filePath("KooTABLE.DB"));
+    QFile::remove(ordner.filePath("STRTABLE.DB"));
+    QFile::remove(ordner.filePath("GPSTABLE.DB"));
+    emit nummern->textActivated("E");
+    EXPECT_FALSE(Fenster().isVisible()) << "nothing to list";
+}
+
+TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
+    const Liste& l = *fenster.Netz();
+    EXPECT_EQ(l.FindKante(l.FindPunkt("C")->PNr, l.FindPunkt("E")->PNr)->Item->Farbe, einstellungen.GFCol);
+    EXPECT_NE(l.FindKante(l.FindPunkt("A")->PNr, l.FindPunkt("C")->PNr)->Item->Farbe, einstellungen.GFCol);
+    EXPECT_FALSE(fenster.isWindowModified());
+    const QImage ohne = fenster.Bild().copy();
+    auto* kasten = fenster.findChild<QCheckBox*>("CheckBoxLGRes");
+    kasten->click();
+    EXPECT_EQ(fenster.Bild().pixelColor(E.x() + 30, E.y()), QColor(Qt::red)) << "40 mm to the right";
+    zustand.Geraetefaktor = 0.16;  // as a print leaves it
+    Knopf("ButtonGroesser").click();
+    Knopf("ButtonKleiner").click();
+    EXPECT_EQ(fenster.Bild().pixelColor(E.x() + 30, E.y()), QColor(Qt::red));
+    kasten->click();
+    EXPECT_EQ(fenster.Bild(), ohne);
+
+    // The other program rewrites the table: told once, outside the drawing.
+    kasten->click();
+    Lege("KooTABLE.DB", "halb");
+    Knopf("SpeedButton3").click();
+    Knopf("SpeedButton3").click();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(dialoge.meldungen.size(), 1);
+    EXPECT_TRUE(dialoge.meldungen[0].contains("KooTABLE.DB"));
+}
+
+TEST_F(Ergebnisfenster, ZarwikdateiFragtDenAlias) {
+    dialoge.datei = ordner.filePath("plan.ZRW");
+    Knopf("SpeedButton9").click();
+    QTemporaryDir anderswo;
+    ablage.werte["TAVELIN"] = anderswo.path().toStdString();
+    fenster.Oeffne(ordner.filePath("plan.ZRW").toStdString());
+    EXPECT_FALSE(daten.Vorhanden("STRTable.DB"));
+    ablage.werte.erase("TAVELIN");
+    fenster.Oeffne(ordner.filePath("plan.ZRW").toStdString());
+    EXPECT_TRUE(daten.Vorhanden("STRTable.DB"));
+    const Liste& l = *fenster.Netz();
+    EXPECT_EQ(l.FindKante(l.FindPunkt("C")->PNr, l.FindPunkt("E")->PNr)->Item->Farbe, einstellungen.GFCol)
+        << "the picture carries its marks";
+}
+
+}  // namespace
+}  // namespace zrw

@@ -1,0 +1,36 @@
+// Rows of a result table for a grid: shown by their formats, sorted by their values, never edited.
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "input/Datenbank.h"
+#include "input/Ergebnistabellen.h"
+
+namespace zrw {
+
+class Ergebnismodell final : public QAbstractTableModel {
+  public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// @param antwort its columns begin with the fields of the table, in their order
+    void Setze(const Ergebnistabelle& tabelle, Antwort antwort);
+    void Leere();
+    /// Raw text of a field, empty where it is none.
+    [[nodiscard]] QString Text(int zeile, std::string_view feld) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& eltern = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& eltern = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& stelle, int rolle) const override;
+    [[nodiscard]] QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle) const override;
+    void sort(int spalte, Qt::SortOrder ordnung) override;
+
+  private:
+    [[nodiscard]] const Tabellenfeld* Feld(int spalte) const;
+    [[nodiscard]] const Zelle& Wert(int zeile, int spalte) const;
+    [[nodiscard]] QString Anzeige(int zeile, int spalte) const;
+
+    std::span<const Tabellenfeld> felder_;
+    Antwort antwort_;
+};
+
+}  // namespace zrw
