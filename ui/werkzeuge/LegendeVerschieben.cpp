@@ -22,33 +22,39 @@ void LegendeVerschieben::Druecken(Bildpunkt ort) {
     Liste& netz = *umgebung_.AktuelleListe();
     netz.MausLegende(ort);
     anfang_ = ort;
-    vorher_ = netz.Legend->Position();
+    // The network without its legend: wiping it on the way would wipe what lies below.
+    netz.ShowLegende = false;
+    umgebung_.ZeichneNeu();
+    netz.ShowLegende = true;
+    Ziehen(ort);
+}
+
+Bildpunkt LegendeVerschieben::Ziel(Bildpunkt ort) const {
+    const Bildpunkt ecke = umgebung_.AktuelleListe()->Legend->Position();
+    return {Auf32(ecke.x + ort.x - anfang_->x), Auf32(ecke.y + ort.y - anfang_->y)};
 }
 
 void LegendeVerschieben::Ziehen(Bildpunkt ort) {
-    if (anfang_) Setze({vorher_.x + ort.x - anfang_->x, vorher_.y + ort.y - anfang_->y});
+    if (!anfang_) return;
+    Legende legende = *umgebung_.AktuelleListe()->Legend;
+    legende.XO = Ziel(ort).x;
+    legende.YO = Ziel(ort).y;
+    umgebung_.ZeigeVorschau(
+        [legende](Zeichner& z, Zeichenflaeche& /*f*/) mutable { z.ZeichneLegende(legende, Gang::Zeigen); });
 }
 
 void LegendeVerschieben::Loslassen(Bildpunkt ort) {
-    Ziehen(ort);
-    Schliesse();
+    if (!anfang_) return;
+    const Bildpunkt ziel = Ziel(ort);
+    umgebung_.AktuelleListe()->Legend->Drag(Auf32(ziel.x), Auf32(ziel.y), umgebung_.Bildzeichner());
+    Abbrechen();
 }
 
 void LegendeVerschieben::Abbrechen() {
-    if (anfang_) Setze(vorher_);
-    Schliesse();
-}
-
-void LegendeVerschieben::Setze(Bildpunkt ort) {
-    umgebung_.AktuelleListe()->Legend->Drag(Auf32(ort.x), Auf32(ort.y), umgebung_.Bildzeichner());
-    umgebung_.BildGeaendert();
-}
-
-/// Draws again what the legend was dragged over.
-void LegendeVerschieben::Schliesse() {
     if (!anfang_) return;
     anfang_.reset();
     umgebung_.AktuelleListe()->Legend->Move = false;
+    umgebung_.ZeigeVorschau({});
     umgebung_.ZeichneNeu();
 }
 

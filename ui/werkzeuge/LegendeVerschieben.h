@@ -22,11 +22,10 @@ class LegendeVerschieben final : public Werkzeug {
     [[nodiscard]] QString Anleitung() const override { return {}; }
 
   private:
-    void Setze(Bildpunkt ort);
-    void Schliesse();
+    /// Where the legend would come to lie.
+    [[nodiscard]] Bildpunkt Ziel(Bildpunkt ort) const;
 
     Werkzeugumgebung& umgebung_;
-    Bildpunkt vorher_;                 ///< where the legend was
     std::optional<Bildpunkt> anfang_;  ///< where the mouse went down
 };
 
