@@ -108,6 +108,7 @@ void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const 
     if (dateien_.Stand(datei) != stand)
         throw Fehler("Die Tabelle wird gerade geschrieben. Bitte später noch einmal versuchen.", name);
     const paradox::Leser leser(inhalt, name);
+    if (!leser.Warnung().empty()) meldung_ = Fehler::Meldung(leser.Warnung(), name, 0);
     std::vector<std::string> spalten;
     for (const paradox::Feld& f : leser.Felder())
         spalten.push_back(f.name);

@@ -37,7 +37,7 @@ class TDM final : public Punktergebnisse {
     /// Failures are kept for `NimmMeldung`, once for each state of the file; the old results then stay.
     void Erneuere() override;
     [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override;
-    /// What went wrong with the results of points since the last call, else empty.
+    /// What went wrong with the results of points, or looked wrong in a table, since the last call; else empty.
     [[nodiscard]] std::string NimmMeldung();
 
   private:

@@ -161,6 +161,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void DisplayPunkt(const PunktKnoten& punkt);
     void DisplayKante(const PunktKante& kante);
     void ListeAuf();
+    void ZeigeTabellenmeldung();
     void WaehleTabellenordner(const std::filesystem::path& datei);
     void MarkiereFehler();
 

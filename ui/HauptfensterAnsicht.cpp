@@ -36,11 +36,7 @@ void TZrwMainDlg::ZeigeBild() {
     bild_->update();
     // What lies under the mouse now: the picture has moved below it.
     if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr && gedrueckt_ == nullptr) werkzeug->Schweben(maus_);
-    const QString meldung = AusUtf8(programm_.daten.NimmMeldung());
-    if (meldung.isEmpty()) return;
-    // Not from within a drawing: a box would let the next one in.
-    QMetaObject::invokeMethod(
-        this, [this, meldung] { programm_.dialoge.Melde(meldung); }, Qt::QueuedConnection);
+    ZeigeTabellenmeldung();
 }
 
 void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {

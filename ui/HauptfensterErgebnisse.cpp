@@ -90,6 +90,15 @@ void TZrwMainDlg::ListeAuf() {
     } catch (const std::exception& f) {
         ZeigeFehler(f);
     }
+    ZeigeTabellenmeldung();
+}
+
+/// What reading the tables had to say. Later, outside whatever goes on: a box would let the next drawing in.
+void TZrwMainDlg::ZeigeTabellenmeldung() {
+    const QString meldung = AusUtf8(programm_.daten.NimmMeldung());
+    if (meldung.isEmpty()) return;
+    QMetaObject::invokeMethod(
+        this, [this, meldung] { programm_.dialoge.Melde(meldung); }, Qt::QueuedConnection);
 }
 
 /// Results lie beside the control file; for a picture file where the alias points to, if there is one.
