@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
@@ -38,6 +39,7 @@ class Sitzungslauf {
         // A copy: the session also saves, onto any file that it knows.
         for (const char* name : {"NETZ.EIN", "KOORD.KF", "RICHT.SF"})
             QFile::copy(QStringLiteral(ZRW_QUELLE "/beispiele/") + name, ordner_.filePath(name));
+        LegeTabellen();
         const QString beispiel = ordner_.filePath("NETZ.EIN");
         dateien_ << beispiel << Lege("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, saat}))
                  << Lege("leer.EIN", "$NT 3\n") << Lege("kaputt.EIN", "$NT x\n") << "fehlt.EIN"
@@ -172,7 +174,29 @@ class Sitzungslauf {
         if (Wuerfle(50) == 0)
             fenster_.resize(300 + static_cast<int>(Wuerfle(1200)), 200 + static_cast<int>(Wuerfle(800)));
     }
+    void LegeTabellen() {
+        const QDir beispiele(QStringLiteral(ZRW_QUELLE "/beispiele"));
+        for (const QString& name : beispiele.entryList({"*.DB"})) {
+            QFile::remove(ordner_.filePath(name));
+            QFile::copy(beispiele.filePath(name), ordner_.filePath(name));
+        }
+    }
+    /// One table goes, is cut short or holds something else; sometimes all come back.
+    void Tabelle() {
+        const QStringList namen = QDir(ordner_.path()).entryList({"*.DB"});
+        if (namen.isEmpty() || Wuerfle(4) == 0) return LegeTabellen();
+        QFile datei(ordner_.filePath(namen[static_cast<qsizetype>(Wuerfle(namen.size()))]));
+        if (Wuerfle(3) == 0) {
+            datei.remove();
+        } else if (datei.open(QIODevice::ReadWrite)) {
+            datei.seek(static_cast<qint64>(Wuerfle(datei.size() + 1)));
+            datei.putChar(static_cast<char>(Wuerfle(256)));
+            if (Wuerfle(2) == 0) datei.resize(static_cast<qint64>(Wuerfle(datei.size() + 1)));
+        }
+    }
+
     void Datei() {
+        if (Wuerfle(20) == 0) Tabelle();
         // What was saved over is put back, else the session ends with picture files alone.
         if (Wuerfle(200) == 0) {
             QFile::remove(dateien_[0]);
