@@ -16,6 +16,7 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "ui/Fensterort.h"
 #include "ui/Hilfefenster.h"
 #include "ui/Umbruchleiste.h"
 #include "ui/Umwandlung.h"
@@ -312,6 +313,9 @@ void TZrwMainDlg::BaueDialoge() {
     punktart_ = new TFormPunktart(this);
     punktart_->zeichnen = [this] { ZeichnePunktart(); };
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
+    new Fensterort(*ergebnisse_, Rand::RechtsUnten);
+    for (QDialog* dialog : std::initializer_list<QDialog*>{punktart_, beobachtungstyp_, punkteVerstecken_})
+        new Fensterort(*dialog, Rand::RechtsOben);
     // Closing the window of a mode ends the mode.
     connect(punktart_, &QDialog::finished, this, [this] { Knopf("PunktartButton").setChecked(false); });
     connect(beobachtungstyp_, &QDialog::finished, this,
