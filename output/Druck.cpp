@@ -52,7 +52,8 @@ void Drucke(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Einstellu
     const double geraetefaktor = auftrag.seite.aufloesung / kBildaufloesung;
     if (liste.ShowLegende && liste.Legend != nullptr) liste.Legend->Masstab = auftrag.massstabtext;
     {
-        const Geraeteansicht ansicht(liste, zustand, Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung));
+        const Geraeteansicht ansicht(liste, zustand, Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung),
+                                     auftrag.ecke);
         const Druckgroessen groessen(einstellungen, geraetefaktor);
         const Legendenort legendenort(liste.Legend.get(), geraetefaktor);
         // The sheet is the picture: grids reach to its edges.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "model/Einstellungen.h"
@@ -15,6 +16,9 @@ namespace zrw {
 
 /// Screens are taken as 96 dots per inch, as printers' dots are scaled from them.
 inline constexpr double kBildaufloesung = 96;
+inline constexpr double kMillimeterJeZoll = 25.4;
+/// Width of a pen of width 1 on paper [mm]: thinner lines are lost on it.
+inline constexpr double kStrichbreite = 0.15;
 
 /// What can be printed on of one sheet.
 struct Druckseite {
@@ -27,11 +31,12 @@ struct Druckauftrag {
     double massstab = 25000;   ///< scale denominator
     std::string massstabtext;  ///< the same as the legend names it, code page 1252
     Druckseite seite;
+    std::optional<Welt> ecke{};  ///< world position of the sheet's top-left corner; none: that of the picture
 };
 
-/// Draws the network with its overlays onto a sheet whose top-left corner is that of the picture. The
-/// legend keeps naming the print scale. View, drawing state and sizes afterwards are as before, whatever
-/// happens, but for the device factor: it stays at screen to printer.
+/// Draws the network with its overlays onto a sheet. The legend keeps naming the print scale. View, drawing
+/// state and sizes afterwards are as before, whatever happens, but for the device factor: it stays at screen
+/// to printer.
 void Drucke(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Einstellungen& einstellungen,
             Zeichenflaeche& drucker, const Druckauftrag& auftrag);
 

@@ -20,11 +20,13 @@ void Geraeteansicht::FuerJedePosition(Tun tun) {
     }
 }
 
-Geraeteansicht::Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double faktor)
+Geraeteansicht::Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double faktor, std::optional<Welt> ecke)
     : liste_(liste),
       zustand_(zustand),
       vorher_(zustand),
       faktor_(liste.Faktor),
+      xOffset_(liste.XOffset),
+      yOffset_(liste.YOffset),
       weite_(liste.Weite),
       hoehe_(liste.Hoehe) {
     std::size_t anzahl = 0;
@@ -32,11 +34,17 @@ Geraeteansicht::Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double fak
     positionen_.reserve(anzahl);
     FuerJedePosition([this](std::int64_t& wert) { positionen_.push_back(wert); });
     liste_.Faktor = faktor;
+    if (ecke) {
+        liste_.XOffset = ecke->rechts - liste_.MinXW;
+        liste_.YOffset = ecke->hoch - liste_.MaxYW;
+    }
     liste_.WeltinBild();
 }
 
 Geraeteansicht::~Geraeteansicht() {
     liste_.Faktor = faktor_;
+    liste_.XOffset = xOffset_;
+    liste_.YOffset = yOffset_;
     liste_.Weite = weite_;
     liste_.Hoehe = hoehe_;
     zustand_ = vorher_;

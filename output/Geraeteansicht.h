@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "model/FigListe.h"
@@ -14,8 +15,9 @@ namespace zrw {
 /// may be other than what its view gives.
 class Geraeteansicht {
   public:
-    /// @param faktor [m/dot] of the device
-    Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double faktor);
+    /// @param faktor [m/dot] of the device @param ecke world position of its top-left dot; none: as in the
+    /// picture
+    Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double faktor, std::optional<Welt> ecke = {});
     ~Geraeteansicht();
     Geraeteansicht(const Geraeteansicht&) = delete;
     Geraeteansicht& operator=(const Geraeteansicht&) = delete;
@@ -28,6 +30,8 @@ class Geraeteansicht {
     Zeichenzustand& zustand_;
     Zeichenzustand vorher_;
     double faktor_;
+    double xOffset_;
+    double yOffset_;
     std::int32_t weite_;
     std::int32_t hoehe_;
     std::vector<std::int64_t> positionen_;

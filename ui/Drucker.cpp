@@ -7,18 +7,16 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <cmath>
+#include <optional>
 
 #include "model/Fehler.h"
 #include "output/Export.h"
 #include "ui/Malerflaeche.h"
 #include "ui/Umwandlung.h"
+#include "ui/dialoge/Druckvorschau.h"
 
 namespace zrw {
 namespace {
-
-/// Thinner lines than this are lost on paper [mm].
-constexpr double kStrichbreite = 0.15;
-constexpr double kMillimeterJeZoll = 25.4;
 
 class Druckflaeche final : public Malerflaeche {
   public:
@@ -69,10 +67,7 @@ bool Systemdrucker::RichteEin(QWidget* eltern) {
     return dialog.exec() == QDialog::Accepted;
 }
 
-void Systemdrucker::Drucke(const QString& titel, const QFont& schrift,
-                           const std::function<void(Zeichenflaeche&)>& zeichne) {
-    QPrinter& geraet = Geraet();
-    geraet.setDocName(titel);
+void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
     QPainter maler;
     const auto misslungen = [&] {
         const QString ziel = geraet.outputFileName();
@@ -82,18 +77,41 @@ void Systemdrucker::Drucke(const QString& titel, const QFont& schrift,
     };
     if (!maler.begin(&geraet)) throw misslungen();
     const Druckseite seite = Seite();
-    QFont druckschrift = schrift;
-    druckschrift.setPixelSize(
-        static_cast<int>(std::lround(QFontInfo(schrift).pixelSize() * seite.aufloesung / kBildaufloesung)));
+    QFont druckschrift = werk.schrift;
+    druckschrift.setPixelSize(static_cast<int>(
+        std::lround(QFontInfo(werk.schrift).pixelSize() * seite.aufloesung / kBildaufloesung)));
     druckschrift.setHintingPreference(QFont::PreferNoHinting);
-    Druckflaeche flaeche(maler, seite, druckschrift);
     try {
-        zeichne(flaeche);
+        for (int i = 0; i < werk.blaetter; ++i) {
+            if (i > 0 && !geraet.newPage()) throw misslungen();
+            Druckflaeche flaeche(maler, seite, druckschrift);
+            werk.zeichne(flaeche, i);
+        }
     } catch (...) {
         geraet.abort();
         throw;
     }
     if (!maler.end() || geraet.printerState() == QPrinter::Error) throw misslungen();
+}
+
+void Systemdrucker::Drucke(const Druckwerk& werk) {
+    Geraet().setDocName(werk.titel);
+    Male(Geraet(), werk);
+}
+
+bool Systemdrucker::ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) {
+    std::optional<Fehler> fehler;
+    Druckvorschau dialog(Geraet(), uebersicht, eltern);
+    dialog.male = [&](QPrinter& geraet) {
+        try {
+            Male(geraet, werk);
+        } catch (const Fehler& f) {
+            fehler = f;  // not through the widget that asked
+        }
+    };
+    const bool drucken = dialog.exec() == QDialog::Accepted;
+    if (fehler) throw Fehler(*fehler);
+    return drucken;
 }
 
 }  // namespace zrw

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -14,6 +15,14 @@ class QWidget;
 
 namespace zrw {
 
+/// What is printed.
+struct Druckwerk {
+    QString titel;  ///< of the job
+    QFont schrift;  ///< drawing font of the screen
+    int blaetter = 1;
+    std::function<void(Zeichenflaeche&, int)> zeichne;  ///< draws a sheet, from 0 on
+};
+
 class Drucker {
   public:
     virtual ~Drucker() = default;
@@ -25,10 +34,12 @@ class Drucker {
     [[nodiscard]] virtual bool Waehle(QWidget* eltern) = 0;
     /// The dialog for paper and margins. @return false: cancelled
     virtual bool RichteEin(QWidget* eltern) = 0;
-    /// Prints one sheet. @param schrift drawing font of the screen
-    /// @throws Fehler where the printer does not take the job or breaks it off
-    virtual void Drucke(const QString& titel, const QFont& schrift,
-                        const std::function<void(Zeichenflaeche&)>& zeichne) = 0;
+    /// Prints the sheets of a job. @throws Fehler where the printer does not take it or breaks it off
+    virtual void Drucke(const Druckwerk& werk) = 0;
+    /// Shows the sheets as they would be printed. @param uebersicht how they lie in the plot
+    /// @return whether they are to be printed
+    [[nodiscard]] virtual bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk,
+                                             const QImage& uebersicht) = 0;
 };
 
 /// The system's printers. Before one is chosen: the default one, or a file where there is none.
@@ -40,11 +51,12 @@ class Systemdrucker final : public Drucker {
     [[nodiscard]] Druckseite Seite() const override;
     bool Waehle(QWidget* eltern) override;
     bool RichteEin(QWidget* eltern) override;
-    void Drucke(const QString& titel, const QFont& schrift,
-                const std::function<void(Zeichenflaeche&)>& zeichne) override;
+    void Drucke(const Druckwerk& werk) override;
+    bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) override;
 
   private:
     [[nodiscard]] QPrinter& Geraet() const;
+    void Male(QPrinter& geraet, const Druckwerk& werk) const;
 
     mutable std::unique_ptr<QPrinter> geraet_;  ///< made when first needed: looking for printers takes time
 };

@@ -47,7 +47,7 @@ struct Befehl {
     bool gruppenende = false;
 };
 
-constexpr std::array<Befehl, 24> kBefehle{{
+constexpr std::array<Befehl, 25> kBefehle{{
     {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
@@ -66,6 +66,7 @@ constexpr std::array<Befehl, 24> kBefehle{{
      &TZrwMainDlg::NummernZeigenClick, true},
     {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click},
     {"SpeedButton5", "Zarwik drucken", "drucken", "Ctrl+P", &TZrwMainDlg::SpeedButton5Click},
+    {"VorschauButton", "Druckvorschau", "vorschau", "", &TZrwMainDlg::VorschauClick},
     {"SpeedButton11", "Druckereinstellungen", "drucker", "", &TZrwMainDlg::SpeedButton11Click},
     {"SpeedButtonClipbrd", "Grafik als Bitmap speichern", "bitmap", "",
      &TZrwMainDlg::SpeedButtonClipbrdClick},
@@ -218,6 +219,7 @@ void TZrwMainDlg::BaueWerkzeuge(QLayout& reihe) {
     mitteltaste_ = NeuesWerkzeug<BildVerschieben>(*this);
     Werkzeugumgebung& umgebung = *this;  // the base is private
     legendenecke_ = std::make_unique<LegendeVerschieben>(umgebung);
+    rahmenrand_ = std::make_unique<RahmenVerschieben>(umgebung, druckrahmen_);
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
         const Werkzeugzeile& zeile = kWerkzeuge[i];
         werkzeuge_.push_back(zeile.neu(*this));
@@ -252,7 +254,7 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     EditMasstab_ = new Massstabfeld(this);
     EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
     EditMasstab_->setToolTip(QStringLiteral("Druckmaßstab"));
-    connect(EditMasstab_, &QLineEdit::textChanged, this, [this] { bild_->update(); });  // the output area
+    connect(EditMasstab_, &QLineEdit::textChanged, this, [this] { AktualisiereRahmen(); });
     EditMasstab_->setFixedWidth(
         EditMasstab_->fontMetrics().horizontalAdvance(QStringLiteral("000000000000")));
     schild->setBuddy(EditMasstab_);
@@ -363,6 +365,7 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
     }
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
     if (schalter.schliesstErgebnisse) ergebnisse_->hide();
+    if (schalter.inListe == nullptr && schalter.imZustand == nullptr) AktualisiereRahmen();
     if (liste_ != nullptr) ZeichneNeu();
 }
 

@@ -17,13 +17,16 @@
 
 #include "input/Oeffnen.h"
 #include "model/FigListe.h"
+#include "output/Blattschnitt.h"
 #include "output/Figurenzeichner.h"
 #include "ui/Bildflaeche.h"
+#include "ui/Druckrahmen.h"
 #include "ui/ImageZarwik.h"
 #include "ui/Massstabfeld.h"
 #include "ui/Programm.h"
 #include "ui/Schalter.h"
 #include "ui/werkzeuge/LegendeVerschieben.h"
+#include "ui/werkzeuge/RahmenVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
 
 class QCheckBox;
@@ -71,6 +74,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void SpeedButton14Click();       ///< "Punkte verstecken"
     void SpeedButton15Click();       ///< "Versteckte Punkte"
     void SpeedButton16Click();       ///< "DXF und HPGL Format ausgeben"
+    void VorschauClick();            ///< "Druckvorschau"
     void SpeedButtonClipbrdClick();  ///< "Grafik als Bitmap speichern"
     void ColorButtonClick();
     void ButtonGroesserClick();
@@ -118,7 +122,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ZeigeStatus(Bildpunkt ort);
     void ZeigeZeiger(Bildpunkt ort);
     [[nodiscard]] Werkzeug* Aktiv() const;
-    [[nodiscard]] bool NimmtLegende(Bildpunkt ort) const;
+    [[nodiscard]] Werkzeug* Zustaendig(Bildpunkt ort) const;
     void BrichAb();
     void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikMouseMove(Bildpunkt ort) override;
@@ -167,6 +171,11 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
 
     // HauptfensterDruck.cpp
     [[nodiscard]] std::optional<double> Druckmassstab();
+    [[nodiscard]] std::vector<Blatt> Blaetter(double massstab, const Druckseite& seite) const;
+    [[nodiscard]] Druckwerk Druckauftraege(std::vector<Blatt> blaetter, double massstab);
+    [[nodiscard]] QImage Blattuebersicht(const std::vector<Blatt>& blaetter, double faktor,
+                                         const Druckseite& seite);
+    void AktualisiereRahmen();
     void ZeigeAusgabebereich(Zeichenflaeche& flaeche) const;
 
     // HauptfensterAusgabe.cpp
@@ -183,6 +192,8 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
     std::unique_ptr<LegendeVerschieben> legendenecke_;
+    Druckrahmen druckrahmen_;
+    std::unique_ptr<RahmenVerschieben> rahmenrand_;
     Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
     Qt::MouseButton taste_ = Qt::NoButton;
     Bildpunkt maus_;  ///< last mouse position over the picture [px]

@@ -189,10 +189,14 @@ void TZrwMainDlg::BrichAb() {
     if (gedrueckt_ != nullptr) std::exchange(gedrueckt_, nullptr)->Abbrechen();
 }
 
-/// The legend's corner is caught with no mode on and while numbers are moved; else the press is the tool's.
-bool TZrwMainDlg::NimmtLegende(Bildpunkt ort) const {
-    const bool frei = Aktiv() == nullptr || Knopf("MoveTextButton").isChecked();
-    return frei && legendenecke_->UeberEcke(ort);
+/// Whose a press here is. The legend's corner is caught with no mode on and while numbers are moved, the edge
+/// of the output area with no mode on.
+Werkzeug* TZrwMainDlg::Zustaendig(Bildpunkt ort) const {
+    Werkzeug* aktiv = Aktiv();
+    const bool frei = aktiv == nullptr || Knopf("MoveTextButton").isChecked();
+    if (frei && legendenecke_->UeberEcke(ort)) return legendenecke_.get();
+    if (aktiv == nullptr && rahmenrand_->UeberRand(ort)) return rahmenrand_.get();
+    return aktiv;
 }
 
 void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
@@ -210,7 +214,7 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
     if (taste == Qt::MiddleButton) {
         werkzeug = mitteltaste_.get();
     } else if (taste == Qt::LeftButton) {
-        werkzeug = NimmtLegende(ort) ? legendenecke_.get() : Aktiv();
+        werkzeug = Zustaendig(ort);
     }
     if (werkzeug == nullptr) return;
     taste_ = taste;
@@ -233,7 +237,7 @@ void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
 
 /// The pointer tells what a press would do here.
 void TZrwMainDlg::ZeigeZeiger(Bildpunkt ort) {
-    const Werkzeug* werkzeug = NimmtLegende(ort) ? legendenecke_.get() : Aktiv();
+    const Werkzeug* werkzeug = Zustaendig(ort);
     const Qt::CursorShape zeiger = werkzeug != nullptr ? werkzeug->Zeiger() : Qt::ArrowCursor;
     if (bild_->cursor().shape() != zeiger) bild_->setCursor(zeiger);
 }

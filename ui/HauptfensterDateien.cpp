@@ -235,6 +235,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
         werkzeug->Abbrechen();
     ergebnisse_->hide();
     aufgelistet_ = {};
+    druckrahmen_.Loese();
     gewaehlt_ = nullptr;
     ansichten_.clear();
     aenderungen_.clear();

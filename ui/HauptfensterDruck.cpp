@@ -3,8 +3,12 @@
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 #include "model/Fehler.h"
+#include "output/Export.h"
+#include "output/Geraeteansicht.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
@@ -22,20 +26,49 @@ std::optional<double> TZrwMainDlg::Druckmassstab() {
     return massstab;
 }
 
+/// Sheets of the plot at this scale; one without a place of its own where it fits, or would need too many.
+std::vector<Blatt> TZrwMainDlg::Blaetter(double massstab, const Druckseite& seite) const {
+    try {
+        auto blaetter = Blattschnitt(*liste_, massstab, seite, druckrahmen_.Ecke(*liste_));
+        if (blaetter.size() > 1 || (blaetter.size() == 1 && blaetter[0] != Blatt{})) return blaetter;
+    } catch (const Fehler&) {
+        // One sheet can be printed at any scale.
+    }
+    return {{0, 0, druckrahmen_.Ecke(*liste_)}};
+}
+
+Druckwerk TZrwMainDlg::Druckauftraege(std::vector<Blatt> blaetter, double massstab) {
+    Druckwerk werk;
+    werk.titel = QStringLiteral("Zarwik ") + QFileInfo(AusUtf8(PfadText(steuerdatei_))).fileName();
+    werk.schrift = flaeche_.Schrift();
+    werk.blaetter = static_cast<int>(blaetter.size());
+    const std::string text = Utf8NachCp1252(NachUtf8(EditMasstab_->text()));
+    werk.zeichne = [this, blaetter = std::move(blaetter), massstab, text](Zeichenflaeche& flaeche,
+                                                                          int nummer) {
+        Drucke(*liste_, zeichner_, programm_.zustand, programm_.einstellungen, flaeche,
+               {massstab, text, programm_.drucker.Seite(), blaetter[static_cast<std::size_t>(nummer)].ecke});
+    };
+    return werk;
+}
+
 void TZrwMainDlg::SpeedButton5Click() {
     if (liste_ == nullptr) return;
     BrichAb();
     const auto massstab = Druckmassstab();
     if (!massstab || !programm_.drucker.Waehle(this)) return;
-    const QString name = QFileInfo(AusUtf8(PfadText(steuerdatei_))).fileName();
+    AktualisiereRahmen();  // other paper may have been chosen
+    auto blaetter = Blaetter(*massstab, programm_.drucker.Seite());
+    if (blaetter.size() > 1) {
+        const auto alle = programm_.dialoge.FrageMitAbbruch(
+            QStringLiteral("In diesem Maßstab verteilt sich der Plan auf %1 Blätter. Alle drucken?\n"
+                           "Nein druckt nur das Blatt des Ausgabebereichs.")
+                .arg(blaetter.size()));
+        if (!alle) return;
+        if (!*alle) blaetter = {{0, 0, druckrahmen_.Ecke(*liste_)}};
+    }
     try {
         const Sanduhr sanduhr;
-        const Druckauftrag auftrag{*massstab, Utf8NachCp1252(NachUtf8(EditMasstab_->text())),
-                                   programm_.drucker.Seite()};
-        programm_.drucker.Drucke(
-            QStringLiteral("Zarwik ") + name, flaeche_.Schrift(), [&](Zeichenflaeche& blatt) {
-                zrw::Drucke(*liste_, zeichner_, programm_.zustand, programm_.einstellungen, blatt, auftrag);
-            });
+        programm_.drucker.Drucke(Druckauftraege(std::move(blaetter), *massstab));
         ZeigeStatus(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
     } catch (const std::exception& f) {
         ZeigeFehler(f);
@@ -43,22 +76,80 @@ void TZrwMainDlg::SpeedButton5Click() {
     ZeichneNeu();  // the legend names the scale of the print
 }
 
+void TZrwMainDlg::VorschauClick() {
+    if (liste_ == nullptr) return;
+    BrichAb();
+    const auto massstab = Druckmassstab();
+    if (!massstab) return;
+    bool drucken = false;
+    try {
+        const Druckseite seite = programm_.drucker.Seite();
+        auto blaetter = Blaetter(*massstab, seite);
+        const QImage uebersicht = Blattuebersicht(blaetter, Druckfaktor(*massstab, seite.aufloesung), seite);
+        drucken =
+            programm_.drucker.ZeigeVorschau(this, Druckauftraege(std::move(blaetter), *massstab), uebersicht);
+    } catch (const std::exception& f) {
+        ZeigeFehler(f);
+    }
+    ZeichneNeu();
+    if (drucken) SpeedButton5Click();
+}
+
+/// The network without its texts, and over it the sheets with their numbers.
+QImage TZrwMainDlg::Blattuebersicht(const std::vector<Blatt>& blaetter, double faktor,
+                                    const Druckseite& seite) {
+    constexpr double kWeite = 320;
+    constexpr double kHoehe = 480;
+    const double breite = seite.weite * faktor;
+    const double hoehe = seite.hoehe * faktor;
+    Welt lo = blaetter.front().ecke;
+    Welt ru = lo;
+    for (const Blatt& b : blaetter) {
+        lo = {std::min(lo.rechts, b.ecke.rechts), std::max(lo.hoch, b.ecke.hoch)};
+        ru = {std::max(ru.rechts, b.ecke.rechts + breite), std::min(ru.hoch, b.ecke.hoch - hoehe)};
+    }
+    const double massstab = std::max((ru.rechts - lo.rechts) / kWeite, (lo.hoch - ru.hoch) / kHoehe);
+    const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / massstab)); };
+    Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
+    const Geraeteansicht ansicht(*liste_, programm_.zustand, massstab, lo);
+    Zeichenzustand zustand = programm_.zustand;
+    zustand.flaeche = &bild;
+    Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+    if (liste_->ShowBeob) liste_->DisplayKante(zeichner);
+    liste_->DisplayPunkte(zeichner);
+    bild.SetzeStift({programm_.einstellungen.PPCol, 1, Strichart::Voll});
+    bild.SetzePinsel({kWeiss, true});
+    for (std::size_t i = 0; i < blaetter.size(); ++i) {
+        const int x = pixel(blaetter[i].ecke.rechts - lo.rechts);
+        const int y = pixel(lo.hoch - blaetter[i].ecke.hoch);
+        bild.ZeichneRechteck({x, y, x + pixel(breite), y + pixel(hoehe)});
+        bild.Text({x + 3, y + 1}, std::to_string(i + 1), programm_.einstellungen.PPCol);
+    }
+    return bild.Bild();
+}
+
 void TZrwMainDlg::SpeedButton11Click() {
     BrichAb();
     programm_.drucker.RichteEin(this);
+    AktualisiereRahmen();
     ZeichneNeu();
 }
 
-void TZrwMainDlg::ZeigeAusgabebereich(Zeichenflaeche& flaeche) const {
-    if (liste_ == nullptr || !findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview"))->isChecked()) return;
+/// The output area follows the scale, the paper and its box; switching it off puts it back into the corner.
+void TZrwMainDlg::AktualisiereRahmen() {
+    const bool ein = findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview"))->isChecked();
+    if (!ein) druckrahmen_.Loese();
     const auto massstab = EditMasstab_->Massstab();
-    if (!massstab) return;
-    const Bildpunkt ecke = Ausgabebereich(*liste_, *massstab, programm_.drucker.Seite());
-    const Stiftwechsel rahmen(flaeche, {programm_.einstellungen.PPCol, 1, Strichart::Voll}, {kWeiss, true});
-    // Edges beyond the picture stay beyond it, within what a surface can address.
-    constexpr std::int64_t kWeit = 30000;
-    flaeche.ZeichneRechteck({0, 0, static_cast<std::int32_t>(std::min(ecke.x, kWeit)),
-                             static_cast<std::int32_t>(std::min(ecke.y, kWeit))});
+    if (ein && massstab) {
+        druckrahmen_.Setze(Druckrahmen::Stand{*massstab, programm_.drucker.Seite()});
+    } else {
+        druckrahmen_.Setze({});
+    }
+    bild_->update();
+}
+
+void TZrwMainDlg::ZeigeAusgabebereich(Zeichenflaeche& flaeche) const {
+    if (liste_ != nullptr) druckrahmen_.Zeichne(*liste_, flaeche, programm_.einstellungen.PPCol);
 }
 
 void TZrwMainDlg::SpeedButtonClipbrdClick() {

@@ -76,7 +76,7 @@ struct Hilfekomponente {
     int kontext;
 };
 
-inline constexpr std::array<Hilfekomponente, 67> kHilfekomponenten{{
+inline constexpr std::array<Hilfekomponente, 68> kHilfekomponenten{{
     // Files
     {"SpeedButton1", 5},
     {"SpeedButton2", 5},
@@ -115,6 +115,7 @@ inline constexpr std::array<Hilfekomponente, 67> kHilfekomponenten{{
     // Output
     {"SpeedButton5", 35},
     {"SpeedButton11", 35},
+    {"VorschauButton", 35},
     {"SpeedButtonClipbrd", 35},
     {"SpeedButton16", 3},
     {"EditMasstab", 3},

@@ -15,21 +15,36 @@ class Festdrucker final : public Drucker {
     bool angenommen = true;  ///< answer of both dialogs
     bool kaputt = false;     ///< breaks the job off half way
     QStringList titel;       ///< of the jobs
-    QImage blatt;            ///< the last sheet
+    QList<QImage> blaetter;  ///< of the last job or preview
+    QImage uebersicht;       ///< of the last preview
 
     [[nodiscard]] int Aufloesung() const override { return 600; }
     [[nodiscard]] Druckseite Seite() const override { return {1200, 900, 600.0}; }
     bool Waehle(QWidget* /*eltern*/) override { return angenommen; }
     bool RichteEin(QWidget* /*eltern*/) override { return angenommen; }
-    void Drucke(const QString& name, const QFont& schrift,
-                const std::function<void(Zeichenflaeche&)>& zeichne) override {
-        titel << name;
-        blatt = QImage(1200, 900, QImage::Format_RGB32);
-        blatt.fill(Qt::white);
-        QPainter maler(&blatt);
-        Malerflaeche flaeche(maler, {0, 0, 1199, 899}, schrift);
-        zeichne(flaeche);
+    void Drucke(const Druckwerk& werk) override {
+        titel << werk.titel;
+        Male(werk);
         if (kaputt) throw Fehler("Papierstau.");
+    }
+    bool ZeigeVorschau(QWidget* /*eltern*/, const Druckwerk& werk, const QImage& bild) override {
+        uebersicht = bild;
+        Male(werk);
+        return false;
+    }
+
+  private:
+    void Male(const Druckwerk& werk) {
+        blaetter.clear();
+        for (int i = 0; i < werk.blaetter; ++i) {
+            QImage blatt(1200, 900, QImage::Format_RGB32);
+            blatt.fill(Qt::white);
+            QPainter maler(&blatt);
+            Malerflaeche flaeche(maler, {0, 0, 1199, 899}, werk.schrift);
+            werk.zeichne(flaeche, i);
+            maler.end();
+            blaetter << blatt;
+        }
     }
 };
 

@@ -381,49 +381,5 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
     EXPECT_TRUE(fenster.Netz()->ShowGitter);
 }
 
-TEST_F(Hauptfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
-    fenster.Oeffne(kBeispiel);
-    const QImage vorher = fenster.Bild().copy();
-    const std::string stand = Gespeichert();
-    drucker.angenommen = false;
-    Knopf("SpeedButton5").click();
-    EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled";
-    drucker.angenommen = true;
-    Knopf("SpeedButton5").click();
-    ASSERT_EQ(drucker.titel, QStringList("Zarwik NETZ.EIN"));
-    EXPECT_NE(drucker.blatt.pixelColor(0, 0), QColor()) << "a sheet was drawn";
-    drucker.kaputt = true;
-    Knopf("SpeedButton5").click();
-    EXPECT_EQ(dialoge.meldungen, QStringList("Papierstau."));
-    EXPECT_EQ(fenster.Bild(), vorher);
-    EXPECT_EQ(Gespeichert(), stand);
-    auto* feld = fenster.findChild<QLineEdit*>("EditMasstab");
-    feld->setText("0");
-    Knopf("SpeedButton5").click();
-    EXPECT_EQ(drucker.titel.size(), 2) << "no job without a scale";
-}
-
-TEST_F(Hauptfenster, AusgabebereichLiegtUeberDemBildUndImBitmap) {
-    fenster.Oeffne(kBeispiel);
-    const QImage ohne = fenster.Bild().copy();
-    auto* feld = fenster.findChild<QLineEdit*>("EditMasstab");
-    // The sheet of 1200 x 900 dots is 0.0508 M by 0.0381 M metres.
-    feld->setText(QString::number(fenster.Netz()->Faktor * 400 / 0.0508, 'f', 6));
-    fenster.findChild<QCheckBox*>("CheckBoxPreview")->click();
-    EXPECT_EQ(fenster.Bild(), ohne) << "the network's picture is left alone";
-    for (const char* name : {"bild.bmp", "bild.png"}) {
-        dialoge.datei = ordner.filePath(name);
-        Knopf("SpeedButtonClipbrd").click();
-        const QImage gespeichert(*dialoge.datei);
-        ASSERT_EQ(gespeichert.size(), ohne.size()) << name;
-        EXPECT_EQ(gespeichert.pixelColor(400, 3), QColor(Qt::red)) << name;
-        EXPECT_EQ(gespeichert.pixelColor(3, 300), QColor(Qt::red)) << name;
-        EXPECT_EQ(gespeichert.pixel(450, 320), ohne.pixel(450, 320)) << name;
-    }
-    dialoge.datei = ordner.path();  // a folder
-    Knopf("SpeedButtonClipbrd").click();
-    EXPECT_EQ(dialoge.meldungen.size(), 1);
-}
-
 }  // namespace
 }  // namespace zrw

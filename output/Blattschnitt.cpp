@@ -1,0 +1,98 @@
+#include "output/Blattschnitt.h"
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "model/Fehler.h"
+#include "output/Export.h"
+
+namespace zrw {
+namespace {
+
+/// Sheets are counted from the first one; further away than this there is no paper.
+constexpr double kWeitestes = 1e6;
+
+class Schnitt {
+  public:
+    Schnitt(double breite, double hoehe, Welt ursprung)
+        : breite_(breite), hoehe_(hoehe), ursprung_(ursprung) {}
+
+    void Punkt(Welt w) {
+        const Lage l = LageVon(w);
+        Belege(std::floor(l.zeile), std::floor(l.spalte));
+    }
+
+    /// Every sheet that the line crosses, column by column.
+    void Linie(Welt von, Welt nach) {
+        Lage a = LageVon(von);
+        Lage b = LageVon(nach);
+        if (a.spalte > b.spalte) std::swap(a, b);
+        const double steigung = b.spalte > a.spalte ? (b.zeile - a.zeile) / (b.spalte - a.spalte) : 0.0;
+        const auto zeileBei = [&](double spalte) {
+            return b.spalte > a.spalte ? a.zeile + (spalte - a.spalte) * steigung : b.zeile;
+        };
+        for (double s = std::floor(a.spalte); s <= std::floor(b.spalte); ++s) {
+            const double links = s > a.spalte ? zeileBei(s) : a.zeile;
+            const double rechts = s + 1 < b.spalte ? zeileBei(s + 1) : b.zeile;
+            const auto [oben, unten] = std::minmax(links, rechts);
+            for (double z = std::floor(oben); z <= std::floor(unten); ++z)
+                Belege(z, s);
+        }
+    }
+
+    [[nodiscard]] std::vector<Blatt> Blaetter() const {
+        std::vector<Blatt> blaetter;
+        for (const auto& [zeile, spalte] : belegt_) {
+            blaetter.push_back(
+                {zeile, spalte, {ursprung_.rechts + spalte * breite_, ursprung_.hoch - zeile * hoehe_}});
+        }
+        return blaetter;
+    }
+
+  private:
+    struct Lage {
+        double zeile;
+        double spalte;
+    };
+    /// In sheets, downwards and to the right. Positions that are no numbers lie nowhere.
+    [[nodiscard]] Lage LageVon(Welt w) const {
+        const Lage l{(ursprung_.hoch - w.hoch) / hoehe_, (w.rechts - ursprung_.rechts) / breite_};
+        if (!(std::abs(l.zeile) < kWeitestes && std::abs(l.spalte) < kWeitestes)) ZuViele();
+        return l;
+    }
+    void Belege(double zeile, double spalte) {
+        belegt_.emplace(static_cast<int>(zeile), static_cast<int>(spalte));
+        if (belegt_.size() > kMeisteBlaetter) ZuViele();
+    }
+    [[noreturn]] static void ZuViele() {
+        throw Fehler("Der ganze Plan bräuchte in diesem Maßstab mehr als " + std::to_string(kMeisteBlaetter) +
+                     " Blätter. Bitte einen kleineren Maßstab oder größeres Papier wählen.");
+    }
+
+    double breite_;
+    double hoehe_;
+    Welt ursprung_;
+    std::set<std::pair<int, int>> belegt_;
+};
+
+}  // namespace
+
+std::vector<Blatt> Blattschnitt(const Liste& liste, double massstab, const Druckseite& seite, Welt ursprung) {
+    const double faktor = Druckfaktor(massstab, seite.aufloesung);
+    Schnitt schnitt(std::max(seite.weite, 1) * faktor, std::max(seite.hoehe, 1) * faktor, ursprung);
+    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
+        if (p->Item->Visible && liste.Dargestellt(*p->Item)) schnitt.Punkt({p->XWPu, p->YWPu});
+    }
+    for (const PunktKante* k = liste.KanteKnoten; liste.ShowBeob && k != nullptr; k = k->Next) {
+        const PunktKnoten* a = liste.SuchPkt(k->ANr);
+        const PunktKnoten* e = liste.SuchPkt(k->ENr);
+        if (a == nullptr || e == nullptr || !k->Item->Visible || !liste.Dargestellt(*k)) continue;
+        schnitt.Linie({a->XWPu, a->YWPu}, {e->XWPu, e->YWPu});
+    }
+    return schnitt.Blaetter();
+}
+
+}  // namespace zrw

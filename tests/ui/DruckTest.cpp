@@ -1,0 +1,135 @@
+// Printing from the window: sheets, the output area, and that nothing of it stays in the picture.
+#include <QCheckBox>
+#include <QLineEdit>
+
+#include "tests/ui/Fenster.h"
+
+namespace zrw {
+namespace {
+
+class Druckfenster : public Fensterprobe {
+  protected:
+    void Massstab(double wert) const {
+        fenster.findChild<QLineEdit*>("EditMasstab")->setText(QString::number(wert, 'f', 6));
+    }
+    /// The sheet of 1200 x 900 dots, 0.0508 M by 0.0381 M metres, is so many pixels wide.
+    void Blattbreite(double pixel) const { Massstab(fenster.Netz()->Faktor * pixel / 0.0508); }
+    static bool Leer(const QImage& blatt) {
+        QImage weiss(blatt.size(), blatt.format());
+        weiss.fill(Qt::white);
+        return blatt == weiss;
+    }
+};
+
+TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
+    fenster.Oeffne(kBeispiel);
+    for (const char* kasten : {"CheckBoxLgGen", "CheckBoxLGRes", "CheckBoxKMQ"})
+        fenster.findChild<QCheckBox*>(kasten)->click();
+    const QImage vorher = fenster.Bild().copy();
+    const std::string stand = Gespeichert();
+    drucker.angenommen = false;
+    Knopf("SpeedButton5").click();
+    EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled";
+    drucker.angenommen = true;
+    Massstab(1000000);
+    Knopf("SpeedButton5").click();
+    ASSERT_EQ(drucker.titel, QStringList("Zarwik NETZ.EIN"));
+    EXPECT_TRUE(dialoge.fragen.isEmpty()) << "it fits one sheet";
+    EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
+    drucker.kaputt = true;
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(dialoge.meldungen, QStringList("Papierstau."));
+    EXPECT_EQ(fenster.Bild(), vorher);
+    EXPECT_EQ(Gespeichert(), stand);
+    Massstab(0);
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(drucker.titel.size(), 2) << "no job without a scale";
+}
+
+TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
+    fenster.Oeffne(kBeispiel);
+    const QImage vorher = fenster.Bild().copy();
+    Blattbreite(100);
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(dialoge.fragen.size(), 1);
+    EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled at the question";
+    dialoge.antwort = true;
+    Knopf("SpeedButton5").click();
+    const auto blaetter = drucker.blaetter;
+    ASSERT_GT(blaetter.size(), 20);
+    ASSERT_LT(blaetter.size(), 60) << "corners of the plot hold nothing";
+    for (const QImage& b : blaetter)
+        EXPECT_FALSE(Leer(b));
+    dialoge.antwort = false;
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(drucker.blaetter.size(), 1) << "the sheet of the output area";
+    Knopf("VorschauButton").click();
+    EXPECT_EQ(drucker.blaetter, blaetter) << "the preview shows what would be printed";
+    EXPECT_EQ(drucker.uebersicht.pixelColor(0, 0), QColor(Qt::white)) << "no sheet for the empty corner";
+    EXPECT_EQ(drucker.uebersicht.pixelColor(0, 100), QColor(Qt::red)) << "edge of a sheet";
+    EXPECT_EQ(fenster.Bild(), vorher);
+    // Thousands of sheets are no offer.
+    Massstab(10);
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(drucker.blaetter.size(), 1);
+}
+
+TEST_F(Druckfenster, AusgabebereichLiegtUeberDemBildUndImBitmap) {
+    fenster.Oeffne(kBeispiel);
+    const QImage ohne = fenster.Bild().copy();
+    auto* feld = fenster.findChild<QLineEdit*>("EditMasstab");
+    // The sheet of 1200 x 900 dots is 0.0508 M by 0.0381 M metres.
+    feld->setText(QString::number(fenster.Netz()->Faktor * 400 / 0.0508, 'f', 6));
+    fenster.findChild<QCheckBox*>("CheckBoxPreview")->click();
+    EXPECT_EQ(fenster.Bild(), ohne) << "the network's picture is left alone";
+    for (const char* name : {"bild.bmp", "bild.png"}) {
+        dialoge.datei = ordner.filePath(name);
+        Knopf("SpeedButtonClipbrd").click();
+        const QImage gespeichert(*dialoge.datei);
+        ASSERT_EQ(gespeichert.size(), ohne.size()) << name;
+        EXPECT_EQ(gespeichert.pixelColor(400, 3), QColor(Qt::red)) << name;
+        EXPECT_EQ(gespeichert.pixelColor(3, 300), QColor(Qt::red)) << name;
+        EXPECT_EQ(gespeichert.pixel(450, 320), ohne.pixel(450, 320)) << name;
+    }
+    dialoge.datei = ordner.path();  // a folder
+    Knopf("SpeedButtonClipbrd").click();
+    EXPECT_EQ(dialoge.meldungen.size(), 1);
+}
+
+TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
+    fenster.Oeffne(kBeispiel);
+    Blattbreite(200);
+    auto* kasten = fenster.findChild<QCheckBox*>("CheckBoxPreview");
+    kasten->click();
+    const auto rot = [this](QPoint ort) { return bild->grab().toImage().pixelColor(ort) == QColor(Qt::red); };
+    const QPoint leer{bild->width() - 30, 40};  // beside the network
+    dialoge.antwort = false;
+    Knopf("SpeedButton5").click();
+    const QImage ecke = drucker.blaetter.at(0);
+
+    QTest::mouseMove(bild, {200, 60});
+    EXPECT_EQ(bild->cursor().shape(), Qt::SizeAllCursor);
+    QTest::mousePress(bild, Qt::LeftButton, {}, {200, 60});
+    QTest::mouseMove(bild, {300, 260});
+    EXPECT_TRUE(rot({300, 260}));
+    QTest::keyClick(bild, Qt::Key_Escape);
+    EXPECT_TRUE(rot({200, 60})) << "put back";
+    QTest::mouseRelease(bild, Qt::LeftButton, {}, {300, 260});
+    QTest::mousePress(bild, Qt::LeftButton, {}, {200, 60});
+    QTest::mouseRelease(bild, Qt::LeftButton, {}, {300, 260});
+    EXPECT_TRUE(rot({300, 260}));
+    Knopf("SpeedButton5").click();
+    EXPECT_NE(drucker.blaetter.at(0), ecke) << "another part of the plot";
+
+    // It stays at its place in the world: after panning by a key, a tenth of the picture, it has moved with
+    // it.
+    QTest::keyClick(bild, Qt::Key_Right);
+    EXPECT_TRUE(rot({300 - bild->width() / 10, 260}));
+    kasten->click();
+    kasten->click();
+    EXPECT_TRUE(rot({200, 60})) << "switched off and on it is in the corner again";
+    EXPECT_FALSE(rot(leer));
+}
+
+}  // namespace
+}  // namespace zrw

@@ -1,0 +1,36 @@
+#include "ui/werkzeuge/RahmenVerschieben.h"
+
+namespace zrw {
+
+bool RahmenVerschieben::UeberRand(Bildpunkt ort) const {
+    const Liste* netz = umgebung_.AktuelleListe();
+    return netz != nullptr && rahmen_.Gefangen(*netz, ort);
+}
+
+void RahmenVerschieben::Druecken(Bildpunkt ort) {
+    const Liste& netz = *umgebung_.AktuelleListe();
+    vorher_ = rahmen_.Ecke();
+    ecke_ = rahmen_.Ecke(netz);
+    anfang_ = netz.BildinWelt(ort);
+}
+
+void RahmenVerschieben::Ziehen(Bildpunkt ort) {
+    if (!anfang_) return;
+    const Welt jetzt = umgebung_.AktuelleListe()->BildinWelt(ort);
+    rahmen_.Verlege({ecke_.rechts + jetzt.rechts - anfang_->rechts, ecke_.hoch + jetzt.hoch - anfang_->hoch});
+    umgebung_.BildGeaendert();
+}
+
+void RahmenVerschieben::Loslassen(Bildpunkt ort) {
+    Ziehen(ort);
+    anfang_.reset();
+}
+
+void RahmenVerschieben::Abbrechen() {
+    if (!anfang_) return;
+    anfang_.reset();
+    vorher_ ? rahmen_.Verlege(*vorher_) : rahmen_.Loese();
+    umgebung_.BildGeaendert();
+}
+
+}  // namespace zrw
