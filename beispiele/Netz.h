@@ -103,4 +103,13 @@ void Beobachte(Netz& netz, const Rollen& rollen, Zufall& zufall);
 /// Distance in the grid [m].
 [[nodiscard]] double Abstand(const NetzPunkt& a, const NetzPunkt& b);
 
+/// Earth-centred position [m]; heights count from the ellipsoid.
+[[nodiscard]] std::array<double, 3> Geozentrisch(const NetzPunkt& p);
+
+/// By how much earth curvature, less refraction, lowers a target in a distance of `strecke` metres [m].
+[[nodiscard]] double ErdkruemmungUndRefraktion(double strecke);
+
+/// Rounded to `stellen` decimals, never a negative zero.
+[[nodiscard]] double Runde(double wert, int stellen);
+
 }  // namespace zrw::beispiel

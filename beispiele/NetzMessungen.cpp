@@ -26,11 +26,6 @@ constexpr double kSigmaDritte = 0.0005;
 constexpr double kSigmaZug = 0.0010;
 constexpr double kSigmaHochziel = 0.0020;
 
-double Runde(double wert, int stellen) {
-    const double zehner = std::pow(10.0, stellen);
-    return std::round(wert * zehner) / zehner + 0.0;  // never a negative zero
-}
-
 double InVollkreis(double gon) {
     gon = std::fmod(gon, 400.0);
     return gon < 0.0 ? gon + 400.0 : gon;
@@ -39,15 +34,6 @@ double InVollkreis(double gon) {
 // Grid bearing from a to b [gon].
 double Richtungswinkel(const NetzPunkt& a, const NetzPunkt& b) {
     return InVollkreis(std::atan2(b.rechts - a.rechts, b.hoch - a.hoch) * kGonJeRadiant);
-}
-
-std::array<double, 3> Geozentrisch(const NetzPunkt& p) {
-    const Ellipsoid e = EllipsoidRadii(kBessel, {50.0});
-    const Geograph g = GridToGeo(Abbildung::GaussKrueger, p.hoch, p.rechts, e.f, e.a);
-    const double n = EllipsoidRadii(kBessel, g.breite).N;
-    const double b = g.breite.wert * std::numbers::pi / 180.0, l = g.laenge.wert * std::numbers::pi / 180.0;
-    return {(n + p.hoehe) * std::cos(b) * std::cos(l), (n + p.hoehe) * std::cos(b) * std::sin(l),
-            (n * (1.0 - e.f) * (1.0 - e.f) + p.hoehe) * std::sin(b)};
 }
 
 class Feldbuch {
@@ -98,8 +84,7 @@ class Feldbuch {
     void MissZenitdistanz(Stelle a, Stelle b) {
         const NetzPunkt &p = netz_.punkte[a], &q = netz_.punkte[b];
         const double s = Abstand(p, q);
-        // Earth curvature and refraction lower the target.
-        const double hoeher = q.hoehe - p.hoehe - (1.0 - kRefraktion) * s * s / (2.0 * kErdradius);
+        const double hoeher = q.hoehe - p.hoehe - ErdkruemmungUndRefraktion(s);
         const double wert = 100.0 - std::atan2(hoeher, s) * kGonJeRadiant + zufall_.Normal(0.0010);
         netz_.zenite.push_back({a, b, Runde(wert, 4), 0.0010});
     }
@@ -301,6 +286,24 @@ class Feldbuch {
 };
 
 }  // namespace
+
+double Runde(double wert, int stellen) {
+    const double zehner = std::pow(10.0, stellen);
+    return std::round(wert * zehner) / zehner + 0.0;
+}
+
+double ErdkruemmungUndRefraktion(double strecke) {
+    return (1.0 - kRefraktion) * strecke * strecke / (2.0 * kErdradius);
+}
+
+std::array<double, 3> Geozentrisch(const NetzPunkt& p) {
+    const Ellipsoid e = EllipsoidRadii(kBessel, {50.0});
+    const Geograph g = GridToGeo(Abbildung::GaussKrueger, p.hoch, p.rechts, e.f, e.a);
+    const double n = EllipsoidRadii(kBessel, g.breite).N;
+    const double b = g.breite.wert * std::numbers::pi / 180.0, l = g.laenge.wert * std::numbers::pi / 180.0;
+    return {(n + p.hoehe) * std::cos(b) * std::cos(l), (n + p.hoehe) * std::cos(b) * std::sin(l),
+            (n * (1.0 - e.f) * (1.0 - e.f) + p.hoehe) * std::sin(b)};
+}
 
 void Beobachte(Netz& netz, const Rollen& rollen, Zufall& zufall) {
     Feldbuch(netz, rollen, zufall).Alles();

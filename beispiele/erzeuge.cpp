@@ -1,11 +1,15 @@
-// Makes the example network and the sheet of line styles: beispiel_erzeugen ZIELORDNER. The same files come
-// out at every run.
+// Makes the example network with its result tables and the sheet of line styles: beispiel_erzeugen
+// ZIELORDNER. The same files come out at every run.
 #include <filesystem>
 #include <iostream>
 
+#include "beispiele/Ausgleichung.h"
 #include "beispiele/Linientafel.h"
 #include "beispiele/Netz.h"
+#include "beispiele/Tabellen.h"
 #include "beispiele/Zufall.h"
+#include "input/Systemdateien.h"
+#include "model/Fehler.h"
 
 int main(int argc, char** argv) {
     using namespace zrw::beispiel;
@@ -21,6 +25,14 @@ int main(int argc, char** argv) {
     const std::filesystem::path ziel(argv[1]);
     if (!SchreibeSteuerdatei(netz, ziel) || !SchreibeLinientafel(ziel)) {
         std::cerr << "Kann in den Ordner " << argv[1] << " nicht schreiben.\n";
+        return 1;
+    }
+    try {
+        zrw::Systemdateien dateien;
+        const Ausgleichung ausgleichung = GleicheAus(netz);
+        SchreibeTabellen(Auswertung(netz, ausgleichung), dateien, ziel);
+    } catch (const zrw::Fehler& f) {
+        std::cerr << f.what() << '\n';
         return 1;
     }
     return 0;
