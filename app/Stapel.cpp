@@ -5,9 +5,9 @@
 #include <cstdio>
 
 #include "app/Formate.h"
-#include "input/MarkiereFehler.h"
+#include "input/tabellen/MarkiereFehler.h"
 #include "input/Systemdateien.h"
-#include "input/UnitZRWData.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
 #include "output/Export.h"
 #include "ui/Einstellungsablage.h"

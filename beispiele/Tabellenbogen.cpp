@@ -4,7 +4,7 @@
 #include <ctime>
 
 #include "beispiele/Netz.h"
-#include "input/UnitZRWData.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
 

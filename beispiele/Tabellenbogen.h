@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "input/Ergebnistabellen.h"
+#include "input/tabellen/Ergebnistabellen.h"
 #include "model/Dateien.h"
 
 namespace zrw::beispiel {

@@ -13,7 +13,7 @@
 #include "bench/Netzgenerator.h"
 #include "input/Oeffnen.h"
 #include "input/Systemdateien.h"
-#include "input/UnitZRWData.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
 #include "tests/hilfe/Speicherdateien.h"

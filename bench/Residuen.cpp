@@ -11,7 +11,7 @@
 #include "bench/Messung.h"
 #include "bench/Netzgenerator.h"
 #include "input/Oeffnen.h"
-#include "input/Punktergebnisse.h"
+#include "input/tabellen/Punktergebnisse.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
 #include "tests/hilfe/Speicherdateien.h"

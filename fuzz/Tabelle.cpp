@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "fuzz/Proben.h"
-#include "input/Paradoxleser.h"
-#include "input/Paradoxschreiber.h"
+#include "input/tabellen/Paradoxleser.h"
+#include "input/tabellen/Paradoxschreiber.h"
 #include "model/Fehler.h"
 
 namespace {

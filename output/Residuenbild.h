@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "input/Punktergebnisse.h"
+#include "input/tabellen/Punktergebnisse.h"
 #include "model/Einstellungen.h"
 #include "model/FigListe.h"
 #include "model/Winkel.h"

@@ -2,7 +2,7 @@
 #include <QToolButton>
 #include <cmath>
 
-#include "input/MarkiereFehler.h"
+#include "input/tabellen/MarkiereFehler.h"
 #include "model/Fehler.h"
 #include "model/Punktarten.h"
 #include "model/Zahlentext.h"

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "input/UnitZRWData.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "model/Dateien.h"
 #include "model/Einstellungen.h"
 #include "model/Netzangaben.h"

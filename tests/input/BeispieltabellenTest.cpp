@@ -10,11 +10,11 @@
 #include <set>
 #include <sstream>
 
-#include "input/MarkiereFehler.h"
 #include "input/Oeffnen.h"
 #include "input/Systemdateien.h"
-#include "input/UnitZRWData.h"
 #include "input/Zrwgeo.h"
+#include "input/tabellen/MarkiereFehler.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "model/Cp1252.h"
 
 namespace zrw {

@@ -5,11 +5,11 @@
 #include <random>
 #include <set>
 
-#include "input/Ergebnisabfragen.h"
-#include "input/MarkiereFehler.h"
-#include "input/Paradoxschreiber.h"
 #include "input/Systemdateien.h"
-#include "input/UnitZRWData.h"
+#include "input/tabellen/Ergebnisabfragen.h"
+#include "input/tabellen/MarkiereFehler.h"
+#include "input/tabellen/Paradoxschreiber.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
 #include "tests/hilfe/Probenetz.h"
 #include "tests/hilfe/Speicherdateien.h"

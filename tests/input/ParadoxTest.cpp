@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "input/Paradoxleser.h"
-#include "input/Paradoxschreiber.h"
+#include "input/tabellen/Paradoxleser.h"
+#include "input/tabellen/Paradoxschreiber.h"
 #include "model/Fehler.h"
 #include "model/Zahlentext.h"
 

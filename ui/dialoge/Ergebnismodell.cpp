@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "input/Anzeigetext.h"
+#include "input/tabellen/Anzeigetext.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {

@@ -3,8 +3,8 @@
 
 #include <QAbstractTableModel>
 
-#include "input/Datenbank.h"
-#include "input/Ergebnistabellen.h"
+#include "input/tabellen/Datenbank.h"
+#include "input/tabellen/Ergebnistabellen.h"
 
 namespace zrw {
 

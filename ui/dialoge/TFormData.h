@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <functional>
 
-#include "input/Ergebnisabfragen.h"
+#include "input/tabellen/Ergebnisabfragen.h"
 #include "ui/Sitzung.h"
 #include "ui/dialoge/Ergebnismodell.h"
 

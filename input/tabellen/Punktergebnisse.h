@@ -1,6 +1,7 @@
 // What the adjustment found for single points, as the drawing of residuals and accuracies needs it.
 #pragma once
 
+#include <limits>
 #include <string_view>
 
 namespace zrw {
@@ -15,6 +16,10 @@ struct Punktergebnis {
     double Phi = 0.0;  ///< direction of the ellipse [gon]
     double mH = 0.0;   ///< standard deviation of the height
     double mL = 0.0;   ///< standard deviation of the position
+    // Adjusted coordinates [m], not a number where they are null.
+    double X = std::numeric_limits<double>::quiet_NaN();  ///< northing
+    double Y = std::numeric_limits<double>::quiet_NaN();  ///< easting
+    double H = std::numeric_limits<double>::quiet_NaN();
 };
 
 class Punktergebnisse {

@@ -1,4 +1,4 @@
-#include "input/Ergebnisabfragen.h"
+#include "input/tabellen/Ergebnisabfragen.h"
 
 namespace zrw {
 

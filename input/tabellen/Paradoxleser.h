@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "input/Codeseite.h"
-#include "input/Paradox.h"
+#include "input/tabellen/Codeseite.h"
+#include "input/tabellen/Paradox.h"
 
 namespace zrw::paradox {
 

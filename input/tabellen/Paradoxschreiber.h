@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "input/Paradox.h"
+#include "input/tabellen/Paradox.h"
 
 namespace zrw::paradox {
 

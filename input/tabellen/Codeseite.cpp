@@ -1,4 +1,4 @@
-#include "input/Codeseite.h"
+#include "input/tabellen/Codeseite.h"
 
 #include <cstdint>
 

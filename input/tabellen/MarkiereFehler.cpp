@@ -1,8 +1,8 @@
-#include "input/MarkiereFehler.h"
+#include "input/tabellen/MarkiereFehler.h"
 
 #include <algorithm>
 
-#include "input/Ergebnisabfragen.h"
+#include "input/tabellen/Ergebnisabfragen.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
 

@@ -11,7 +11,7 @@
 #include <variant>
 #include <vector>
 
-#include "input/Paradox.h"
+#include "input/tabellen/Paradox.h"
 
 struct sqlite3;
 

@@ -1,4 +1,4 @@
-#include "input/Anzeigetext.h"
+#include "input/tabellen/Anzeigetext.h"
 
 #include <algorithm>
 #include <array>

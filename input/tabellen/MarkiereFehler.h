@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "input/UnitZRWData.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "model/FigListe.h"
 
 namespace zrw {

@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "input/Paradox.h"
+#include "input/tabellen/Paradox.h"
 
 namespace zrw::paradox {
 

@@ -1,12 +1,12 @@
-#include "input/UnitZRWData.h"
+#include "input/tabellen/UnitZRWData.h"
 
 #include <algorithm>
 #include <cctype>
 #include <iterator>
 #include <utility>
 
-#include "input/Paradoxleser.h"
-#include "input/Paradoxschreiber.h"
+#include "input/tabellen/Paradoxleser.h"
+#include "input/tabellen/Paradoxschreiber.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
 
@@ -56,10 +56,10 @@ void Ordne(Antwort& antwort, std::span<const Tabellenfeld> felder) {
     antwort.spalten = std::move(spalten);
 }
 
-double Zahl(const Zelle& zelle) {
-    if (const auto* ganz = std::get_if<std::int64_t>(&zelle)) return static_cast<double>(*ganz);
-    const auto* real = std::get_if<double>(&zelle);
-    return real != nullptr ? *real : 0.0;
+/// Null leaves the number as it is.
+void Nimm(const Zelle& zelle, double& zahl) {
+    if (const auto* ganz = std::get_if<std::int64_t>(&zelle)) zahl = static_cast<double>(*ganz);
+    if (const auto* real = std::get_if<double>(&zelle)) zahl = *real;
 }
 
 std::size_t Nummer(Tabelle t) {
@@ -132,7 +132,7 @@ Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
 }
 
 TDM::Punkttafel TDM::LiesPunkte() const {
-    static constexpr std::array<std::pair<std::string_view, double Punktergebnis::*>, 8> kFelder{{
+    static constexpr std::array<std::pair<std::string_view, double Punktergebnis::*>, 11> kFelder{{
         {"dY", &Punktergebnis::dY},
         {"dX", &Punktergebnis::dX},
         {"dH", &Punktergebnis::dH},
@@ -141,6 +141,9 @@ TDM::Punkttafel TDM::LiesPunkte() const {
         {"Phi", &Punktergebnis::Phi},
         {"mH", &Punktergebnis::mH},
         {"mL", &Punktergebnis::mL},
+        {"X", &Punktergebnis::X},
+        {"Y", &Punktergebnis::Y},
+        {"H", &Punktergebnis::H},
     }};
     // One walk over the table in place of one query a point: the first row of a number is what that would
     // give.
@@ -157,7 +160,7 @@ TDM::Punkttafel TDM::LiesPunkte() const {
         const auto [stelle, neu] = tafel.try_emplace(PunktNummernTyp(nummer));
         if (!neu) return;
         for (std::size_t i = 0; i < kFelder.size(); ++i)
-            stelle->second.*kFelder[i].second = Zahl(zeile[i + 1]);
+            Nimm(zeile[i + 1], stelle->second.*kFelder[i].second);
     });
     return tafel;
 }

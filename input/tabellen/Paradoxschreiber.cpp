@@ -1,4 +1,4 @@
-#include "input/Paradoxschreiber.h"
+#include "input/tabellen/Paradoxschreiber.h"
 
 #include <algorithm>
 #include <bit>
@@ -7,7 +7,7 @@
 #include <set>
 #include <utility>
 
-#include "input/ParadoxFormat.h"
+#include "input/tabellen/ParadoxFormat.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
 

@@ -8,7 +8,7 @@
 #include <span>
 #include <string_view>
 
-#include "input/Paradox.h"
+#include "input/tabellen/Paradox.h"
 
 namespace zrw {
 

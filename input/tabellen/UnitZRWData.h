@@ -10,9 +10,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "input/Datenbank.h"
-#include "input/Ergebnistabellen.h"
-#include "input/Punktergebnisse.h"
+#include "input/tabellen/Datenbank.h"
+#include "input/tabellen/Ergebnistabellen.h"
+#include "input/tabellen/Punktergebnisse.h"
 #include "model/Dateien.h"
 #include "model/Werte.h"
 
@@ -37,7 +37,8 @@ class TDM final : public Punktergebnisse {
     /// Failures are kept for `NimmMeldung`, once for each state of the file; the old results then stay.
     void Erneuere() override;
     [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override;
-    /// What went wrong with the results of points, or looked wrong in a table, since the last call; else empty.
+    /// What went wrong with the results of points, or looked wrong in a table, since the last call; else
+    /// empty.
     [[nodiscard]] std::string NimmMeldung();
 
   private:

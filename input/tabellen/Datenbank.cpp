@@ -1,4 +1,4 @@
-#include "input/Datenbank.h"
+#include "input/tabellen/Datenbank.h"
 
 #include <sqlite3.h>
 

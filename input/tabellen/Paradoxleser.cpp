@@ -1,4 +1,4 @@
-#include "input/Paradoxleser.h"
+#include "input/tabellen/Paradoxleser.h"
 
 #include <algorithm>
 #include <bit>
@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "input/ParadoxFormat.h"
+#include "input/tabellen/ParadoxFormat.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "input/Ergebnistabellen.h"
+#include "input/tabellen/Ergebnistabellen.h"
 
 namespace zrw {
 
