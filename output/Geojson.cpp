@@ -1,0 +1,209 @@
+#include "output/Geojson.h"
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "input/Zrwgeo.h"
+#include "model/Cp1252.h"
+#include "model/Punktarten.h"
+#include "model/Zahlentext.h"
+#include "output/Textausgabe.h"
+
+namespace zrw {
+namespace {
+
+constexpr double kZonenschritt = 1e6;
+constexpr int kBessel = 1;
+constexpr int kHayford = 2;
+constexpr int kKrassowsky = 3;
+constexpr int kWgs84 = 5;
+constexpr int kGrs80 = 6;
+
+/// A family of grids whose codes run with their zones.
+struct Gitterfamilie {
+    Abbildung abbildung;
+    int ellipsoid;
+    bool kennziffer;  ///< the easting begins with the number of the zone
+    int vonZone, bisZone;
+    int epsgNull;  ///< code of zone 0
+};
+
+constexpr std::array<Gitterfamilie, 8> kGitter{{
+    {Abbildung::GaussKrueger, kBessel, true, 2, 5, 31464},     // DHDN, 3 degree zones
+    {Abbildung::GaussKrueger, kKrassowsky, true, 3, 5, 2394},  // Pulkovo 1942(83), 3 degree zones
+    {Abbildung::Utm, kGrs80, false, 28, 38, 25800},            // ETRS89
+    {Abbildung::Utm, kWgs84, false, 1, 60, 32600},             // WGS 84, north
+    {Abbildung::Utm, kHayford, false, 28, 38, 23000},          // ED50
+    {Abbildung::Utm, kGrs80, true, 31, 31, 5649 - 31},         // ETRS89 with the zone in the easting
+    {Abbildung::Utm, kGrs80, true, 32, 32, 4647 - 32},
+    {Abbildung::Utm, kGrs80, true, 33, 33, 5650 - 33},
+}};
+
+constexpr std::array<const char*, 6> kSymbole{"Punkt", "Kreis", "Kreuz", "Quadrat", "Raute", "Dreieck"};
+constexpr std::array<const char*, 7> kRichtungen{"", "AR1", "AR2", "AST", "ARI1", "ARI2", "ASTI"};
+constexpr std::array<std::pair<KanteAttr::Art, const char*>, 4> kBeobachtungen{
+    {{KanteAttr::ST, "ST"}, {KanteAttr::GPS, "GPS"}, {KanteAttr::DH1, "DH1"}, {KanteAttr::DH2, "DH2"}}};
+
+/// Cartesian networks come into the plane by Gauss-Krüger, whatever else their file says.
+Abbildung AbbildungVon(const Netzangaben& netz) {
+    const bool kartesisch = netz.Netztyp == 6 || netz.Netztyp == 7;
+    return kartesisch ? Abbildung::GaussKrueger : static_cast<Abbildung>(netz.Abbildungsmodus);
+}
+
+class Geojson {
+  public:
+    Geojson(Dateien& dateien, const std::filesystem::path& datei) : aus_(dateien.Beginne(datei)) {}
+
+    void Kopf(const std::string& name, std::optional<int> epsg) {
+        aus_.Nimm("{\"type\":\"FeatureCollection\",\"name\":");
+        Text(name);
+        if (epsg) {
+            aus_.Nimm(",\"crs\":{\"type\":\"name\",\"properties\":{\"name\":\"urn:ogc:def:crs:EPSG::" +
+                      std::to_string(*epsg) + "\"}}");
+        }
+        aus_.Nimm(",\"features\":[");
+    }
+    void BeginneFigur() {
+        aus_.Nimm(std::exchange(erste_, false) ? "\n" : ",\n");
+        aus_.Nimm("{\"type\":\"Feature\",\"properties\":{");
+        erstesFeld_ = true;
+    }
+    void Feld(const char* name, const std::string& text) {
+        Name(name);
+        Text(text);
+    }
+    void Feld(const char* name, bool wert) {
+        Name(name);
+        aus_.Nimm(wert ? "true" : "false");
+    }
+    void Feld(const char* name, double wert) {
+        if (!std::isfinite(wert)) return;
+        Name(name);
+        aus_.Nimm(SchreibeReal(wert));
+    }
+    void Punkt(Welt ort) {
+        aus_.Nimm("},\"geometry\":{\"type\":\"Point\",\"coordinates\":");
+        Ort(ort);
+        aus_.Nimm("}}");
+    }
+    void Linie(Welt von, Welt nach) {
+        aus_.Nimm("},\"geometry\":{\"type\":\"LineString\",\"coordinates\":[");
+        Ort(von);
+        aus_.Nimm(",");
+        Ort(nach);
+        aus_.Nimm("]}}");
+    }
+    void Schliesse() {
+        aus_.Nimm("\n]}\n");
+        aus_.Sichere();
+        aus_.Uebernimm();
+    }
+
+  private:
+    void Name(const char* name) {
+        if (!std::exchange(erstesFeld_, false)) aus_.Nimm(",");
+        Text(name);
+        aus_.Nimm(":");
+    }
+    void Text(std::string_view utf8) {
+        std::string text = "\"";
+        for (const char c : utf8) {
+            if (c == '"' || c == '\\') text += '\\';
+            text += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
+        }
+        aus_.Nimm(text + "\"");
+    }
+    void Ort(Welt w) { aus_.Nimm("[" + SchreibeReal(w.rechts) + "," + SchreibeReal(w.hoch) + "]"); }
+
+    Textausgabe aus_;
+    bool erste_ = true;
+    bool erstesFeld_ = true;
+};
+
+bool Endlich(const PunktKnoten& p) {
+    return std::isfinite(p.XWPu) && std::isfinite(p.YWPu);
+}
+
+void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const Punktergebnisse* ergebnisse) {
+    const std::string nummer = liste.GetPktText(p.PNr);
+    g.BeginneFigur();
+    g.Feld("nummer", Cp1252NachUtf8(nummer));
+    g.Feld("punktart", std::string(ZurArt(p.Item->PktArt).kuerzel));
+    g.Feld("symbol", std::string(kSymbole[static_cast<std::size_t>(p.Item->PktTyp)]));
+    g.Feld("sichtbar", p.Item->Visible);
+    if (const Punktergebnis* e =
+            ergebnisse != nullptr && !nummer.empty() ? ergebnisse->Zu(nummer) : nullptr) {
+        for (const auto& [name, wert] : {std::pair{"y_ausgeglichen", e->Y},
+                                         {"x_ausgeglichen", e->X},
+                                         {"h_ausgeglichen", e->H},
+                                         {"dY", e->dY},
+                                         {"dX", e->dX},
+                                         {"dH", e->dH},
+                                         {"ellipse_a", e->A},
+                                         {"ellipse_b", e->B},
+                                         {"ellipse_phi", e->Phi},
+                                         {"mL", e->mL},
+                                         {"mH", e->mH}})
+            g.Feld(name, wert);
+    }
+    g.Punkt({p.XWPu, p.YWPu});
+}
+
+}  // namespace
+
+std::optional<int> EpsgCode(const Netzangaben& netz, const Liste& liste) {
+    if (!HatKartengitter(netz.Netztyp) || liste.PunktKnoten == nullptr) return std::nullopt;
+    double min = std::numeric_limits<double>::infinity();
+    double max = -min;
+    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
+        if (!Endlich(*p)) return std::nullopt;
+        min = std::min(min, p->XWPu);
+        max = std::max(max, p->XWPu);
+    }
+    const Abbildung abbildung = AbbildungVon(netz);
+    const bool utm = abbildung == Abbildung::Utm;
+    // Zones have their meridians every 3 or 6 degrees; others belong to no common grid.
+    const int versatz = utm ? netz.Hauptmeridian + 183 : netz.Hauptmeridian;
+    const int breite = utm ? 6 : 3;
+    if (versatz % breite != 0) return std::nullopt;
+    const int zone = versatz / breite;
+    for (const Gitterfamilie& f : kGitter) {
+        const double null = f.kennziffer ? zone * kZonenschritt : 0.0;
+        if (f.abbildung == abbildung && f.ellipsoid == netz.Ellipsoid && zone >= f.vonZone &&
+            zone <= f.bisZone && min > null && max < null + kZonenschritt)
+            return f.epsgNull + zone;
+    }
+    return std::nullopt;
+}
+
+void SchreibeGeojson(const Liste& liste, const Netzangaben& netz, const Einstellungen& einstellungen,
+                     Punktergebnisse* ergebnisse, Dateien& dateien, const std::filesystem::path& datei) {
+    if (ergebnisse != nullptr) ergebnisse->Erneuere();
+    Geojson g(dateien, datei);
+    g.Kopf(PfadText(datei.stem()), EpsgCode(netz, liste));
+    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
+        if (Endlich(*p)) SchreibePunkt(g, liste, *p, ergebnisse);
+    }
+    for (const PunktKante* k = liste.KanteKnoten; k != nullptr; k = k->Next) {
+        const PunktKnoten* a = liste.SuchPkt(k->ANr);
+        const PunktKnoten* e = liste.SuchPkt(k->ENr);
+        if (a == nullptr || e == nullptr || !Endlich(*a) || !Endlich(*e)) continue;
+        std::string arten = kRichtungen[static_cast<std::size_t>(k->Item->LAttr)];
+        for (const auto& [art, name] : kBeobachtungen) {
+            if (k->Item->KAttr.Hat(art)) arten += (arten.empty() ? "" : ",") + std::string(name);
+        }
+        g.BeginneFigur();
+        g.Feld("von", Cp1252NachUtf8(liste.GetPktText(k->ANr)));
+        g.Feld("nach", Cp1252NachUtf8(liste.GetPktText(k->ENr)));
+        g.Feld("beobachtungen", arten);
+        g.Feld("grob", k->Item->Farbe == einstellungen.GFCol);
+        g.Feld("sichtbar", k->Item->Visible);
+        g.Linie({a->XWPu, a->YWPu}, {e->XWPu, e->YWPu});
+    }
+    g.Schliesse();
+}
+
+}  // namespace zrw

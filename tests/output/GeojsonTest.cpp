@@ -1,0 +1,81 @@
+#include "output/Geojson.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/hilfe/Probenetz.h"
+#include "tests/hilfe/Speicherdateien.h"
+
+namespace zrw {
+namespace {
+
+class EinErgebnis final : public Punktergebnisse {
+  public:
+    void Erneuere() override {}
+    [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override {
+        return nummer == "A\"\xDC" ? &ergebnis_ : nullptr;
+    }
+
+  private:
+    Punktergebnis ergebnis_{.dY = 12.5, .A = 3.0, .X = 5600000.125};
+};
+
+TEST(Geojson, PunkteUndLinienMitAllemWasBekanntIst) {
+    Probenetz n;
+    n.P(1, 3500000.5, 5600000.25, PunktArt::NP).Item->PktTyp = PunktTyp::Drei;
+    n.P(2, 3500100, 5600100).Item->Visible = false;
+    n.T(1, "A\"\xDC");
+    n.T(2, "B\x01");
+    n.K(1, 2, LinieAttr::AR2).Item->Farbe = n.e.GFCol;
+    Speicherdateien dateien;
+    EinErgebnis ergebnis;
+    SchreibeGeojson(n.l, {.Netztyp = 3}, n.e, &ergebnis, dateien, "aus/netz.geojson");
+    EXPECT_EQ(dateien.dateien.at("aus/netz.geojson"),
+              "{\"type\":\"FeatureCollection\",\"name\":\"netz\",\"crs\":{\"type\":\"name\",\"properties\":"
+              "{\"name\":\"urn:ogc:def:crs:EPSG::31467\"}},\"features\":[\n"
+              "{\"type\":\"Feature\",\"properties\":{\"nummer\":\"B \",\"punktart\":\"FP\",\"symbol\":"
+              "\"Kreis\",\"sichtbar\":false},\"geometry\":{\"type\":\"Point\",\"coordinates\":"
+              "[3500100,5600100]}},\n"
+              "{\"type\":\"Feature\",\"properties\":{\"nummer\":\"A\\\"Ü\",\"punktart\":\"NP\",\"symbol\":"
+              "\"Dreieck\",\"sichtbar\":true,\"x_ausgeglichen\":5600000.125,\"dY\":12.5,\"dX\":0,\"dH\":0,"
+              "\"ellipse_a\":3,\"ellipse_b\":0,\"ellipse_phi\":0,\"mL\":0,\"mH\":0},\"geometry\":{\"type\":"
+              "\"Point\",\"coordinates\":[3500000.5,5600000.25]}},\n"
+              "{\"type\":\"Feature\",\"properties\":{\"von\":\"A\\\"Ü\",\"nach\":\"B \",\"beobachtungen\":"
+              "\"AR2,ST\",\"grob\":true,\"sichtbar\":true},\"geometry\":{\"type\":\"LineString\","
+              "\"coordinates\":[[3500000.5,5600000.25],[3500100,5600100]]}}\n]}\n");
+}
+
+TEST(Geojson, EpsgNurWoDasNetzEinenBestimmt) {
+    struct Fall {
+        Netzangaben netz;
+        double rechts;
+        std::optional<int> epsg;
+    };
+    for (const Fall& f : {
+             Fall{{3, 1, 9, 0}, 3512345, 31467},
+             {{3, 1, 6, 0}, 2512345, 31466},
+             {{2, 1, 15, 0}, 5400000, 31469},
+             {{51, 3, 12, 0}, 4500000, 2398},
+             {{3, 6, 9, 1}, 500000, 25832},
+             {{3, 6, 9, 1}, 32500000, 4647},
+             {{3, 6, 15, 1}, 33500000, 5650},
+             {{3, 5, 9, 1}, 400000, 32632},
+             {{3, 2, 3, 1}, 400000, 23031},
+             {{6, 1, 9, 1}, 3500000, 31467},         // cartesian: always Gauss-Krüger
+             {{3, 1, 9, 0}, 4512345, std::nullopt},  // another zone than the meridian's
+             {{3, 1, 9, 0}, 12345, std::nullopt},    // local eastings
+             {{1, 1, 9, 0}, 3512345, std::nullopt},  // no grid
+             {{3, 1, 10, 0}, 3512345, std::nullopt},
+             {{3, 4, 9, 0}, 3512345, std::nullopt},
+             {{3, 1, 9, 2}, 500000, std::nullopt},
+         }) {
+        Probenetz n;
+        n.P(1, f.rechts, 5600000);
+        EXPECT_EQ(EpsgCode(f.netz, n.l), f.epsg)
+            << f.rechts << " " << f.netz.Ellipsoid << " " << f.netz.Hauptmeridian;
+    }
+    Probenetz leer;
+    EXPECT_EQ(EpsgCode({3, 1, 9, 0}, leer.l), std::nullopt);
+}
+
+}  // namespace
+}  // namespace zrw
