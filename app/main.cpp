@@ -38,7 +38,7 @@ int Fenster(const Aufruf& aufruf) {
     Systemdateien dateien;
     const Systemuhr uhr;
     TDM daten(dateien);
-    Systemdrucker drucker;
+    Systemdrucker drucker(dateien);
     QtDialogdienst dialoge;
     Sitzung sitzung;
     TZrwMainDlg fenster({einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung,

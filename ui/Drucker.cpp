@@ -1,11 +1,13 @@
 #include "ui/Drucker.h"
 
+#include <QFile>
 #include <QFontInfo>
 #include <QPageSetupDialog>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QTemporaryDir>
 #include <cmath>
 #include <optional>
 
@@ -24,25 +26,37 @@ class Druckflaeche final : public Malerflaeche {
         : Malerflaeche(maler, {0, 0, seite.weite - 1, seite.hoehe - 1}, schrift) {
         SetzeStrichbreite(
             std::max(1, static_cast<int>(std::lround(kStrichbreite / kMillimeterJeZoll * seite.aufloesung))));
+        // Lines that leave the sheet end at its edge, not somewhere in the margin.
+        maler.setClipRect(QRect(0, 0, seite.weite, seite.hoehe));
     }
 };
 
+/// A whole PDF ends like this; Qt does not tell when the disk is full.
+constexpr const char* kPdfende = "%%EOF";
+
 }  // namespace
 
-Systemdrucker::Systemdrucker() = default;
+Systemdrucker::Systemdrucker(Dateien& dateien) : dateien_(dateien) {}
 Systemdrucker::~Systemdrucker() = default;
 
 QPrinter& Systemdrucker::Geraet() const {
-    if (geraet_ != nullptr) return *geraet_;
-    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
-    geraet_ = info.isNull() ? std::make_unique<QPrinter>(QPrinter::HighResolution)
-                            : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
-    geraet_->setCreator(QStringLiteral("Zarwik"));
-    // Drivers that scale for themselves accept any resolution and name none, or several.
-    const QList<int> moegliche = geraet_->supportedResolutions();
-    const bool ueblich =
-        moegliche.isEmpty() || moegliche.contains(kUeblicheAufloesung) || moegliche.last() <= 0;
-    geraet_->setResolution(ueblich ? kUeblicheAufloesung : moegliche.last());
+    if (geraet_ == nullptr) {
+        const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+        geraet_ = info.isNull() ? std::make_unique<QPrinter>(QPrinter::HighResolution)
+                                : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+        geraet_->setCreator(QStringLiteral("Zarwik"));
+    }
+    // Whoever chooses another printer or a file in a dialog gets that one's own, which is a screen's for
+    // files.
+    constexpr int kGrob = 150;
+    if (stand_ != geraet_->printerName() + geraet_->outputFileName() || geraet_->resolution() < kGrob) {
+        // Drivers that scale for themselves accept any resolution and name none, or several.
+        const QList<int> moegliche = geraet_->supportedResolutions();
+        const bool ueblich = geraet_->outputFormat() == QPrinter::PdfFormat || moegliche.isEmpty() ||
+                             moegliche.contains(kUeblicheAufloesung) || moegliche.last() <= 0;
+        geraet_->setResolution(ueblich ? kUeblicheAufloesung : moegliche.last());
+        stand_ = geraet_->printerName() + geraet_->outputFileName();
+    }
     return *geraet_;
 }
 
@@ -68,6 +82,7 @@ bool Systemdrucker::RichteEin(QWidget* eltern) {
 }
 
 void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
+    const Druckseite seite = Seite();
     QPainter maler;
     const auto misslungen = [&] {
         const QString ziel = geraet.outputFileName();
@@ -76,7 +91,6 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
                               : Fehler("Die Datei lässt sich nicht schreiben.", NachUtf8(ziel));
     };
     if (!maler.begin(&geraet)) throw misslungen();
-    const Druckseite seite = Seite();
     QFont druckschrift = werk.schrift;
     druckschrift.setPixelSize(static_cast<int>(
         std::lround(QFontInfo(werk.schrift).pixelSize() * seite.aufloesung / kBildaufloesung)));
@@ -95,8 +109,35 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
 }
 
 void Systemdrucker::Drucke(const Druckwerk& werk) {
-    Geraet().setDocName(werk.titel);
-    Male(Geraet(), werk);
+    QPrinter& geraet = Geraet();
+    geraet.setDocName(werk.titel);
+    const QString ziel = geraet.outputFileName();
+    if (ziel.isEmpty()) {
+        Male(geraet, werk);
+        return;
+    }
+    // Into a file of its own first: the one that the user named is replaced as a whole or not at all.
+    const QTemporaryDir ordner;
+    const QString entwurf = ordner.filePath(QStringLiteral("druck.pdf"));
+    geraet.setOutputFileName(entwurf);
+    try {
+        Male(geraet, werk);
+    } catch (...) {
+        geraet.setOutputFileName(ziel);
+        throw;
+    }
+    geraet.setOutputFileName(ziel);
+    QFile datei(entwurf);
+    const QByteArray inhalt = datei.open(QIODevice::ReadOnly) ? datei.readAll() : QByteArray();
+    if (!inhalt.trimmed().endsWith(kPdfende))
+        throw Fehler("Der Druck lässt sich nicht zwischenspeichern (Datenträger voll).",
+                     NachUtf8(ordner.path()));
+    dateien_.Ersetze(NachPfad(ziel), {inhalt.constData(), static_cast<std::size_t>(inhalt.size())});
+}
+
+void Systemdrucker::DruckeInDatei(const QString& datei, const QPageLayout& seite) {
+    Geraet().setOutputFileName(datei);
+    Geraet().setPageLayout(seite);
 }
 
 bool Systemdrucker::ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) {

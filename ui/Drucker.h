@@ -3,10 +3,12 @@
 
 #include <QFont>
 #include <QImage>
+#include <QPageLayout>
 #include <QString>
 #include <functional>
 #include <memory>
 
+#include "model/Dateien.h"
 #include "output/Druck.h"
 #include "output/Zeichenflaeche.h"
 
@@ -45,7 +47,8 @@ class Drucker {
 /// The system's printers. Before one is chosen: the default one, or a file where there is none.
 class Systemdrucker final : public Drucker {
   public:
-    Systemdrucker();
+    /// @param dateien puts printed files in place
+    explicit Systemdrucker(Dateien& dateien);
     ~Systemdrucker() override;
     [[nodiscard]] int Aufloesung() const override;
     [[nodiscard]] Druckseite Seite() const override;
@@ -54,10 +57,15 @@ class Systemdrucker final : public Drucker {
     void Drucke(const Druckwerk& werk) override;
     bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) override;
 
+    /// Makes a PDF file of what is printed, on this paper.
+    void DruckeInDatei(const QString& datei, const QPageLayout& seite);
+
   private:
     [[nodiscard]] QPrinter& Geraet() const;
     void Male(QPrinter& geraet, const Druckwerk& werk) const;
 
+    Dateien& dateien_;
+    mutable QString stand_;                     ///< printer and file that the resolution was chosen for
     mutable std::unique_ptr<QPrinter> geraet_;  ///< made when first needed: looking for printers takes time
 };
 

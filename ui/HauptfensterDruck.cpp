@@ -168,6 +168,10 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
         Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1}, flaeche_.Schrift());
         ZeigeAusgabebereich(flaeche);
     }
+    // Other programs place the picture in the size that it has on the screen.
+    const int jeMeter = static_cast<int>(std::lround(kBildaufloesung * 1000 / kMillimeterJeZoll));
+    bild.setDotsPerMeterX(jeMeter);
+    bild.setDotsPerMeterY(jeMeter);
     QByteArray bytes;
     QBuffer puffer(&bytes);
     puffer.open(QIODevice::WriteOnly);

@@ -1,7 +1,11 @@
 // Printing from the window: sheets, the output area, and that nothing of it stays in the picture.
 #include <QCheckBox>
+#include <QFile>
 #include <QLineEdit>
+#include <QProcess>
+#include <QRegularExpression>
 
+#include "model/Cp1252.h"
 #include "tests/ui/Fenster.h"
 
 namespace zrw {
@@ -129,6 +133,70 @@ TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
     kasten->click();
     EXPECT_TRUE(rot({200, 60})) << "switched off and on it is in the corner again";
     EXPECT_FALSE(rot(leer));
+}
+
+/// The window with the printers of the system, which print into a file here.
+TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
+    const QString pdf = ordner.filePath("plan.pdf");
+    Systemdrucker echter(dateien);
+    echter.DruckeInDatei(pdf, QPageLayout(QPageSize(QPageSize::A3), QPageLayout::Landscape, {10, 10, 10, 10},
+                                          QPageLayout::Millimeter));
+    const Druckseite seite = echter.Seite();
+    EXPECT_EQ(seite.aufloesung, 600);
+    EXPECT_NEAR(seite.weite * 25.4 / seite.aufloesung, 400, 0.5) << "Qt rounds papers to points";
+    EXPECT_NEAR(seite.hoehe * 25.4 / seite.aufloesung, 277, 0.5);
+    fenster.Oeffne(kBeispiel);
+    Liste& liste = const_cast<Liste&>(*fenster.Netz());
+    Figurenzeichner zeichner(zustand, einstellungen, netz, uhr);
+    const Welt ecke = liste.BildinWelt({});
+    const auto drucke = [&](double massstab) {
+        echter.Drucke(
+            {"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
+                 Drucke(liste, zeichner, zustand, einstellungen, blatt, {massstab, "100000", seite, ecke});
+             }});
+    };
+    drucke(100000);
+    QProcess text;
+    text.start("pdftotext", {"-bbox", pdf, "-"});
+    if (!text.waitForStarted()) GTEST_SKIP() << "pdftotext is not installed";
+    text.waitForFinished();
+    const QString woerter = QString::fromUtf8(text.readAllStandardOutput());
+    // Left edge and top of a point's number [mm], less the place of the point itself on the paper.
+    const auto abstand = [&](const char* nummer) {
+        const QRegularExpression wort(QString("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>%1<").arg(nummer));
+        const auto t = wort.match(woerter);
+        EXPECT_TRUE(t.hasMatch()) << nummer;
+        const PunktKnoten& p = *liste.FindPunkt(Utf8NachCp1252(nummer));
+        constexpr double kMm = 25.4 / 72;
+        return QPointF(t.captured(1).toDouble() * kMm - 10 - (p.XWPu - ecke.rechts) / 100,
+                       t.captured(2).toDouble() * kMm - 10 - (ecke.hoch - p.YWPu) / 100);
+    };
+    const QPointF erster = abstand("REF1");
+    EXPECT_NEAR(erster.x(), 10 / 96.0 * 25.4, 0.2) << "10 px beside its point";
+    for (const char* nummer : {"KÜHBG", "WOLFSB", "MÜHLR", "35562804000105"}) {
+        const QPointF d = abstand(nummer) - erster;
+        EXPECT_NEAR(d.x(), 0, 0.1) << nummer;
+        EXPECT_NEAR(d.y(), 0, 0.1) << nummer;
+    }
+
+    // A folder in the way: told, and the file that was there stays.
+    const QByteArray vorher = [&] {
+        QFile f(pdf);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }();
+    EXPECT_TRUE(vorher.startsWith("%PDF"));
+    echter.DruckeInDatei(ordner.path() + "/fehlt/plan.pdf", QPageLayout());
+    EXPECT_THROW(drucke(100000), Fehler);
+    Speicherdateien voll;
+    voll.platz = 1000;
+    Systemdrucker knapp(voll);
+    knapp.DruckeInDatei("voll.pdf", QPageLayout());
+    EXPECT_THROW(knapp.Drucke({"voll", Zeichenschrift(), 1,
+                               [](Zeichenflaeche& blatt, int /*nr*/) {
+                                   blatt.Linie({0, 0}, {9, 9});
+                               }}),
+                 Fehler);
+    EXPECT_TRUE(voll.dateien.empty());
 }
 
 }  // namespace
