@@ -9,7 +9,7 @@ brauche xvfb xdotool openbox imagemagick
 bilder=$(readlink -f "${2:-$(mktemp -d)}")
 ordner=$(mktemp -d)
 mkdir -p "$bilder"
-cp "$wurzel"/beispiele/*.EIN "$wurzel"/beispiele/*.?F "$ordner"
+cp "$wurzel"/beispiele/*.EIN "$wurzel"/beispiele/*.?F "$wurzel"/beispiele/*.DB "$ordner"
 cd "$ordner"
 export XDG_CONFIG_HOME=$ordner XDG_RUNTIME_DIR=$ordner HOME=$ordner
 exec 3< <(exec Xvfb -displayfd 1 -screen 0 1400x950x24 2>/dev/null)
@@ -35,29 +35,47 @@ speichere() { # the dialog takes the name, an existing file is replaced
     taste ctrl+s && sleep 0.5 && xdotool type "$ordner/$1" && taste Return && sleep 0.5
 }
 # The row of buttons, by what they do.
-declare -A knopf=([pan]=732 [zoom]=766 [punkt]=800 [nummer]=834 [beob]=868 [art]=902 [loesche]=935 [zentriere]=1004
-    [hidenr]=1072 [hide]=1106 [daten]=1139 [versteckte]=445 [nummern]=479 [alles]=338 [einpassen]=372)
-modus() { klick "${knopf[$1]}" 19; }
+declare -A knopf=([pan]="868 19" [zoom]="902 19" [punkt]="936 19" [nummer]="970 19" [beob]="1004 19" [art]="1038 19"
+    [zentriere]="1139 19" [hidenr]="56 52" [hide]="90 52" [daten]="124 52" [alles]="338 19" [vorschau]="586 19")
+modus() {
+    local ort
+    read -ra ort <<<"${knopf[$1]}"
+    klick "${ort[@]}"
+}
 
 modus alles
 speichere anfang.ZRW
 bild 01_geoeffnet
-nach 506 430
+nach 414 394
 for _ in 1 2 3; do xdotool click 5; done # the wheel: closer
 sleep 0.3
 bild 02_vergroessert
+for kasten in 619,80 955,80 13,102; do klick "${kasten%,*}" "${kasten#*,}"; done
+bild 10_ergebnisse
+modus daten
+klick 414 394 # point 10
+xdotool search --sync --onlyvisible --name '^Abriss nach der Ausgleichung Punkt' >/dev/null
+bild 11_abriss root
+modus daten
+for kasten in 619,80 955,80 13,102; do klick "${kasten%,*}" "${kasten#*,}"; done
+modus vorschau
+vorschau=$(xdotool search --sync --onlyvisible --name '^Druckvorschau$' | tail -1)
+sleep 2
+bild 12_vorschau "$vorschau"
+xdotool key Escape
+sleep 0.5
 modus pan
 ziehe 300 300 420 380
 modus alles
 modus punkt
-ziehe 428 380 620 300 # point 10
+ziehe 414 394 620 300 # point 10
 bild 03_punkt_verschoben
 modus nummer
-ziehe 361 104 420 160 # number REF2, right of its point
+ziehe 352 128 420 180 # number REF2, right of its point
 modus hide
-klick 330 406 # point 11
+klick 319 419 # point 11
 modus hidenr
-klick 436 328 # number 34, by its point
+klick 433 339 # number 34, by its point
 bild 04_versteckt
 modus beob
 dialog=$(xdotool search --sync --onlyvisible --name '^Beobachtungstyp$' | tail -1)
@@ -65,13 +83,13 @@ imDialog() { xdotool mousemove --window "$dialog" "$1" "$2" click 1 && sleep 0.3
 imDialog 175 49 # both directions
 imDialog 16 232 # new lines
 xdotool windowmove "$dialog" 900 300
-klick 593 606 # REF5
-klick 651 307 # to REF3
+klick 573 612 # REF5
+klick 629 323 # to REF3
 bild 05_beobachtung_eingefuegt root
 modus art
 art=$(xdotool search --sync --onlyvisible --name '^Punktart$' | tail -1)
 xdotool windowmove "$art" 900 300
-klick 210 436 # point 24
+klick 203 447 # point 24
 dialog=$art
 imDialog 162 76  # FH
 imDialog 243 298 # draw it
@@ -83,10 +101,10 @@ speichere ende.ZRW
 bild 07_zurueckgenommen
 cmp anfang.ZRW ende.ZRW && echo "Zurückgenommen: der Plan ist der vom Anfang."
 modus zentriere
-klick 210 436 # 24 onto 8
-klick 251 359
-klick 332 511 # 14 onto 11
-klick 330 406
+klick 203 447 # 24 onto 8
+klick 242 373
+klick 321 520 # 14 onto 11
+klick 319 419
 bild 08_zentriert
 speichere zentriert.ZRW
 modus zentriere
