@@ -46,6 +46,16 @@ int LiesAufloesung(const std::string& text) {
     throw Falschaufruf{"--dpi erwartet eine ganze Zahl von 1 bis 100000, nicht \"" + text + "\""};
 }
 
+/// "a4" is A4, too.
+Papier LiesPapier(std::string name) {
+    std::replace(name.begin(), name.end(), 'a', 'A');
+    if (const auto papier = FindePapier(name)) return *papier;
+    std::string namen;
+    for (const Papierformat& f : kPapierformate)
+        namen += (namen.empty() ? "" : ", ") + std::string(f.name);
+    throw Falschaufruf{"--papier kennt " + namen + ", nicht \"" + name + "\""};
+}
+
 std::vector<std::string> LiesFormate(const std::string& liste) {
     auto formate = Aufteilen(liste);
     if (formate.empty())
@@ -72,13 +82,13 @@ void Haenge(std::vector<std::string>& ziel, std::vector<std::string> neue) {
     ziel.insert(ziel.end(), neue.begin(), neue.end());
 }
 
-/// An option that takes a value.
 struct Option {
     std::string_view name;
     void (*lies)(Aufruf&, const std::string&);
+    bool mitWert = true;
 };
 
-constexpr std::array<Option, 8> kOptionen{{
+constexpr std::array<Option, 10> kOptionen{{
     {"--export",
      [](Aufruf& a, const std::string& w) {
          a.auftrag = Auftrag::Stapel;
@@ -88,6 +98,8 @@ constexpr std::array<Option, 8> kOptionen{{
     {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
     {"--massstab", [](Aufruf& a, const std::string& w) { a.massstab = LiesMassstabtext(w); }},
     {"--dpi", [](Aufruf& a, const std::string& w) { a.dpi = LiesAufloesung(w); }},
+    {"--papier", [](Aufruf& a, const std::string& w) { a.papier = LiesPapier(w); }},
+    {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
     {"--ein", [](Aufruf& a, const std::string& w) { Haenge(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { Haenge(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
@@ -120,10 +132,12 @@ Aufruf LiesAufruf(const std::vector<std::string>& worte) {
             const auto* o = std::find_if(kOptionen.begin(), kOptionen.end(),
                                          [&](const Option& p) { return p.name == name; });
             if (o == kOptionen.end()) throw Falschaufruf{"Unbekannte Option \"" + name + "\""};
-            if (gleich == std::string::npos && i + 1 >= worte.size())
+            const bool hatWert = gleich != std::string::npos;
+            if (!o->mitWert && hatWert) throw Falschaufruf{name + " hat keinen Wert"};
+            if (o->mitWert && !hatWert && i + 1 >= worte.size())
                 throw Falschaufruf{name + " erwartet einen Wert"};
             mitOption = true;
-            o->lies(a, gleich == std::string::npos ? worte[++i] : wort.substr(gleich + 1));
+            o->lies(a, hatWert ? wort.substr(gleich + 1) : o->mitWert ? worte[++i] : std::string());
         }
     }
     if (a.auftrag == Auftrag::Fenster && mitOption) throw Falschaufruf{"Optionen gelten nur mit --export"};
@@ -147,8 +161,10 @@ std::string Hilfetext() {
            "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner); er wird angelegt\n"
            "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x800,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
-           "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf und plt (sonst 25000)\n"
+           "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf, plt und pdf (sonst 25000)\n"
            "  --dpi ZAHL             Auflösung des Drucks in Punkten je Zoll (sonst 600)\n"
+           "  --papier FORMAT        Papier für pdf: A4, A3, A2, A1 oder A0 (sonst A4)\n"
+           "  --quer                 Papier im Querformat\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"

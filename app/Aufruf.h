@@ -8,6 +8,7 @@
 
 #include "input/Oeffnen.h"
 #include "output/Export.h"
+#include "output/Papier.h"
 
 namespace zrw {
 
@@ -25,9 +26,11 @@ struct Aufruf {
     std::vector<std::string> formate;  ///< names from the format table
     std::string ziel;                  ///< target folder; empty: the working folder
     std::optional<Bildgroesse> groesse;
-    std::string massstab = kUeblicherMassstab;  ///< denominator, readable by `LiesMassstab`
-    int dpi = kUeblicheAufloesung;              ///< resolution of the print [dots per inch]
-    std::vector<std::string> ein;               ///< switches by name
+    std::string massstab = kUeblicherMassstab;   ///< denominator, readable by `LiesMassstab`
+    int dpi = kUeblicheAufloesung;               ///< resolution of the print [dots per inch]
+    Papier papier = kPapierformate[0].hochkant;  ///< upright
+    bool quer = false;                           ///< the paper lies on its long side
+    std::vector<std::string> ein;                ///< switches by name
     std::vector<std::string> aus;
     std::optional<std::string> einstellungen;
 };

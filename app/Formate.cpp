@@ -6,9 +6,13 @@
 #include <array>
 
 #include "model/Bilddatei.h"
+#include "model/Cp1252.h"
 #include "model/Fehler.h"
+#include "output/Druck.h"
 #include "output/Export.h"
 #include "output/Figurenzeichner.h"
+#include "output/Pdfflaeche.h"
+#include "output/Svgflaeche.h"
 #include "ui/Bildflaeche.h"
 
 namespace zrw {
@@ -35,17 +39,46 @@ void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const ch
     a.dateien.Ersetze(datei, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
+/// What the control file calls the network, or else its file's name.
+std::string Titel(const Ausgabe& a) {
+    return a.liste.Legend->Bez1.empty() ? Utf8NachCp1252(a.eingabe) : a.liste.Legend->Bez1;
+}
+
+/// The picture as the window would show it, to any size.
+void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
+    Svgflaeche flaeche(a.dateien.Beginne(datei), {a.liste.Weite, a.liste.Hoehe, kBildaufloesung}, Titel(a));
+    a.zustand.flaeche = &flaeche;
+    const Systemuhr uhr;
+    Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
+    a.liste.ShowPicture(zeichner);
+    a.zustand.flaeche = nullptr;
+    flaeche.Beende();
+}
+
+/// A sheet of paper at scale, as a printer would print it.
+void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
+    Pdfflaeche flaeche(a.dateien.Beginne(datei), a.papier, a.dpi, {Titel(a), nullptr});
+    Einstellungen groessen = a.einstellungen;  // printing scales them
+    const Systemuhr uhr;
+    Figurenzeichner zeichner(a.zustand, groessen, a.netz, uhr);
+    const Druckauftrag auftrag{a.massstab, a.massstabtext, Bedruckbar(a.papier, a.dpi), {}};
+    Drucke(a.liste, zeichner, a.zustand, groessen, flaeche, auftrag);
+    flaeche.Beende();
+}
+
 void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
     const Systemuhr uhr;
     Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
-    auftrag.faktor = a.druckfaktor;
+    auftrag.faktor = Druckfaktor(a.massstab, a.dpi);
     Exportiere(a.liste, zeichner, a.zustand, a.dateien, auftrag);
 }
 
-constexpr std::array<Format, 5> kFormate{{
+constexpr std::array<Format, 7> kFormate{{
     {"zrw", ".ZRW", {}, &SchreibeZrw},
     {"png", ".png", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "PNG"); }},
     {"bmp", ".bmp", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "BMP"); }},
+    {"svg", ".svg", {}, &SchreibeSvg},
+    {"pdf", ".pdf", {}, &SchreibePdf},
     {"dxf",
      {},
      kDxfname,

@@ -7,6 +7,7 @@
 #include "model/Dateien.h"
 #include "model/FigListe.h"
 #include "model/Netzangaben.h"
+#include "output/Papier.h"
 #include "output/Zeichenzustand.h"
 
 namespace zrw {
@@ -18,7 +19,11 @@ struct Ausgabe {
     const Einstellungen& einstellungen;
     Zeichenzustand& zustand;
     Dateien& dateien;
-    double druckfaktor;  ///< [m/dot] of the print
+    double massstab;           ///< scale denominator of the print
+    std::string massstabtext;  ///< the same as the legend names it
+    int dpi;                   ///< resolution of the print [dots per inch]
+    Papier papier;             ///< as it lies
+    std::string_view eingabe;  ///< name of the input without folder and extension, UTF-8
 };
 
 struct Format {

@@ -5,8 +5,8 @@
 #include <cstdio>
 
 #include "app/Formate.h"
-#include "input/tabellen/MarkiereFehler.h"
 #include "input/Systemdateien.h"
+#include "input/tabellen/MarkiereFehler.h"
 #include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
 #include "output/Export.h"
@@ -86,9 +86,17 @@ void Exportiere(const Aufruf& aufruf) {
     std::error_code fehler;
     // The folder itself is made where its parent exists; writing tells whatever else is wrong with it.
     if (!ordner.empty()) std::filesystem::create_directory(ordner, fehler);
-    const Ausgabe ausgabe{*lesung.liste, lesung.netz,
-                          einstellungen, zustand,
-                          dateien,       Druckfaktor(*LiesMassstab(aufruf.massstab), aufruf.dpi)};
+    const std::string eingabe = PfadText(datei.stem());
+    const Ausgabe ausgabe{.liste = *lesung.liste,
+                          .netz = lesung.netz,
+                          .einstellungen = einstellungen,
+                          .zustand = zustand,
+                          .dateien = dateien,
+                          .massstab = *LiesMassstab(aufruf.massstab),
+                          .massstabtext = aufruf.massstab,
+                          .dpi = aufruf.dpi,
+                          .papier = aufruf.quer ? aufruf.papier.Gedreht() : aufruf.papier,
+                          .eingabe = eingabe};
     for (const std::string& name : aufruf.formate) {
         const Format& format = *FindeFormat(name);
         std::filesystem::path ziel = TextPfad(format.dateiname);

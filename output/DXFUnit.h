@@ -17,16 +17,17 @@
 
 #include "model/Dateien.h"
 #include "model/Werte.h"
+#include "output/Ebene.h"
 #include "output/Textausgabe.h"
 
 namespace zrw {
 
 /// Layers and line types that the drawing names.
 namespace dxf {
-inline constexpr std::string_view kPunkte = "PUNKTE";
-inline constexpr std::string_view kPunktnummern = "PUNKTNR";
-inline constexpr std::string_view kBeobachtungen = "BEOB";
-inline constexpr std::string_view kGitter = "GITTER";
+inline constexpr std::string_view kPunkte = Ebenenname(Ebene::Punkte);
+inline constexpr std::string_view kPunktnummern = Ebenenname(Ebene::Punktnummern);
+inline constexpr std::string_view kBeobachtungen = Ebenenname(Ebene::Beobachtungen);
+inline constexpr std::string_view kGitter = Ebenenname(Ebene::Gitter);
 inline constexpr std::string_view kDurchgezogen = "CONTINUOUS";
 inline constexpr std::string_view kGestrichelt = "ACAD_ISO03W100";
 }  // namespace dxf

@@ -52,13 +52,19 @@ Dxfpunkt Figurenzeichner::Weltort(Bildpunkt b) const {
     return {w.rechts, w.hoch};
 }
 
+void Figurenzeichner::SetzeEbene(Ebene ebene) const {
+    if (zustand_.flaeche != nullptr) zustand_.flaeche->SetzeEbene(ebene);
+}
+
 void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
+    SetzeEbene(Ebene::Grund);
     if (zustand_.flaeche != nullptr) zustand_.flaeche->Fuelle({0, 0, weite, hoehe}, kWeiss);
 }
 
 // --- Points -----------------------------------------------------------------------------------------------
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Gang gang) {
+    SetzeEbene(Ebene::Punkte);
     const Einstellungen& e = einstellungen_;
     const Bildpunkt m = punkt.Position();
     const std::int32_t groesste = std::max(
@@ -141,6 +147,7 @@ void Figurenzeichner::Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt>
 // --- Lines ------------------------------------------------------------------------------------------------
 
 void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
+    SetzeEbene(Ebene::Beobachtungen);
     const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
     if (zustand_.flaeche != nullptr) {
         const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
@@ -190,6 +197,7 @@ void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
 // --- Labels -----------------------------------------------------------------------------------------------
 
 void Figurenzeichner::ZeichneText(const PktText& text, Gang gang) {
+    SetzeEbene(Ebene::Punktnummern);
     if (zustand_.flaeche != nullptr) ZeigeText(text, gang == Gang::Wischen ? kWeiss : text.Col);
     // The files always get the whole number. The plot shifts it by the horizontal offset in both directions;
     // plotted sheets have their numbers there.
@@ -224,14 +232,20 @@ void Figurenzeichner::ZeigeText(const PktText& text, Farbe farbe) {
 
 void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
-    if (zustand_.flaeche != nullptr) Legendenbild(*zustand_.flaeche, einstellungen_).Zeichne(legende, gang);
+    if (zustand_.flaeche == nullptr) return;
+    SetzeEbene(Ebene::Legende);
+    // Printing leaves a device factor behind that means nothing on the screen.
+    const double geraetefaktor = zustand_.modus == Zeichenmodus::Drucker ? zustand_.Geraetefaktor : 1.0;
+    Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).Zeichne(legende, gang);
 }
 
 void Figurenzeichner::GitterShow(const Liste& liste) {
+    SetzeEbene(Ebene::Gitter);
     Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kartenblaetter(netz_);
 }
 
 void Figurenzeichner::KMGitterShow(const Liste& liste) {
+    SetzeEbene(Ebene::Gitter);
     Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kilometerquadrate();
 }
 
@@ -241,11 +255,14 @@ bool Figurenzeichner::ZeigtResiduen() const {
 
 void Figurenzeichner::ZeichnePunktRes(const Liste& liste) {
     if (!ZeigtResiduen() || zustand_.Ergebnisse == nullptr) return;
+    SetzeEbene(Ebene::Ergebnisse);
     Residuenbild(zustand_, einstellungen_, liste).ZeichnePunktRes(*zustand_.Ergebnisse);
 }
 
 void Figurenzeichner::DrawResMasstab(const Liste& liste) {
-    if (ZeigtResiduen()) Residuenbild(zustand_, einstellungen_, liste).DrawResMasstab();
+    if (!ZeigtResiduen()) return;
+    SetzeEbene(Ebene::Ergebnisse);
+    Residuenbild(zustand_, einstellungen_, liste).DrawResMasstab();
 }
 
 }  // namespace zrw

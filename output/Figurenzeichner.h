@@ -48,6 +48,7 @@ class Figurenzeichner final : public Zeichner {
     void Kreuz(const Symbolziel& ziel, const std::array<Bildpunkt, 4>& enden) const;
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 
+    void SetzeEbene(Ebene ebene) const;
     void ZeigeZug(const Zug& zug, Farbe farbe);
     void SchreibeZug(const Zug& zug, const Kante& kante);
     void ZeigeText(const PktText& text, Farbe farbe);

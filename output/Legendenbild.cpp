@@ -12,20 +12,26 @@
 namespace zrw {
 namespace {
 
-constexpr std::int32_t kMindestbreite = 150;
-constexpr std::int32_t kRand = 4;  ///< beside the longest description
+constexpr double kMindestbreite = 150;  ///< [px]
+constexpr double kRand = 4;             ///< beside the longest description [px]
+constexpr double kRahmenabstand = 2;    ///< from the frame to the texts, left and above [px]
 constexpr std::int32_t kZeilen = 8;
 constexpr std::int32_t kErsteArt = 4;  ///< line of the first point kind
 
 }  // namespace
 
+std::int32_t Legendenbild::Dots(double pixel) const {
+    return static_cast<std::int32_t>(RundeZuInt64(pixel * geraetefaktor_));
+}
+
 std::int32_t Legendenbild::Breite(const Legende& l) const {
-    std::int32_t w = kMindestbreite;
+    const std::int32_t mindestens = Dots(kMindestbreite);
+    std::int32_t w = mindestens;
     // The first text may fill the least width without a margin, the second may not exceed what is there.
     const std::int32_t b1 = flaeche_.Textbreite(l.Bez1);
     const std::int32_t b2 = flaeche_.Textbreite(l.Bez2);
-    if (b1 > kMindestbreite) w = b1 + kRand;
-    if (w < b2) w = b2 + kRand;
+    if (b1 > mindestens) w = b1 + Dots(kRand);
+    if (w < b2) w = b2 + Dots(kRand);
     return w;
 }
 
@@ -40,7 +46,8 @@ void Legendenbild::Zeichne(const Legende& l, Gang gang) const {
     const auto farbe = [&](Farbe eigene) { return wischen ? kWeiss : eigene; };
     {
         const Stiftwechsel rahmen(flaeche_, {farbe(l.Farbe), 1, Strichart::Voll}, {kWeiss, true});
-        flaeche_.ZeichneRechteck({x - 2, y - 2, x + w, y + kZeilen * h});
+        const std::int32_t abstand = Dots(kRahmenabstand);
+        flaeche_.ZeichneRechteck({x - abstand, y - abstand, x + w, y + kZeilen * h});
     }
     const auto zeile = [&, x = x, y = y](std::int32_t nummer, std::int32_t einzug, std::string_view text) {
         flaeche_.Text({x + einzug, y + nummer * h}, text, farbe(kSchwarz));

@@ -2,6 +2,8 @@
 // and paper only, never in an export.
 #pragma once
 
+#include <cstdint>
+
 #include "model/Einstellungen.h"
 #include "model/Figuren.h"
 #include "model/Zeichner.h"
@@ -11,8 +13,9 @@ namespace zrw {
 
 class Legendenbild {
   public:
-    Legendenbild(Zeichenflaeche& flaeche, const Einstellungen& einstellungen)
-        : flaeche_(flaeche), einstellungen_(einstellungen) {}
+    /// @param geraetefaktor device dots per screen pixel [-], for the fixed measures of the frame
+    Legendenbild(Zeichenflaeche& flaeche, const Einstellungen& einstellungen, double geraetefaktor = 1.0)
+        : flaeche_(flaeche), einstellungen_(einstellungen), geraetefaktor_(geraetefaktor) {}
 
     /// Draws the legend, or wipes it with the same shapes in white. Its position is within the drawable
     /// range.
@@ -22,8 +25,11 @@ class Legendenbild {
     [[nodiscard]] std::int32_t Breite(const Legende& legende) const;
 
   private:
+    [[nodiscard]] std::int32_t Dots(double pixel) const;
+
     Zeichenflaeche& flaeche_;
     const Einstellungen& einstellungen_;
+    double geraetefaktor_;
 };
 
 }  // namespace zrw

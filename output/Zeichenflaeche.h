@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "model/Werte.h"
+#include "output/Ebene.h"
 
 namespace zrw {
 
@@ -29,6 +30,7 @@ struct Pinsel {
 struct Flaechenpunkt {
     std::int32_t x = 0;
     std::int32_t y = 0;
+    friend bool operator==(Flaechenpunkt, Flaechenpunkt) = default;
 };
 
 /// Rectangle on a surface [dots]; `rechts` and `unten` lie on it.
@@ -53,6 +55,14 @@ class Zeichenflaeche {
     [[nodiscard]] const Stift& AktuellerStift() const { return stift_; }
     [[nodiscard]] const Pinsel& AktuellerPinsel() const { return pinsel_; }
 
+    /// Layer of what is drawn next. Most surfaces have none and never hear of it.
+    void SetzeEbene(Ebene ebene) {
+        if (ebene == ebene_) return;
+        ebene_ = ebene;
+        EbeneGewechselt(ebene);
+    }
+    [[nodiscard]] Ebene AktuelleEbene() const { return ebene_; }
+
     /// Line with both ends drawn.
     virtual void Linie(Flaechenpunkt von, Flaechenpunkt nach) = 0;
     // Outline with the pen, inside with the brush.
@@ -72,9 +82,13 @@ class Zeichenflaeche {
     /// The same in dots, positive.
     [[nodiscard]] virtual std::int32_t Schrifthoehe() const = 0;
 
+  protected:
+    virtual void EbeneGewechselt(Ebene /*ebene*/) {}
+
   private:
     Stift stift_;
     Pinsel pinsel_;
+    Ebene ebene_ = Ebene::Grund;
 };
 
 /// Sets pen and brush and puts back those of before at the end of its scope.

@@ -72,23 +72,32 @@ rm "$XDG_CONFIG_HOME/ZRWINI.ini"
 
 # An export that cannot be finished: the disk is full (here: a limit on the size of files) or the folder closed.
 mkdir voll
-cp "$wurzel/README.md" voll/ZRW.DXF
-cp "$wurzel/README.md" voll/ZRW.PLT
-for art in dxf plt; do
+for name in ZRW.DXF ZRW.PLT NETZ.svg NETZ.pdf; do
+    cp "$wurzel/README.md" voll/$name
+    art=$(tr '[:upper:]' '[:lower:]' <<<"${name##*.}")
     (
         trap '' XFSZ
         ulimit -f 24
-        exec "$zarwik" --export $art --ziel voll "$wurzel/beispiele/NETZ.EIN"
+        exec "$zarwik" --export "$art" --papier A0 --quer --massstab 50000 --ziel voll "$wurzel/beispiele/NETZ.EIN"
     ) >stdout 2>stderr
     pruefe "$art: voller Datenträger: Status" test $? -eq 1
-    pruefe "$art: voller Datenträger: Text" grep -qF "ZRW.${art^^}: Kann Datei nicht schreiben (Datei zu groß)" stderr
-    pruefe "$art: die alte bleibt" cmp -s voll/ZRW.${art^^} "$wurzel/README.md"
+    pruefe "$art: voller Datenträger: Text" grep -qF "$name: Kann Datei nicht schreiben (Datei zu groß)" stderr
+    pruefe "$art: die alte bleibt" cmp -s voll/$name "$wurzel/README.md"
 done
-pruefe "nichts daneben" test "$(ls voll)" = "$(printf 'ZRW.DXF\nZRW.PLT')"
+pruefe "nichts daneben" test "$(ls voll)" = "$(printf 'NETZ.pdf\nNETZ.svg\nZRW.DXF\nZRW.PLT')"
 erwarte 0 "doppelter Maßstab" --export plt --massstab 12500 --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
 erwarte 0 "doppelte Auflösung" --export plt --dpi 1200 --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
 pruefe "dasselbe in Punkten" cmp -s aus2/ZRW.PLT aus3/ZRW.PLT
 rm -f aus2/ZRW.PLT aus3/ZRW.PLT
+erwarte 0 "Vektorbilder" --export svg,pdf --quer --papier=a3 --groesse 500x400 --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
+pruefe "SVG" grep -q '<svg .* width="500" height="400"' aus2/NETZ.svg
+pruefe "PDF" grep -qaF '/MediaBox[0 0 1190.5512 841.8898 ]' aus2/NETZ.pdf
+erwarte 0 "Bild nach Druck" --export svg,pdf,svg --groesse 500x400 --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "der Druck hinterlässt nichts" cmp -s aus2/NETZ.svg aus3/NETZ.svg
+for dpi in 1 100000; do
+    erwarte 0 "$dpi dpi" --export pdf --dpi $dpi --ein legende,tk25,kmq --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+done
+rm -f aus2/NETZ.svg aus2/NETZ.pdf aus3/NETZ.svg aus3/NETZ.pdf
 
 # einzeilig BESCHREIBUNG TEXTTEIL: one German line on standard error, and nothing written.
 rm -rf leer && mkdir leer
@@ -123,7 +132,8 @@ pruefe "Rest geschrieben" test "$(stat -c %s aus/punkte.ZRW)" -eq $((84 + 41 + 5
 
 for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groesse 5x5 x" "--groesse 99999x800 x" \
     "--ein nichts x" "--export dxf --massstab 0 x" "--export dxf --massstab 1:500 x" "--export plt --dpi 0 x" \
-    "--export plt --dpi 1.5 x" "--export zrw a b" "--groesse 800x600 x"; do
+    "--export plt --dpi 1.5 x" "--export pdf --papier A5 x" "--export pdf --papier" "--export pdf --quer=1 x" \
+    "--export zrw a b" "--groesse 800x600 x"; do
     # shellcheck disable=SC2086
     erwarte 2 "falscher Aufruf $falsch" $falsch
     pruefe "$falsch: eine Zeile" test "$(wc -l <stderr)" -eq 1

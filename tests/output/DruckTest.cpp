@@ -75,7 +75,8 @@ TEST_F(Druck, LegendeStehtImSelbenEckUndBehaeltDenMassstab) {
     const auto rahmen = std::find_if(blatt.zeilen.begin(), blatt.zeilen.end(),
                                      [](const std::string& z) { return z.starts_with("Rechteck"); });
     ASSERT_NE(rahmen, blatt.zeilen.end());
-    EXPECT_TRUE(rahmen->starts_with("Rechteck 10 10")) << *rahmen << ": (2, 2) px are (12, 12) dots";
+    // (2, 2) px are (12, 12) dots, the frame's two px 12, its least width of 150 px 938; 8 lines of 12 dots.
+    EXPECT_EQ(*rahmen, "Rechteck 0 0 950 108");
     EXPECT_EQ(n.l.Legend->Masstab, "25000");
     EXPECT_EQ(n.l.Legend->Position(), (Bildpunkt{2, 2}));
 }

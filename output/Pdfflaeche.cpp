@@ -1,0 +1,413 @@
+#include "output/Pdfflaeche.h"
+
+#include <algorithm>
+
+#include "model/Cp1252.h"
+#include "output/Helvetica.h"
+
+namespace zrw {
+namespace {
+
+constexpr double kPunkteJeZoll = 72.0;
+constexpr double kPunkteJeMillimeter = kPunkteJeZoll / kMillimeterJeZoll;
+constexpr int kMatrixstellen = 10;  ///< a hundred thousandth of a point across the largest paper
+constexpr int kStellen = 3;         ///< of lengths in dots and of parts of a colour
+constexpr int kPunktstellen = 4;    ///< of lengths in points
+
+// Objects that every document has.
+constexpr std::size_t kKatalog = 1;
+constexpr std::size_t kSeitenbaum = 2;
+constexpr std::size_t kBetriebsmittel = 3;
+constexpr std::size_t kSchriftobjekt = 4;
+constexpr std::size_t kAngaben = 5;
+
+/// Distance of the control points of a quarter circle of radius 1: within 0.03 % of the circle.
+constexpr double kViertelkreis = 0.5522847498;
+
+std::string Aufgefuellt(std::uint64_t zahl, std::size_t stellen) {
+    const std::string text = std::to_string(zahl);
+    return std::string(stellen - std::min(stellen, text.size()), '0') + text;
+}
+
+/// A text in code page 1252 as one of UTF-16, which viewers take for every character: "<FEFF004E>".
+std::string Unicodetext(std::string_view text) {
+    constexpr std::string_view kZiffern = "0123456789ABCDEF";
+    std::string hex = "<FEFF";
+    for (const char& z : text) {
+        if (IstSteuerzeichen(z)) continue;
+        std::uint32_t zeichen = 0;
+        const std::string utf8 = Cp1252NachUtf8({&z, 1});
+        for (const char c : utf8) {
+            const auto b = static_cast<unsigned char>(c);
+            // The first byte of two carries five bits, that of three carries four.
+            const std::uint32_t anteil = b < 0x80   ? b
+                                         : b < 0xC0 ? b & 0x3FU
+                                         : b < 0xE0 ? b & 0x1FU
+                                                    : b & 0xFU;
+            zeichen = zeichen << 6U | anteil;
+        }
+        for (const unsigned schub : {12U, 8U, 4U, 0U})
+            hex += kZiffern[zeichen >> schub & 15U];
+    }
+    return hex + ">";
+}
+
+/// "21.11.2026 09:05:00" as "(D:20261121090500)"; empty for anything else.
+std::string Datumtext(const std::string& text) {
+    constexpr std::string_view kMuster = "00.00.0000 00:00:00";
+    if (text.size() != kMuster.size()) return {};
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (kMuster[i] == '0' ? c < '0' || c > '9' : c != kMuster[i]) return {};
+    }
+    std::string datum = "(D:" + text.substr(6, 4) + text.substr(3, 2) + text.substr(0, 2);
+    for (const std::size_t stelle : {std::size_t{11}, std::size_t{14}, std::size_t{17}})
+        datum += text.substr(stelle, 2);
+    return datum + ")";
+}
+
+}  // namespace
+
+Pdfflaeche::Pdfflaeche(std::unique_ptr<Dateischreiber> datei, const Papier& papier, double aufloesung,
+                       const Pdfangaben& angaben)
+    : Vektorflaeche(std::move(datei), Bedruckbar(papier, aufloesung),
+                    kStrichbreite / kMillimeterJeZoll * aufloesung),
+      papier_(papier) {
+    // The second line tells programs that move files that this one is not plain text.
+    Schreibe("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n");
+    orte_.resize(kAngaben);
+    BeginneObjekt(kSchriftobjekt);
+    Schreibe("<</Type/Font/Subtype/Type1/BaseFont/Helvetica/Encoding/WinAnsiEncoding>>\n");
+    BeendeObjekt();
+    SchreibeAngaben(angaben);
+    BeginneSeite();
+}
+
+// --- Objects ----------------------------------------------------------------------------------------------
+
+Pdfflaeche::Objekt Pdfflaeche::NeuesObjekt() {
+    orte_.push_back(0);
+    return orte_.size();
+}
+
+void Pdfflaeche::BeginneObjekt(Objekt objekt) {
+    orte_[objekt - 1] = Geschrieben();
+    Schreibe(static_cast<std::int64_t>(objekt));
+    Schreibe(" 0 obj\n");
+}
+
+void Pdfflaeche::Verweis(std::string_view vor, Objekt objekt) {
+    Schreibe(vor);
+    Schreibe(" ");
+    Schreibe(static_cast<std::int64_t>(objekt));
+    Schreibe(" 0 R");
+}
+
+void Pdfflaeche::SchreibeAngaben(const Pdfangaben& angaben) {
+    BeginneObjekt(kAngaben);
+    Schreibe("<</Title");
+    Schreibe(Unicodetext(angaben.titel));
+    Schreibe("/Creator(Zarwik)");
+    if (angaben.uhr != nullptr) {
+        const std::string datum = Datumtext(angaben.uhr->DatumZeit());
+        if (!datum.empty()) Schreibe("/CreationDate" + datum);
+    }
+    Schreibe(">>\n");
+    BeendeObjekt();
+}
+
+void Pdfflaeche::SchreibeEbenen() {
+    for (std::size_t i = 0; i < ebenen_.size(); ++i) {
+        if (ebenen_[i] == 0) continue;
+        BeginneObjekt(ebenen_[i]);
+        Schreibe("<</Type/OCG/Name(");
+        Schreibe(kEbenennamen[i]);
+        Schreibe(")>>\n");
+        BeendeObjekt();
+    }
+}
+
+void Pdfflaeche::SchreibeBetriebsmittel() {
+    BeginneObjekt(kBetriebsmittel);
+    Verweis("<</ProcSet[/PDF/Text]/Font<</F", kSchriftobjekt);
+    Schreibe(">>/Properties<<");
+    for (std::size_t i = 0; i < ebenen_.size(); ++i) {
+        if (ebenen_[i] == 0) continue;
+        Schreibe("/");
+        Verweis(kEbenennamen[i], ebenen_[i]);
+    }
+    Schreibe(">>>>\n");
+    BeendeObjekt();
+}
+
+void Pdfflaeche::SchreibeVerzeichnis() {
+    BeginneObjekt(kSeitenbaum);
+    Schreibe("<</Type/Pages/Count ");
+    Schreibe(static_cast<std::int64_t>(seiten_.size()));
+    Schreibe("/Kids[");
+    for (const Objekt s : seiten_)
+        Verweis("", s);
+    Schreibe("]>>\n");
+    BeendeObjekt();
+    const auto alleEbenen = [this] {
+        Schreibe("[");
+        for (const Objekt e : ebenen_) {
+            if (e != 0) Verweis("", e);
+        }
+        Schreibe("]");
+    };
+    BeginneObjekt(kKatalog);
+    Verweis("<</Type/Catalog/Pages", kSeitenbaum);
+    Schreibe("/OCProperties<</OCGs");
+    alleEbenen();
+    Schreibe("/D<</Order");
+    alleEbenen();
+    Schreibe(">>>>/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>\n");
+    BeendeObjekt();
+}
+
+void Pdfflaeche::Beende() {
+    BeendeSeite();
+    SchreibeEbenen();
+    SchreibeBetriebsmittel();
+    SchreibeVerzeichnis();
+    const std::uint64_t tafel = Geschrieben();
+    Schreibe("xref\n0 ");
+    Schreibe(static_cast<std::int64_t>(orte_.size() + 1));
+    Schreibe("\n0000000000 65535 f \n");
+    for (const std::uint64_t ort : orte_) {
+        Schreibe(Aufgefuellt(ort, 10));
+        Schreibe(" 00000 n \n");
+    }
+    Schreibe("trailer\n<</Size ");
+    Schreibe(static_cast<std::int64_t>(orte_.size() + 1));
+    Verweis("/Root", kKatalog);
+    Verweis("/Info", kAngaben);
+    Schreibe(">>\nstartxref\n");
+    Schreibe(static_cast<std::int64_t>(tafel));
+    Schreibe("\n%%EOF\n");
+    UebernimmDatei();
+}
+
+// --- Pages ------------------------------------------------------------------------------------------------
+
+void Pdfflaeche::BeginneSeite() {
+    const Objekt seite = NeuesObjekt();
+    const Objekt strom = NeuesObjekt();
+    laengenobjekt_ = NeuesObjekt();
+    seiten_.push_back(seite);
+    BeginneObjekt(seite);
+    Verweis("<</Type/Page/Parent", kSeitenbaum);
+    Schreibe("/MediaBox[0 0 ");
+    Paar(papier_.weite * kPunkteJeMillimeter, papier_.hoehe * kPunkteJeMillimeter);
+    Verweis("]/Resources", kBetriebsmittel);
+    Verweis("/Contents", strom);
+    Schreibe(">>\n");
+    BeendeObjekt();
+    BeginneObjekt(strom);
+    Verweis("<</Length", laengenobjekt_);
+    Schreibe(">>\nstream\n");
+    stromanfang_ = Geschrieben();
+
+    const double punkte = kPunkteJeZoll / Seite().aufloesung;
+    Schreibe(punkte, kMatrixstellen);
+    Schreibe(" 0 0 ");
+    Schreibe(-punkte, kMatrixstellen);
+    Schreibe(" ");
+    Paar(kPapierrand * kPunkteJeMillimeter, (papier_.hoehe - kPapierrand) * kPunkteJeMillimeter);
+    Schreibe("cm\n");
+    // A line along the edge keeps its width.
+    Paar(-Strich(), -Strich());
+    Paar(Seite().weite + 2 * Strich(), Seite().hoehe + 2 * Strich());
+    Schreibe("re W n\n1 j\n");
+    stift_.reset();
+    fuellung_.reset();
+}
+
+void Pdfflaeche::BeendeSeite() {
+    SchliesseEbene();
+    const std::uint64_t laenge = Geschrieben() - stromanfang_;
+    Schreibe("\nendstream\n");
+    BeendeObjekt();
+    BeginneObjekt(laengenobjekt_);
+    Schreibe(static_cast<std::int64_t>(laenge));
+    Schreibe("\n");
+    BeendeObjekt();
+}
+
+void Pdfflaeche::NeueSeite() {
+    BeendeSeite();
+    BeginneSeite();
+}
+
+void Pdfflaeche::EbeneGewechselt(Ebene /*ebene*/) {
+    SchliesseEbene();
+}
+
+void Pdfflaeche::SchliesseEbene() {
+    SchliessePfad();
+    if (offeneEbene_) Schreibe("EMC\n");
+    offeneEbene_ = false;
+}
+
+/// Layers begin with their first figure: those on which nothing is drawn are no layers of the document.
+void Pdfflaeche::BeginneForm() {
+    SchliessePfad();
+    const Ebene ebene = AktuelleEbene();
+    if (offeneEbene_ || ebene == Ebene::Grund) return;
+    offeneEbene_ = true;
+    Objekt& objekt = ebenen_[static_cast<std::size_t>(ebene)];
+    if (objekt == 0) objekt = NeuesObjekt();
+    Schreibe("/OC/");
+    Schreibe(Ebenenname(ebene));
+    Schreibe(" BDC\n");
+}
+
+// --- Pens and shapes --------------------------------------------------------------------------------------
+
+void Pdfflaeche::Paar(double x, double y) {
+    Schreibe(x, kPunktstellen);
+    Schreibe(" ");
+    Schreibe(y, kPunktstellen);
+    Schreibe(" ");
+}
+
+void Pdfflaeche::Farbbefehl(Farbe farbe, std::string_view befehl) {
+    for (const std::uint8_t teil : {Rotanteil(farbe), Gruenanteil(farbe), Blauanteil(farbe)}) {
+        Schreibe(teil / 255.0, kStellen);
+        Schreibe(" ");
+    }
+    Schreibe(befehl);
+    Schreibe("\n");
+}
+
+void Pdfflaeche::WendeStiftAn() {
+    const Stift& neu = AktuellerStift();
+    if (stift_ == neu) return;
+    if (!stift_ || stift_->farbe != neu.farbe) Farbbefehl(neu.farbe, "RG");
+    const double breite = neu.breite * Strich();
+    if (!stift_ || stift_->breite != neu.breite) {
+        Schreibe(breite, kStellen);
+        Schreibe(" w\n");
+    }
+    // Round ends show lines of no length; dashes have blunt ends, or the gaps would close.
+    if (neu.art == Strichart::Voll) {
+        Schreibe("1 J[]0 d\n");
+    } else {
+        Schreibe("0 J[");
+        Schreibe(kStrichlaenge * breite, kStellen);
+        Schreibe(" ");
+        Schreibe(kStrichluecke * breite, kStellen);
+        Schreibe("]0 d\n");
+    }
+    stift_ = neu;
+}
+
+void Pdfflaeche::WendeFuellungAn(Farbe farbe) {
+    if (fuellung_ == farbe) return;
+    Farbbefehl(farbe, "rg");
+    fuellung_ = farbe;
+}
+
+void Pdfflaeche::SchliessePfad() {
+    if (!pfad_) return;
+    Schreibe("S\n");
+    pfad_ = false;
+}
+
+void Pdfflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    if (!Sieht(von, nach)) return;
+    if (!pfad_ || stift_ != AktuellerStift() || pfadlinien_ == kLinienJePfad) {
+        BeginneForm();
+        WendeStiftAn();
+        pfad_ = true;
+        pfadlinien_ = 0;
+    }
+    // Dashes begin anew with every line, so only solid ones go on where the last one ended.
+    const bool weiter = pfadlinien_ > 0 && stift_->art == Strichart::Voll && pfadende_ == von;
+    if (!weiter) {
+        Paar(von.x, von.y);
+        Schreibe("m ");
+    }
+    Paar(nach.x, nach.y);
+    Schreibe("l\n");
+    pfadende_ = nach;
+    ++pfadlinien_;
+}
+
+void Pdfflaeche::BeginneUmriss() {
+    BeginneForm();
+    WendeStiftAn();
+    if (!AktuellerPinsel().leer) WendeFuellungAn(AktuellerPinsel().farbe);
+}
+
+void Pdfflaeche::BeendeUmriss() {
+    Schreibe(AktuellerPinsel().leer ? "s\n" : "b\n");
+}
+
+void Pdfflaeche::ZeichneRechteck(const Rechteck& r) {
+    const std::array<Flaechenpunkt, 4> ecken{
+        {{r.links, r.oben}, {r.rechts, r.oben}, {r.rechts, r.unten}, {r.links, r.unten}}};
+    Vieleck(ecken);
+}
+
+void Pdfflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    if (ecken.empty() || !Sieht(Umschrieben(ecken))) return;
+    BeginneUmriss();
+    for (const Flaechenpunkt& e : ecken) {
+        Paar(e.x, e.y);
+        Schreibe(&e == ecken.data() ? "m " : "l ");
+    }
+    BeendeUmriss();
+}
+
+void Pdfflaeche::Ellipse(const Rechteck& u) {
+    if (!Sieht(u)) return;
+    const auto [mx, my, a, b] = Mass(u);
+    BeginneUmriss();
+    Paar(mx + a, my);
+    Schreibe("m ");
+    // A quarter turn after the other: (c, s) is where it begins, (-s, c) where it ends.
+    double c = 1.0;
+    double s = 0.0;
+    for (int viertel = 0; viertel < 4; ++viertel) {
+        Paar(mx + a * (c - kViertelkreis * s), my + b * (s + kViertelkreis * c));
+        Paar(mx + a * (kViertelkreis * c - s), my + b * (kViertelkreis * s + c));
+        Paar(mx - a * s, my + b * c);
+        Schreibe("c ");
+        const double alt = c;
+        c = -s;
+        s = alt;
+    }
+    BeendeUmriss();
+}
+
+void Pdfflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+    const Rechteck g = Geschnitten(r);
+    if (g.links > g.rechts || g.oben > g.unten) return;
+    BeginneForm();
+    WendeFuellungAn(farbe);
+    Paar(g.links, g.oben);
+    Paar(g.rechts - g.links + 1.0, g.unten - g.oben + 1.0);
+    Schreibe("re f\n");
+}
+
+void Pdfflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    if (!SiehtText(ort, text)) return;
+    BeginneForm();
+    WendeFuellungAn(farbe);
+    // Upright although y points downwards here.
+    Schreibe("BT/F ");
+    Schreibe(Schrift(), kMatrixstellen);
+    Schreibe(" Tf 1 0 0 -1 ");
+    Paar(ort.x, ort.y + Grundlinie());
+    Schreibe("Tm(");
+    for (const char& c : text) {
+        if (IstSteuerzeichen(c)) continue;
+        if (c == '(' || c == ')' || c == '\\') Schreibe("\\");
+        Schreibe({&c, 1});
+    }
+    Schreibe(")Tj ET\n");
+}
+
+}  // namespace zrw

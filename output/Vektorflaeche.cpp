@@ -1,0 +1,96 @@
+#include "output/Vektorflaeche.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "model/Ganzzahl.h"
+#include "output/Helvetica.h"
+
+namespace zrw {
+namespace {
+
+constexpr double kPunkteJeZoll = 72.0;
+
+std::int32_t Ganze(double dots) {
+    return static_cast<std::int32_t>(RundeZuInt64(dots));
+}
+
+}  // namespace
+
+double Vektorflaeche::Schrift() const {
+    return kZeichenschrift * seite_.aufloesung / kBildaufloesung;
+}
+
+std::int32_t Vektorflaeche::Grundlinie() const {
+    return Ganze(kSchriftanstieg * Schrift());
+}
+
+std::int32_t Vektorflaeche::Textbreite(std::string_view text) const {
+    return Ganze(Helveticabreite(text) * Schrift());
+}
+
+std::int32_t Vektorflaeche::Texthoehe() const {
+    return Grundlinie() + Ganze(kSchriftabstieg * Schrift());
+}
+
+/// Of the font as it would be on a screen with such dots: indents follow it, and they grow with the dots.
+std::int32_t Vektorflaeche::Schriftgrad() const {
+    return static_cast<std::int32_t>(Schrifthoehe() * kPunkteJeZoll / kBildaufloesung);
+}
+
+std::int32_t Vektorflaeche::Schrifthoehe() const {
+    return std::max(1, Ganze(Schrift()));
+}
+
+void Vektorflaeche::Schreibe(std::int64_t zahl) {
+    std::array<char, 20> ziffern{};  // the lower end of 64 bits with its sign
+    const char* ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), zahl).ptr;
+    Schreibe(std::string_view(ziffern.data(), static_cast<std::size_t>(ende - ziffern.data())));
+}
+
+void Vektorflaeche::Schreibe(double wert, int stellen) {
+    std::array<char, 48> ziffern{};
+    const char* ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert,
+                                     std::chars_format::fixed, stellen)
+                           .ptr;
+    std::string_view text(ziffern.data(), static_cast<std::size_t>(ende - ziffern.data()));
+    text.remove_suffix(text.size() - 1 - text.find_last_not_of('0'));
+    if (text.ends_with('.')) text.remove_suffix(1);
+    Schreibe(text == "-0" ? std::string_view("0") : text);
+}
+
+bool Vektorflaeche::Sieht(const Rechteck& r) const {
+    const std::int64_t rand = RundeZuInt64(std::ceil(AktuellerStift().breite * strich_));
+    const Rechteck s = Sichtbar();
+    return r.links <= s.rechts + rand && r.rechts >= s.links - rand && r.oben <= s.unten + rand &&
+           r.unten >= s.oben - rand;
+}
+
+bool Vektorflaeche::Sieht(Flaechenpunkt von, Flaechenpunkt nach) const {
+    return Sieht(Rechteck{std::min(von.x, nach.x), std::min(von.y, nach.y), std::max(von.x, nach.x),
+                          std::max(von.y, nach.y)});
+}
+
+bool Vektorflaeche::SiehtText(Flaechenpunkt ort, std::string_view text) const {
+    const Rechteck s = Sichtbar();
+    return ort.x <= s.rechts && std::int64_t{ort.x} + Textbreite(text) >= s.links && ort.y <= s.unten &&
+           std::int64_t{ort.y} + Texthoehe() >= s.oben;
+}
+
+Rechteck Vektorflaeche::Umschrieben(std::span<const Flaechenpunkt> ecken) {
+    Rechteck r{ecken[0].x, ecken[0].y, ecken[0].x, ecken[0].y};
+    for (const Flaechenpunkt& e : ecken) {
+        r = {std::min(r.links, e.x), std::min(r.oben, e.y), std::max(r.rechts, e.x), std::max(r.unten, e.y)};
+    }
+    return r;
+}
+
+Rechteck Vektorflaeche::Geschnitten(const Rechteck& r) const {
+    const Rechteck s = Sichtbar();
+    return {std::max(r.links, s.links), std::max(r.oben, s.oben), std::min(r.rechts, s.rechts),
+            std::min(r.unten, s.unten)};
+}
+
+}  // namespace zrw

@@ -1,0 +1,98 @@
+// What surfaces that write a vector file have in common: the size of the sheet, the measures of their font,
+// and what of a drawing touches the sheet at all. Knows no file format.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <utility>
+
+#include "output/Druck.h"
+#include "output/Textausgabe.h"
+#include "output/Zeichenflaeche.h"
+
+namespace zrw {
+
+class Vektorflaeche : public Zeichenflaeche {
+  public:
+    Vektorflaeche(const Vektorflaeche&) = delete;
+    Vektorflaeche& operator=(const Vektorflaeche&) = delete;
+
+    [[nodiscard]] Rechteck Sichtbar() const override { return {0, 0, seite_.weite - 1, seite_.hoehe - 1}; }
+    [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override;
+    [[nodiscard]] std::int32_t Texthoehe() const override;
+    [[nodiscard]] std::int32_t Schriftgrad() const override;
+    [[nodiscard]] std::int32_t Schrifthoehe() const override;
+
+  protected:
+    /// @param strich width of a pen of width 1 [dots]
+    Vektorflaeche(std::unique_ptr<Dateischreiber> datei, const Druckseite& seite, double strich)
+        : seite_(seite), strich_(strich), datei_(std::move(datei)) {}
+    ~Vektorflaeche() override = default;
+
+    // The file. All of these throw a Fehler where it cannot be written.
+    void Schreibe(std::string_view text) {
+        geschrieben_ += text.size();
+        datei_.Nimm(text);
+    }
+    void Schreibe(std::int64_t zahl);
+    /// Fixed-point, as short as `stellen` decimals allow: "0.5", "12", never with an exponent.
+    /// @param wert at most 1e15 in amount @param stellen 1 to 15
+    void Schreibe(double wert, int stellen);
+    [[nodiscard]] std::uint64_t Geschrieben() const { return geschrieben_; }
+    void UebernimmDatei() {
+        datei_.Sichere();
+        datei_.Uebernimm();
+    }
+
+    // Whether a shape can be seen on the sheet. Pens reach a little further than their line.
+    [[nodiscard]] bool Sieht(const Rechteck& r) const;
+    [[nodiscard]] bool Sieht(Flaechenpunkt von, Flaechenpunkt nach) const;
+    [[nodiscard]] bool SiehtText(Flaechenpunkt ort, std::string_view text) const;
+    /// The rectangle round some corners.
+    [[nodiscard]] static Rechteck Umschrieben(std::span<const Flaechenpunkt> ecken);
+    /// A rectangle cut to the sheet and its edges: sizes from a file may be anything.
+    [[nodiscard]] Rechteck Geschnitten(const Rechteck& r) const;
+
+    /// An ellipse by its centre and half axes [dots].
+    struct Ellipsenmass {
+        double mx, my, a, b;
+    };
+    [[nodiscard]] static Ellipsenmass Mass(const Rechteck& u) {
+        return {0.5 * u.links + 0.5 * u.rechts, 0.5 * u.oben + 0.5 * u.unten, 0.5 * u.rechts - 0.5 * u.links,
+                0.5 * u.unten - 0.5 * u.oben};
+    }
+
+    [[nodiscard]] const Druckseite& Seite() const { return seite_; }
+    [[nodiscard]] double Strich() const { return strich_; }
+    [[nodiscard]] double Schrift() const;           ///< size of the font [dots]
+    [[nodiscard]] std::int32_t Grundlinie() const;  ///< below the top of a line of text [dots]
+
+  private:
+    Druckseite seite_;
+    double strich_;
+    std::uint64_t geschrieben_ = 0;
+    Textausgabe datei_;
+};
+
+// Parts of a colour.
+[[nodiscard]] constexpr std::uint8_t Rotanteil(Farbe f) {
+    return static_cast<std::uint8_t>(f.wert & 0xFFU);
+}
+[[nodiscard]] constexpr std::uint8_t Gruenanteil(Farbe f) {
+    return static_cast<std::uint8_t>(f.wert >> 8U & 0xFFU);
+}
+[[nodiscard]] constexpr std::uint8_t Blauanteil(Farbe f) {
+    return static_cast<std::uint8_t>(f.wert >> 16U & 0xFFU);
+}
+
+/// Lengths of dash and gap of dashed lines, in widths of their pen, as the screen draws them.
+inline constexpr double kStrichlaenge = 4.0;
+inline constexpr double kStrichluecke = 2.0;
+
+/// Lines of one pen that are written as one path. More in a row begin another: viewers are slow with long
+/// ones.
+inline constexpr int kLinienJePfad = 500;
+
+}  // namespace zrw

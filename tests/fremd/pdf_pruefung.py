@@ -1,0 +1,105 @@
+"""Sheets of the plot: paper, labels in their places, lines from end to end. Where a point lies is taken from the
+control file itself, only the top-left corner of the view from the picture file."""
+import math
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+import zrwdatei as z
+
+ZOLL, RAND, SCHRIFT = 25.4, 10.0, 8.25       # [mm], [mm], [pt]
+PT, PIXEL = ZOLL / 72, ZOLL / 96             # [mm]
+ANSTIEG, ABSTIEG = 0.905, 0.207              # top to baseline; baseline to the box's bottom in poppler [em]
+PAPIER = {"A4": (210, 297), "A3": (297, 420), "A2": (420, 594), "A1": (594, 841), "A0": (841, 1189)}
+DPI = 900                                    # of the picture: the gaps of dashes are 10 pixels long
+fehler = []
+
+
+def rufe(*worte):
+    """What a program prints. It must be content with the file."""
+    lauf = subprocess.run(worte, capture_output=True, encoding="utf-8")
+    if lauf.returncode or lauf.stderr:
+        fehler.append(f"{' '.join(worte)}: Status {lauf.returncode}: {lauf.stderr[:300]}")
+    return lauf.stdout
+
+
+def lies_punkte(datei):
+    """Easting and northing [m] by number: the point blocks of a control file, and of the file that it names."""
+    punkte, ursprung, block = {}, {"XO": 0.0, "YO": 0.0}, False
+    for zeile in Path(datei).read_text("cp1252").splitlines():
+        schluessel = zeile[1:3] if zeile[:1] == "$" else ""
+        if schluessel in ursprung:
+            ursprung[schluessel] = float(zeile[3:])
+        elif schluessel == "KF":
+            punkte |= lies_punkte(Path(datei).parent / zeile[3:].strip())
+        block = schluessel in ("FP", "FL", "FH", "NP") if schluessel else block
+        if block:
+            rechts, hoch = map(float, zeile[21:].split()[:2])
+            punkte[zeile[4:18].strip()] = (rechts + ursprung["YO"], hoch + ursprung["XO"])
+    return punkte
+
+
+def pruefe_nummern(ordner, punkte, bild, massstab, weite, hoehe):
+    """Every label that stands alone is found in its place, to 0.1 mm, and none that lies beyond the sheet."""
+    orte = {}
+    for nummer, (rechts, hoch) in punkte.items():
+        x, y = ((rechts - bild.links) * 1000 / massstab, (bild.oben - hoch) * 1000 / massstab)
+        orte[nummer] = (RAND + x + 10 * PIXEL, RAND + y - 5 * PIXEL + ANSTIEG * SCHRIFT * PT)
+    worte = {}
+    for wort in re.finditer(r'<word xMin="([\d.]+)" yMin="[\d.]+" xMax="([\d.]+)" yMax="([\d.]+)">(.*?)</word>',
+                            rufe("pdftotext", "-bbox", f"{ordner}/NETZ.pdf", "-")):
+        worte.setdefault(wort[4], []).append((float(wort[1]) * PT, (float(wort[3]) - ABSTIEG * SCHRIFT) * PT))
+    geprueft = 0
+    for nummer, (x, y) in orte.items():
+        if not (RAND < x < weite - RAND - 40 and RAND + 4 < y < hoehe - RAND - 4):
+            if x > weite - RAND + 1 or y > hoehe - RAND + 5:
+                fehler.extend(f"{ordner}: {nummer} liegt neben dem Blatt" for _ in worte.get(nummer, []))
+            continue
+        if any(abs(a - x) < 35 and abs(b - y) < 4 for n, (a, b) in orte.items() if n != nummer):
+            continue
+        geprueft += 1
+        if not any(math.dist(w, (x, y)) < 0.1 for w in worte.get(nummer, [])):
+            fehler.append(f"{ordner}: {nummer} fehlt bei {x:.2f} {y:.2f} mm: {worte.get(nummer)}")
+    return geprueft, worte
+
+
+def pruefe_linien(ordner, bild, massstab, mindestens):
+    rufe("pdftoppm", "-r", str(DPI), "-mono", "-singlefile", f"{ordner}/NETZ.pdf", f"{ordner}/blatt")
+    raster = z.Raster.aus_pbm(f"{ordner}/blatt.pbm")
+
+    def ort(x, y):
+        return tuple((RAND + v * 1000 / massstab) / ZOLL * DPI for v in (x - bild.links, bild.oben - y))
+    fehler.extend(f"{ordner}: {f}" for f in z.pruefe_linien(bild, raster, ort, DPI / 96, mindestens, 0.95))
+
+
+def main(beispiel):
+    punkte = lies_punkte(beispiel)
+    if not 160 < len(punkte) < 200 or "KÜHBG" not in punkte:
+        sys.exit(f"{len(punkte)} Punkte in der Steuerdatei")
+    # folder, paper, on its long side, scale denominator, labels that stand alone, lines
+    for ordner, papier, quer, massstab, allein, linien in (
+            ("a0", "A0", True, 50000, 100, 0), ("a4", "A4", False, 50000, 1, 0), ("quer", "A4", True, 200000, 10, 180)):
+        weite, hoehe = PAPIER[papier][::-1 if quer else 1]
+        seite = re.search(r"Page size: +([\d.]+) x ([\d.]+)", rufe("pdfinfo", f"{ordner}/NETZ.pdf"))
+        if math.dist((weite, hoehe), [float(v) * PT for v in seite.groups()]) > 0.02:
+            fehler.append(f"{ordner}: Seite {seite[0]}")
+        bild = z.Bild(f"{ordner}/NETZ.ZRW")
+        geprueft, worte = pruefe_nummern(ordner, punkte, bild, massstab, weite, hoehe)
+        print(f"{ordner}: {geprueft} Nummern am Platz")
+        if geprueft < allein:
+            fehler.append(f"{ordner}: nur {geprueft} Nummern geprüft")
+        if linien:
+            pruefe_linien(ordner, bild, massstab, linien)
+        fehler.extend(f"{ordner}: {t} fehlt" for t in ("Maßstab", f"1:{massstab}", "Höhe") if t not in worte)
+        rufe("pdftocairo", "-svg", f"{ordner}/NETZ.pdf", f"{ordner}/blatt.svg")
+        ebenen = re.findall(rb"/Type/OCG/Name\((\w+)\)", Path(ordner, "NETZ.pdf").read_bytes())
+        if ebenen != [b"PUNKTE", b"PUNKTNR", b"BEOB", b"GITTER", b"LEGENDE"]:
+            fehler.append(f"{ordner}: Ebenen {ebenen}")
+    if not re.search(r"Title: +Netz Vogelsberg \(frei erfunden\)\n", rufe("pdfinfo", "a4/NETZ.pdf")):
+        fehler.append("Titel fehlt")
+    print(*fehler[:20], sep="\n")
+    return bool(fehler)
+
+
+sys.exit(main(sys.argv[1]))

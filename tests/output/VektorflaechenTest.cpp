@@ -1,0 +1,295 @@
+// The vector files: layers, lines, texts, what lies outside, and that a document's directory is exact.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <sstream>
+
+#include "model/Zahlentext.h"
+#include "output/Figurenzeichner.h"
+#include "output/Pdfflaeche.h"
+#include "output/Svgflaeche.h"
+#include "tests/hilfe/Festuhr.h"
+#include "tests/hilfe/Probenetz.h"
+#include "tests/hilfe/Speicherdateien.h"
+
+namespace zrw {
+namespace {
+
+using Zeichnung = std::function<void(Zeichenflaeche&)>;
+
+std::string Svg(const Zeichnung& zeichne, double aufloesung = kBildaufloesung, std::string_view titel = "T") {
+    Speicherdateien dateien;
+    Svgflaeche flaeche(dateien.Beginne("a"), {800, 600, aufloesung}, titel);
+    zeichne(flaeche);
+    EXPECT_TRUE(dateien.dateien.empty()) << "takes its place at the end";
+    flaeche.Beende();
+    return dateien.dateien["a"];
+}
+
+/// Paper of 800 by 600 dots within the margins.
+std::string Pdf(const Zeichnung& zeichne, const Pdfangaben& angaben = {"T", nullptr}) {
+    constexpr double kDot = kMillimeterJeZoll / 100;
+    Speicherdateien dateien;
+    Pdfflaeche flaeche(dateien.Beginne("a"), {20.001 + 800 * kDot, 20.001 + 600 * kDot}, 100, angaben);
+    zeichne(flaeche);
+    flaeche.Beende();
+    return dateien.dateien["a"];
+}
+
+bool Enthaelt(const std::string& datei, std::string_view teil) {
+    return datei.find(teil) != std::string::npos;
+}
+
+/// The texts between two others, wherever these stand.
+std::vector<std::string> Alle(const std::string& datei, const std::string& vor, const std::string& nach) {
+    std::vector<std::string> treffer;
+    for (std::size_t i = datei.find(vor); i != std::string::npos; i = datei.find(vor, i)) {
+        i += vor.size();
+        const std::size_t ende = datei.find(nach, i);
+        if (ende == std::string::npos) break;
+        treffer.push_back(datei.substr(i, ende - i));
+    }
+    return treffer;
+}
+
+/// The numbers of the first such text.
+std::vector<double> Zahlen(const std::string& datei, const std::string& vor, const std::string& nach) {
+    std::istringstream worte(Alle(datei, vor, nach).at(0));
+    std::vector<double> zahlen;
+    for (std::string wort; worte >> wort;)
+        zahlen.push_back(LiesReal(wort).value());
+    return zahlen;
+}
+
+std::size_t Ganzzahl(const std::string& text) {
+    return static_cast<std::size_t>(LiesGanz(text).value());
+}
+
+TEST(Vektorflaechen, JedeFigurStehtAufIhrerEbene) {
+    Probenetz n;
+    n.l.Weite = 800;
+    n.l.Hoehe = 600;
+    n.l.MaxYW = 1000;
+    n.P(1, 10, 990);
+    n.P(2, 250, 900);
+    n.T(1, "A");
+    n.K(1, 2);
+    n.l.WeltinBild();
+    n.l.ShowKMQ = n.l.ShowLegende = n.l.ShowLgRes = true;
+    const Festuhr uhr;
+    const Zeichnung zeichne = [&](Zeichenflaeche& f) {
+        Zeichenzustand zustand;
+        zustand.flaeche = &f;
+        const Netzangaben netz;
+        Figurenzeichner zeichner(zustand, n.e, netz, uhr);
+        n.l.ShowPicture(zeichner);
+        f.SetzeEbene(Ebene::Ergebnisse);  // nothing more is drawn there
+        n.l.DisplayPunkte(zeichner);
+    };
+    const std::vector<std::string> ebenen{"GITTER",  "BEOB",       "PUNKTE", "PUNKTNR",
+                                          "LEGENDE", "ERGEBNISSE", "PUNKTE"};
+    const std::string svg = Svg(zeichne);
+    EXPECT_EQ(Alle(svg, "\" class=\"", "\""), ebenen);
+    EXPECT_EQ(Alle(svg, "<g id", ">").size(), Alle(svg, "</g", ">").size());
+    EXPECT_TRUE(Enthaelt(svg, "id=\"PUNKTE_2\""));
+    EXPECT_FALSE(Enthaelt(svg, "ERGEBNISSE_2"));
+    const std::string pdf = Pdf(zeichne);
+    EXPECT_EQ(Alle(pdf, "/OC/", " BDC\n"), ebenen);
+    EXPECT_EQ(Alle(pdf, "EMC", "\n").size(), ebenen.size());
+    EXPECT_EQ(Alle(pdf, "/Type/OCG/Name(", ")").size(), 6U) << "one entry a layer";
+}
+
+TEST(Vektorflaechen, TexteSindZeichenUndNichtsBrichtAus) {
+    struct Fall {
+        std::string text, svg, pdf;
+    };
+    for (const Fall& f : {Fall{"K\xDCHBG \x80", "KÜHBG €", "K\xDCHBG \x80"},
+                          {"a<b>&\"c", "a&lt;b&gt;&amp;\"c", "a<b>&\"c"},
+                          {"(1)\\)", "(1)\\)", "\\(1\\)\\\\\\)"},
+                          {std::string("x\0\x1F\n\x7F\x81y", 7), "xy", "xy"},
+                          {" 2  3 ", " 2  3 ", " 2  3 "}}) {
+        const Zeichnung zeichne = [&](Zeichenflaeche& z) {
+            z.SetzeEbene(Ebene::Punktnummern);
+            z.Text({20, 30}, f.text, Farbe{0x0080FF});
+        };
+        EXPECT_TRUE(Enthaelt(Svg(zeichne, kBildaufloesung, f.text),
+                             "<text x=\"20\" y=\"40\" fill=\"#ff8000\">" + f.svg + "</text>"));
+        EXPECT_TRUE(
+            Enthaelt(Svg({[](Zeichenflaeche&) {}}, kBildaufloesung, f.text), "<title>" + f.svg + "</title>"));
+        EXPECT_TRUE(Enthaelt(Pdf(zeichne),
+                             "1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"));
+    }
+    const Festuhr uhr;
+    EXPECT_TRUE(Enthaelt(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr}),
+                         "<</Title<FEFF00C420AC>/Creator(Zarwik)/CreationDate(D:20261121090500)>>"));
+}
+
+TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
+    const Zeichnung zeichne = [](Zeichenflaeche& f) {
+        f.SetzeStift({kSchwarz, 2, Strichart::Voll});
+        f.Linie({0, 0}, {10, 0});
+        f.Linie({10, 0}, {10, 5});
+        f.Linie({1, 2}, {3, 4});
+        f.SetzeStift({kSchwarz, 1, Strichart::Gestrichelt});
+        f.Linie({3, 4}, {9, 9});
+        f.Linie({9, 9}, {8, 8});
+        f.SetzeStift({kSchwarz, 1, Strichart::Voll});
+        for (int i = 0; i < kLinienJePfad + 1; ++i)
+            f.Linie({i, 7}, {i + 1, 7});
+    };
+    const std::string svg = Svg(zeichne);
+    EXPECT_TRUE(Enthaelt(svg, "<path stroke=\"#000000\" stroke-width=\"2\" d=\"M0 0L10 0L10 5M1 2L3 4\"/>"));
+    EXPECT_TRUE(Enthaelt(svg,
+                         "<path stroke=\"#000000\" stroke-linecap=\"butt\" stroke-dasharray=\"4 2\" "
+                         "d=\"M3 4L9 9M9 9L8 8\"/>"));
+    EXPECT_TRUE(Enthaelt(svg, "<path stroke=\"#000000\" d=\"M500 7L501 7\"/>"));
+    // 0.15 mm of 100 dots to the inch are 0.591 dots.
+    const std::string pdf = Pdf(zeichne);
+    EXPECT_TRUE(Enthaelt(pdf, "1.181 w\n1 J[]0 d\n0 0 m 10 0 l\n10 5 l\n1 2 m 3 4 l\nS\n"));
+    EXPECT_TRUE(Enthaelt(pdf, "0.591 w\n0 J[2.362 1.181]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n"));
+    EXPECT_TRUE(Enthaelt(pdf, "S\n500 7 m 501 7 l\nS\n"));
+}
+
+TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
+    const Zeichnung innen = [](Zeichenflaeche& f) {
+        f.Linie({-50, 100}, {50, 100});
+        f.Ellipse({790, 590, 810, 610});
+        f.Text({-5, -5}, "WWW", kSchwarz);
+        f.Fuelle({-2000000000, -5, 2000000000, 10}, kSchwarz);
+    };
+    const Zeichnung aussen = [](Zeichenflaeche& f) {
+        f.SetzeEbene(Ebene::Punkte);
+        f.Linie({-50, 100}, {-10, 500});
+        f.Linie({2147483647, 0}, {2147483647, 2147483647});
+        f.Ellipse({810, 100, 830, 120});
+        f.ZeichneRechteck({-90, -90, -10, -10});
+        f.Vieleck(std::array<Flaechenpunkt, 3>{{{5, 610}, {9, 610}, {9, 620}}});
+        f.Text({-60, 100}, "WWW", kSchwarz);
+        f.Text({801, 100}, "WWW", kSchwarz);
+        f.Text({2147483647, 2147483647}, "WWW", kSchwarz);
+        f.Fuelle({900, 0, 2000000000, 10}, kSchwarz);
+    };
+    const std::string svg = Svg(innen);
+    for (const char* teil : {"M-50 100L50 100", "<ellipse cx=\"800\" cy=\"600\" rx=\"10\" ry=\"10\"", ">WWW<",
+                             "<rect x=\"-0.5\" y=\"-0.5\" width=\"800\" height=\"11\" fill"}) {
+        EXPECT_TRUE(Enthaelt(svg, teil)) << teil;
+    }
+    const std::string pdf = Pdf(innen);
+    for (const char* teil : {"-50 100 m 50 100 l", "810 600 m 810 605.5228 805.5228 610 800 610 c", "(WWW)Tj",
+                             "0 0 800 11 re f"}) {
+        EXPECT_TRUE(Enthaelt(pdf, teil)) << teil;
+    }
+    const Zeichnung nichts = [](Zeichenflaeche&) {};
+    EXPECT_EQ(Svg(aussen), Svg(nichts));
+    EXPECT_EQ(Pdf(aussen), Pdf(nichts));
+}
+
+TEST(Vektorflaechen, UmrissUndFuellung) {
+    const Zeichnung zeichne = [](Zeichenflaeche& f) {
+        f.SetzeStift({Farbe{0x0000FF}, 1, Strichart::Voll});
+        f.SetzePinsel({Farbe{0xFF0000}, false});
+        f.ZeichneRechteck({1, 2, 11, 22});
+        f.SetzePinsel({kWeiss, true});
+        f.Vieleck(std::array<Flaechenpunkt, 3>{{{5, 10}, {9, 10}, {9, 20}}});
+        f.Ellipse({90, 190, 110, 200});
+    };
+    const std::string svg = Svg(zeichne);
+    EXPECT_TRUE(Enthaelt(
+        svg, "<rect x=\"1\" y=\"2\" width=\"10\" height=\"20\" stroke=\"#ff0000\" fill=\"#0000ff\"/>"));
+    EXPECT_TRUE(Enthaelt(svg, "<polygon points=\"5,10 9,10 9,20\" stroke=\"#ff0000\"/>"));
+    const std::string pdf = Pdf(zeichne);
+    EXPECT_TRUE(Enthaelt(pdf, "0 0 1 rg\n1 2 m 11 2 l 11 22 l 1 22 l b\n5 10 m 9 10 l 9 20 l s\n"));
+    EXPECT_TRUE(Enthaelt(pdf,
+                         "110 195 m 110 197.7614 105.5228 200 100 200 c 94.4772 200 90 197.7614 90 195 c "
+                         "90 192.2386 94.4772 190 100 190 c 105.5228 190 110 192.2386 110 195 c s\n"));
+}
+
+TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
+    const std::string pdf = Pdf([](Zeichenflaeche& f) {
+        f.SetzeEbene(Ebene::Punkte);
+        f.Linie({1, 1}, {2, 2});
+        dynamic_cast<Pdfflaeche&>(f).NeueSeite();
+        f.Linie({3, 3}, {4, 4});
+    });
+    const std::size_t tafel = Ganzzahl(Alle(pdf, "startxref\n", "\n%%EOF\n").at(0));
+    const std::size_t objekte = Alle(pdf, "endobj", "\n").size();
+    const std::string kopf = "xref\n0 " + std::to_string(objekte + 1) + "\n0000000000 65535 f \n";
+    EXPECT_EQ(pdf.substr(tafel, kopf.size()), kopf);
+    for (std::size_t i = 0; i < objekte; ++i) {
+        const std::string zeile = pdf.substr(tafel + kopf.size() + 20 * i, 20);
+        EXPECT_EQ(zeile.substr(10), " 00000 n \n");
+        const std::string anfang = std::to_string(i + 1) + " 0 obj\n";
+        EXPECT_EQ(pdf.substr(Ganzzahl(zeile.substr(0, 10)), anfang.size()), anfang);
+    }
+    const auto laengen = Alle(pdf, "<</Length ", " R>>");
+    const auto stroeme = Alle(pdf, ">>\nstream\n", "\nendstream\n");
+    ASSERT_EQ(laengen.size(), 2U);
+    for (std::size_t i = 0; i < laengen.size(); ++i) {
+        const std::string laenge = Alle(pdf, "\n" + laengen[i] + " obj\n", "\nendobj").at(0);
+        EXPECT_EQ(laenge, std::to_string(stroeme.at(i).size()));
+    }
+    EXPECT_TRUE(Enthaelt(pdf, "/Type/Pages/Count 2/Kids["));
+    // The second page sets up its own pen and layer.
+    EXPECT_EQ(Alle(pdf, "/OC/PUNKTE BDC\n0 0 0 RG", "\n").size(), 2U);
+    EXPECT_EQ(Alle(pdf, "/Name(PUNKTE)", "\n").size(), 1U);
+}
+
+// 250 m at 1:25000 are 10 mm, a label is 8.25 pt high, whatever the dots; positions are rounded to them.
+TEST(Vektorflaechen, MasseAufDemPapierFuerJedeAufloesung) {
+    for (const double dpi : {72.0, 300.0, 600.0, 2400.0, 100000.0}) {
+        Probenetz n;
+        n.l.Weite = 800;
+        n.l.Hoehe = 600;
+        n.l.MaxYW = 1000;
+        n.P(1, 0, 1000);
+        n.P(2, 250, 500);
+        n.K(1, 2);
+        n.T(2, "B");
+        n.l.WeltinBild();
+        Zeichenzustand zustand;
+        const Netzangaben netz;
+        const Festuhr uhr;
+        Figurenzeichner zeichner(zustand, n.e, netz, uhr);
+        Speicherdateien dateien;
+        const Papier papier = FindePapier("A4")->Gedreht();
+        Pdfflaeche flaeche(dateien.Beginne("a"), papier, dpi, {});
+        Drucke(n.l, zeichner, zustand, n.e, flaeche, {25000, "25000", Bedruckbar(papier, dpi), {}});
+        flaeche.Beende();
+        const std::string& pdf = dateien.dateien["a"];
+        const double mm = kMillimeterJeZoll / 72;
+        const double dot = kMillimeterJeZoll / dpi;
+        const auto m = Zahlen(pdf, "stream\n", "cm\n");
+        EXPECT_EQ(m.at(0), -m.at(3));
+        EXPECT_NEAR(m.at(4) * mm, 10, 1e-4);
+        EXPECT_NEAR(m.at(5) * mm, 200, 1e-4) << "from below";
+        const auto linie = Zahlen(pdf, "\n0 0 m ", "l\n");
+        EXPECT_NEAR(linie.at(0) * m[0] * mm, 10.0, dot / 2 + 1e-4) << dpi;
+        EXPECT_NEAR(linie.at(1) * m[0] * mm, 20.0, dot / 2 + 1e-4) << dpi;
+        EXPECT_NEAR(Zahlen(pdf, "BT/F ", " Tf").at(0) * m[0], 8.25, 1e-4) << dpi;
+        const auto ort = Zahlen(pdf, "Tf 1 0 0 -1 ", "Tm");
+        EXPECT_NEAR(ort.at(0) * m[0] * mm, 10.0 + 10 * kMillimeterJeZoll / 96, dot + 1e-4) << dpi;
+        EXPECT_NEAR(flaeche.Textbreite("0123456789"), 5.56 * 8.25 / 72 * dpi, 0.5);
+        EXPECT_NEAR(flaeche.Texthoehe(), 1.117 * 8.25 / 72 * dpi, 1);
+    }
+    EXPECT_TRUE(Enthaelt(Svg([](Zeichenflaeche&) {}, 600), "width=\"33.867mm\" height=\"25.4mm\""));
+    EXPECT_TRUE(
+        Enthaelt(Svg([](Zeichenflaeche&) {}), "width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""));
+}
+
+TEST(Vektorflaechen, EinVollerDatentraegerHinterlaesstNichts) {
+    Speicherdateien dateien;
+    dateien.platz = 100000;
+    Svgflaeche flaeche(dateien.Beginne("a"), {800, 600, kBildaufloesung}, "T");
+    EXPECT_THROW(
+        {
+            for (int i = 0; i < 10000; ++i)
+                flaeche.Text({i % 700, 10}, "12345678901234", kSchwarz);
+            flaeche.Beende();
+        },
+        Fehler);
+    EXPECT_TRUE(dateien.dateien.empty());
+}
+
+}  // namespace
+}  // namespace zrw
