@@ -12,8 +12,7 @@ void Bildflaeche::SetzeGroesse(int weite, int hoehe) {
     if (maler_.isActive()) maler_.end();
     bild_ = QImage(std::max(weite, 1), std::max(hoehe, 1), QImage::Format_RGB32);
     bild_.fill(Qt::white);
-    maler_.begin(&bild_);
-    BindeAn(maler_, {0, 0, bild_.width() - 1, bild_.height() - 1});
+    BindeAnBild(maler_, bild_);
 }
 
 }  // namespace zrw

@@ -3,11 +3,11 @@
 
 #include <QImage>
 
-#include "ui/Malerflaeche.h"
+#include "ui/Pixelflaeche.h"
 
 namespace zrw {
 
-class Bildflaeche final : public Malerflaeche {
+class Bildflaeche final : public Pixelflaeche {
   public:
     Bildflaeche(int weite, int hoehe);
 

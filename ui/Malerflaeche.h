@@ -19,7 +19,7 @@ class Malerflaeche : public Zeichenflaeche {
     /// @param maler must be active and outlive the surface @param sichtbar what can be seen of its device
     Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift = Zeichenschrift());
 
-    void SetzeSchrift(const QFont& schrift);
+    virtual void SetzeSchrift(const QFont& schrift);
     [[nodiscard]] const QFont& Schrift() const { return schrift_; }
 
     [[nodiscard]] Rechteck Sichtbar() const override { return sichtbar_; }

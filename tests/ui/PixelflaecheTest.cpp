@@ -1,0 +1,130 @@
+// The pixel surface against Qt's painter: inside the picture every stroke, shape and text is the same to the
+// pixel; across its border strokes are what they would be in a larger picture.
+#include "ui/Pixelflaeche.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "ui/Bildflaeche.h"
+
+namespace zrw {
+namespace {
+
+class Pixel : public testing::Test {
+  protected:
+    int Wuerfle(int von, int bis) {
+        return von + static_cast<int>(zufall_() % static_cast<unsigned>(bis - von + 1));
+    }
+    Farbe Farbwahl() { return Farbe{static_cast<std::uint32_t>(zufall_()) & 0xFFFFFFU}; }
+    /// The same drawing by the painter and by pixels.
+    template <class Zeichne>
+    void Vergleiche(Zeichne zeichne, const std::string& was) {
+        maler_.SetzeSchnell(false);
+        for (Bildflaeche* f : {&maler_, &schnell_}) {
+            f->Fuelle({0, 0, kWeite, kHoehe}, kWeiss);
+            zeichne(*f);
+        }
+        if (maler_.Bild() != schnell_.Bild()) ++verschieden_;
+        if (verschieden_ == 1 && maler_.Bild() != schnell_.Bild()) ADD_FAILURE() << was;
+    }
+
+    static constexpr int kWeite = 160;
+    static constexpr int kHoehe = 120;
+    Bildflaeche maler_{kWeite, kHoehe};
+    Bildflaeche schnell_{kWeite, kHoehe};
+    int verschieden_ = 0;
+
+  private:
+    std::mt19937 zufall_{4};
+};
+
+TEST_F(Pixel, ZwanzigtausendStricheWieDerMaler) {
+    for (int i = 0; i < 20000; ++i) {
+        // Long ones, and the short ones that most of a plot consists of.
+        const int weit = i % 2 == 0 ? 1000 : 9;
+        const Flaechenpunkt a{Wuerfle(0, kWeite - 1), Wuerfle(0, kHoehe - 1)};
+        const Flaechenpunkt b{std::clamp(a.x + Wuerfle(-weit, weit), 0, kWeite - 1),
+                              std::clamp(a.y + Wuerfle(-weit, weit), 0, kHoehe - 1)};
+        const Stift stift{Farbwahl(), 1, i % 3 == 0 ? Strichart::Gestrichelt : Strichart::Voll};
+        Vergleiche(
+            [&](Zeichenflaeche& f) {
+                f.SetzeStift(stift);
+                f.Linie(a, b);
+            },
+            std::to_string(a.x) + "," + std::to_string(a.y) + " " + std::to_string(b.x) + "," +
+                std::to_string(b.y) + (i % 3 == 0 ? " dashed" : ""));
+    }
+    EXPECT_EQ(verschieden_, 0);
+}
+
+TEST_F(Pixel, FormenWieDerMalerAuchAmRand) {
+    // The painter in a picture with a margin: at a border it draws shapes from other strokes than inside.
+    constexpr int kRand = 40;
+    Bildflaeche gross(kWeite + 2 * kRand, kHoehe + 2 * kRand);
+    gross.SetzeSchnell(false);
+    for (int i = 0; i < 6000; ++i) {
+        const Flaechenpunkt o{Wuerfle(-20, kWeite + 20), Wuerfle(-20, kHoehe + 20)};
+        const int r = Wuerfle(0, 12);
+        const Stift stift{Farbwahl(), 1, Strichart::Voll};
+        const Pinsel pinsel{Farbwahl(), i % 3 == 0};
+        const auto zeichne = [&](Bildflaeche& f, int d) {
+            f.Fuelle({0, 0, 9999, 9999}, kWeiss);
+            f.SetzeStift(stift);
+            f.SetzePinsel(pinsel);
+            const Flaechenpunkt m{o.x + d, o.y + d};
+            const Rechteck rechteck{m.x - r, m.y - r, m.x + r, m.y + r};
+            const std::array<Flaechenpunkt, 4> ecken{
+                {{m.x, m.y - r}, {m.x + r, m.y}, {m.x, m.y + r}, {m.x - r, m.y}}};
+            if (i % 4 == 0) f.ZeichneRechteck(rechteck);
+            if (i % 4 == 1) f.Ellipse(rechteck);
+            if (i % 4 == 2) f.Vieleck(ecken);
+            if (i % 4 == 3) f.Vieleck({ecken.data(), 3});
+        };
+        zeichne(gross, kRand);
+        zeichne(schnell_, 0);
+        ASSERT_EQ(gross.Bild().copy(kRand, kRand, kWeite, kHoehe), schnell_.Bild())
+            << i % 4 << " " << r << " at " << o.x << "," << o.y;
+    }
+}
+
+TEST_F(Pixel, ZehntausendTexteWieDerMaler) {
+    for (int i = 0; i < 10000; ++i) {
+        std::string text;
+        for (int n = Wuerfle(1, 14); n > 0; --n)
+            text += static_cast<char>(i % 2 == 0 ? Wuerfle(0x20, 0x7E) : Wuerfle(0xA1, 0xFF));
+        const Flaechenpunkt o{Wuerfle(-60, kWeite), Wuerfle(-15, kHoehe)};
+        const Farbe farbe = Farbwahl();
+        Vergleiche([&](Zeichenflaeche& f) { f.Text(o, text, farbe); }, text);
+    }
+    EXPECT_EQ(verschieden_, 0);
+}
+
+TEST_F(Pixel, StricheHaengenNichtVomAusschnittAb) {
+    // What a larger picture shows of a stroke is what the cut of it shows, at its place.
+    Bildflaeche gross(kWeite * 3, kHoehe * 3);
+    for (int i = 0; i < 3000; ++i) {
+        const Flaechenpunkt a{Wuerfle(-kWeite, 2 * kWeite - 1), Wuerfle(-kHoehe, 2 * kHoehe - 1)};
+        const Flaechenpunkt b{Wuerfle(-kWeite, 2 * kWeite - 1), Wuerfle(-kHoehe, 2 * kHoehe - 1)};
+        const Stift stift{Farbwahl(), 1, i % 2 == 0 ? Strichart::Gestrichelt : Strichart::Voll};
+        gross.Fuelle({0, 0, kWeite * 3, kHoehe * 3}, kWeiss);
+        schnell_.Fuelle({0, 0, kWeite, kHoehe}, kWeiss);
+        gross.SetzeStift(stift);
+        schnell_.SetzeStift(stift);
+        gross.Linie({a.x + kWeite, a.y + kHoehe}, {b.x + kWeite, b.y + kHoehe});
+        schnell_.Linie(a, b);
+        ASSERT_EQ(gross.Bild().copy(kWeite, kHoehe, kWeite, kHoehe), schnell_.Bild())
+            << a.x << "," << a.y << " " << b.x << "," << b.y;
+    }
+    // The furthest ends that a surface can be given.
+    constexpr std::int32_t kFern = 2147483647;
+    for (const auto& [a, b] : {std::pair{Flaechenpunkt{-kFern, -kFern}, Flaechenpunkt{kFern, kFern}},
+                               {Flaechenpunkt{5, -kFern}, Flaechenpunkt{5, kFern}},
+                               {Flaechenpunkt{kFern, 7}, Flaechenpunkt{-kFern, 7}},
+                               {Flaechenpunkt{kFern, kFern}, Flaechenpunkt{kFern, kFern}}})
+        schnell_.Linie(a, b);
+    EXPECT_EQ(schnell_.Bild().pixelColor(5, 40), schnell_.Bild().pixelColor(30, 7));
+}
+
+}  // namespace
+}  // namespace zrw

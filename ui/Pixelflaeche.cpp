@@ -1,0 +1,170 @@
+#include "ui/Pixelflaeche.h"
+
+#include <algorithm>
+
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+/// Larger shapes are rare: the painter draws them.
+constexpr int kGroessterStempel = 64;
+constexpr int kGroessteSchrift = 40;  ///< [px]
+constexpr std::size_t kMeisteStempel = 64;
+constexpr int kRand = 4;  ///< round a shape that is made into a mask
+
+std::uint32_t Pixelfarbe(Farbe f) {
+    return 0xFF000000U | (f.wert & 0xFFU) << 16U | (f.wert & 0xFF00U) | (f.wert >> 16U & 0xFFU);
+}
+
+/// The pixels of one colour.
+Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
+    QRect grenzen;
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x) {
+            if (bild.pixel(x, y) == farbe) grenzen |= QRect(x, y, 1, 1);
+        }
+    }
+    Pixelmaske maske(grenzen.x() - null.x(), grenzen.y() - null.y(), grenzen.width(), grenzen.height());
+    for (int y = 0; y < grenzen.height(); ++y) {
+        for (int x = 0; x < grenzen.width(); ++x) {
+            if (bild.pixel(grenzen.topLeft() + QPoint(x, y)) == farbe) maske.Setze(x, y);
+        }
+    }
+    return maske;
+}
+
+}  // namespace
+
+void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
+    // The rows belong to the picture alone here, so that asking for them copies nothing.
+    pixel_ = Pixelbild(reinterpret_cast<std::uint32_t*>(bild.bits()), bild.width(), bild.height(),
+                       static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t));
+    maler.begin(&bild);
+    BindeAn(maler, {0, 0, bild.width() - 1, bild.height() - 1});
+}
+
+void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
+    glyphen_.fill({});
+    Malerflaeche::SetzeSchrift(schrift);
+}
+
+void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    const Stift& stift = AktuellerStift();
+    if (!schnell_ || stift.breite > 1) return Malerflaeche::Linie(von, nach);
+    pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
+}
+
+Pixelflaeche::Stempel Pixelflaeche::Praege(Form form, std::span<const Flaechenpunkt> ecken) const {
+    int links = 0;
+    int oben = 0;
+    int rechts = 0;
+    int unten = 0;
+    for (const Flaechenpunkt& p : ecken) {
+        links = std::min(links, p.x - ecken[0].x);
+        oben = std::min(oben, p.y - ecken[0].y);
+        rechts = std::max(rechts, p.x - ecken[0].x);
+        unten = std::max(unten, p.y - ecken[0].y);
+    }
+    const QPoint null(kRand - links, kRand - oben);
+    QImage bild(rechts - links + 2 * kRand + 1, unten - oben + 2 * kRand + 1, QImage::Format_RGB32);
+    bild.fill(Qt::white);
+    QPainter maler(&bild);
+    Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1});
+    const bool leer = AktuellerPinsel().leer;
+    flaeche.SetzeStift({Farbe{0x0000FF}, 1, Strichart::Voll});
+    flaeche.SetzePinsel({Farbe{0xFF0000}, leer});
+    Stempel stempel{form, leer, {}, {}, {}};
+    std::vector<Flaechenpunkt> verlegt;
+    for (const Flaechenpunkt& p : ecken) {
+        stempel.ecken.push_back({p.x - ecken[0].x, p.y - ecken[0].y});
+        verlegt.push_back({p.x - ecken[0].x + null.x(), p.y - ecken[0].y + null.y()});
+    }
+    const Rechteck r{verlegt[0].x, verlegt[0].y, verlegt.back().x, verlegt.back().y};
+    switch (form) {
+        case Form::Rechteck:
+            flaeche.ZeichneRechteck(r);
+            break;
+        case Form::Ellipse:
+            flaeche.Ellipse(r);
+            break;
+        case Form::Vieleck:
+            flaeche.Vieleck(verlegt);
+            break;
+    }
+    maler.end();
+    stempel.rand = MaskeVon(bild, qRgb(255, 0, 0), null);
+    if (!leer) stempel.fuellung = MaskeVon(bild, qRgb(0, 0, 255), null);
+    return stempel;
+}
+
+const Pixelflaeche::Stempel& Pixelflaeche::Suche(Form form, std::span<const Flaechenpunkt> ecken) {
+    const bool leer = AktuellerPinsel().leer;
+    for (const Stempel& s : stempel_) {
+        if (s.form != form || s.leer != leer || s.ecken.size() != ecken.size()) continue;
+        const bool gleich = std::equal(ecken.begin(), ecken.end(), s.ecken.begin(), [&](auto a, auto b) {
+            return a.x - ecken[0].x == b.x && a.y - ecken[0].y == b.y;
+        });
+        if (gleich) return s;
+    }
+    if (stempel_.size() == kMeisteStempel) stempel_.clear();
+    return stempel_.emplace_back(Praege(form, ecken));
+}
+
+/// @return false: too large, or not of width 1
+bool Pixelflaeche::Stempele(Form form, std::span<const Flaechenpunkt> ecken) {
+    if (!schnell_ || ecken.empty() || AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
+        return false;
+    for (const Flaechenpunkt& p : ecken) {
+        if (std::abs(std::int64_t{p.x} - ecken[0].x) > kGroessterStempel ||
+            std::abs(std::int64_t{p.y} - ecken[0].y) > kGroessterStempel)
+            return false;
+    }
+    const Stempel& s = Suche(form, ecken);
+    if (!s.leer) pixel_.Maske(s.fuellung, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerPinsel().farbe));
+    pixel_.Maske(s.rand, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerStift().farbe));
+    return true;
+}
+
+void Pixelflaeche::ZeichneRechteck(const Rechteck& r) {
+    const std::array<Flaechenpunkt, 2> ecken{{{r.links, r.oben}, {r.rechts, r.unten}}};
+    if (!Stempele(Form::Rechteck, ecken)) Malerflaeche::ZeichneRechteck(r);
+}
+
+void Pixelflaeche::Ellipse(const Rechteck& u) {
+    const std::array<Flaechenpunkt, 2> ecken{{{u.links, u.oben}, {u.rechts, u.unten}}};
+    if (!Stempele(Form::Ellipse, ecken)) Malerflaeche::Ellipse(u);
+}
+
+void Pixelflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    if (!Stempele(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
+}
+
+const Pixelflaeche::Glyphe& Pixelflaeche::Zeichen(char c) const {
+    auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
+    if (glyphe) return *glyphe;
+    glyphe.emplace();
+    const std::string_view text(&c, 1);
+    glyphe->vorschub = Malerflaeche::Textbreite(text);
+    const int hoehe = Texthoehe() + 2 * kRand;
+    const QPoint null(kRand + hoehe, kRand);  // italics reach far beside their advance
+    QImage bild(glyphe->vorschub + 2 * null.x(), hoehe, QImage::Format_RGB32);
+    bild.fill(Qt::white);
+    QPainter maler(&bild);
+    Malerflaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1}, Schrift())
+        .Text({null.x(), null.y()}, text, kSchwarz);
+    maler.end();
+    glyphe->maske = MaskeVon(bild, qRgb(0, 0, 0), null);
+    return *glyphe;
+}
+
+void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    if (!schnell_ || Schrifthoehe() > kGroessteSchrift) return Malerflaeche::Text(ort, text, farbe);
+    for (const char c : text) {
+        const Glyphe& g = Zeichen(c);
+        pixel_.Maske(g.maske, ort.x, ort.y, Pixelfarbe(farbe));
+        ort.x += g.vorschub;
+    }
+}
+
+}  // namespace zrw

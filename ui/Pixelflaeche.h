@@ -1,0 +1,58 @@
+// The painter's surface with the common small figures set pixel by pixel: thin lines, symbols and texts.
+// Shapes and glyphs are drawn once by the painter and kept as masks, so that both give the same picture;
+// everything else still goes to the painter.
+#pragma once
+
+#include <QImage>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "output/Pixelbild.h"
+#include "ui/Malerflaeche.h"
+
+namespace zrw {
+
+class Pixelflaeche : public Malerflaeche {
+  public:
+    /// Leaves everything to the painter, for comparison.
+    void SetzeSchnell(bool schnell) { schnell_ = schnell; }
+
+    void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
+    void ZeichneRechteck(const Rechteck& r) override;
+    void Ellipse(const Rechteck& umschrieben) override;
+    void Vieleck(std::span<const Flaechenpunkt> ecken) override;
+    void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    void SetzeSchrift(const QFont& schrift) override;
+
+  protected:
+    /// Takes a painter that has just begun on the picture.
+    void BindeAnBild(QPainter& maler, QImage& bild);
+
+  private:
+    enum class Form : std::uint8_t { Rechteck, Ellipse, Vieleck };
+    /// A shape at the place of its first corner.
+    struct Stempel {
+        Form form;
+        bool leer;
+        std::vector<Flaechenpunkt> ecken;  ///< from the first one
+        Pixelmaske rand;
+        Pixelmaske fuellung;
+    };
+    struct Glyphe {
+        Pixelmaske maske;
+        int vorschub = 0;
+    };
+
+    bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
+    [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
+    [[nodiscard]] Stempel Praege(Form form, std::span<const Flaechenpunkt> ecken) const;
+    [[nodiscard]] const Glyphe& Zeichen(char c) const;
+
+    bool schnell_ = true;
+    Pixelbild pixel_;
+    std::vector<Stempel> stempel_;
+    mutable std::array<std::optional<Glyphe>, 256> glyphen_;  ///< of the current font, made when first drawn
+};
+
+}  // namespace zrw
