@@ -88,7 +88,7 @@ struct Option {
     bool mitWert = true;
 };
 
-constexpr std::array<Option, 10> kOptionen{{
+constexpr std::array<Option, 11> kOptionen{{
     {"--export",
      [](Aufruf& a, const std::string& w) {
          a.auftrag = Auftrag::Stapel;
@@ -100,6 +100,7 @@ constexpr std::array<Option, 10> kOptionen{{
     {"--dpi", [](Aufruf& a, const std::string& w) { a.dpi = LiesAufloesung(w); }},
     {"--papier", [](Aufruf& a, const std::string& w) { a.papier = LiesPapier(w); }},
     {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
+    {"--alle-blaetter", [](Aufruf& a, const std::string& /*w*/) { a.alleBlaetter = true; }, false},
     {"--ein", [](Aufruf& a, const std::string& w) { Haenge(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { Haenge(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
@@ -165,6 +166,7 @@ std::string Hilfetext() {
            "  --dpi ZAHL             Auflösung des Drucks in Punkten je Zoll (sonst 600)\n"
            "  --papier FORMAT        Papier für pdf: A4, A3, A2, A1 oder A0 (sonst A4)\n"
            "  --quer                 Papier im Querformat\n"
+           "  --alle-blaetter        so viele Blätter, wie der Plan im Maßstab braucht (pdf)\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"

@@ -30,6 +30,7 @@ struct Aufruf {
     int dpi = kUeblicheAufloesung;               ///< resolution of the print [dots per inch]
     Papier papier = kPapierformate[0].hochkant;  ///< upright
     bool quer = false;                           ///< the paper lies on its long side
+    bool alleBlaetter = false;                   ///< print over as many sheets as it takes
     std::vector<std::string> ein;                ///< switches by name
     std::vector<std::string> aus;
     std::optional<std::string> einstellungen;

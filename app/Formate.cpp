@@ -8,9 +8,11 @@
 #include "model/Bilddatei.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
+#include "output/Blattschnitt.h"
 #include "output/Druck.h"
 #include "output/Export.h"
 #include "output/Figurenzeichner.h"
+#include "output/Geojson.h"
 #include "output/Pdfflaeche.h"
 #include "output/Svgflaeche.h"
 #include "ui/Bildflaeche.h"
@@ -61,8 +63,28 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
     Einstellungen groessen = a.einstellungen;  // printing scales them
     const Systemuhr uhr;
     Figurenzeichner zeichner(a.zustand, groessen, a.netz, uhr);
-    const Druckauftrag auftrag{a.massstab, a.massstabtext, Bedruckbar(a.papier, a.dpi), {}};
-    Drucke(a.liste, zeichner, a.zustand, groessen, flaeche, auftrag);
+    Druckauftrag auftrag{a.massstab, a.massstabtext, Bedruckbar(a.papier, a.dpi), {}};
+    const Welt ecke = a.liste.BildinWelt({});
+    std::vector<Blatt> blaetter;
+    try {
+        blaetter = Blattschnitt(a.liste, a.massstab, auftrag.seite, ecke);
+    } catch (const Fehler&) {
+        if (a.alleBlaetter) throw;
+    }
+    if (!a.alleBlaetter || blaetter.empty()) {
+        if (blaetter.size() > 1) {
+            a.sage(Fehler::Meldung(
+                "Der Plan braucht in diesem Maßstab " + std::to_string(blaetter.size()) +
+                    " Blätter; geschrieben ist das oben links (--alle-blaetter schreibt alle).",
+                PfadText(datei), 0));
+        }
+        blaetter = {{0, 0, ecke}};
+    }
+    for (std::size_t i = 0; i < blaetter.size(); ++i) {
+        if (i > 0) flaeche.NeueSeite();
+        auftrag.ecke = blaetter[i].ecke;
+        Drucke(a.liste, zeichner, a.zustand, groessen, flaeche, auftrag);
+    }
     flaeche.Beende();
 }
 
@@ -73,12 +95,17 @@ void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
     Exportiere(a.liste, zeichner, a.zustand, a.dateien, auftrag);
 }
 
-constexpr std::array<Format, 7> kFormate{{
+void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {
+    SchreibeGeojson(a.liste, a.netz, a.einstellungen, a.zustand.Ergebnisse, a.dateien, datei);
+}
+
+constexpr std::array<Format, 8> kFormate{{
     {"zrw", ".ZRW", {}, &SchreibeZrw},
     {"png", ".png", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "PNG"); }},
     {"bmp", ".bmp", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "BMP"); }},
     {"svg", ".svg", {}, &SchreibeSvg},
     {"pdf", ".pdf", {}, &SchreibePdf},
+    {"geojson", ".geojson", {}, &SchreibeGis},
     {"dxf",
      {},
      kDxfname,

@@ -23,7 +23,9 @@ struct Ausgabe {
     std::string massstabtext;  ///< the same as the legend names it
     int dpi;                   ///< resolution of the print [dots per inch]
     Papier papier;             ///< as it lies
-    std::string_view eingabe;  ///< name of the input without folder and extension, UTF-8
+    bool alleBlaetter;         ///< every sheet of the print that holds something, not the first alone
+    void (*sage)(const std::string& text);  ///< what the user should know of, UTF-8
+    std::string_view eingabe;               ///< name of the input without folder and extension, UTF-8
 };
 
 struct Format {

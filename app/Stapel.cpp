@@ -96,6 +96,8 @@ void Exportiere(const Aufruf& aufruf) {
                           .massstabtext = aufruf.massstab,
                           .dpi = aufruf.dpi,
                           .papier = aufruf.quer ? aufruf.papier.Gedreht() : aufruf.papier,
+                          .alleBlaetter = aufruf.alleBlaetter,
+                          .sage = &Drucke,
                           .eingabe = eingabe};
     for (const std::string& name : aufruf.formate) {
         const Format& format = *FindeFormat(name);

@@ -25,6 +25,7 @@ std::vector<std::string> Worte(int argc, char** argv) {
 
 int Fenster(const Aufruf& aufruf) {
     QApplication::setApplicationName(QStringLiteral("Zarwik"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("zarwik"));
     // Zarwik speaks German on every system; Qt's own dialogs do too where its translations are installed.
     QTranslator deutsch;
     if (deutsch.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

@@ -44,8 +44,8 @@ modus() {
 }
 
 modus alles
-speichere anfang.ZRW
 bild 01_geoeffnet
+speichere anfang.ZRW
 nach 414 394
 for _ in 1 2 3; do xdotool click 5; done # the wheel: closer
 sleep 0.3
