@@ -126,15 +126,35 @@ void Liste::DisplayPunkte(Zeichner& z) {
     }
 }
 
+/// Which numbers are shown, in one place: asking the points of each line would wait for memory each time.
+std::vector<bool> Liste::GezeigteNummern() const {
+    std::vector<bool> bekannt(kMaxPunkte + 1);
+    std::vector<bool> gezeigt(kMaxPunkte + 1);
+    for (const zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
+        if (bekannt[p->PNr]) continue;  // the newest of a number counts
+        bekannt[p->PNr] = true;
+        gezeigt[p->PNr] = Dargestellt(*p->Item);
+    }
+    return gezeigt;
+}
+
 void Liste::DisplayKante(Zeichner& z) {
+    const std::vector<bool> gezeigt = GezeigteNummern();
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        if (Dargestellt(*k)) k->Item->Show(z);
+        if (gezeigt[k->ANr] && gezeigt[k->ENr]) k->Item->Show(z);
     }
 }
 
 void Liste::DisplayPktText(Zeichner& z) {
     // Switching the auxiliary points off hides every label, not only theirs. Users know it that way.
     if (!ShowHilfP) return;
+    if (index_.TexteEindeutig()) {
+        const std::vector<bool> gezeigt = GezeigteNummern();
+        for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
+            if (gezeigt[t->TNr]) t->Item->Show(z);
+        }
+        return;
+    }
     for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
         const zrw::PunktKnoten* p = FindPunkt(t->Item->Aus.Text());
         if (p != nullptr && Dargestellt(*p->Item)) t->Item->Show(z);

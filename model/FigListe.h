@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "model/Arena.h"
 #include "model/Einstellungen.h"
@@ -204,6 +205,7 @@ class Liste {
     };
 
     void ZeichneFiguren(Zeichner& z);
+    [[nodiscard]] std::vector<bool> GezeigteNummern() const;
 
     const Einstellungen& einstellungen_;
     Arena<PunktPlatz> punktArena_;

@@ -50,6 +50,7 @@ void Figurenindex::Auf(PunktKnoten& p) {
 
 void Figurenindex::Auf(PunktString& t) {
     Lege(texte_, t.TNr, &t);
+    ++textanzahl_;
     nachNummer_.Setze(t.Item->Aus, {&t, t.TNr});
 }
 
@@ -85,6 +86,7 @@ void Figurenindex::Ab(PunktKnoten& p) {
 }
 
 void Figurenindex::Ab(PunktString& t) {
+    --textanzahl_;
     if (FindeText(t.TNr) == &t) {
         PunktString* ersatz = t.Next;
         while (ersatz != nullptr && ersatz->TNr != t.TNr)
@@ -139,6 +141,7 @@ void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
 }
 
 void Figurenindex::Zurueck(PunktString& t, PunktString& kopf) {
+    ++textanzahl_;
     Lege(texte_, t.TNr,
          Erster(
              kopf, [&](const PunktString& k) { return k.TNr == t.TNr; },
@@ -170,6 +173,7 @@ void Figurenindex::LeerePunkte() {
 
 void Figurenindex::LeereTexte() {
     texte_.clear();
+    textanzahl_ = 0;
     nachNummer_.Leere();
 }
 

@@ -51,6 +51,7 @@ class Streutafel {
         while (anzahl * 5 > faecher_.size() * 4)
             Wachse();
     }
+    [[nodiscard]] std::size_t Anzahl() const { return belegt_; }
     void Leere() {
         faecher_.clear();
         belegt_ = 0;
@@ -132,6 +133,8 @@ class Figurenindex {
     [[nodiscard]] PunktIndex FindeNummer(const PunktNummernTyp& nummer) const {
         return nachNummer_.Finde(nummer).nr;
     }
+    /// No two labels read the same: each then leads to its own number.
+    [[nodiscard]] bool TexteEindeutig() const { return textanzahl_ == nachNummer_.Anzahl(); }
     /// The newest line between two points, in either orientation.
     [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const { return nachPaar_.Finde({a, b}); }
     /// The lines at a point, newest first: `for (k = ErsteKante(nr); k; k = NaechsteKante(*k, nr))`.
@@ -152,6 +155,7 @@ class Figurenindex {
 
     PunktKante* neuesteKante_ = nullptr;  ///< head of the list of lines
     bool verkettet_ = false;
+    std::size_t textanzahl_ = 0;
     std::vector<PunktKante*> kantenAm_;
     Streutafel<PunktNummernTyp, Texteintrag> nachNummer_;
     Streutafel<Punktpaar, PunktKante*> nachPaar_;

@@ -147,6 +147,8 @@ void Figurenzeichner::Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt>
 // --- Lines ------------------------------------------------------------------------------------------------
 
 void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
+    const bool nurBild = Plot(gang) == nullptr && Dxf(gang) == nullptr;
+    if (nurBild && !Beruehrt(kante)) return;
     SetzeEbene(Ebene::Beobachtungen);
     const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
     if (zustand_.flaeche != nullptr) {
@@ -161,6 +163,18 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
         if (plot != nullptr) plot->Linienzug(zug);
         if (dxf != nullptr) SchreibeZug(zug, kante);
     }
+}
+
+/// Whether a line with its marks may touch the surface.
+bool Figurenzeichner::Beruehrt(const Kante& kante) const {
+    if (zustand_.flaeche == nullptr) return false;
+    const Einstellungen& e = einstellungen_;
+    const std::int64_t rand = 8 + e.PTSize + 3 * e.Querstrich + 2 * e.GPSGroesse + e.Umweggroesse;
+    const Rechteck s = zustand_.flaeche->Sichtbar();
+    const Bildpunkt a = kante.Position();
+    const Bildpunkt b = kante.Ende();
+    return std::max(a.x, b.x) >= s.links - rand && std::min(a.x, b.x) <= s.rechts + rand &&
+           std::max(a.y, b.y) >= s.oben - rand && std::min(a.y, b.y) <= s.unten + rand;
 }
 
 void Figurenzeichner::ZeigeZug(const Zug& zug, Farbe farbe) {

@@ -49,6 +49,7 @@ class Figurenzeichner final : public Zeichner {
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 
     void SetzeEbene(Ebene ebene) const;
+    [[nodiscard]] bool Beruehrt(const Kante& kante) const;
     void ZeigeZug(const Zug& zug, Farbe farbe);
     void SchreibeZug(const Zug& zug, const Kante& kante);
     void ZeigeText(const PktText& text, Farbe farbe);
