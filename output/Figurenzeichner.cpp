@@ -154,6 +154,7 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
     if (zustand_.flaeche != nullptr) {
         const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
         const Farbe farbe = gang == Gang::Wischen ? kWeiss : eigene;
+        const Stiftwechsel wechsel(*zustand_.flaeche, {farbe, 1, Strichart::Voll}, {farbe, false});
         for (const Zug& zug : bild.Zuege())
             ZeigeZug(zug, farbe);
     }
@@ -182,8 +183,8 @@ void Figurenzeichner::ZeigeZug(const Zug& zug, Farbe farbe) {
     for (const Strich& strich : Striche(zug.form)) {
         const auto teil = Abschneiden(zug.punkte[strich.von], zug.punkte[strich.nach], f.Sichtbar());
         if (!teil) continue;
-        const Stiftwechsel wechsel(
-            f, {farbe, 1, strich.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll}, {farbe, false});
+        const Strichart art = strich.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll;
+        if (f.AktuellerStift().art != art) f.SetzeStift({farbe, 1, art});
         f.Linie(teil->first, teil->second);
     }
 }

@@ -34,6 +34,51 @@ Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
     return maske;
 }
 
+/// Glyphs gathered into the rows of one mask, so that each row of the text is set at once.
+class Textzeile {
+  public:
+    Textzeile(Pixelbild& bild, std::uint32_t farbe, Flaechenpunkt ort)
+        : bild_(bild), farbe_(farbe), ort_(ort) {}
+
+    void Nimm(const Pixelmaske& m) {
+        const int links = stelle_ + m.links + kVorlauf;
+        const int oben = m.oben + kVorlauf;
+        if (links < 0 || oben < 0 || links + m.weite > kWeite || oben + m.hoehe > kHoehe || m.weite > 64) {
+            bild_.Maske(m, ort_.x + stelle_, ort_.y, farbe_);
+            return;
+        }
+        const auto wort = static_cast<std::size_t>(links) / 64;
+        const auto bit = static_cast<unsigned>(links) % 64U;
+        for (int i = 0; i < m.hoehe; ++i) {
+            const std::uint64_t bits = m.worte[static_cast<std::size_t>(i)];
+            auto& zeile = zeilen_[static_cast<std::size_t>(oben + i)];
+            zeile[wort] |= bits << bit;
+            if (bit != 0 && wort + 1 < zeile.size()) zeile[wort + 1] |= bits >> (64U - bit);
+        }
+        erste_ = std::min(erste_, oben);
+        letzte_ = std::max(letzte_, oben + m.hoehe - 1);
+    }
+    void Rueckeweiter(int vorschub) { stelle_ += vorschub; }
+    void Setze() {
+        for (int i = erste_; i <= letzte_; ++i)
+            bild_.Zeile(zeilen_[static_cast<std::size_t>(i)], std::int64_t{ort_.x} - kVorlauf,
+                        std::int64_t{ort_.y} + i - kVorlauf, farbe_);
+    }
+
+  private:
+    static constexpr int kVorlauf = 8;  ///< glyphs may begin before their place
+    static constexpr int kWeite = 192;
+    static constexpr int kHoehe = 32;
+
+    Pixelbild& bild_;
+    std::uint32_t farbe_;
+    Flaechenpunkt ort_;
+    int stelle_ = 0;
+    int erste_ = kHoehe;
+    int letzte_ = -1;
+    std::array<std::array<std::uint64_t, kWeite / 64>, kHoehe> zeilen_{};
+};
+
 }  // namespace
 
 void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
@@ -160,11 +205,13 @@ const Pixelflaeche::Glyphe& Pixelflaeche::Zeichen(char c) const {
 
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (!schnell_ || Schrifthoehe() > kGroessteSchrift) return Malerflaeche::Text(ort, text, farbe);
+    Textzeile zeile(pixel_, Pixelfarbe(farbe), ort);
     for (const char c : text) {
         const Glyphe& g = Zeichen(c);
-        pixel_.Maske(g.maske, ort.x, ort.y, Pixelfarbe(farbe));
-        ort.x += g.vorschub;
+        zeile.Nimm(g.maske);
+        zeile.Rueckeweiter(g.vorschub);
     }
+    zeile.Setze();
 }
 
 }  // namespace zrw
