@@ -2,8 +2,10 @@
 // saved. `Fehler` is the only way to refuse them.
 #include "model/Bilddatei.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -11,8 +13,12 @@
 #include "fuzz/Proben.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
+#include "output/Blattschnitt.h"
+#include "output/Druck.h"
 #include "output/Export.h"
 #include "output/Figurenzeichner.h"
+#include "output/Geojson.h"
+#include "output/Pdfflaeche.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
 
@@ -62,6 +68,28 @@ class Pruefflaeche final : public zrw::Zeichenflaeche {
     }
 };
 
+/// Results of every kind for every point, whatever a table might hold.
+class Wildergebnisse final : public zrw::Punktergebnisse {
+  public:
+    void Erneuere() override {}
+    [[nodiscard]] const zrw::Punktergebnis* Zu(std::string_view nummer) const override {
+        constexpr double kInf = std::numeric_limits<double>::infinity();
+        static constexpr std::array kWerte{
+            0.0, 1.0, -3.5, 40.0, 1e9, -1e300, 1e-300, kInf, -kInf, std::numeric_limits<double>::quiet_NaN()};
+        std::uint64_t h = zrw::PunktNummernTyp(nummer).Streuwert(1);
+        for (auto feld : {&zrw::Punktergebnis::dY, &zrw::Punktergebnis::dX, &zrw::Punktergebnis::dH,
+                          &zrw::Punktergebnis::A, &zrw::Punktergebnis::B, &zrw::Punktergebnis::Phi,
+                          &zrw::Punktergebnis::mH, &zrw::Punktergebnis::mL}) {
+            ergebnis_.*feld = kWerte[h % kWerte.size()];
+            h /= kWerte.size();
+        }
+        return &ergebnis_;
+    }
+
+  private:
+    mutable zrw::Punktergebnis ergebnis_;
+};
+
 /// What opening does with a file of unknown origin.
 void PasseInsFenster(zrw::Liste& liste) {
     liste.Weite = kWeite;
@@ -105,8 +133,31 @@ void PruefeExport(zrw::Liste& liste, zrw::Zeichner& z, zrw::Zeichenzustand& zust
     zrw::fuzz::Verlange(vorher.Inhalt() == nachher.Inhalt(), "der Export aendert nichts");
 }
 
+/// The vector outputs end properly whatever they are given, and the print leaves the network as it was.
+void PruefeBlaetter(zrw::Liste& liste, zrw::Figurenzeichner& z, zrw::Zeichenzustand& zustand,
+                    zrw::Einstellungen& einstellungen, const zrw::Netzangaben& netz) {
+    zrw::ByteSchreiber vorher;
+    liste.Store(vorher, {});
+    zrw::Speicherdateien dateien;
+    const zrw::Papier papier = zrw::kPapierformate[0].hochkant;
+    zrw::Pdfflaeche pdf(dateien.Beginne("a.pdf"), papier, 300, {});
+    const zrw::Druckseite seite = zrw::Bedruckbar(papier, 300);
+    zrw::Drucke(liste, z, zustand, einstellungen, pdf, {25000, "25000", seite});
+    pdf.Beende();
+    zrw::fuzz::Verlange(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
+    try {
+        (void)zrw::Blattschnitt(liste, 25000, seite, liste.BildinWelt({}));
+    } catch (const zrw::Fehler&) {  // too many sheets
+    }
+    zrw::SchreibeGeojson(liste, netz, einstellungen, zustand.Ergebnisse, dateien, "a.geojson");
+    zrw::fuzz::Verlange(dateien.dateien["a.geojson"].ends_with("]}\n"), "das Netz ist ganz");
+    zrw::ByteSchreiber nachher;
+    liste.Store(nachher, {});
+    zrw::fuzz::Verlange(vorher.Inhalt() == nachher.Inhalt(), "der Druck aendert nichts");
+}
+
 void Pruefe(std::string_view eingabe) {
-    const zrw::Einstellungen einstellungen;
+    zrw::Einstellungen einstellungen;
     zrw::Netzangaben netz;
     zrw::ByteLeser leser(eingabe);
     const std::unique_ptr<zrw::Liste> liste = zrw::Liste::Load(leser, einstellungen, netz, "bild.zrw");
@@ -124,6 +175,9 @@ void Pruefe(std::string_view eingabe) {
     zrw::Figurenzeichner z(zustand, einstellungen, netz, uhr);
     PasseInsFenster(*liste);
     liste->ShowGitter = liste->ShowKMQ = liste->ShowLegende = true;
+    liste->ShowLgRes = liste->ShowHRes = liste->ShowLGGen = liste->ShowHGen = true;
+    Wildergebnisse ergebnisse;
+    zustand.Ergebnisse = &ergebnisse;
     netz.Abbildungsmodus = static_cast<std::uint8_t>(netz.Netztyp & 3);
     liste->ShowPicture(z);
     zrw::fuzz::Bediene(*liste, z);
@@ -132,6 +186,7 @@ void Pruefe(std::string_view eingabe) {
     zustand.KurzeNummern = true;
     liste->ShowPicture(z);
     PruefeExport(*liste, z, zustand);
+    PruefeBlaetter(*liste, z, zustand, einstellungen, netz);
     zrw::fuzz::Bearbeite(*liste, z);
 }
 
