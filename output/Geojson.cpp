@@ -47,6 +47,12 @@ constexpr std::array<const char*, 7> kRichtungen{"", "AR1", "AR2", "AST", "ARI1"
 constexpr std::array<std::pair<KanteAttr::Art, const char*>, 4> kBeobachtungen{
     {{KanteAttr::ST, "ST"}, {KanteAttr::GPS, "GPS"}, {KanteAttr::DH1, "DH1"}, {KanteAttr::DH2, "DH2"}}};
 
+/// Picture files may hold values without a name; they stay as they are and say nothing here.
+template <std::size_t N>
+std::string Name(const std::array<const char*, N>& namen, std::size_t wert) {
+    return wert < N ? namen[wert] : "";
+}
+
 /// Cartesian networks come into the plane by Gauss-Krüger, whatever else their file says.
 Abbildung AbbildungVon(const Netzangaben& netz) {
     const bool kartesisch = netz.Netztyp == 6 || netz.Netztyp == 7;
@@ -132,7 +138,7 @@ void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const P
     g.BeginneFigur();
     g.Feld("nummer", Cp1252NachUtf8(nummer));
     g.Feld("punktart", std::string(ZurArt(p.Item->PktArt).kuerzel));
-    g.Feld("symbol", std::string(kSymbole[static_cast<std::size_t>(p.Item->PktTyp)]));
+    g.Feld("symbol", Name(kSymbole, static_cast<std::size_t>(p.Item->PktTyp)));
     g.Feld("sichtbar", p.Item->Visible);
     if (const Punktergebnis* e =
             ergebnisse != nullptr && !nummer.empty() ? ergebnisse->Zu(nummer) : nullptr) {
@@ -191,7 +197,7 @@ void SchreibeGeojson(const Liste& liste, const Netzangaben& netz, const Einstell
         const PunktKnoten* a = liste.SuchPkt(k->ANr);
         const PunktKnoten* e = liste.SuchPkt(k->ENr);
         if (a == nullptr || e == nullptr || !Endlich(*a) || !Endlich(*e)) continue;
-        std::string arten = kRichtungen[static_cast<std::size_t>(k->Item->LAttr)];
+        std::string arten = Name(kRichtungen, static_cast<std::size_t>(k->Item->LAttr));
         for (const auto& [art, name] : kBeobachtungen) {
             if (k->Item->KAttr.Hat(art)) arten += (arten.empty() ? "" : ",") + std::string(name);
         }

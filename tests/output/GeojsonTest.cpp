@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <limits>
+
 #include "tests/hilfe/Probenetz.h"
 #include "tests/hilfe/Speicherdateien.h"
 
@@ -42,6 +45,22 @@ TEST(Geojson, PunkteUndLinienMitAllemWasBekanntIst) {
               "{\"type\":\"Feature\",\"properties\":{\"von\":\"A\\\"Ü\",\"nach\":\"B \",\"beobachtungen\":"
               "\"AR2,ST\",\"grob\":true,\"sichtbar\":true},\"geometry\":{\"type\":\"LineString\","
               "\"coordinates\":[[3500000.5,5600000.25],[3500100,5600100]]}}\n]}\n");
+}
+
+TEST(Geojson, WerteOhneNamenUndPunkteOhneOrt) {
+    // As damaged picture files bring them.
+    Probenetz n;
+    n.P(1, 1, 2).Item->PktTyp = static_cast<PunktTyp>(111);
+    n.P(2, std::numeric_limits<double>::quiet_NaN(), 2);
+    n.P(3, 5, 6);
+    n.K(1, 3).Item->LAttr = static_cast<LinieAttr>(200);
+    n.K(1, 2);
+    Speicherdateien dateien;
+    SchreibeGeojson(n.l, {}, n.e, nullptr, dateien, "n.geojson");
+    const std::string& text = dateien.dateien.at("n.geojson");
+    EXPECT_NE(text.find("\"symbol\":\"\""), std::string::npos) << text;
+    EXPECT_NE(text.find("\"beobachtungen\":\"ST\""), std::string::npos) << text;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 5) << "two points and one line\n" << text;
 }
 
 TEST(Geojson, EpsgNurWoDasNetzEinenBestimmt) {
