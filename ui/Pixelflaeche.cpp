@@ -96,8 +96,39 @@ void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
 
 void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     const Stift& stift = AktuellerStift();
-    if (!schnell_ || stift.breite > 1) return Malerflaeche::Linie(von, nach);
-    pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
+    if (!schnell_) return Malerflaeche::Linie(von, nach);
+    if (stift.breite <= 1) {
+        pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
+    } else if (const Pixelmaske* maske = BreiterStrich(von, nach)) {
+        pixel_.Maske(*maske, von.x, von.y, Pixelfarbe(stift.farbe));
+    } else {
+        Malerflaeche::Linie(von, nach);
+    }
+}
+
+/// Short strokes of double width, of which large ellipses consist; null for others.
+const Pixelmaske* Pixelflaeche::BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach) {
+    constexpr int kReichweite = 8;
+    constexpr int kSeite = 2 * kReichweite + 1;
+    const std::int64_t dx = std::int64_t{nach.x} - von.x;
+    const std::int64_t dy = std::int64_t{nach.y} - von.y;
+    if (AktuellerStift() != Stift{AktuellerStift().farbe, 2, Strichart::Voll} || std::abs(dx) > kReichweite ||
+        std::abs(dy) > kReichweite)
+        return nullptr;
+    breite_.resize(kSeite * kSeite);
+    auto& maske = breite_[static_cast<std::size_t>((dy + kReichweite) * kSeite + dx + kReichweite)];
+    if (!maske) {
+        constexpr int kMitte = kReichweite + kRand;
+        QImage bild(2 * kMitte + 1, 2 * kMitte + 1, QImage::Format_RGB32);
+        bild.fill(Qt::white);
+        QPainter maler(&bild);
+        Malerflaeche flaeche(maler, {0, 0, 2 * kMitte, 2 * kMitte});
+        flaeche.SetzeStift({kSchwarz, 2, Strichart::Voll});
+        flaeche.Linie({kMitte, kMitte}, {kMitte + static_cast<int>(dx), kMitte + static_cast<int>(dy)});
+        maler.end();
+        maske = MaskeVon(bild, qRgb(0, 0, 0), {kMitte, kMitte});
+    }
+    return &*maske;
 }
 
 Pixelflaeche::Stempel Pixelflaeche::Praege(Form form, std::span<const Flaechenpunkt> ecken) const {

@@ -44,6 +44,7 @@ class Pixelflaeche : public Malerflaeche {
         int vorschub = 0;
     };
 
+    [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
     bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] Stempel Praege(Form form, std::span<const Flaechenpunkt> ecken) const;
@@ -52,6 +53,7 @@ class Pixelflaeche : public Malerflaeche {
     bool schnell_ = true;
     Pixelbild pixel_;
     std::vector<Stempel> stempel_;
+    std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
     mutable std::array<std::optional<Glyphe>, 256> glyphen_;  ///< of the current font, made when first drawn
 };
 

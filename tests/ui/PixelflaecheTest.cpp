@@ -58,6 +58,22 @@ TEST_F(Pixel, ZwanzigtausendStricheWieDerMaler) {
     EXPECT_EQ(verschieden_, 0);
 }
 
+TEST_F(Pixel, BreiteStricheWieDerMaler) {
+    for (int i = 0; i < 4000; ++i) {
+        const int weit = i % 4 == 0 ? 40 : 9;
+        const Flaechenpunkt a{Wuerfle(50, kWeite - 51), Wuerfle(50, kHoehe - 51)};
+        const Flaechenpunkt b{a.x + Wuerfle(-weit, weit), a.y + Wuerfle(-weit, weit)};
+        const Stift stift{Farbwahl(), 2, Strichart::Voll};
+        Vergleiche(
+            [&](Zeichenflaeche& f) {
+                f.SetzeStift(stift);
+                f.Linie(a, b);
+            },
+            std::to_string(b.x - a.x) + "," + std::to_string(b.y - a.y));
+    }
+    EXPECT_EQ(verschieden_, 0);
+}
+
 TEST_F(Pixel, FormenWieDerMalerAuchAmRand) {
     // The painter in a picture with a margin: at a border it draws shapes from other strokes than inside.
     constexpr int kRand = 40;
