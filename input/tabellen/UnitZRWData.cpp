@@ -76,7 +76,7 @@ void TDM::SetzeOrdner(std::filesystem::path ordner) {
         datenbank_.Entferne(kErgebnistabellen[i].name);
         staende_[i].reset();
     }
-    punkte_.clear();
+    punkte_ = {};
     punktestand_.reset();
     gemeldet_.reset();
 }
@@ -152,16 +152,21 @@ TDM::Punkttafel TDM::LiesPunkte() const {
     for (const auto& [feld, ziel] : kFelder)
         abfrage += Stelle(spalten, feld) < spalten.size() ? ",KOOTABLE." + std::string(feld) : ",NULL";
     Punkttafel tafel;
+    std::vector<PunktNummernTyp> nummern;
     datenbank_.FuerJedeZeile(abfrage + " from KOOTABLE order by rowid", [&](std::span<const Zelle> zeile) {
         const auto* text = std::get_if<std::string>(&zeile.front());
         if (text == nullptr) return;
         const std::string nummer = Utf8NachCp1252(*text);
         if (nummer.empty() || nummer.size() > PunktNummernTyp::kLaenge) return;
-        const auto [stelle, neu] = tafel.try_emplace(PunktNummernTyp(nummer));
-        if (!neu) return;
+        nummern.emplace_back(nummer);
+        Punktergebnis& ergebnis = tafel.werte.emplace_back();
         for (std::size_t i = 0; i < kFelder.size(); ++i)
-            Nimm(zeile[i + 1], stelle->second.*kFelder[i].second);
+            Nimm(zeile[i + 1], ergebnis.*kFelder[i].second);
     });
+    // From the last to the first: the first row of a number is the one that counts.
+    tafel.zu.Erwarte(nummern.size());
+    for (std::size_t i = nummern.size(); i-- > 0;)
+        tafel.zu.Setze(nummern[i], &tafel.werte[i]);
     return tafel;
 }
 
@@ -169,7 +174,7 @@ void TDM::Erneuere() {
     const auto datei = Datei(Tabelle::Koordinaten);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
     if (!jetzt) {
-        punkte_.clear();
+        punkte_ = {};
         punktestand_.reset();
         return;
     }
@@ -186,8 +191,7 @@ void TDM::Erneuere() {
 }
 
 const Punktergebnis* TDM::Zu(std::string_view nummer) const {
-    const auto stelle = punkte_.find(PunktNummernTyp(nummer));
-    return stelle != punkte_.end() ? &stelle->second : nullptr;
+    return punkte_.zu.Finde(PunktNummernTyp(nummer));
 }
 
 std::string TDM::NimmMeldung() {

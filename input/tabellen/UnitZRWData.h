@@ -7,13 +7,13 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "input/tabellen/Datenbank.h"
 #include "input/tabellen/Ergebnistabellen.h"
 #include "input/tabellen/Punktergebnisse.h"
 #include "model/Dateien.h"
+#include "model/Figurenindex.h"
 #include "model/Werte.h"
 
 namespace zrw {
@@ -48,12 +48,19 @@ class TDM final : public Punktergebnisse {
         Dateistand stand;
         std::vector<std::string> spalten;
     };
-    struct Streuung {
-        [[nodiscard]] std::size_t operator()(const PunktNummernTyp& nummer) const {
-            return nummer.Streuwert(0x5A4157494BULL);
-        }
+    /// Results and the way to them: a picture asks once for every point.
+    struct Punkttafel {
+        std::vector<Punktergebnis> werte;
+        Streutafel<PunktNummernTyp, const Punktergebnis*> zu{0x5A4157494BULL};
+
+        Punkttafel() = default;
+        // A copy would point into the results of the other.
+        Punkttafel(Punkttafel&&) = default;
+        Punkttafel& operator=(Punkttafel&&) = default;
+        Punkttafel(const Punkttafel&) = delete;
+        Punkttafel& operator=(const Punkttafel&) = delete;
+        ~Punkttafel() = default;
     };
-    using Punkttafel = std::unordered_map<PunktNummernTyp, Punktergebnis, Streuung>;
 
     [[nodiscard]] std::optional<std::filesystem::path> Datei(Tabelle tabelle) const;
     /// Brings the database to the state of the file. @return whether there is one
