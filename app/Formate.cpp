@@ -96,7 +96,10 @@ void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
 }
 
 void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {
-    SchreibeGeojson(a.liste, a.netz, a.einstellungen, a.zustand.Ergebnisse, a.dateien, datei);
+    Netzangaben netz = a.netz;
+    // A picture file keeps neither ellipsoid nor meridian: its grid is not known.
+    if (a.ausBild) netz.Netztyp = 0;
+    SchreibeGeojson(a.liste, netz, a.einstellungen, a.zustand.Ergebnisse, a.dateien, datei);
 }
 
 constexpr std::array<Format, 8> kFormate{{

@@ -97,6 +97,7 @@ void Exportiere(const Aufruf& aufruf) {
                           .dpi = aufruf.dpi,
                           .papier = aufruf.quer ? aufruf.papier.Gedreht() : aufruf.papier,
                           .alleBlaetter = aufruf.alleBlaetter,
+                          .ausBild = IstBilddatei(datei),
                           .sage = &Drucke,
                           .eingabe = eingabe};
     for (const std::string& name : aufruf.formate) {

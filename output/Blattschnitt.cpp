@@ -21,12 +21,14 @@ class Schnitt {
         : breite_(breite), hoehe_(hoehe), ursprung_(ursprung) {}
 
     void Punkt(Welt w) {
+        if (!Endlich(w)) return;
         const Lage l = LageVon(w);
         Belege(std::floor(l.zeile), std::floor(l.spalte));
     }
 
     /// Every sheet that the line crosses, column by column.
     void Linie(Welt von, Welt nach) {
+        if (!Endlich(von) || !Endlich(nach)) return;
         Lage a = LageVon(von);
         Lage b = LageVon(nach);
         if (a.spalte > b.spalte) std::swap(a, b);
@@ -57,7 +59,9 @@ class Schnitt {
         double zeile;
         double spalte;
     };
-    /// In sheets, downwards and to the right. Positions that are no numbers lie nowhere.
+    /// Positions that are no numbers lie nowhere.
+    [[nodiscard]] static bool Endlich(Welt w) { return std::isfinite(w.rechts) && std::isfinite(w.hoch); }
+    /// In sheets, downwards and to the right.
     [[nodiscard]] Lage LageVon(Welt w) const {
         const Lage l{(ursprung_.hoch - w.hoch) / hoehe_, (w.rechts - ursprung_.rechts) / breite_};
         if (!(std::abs(l.zeile) < kWeitestes && std::abs(l.spalte) < kWeitestes)) ZuViele();

@@ -26,11 +26,16 @@ class Druckgroessen {
 /// The legend stands in the corner of the sheet where it stands in that of the picture.
 class Legendenort {
   public:
-    Legendenort(Legende* legende, double geraetefaktor) : legende_(legende) {
+    Legendenort(Legende* legende, double geraetefaktor, const std::optional<Bildpunkt>& ort)
+        : legende_(legende) {
         if (legende_ == nullptr) return;
         vorher_ = legende_->Position();
         legende_->XO = RundeZuInt64(static_cast<double>(vorher_.x) * geraetefaktor);
         legende_->YO = RundeZuInt64(static_cast<double>(vorher_.y) * geraetefaktor);
+        if (ort) {
+            legende_->XO = ort->x;
+            legende_->YO = ort->y;
+        }
     }
     ~Legendenort() {
         if (legende_ == nullptr) return;
@@ -55,7 +60,7 @@ void Drucke(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Einstellu
         const Geraeteansicht ansicht(liste, zustand, Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung),
                                      auftrag.ecke);
         const Druckgroessen groessen(einstellungen, geraetefaktor);
-        const Legendenort legendenort(liste.Legend.get(), geraetefaktor);
+        const Legendenort legendenort(liste.Legend.get(), geraetefaktor, auftrag.legende);
         // The sheet is the picture: grids reach to its edges.
         liste.Weite = auftrag.seite.weite;
         liste.Hoehe = auftrag.seite.hoehe;

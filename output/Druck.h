@@ -32,6 +32,8 @@ struct Druckauftrag {
     std::string massstabtext;  ///< the same as the legend names it, code page 1252
     Druckseite seite;
     std::optional<Welt> ecke{};  ///< world position of the sheet's top-left corner; none: that of the picture
+    /// Where the legend stands on the sheet [dots]; none: as far from its corner as in the picture.
+    std::optional<Bildpunkt> legende{};
 };
 
 /// Draws the network with its overlays onto a sheet. The legend keeps naming the print scale. View, drawing

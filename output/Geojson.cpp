@@ -169,6 +169,7 @@ std::optional<int> EpsgCode(const Netzangaben& netz, const Liste& liste) {
         min = std::min(min, p->XWPu);
         max = std::max(max, p->XWPu);
     }
+    if (netz.Hauptmeridian < -180 || netz.Hauptmeridian > 180) return std::nullopt;
     const Abbildung abbildung = AbbildungVon(netz);
     const bool utm = abbildung == Abbildung::Utm;
     // Zones have their meridians every 3 or 6 degrees; others belong to no common grid.

@@ -14,8 +14,12 @@
 namespace zrw {
 
 QString MitEndung(const QString& name, const QString& endung) {
-    const QString schluss = QLatin1Char('.') + endung;
-    return endung.isEmpty() || name.endsWith(schluss, Qt::CaseInsensitive) ? name : name + schluss;
+    if (endung.isEmpty()) return name;
+    const QStringList moegliche = endung.split(QLatin1Char(';'));
+    for (const QString& m : moegliche) {
+        if (name.endsWith(QLatin1Char('.') + m, Qt::CaseInsensitive)) return name;
+    }
+    return name + QLatin1Char('.') + moegliche.front();
 }
 
 void QtDialogdienst::Zeige(int symbol, const QString& text) {

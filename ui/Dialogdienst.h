@@ -19,7 +19,7 @@ struct Dateiwahl {
     QString filter;     ///< in Qt's form: "Text (*.EIN);;Alle Dateien (*.*)"
     QString ordner;     ///< empty: the system's own choice
     QString vorschlag;  ///< proposed name, for saving
-    QString endung;     ///< added where the user gives none, for saving
+    QString endung;     ///< added where the user gives none, for saving; "bmp;png": or one of several
 };
 
 /// The name with ".ENDUNG" behind it unless it ends so already, in any case. A name may have other dots:

@@ -3,11 +3,13 @@
 #include <QFile>
 #include <QFontInfo>
 #include <QPageSetupDialog>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -71,8 +73,6 @@ Druckseite Systemdrucker::Seite() const {
 
 bool Systemdrucker::Waehle(QWidget* eltern) {
     QPrintDialog dialog(&Geraet(), eltern);
-    // The plot is one sheet: there are no pages to choose from.
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     return dialog.exec() == QDialog::Accepted;
 }
 
@@ -83,6 +83,15 @@ bool Systemdrucker::RichteEin(QWidget* eltern) {
 
 void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
     const Druckseite seite = Seite();
+    int erstes = 0;
+    int letztes = werk.blaetter;
+    if (geraet.printRange() == QPrinter::PageRange && geraet.fromPage() > 0) {
+        erstes = geraet.fromPage() - 1;
+        letztes = std::min(letztes, geraet.toPage());
+        if (erstes >= letztes)
+            throw Fehler("Diese Seiten gibt es nicht: Der Plan hat " + std::to_string(werk.blaetter) +
+                         " Blätter.");
+    }
     QPainter maler;
     const auto misslungen = [&] {
         const QString ziel = geraet.outputFileName();
@@ -96,13 +105,14 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
         std::lround(QFontInfo(werk.schrift).pixelSize() * seite.aufloesung / kBildaufloesung)));
     druckschrift.setHintingPreference(QFont::PreferNoHinting);
     try {
-        for (int i = 0; i < werk.blaetter; ++i) {
-            if (i > 0 && !geraet.newPage()) throw misslungen();
+        for (int i = erstes; i < letztes; ++i) {
+            if (i > erstes && !geraet.newPage()) throw misslungen();
             Druckflaeche flaeche(maler, seite, druckschrift);
             werk.zeichne(flaeche, i);
         }
     } catch (...) {
-        geraet.abort();
+        // A preview keeps the pages that were drawn: freeing them now would leave it with none.
+        if (geraet.paintEngine()->type() != QPaintEngine::Picture) geraet.abort();
         throw;
     }
     if (!maler.end() || geraet.printerState() == QPrinter::Error) throw misslungen();
@@ -118,6 +128,10 @@ void Systemdrucker::Drucke(const Druckwerk& werk) {
     }
     // Into a file of its own first: the one that the user named is replaced as a whole or not at all.
     const QTemporaryDir ordner;
+    // Without a name of a file the job would go to the printer.
+    if (!ordner.isValid())
+        throw Fehler("Der Druck lässt sich nicht zwischenspeichern (kein Ordner für Zwischendateien).",
+                     NachUtf8(ziel));
     const QString entwurf = ordner.filePath(QStringLiteral("druck.pdf"));
     geraet.setOutputFileName(entwurf);
     try {
@@ -146,8 +160,8 @@ bool Systemdrucker::ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const 
     dialog.male = [&](QPrinter& geraet) {
         try {
             Male(geraet, werk);
-        } catch (const Fehler& f) {
-            fehler = f;  // not through the widget that asked
+        } catch (const std::exception& f) {
+            fehler = Fehler(f.what());  // not through the widget that asked
         }
     };
     const bool drucken = dialog.exec() == QDialog::Accepted;

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCompleter>
+#include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -255,6 +256,8 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
     EditMasstab_->setToolTip(QStringLiteral("Druckmaßstab"));
     connect(EditMasstab_, &QLineEdit::textChanged, this, [this] { AktualisiereRahmen(); });
+    // Keys go to the plot again: "Strg+Z" is then its own, not that of the field.
+    connect(EditMasstab_, &QLineEdit::returnPressed, this, [this] { bild_->setFocus(); });
     EditMasstab_->setFixedWidth(
         EditMasstab_->fontMetrics().horizontalAdvance(QStringLiteral("000000000000")));
     schild->setBuddy(EditMasstab_);
@@ -311,7 +314,14 @@ void TZrwMainDlg::BaueDialoge() {
             [this] { Knopf("SpeedButton14").setChecked(false); });
     ergebnisse_ = new TFormData(programm_.sitzung, this);
     ergebnisse_->reiterGewechselt = [this] { ListeAuf(); };
-    ergebnisse_->zeigePunkt = [this](const QString& nummer) { MarkierePunkt(nummer); };
+    ergebnisse_->zeigePunkt = [this](const QString& nummer) {
+        // Exactly this one: the search of the number field would find others.
+        if (liste_ != nullptr && liste_->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
+            ZeigeStatus(QStringLiteral("Punkt %1 ist nicht im Plan.").arg(nummer));
+        } else {
+            MarkierePunkt(nummer);
+        }
+    };
     punktart_ = new TFormPunktart(this);
     punktart_->zeichnen = [this] { ZeichnePunktart(); };
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
@@ -364,6 +374,11 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         }
     }
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
+    const bool ausTabelle = schalter.inListe == &Liste::ShowLgRes || schalter.inListe == &Liste::ShowHRes ||
+                            schalter.inListe == &Liste::ShowLGGen || schalter.inListe == &Liste::ShowHGen;
+    if (ein && ausTabelle && liste_ != nullptr && !programm_.daten.Vorhanden("KooTABLE.DB"))
+        ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
+                    QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));
     if (schalter.schliesstErgebnisse) ergebnisse_->hide();
     if (schalter.inListe == nullptr && schalter.imZustand == nullptr) AktualisiereRahmen();
     if (liste_ != nullptr) ZeichneNeu();

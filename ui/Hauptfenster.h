@@ -173,6 +173,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     [[nodiscard]] std::optional<double> Druckmassstab();
     [[nodiscard]] std::vector<Blatt> Blaetter(double massstab, const Druckseite& seite) const;
     [[nodiscard]] Druckwerk Druckauftraege(std::vector<Blatt> blaetter, double massstab);
+    [[nodiscard]] std::optional<Bildpunkt> Legendenort(const Druckauftrag& auftrag) const;
     [[nodiscard]] QImage Blattuebersicht(const std::vector<Blatt>& blaetter, double faktor,
                                          const Druckseite& seite);
     void AktualisiereRahmen();
@@ -211,13 +212,14 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     TFormHidePunkte* punkteVerstecken_ = nullptr;
     TFormHiddenPkt* versteckte_ = nullptr;
     TFormData* ergebnisse_ = nullptr;
-    std::unique_ptr<Hilfefenster> hilfe_;      ///< made when it is first needed
-    std::pair<QString, QString> aufgelistet_;  ///< numbers of what the results are of; a point has one
-    QStringList zuZeigen_;                     ///< hidden points that are being shown again
-    QSet<QString> zentriert_;                  ///< numbers that left the lists of centring
-    bool ausdehnungAlt_ = false;               ///< points may lie beyond the extents of the network
-    Welt gewaehltOrt_;                         ///< as the dialog of point kinds shows it
-    PunktKnoten* gewaehlt_ = nullptr;          ///< the point in the dialog of point kinds
+    std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
+    QString aufgelistet_;                  ///< number of what the results are of, of a line its first point
+    std::optional<QString> zweiterAufgelisteter_;  ///< the second point of a line
+    QStringList zuZeigen_;                         ///< hidden points that are being shown again
+    QSet<QString> zentriert_;                      ///< numbers that left the lists of centring
+    bool ausdehnungAlt_ = false;                   ///< points may lie beyond the extents of the network
+    Welt gewaehltOrt_;                             ///< as the dialog of point kinds shows it
+    PunktKnoten* gewaehlt_ = nullptr;              ///< the point in the dialog of point kinds
     /// Views before zooming: scale and world position of the top-left corner.
     std::vector<std::pair<double, Welt>> ansichten_;
     QString titel_;

@@ -201,9 +201,9 @@ Werkzeug* TZrwMainDlg::Zustaendig(Bildpunkt ort) const {
 
 void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
     if (gedrueckt_ != nullptr) {
-        // A second button during a drag ends it.
+        // A second button during a drag ends it; the same one again means that its release went elsewhere.
         BrichAb();
-        return;
+        if (taste != taste_) return;
     }
     if (liste_ == nullptr) return;
     if (taste == Qt::RightButton && Aktiv() != nullptr) {

@@ -234,7 +234,8 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->Abbrechen();
     ergebnisse_->hide();
-    aufgelistet_ = {};
+    aufgelistet_.clear();
+    zweiterAufgelisteter_.reset();
     druckrahmen_.Loese();
     gewaehlt_ = nullptr;
     ansichten_.clear();

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "model/Fehler.h"
+#include "model/Ganzzahl.h"
 #include "output/Export.h"
 #include "output/Geraeteansicht.h"
 #include "ui/Hauptfenster.h"
@@ -42,13 +43,27 @@ Druckwerk TZrwMainDlg::Druckauftraege(std::vector<Blatt> blaetter, double massst
     werk.titel = QStringLiteral("Zarwik ") + QFileInfo(AusUtf8(PfadText(steuerdatei_))).fileName();
     werk.schrift = flaeche_.Schrift();
     werk.blaetter = static_cast<int>(blaetter.size());
-    const std::string text = Utf8NachCp1252(NachUtf8(EditMasstab_->text()));
-    werk.zeichne = [this, blaetter = std::move(blaetter), massstab, text](Zeichenflaeche& flaeche,
-                                                                          int nummer) {
-        Drucke(*liste_, zeichner_, programm_.zustand, programm_.einstellungen, flaeche,
-               {massstab, text, programm_.drucker.Seite(), blaetter[static_cast<std::size_t>(nummer)].ecke});
+    Druckauftrag auftrag{massstab, Utf8NachCp1252(NachUtf8(EditMasstab_->text())), programm_.drucker.Seite()};
+    auftrag.legende = Legendenort(auftrag);
+    werk.zeichne = [this, blaetter = std::move(blaetter), auftrag](Zeichenflaeche& flaeche,
+                                                                   int nummer) mutable {
+        auftrag.ecke = blaetter[static_cast<std::size_t>(nummer)].ecke;
+        Drucke(*liste_, zeichner_, programm_.zustand, programm_.einstellungen, flaeche, auftrag);
     };
     return werk;
+}
+
+/// A legend that stands within the frame of the output area stands there on the sheet.
+std::optional<Bildpunkt> TZrwMainDlg::Legendenort(const Druckauftrag& auftrag) const {
+    const bool rahmen = findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview"))->isChecked();
+    if (!rahmen || liste_->Legend == nullptr) return std::nullopt;
+    const double dot = Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung);
+    const Welt ecke = druckrahmen_.Ecke(*liste_);
+    const Welt w = liste_->BildinWelt(liste_->Legend->Position());
+    const Bildpunkt ort{RundeZuInt64((w.rechts - ecke.rechts) / dot),
+                        RundeZuInt64((ecke.hoch - w.hoch) / dot)};
+    const bool darin = ort.x >= 0 && ort.y >= 0 && ort.x < auftrag.seite.weite && ort.y < auftrag.seite.hoehe;
+    return darin ? std::optional(ort) : std::nullopt;
 }
 
 void TZrwMainDlg::SpeedButton5Click() {
@@ -58,11 +73,15 @@ void TZrwMainDlg::SpeedButton5Click() {
     if (!massstab || !programm_.drucker.Waehle(this)) return;
     AktualisiereRahmen();  // other paper may have been chosen
     auto blaetter = Blaetter(*massstab, programm_.drucker.Seite());
+    const bool leer = std::find(blaetter.begin(), blaetter.end(), Blatt{}) == blaetter.end();
     if (blaetter.size() > 1) {
         const auto alle = programm_.dialoge.FrageMitAbbruch(
             QStringLiteral("In diesem Maßstab verteilt sich der Plan auf %1 Blätter. Alle drucken?\n"
-                           "Nein druckt nur das Blatt des Ausgabebereichs.")
-                .arg(blaetter.size()));
+                           "Nein druckt nur eines: %2.%3")
+                .arg(blaetter.size())
+                .arg(druckrahmen_.Ecke() ? QStringLiteral("das des Ausgabebereichs")
+                                         : QStringLiteral("das in der linken oberen Ecke des Bildes"),
+                     leer ? QStringLiteral("\nAuf diesem liegt nichts vom Plan.") : QString()));
         if (!alle) return;
         if (!*alle) blaetter = {{0, 0, druckrahmen_.Ecke(*liste_)}};
     }
@@ -160,7 +179,7 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
                                               QStringLiteral("Bitmap (*.bmp *.BMP);;PNG-Bild (*.png *.PNG)"),
                                               ordner_,
                                               {},
-                                              QStringLiteral("bmp")});
+                                              QStringLiteral("bmp;png")});
     if (!name) return;
     QImage bild = flaeche_.Bild().copy();
     {

@@ -59,7 +59,8 @@ void TZrwMainDlg::ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kant
 void TZrwMainDlg::DisplayPunkt(const PunktKnoten& punkt) {
     const QString n = AusNetz(liste_->GetPktText(punkt.PNr));
     ergebnisse_->Betitle(QStringLiteral("Abriss nach der Ausgleichung Punkt ") + n, Angaben(punkt), n);
-    aufgelistet_ = {n, {}};
+    aufgelistet_ = n;
+    zweiterAufgelisteter_.reset();
     ListeAuf();
     ergebnisse_->Zeige();
 }
@@ -69,15 +70,18 @@ void TZrwMainDlg::DisplayKante(const PunktKante& kante) {
     const QString b = AusNetz(liste_->GetPktText(kante.ENr));
     ergebnisse_->Betitle(QStringLiteral("Abriss nach der Ausgleichung P1= %1  P2= %2").arg(a, b),
                          Angaben(*liste_, kante), a);
-    aufgelistet_ = {a, b};
+    aufgelistet_ = a;
+    zweiterAufgelisteter_ = b;
     ListeAuf();
     ergebnisse_->Zeige();
 }
 
 /// The results of what was listed last on the tab that is open now.
 void TZrwMainDlg::ListeAuf() {
-    const auto& [a, b] = aufgelistet_;
-    if (a.isEmpty()) return;
+    const QString& a = aufgelistet_;
+    const auto& b = zweiterAufgelisteter_;
+    if (a.isEmpty() || (b && b->isEmpty()))
+        return ergebnisse_->Leere(QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse"));
     const Ergebnisreiter& reiter = ergebnisse_->Reiter();
     if (!programm_.daten.Vorhanden(reiter.datei)) {
         ergebnisse_->Leere(AusUtf8(reiter.datei) + QStringLiteral(" liegt nicht beim Netz"));
@@ -85,9 +89,10 @@ void TZrwMainDlg::ListeAuf() {
     }
     try {
         const std::string abfrage =
-            Abfragetext(b.isEmpty() ? reiter.punkt : reiter.kante, NachUtf8(a), NachUtf8(b));
+            b ? Abfragetext(reiter.kante, NachUtf8(a), NachUtf8(*b)) : Abfragetext(reiter.punkt, NachUtf8(a));
         ergebnisse_->Fuelle(programm_.daten.Frage(reiter.tabelle, abfrage));
     } catch (const std::exception& f) {
+        ergebnisse_->Leere(AusUtf8(reiter.datei) + QStringLiteral(" ist nicht lesbar"));
         ZeigeFehler(f);
     }
     ZeigeTabellenmeldung();

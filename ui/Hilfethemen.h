@@ -76,7 +76,7 @@ struct Hilfekomponente {
     int kontext;
 };
 
-inline constexpr std::array<Hilfekomponente, 68> kHilfekomponenten{{
+inline constexpr std::array<Hilfekomponente, 69> kHilfekomponenten{{
     // Files
     {"SpeedButton1", 5},
     {"SpeedButton2", 5},
@@ -148,6 +148,7 @@ inline constexpr std::array<Hilfekomponente, 68> kHilfekomponenten{{
     {"TFormHidePunkte", 22},
     {"TFormHiddenPkt", 23},
     {"TFormData", 24},
+    {"Druckvorschau", 35},
     {"TZRWLBLForm", 28},
     {"TZRWParameter", 30},
     {"TAboutBox", 33},

@@ -91,6 +91,7 @@ void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
 
 void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
     glyphen_.fill({});
+    zeichenweise_ = !schrift.kerning() && schrift.hintingPreference() == QFont::PreferFullHinting;
     Malerflaeche::SetzeSchrift(schrift);
 }
 
@@ -235,7 +236,8 @@ const Pixelflaeche::Glyphe& Pixelflaeche::Zeichen(char c) const {
 }
 
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
-    if (!schnell_ || Schrifthoehe() > kGroessteSchrift) return Malerflaeche::Text(ort, text, farbe);
+    if (!schnell_ || !zeichenweise_ || Schrifthoehe() > kGroessteSchrift)
+        return Malerflaeche::Text(ort, text, farbe);
     Textzeile zeile(pixel_, Pixelfarbe(farbe), ort);
     for (const char c : text) {
         const Glyphe& g = Zeichen(c);

@@ -51,6 +51,7 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] const Glyphe& Zeichen(char c) const;
 
     bool schnell_ = true;
+    bool zeichenweise_ = true;  ///< characters of the font stand whole pixels apart, whatever is beside them
     Pixelbild pixel_;
     std::vector<Stempel> stempel_;
     std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction

@@ -6,7 +6,8 @@
 
 namespace zrw {
 
-/// Fields of the coordinate table, in the units of the adjustment (lengths [mm]); 0 where a field is null.
+/// Fields of the coordinate table, in the units of the adjustment (lengths [mm]); not a number where a field
+/// is null, but for `mL`, which then is 0.
 struct Punktergebnis {
     double dY = 0.0;   ///< residual of the easting
     double dX = 0.0;   ///< residual of the northing

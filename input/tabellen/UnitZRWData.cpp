@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 #include "input/tabellen/Paradoxleser.h"
@@ -56,8 +58,9 @@ void Ordne(Antwort& antwort, std::span<const Tabellenfeld> felder) {
     antwort.spalten = std::move(spalten);
 }
 
-/// Null leaves the number as it is.
+/// What is null is no number: it is left out of pictures and files instead of looking free of errors.
 void Nimm(const Zelle& zelle, double& zahl) {
+    zahl = std::numeric_limits<double>::quiet_NaN();
     if (const auto* ganz = std::get_if<std::int64_t>(&zelle)) zahl = static_cast<double>(*ganz);
     if (const auto* real = std::get_if<double>(&zelle)) zahl = *real;
 }
@@ -97,7 +100,16 @@ bool TDM::Aktualisiere(Tabelle tabelle) {
     const auto datei = Datei(tabelle);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
     if (!jetzt) return false;
-    if (!stand || stand->datei != *datei || stand->stand != *jetzt) Importiere(tabelle, *datei, *jetzt);
+    if (stand && stand->datei == *datei && (stand->stand == *jetzt || stand->gescheitert == *jetzt))
+        return true;
+    try {
+        Importiere(tabelle, *datei, *jetzt);
+    } catch (const Fehler& f) {
+        if (!stand) throw;
+        meldung_ = std::string(f.what()) + " Es gelten die zuletzt gelesenen Werte.";
+        // What may only be locked is tried again.
+        if (dynamic_cast<const Oeffnungsfehler*>(&f) == nullptr) stand->gescheitert = jetzt;
+    }
     return true;
 }
 
@@ -114,7 +126,7 @@ void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const 
         spalten.push_back(f.name);
     datenbank_.Ersetze(Beschreibung(tabelle).name, spalten, kSuchfelder,
                        [&](const Datenbank::Zeilenziel& ziel) { leser.FuerJedeZeile(ziel); });
-    staende_[Nummer(tabelle)] = Stand{datei, stand, std::move(spalten)};
+    staende_[Nummer(tabelle)] = Stand{datei, stand, std::move(spalten), {}};
 }
 
 Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
@@ -145,6 +157,8 @@ TDM::Punkttafel TDM::LiesPunkte() const {
         {"Y", &Punktergebnis::Y},
         {"H", &Punktergebnis::H},
     }};
+    constexpr std::size_t kStelleML = 8;
+    static_assert(kFelder[kStelleML - 1].first == "mL");
     // One walk over the table in place of one query a point: the first row of a number is what that would
     // give.
     std::string abfrage = "SELECT KOOTABLE.PKT";
@@ -162,6 +176,9 @@ TDM::Punkttafel TDM::LiesPunkte() const {
         Punktergebnis& ergebnis = tafel.werte.emplace_back();
         for (std::size_t i = 0; i < kFelder.size(); ++i)
             Nimm(zeile[i + 1], ergebnis.*kFelder[i].second);
+        // A standard deviation that is not known makes no ellipse wide.
+        if (std::isnan(ergebnis.mL) && std::holds_alternative<std::monostate>(zeile[kStelleML]))
+            ergebnis.mL = 0.0;
     });
     // From the last to the first: the first row of a number is the one that counts.
     tafel.zu.Erwarte(nummern.size());
@@ -178,15 +195,15 @@ void TDM::Erneuere() {
         punktestand_.reset();
         return;
     }
-    if (punktestand_ == jetzt || gemeldet_ == jetzt) return;
+    if (punktestand_ == jetzt) return;
     try {
         Aktualisiere(Tabelle::Koordinaten);
         punkte_ = LiesPunkte();
         punktestand_ = jetzt;
         gemeldet_.reset();
     } catch (const Fehler& f) {
+        if (meldung_.empty() && gemeldet_ != jetzt) meldung_ = f.what();
         gemeldet_ = jetzt;
-        meldung_ = f.what();
     }
 }
 

@@ -25,20 +25,21 @@ class TDM final : public Punktergebnisse {
 
     /// Where the tables lie.
     void SetzeOrdner(std::filesystem::path ordner);
+    [[nodiscard]] const std::filesystem::path& Ordner() const { return ordner_; }
     /// Whether a file of this name lies there.
     [[nodiscard]] bool Vorhanden(std::string_view datei) const;
 
     /// Rows of a query over one table, its fields first and in their order, further ones of the file behind
     /// them; missing fields are null.
-    /// @throws Fehler where the table is missing, damaged or lacks a field of the query; what was imported
-    /// before then still answers the next query if the file is back in its old state
+    /// Where the table has become unreadable, what was read before answers, and `NimmMeldung` tells it.
+    /// @throws Fehler where the table is missing, was never readable or lacks a field of the query
     [[nodiscard]] Antwort Frage(Tabelle tabelle, std::string_view abfrage);
 
     /// Failures are kept for `NimmMeldung`, once for each state of the file; the old results then stay.
     void Erneuere() override;
     [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override;
-    /// What went wrong with the results of points, or looked wrong in a table, since the last call; else
-    /// empty.
+    /// What went wrong with a table that had been read before, or looked wrong in one, since the last call;
+    /// else empty.
     [[nodiscard]] std::string NimmMeldung();
 
   private:
@@ -47,6 +48,7 @@ class TDM final : public Punktergebnisse {
         std::filesystem::path datei;
         Dateistand stand;
         std::vector<std::string> spalten;
+        std::optional<Dateistand> gescheitert;  ///< later state that could not be read
     };
     /// Results and the way to them: a picture asks once for every point.
     struct Punkttafel {

@@ -50,8 +50,15 @@ TEST(Blattschnitt, BlaetterMitPunktenUndGequertenLinien) {
 }
 
 TEST(Blattschnitt, LehntUnsinnigVieleAb) {
-    for (const double fern :
-         {1e9, -1e300, std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+    for (const double nirgends :
+         {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+        Probenetz n;
+        n.P(1, 10, -10);
+        n.P(2, nirgends, 0);
+        n.K(1, 2);
+        EXPECT_EQ(Schneide(n.l), (Lagen{{0, 0}})) << nirgends;
+    }
+    for (const double fern : {1e9, -1e300}) {
         Probenetz n;
         n.P(1, 0, 0);
         n.P(2, fern, 0);

@@ -125,6 +125,16 @@ TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
     Knopf("SpeedButton5").click();
     EXPECT_NE(drucker.blaetter.at(0), ecke) << "another part of the plot";
 
+    // A legend within the frame stands there on the paper: here in its very corner.
+    Liste& liste = const_cast<Liste&>(*fenster.Netz());
+    liste.ShowLegende = true;
+    liste.Legend->XO = 112;  // 12 px right of the frame of 200 px for 1200 dots
+    liste.Legend->YO = 212;
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(drucker.blaetter.at(0).pixelColor(72 + 300, 72 - 12), QColor(Qt::black))
+        << "upper edge of its box";
+    liste.ShowLegende = false;
+
     // It stays at its place in the world: after panning by a key, a tenth of the picture, it has moved with
     // it.
     QTest::keyClick(bild, Qt::Key_Right);

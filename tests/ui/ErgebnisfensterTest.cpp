@@ -8,6 +8,7 @@
 #include <QTabBar>
 #include <QTableView>
 
+#include "input/tabellen/Paradoxschreiber.h"
 #include "tests/ui/Fenster.h"
 
 namespace zrw {
@@ -43,6 +44,7 @@ class Ergebnisfenster : public Netzprobe {
         punkt[0] = std::int64_t{1};
         punkt[1] = "E";
         punkt[7] = 40.0;
+        punkt[8] = 0.0;
         Tabelle(zrw::Tabelle::Koordinaten, {punkt});
         Oeffne("n.EIN");
     }
@@ -106,6 +108,49 @@ TEST_F(Ergebnisfenster, SortiertKopiertUndZeigtDenAnderenEndpunkt) {
     Reiter(0);
     Reiter(2);
     EXPECT_EQ(Gitter().columnWidth(3), 222) << "widths are remembered";
+}
+
+TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
+    Knopf("DataButton").click();
+    Klick(E);
+    Reiter(2);
+    ASSERT_EQ(Gitter().model()->rowCount(), 2);
+    // Damaged after it was read: the old rows answer, those of the right point.
+    Lege("STRTABLE.DB", "halb");
+    Klick(A);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Fenster().windowTitle(), "Abriss nach der Ausgleichung Punkt A");
+    ASSERT_EQ(Gitter().model()->rowCount(), 1);
+    EXPECT_EQ(Zelle(0, "P1"), "A");
+    EXPECT_EQ(dialoge.meldungen.size(), 1) << "told once";
+    Klick(E);
+    EXPECT_EQ(Gitter().model()->rowCount(), 2) << "the click after the message counts";
+    // Damaged before it was ever read: nothing is listed.
+    Lege("DHTABLE.DB", "halb");
+    Reiter(3);
+    EXPECT_EQ(Gitter().model()->rowCount(), 0);
+    // More fields than the next table of this tab has, and a sorting that is not to come back.
+    Reiter(0);
+    Gitter().sortByColumn(1, Qt::DescendingOrder);
+    Gitter().horizontalHeader()->resizeSection(1, 333);
+    const std::vector<paradox::Feld> felder{{"ID", paradox::Feldtyp::Lang, 4},
+                                            {"PKT", paradox::Feldtyp::Alpha, 14}};
+    const auto paar =
+        paradox::Schreibe("KOO", felder, std::vector<std::vector<Wert>>{{std::int64_t{1}, "E"}}, 0);
+    Lege("KooTABLE.DB", paar.db);
+    Klick(E);
+    ASSERT_EQ(Gitter().model()->rowCount(), 1);
+    EXPECT_EQ(Gitter().columnWidth(1), 333);
+    EXPECT_EQ(Gitter().horizontalHeader()->sortIndicatorSection(), -1);
+    // A number of the table that is no longer in the plot.
+    Reiter(2);
+    Modus("DelPunktButton");
+    Klick(C);  // D lies there, too
+    Klick(C);
+    Knopf("DataButton").click();
+    Klick(E);
+    emit Gitter().doubleClicked(Gitter().model()->index(0, 0));
+    EXPECT_EQ(Status(), "Punkt C ist nicht im Plan.");
 }
 
 TEST_F(Ergebnisfenster, DieWahlEinerNummerListetUndDieMausVerbirgt) {

@@ -89,6 +89,7 @@ QVariant Ergebnismodell::data(const QModelIndex& stelle, int rolle) const {
 QVariant Ergebnismodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const {
     if (rolle != Qt::DisplayRole) return {};
     if (richtung == Qt::Vertical) return abschnitt + 1;
+    if (abschnitt < 0 || abschnitt >= columnCount()) return {};
     const Tabellenfeld* feld = Feld(abschnitt);
     if (feld != nullptr && !feld->titel.empty()) return AusUtf8(feld->titel);
     return AusUtf8(antwort_.spalten[S(abschnitt)]);

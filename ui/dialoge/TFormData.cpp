@@ -18,7 +18,7 @@ namespace {
 const QString kFenster = QStringLiteral("Ergebnisse/Fenster");
 
 QString Spalten(int reiter) {
-    return QStringLiteral("Ergebnisse/Spalten%1").arg(reiter);
+    return QStringLiteral("Ergebnisse/Breiten%1").arg(reiter);
 }
 
 }  // namespace
@@ -56,7 +56,6 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
 }
 
 TFormData::~TFormData() {
-    MerkeSpalten();
     sitzung_.MerkeStand(kFenster, saveGeometry());
 }
 
@@ -73,6 +72,8 @@ void TFormData::BaueGitter() {
     gitter_->verticalHeader()->hide();
     connect(gitter_, &QTableView::doubleClicked, this,
             [this](const QModelIndex& stelle) { ZeigeEndpunkt(stelle.row()); });
+    connect(gitter_->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int spalte, int /*vorher*/, int weite) { MerkeBreite(spalte, weite); });
     gitter_->setContextMenuPolicy(Qt::ActionsContextMenu);
     gitter_->installEventFilter(this);
     auto* kopieren = new QAction(QStringLiteral("Kopieren\tStrg+C"), gitter_);
@@ -103,30 +104,52 @@ void TFormData::Betitle(const QString& titel, const QString& angaben, const QStr
     nummer_ = nummer;
 }
 
-void TFormData::MerkeSpalten() const {
-    if (gezeigt_ >= 0) sitzung_.MerkeStand(Spalten(gezeigt_), gitter_->horizontalHeader()->saveState());
+/// Fits the columns to their content, but for those that the user has given a width.
+void TFormData::StelleSpaltenEin() {
+    const QStringList breiten =
+        QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';');
+    stelltEin_ = true;
+    gitter_->resizeColumnsToContents();
+    for (int s = 0; s < modell_.columnCount(); ++s) {
+        const QString anfang = Spaltenname(s) + QLatin1Char('=');
+        for (const QString& b : breiten) {
+            if (const int weite = b.mid(anfang.size()).toInt(); b.startsWith(anfang) && weite > 0)
+                gitter_->setColumnWidth(s, weite);
+        }
+    }
+    stelltEin_ = false;
+}
+
+void TFormData::MerkeBreite(int spalte, int weite) {
+    if (stelltEin_ || spalte >= modell_.columnCount()) return;
+    const QString anfang = Spaltenname(spalte) + QLatin1Char('=');
+    QStringList breiten =
+        QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';', Qt::SkipEmptyParts);
+    breiten.removeIf([&](const QString& b) { return b.startsWith(anfang); });
+    breiten << anfang + QString::number(weite);
+    sitzung_.MerkeStand(Spalten(reiter_->currentIndex()), breiten.join(u';').toUtf8());
+}
+
+QString TFormData::Spaltenname(int spalte) const {
+    return modell_.headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
 void TFormData::Fuelle(Antwort antwort) {
-    MerkeSpalten();
     const std::size_t zeilen = antwort.zeilen.size();
     gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);  // as the query orders them
+    stelltEin_ = true;
     modell_.Setze(Beschreibung(Reiter().tabelle), std::move(antwort));
-    if (const int neu = reiter_->currentIndex(); neu != gezeigt_) {
-        gezeigt_ = neu;
-        const QByteArray breiten = sitzung_.Stand(Spalten(neu));
-        if (!gitter_->horizontalHeader()->restoreState(breiten)) gitter_->resizeColumnsToContents();
-        gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    }
+    stelltEin_ = false;
+    StelleSpaltenEin();
     hinweis_->setText(zeilen == 0   ? QStringLiteral("Keine Ergebnisse in dieser Tabelle")
                       : zeilen == 1 ? QStringLiteral("1 Zeile")
                                     : QStringLiteral("%1 Zeilen").arg(zeilen));
 }
 
 void TFormData::Leere(const QString& grund) {
-    MerkeSpalten();
-    gezeigt_ = -1;
+    stelltEin_ = true;
     modell_.Leere();
+    stelltEin_ = false;
     hinweis_->setText(grund);
 }
 
@@ -151,6 +174,7 @@ void TFormData::Kopiere(bool alles) const {
             texte << modell_.data(modell_.index(z, s), Qt::DisplayRole).toString();
         zeilen << texte.join(QLatin1Char('\t'));
     }
+    if (zeilen.isEmpty()) return;
     QGuiApplication::clipboard()->setText(zeilen.join(QLatin1Char('\n')));
 }
 

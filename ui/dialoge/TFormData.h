@@ -39,7 +39,9 @@ class TFormData final : public QDialog {
     void BaueGitter();
     void Kopiere(bool alles) const;
     void ZeigeEndpunkt(int zeile) const;
-    void MerkeSpalten() const;
+    void StelleSpaltenEin();
+    void MerkeBreite(int spalte, int weite);
+    [[nodiscard]] QString Spaltenname(int spalte) const;
 
     Sitzung& sitzung_;
     Ergebnismodell modell_;
@@ -48,7 +50,7 @@ class TFormData final : public QDialog {
     QLabel* hinweis_;
     QTabBar* reiter_;
     QString nummer_;
-    int gezeigt_ = -1;  ///< tab whose columns stand in the grid
+    bool stelltEin_ = false;  ///< columns change their width, but not by the user
 };
 
 }  // namespace zrw

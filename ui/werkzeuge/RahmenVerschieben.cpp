@@ -22,6 +22,10 @@ void RahmenVerschieben::Ziehen(Bildpunkt ort) {
 }
 
 void RahmenVerschieben::Loslassen(Bildpunkt ort) {
+    if (!anfang_) return;
+    const Welt jetzt = umgebung_.AktuelleListe()->BildinWelt(ort);
+    // A mere click fixes nothing.
+    if (jetzt.rechts == anfang_->rechts && jetzt.hoch == anfang_->hoch) return Abbrechen();
     Ziehen(ort);
     anfang_.reset();
 }
