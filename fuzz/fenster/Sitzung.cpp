@@ -44,6 +44,9 @@ class Sitzungslauf {
         dateien_ << beispiel << Lege("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, saat}))
                  << Lege("leer.EIN", "$NT 3\n") << Lege("kaputt.EIN", "$NT x\n") << "fehlt.EIN"
                  << "bild.ZRW";
+        // Not onto a picture file: a bitmap with a coloured pixel in its corner can be read as one, with the
+        // same number at every point.
+        dialoge_.bitmap = ordner_.filePath("bild.bmp");
         fenster_.resize(1000, 760);
         fenster_.show();
         // A modal dialog runs a loop of its own: this answers it.

@@ -16,9 +16,10 @@ class Antwortdienst final : public Dialogdienst {
     bool ja = false;
     std::optional<bool> antwort;  ///< to questions that can be cancelled
     std::optional<QFont> schrift;
-    QStringList auswahl;           ///< what was offered last
-    std::optional<QString> datei;  ///< chosen in every file dialog; none: cancelled
-    std::optional<Farbe> farbe;    ///< chosen in every colour dialog; none: cancelled
+    QStringList auswahl;            ///< what was offered last
+    std::optional<QString> datei;   ///< chosen in every file dialog; none: cancelled
+    std::optional<QString> bitmap;  ///< for pictures in place of `datei`
+    std::optional<Farbe> farbe;     ///< chosen in every colour dialog; none: cancelled
 
     void Melde(const QString& text) override { meldungen << text; }
     void Sage(const QString& text) override { gesagt << text; }
@@ -41,6 +42,7 @@ class Antwortdienst final : public Dialogdienst {
     }
     std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) override {
         wahlen << wahl;
+        if (bitmap && wahl.endung.startsWith("bmp")) return bitmap;
         return datei;
     }
     std::optional<Farbe> WaehleFarbe(Farbe /*anfang*/) override { return farbe; }
