@@ -23,7 +23,7 @@ class Schnitt {
     void Punkt(Welt w) {
         if (!Endlich(w)) return;
         const Lage l = LageVon(w);
-        Belege(std::floor(l.zeile), std::floor(l.spalte));
+        Belege(Unten(l.zeile), Unten(l.spalte));
     }
 
     /// Every sheet that the line crosses, column by column.
@@ -36,11 +36,12 @@ class Schnitt {
         const auto zeileBei = [&](double spalte) {
             return b.spalte > a.spalte ? a.zeile + (spalte - a.spalte) * steigung : b.zeile;
         };
-        for (double s = std::floor(a.spalte); s <= std::floor(b.spalte); ++s) {
+        const int letzte = Unten(b.spalte);
+        for (int s = Unten(a.spalte); s <= letzte; ++s) {
             const double links = s > a.spalte ? zeileBei(s) : a.zeile;
             const double rechts = s + 1 < b.spalte ? zeileBei(s + 1) : b.zeile;
-            const auto [oben, unten] = std::minmax(links, rechts);
-            for (double z = std::floor(oben); z <= std::floor(unten); ++z)
+            const int unten = Unten(std::max(links, rechts));
+            for (int z = Unten(std::min(links, rechts)); z <= unten; ++z)
                 Belege(z, s);
         }
     }
@@ -67,8 +68,10 @@ class Schnitt {
         if (!(std::abs(l.zeile) < kWeitestes && std::abs(l.spalte) < kWeitestes)) ZuViele();
         return l;
     }
-    void Belege(double zeile, double spalte) {
-        belegt_.emplace(static_cast<int>(zeile), static_cast<int>(spalte));
+    /// The next whole number below; far within its range by `kWeitestes`.
+    [[nodiscard]] static int Unten(double v) { return static_cast<int>(std::floor(v)); }
+    void Belege(int zeile, int spalte) {
+        belegt_.emplace(zeile, spalte);
         if (belegt_.size() > kMeisteBlaetter) ZuViele();
     }
     [[noreturn]] static void ZuViele() {

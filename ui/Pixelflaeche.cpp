@@ -51,7 +51,7 @@ class Textzeile {
         const auto bit = static_cast<unsigned>(links) % 64U;
         for (int i = 0; i < m.hoehe; ++i) {
             const std::uint64_t bits = m.worte[static_cast<std::size_t>(i)];
-            auto& zeile = zeilen_[static_cast<std::size_t>(oben + i)];
+            auto& zeile = zeilen_[static_cast<std::size_t>(oben) + static_cast<std::size_t>(i)];
             zeile[wort] |= bits << bit;
             if (bit != 0 && wort + 1 < zeile.size()) zeile[wort + 1] |= bits >> (64U - bit);
         }
@@ -110,14 +110,15 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 /// Short strokes of double width, of which large ellipses consist; null for others.
 const Pixelmaske* Pixelflaeche::BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach) {
     constexpr int kReichweite = 8;
-    constexpr int kSeite = 2 * kReichweite + 1;
+    constexpr std::size_t kSeite = 2 * kReichweite + 1;
     const std::int64_t dx = std::int64_t{nach.x} - von.x;
     const std::int64_t dy = std::int64_t{nach.y} - von.y;
     if (AktuellerStift() != Stift{AktuellerStift().farbe, 2, Strichart::Voll} || std::abs(dx) > kReichweite ||
         std::abs(dy) > kReichweite)
         return nullptr;
     breite_.resize(kSeite * kSeite);
-    auto& maske = breite_[static_cast<std::size_t>((dy + kReichweite) * kSeite + dx + kReichweite)];
+    auto& maske = breite_[static_cast<std::size_t>(dy + kReichweite) * kSeite +
+                          static_cast<std::size_t>(dx + kReichweite)];
     if (!maske) {
         constexpr int kMitte = kReichweite + kRand;
         QImage bild(2 * kMitte + 1, 2 * kMitte + 1, QImage::Format_RGB32);
@@ -217,7 +218,7 @@ void Pixelflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
     if (!Stempele(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
 }
 
-const Pixelflaeche::Glyphe& Pixelflaeche::Zeichen(char c) const {
+const Pixelglyphe& Pixelflaeche::Zeichen(char c) const {
     auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
     if (glyphe) return *glyphe;
     glyphe.emplace();
@@ -240,7 +241,7 @@ void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
         return Malerflaeche::Text(ort, text, farbe);
     Textzeile zeile(pixel_, Pixelfarbe(farbe), ort);
     for (const char c : text) {
-        const Glyphe& g = Zeichen(c);
+        const Pixelglyphe& g = Zeichen(c);
         zeile.Nimm(g.maske);
         zeile.Rueckeweiter(g.vorschub);
     }

@@ -13,6 +13,12 @@
 
 namespace zrw {
 
+/// A character as it is set.
+struct Pixelglyphe {
+    Pixelmaske maske;
+    int vorschub = 0;  ///< to the next character [px]
+};
+
 class Pixelflaeche : public Malerflaeche {
   public:
     /// Leaves everything to the painter, for comparison.
@@ -39,23 +45,20 @@ class Pixelflaeche : public Malerflaeche {
         Pixelmaske rand;
         Pixelmaske fuellung;
     };
-    struct Glyphe {
-        Pixelmaske maske;
-        int vorschub = 0;
-    };
 
     [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
     bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] Stempel Praege(Form form, std::span<const Flaechenpunkt> ecken) const;
-    [[nodiscard]] const Glyphe& Zeichen(char c) const;
+    [[nodiscard]] const Pixelglyphe& Zeichen(char c) const;
 
     bool schnell_ = true;
     bool zeichenweise_ = true;  ///< characters of the font stand whole pixels apart, whatever is beside them
     Pixelbild pixel_;
     std::vector<Stempel> stempel_;
     std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
-    mutable std::array<std::optional<Glyphe>, 256> glyphen_;  ///< of the current font, made when first drawn
+    mutable std::array<std::optional<Pixelglyphe>, 256>
+        glyphen_;  ///< of the current font, made when first drawn
 };
 
 }  // namespace zrw
