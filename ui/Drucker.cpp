@@ -85,7 +85,9 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
     const Druckseite seite = Seite();
     int erstes = 0;
     int letztes = werk.blaetter;
-    if (geraet.printRange() == QPrinter::PageRange && geraet.fromPage() > 0) {
+    // A preview shows every sheet, whatever was chosen for the last print.
+    const bool vorschau = geraet.paintEngine()->type() == QPaintEngine::Picture;
+    if (!vorschau && geraet.printRange() == QPrinter::PageRange && geraet.fromPage() > 0) {
         erstes = geraet.fromPage() - 1;
         letztes = std::min(letztes, geraet.toPage());
         if (erstes >= letztes)
@@ -112,7 +114,7 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
         }
     } catch (...) {
         // A preview keeps the pages that were drawn: freeing them now would leave it with none.
-        if (geraet.paintEngine()->type() != QPaintEngine::Picture) geraet.abort();
+        if (!vorschau) geraet.abort();
         throw;
     }
     if (!maler.end() || geraet.printerState() == QPrinter::Error) throw misslungen();

@@ -74,11 +74,13 @@ void TZrwMainDlg::SpeedButton5Click() {
     AktualisiereRahmen();  // other paper may have been chosen
     auto blaetter = Blaetter(*massstab, programm_.drucker.Seite());
     const bool leer = std::find(blaetter.begin(), blaetter.end(), Blatt{}) == blaetter.end();
-    if (blaetter.size() > 1) {
+    // Also where the plan lies on one sheet, but beside the output area.
+    if (blaetter.size() > 1 || leer) {
         const auto alle = programm_.dialoge.FrageMitAbbruch(
-            QStringLiteral("In diesem Maßstab verteilt sich der Plan auf %1 Blätter. Alle drucken?\n"
+            QStringLiteral("In diesem Maßstab liegt der Plan auf %1. Alles drucken?\n"
                            "Nein druckt nur eines: %2.%3")
-                .arg(blaetter.size())
+                .arg(blaetter.size() == 1 ? QStringLiteral("einem anderen Blatt")
+                                          : QStringLiteral("%1 Blättern").arg(blaetter.size()))
                 .arg(druckrahmen_.Ecke() ? QStringLiteral("das des Ausgabebereichs")
                                          : QStringLiteral("das in der linken oberen Ecke des Bildes"),
                      leer ? QStringLiteral("\nAuf diesem liegt nichts vom Plan.") : QString()));

@@ -72,6 +72,19 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     EXPECT_EQ(drucker.uebersicht.pixelColor(0, 0), QColor(Qt::white)) << "no sheet for the empty corner";
     EXPECT_EQ(drucker.uebersicht.pixelColor(0, 100), QColor(Qt::red)) << "edge of a sheet";
     EXPECT_EQ(fenster.Bild(), vorher);
+    // One sheet holds it all, but not the one in the corner: that one is asked about, too.
+    Massstab(2000000);
+    for (int i = 0; i < 20; ++i)
+        QTest::keyClick(bild, Qt::Key_Left);
+    const auto fragen = dialoge.fragen.size();
+    Knopf("SpeedButton5").click();
+    EXPECT_EQ(dialoge.fragen.size(), fragen + 1);
+    EXPECT_TRUE(Leer(drucker.blaetter.at(0))) << "No: the sheet in the corner";
+    dialoge.antwort = true;
+    Knopf("SpeedButton5").click();
+    ASSERT_EQ(drucker.blaetter.size(), 1);
+    EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
+    dialoge.antwort = false;
     // Thousands of sheets are no offer.
     Massstab(10);
     Knopf("SpeedButton5").click();
