@@ -8,8 +8,6 @@
 namespace zrw {
 namespace {
 
-/// Distance from the visible rectangle within which devices compute exactly.
-constexpr std::int64_t kGrosszuegig = 8192;
 /// Where longer lines are cut: near enough for every device, far enough that the cut end is never seen.
 constexpr double kSchnittrand = 64.0;
 
@@ -31,21 +29,8 @@ bool Teil(double p, double q, double& t0, double& t1) {
 
 }  // namespace
 
-bool InReichweite(Bildpunkt ort, std::int64_t rand, const Rechteck& s) {
-    return ort.x >= s.links - rand && ort.x <= s.rechts + rand && ort.y >= s.oben - rand &&
-           ort.y <= s.unten + rand;
-}
-
-std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> Abschneiden(Bildpunkt a, Bildpunkt b,
-                                                                   const Rechteck& s) {
-    constexpr std::int64_t kPinselrand = 4;  // wide pens reach a little further than their line
-    if (std::max(a.x, b.x) < s.links - kPinselrand || std::min(a.x, b.x) > s.rechts + kPinselrand ||
-        std::max(a.y, b.y) < s.oben - kPinselrand || std::min(a.y, b.y) > s.unten + kPinselrand) {
-        return std::nullopt;
-    }
-    if (InReichweite(a, kGrosszuegig, s) && InReichweite(b, kGrosszuegig, s)) {
-        return std::pair{Aufflaeche(a), Aufflaeche(b)};
-    }
+std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> AbschneidenLang(Bildpunkt a, Bildpunkt b,
+                                                                       const Rechteck& s) {
     const Bereich rand{s.links - kSchnittrand, s.oben - kSchnittrand, s.rechts + kSchnittrand,
                        s.unten + kSchnittrand};
     const double ax = static_cast<double>(a.x);

@@ -2,6 +2,7 @@
 // lie far outside are cut so that they still cross the picture in the right place.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <utility>
@@ -10,17 +11,37 @@
 
 namespace zrw {
 
-/// The piece of a line that may touch the visible rectangle. A line with both ends within a generous distance
-/// comes back as it is: the surface then sets the same dots whatever part of it is visible.
-[[nodiscard]] std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> Abschneiden(Bildpunkt a, Bildpunkt b,
-                                                                                 const Rechteck& sichtbar);
-
 /// Whether a shape reaching `rand` dots round a position can touch the visible rectangle.
-[[nodiscard]] bool InReichweite(Bildpunkt ort, std::int64_t rand, const Rechteck& sichtbar);
+[[nodiscard]] inline bool InReichweite(Bildpunkt ort, std::int64_t rand, const Rechteck& s) {
+    return ort.x >= s.links - rand && ort.x <= s.rechts + rand && ort.y >= s.oben - rand &&
+           ort.y <= s.unten + rand;
+}
 
 /// Only for positions that are `InReichweite` or cut.
 [[nodiscard]] inline Flaechenpunkt Aufflaeche(Bildpunkt b) {
     return {static_cast<std::int32_t>(b.x), static_cast<std::int32_t>(b.y)};
+}
+
+/// Distance from the visible rectangle within which devices compute exactly.
+inline constexpr std::int64_t kGrosszuegig = 8192;
+
+/// The piece of a line with ends farther away.
+[[nodiscard]] std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> AbschneidenLang(
+    Bildpunkt a, Bildpunkt b, const Rechteck& sichtbar);
+
+/// The piece of a line that may touch the visible rectangle. A line with both ends within a generous distance
+/// comes back as it is: the surface then sets the same dots whatever part of it is visible.
+[[nodiscard]] inline std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> Abschneiden(Bildpunkt a,
+                                                                                        Bildpunkt b,
+                                                                                        const Rechteck& s) {
+    constexpr std::int64_t kPinselrand = 4;  // wide pens reach a little further than their line
+    if (std::max(a.x, b.x) < s.links - kPinselrand || std::min(a.x, b.x) > s.rechts + kPinselrand ||
+        std::max(a.y, b.y) < s.oben - kPinselrand || std::min(a.y, b.y) > s.unten + kPinselrand) {
+        return std::nullopt;
+    }
+    if (InReichweite(a, kGrosszuegig, s) && InReichweite(b, kGrosszuegig, s))
+        return std::pair{Aufflaeche(a), Aufflaeche(b)};
+    return AbschneidenLang(a, b, s);
 }
 
 }  // namespace zrw

@@ -61,6 +61,10 @@ class Kantenbild {
     Kantenbild(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende,
                const Einstellungen& groessen);
 
+    Kantenbild(const Kantenbild&) = delete;
+    Kantenbild& operator=(const Kantenbild&) = delete;
+    ~Kantenbild() = default;
+
     [[nodiscard]] std::span<const Zug> Zuege() const { return {zuege_.data(), anzahl_}; }
 
   private:
@@ -70,8 +74,11 @@ class Kantenbild {
     void Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einstellungen& groessen);
     void Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte);
 
-    // Most: two for an indirect line, marker, tick and three height marks.
-    std::array<Zug, 8> zuege_;
+    // Most: two for an indirect line, marker, tick and three height marks. A union, so that only those in use
+    // are set up: clearing all of them would take longer than the line.
+    union {
+        std::array<Zug, 8> zuege_;
+    };
     std::size_t anzahl_ = 0;
 };
 

@@ -81,7 +81,7 @@ Welt Kartengitter::Ecke(bool rechtsUnten) const {
 
 void Kartengitter::Strich(Bildpunkt von, Bildpunkt nach) const {
     if (ziel_.flaeche != nullptr) {
-        if (const auto teil = Abschneiden(von, nach, ziel_.flaeche->Sichtbar())) {
+        if (const auto teil = Abschneiden(von, nach, ziel_.flaeche->Grenzen())) {
             const Stiftwechsel wechsel(*ziel_.flaeche, {ziel_.farbe, 1, Strichart::Voll}, {kWeiss, true});
             ziel_.flaeche->Linie(teil->first, teil->second);
         }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
+#include <cstring>
 #include <utility>
 
 namespace zrw {
@@ -10,67 +11,161 @@ namespace {
 
 constexpr std::int64_t kStrich = 4;  ///< pixels of a dash that are set
 constexpr std::int64_t kDash = 6;    ///< pixels from one dash to the next
+/// Beyond this length steps of 1/65536 pixel would miss the far end.
+constexpr std::int64_t kLang = 32767;
+
+/// Quotient rounded down, and what remains.
+std::pair<std::int64_t, std::int64_t> Teile(std::int64_t a, std::int64_t b) {
+    const std::int64_t rest = (a % b + b) % b;
+    return {(a - rest) / b, rest};
+}
+
+bool In(const Rechteck& r, Flaechenpunkt p) {
+    return p.x >= r.links && p.x <= r.rechts && p.y >= r.oben && p.y <= r.unten;
+}
 
 }  // namespace
 
-template <bool Gestrichelt, bool Senkrecht>
-void Pixelbild::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe) {
+void Pixelbild::SetzeAusschnitt(const Rechteck& r) {
+    ausschnitt_ = {std::max(r.links, 0), std::max(r.oben, 0), std::min(r.rechts, weite_ - 1),
+                   std::min(r.unten, hoehe_ - 1)};
+}
+
+void Pixelbild::Verschiebe(int dx, int dy) {
+    if (std::abs(dx) >= weite_ || std::abs(dy) >= hoehe_) return;
+    const auto breite = static_cast<std::size_t>(weite_ - std::abs(dx)) * sizeof(std::uint32_t);
+    for (int i = std::abs(dy); i < hoehe_; ++i) {
+        // Rows that are still to be copied must not be overwritten.
+        const int nach = dy > 0 ? hoehe_ - 1 - (i - dy) : i + dy;
+        std::memmove(bild_ + static_cast<std::size_t>(nach) * zeile_ + std::max(dx, 0),
+                     bild_ + static_cast<std::size_t>(nach - dy) * zeile_ + std::max(-dx, 0), breite);
+    }
+}
+
+template <bool Senkrecht, bool Innen>
+void Pixelbild::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) {
+    const auto laengs = [](Flaechenpunkt p) { return Senkrecht ? p.y : p.x; };
+    const auto quer = [](Flaechenpunkt p) { return Senkrecht ? p.x : p.y; };
+    const bool umgekehrt = laengs(von) > laengs(nach);
+    if (umgekehrt) std::swap(von, nach);
+    const std::int64_t anfang = laengs(von);
+    const std::int64_t ende = laengs(nach);
+    const auto laenge = static_cast<std::int32_t>(ende - anfang);
+    // Not steeper than the diagonal, so both stay within 32 bits.
+    const std::int64_t schritt = laenge > 0 ? (quer(nach) - quer(von)) * 65536 / laenge : 0;
+    std::int64_t v = std::int64_t{quer(von)} * 65536 + (schritt > 0 ? schritt - (schritt >> 1) : 0);
+    std::int64_t m = anfang;
+    std::int64_t letztes = ende;
+    const std::int64_t querVon = Senkrecht ? ausschnitt_.links : ausschnitt_.oben;
+    const std::int64_t querBis = Senkrecht ? ausschnitt_.rechts : ausschnitt_.unten;
+    if constexpr (!Innen) {
+        m = std::max<std::int64_t>(anfang, Senkrecht ? ausschnitt_.oben : ausschnitt_.links);
+        letztes = std::min<std::int64_t>(ende, Senkrecht ? ausschnitt_.unten : ausschnitt_.rechts);
+        v += (m - anfang) * schritt;
+    }
+    for (; m <= letztes; ++m, v += schritt) {
+        if (gestrichelt && (umgekehrt ? ende - m : m - anfang) % kDash >= kStrich) continue;
+        const std::int64_t q = v >> 16;
+        if constexpr (!Innen) {
+            if (q < querVon || q > querBis) continue;
+        }
+        Pixel<Senkrecht>(m, q, farbe);
+    }
+}
+
+/// The same line with the exact remainder of each step, from wherever it comes into the picture.
+template <bool Senkrecht>
+void Pixelbild::LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) {
     const auto laengs = [](Flaechenpunkt p) { return std::int64_t{Senkrecht ? p.y : p.x}; };
     const auto quer = [](Flaechenpunkt p) { return std::int64_t{Senkrecht ? p.x : p.y}; };
     const bool umgekehrt = laengs(von) > laengs(nach);
     if (umgekehrt) std::swap(von, nach);
     const std::int64_t anfang = laengs(von);
     const std::int64_t ende = laengs(nach);
-    const std::int64_t schritt = ende > anfang ? (quer(nach) - quer(von)) * 65536 / (ende - anfang) : 0;
-    const std::int64_t laengsGrenze = Senkrecht ? hoehe_ : weite_;
-    const std::int64_t querGrenze = Senkrecht ? weite_ : hoehe_;
-    std::int64_t m = std::max<std::int64_t>(anfang, 0);
-    const std::int64_t letztes = std::min(ende, laengsGrenze - 1);
-    std::int64_t v =
-        quer(von) * 65536 + (schritt > 0 ? schritt - (schritt >> 1) : 0) + (m - anfang) * schritt;
-    const auto zeile = static_cast<std::ptrdiff_t>(zeile_);
-    for (; m <= letztes; ++m, v += schritt) {
-        if constexpr (Gestrichelt) {
-            if ((umgekehrt ? ende - m : m - anfang) % kDash >= kStrich) continue;
+    const std::int64_t laenge = ende - anfang;
+    const std::int64_t anstieg = quer(nach) - quer(von);
+    const std::int64_t querVon = Senkrecht ? ausschnitt_.links : ausschnitt_.oben;
+    const std::int64_t querBis = Senkrecht ? ausschnitt_.rechts : ausschnitt_.unten;
+    std::int64_t m = std::max<std::int64_t>(anfang, Senkrecht ? ausschnitt_.oben : ausschnitt_.links);
+    const std::int64_t letztes =
+        std::min<std::int64_t>(ende, Senkrecht ? ausschnitt_.unten : ausschnitt_.rechts);
+    // Half a step ahead where the line rises, as the short steps begin.
+    auto [weg, rest] = Teile((m - anfang) * anstieg + (anstieg > 0 ? anstieg / 2 : 0), laenge);
+    const auto [ganz, teil] = Teile(anstieg, laenge);
+    for (std::int64_t q = quer(von) + weg; m <= letztes; ++m) {
+        const bool luecke = gestrichelt && (umgekehrt ? ende - m : m - anfang) % kDash >= kStrich;
+        if (!luecke && q >= querVon && q <= querBis) Pixel<Senkrecht>(m, q, farbe);
+        q += ganz;
+        rest += teil;
+        if (rest >= laenge) {
+            rest -= laenge;
+            ++q;
         }
-        const std::int64_t q = v >> 16;
-        if (static_cast<std::uint64_t>(q) >= static_cast<std::uint64_t>(querGrenze)) continue;
-        (Senkrecht ? bild_[m * zeile + q] : bild_[q * zeile + m]) = farbe;
     }
 }
 
 void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, Strichart art) {
-    if (std::max(von.x, nach.x) < 0 || std::max(von.y, nach.y) < 0 || std::min(von.x, nach.x) >= weite_ ||
-        std::min(von.y, nach.y) >= hoehe_)
+    const Rechteck& s = ausschnitt_;
+    if (std::max(von.x, nach.x) < s.links || std::max(von.y, nach.y) < s.oben ||
+        std::min(von.x, nach.x) > s.rechts || std::min(von.y, nach.y) > s.unten)
         return;
-    const bool senkrecht =
-        std::llabs(std::int64_t{von.x} - nach.x) < std::llabs(std::int64_t{von.y} - nach.y);
-    if (art == Strichart::Gestrichelt) {
-        senkrecht ? Schritte<true, true>(von, nach, farbe) : Schritte<true, false>(von, nach, farbe);
+    const std::int64_t breit = std::llabs(std::int64_t{von.x} - nach.x);
+    const std::int64_t hoch = std::llabs(std::int64_t{von.y} - nach.y);
+    const bool senkrecht = breit < hoch;
+    const bool dash = art == Strichart::Gestrichelt;
+    if (In(s, von) && In(s, nach)) {
+        senkrecht ? Schritte<true, true>(von, nach, farbe, dash)
+                  : Schritte<false, true>(von, nach, farbe, dash);
+    } else if (std::max(breit, hoch) <= kLang) {
+        senkrecht ? Schritte<true, false>(von, nach, farbe, dash)
+                  : Schritte<false, false>(von, nach, farbe, dash);
     } else {
-        senkrecht ? Schritte<false, true>(von, nach, farbe) : Schritte<false, false>(von, nach, farbe);
+        senkrecht ? LangeSchritte<true>(von, nach, farbe, dash)
+                  : LangeSchritte<false>(von, nach, farbe, dash);
     }
+}
+
+/// Pixels of one row from `x` on, bit by bit; `x` may lie left of the picture.
+void Pixelbild::SetzeBits(std::uint64_t bits, std::int64_t x, std::size_t y, std::uint32_t farbe) {
+    if (x < ausschnitt_.links) {
+        const auto fehlt = static_cast<unsigned>(ausschnitt_.links - x);
+        bits = bits >> fehlt << fehlt;
+    }
+    if (x + 63 > ausschnitt_.rechts)
+        bits &= ~std::uint64_t{0} >> static_cast<unsigned>(x + 63 - ausschnitt_.rechts);
+    if (bits == 0) return;
+    std::uint32_t* zeile = bild_ + y * zeile_;
+    if (deckung_.Aktiv()) {
+        // In the words of the mask the bits begin in the middle; what was left of the picture is cleared.
+        const auto bit = static_cast<unsigned>(x & 63);
+        std::uint64_t neu = 0;
+        const std::int64_t spalte = x >> 6;
+        if (spalte >= 0 && bits << bit != 0)
+            neu = deckung_.Nimm(static_cast<std::size_t>(spalte), y, bits << bit) >> bit;
+        if (bit != 0 && bits >> (64U - bit) != 0)
+            neu |= deckung_.Nimm(static_cast<std::size_t>(spalte + 1), y, bits >> (64U - bit)) << (64U - bit);
+        bits = neu;
+    }
+    for (; bits != 0; bits &= bits - 1)
+        zeile[x + std::countr_zero(bits)] = farbe;
 }
 
 void Pixelbild::Zeile(std::span<const std::uint64_t> worte, std::int64_t x, std::int64_t y,
                       std::uint32_t farbe) {
-    if (y < 0 || y >= hoehe_) return;
-    std::uint32_t* zeile = bild_ + static_cast<std::size_t>(y) * zeile_;
-    for (std::size_t w = 0; w < worte.size(); ++w) {
-        std::uint64_t bits = worte[w];
-        const std::int64_t links = x + static_cast<std::int64_t>(w) * 64;
-        if (bits == 0 || links >= weite_ || links <= -64) continue;
-        if (links < 0) bits = bits >> static_cast<unsigned>(-links) << static_cast<unsigned>(-links);
-        if (links + 64 > weite_) bits &= ~std::uint64_t{0} >> static_cast<unsigned>(links + 64 - weite_);
-        for (; bits != 0; bits &= bits - 1)
-            zeile[links + std::countr_zero(bits)] = farbe;
+    if (y < ausschnitt_.oben || y > ausschnitt_.unten) return;
+    for (const std::uint64_t bits : worte) {
+        if (bits != 0 && x <= ausschnitt_.rechts && x + 63 >= ausschnitt_.links)
+            SetzeBits(bits, x, static_cast<std::size_t>(y), farbe);
+        x += 64;
     }
 }
 
 void Pixelbild::Maske(const Pixelmaske& maske, std::int32_t x, std::int32_t y, std::uint32_t farbe) {
     const std::int64_t links = std::int64_t{x} + maske.links;
     const std::int64_t oben = std::int64_t{y} + maske.oben;
-    if (links >= weite_ || oben >= hoehe_ || links + maske.weite <= 0 || oben + maske.hoehe <= 0) return;
+    if (links > ausschnitt_.rechts || oben > ausschnitt_.unten || links + maske.weite <= ausschnitt_.links ||
+        oben + maske.hoehe <= ausschnitt_.oben)
+        return;
     const std::size_t jeZeile = maske.JeZeile();
     for (int i = 0; i < maske.hoehe; ++i)
         Zeile({maske.worte.data() + static_cast<std::size_t>(i) * jeZeile, jeZeile}, links, oben + i, farbe);

@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+#include "output/Deckung.h"
 #include "output/Zeichenflaeche.h"
 
 namespace zrw {
@@ -36,23 +37,50 @@ class Pixelbild {
     Pixelbild() = default;
     /// @param bild first pixel of the top row @param zeile pixels from one row to the next
     Pixelbild(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile)
-        : bild_(bild), weite_(weite), hoehe_(hoehe), zeile_(zeile) {}
+        : bild_(bild), weite_(weite), hoehe_(hoehe), zeile_(zeile) {
+        SetzeAusschnitt(Ganz());
+    }
+
+    [[nodiscard]] Rechteck Ganz() const { return {0, 0, weite_ - 1, hoehe_ - 1}; }
+    /// Pixels outside keep their colour. Cut to the picture.
+    void SetzeAusschnitt(const Rechteck& r);
+    [[nodiscard]] const Rechteck& Ausschnitt() const { return ausschnitt_; }
+    /// Moves the picture; what comes in at the border keeps its old pixels.
+    void Verschiebe(int dx, int dy);
+
+    // From the front to the back: pixels that were set since the beginning keep their colour.
+    void BeginneVonVorn() { deckung_.Beginne(weite_, hoehe_, ausschnitt_); }
+    void BeendeVonVorn() { deckung_.Beende(); }
+    [[nodiscard]] bool VonVorn() const { return deckung_.Aktiv(); }
+    [[nodiscard]] bool Verdeckt(const Rechteck& r) const { return VonVorn() && deckung_.Verdeckt(r); }
 
     /// Line of width 1 with both ends, in the steps of Qt's raster painter: along the longer axis from its
-    /// smaller end, 16.16 fixed point, rounded down. Dashes (4 on, 2 off) count from `von`.
+    /// smaller end, 16.16 fixed point, rounded down. Dashes (4 on, 2 off) count from `von`. Lines too long
+    /// for that are stepped with exact remainders. Ends lie within 2^30.
     void Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, Strichart art);
     void Maske(const Pixelmaske& maske, std::int32_t x, std::int32_t y, std::uint32_t farbe);
     /// One row of a mask, word by word from `x` on.
     void Zeile(std::span<const std::uint64_t> worte, std::int64_t x, std::int64_t y, std::uint32_t farbe);
 
   private:
-    template <bool Gestrichelt, bool Senkrecht>
-    void Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe);
+    template <bool Senkrecht, bool Innen>
+    void Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt);
+    template <bool Senkrecht>
+    void LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt);
+    template <bool Senkrecht>
+    void Pixel(std::int64_t laengs, std::int64_t quer, std::uint32_t farbe) {
+        const auto x = static_cast<std::size_t>(Senkrecht ? quer : laengs);
+        const auto y = static_cast<std::size_t>(Senkrecht ? laengs : quer);
+        if (!deckung_.Aktiv() || deckung_.Nimm(x, y)) bild_[y * zeile_ + x] = farbe;
+    }
+    void SetzeBits(std::uint64_t bits, std::int64_t x, std::size_t y, std::uint32_t farbe);
 
     std::uint32_t* bild_ = nullptr;
     int weite_ = 0;
     int hoehe_ = 0;
     std::size_t zeile_ = 0;
+    Rechteck ausschnitt_;
+    Deckung deckung_;
 };
 
 }  // namespace zrw

@@ -105,7 +105,7 @@ Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& e
       f_(geraetefaktor_ * einstellungen.ResMF) {}
 
 void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
-    if (const auto teil = Abschneiden(von, nach, flaeche_.Sichtbar())) {
+    if (const auto teil = Abschneiden(von, nach, flaeche_.Grenzen())) {
         flaeche_.Linie(teil->first, teil->second);
     }
 }

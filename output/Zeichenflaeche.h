@@ -47,6 +47,17 @@ class Zeichenflaeche {
 
     /// What can be seen of the surface.
     [[nodiscard]] virtual Rechteck Sichtbar() const = 0;
+    /// The part of it that is being drawn: shapes that do not touch it may be left out.
+    [[nodiscard]] virtual Rechteck Ausschnitt() const { return Sichtbar(); }
+    /// What lines are cut to (Abschneiden.h) before they are drawn.
+    [[nodiscard]] virtual Rechteck Grenzen() const { return Sichtbar(); }
+
+    // Drawing from the front to the back: until the end, what is drawn goes behind what was drawn since the
+    // beginning. Most surfaces cannot: they paint one thing over the other.
+    virtual bool BeginneVonVorn() { return false; }
+    virtual void BeendeVonVorn() {}
+    /// Nothing that is drawn into the rectangle now would be seen.
+    [[nodiscard]] virtual bool Verdeckt(const Rechteck& /*r*/) const { return false; }
 
     // Pen and brush of what is drawn next. Surfaces apply a change when they draw, so setting back costs
     // nothing.

@@ -13,6 +13,8 @@ class Bildflaeche final : public Pixelflaeche {
 
     /// The picture as it stands.
     [[nodiscard]] const QImage& Bild() const { return bild_; }
+    /// Moves what is drawn; the border that it comes from keeps its old pixels.
+    void Verschiebe(int dx, int dy) { Pixel().Verschiebe(dx, dy); }
     /// A new white picture.
     void SetzeGroesse(int weite, int hoehe);
 

@@ -56,6 +56,10 @@ void Malerflaeche::SetzeSchrift(const QFont& schrift) {
     maler_->setFont(schrift_);
 }
 
+void Malerflaeche::SetzeMalerausschnitt(const Rechteck& r) {
+    maler_->setClipRect(AlsQRect(r));
+}
+
 void Malerflaeche::WendeStiftAn(const Stift& stift) {
     if (stift_ == stift) return;
     QPen pen(AlsQColor(stift.farbe));

@@ -39,6 +39,8 @@ class Malerflaeche : public Zeichenflaeche {
     Malerflaeche();
     /// Width of a pen of width 1 [dots], for devices whose dots are too fine to be seen.
     void SetzeStrichbreite(int dots) { strichbreite_ = dots; }
+    /// Restricts what the painter draws to a rectangle.
+    void SetzeMalerausschnitt(const Rechteck& r);
     /// Takes a painter that has just begun.
     void BindeAn(QPainter& maler, const Rechteck& sichtbar);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "output/Abschneiden.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -89,6 +90,22 @@ void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
     BindeAn(maler, {0, 0, bild.width() - 1, bild.height() - 1});
 }
 
+void Pixelflaeche::SetzeAusschnitt(const Rechteck& r) {
+    pixel_.SetzeAusschnitt(r);
+    SetzeMalerausschnitt(pixel_.Ausschnitt());
+}
+
+Rechteck Pixelflaeche::Grenzen() const {
+    constexpr std::int32_t kWeit = (1 << 30) - 2 * kGrosszuegig;
+    return {-kWeit, -kWeit, kWeit, kWeit};
+}
+
+bool Pixelflaeche::BeginneVonVorn() {
+    if (!schnell_ || !zeichenweise_ || Schrifthoehe() > kGroessteSchrift) return false;
+    pixel_.BeginneVonVorn();
+    return true;
+}
+
 void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
     glyphen_.fill({});
     zeichenweise_ = !schrift.kerning() && schrift.hintingPreference() == QFont::PreferFullHinting;
@@ -97,14 +114,20 @@ void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
 
 void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     const Stift& stift = AktuellerStift();
-    if (!schnell_) return Malerflaeche::Linie(von, nach);
+    if (!schnell_) return MaleLinie(von, nach);
     if (stift.breite <= 1) {
         pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
     } else if (const Pixelmaske* maske = BreiterStrich(von, nach)) {
         pixel_.Maske(*maske, von.x, von.y, Pixelfarbe(stift.farbe));
     } else {
-        Malerflaeche::Linie(von, nach);
+        MaleLinie(von, nach);
     }
+}
+
+/// The painter computes exactly only near its picture.
+void Pixelflaeche::MaleLinie(Flaechenpunkt von, Flaechenpunkt nach) {
+    const auto teil = Abschneiden({von.x, von.y}, {nach.x, nach.y}, Sichtbar());
+    if (teil) Malerflaeche::Linie(teil->first, teil->second);
 }
 
 /// Short strokes of double width, of which large ellipses consist; null for others.
@@ -199,8 +222,13 @@ bool Pixelflaeche::Stempele(Form form, std::span<const Flaechenpunkt> ecken) {
             return false;
     }
     const Stempel& s = Suche(form, ecken);
-    if (!s.leer) pixel_.Maske(s.fuellung, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerPinsel().farbe));
+    const auto fuelle = [&] {
+        if (!s.leer) pixel_.Maske(s.fuellung, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerPinsel().farbe));
+    };
+    const bool vonVorn = pixel_.VonVorn();
+    if (!vonVorn) fuelle();
     pixel_.Maske(s.rand, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerStift().farbe));
+    if (vonVorn) fuelle();
     return true;
 }
 

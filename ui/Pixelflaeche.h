@@ -23,6 +23,14 @@ class Pixelflaeche : public Malerflaeche {
   public:
     /// Leaves everything to the painter, for comparison.
     void SetzeSchnell(bool schnell) { schnell_ = schnell; }
+    /// Restricts drawing to a part of the picture.
+    void SetzeAusschnitt(const Rechteck& r);
+    [[nodiscard]] Rechteck Ausschnitt() const override { return pixel_.Ausschnitt(); }
+    /// Thin lines are clipped pixel by pixel, so that they look the same whatever part of them is seen.
+    [[nodiscard]] Rechteck Grenzen() const override;
+    bool BeginneVonVorn() override;
+    void BeendeVonVorn() override { pixel_.BeendeVonVorn(); }
+    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return pixel_.Verdeckt(r); }
 
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
     void ZeichneRechteck(const Rechteck& r) override;
@@ -34,6 +42,7 @@ class Pixelflaeche : public Malerflaeche {
   protected:
     /// Takes a painter that has just begun on the picture.
     void BindeAnBild(QPainter& maler, QImage& bild);
+    [[nodiscard]] Pixelbild& Pixel() { return pixel_; }
 
   private:
     enum class Form : std::uint8_t { Rechteck, Ellipse, Vieleck };
@@ -46,6 +55,7 @@ class Pixelflaeche : public Malerflaeche {
         Pixelmaske fuellung;
     };
 
+    void MaleLinie(Flaechenpunkt von, Flaechenpunkt nach);
     [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
     bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
