@@ -39,27 +39,81 @@ void Liste::Findfaktor() {
 }
 
 void Liste::WeltinBild() {
-    for (zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
-        const Bildpunkt b = Bildort({p->XWPu, p->YWPu});
-        p->Item->XO = b.x;
-        p->Item->YO = b.y;
+    (void)RechneBild({});
+}
+
+namespace {
+
+/// Sets picture positions and sees whether all of them moved alike.
+class Versetzer {
+  public:
+    explicit Versetzer(Bildpunkt weg) : weg_(weg) {}
+    void Setze(std::int64_t& x, std::int64_t& y, Bildpunkt neu) {
+        // Far outside, sums would leave 64 bits; pictures of such views are not moved.
+        constexpr std::uint64_t kWeit = 1ULL << 29U;
+        const auto fern = [](std::int64_t v) { return static_cast<std::uint64_t>(v) + kWeit >= 2 * kWeit; };
+        anders_ |= fern(x) | fern(y) | fern(neu.x) | fern(neu.y);
+        if (!anders_) anders_ = neu.x - x != weg_.x || neu.y - y != weg_.y;
+        x = neu.x;
+        y = neu.y;
     }
+    void SetzeAnders() { anders_ = true; }
+    [[nodiscard]] bool Glatt() const { return !anders_; }
+
+  private:
+    Bildpunkt weg_;
+    bool anders_ = false;
+};
+
+}  // namespace
+
+/// @param weg how far all figures are expected to move [px] @return whether they did
+bool Liste::RechneBild(Bildpunkt weg) {
+    Versetzer v(weg);
+    // The detours of indirect lines are rounded with halves to the even neighbour, which an odd way swaps.
+    const bool ungerade = weg.x % 2 != 0 || weg.y % 2 != 0;
+    for (zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next)
+        v.Setze(p->Item->XO, p->Item->YO, Bildort({p->XWPu, p->YWPu}));
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        if (const zrw::PunktKnoten* a = SuchPkt(k->ANr); a != nullptr) {
-            k->Item->XO = a->Item->XO;
-            k->Item->YO = a->Item->YO;
-        }
-        if (const zrw::PunktKnoten* e = SuchPkt(k->ENr); e != nullptr) {
-            k->Item->XBiE = e->Item->XO;
-            k->Item->YBiE = e->Item->YO;
-        }
+        const zrw::PunktKnoten* a = SuchPkt(k->ANr);
+        const zrw::PunktKnoten* e = SuchPkt(k->ENr);
+        if (a != nullptr) v.Setze(k->Item->XO, k->Item->YO, a->Item->Position());
+        if (e != nullptr) v.Setze(k->Item->XBiE, k->Item->YBiE, e->Item->Position());
+        if (a == nullptr || e == nullptr || (ungerade && k->Item->LAttr > LinieAttr::AST)) v.SetzeAnders();
     }
     for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        if (const zrw::PunktKnoten* p = SuchPkt(t->TNr); p != nullptr) {
-            t->Item->XO = p->Item->XO;
-            t->Item->YO = p->Item->YO;
-        }
+        const zrw::PunktKnoten* p = SuchPkt(t->TNr);
+        if (p != nullptr) v.Setze(t->Item->XO, t->Item->YO, p->Item->Position());
+        if (p == nullptr) v.SetzeAnders();
     }
+    suche_.lage = {Faktor, MinXW + XOffset, MaxYW + YOffset};
+    suche_.frisch = true;
+    return v.Glatt();
+}
+
+void Liste::WeltinBild(const Figurenmenge& figuren) {
+    for (zrw::PunktKnoten* p : figuren.punkte) {
+        const Bildpunkt ort = Bildort({p->XWPu, p->YWPu});
+        p->Item->XO = ort.x;
+        p->Item->YO = ort.y;
+    }
+    const auto folge = [this](PunktIndex nr, std::int64_t& x, std::int64_t& y) {
+        const zrw::PunktKnoten* p = SuchPkt(nr);
+        if (p == nullptr) return;
+        x = p->Item->XO;
+        y = p->Item->YO;
+    };
+    for (PPunktKante k : figuren.kanten) {
+        folge(k->ANr, k->Item->XO, k->Item->YO);
+        folge(k->ENr, k->Item->XBiE, k->Item->YBiE);
+    }
+    for (PPunktString t : figuren.texte)
+        folge(t->TNr, t->Item->XO, t->Item->YO);
+}
+
+bool Liste::PositionenAktuell() const {
+    const Bildlage& l = suche_.lage;
+    return l.faktor == Faktor && l.links == MinXW + XOffset && l.oben == MaxYW + YOffset;
 }
 
 Welt Liste::BildinWelt(Bildpunkt b) const {
@@ -105,15 +159,19 @@ void Liste::MoveMe(std::int64_t dx, std::int64_t dy) {
     WeltinBild();
 }
 
+bool Liste::SetzeVersatz(Welt versatz, Bildpunkt weg) {
+    XOffset = versatz.rechts;
+    YOffset = versatz.hoch;
+    return RechneBild(weg);
+}
+
 void Liste::MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy) {
-    u.XWPu += static_cast<double>(dx) * Faktor;
-    u.YWPu -= static_cast<double>(dy) * Faktor;
+    Versetze(u, {u.XWPu + static_cast<double>(dx) * Faktor, u.YWPu - static_cast<double>(dy) * Faktor});
     WeltinBild();
 }
 
 void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z) {
-    p1.XWPu = p2.XWPu;
-    p1.YWPu = p2.YWPu;
+    Versetze(p1, {p2.XWPu, p2.YWPu});
     p1.Item->XO = p2.Item->XO;
     p1.Item->YO = p2.Item->YO;
     if (PktText* t = FindPktText(p1.PNr); t != nullptr) t->Hide(z);
@@ -121,8 +179,7 @@ void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeic
 
 void Liste::DragPktText(PunktString& u, Zeichner& z) {
     const Bildpunkt weg = u.Item->Drag(z);
-    u.Item->XBiO = Summe(u.Item->XBiO, weg.x);
-    u.Item->YBiO = Summe(u.Item->YBiO, weg.y);
+    Versetze(u, {Summe(u.Item->XBiO, weg.x), Summe(u.Item->YBiO, weg.y)});
 }
 
 }  // namespace zrw

@@ -51,6 +51,7 @@ Herausnahme Liste::NimmHeraus(PunktKante& pk) {
     const auto davor = HaengeAus(KanteKnoten, &pk);
     if (!davor) return h;
     index_.Ab(pk);
+    suche_.kanten.Ab(pk.Folge);
     --MaxKant;
     h.kanten.push_back({&pk, *davor, pk.Item->Visible});
     return h;
@@ -68,18 +69,22 @@ Herausnahme Liste::NimmHeraus(zrw::PunktKnoten& pp) {
         }
         (davor != nullptr ? davor->Next : KanteKnoten) = k->Next;
         index_.Ab(*k);
+        suche_.kanten.Ab(k->Folge);
         --MaxKant;
         h.kanten.push_back({k, davor, k->Item->Visible});
     }
     if (PPunktString t = index_.FindeText(nr); t != nullptr) {
         index_.Ab(*t);
+        suche_.texte.Ab(t->Folge);
         h.text = {t, HaengeAus(PktTextKnoten, t).value_or(nullptr), t->Item->Visible};
     }
     index_.Ab(pp);
     if (const auto vor = HaengeAus(PunktKnoten, &pp)) {
         --MaxPkte;
         h.punkt = {&pp, *vor, pp.Item->Visible};
+        suche_.punkte.Ab(pp.Folge);
     }
+    MeldePunkt(pp);
     return h;
 }
 
@@ -87,21 +92,26 @@ void Liste::SetzeZurueck(const Herausnahme& h) {
     if (h.punkt.knoten != nullptr) {
         HaengeEin(PunktKnoten, *h.punkt.knoten, h.punkt.davor);
         index_.Zurueck(*h.punkt.knoten, *PunktKnoten);
+        suche_.punkte.Auf(h.punkt.knoten->Folge, suche_.gebaut);
         h.punkt.knoten->Item->Visible = h.punkt.sichtbar;
         ++MaxPkte;
     }
     if (h.text.knoten != nullptr) {
         HaengeEin(PktTextKnoten, *h.text.knoten, h.text.davor);
         index_.Zurueck(*h.text.knoten, *PktTextKnoten);
+        suche_.texte.Auf(h.text.knoten->Folge, suche_.gebaut);
         h.text.knoten->Item->Visible = h.text.sichtbar;
     }
     // The last that left had the fewest before it.
     for (auto k = h.kanten.rbegin(); k != h.kanten.rend(); ++k) {
         HaengeEin(KanteKnoten, *k->knoten, k->davor);
         index_.Zurueck(*k->knoten, *KanteKnoten);
+        suche_.kanten.Auf(k->knoten->Folge, suche_.gebaut);
         k->knoten->Item->Visible = k->sichtbar;
         ++MaxKant;
     }
+    suche_.frisch = false;
+    if (h.punkt.knoten != nullptr) MeldePunkt(*h.punkt.knoten);
 }
 
 // --- Editing ----------------------------------------------------------------------------------------------
@@ -117,6 +127,14 @@ void Liste::DeletePunkt(PPunktKnoten pp, Zeichner& z) {
         k.knoten->Item->Done(z);
     if (h.text.knoten != nullptr) h.text.knoten->Item->Done(z);
     if (h.punkt.knoten != nullptr) h.punkt.knoten->Item->Done(z);
+}
+
+Figurenmenge Liste::Umfeld(zrw::PunktKnoten& p) {
+    Figurenmenge m;
+    m.punkte.push_back(&p);
+    FuerKantenAm(p.PNr, [&](PunktKante& k) { m.kanten.push_back(&k); });
+    if (PPunktString t = FindText(p.PNr); t != nullptr) m.texte.push_back(t);
+    return m;
 }
 
 void Liste::DreheKante(PunktKante& pk) {

@@ -1,5 +1,6 @@
 #include "model/FigListe.h"
 
+#include "model/Gezeigt.h"
 #include "model/Punktarten.h"
 #include "model/Zeichner.h"
 
@@ -13,6 +14,10 @@ void Leere(Knoten*& kopf, Zeichner& z) {
         kopf->Item->Done(z);
         kopf = kopf->Next;
     }
+}
+
+std::uint32_t Auf32(std::size_t n) {
+    return static_cast<std::uint32_t>(n);
 }
 
 }  // namespace
@@ -31,25 +36,33 @@ void Liste::Done(Zeichner& z) {
 void Liste::PunktDone(Zeichner& z) {
     Leere(PunktKnoten, z);
     index_.LeerePunkte();
+    suche_.punkte.Leere();
+    suche_.Vergiss();
 }
 
 void Liste::KanteDone(Zeichner& z) {
     Leere(KanteKnoten, z);
     index_.LeereKanten();
+    suche_.kanten.Leere();
+    suche_.Vergiss();
 }
 
 void Liste::PktTextDone(Zeichner& z) {
     Leere(PktTextKnoten, z);
     index_.LeereTexte();
+    suche_.texte.Leere();
+    suche_.Vergiss();
 }
 
 // --- Adding -----------------------------------------------------------------------------------------------
 
 PunktKnoten& Liste::AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr) {
     PunktPlatz* platz = punktArena_.Neu(PunktPlatz{{}, item});
-    platz->knoten = {ort.rechts, ort.hoch, iNr, &platz->figur, PunktKnoten};
+    platz->knoten = {ort.rechts, ort.hoch, iNr, Auf32(punktArena_.Anzahl() - 1), &platz->figur, PunktKnoten};
     PunktKnoten = &platz->knoten;
     index_.Auf(platz->knoten);
+    suche_.punkte.Auf(platz->knoten.Folge, suche_.gebaut);
+    MeldePunkt(platz->knoten);
     return platz->knoten;
 }
 
@@ -58,36 +71,27 @@ PunktKante& Liste::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr)
     PunktKante& k = platz->knoten;
     k.ANr = iANr;
     k.ENr = iENr;
+    k.Folge = Auf32(kanteArena_.Anzahl() - 1);
     k.Item = &platz->figur;
     k.Next = KanteKnoten;
     KanteKnoten = &k;
     index_.Auf(k);
+    suche_.kanten.Auf(k.Folge, suche_.gebaut);
+    suche_.frisch = false;
     return k;
 }
 
 PunktString& Liste::AddPktText(const PktText& item, PunktIndex iNr) {
     TextPlatz* platz = textArena_.Neu(TextPlatz{{}, item});
-    platz->knoten = {iNr, &platz->figur, PktTextKnoten};
+    platz->knoten = {iNr, Auf32(textArena_.Anzahl() - 1), &platz->figur, PktTextKnoten};
     PktTextKnoten = &platz->knoten;
     index_.Auf(platz->knoten);
+    suche_.texte.Auf(platz->knoten.Folge, suche_.gebaut);
+    suche_.frisch = false;
     return platz->knoten;
 }
 
 // --- Looking up -------------------------------------------------------------------------------------------
-
-bool Liste::Enthaelt(const zrw::PunktKnoten& p) const {
-    const zrw::PunktKnoten* k = PunktKnoten;
-    while (k != nullptr && k != &p)
-        k = k->Next;
-    return k != nullptr;
-}
-
-bool Liste::Enthaelt(const PunktKante& k) const {
-    const PunktKante* erste = KanteKnoten;
-    while (erste != nullptr && erste != &k)
-        erste = erste->Next;
-    return erste != nullptr;
-}
 
 PktText* Liste::FindPktText(PunktIndex n) const {
     const PunktString* knoten = index_.FindeText(n);
@@ -126,38 +130,19 @@ void Liste::DisplayPunkte(Zeichner& z) {
     }
 }
 
-/// Which numbers are shown, in one place: asking the points of each line would wait for memory each time.
-std::vector<bool> Liste::GezeigteNummern() const {
-    std::vector<bool> bekannt(kMaxPunkte + 1);
-    std::vector<bool> gezeigt(kMaxPunkte + 1);
-    for (const zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
-        if (bekannt[p->PNr]) continue;  // the newest of a number counts
-        bekannt[p->PNr] = true;
-        gezeigt[p->PNr] = Dargestellt(*p->Item);
-    }
-    return gezeigt;
-}
-
 void Liste::DisplayKante(Zeichner& z) {
-    const std::vector<bool> gezeigt = GezeigteNummern();
+    Gezeigt gezeigt(*this);
     for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        if (gezeigt[k->ANr] && gezeigt[k->ENr]) k->Item->Show(z);
+        if (gezeigt(*k)) k->Item->Show(z);
     }
 }
 
 void Liste::DisplayPktText(Zeichner& z) {
     // Switching the auxiliary points off hides every label, not only theirs. Users know it that way.
     if (!ShowHilfP) return;
-    if (index_.TexteEindeutig()) {
-        const std::vector<bool> gezeigt = GezeigteNummern();
-        for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-            if (gezeigt[t->TNr]) t->Item->Show(z);
-        }
-        return;
-    }
+    Gezeigt gezeigt(*this);
     for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        const zrw::PunktKnoten* p = FindPunkt(t->Item->Aus.Text());
-        if (p != nullptr && Dargestellt(*p->Item)) t->Item->Show(z);
+        if (gezeigt(*t)) t->Item->Show(z);
     }
 }
 
@@ -174,9 +159,11 @@ void Liste::ShowPicture(Zeichner& z) {
 void Liste::ZeichneFiguren(Zeichner& z) {
     if (ShowGitter) z.GitterShow(*this);
     if (ShowKMQ) z.KMGitterShow(*this);
-    if (ShowBeob) DisplayKante(z);
-    DisplayPunkte(z);
-    if (ShowPktText) DisplayPktText(z);
+    if (!z.ZeichneNetz(*this)) {
+        if (ShowBeob) DisplayKante(z);
+        DisplayPunkte(z);
+        if (ShowPktText) DisplayPktText(z);
+    }
     if (ShowLegende) SetLegende(z);
     z.ZeichnePunktRes(*this);
     z.DrawResMasstab(*this);

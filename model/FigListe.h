@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/Arena.h"
+#include "model/Bildsuche.h"
 #include "model/Einstellungen.h"
 #include "model/Figuren.h"
 #include "model/Figurenindex.h"
@@ -82,6 +83,13 @@ class Liste {
     virtual void FindWorldMinMax();
     /// Picture positions of all figures from their world coordinates.
     virtual void WeltinBild();
+    /// The same for some figures, where all else is in its place; those that left the list are passed over.
+    void WeltinBild(const Figurenmenge& figuren);
+    /// The positions are those of the view as it is now.
+    [[nodiscard]] bool PositionenAktuell() const;
+    /// Sets the pan offsets. @param weg how far the figures should move by that [px] @return whether all did,
+    /// so that the picture can be moved as it is
+    bool SetzeVersatz(Welt versatz, Bildpunkt weg);
     /// Scale that fits the extents: horizontal extent / (`Hoehe` - 30), vertical extent / `Weite`.
     virtual void Findfaktor();
 
@@ -117,8 +125,13 @@ class Liste {
 
     [[nodiscard]] PPunktKnoten SuchPkt(PunktIndex nr) const { return index_.FindePunkt(nr); }
     /// Whether the node is in its list: figures that were taken out are not.
-    [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const;
-    [[nodiscard]] bool Enthaelt(const PunktKante& k) const;
+    [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const {
+        return suche_.punkte.Hat(p.Folge) && &punktArena_[p.Folge].knoten == &p;
+    }
+    [[nodiscard]] bool Enthaelt(const PunktKante& k) const {
+        return suche_.kanten.Hat(k.Folge) && &kanteArena_[k.Folge].knoten == &k;
+    }
+    [[nodiscard]] PPunktString FindText(PunktIndex n) const { return index_.FindeText(n); }
     [[nodiscard]] PktText* FindPktText(PunktIndex n) const;
     [[nodiscard]] std::string GetPktText(PunktIndex n) const;
     /// The point whose label reads `p`, cut to 14 bytes.
@@ -132,6 +145,10 @@ class Liste {
     [[nodiscard]] PPunktKante FindKante(PunktIndex a, PunktIndex b) const { return index_.FindeKante(a, b); }
 
     // Bearbeiten.cpp
+    /// Moves a point in the world, or a label [px]. Picture positions follow with `WeltinBild` or
+    /// `PunktinBild`.
+    void Versetze(zrw::PunktKnoten& p, Welt ort);
+    void Versetze(PunktString& t, Bildpunkt abstand);
     /// Takes a line, or a point with its lines and its label, out of the lists and counts down. Draws
     /// nothing. The figures live on in the arena, so `SetzeZurueck` can put them back in their places as long
     /// as the lists are then as they were left. A figure that is in no list is not taken.
@@ -146,6 +163,8 @@ class Liste {
         for (PPunktKante k = index_.ErsteKante(nr); k != nullptr; k = Figurenindex::NaechsteKante(*k, nr))
             tun(*k);
     }
+    /// The point with its lines and its label.
+    [[nodiscard]] Figurenmenge Umfeld(zrw::PunktKnoten& p);
     /// Deletes the lines at the point, its label and the point.
     void DeletePunkt(PPunktKnoten pp, Zeichner& z);
     /// Swaps start and end of a line.
@@ -160,6 +179,15 @@ class Liste {
     void DisplayHilfp(bool show);
     /// Makes the legend if there is none and shows it.
     void SetLegende(Zeichner& z);
+
+    // Figures that may touch a part of the picture, newest first: all that do, and some more. Visible or not.
+    // Suche.cpp
+    /// Points whose position may lie in it.
+    void SammlePunkte(const Bildbereich& b, std::vector<PPunktKnoten>& aus) const;
+    /// Lines that may run through it.
+    void SammleKanten(const Bildbereich& b, std::vector<PPunktKante>& aus) const;
+    /// Labels whose corner or whose point may lie in it.
+    void SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) const;
 
     [[nodiscard]] PPunktKnoten ClickPunkt(Bildpunkt maus) const;
     // The same for what the picture shows: neither hidden figures nor kinds that are switched off.
@@ -184,6 +212,10 @@ class Liste {
     [[nodiscard]] bool Dargestellt(const Punkt& p) const;
     /// The kinds of both its points are switched on.
     [[nodiscard]] bool Dargestellt(const PunktKante& k) const;
+    /// No two labels read the same: each then belongs to its own point.
+    [[nodiscard]] bool TexteEindeutig() const { return index_.TexteEindeutig(); }
+    /// No two labels belong to one internal number.
+    [[nodiscard]] bool NummernEindeutig() const { return index_.NummernEindeutig(); }
     /// World position of a picture position.
     [[nodiscard]] Welt BildinWelt(Bildpunkt b) const;
     /// Picture position of a world position, rounded to whole pixels.
@@ -205,13 +237,17 @@ class Liste {
     };
 
     void ZeichneFiguren(Zeichner& z);
-    [[nodiscard]] std::vector<bool> GezeigteNummern() const;
+    bool RechneBild(Bildpunkt weg);
+    [[nodiscard]] bool Suchbereit(const Bildbereich& b) const;
+    void BaueSuche() const;
+    void MeldePunkt(const zrw::PunktKnoten& p);
 
     const Einstellungen& einstellungen_;
     Arena<PunktPlatz> punktArena_;
     Arena<KantePlatz> kanteArena_;
     Arena<TextPlatz> textArena_;
     Figurenindex index_;
+    mutable Bildsuche suche_;  ///< built when somebody first asks
 };
 
 }  // namespace zrw

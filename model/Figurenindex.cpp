@@ -49,6 +49,7 @@ void Figurenindex::Auf(PunktKnoten& p) {
 }
 
 void Figurenindex::Auf(PunktString& t) {
+    if (FindeText(t.TNr) == nullptr) ++textnummern_;
     Lege(texte_, t.TNr, &t);
     ++textanzahl_;
     nachNummer_.Setze(t.Item->Aus, {&t, t.TNr});
@@ -92,6 +93,7 @@ void Figurenindex::Ab(PunktString& t) {
         while (ersatz != nullptr && ersatz->TNr != t.TNr)
             ersatz = ersatz->Next;
         texte_[t.TNr] = ersatz;
+        if (ersatz == nullptr) --textnummern_;
     }
     const PunktNummernTyp& nummer = t.Item->Aus;
     if (FindeText(nummer) != &t) return;
@@ -142,6 +144,7 @@ void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
 
 void Figurenindex::Zurueck(PunktString& t, PunktString& kopf) {
     ++textanzahl_;
+    if (FindeText(t.TNr) == nullptr) ++textnummern_;
     Lege(texte_, t.TNr,
          Erster(
              kopf, [&](const PunktString& k) { return k.TNr == t.TNr; },
@@ -174,6 +177,7 @@ void Figurenindex::LeerePunkte() {
 void Figurenindex::LeereTexte() {
     texte_.clear();
     textanzahl_ = 0;
+    textnummern_ = 0;
     nachNummer_.Leere();
 }
 

@@ -135,6 +135,8 @@ class Figurenindex {
     }
     /// No two labels read the same: each then leads to its own number.
     [[nodiscard]] bool TexteEindeutig() const { return textanzahl_ == nachNummer_.Anzahl(); }
+    /// No two labels belong to one number.
+    [[nodiscard]] bool NummernEindeutig() const { return textanzahl_ == textnummern_; }
     /// The newest line between two points, in either orientation.
     [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const { return nachPaar_.Finde({a, b}); }
     /// The lines at a point, newest first: `for (k = ErsteKante(nr); k; k = NaechsteKante(*k, nr))`.
@@ -156,6 +158,7 @@ class Figurenindex {
     PunktKante* neuesteKante_ = nullptr;  ///< head of the list of lines
     bool verkettet_ = false;
     std::size_t textanzahl_ = 0;
+    std::size_t textnummern_ = 0;  ///< numbers that have a label
     std::vector<PunktKante*> kantenAm_;
     Streutafel<PunktNummernTyp, Texteintrag> nachNummer_;
     Streutafel<Punktpaar, PunktKante*> nachPaar_;

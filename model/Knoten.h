@@ -1,7 +1,10 @@
 // The nodes of the three lists of a network. A node ties a figure to world coordinates or to the internal
-// numbers of its points; node and figure live in the arena of their `Liste`.
+// numbers of its points; node and figure live in the arena of their `Liste`. `Folge` counts the nodes of one
+// list in the order of adding: every list runs from the highest to the lowest.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "model/Figuren.h"
@@ -14,6 +17,7 @@ struct PunktKnoten {
     double XWPu = 0.0;  ///< easting [m], maps to the picture's horizontal axis
     double YWPu = 0.0;  ///< northing [m], grows upwards
     PunktIndex PNr = kKeinPunkt;
+    std::uint32_t Folge = 0;
     Punkt* Item = nullptr;
     PunktKnoten* Next = nullptr;
 };
@@ -24,6 +28,7 @@ class PunktKante {
   public:
     PunktIndex ANr = kKeinPunkt;  ///< start point
     PunktIndex ENr = kKeinPunkt;  ///< end point
+    std::uint32_t Folge = 0;
     Kante* Item = nullptr;
     PunktKante* Next = nullptr;
 
@@ -37,10 +42,20 @@ using PPunktKante = PunktKante*;
 /// Node of a point-number label.
 struct PunktString {
     PunktIndex TNr = kKeinPunkt;
+    std::uint32_t Folge = 0;
     PktText* Item = nullptr;
     PunktString* Next = nullptr;
 };
 using PPunktString = PunktString*;
+
+/// Figures of one list.
+struct Figurenmenge {
+    std::vector<PunktKnoten*> punkte;
+    std::vector<PunktKante*> kanten;
+    std::vector<PunktString*> texte;
+
+    [[nodiscard]] std::size_t Anzahl() const { return punkte.size() + kanten.size() + texte.size(); }
+};
 
 /// Where a figure stood that was taken out of its list.
 template <class Knoten>

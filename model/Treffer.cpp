@@ -1,4 +1,7 @@
 // Hit-tests of the list: the figure under the mouse.
+#include <algorithm>
+#include <vector>
+
 #include "model/FigListe.h"
 #include "model/Ganzzahl.h"
 #include "model/Zeichner.h"
@@ -48,27 +51,48 @@ bool Liste::Gefangen(Bildpunkt maus, Bildpunkt ort) const {
            ort.y <= Summe(maus.y, r);
 }
 
+namespace {
+
+/// Where the position of a caught figure may lie.
+Bildbereich Fangbereich(Bildpunkt maus, std::int64_t r) {
+    return {Differenz(maus.x, r), Differenz(maus.y, r), Summe(maus.x, r), Summe(maus.y, r)};
+}
+
+/// The first that fits, or null.
+template <class Knoten, class Bedingung>
+Knoten* Erster(const std::vector<Knoten*>& knoten, Bedingung passt) {
+    const auto treffer = std::find_if(knoten.begin(), knoten.end(), [&](Knoten* k) { return passt(*k); });
+    return treffer != knoten.end() ? *treffer : nullptr;
+}
+
+}  // namespace
+
 PPunktKnoten Liste::ClickPunkt(Bildpunkt maus) const {
-    for (PPunktKnoten p = PunktKnoten; p != nullptr; p = p->Next) {
-        if (Gefangen(maus, p->Item->Position())) return p;
-    }
-    return nullptr;
+    std::vector<PPunktKnoten> nahe;
+    SammlePunkte(Fangbereich(maus, einstellungen_.Fang), nahe);
+    return Erster(nahe, [&](const zrw::PunktKnoten& p) { return Gefangen(maus, p.Item->Position()); });
 }
 
 PPunktKnoten Liste::ClickGezeigten(Bildpunkt maus) const {
-    for (PPunktKnoten p = PunktKnoten; p != nullptr; p = p->Next) {
-        if (Gefangen(maus, p->Item->Position()) && p->Item->Visible && Dargestellt(*p->Item)) return p;
-    }
-    return nullptr;
+    std::vector<PPunktKnoten> nahe;
+    SammlePunkte(Fangbereich(maus, einstellungen_.Fang), nahe);
+    return Erster(nahe, [&](const zrw::PunktKnoten& p) {
+        return Gefangen(maus, p.Item->Position()) && p.Item->Visible && Dargestellt(*p.Item);
+    });
 }
 
 void Liste::LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z) {
     // By position, not by number: what meets the point in the picture must not stay behind when it moves.
     const Bildpunkt ort = punkt.Item->Position();
-    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
+    const Bildbereich dort = Fangbereich(ort, 0);
+    std::vector<PPunktKante> kanten;
+    SammleKanten(dort, kanten);
+    for (PPunktKante k : kanten) {
         if (k->Item->Position() == ort || k->Item->Ende() == ort) k->Item->Hide(z);
     }
-    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
+    std::vector<PPunktString> texte;
+    SammleTexte(dort, texte);
+    for (PPunktString t : texte) {
         if (t->Item->Position() == ort) t->Item->Hide(z);
     }
 }
@@ -82,39 +106,41 @@ bool Liste::MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z) {
 }
 
 PPunktString Liste::MausPktText(Bildpunkt maus) const {
-    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        if (Gefangen(maus, t->Item->Textort())) return t;
-    }
-    return nullptr;
+    std::vector<PPunktString> nahe;
+    SammleTexte(Fangbereich(maus, einstellungen_.Fang), nahe);
+    return Erster(nahe, [&](const PunktString& t) { return Gefangen(maus, t.Item->Textort()); });
 }
 
 PPunktString Liste::ClickGezeigtenText(Bildpunkt maus) const {
     if (!ShowPktText || !ShowHilfP) return nullptr;
-    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        if (!t->Item->Visible || !Gefangen(maus, t->Item->Textort())) continue;
-        const zrw::PunktKnoten* p = SuchPkt(t->TNr);
-        if (p != nullptr && Dargestellt(*p->Item)) return t;
-    }
-    return nullptr;
+    std::vector<PPunktString> nahe;
+    SammleTexte(Fangbereich(maus, einstellungen_.Fang), nahe);
+    return Erster(nahe, [&](const PunktString& t) {
+        if (!t.Item->Visible || !Gefangen(maus, t.Item->Textort())) return false;
+        const zrw::PunktKnoten* p = SuchPkt(t.TNr);
+        return p != nullptr && Dargestellt(*p->Item);
+    });
 }
 
 void Liste::MausLegende(Bildpunkt maus) {
     if (Legend != nullptr) Legend->Move = Gefangen(maus, Legend->Position());
 }
 
+// A line is caught up to a whole pixel farther off, and beside its ends.
+
 PPunktKante Liste::PickKante(Bildpunkt maus) const {
-    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        if (Trifft(*k->Item, maus, einstellungen_.Fang)) return k;
-    }
-    return nullptr;
+    std::vector<PPunktKante> nahe;
+    SammleKanten(Fangbereich(maus, std::int64_t{einstellungen_.Fang} + 1), nahe);
+    return Erster(nahe, [&](const PunktKante& k) { return Trifft(*k.Item, maus, einstellungen_.Fang); });
 }
 
 PPunktKante Liste::PickGezeigte(Bildpunkt maus) const {
     if (!ShowBeob) return nullptr;
-    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        if (k->Item->Visible && Trifft(*k->Item, maus, einstellungen_.Fang) && Dargestellt(*k)) return k;
-    }
-    return nullptr;
+    std::vector<PPunktKante> nahe;
+    SammleKanten(Fangbereich(maus, std::int64_t{einstellungen_.Fang} + 1), nahe);
+    return Erster(nahe, [&](const PunktKante& k) {
+        return k.Item->Visible && Trifft(*k.Item, maus, einstellungen_.Fang) && Dargestellt(k);
+    });
 }
 
 }  // namespace zrw

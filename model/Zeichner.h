@@ -24,6 +24,10 @@ class Zeichner {
     virtual void ZeichneKante(const Kante& kante, Gang gang) = 0;
     virtual void ZeichneText(const PktText& text, Gang gang) = 0;
 
+    /// Draws all lines, points and labels, where the drawer has a quicker way to the same picture than being
+    /// handed them one by one. @return false: it has none, nothing is drawn
+    virtual bool ZeichneNetz(const Liste& /*liste*/) { return false; }
+
     // Overlays. A drawer that does not know one leaves it out of its picture.
     virtual void ZeichneLegende(Legende& /*legende*/, Gang /*gang*/) {}
     virtual void GitterShow(const Liste& /*liste*/) {}

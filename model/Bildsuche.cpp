@@ -1,0 +1,63 @@
+#include "model/Bildsuche.h"
+
+#include <cmath>
+
+namespace zrw {
+
+void Suchmenge::Auf(std::uint32_t folge, bool gebaut) {
+    if (folge / 64 >= da_.size()) da_.resize(folge / 64 + 1);
+    da_[folge / 64] |= std::uint64_t{1} << (folge % 64);
+    ++anzahl_;
+    if (gebaut) lose_.push_back(folge);
+}
+
+void Suchmenge::Ab(std::uint32_t folge) {
+    if (!Hat(folge)) return;
+    da_[folge / 64] &= ~(std::uint64_t{1} << (folge % 64));
+    --anzahl_;
+}
+
+void Suchmenge::Leere() {
+    da_.clear();
+    anzahl_ = 0;
+    VergissOrte();
+}
+
+void Suchmenge::VergissOrte() {
+    baum_.Leere();
+    lose_.clear();
+}
+
+bool Bildsuche::Ueberholt() const {
+    const auto viele = [](const Suchmenge& m) { return m.Lose() > 256 + m.Anzahl() / 64; };
+    return !gebaut || viele(punkte) || viele(kanten) || viele(texte);
+}
+
+bool Bildsuche::Brauchbar() const {
+    return lage.faktor > 0.0 && std::isfinite(lage.faktor) && std::isfinite(lage.links) &&
+           std::isfinite(lage.oben);
+}
+
+Weltkasten Bildsuche::Welt(const Bildbereich& b) const {
+    const double f = lage.faktor;
+    // Positions are rounded to whole pixels, and the digits of large coordinates end somewhere.
+    const double rand = 2.0 * f;
+    const auto ungenau = [](double v) { return std::fabs(v) * 1e-12; };
+    const double x = lage.links;
+    const double y = lage.oben;
+    const double links = x + static_cast<double>(b.links) * f;
+    const double rechts = x + static_cast<double>(b.rechts) * f;
+    const double oben = y - static_cast<double>(b.oben) * f;
+    const double unten = y - static_cast<double>(b.unten) * f;
+    return {links - rand - ungenau(links) - ungenau(x), unten - rand - ungenau(unten) - ungenau(y),
+            rechts + rand + ungenau(rechts) + ungenau(x), oben + rand + ungenau(oben) + ungenau(y)};
+}
+
+void Bildsuche::Vergiss() {
+    gebaut = false;
+    punkte.VergissOrte();
+    kanten.VergissOrte();
+    texte.VergissOrte();
+}
+
+}  // namespace zrw

@@ -1,0 +1,121 @@
+// Which figures of a list may touch a part of the picture, without a walk through all of them. The trees lie
+// in the world, so that panning and zooming leave them as they are; figures that came or moved since they
+// were built are kept beside them and always among the answers. An answer may hold too much, never too
+// little: whoever asks looks at the figures themselves.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "model/Raumbaum.h"
+#include "model/Werte.h"
+
+namespace zrw {
+
+/// Rectangle in the picture [px]; its last row and column belong to it.
+struct Bildbereich {
+    std::int64_t links = 0;
+    std::int64_t oben = 0;
+    std::int64_t rechts = 0;
+    std::int64_t unten = 0;
+};
+
+/// How picture positions follow from the world.
+struct Bildlage {
+    double faktor = 0.0;  ///< [m/px]
+    double links = 0.0;   ///< easting of the left border [m]
+    double oben = 0.0;    ///< northing of the upper border [m]
+};
+
+/// What is in one list: its figures by `Folge`, and where they are.
+class Suchmenge {
+  public:
+    void Auf(std::uint32_t folge, bool gebaut);
+    void Ab(std::uint32_t folge);
+    /// The figure has moved, or does not lie where its point does.
+    void Verlegt(std::uint32_t folge) { lose_.push_back(folge); }
+    [[nodiscard]] bool Hat(std::uint32_t folge) const {
+        return folge / 64 < da_.size() && (da_[folge / 64] >> (folge % 64) & 1U) != 0;
+    }
+    [[nodiscard]] std::size_t Lose() const { return lose_.size(); }
+    [[nodiscard]] std::size_t Anzahl() const { return anzahl_; }
+
+    /// @param eintraege those with a box, neighbours beside each other; all others are kept beside the tree
+    template <class Kasten>
+    void Baue(std::vector<std::uint32_t> eintraege, std::vector<std::uint32_t> lose, Kasten kasten) {
+        baum_.Baue(std::move(eintraege), kasten);
+        lose_ = std::move(lose);
+    }
+    void Leere();
+    /// Forgets where the figures are.
+    void VergissOrte();
+
+    /// Calls `tun(folge)` for all figures, from the newest to the oldest.
+    template <class Tun>
+    void FuerAlle(Tun tun) const {
+        Zaehle(da_, tun);
+    }
+    /// The same for those that may touch the rectangle.
+    template <class Tun>
+    void Suche(const Weltkasten& wo, Tun tun) const {
+        std::vector<std::uint32_t> treffer = lose_;
+        baum_.Suche(wo, [&](std::uint32_t f) { treffer.push_back(f); });
+        if (treffer.size() < kWenige) {
+            std::sort(treffer.rbegin(), treffer.rend());
+            std::uint32_t voriger = ~0U;
+            for (const std::uint32_t f : treffer) {
+                if (f != voriger && Hat(f)) tun(f);
+                voriger = f;
+            }
+            return;
+        }
+        // Many are sorted by ticking them off.
+        std::vector<std::uint64_t> bits(da_.size());
+        for (const std::uint32_t f : treffer) {
+            if (Hat(f)) bits[f / 64] |= std::uint64_t{1} << (f % 64);
+        }
+        Zaehle(bits, tun);
+    }
+
+  private:
+    static constexpr std::size_t kWenige = 512;
+
+    template <class Tun>
+    static void Zaehle(const std::vector<std::uint64_t>& bits, Tun tun) {
+        for (std::size_t i = bits.size(); i-- > 0;) {
+            for (std::uint64_t wort = bits[i]; wort != 0;) {
+                const auto hoechstes = static_cast<std::uint32_t>(63 - std::countl_zero(wort));
+                tun(static_cast<std::uint32_t>(i) * 64 + hoechstes);
+                wort &= ~(std::uint64_t{1} << hoechstes);
+            }
+        }
+    }
+
+    std::vector<std::uint64_t> da_;  ///< one bit each: is in the list
+    std::size_t anzahl_ = 0;
+    Raumbaum baum_;
+    std::vector<std::uint32_t> lose_;
+};
+
+/// The three lists together, with the view that their picture positions were worked out with.
+struct Bildsuche {
+    Suchmenge punkte;
+    Suchmenge kanten;
+    Suchmenge texte;
+    Bildlage lage;
+    bool gebaut = false;
+    bool frisch = false;  ///< no figure came or moved since the positions were worked out
+    Weltkasten alles;     ///< of all points, once built
+
+    /// What came or moved has grown too much to be asked every time.
+    [[nodiscard]] bool Ueberholt() const;
+    /// World rectangle that holds every figure at a picture position in the rectangle.
+    [[nodiscard]] Weltkasten Welt(const Bildbereich& b) const;
+    /// The picture positions follow from the world as they do on a map.
+    [[nodiscard]] bool Brauchbar() const;
+    void Vergiss();
+};
+
+}  // namespace zrw

@@ -1,0 +1,40 @@
+// Which points are switched on, by internal number. Asking the points of every line would wait for memory
+// each time, so each point is asked once.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "model/FigListe.h"
+
+namespace zrw {
+
+class Gezeigt {
+  public:
+    explicit Gezeigt(const Liste& liste) : liste_(liste), antworten_(kMaxPunkte + 1) {}
+
+    /// There is such a point, and its kind is switched on.
+    [[nodiscard]] bool operator()(PunktIndex nr) {
+        Antwort& a = antworten_[nr];
+        if (a == Antwort::Offen) {
+            const PunktKnoten* p = liste_.SuchPkt(nr);
+            a = p != nullptr && liste_.Dargestellt(*p->Item) ? Antwort::Ja : Antwort::Nein;
+        }
+        return a == Antwort::Ja;
+    }
+    [[nodiscard]] bool operator()(const PunktKante& k) { return (*this)(k.ANr) && (*this)(k.ENr); }
+    /// A label belongs to the point that its text names.
+    [[nodiscard]] bool operator()(const PunktString& t) {
+        if (liste_.TexteEindeutig()) return (*this)(t.TNr);
+        const PunktKnoten* p = liste_.FindPunkt(t.Item->Aus.Text());
+        return p != nullptr && liste_.Dargestellt(*p->Item);
+    }
+
+  private:
+    enum class Antwort : std::uint8_t { Offen, Ja, Nein };
+
+    const Liste& liste_;
+    std::vector<Antwort> antworten_;
+};
+
+}  // namespace zrw

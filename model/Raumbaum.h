@@ -1,0 +1,90 @@
+// A packed tree of boxes in the world: which entries may touch a rectangle, without asking all of them. Built
+// at once from entries that are sorted by where they lie, never changed.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace zrw {
+
+/// Rectangle in the world [m]; empty as it is made.
+struct Weltkasten {
+    double links = 1e300;
+    double unten = 1e300;
+    double rechts = -1e300;
+    double oben = -1e300;
+
+    void Nimm(double x, double y) {
+        links = std::min(links, x);
+        rechts = std::max(rechts, x);
+        unten = std::min(unten, y);
+        oben = std::max(oben, y);
+    }
+    void Nimm(const Weltkasten& k) {
+        links = std::min(links, k.links);
+        rechts = std::max(rechts, k.rechts);
+        unten = std::min(unten, k.unten);
+        oben = std::max(oben, k.oben);
+    }
+    [[nodiscard]] bool Beruehrt(const Weltkasten& k) const {
+        return links <= k.rechts && k.links <= rechts && unten <= k.oben && k.unten <= oben;
+    }
+};
+
+class Raumbaum {
+  public:
+    /// @param eintraege neighbours beside each other @param kasten box of an entry, all finite
+    template <class Kasten>
+    void Baue(std::vector<std::uint32_t> eintraege, Kasten kasten) {
+        eintraege_ = std::move(eintraege);
+        ebenen_.clear();
+        std::vector<Weltkasten> blaetter((eintraege_.size() + kFach - 1) / kFach);
+        for (std::size_t i = 0; i < eintraege_.size(); ++i)
+            blaetter[i / kFach].Nimm(kasten(eintraege_[i]));
+        ebenen_.push_back(std::move(blaetter));
+        Stapele();
+    }
+    void Leere() {
+        eintraege_.clear();
+        ebenen_.clear();
+    }
+    /// Calls `tun(entry)` at least for every entry whose box touches the rectangle.
+    template <class Tun>
+    void Suche(const Weltkasten& wo, Tun tun) const {
+        if (!ebenen_.empty()) Steige(ebenen_.size() - 1, 0, ebenen_.back().size(), wo, tun);
+    }
+
+  private:
+    static constexpr std::size_t kFach = 16;  ///< entries of a leaf, and boxes of a node
+
+    void Stapele();
+    template <class Tun>
+    void Steige(std::size_t ebene, std::size_t von, std::size_t bis, const Weltkasten& wo, Tun& tun) const {
+        for (std::size_t i = von; i < bis; ++i) {
+            if (!ebenen_[ebene][i].Beruehrt(wo)) continue;
+            const std::size_t anfang = i * kFach;
+            if (ebene > 0) {
+                Steige(ebene - 1, anfang, std::min(anfang + kFach, ebenen_[ebene - 1].size()), wo, tun);
+                continue;
+            }
+            for (std::size_t k = anfang; k < std::min(anfang + kFach, eintraege_.size()); ++k)
+                tun(eintraege_[k]);
+        }
+    }
+
+    std::vector<std::uint32_t> eintraege_;
+    std::vector<std::vector<Weltkasten>> ebenen_;  ///< boxes of the leaves first, the root's last
+};
+
+/// The numbers of positions, sorted so that neighbours in the plane mostly stand beside each other: along the
+/// Z curve (Morton, 1966) of their ranks, which clusters and outliers do not disturb.
+struct Ebenenort {
+    double x = 0.0;
+    double y = 0.0;
+};
+[[nodiscard]] std::vector<std::uint32_t> SortiereNachOrt(std::span<const Ebenenort> orte);
+
+}  // namespace zrw

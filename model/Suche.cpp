@@ -1,0 +1,166 @@
+// Which figures may touch a part of the picture: keeps the trees of `Bildsuche` in step with the lists.
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <utility>
+
+#include "model/FigListe.h"
+#include "model/Ganzzahl.h"
+
+namespace zrw {
+namespace {
+
+/// Labels farther from their points are kept beside the tree [px].
+constexpr std::int64_t kNah = 64;
+
+using Folgen = std::vector<std::uint32_t>;
+
+bool Endlich(const PunktKnoten& p) {
+    return std::isfinite(p.XWPu) && std::isfinite(p.YWPu);
+}
+
+Weltkasten Kasten(const PunktKnoten& p) {
+    return {p.XWPu, p.YWPu, p.XWPu, p.YWPu};
+}
+
+bool Nah(const PktText& t) {
+    return t.XBiO >= -kNah && t.XBiO <= kNah && t.YBiO >= -kNah && t.YBiO <= kNah;
+}
+
+/// Figures by the place of their point.
+class NachRang {
+  public:
+    explicit NachRang(std::size_t raenge) : platz_(raenge + 1) {}
+    void Nimm(std::uint32_t rang, std::uint32_t folge) {
+        eintraege_.emplace_back(rang, folge);
+        ++platz_[rang + 1];
+    }
+    [[nodiscard]] Folgen Sortiert() {
+        std::partial_sum(platz_.begin(), platz_.end(), platz_.begin());
+        Folgen sortiert(eintraege_.size());
+        for (const auto& [rang, folge] : eintraege_)
+            sortiert[platz_[rang]++] = folge;
+        return sortiert;
+    }
+
+  private:
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> eintraege_;
+    Folgen platz_;
+};
+
+/// How much of a range lies in another one.
+double Anteil(double von, double bis, double a, double b) {
+    return bis > von ? std::max(std::min(bis, b) - std::max(von, a), 0.0) / (bis - von) : 1.0;
+}
+
+Bildbereich Erweitert(const Bildbereich& b, std::int64_t rand) {
+    return {Differenz(b.links, rand), Differenz(b.oben, rand), Summe(b.rechts, rand), Summe(b.unten, rand)};
+}
+
+}  // namespace
+
+/// False where all figures may as well be asked: the view holds a good part of the network, or its positions
+/// do not follow from the world.
+bool Liste::Suchbereit(const Bildbereich& b) const {
+    constexpr double kGuterTeil = 0.25;
+    if (!suche_.Brauchbar()) return false;
+    const Weltkasten wo = suche_.Welt(b);
+    const Weltkasten& netz = suche_.gebaut ? suche_.alles : Weltkasten{MinXW, MinYW, MaxXW, MaxYW};
+    if (Anteil(netz.links, netz.rechts, wo.links, wo.rechts) *
+            Anteil(netz.unten, netz.oben, wo.unten, wo.oben) >
+        kGuterTeil)
+        return false;
+    if (!suche_.Ueberholt()) return true;
+    if (suche_.frisch) BaueSuche();
+    return suche_.frisch;
+}
+
+void Liste::BaueSuche() const {
+    suche_.Vergiss();
+    suche_.gebaut = true;
+    suche_.alles = {};
+    const auto punkt = [this](std::uint32_t f) -> const zrw::PunktKnoten& { return punktArena_[f].knoten; };
+    Folgen folgen;
+    Folgen lose;
+    std::vector<Ebenenort> orte;
+    suche_.punkte.FuerAlle([&](std::uint32_t f) {
+        if (!Endlich(punkt(f))) return lose.push_back(f);
+        folgen.push_back(f);
+        orte.push_back({punkt(f).XWPu, punkt(f).YWPu});
+        suche_.alles.Nimm(punkt(f).XWPu, punkt(f).YWPu);
+    });
+    Folgen sortiert = SortiereNachOrt(orte);
+    Folgen rang(kMaxPunkte + 1);
+    for (std::uint32_t i = 0; i < sortiert.size(); ++i) {
+        sortiert[i] = folgen[sortiert[i]];
+        rang[punkt(sortiert[i]).PNr] = i;
+    }
+    const std::size_t raenge = std::max<std::size_t>(sortiert.size(), 1);
+    suche_.punkte.Baue(std::move(sortiert), std::exchange(lose, {}),
+                       [&](std::uint32_t f) { return Kasten(punkt(f)); });
+
+    const auto ende = [this](PunktIndex nr) {
+        const zrw::PunktKnoten* p = SuchPkt(nr);
+        return p != nullptr && Endlich(*p) ? p : nullptr;
+    };
+    NachRang kanten(raenge);
+    suche_.kanten.FuerAlle([&](std::uint32_t f) {
+        const PunktKante& k = kanteArena_[f].knoten;
+        if (ende(k.ANr) == nullptr || ende(k.ENr) == nullptr) return lose.push_back(f);
+        kanten.Nimm(rang[k.ANr], f);
+    });
+    suche_.kanten.Baue(kanten.Sortiert(), std::exchange(lose, {}), [&](std::uint32_t f) {
+        const PunktKante& k = kanteArena_[f].knoten;
+        Weltkasten kasten = Kasten(*SuchPkt(k.ANr));
+        kasten.Nimm(Kasten(*SuchPkt(k.ENr)));
+        return kasten;
+    });
+
+    NachRang texte(raenge);
+    suche_.texte.FuerAlle([&](std::uint32_t f) {
+        const PunktString& t = textArena_[f].knoten;
+        if (ende(t.TNr) == nullptr || !Nah(*t.Item) || !index_.NummernEindeutig()) return lose.push_back(f);
+        texte.Nimm(rang[t.TNr], f);
+    });
+    suche_.texte.Baue(texte.Sortiert(), std::move(lose),
+                      [&](std::uint32_t f) { return Kasten(*SuchPkt(textArena_[f].knoten.TNr)); });
+}
+
+void Liste::SammlePunkte(const Bildbereich& b, std::vector<PPunktKnoten>& aus) const {
+    const auto nimm = [&](std::uint32_t f) { aus.push_back(&punktArena_[f].knoten); };
+    Suchbereit(b) ? suche_.punkte.Suche(suche_.Welt(b), nimm) : suche_.punkte.FuerAlle(nimm);
+}
+
+void Liste::SammleKanten(const Bildbereich& b, std::vector<PPunktKante>& aus) const {
+    const auto nimm = [&](std::uint32_t f) { aus.push_back(&kanteArena_[f].knoten); };
+    Suchbereit(b) ? suche_.kanten.Suche(suche_.Welt(b), nimm) : suche_.kanten.FuerAlle(nimm);
+}
+
+void Liste::SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) const {
+    const Bildbereich weiter = Erweitert(b, kNah);
+    const auto nimm = [&](std::uint32_t f) { aus.push_back(&textArena_[f].knoten); };
+    Suchbereit(weiter) ? suche_.texte.Suche(suche_.Welt(weiter), nimm) : suche_.texte.FuerAlle(nimm);
+}
+
+/// A point came, left or moved: its lines and its label lie elsewhere.
+void Liste::MeldePunkt(const zrw::PunktKnoten& p) {
+    suche_.frisch = false;
+    if (!suche_.gebaut) return;
+    if (suche_.punkte.Hat(p.Folge)) suche_.punkte.Verlegt(p.Folge);
+    FuerKantenAm(p.PNr, [&](const PunktKante& k) { suche_.kanten.Verlegt(k.Folge); });
+    if (const PunktString* t = index_.FindeText(p.PNr); t != nullptr) suche_.texte.Verlegt(t->Folge);
+}
+
+void Liste::Versetze(zrw::PunktKnoten& p, Welt ort) {
+    p.XWPu = ort.rechts;
+    p.YWPu = ort.hoch;
+    MeldePunkt(p);
+}
+
+void Liste::Versetze(PunktString& t, Bildpunkt abstand) {
+    t.Item->XBiO = abstand.x;
+    t.Item->YBiO = abstand.y;
+    if (suche_.gebaut) suche_.texte.Verlegt(t.Folge);
+}
+
+}  // namespace zrw
