@@ -7,6 +7,7 @@
 #include "model/FigListe.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
+#include "output/Bildaufbau.h"
 #include "output/Kartengitter.h"
 #include "output/Legendenbild.h"
 #include "output/Residuenbild.h"
@@ -32,6 +33,16 @@ Dxfart Kantenart(bool gestrichelt) {
     return {dxf::kBeobachtungen, gestrichelt ? dxf::kGestrichelt : dxf::kDurchgezogen};
 }
 
+std::int32_t Begrenzt(std::int64_t v) {
+    constexpr std::int64_t kWeit = 1 << 30;
+    return static_cast<std::int32_t>(std::clamp(v, -kWeit, kWeit));
+}
+
+Rechteck Umgebung(Bildpunkt ort, std::int64_t r) {
+    return {Begrenzt(Differenz(ort.x, r)), Begrenzt(Differenz(ort.y, r)), Begrenzt(Summe(ort.x, r)),
+            Begrenzt(Summe(ort.y, r))};
+}
+
 constexpr Dxfart kPunktart{dxf::kPunkte};
 constexpr Dxfart kTextart{dxf::kPunktnummern};
 
@@ -52,6 +63,35 @@ Dxfpunkt Figurenzeichner::Weltort(Bildpunkt b) const {
     return {w.rechts, w.hoch};
 }
 
+Rechteck Figurenzeichner::Umfang(const Punkt& punkt) const {
+    return Umgebung(punkt.Position(), Symbolreichweite());
+}
+
+Rechteck Figurenzeichner::Umfang(const Kante& kante) const {
+    const Rechteck a = Umgebung(kante.Position(), Kantenreichweite());
+    const Rechteck e = Umgebung(kante.Ende(), Kantenreichweite());
+    return {std::min(a.links, e.links), std::min(a.oben, e.oben), std::max(a.rechts, e.rechts),
+            std::max(a.unten, e.unten)};
+}
+
+Rechteck Figurenzeichner::Umfang(const PktText& text) const {
+    if (zustand_.flaeche == nullptr) return kNichts;
+    // Glyphs may stand out of their line.
+    const std::int32_t rand = zustand_.flaeche->Texthoehe();
+    Rechteck r = Umgebung(text.Textort(), rand);
+    r.rechts = Begrenzt(std::int64_t{r.rechts} + zustand_.flaeche->Textbreite(text.Aus.Text()));
+    r.unten = Begrenzt(std::int64_t{r.unten} + rand);
+    return r;
+}
+
+void Figurenzeichner::MerkeGewischt(Gang gang, const Rechteck& r) {
+    if (gang != Gang::Wischen) return;
+    Rechteck& g = gewischt_;
+    g = g.links > g.rechts ? r
+                           : Rechteck{std::min(g.links, r.links), std::min(g.oben, r.oben),
+                                      std::max(g.rechts, r.rechts), std::max(g.unten, r.unten)};
+}
+
 void Figurenzeichner::SetzeEbene(Ebene ebene) const {
     if (zustand_.flaeche != nullptr) zustand_.flaeche->SetzeEbene(ebene);
 }
@@ -63,14 +103,20 @@ void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
 
 // --- Points -----------------------------------------------------------------------------------------------
 
+std::int64_t Figurenzeichner::Symbolreichweite() const {
+    const Einstellungen& e = einstellungen_;
+    return std::max({e.PTSize, e.HPSize, e.Kreuzgroesse, e.Quadratgroesse, e.RauteQuer, e.RauteLaengs,
+                     e.Dreieckgroesse}) +
+           1;
+}
+
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Gang gang) {
     SetzeEbene(Ebene::Punkte);
+    MerkeGewischt(gang, Umfang(punkt));
     const Einstellungen& e = einstellungen_;
     const Bildpunkt m = punkt.Position();
-    const std::int32_t groesste = std::max(
-        {e.PTSize, e.HPSize, e.Kreuzgroesse, e.Quadratgroesse, e.RauteQuer, e.RauteLaengs, e.Dreieckgroesse});
     Zeichenflaeche* f = zustand_.flaeche;
-    if (f != nullptr && !InReichweite(m, groesste + 1, f->Sichtbar())) f = nullptr;
+    if (f != nullptr && !InReichweite(m, Symbolreichweite(), f->Ausschnitt())) f = nullptr;
     const Symbolziel ziel{f, Plot(gang), Dxf(gang)};
     const Farbe farbe = gang == Gang::Wischen ? kWeiss : punkt.Farbe;
     std::optional<Stiftwechsel> wechsel;
@@ -150,6 +196,7 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
     const bool nurBild = Plot(gang) == nullptr && Dxf(gang) == nullptr;
     if (nurBild && !Beruehrt(kante)) return;
     SetzeEbene(Ebene::Beobachtungen);
+    MerkeGewischt(gang, Umfang(kante));
     const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
     if (zustand_.flaeche != nullptr) {
         const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
@@ -166,12 +213,16 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
     }
 }
 
+std::int64_t Figurenzeichner::Kantenreichweite() const {
+    const Einstellungen& e = einstellungen_;
+    return std::int64_t{8} + e.PTSize + 3 * e.Querstrich + 2 * e.GPSGroesse + e.Umweggroesse;
+}
+
 /// Whether a line with its marks may touch the surface.
 bool Figurenzeichner::Beruehrt(const Kante& kante) const {
     if (zustand_.flaeche == nullptr) return false;
-    const Einstellungen& e = einstellungen_;
-    const std::int64_t rand = 8 + e.PTSize + 3 * e.Querstrich + 2 * e.GPSGroesse + e.Umweggroesse;
-    const Rechteck s = zustand_.flaeche->Sichtbar();
+    const std::int64_t rand = Kantenreichweite();
+    const Rechteck s = zustand_.flaeche->Ausschnitt();
     const Bildpunkt a = kante.Position();
     const Bildpunkt b = kante.Ende();
     return std::max(a.x, b.x) >= s.links - rand && std::min(a.x, b.x) <= s.rechts + rand &&
@@ -180,8 +231,9 @@ bool Figurenzeichner::Beruehrt(const Kante& kante) const {
 
 void Figurenzeichner::ZeigeZug(const Zug& zug, Farbe farbe) {
     Zeichenflaeche& f = *zustand_.flaeche;
+    const Rechteck grenzen = f.Grenzen();
     for (const Strich& strich : Striche(zug.form)) {
-        const auto teil = Abschneiden(zug.punkte[strich.von], zug.punkte[strich.nach], f.Sichtbar());
+        const auto teil = Abschneiden(zug.punkte[strich.von], zug.punkte[strich.nach], grenzen);
         if (!teil) continue;
         const Strichart art = strich.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll;
         if (f.AktuellerStift().art != art) f.SetzeStift({farbe, 1, art});
@@ -213,6 +265,7 @@ void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
 
 void Figurenzeichner::ZeichneText(const PktText& text, Gang gang) {
     SetzeEbene(Ebene::Punktnummern);
+    if (gang == Gang::Wischen) MerkeGewischt(gang, Umfang(text));
     if (zustand_.flaeche != nullptr) ZeigeText(text, gang == Gang::Wischen ? kWeiss : text.Col);
     // The files always get the whole number. The plot shifts it by the horizontal offset in both directions;
     // plotted sheets have their numbers there.
@@ -239,8 +292,23 @@ void Figurenzeichner::ZeigeText(const PktText& text, Farbe farbe) {
     // No character is wider than twice the line height.
     const std::int64_t rand =
         std::int64_t{f.Texthoehe()} * 2 * static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
-    if (zeichen.empty() || !InReichweite(ort, rand, f.Sichtbar())) return;
+    if (zeichen.empty() || !InReichweite(ort, rand, f.Ausschnitt())) return;
     f.Text(Aufflaeche(ort), zeichen, farbe);
+}
+
+// --- All of them ------------------------------------------------------------------------------------------
+
+bool Figurenzeichner::ZeichneNetz(const Liste& liste) {
+    Zeichenflaeche* f = zustand_.flaeche;
+    if (!zustand_.Abkuerzungen || f == nullptr || zustand_.modus != Zeichenmodus::Bildschirm ||
+        zustand_.ExportActive || Dxf(Gang::Zeigen) != nullptr)
+        return false;
+    // No character is wider than twice the line height.
+    const std::int64_t hoehe = f->Texthoehe();
+    const auto laenge = static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
+    Bildaufbau(liste, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe})
+        .Zeichne();
+    return true;
 }
 
 // --- Overlays ---------------------------------------------------------------------------------------------
@@ -249,6 +317,7 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
     if (zustand_.flaeche == nullptr) return;
     SetzeEbene(Ebene::Legende);
+    MerkeGewischt(gang, zustand_.flaeche->Sichtbar());
     // Printing leaves a device factor behind that means nothing on the screen.
     const double geraetefaktor = zustand_.modus == Zeichenmodus::Drucker ? zustand_.Geraetefaktor : 1.0;
     Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).Zeichne(legende, gang);

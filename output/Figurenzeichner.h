@@ -19,6 +19,9 @@
 
 namespace zrw {
 
+/// The largest symbols that the screen's surface draws itself [px].
+inline constexpr std::int64_t kGroesstesSymbol = 30;
+
 class Figurenzeichner final : public Zeichner {
   public:
     /// All must outlive the drawer. @param netz for the map sheets @param uhr for the legend
@@ -30,13 +33,25 @@ class Figurenzeichner final : public Zeichner {
     void ZeichnePunkt(const Punkt& punkt, Gang gang) override;
     void ZeichneKante(const Kante& kante, Gang gang) override;
     void ZeichneText(const PktText& text, Gang gang) override;
+    bool ZeichneNetz(const Liste& liste) override;
     void ZeichneLegende(Legende& legende, Gang gang) override;
     void GitterShow(const Liste& liste) override;
     void KMGitterShow(const Liste& liste) override;
     void ZeichnePunktRes(const Liste& liste) override;
     void DrawResMasstab(const Liste& liste) override;
 
+    // Where a figure may show on the screen [px], with some room to spare.
+    [[nodiscard]] Rechteck Umfang(const Punkt& punkt) const;
+    [[nodiscard]] Rechteck Umfang(const Kante& kante) const;
+    [[nodiscard]] Rechteck Umfang(const PktText& text) const;
+    /// Where figures were wiped, which leaves holes in what they crossed; empty where nothing was.
+    [[nodiscard]] const Rechteck& Gewischt() const { return gewischt_; }
+    void VergissGewischtes() { gewischt_ = kNichts; }
+    /// Symbols are small enough for the surface to set their pixels itself.
+    [[nodiscard]] bool NurPixel() const { return Symbolreichweite() <= kGroesstesSymbol; }
+
   private:
+    static constexpr Rechteck kNichts{1, 1, 0, 0};
     /// Where a point symbol is drawn to: what is null is left out.
     struct Symbolziel {
         Zeichenflaeche* flaeche;
@@ -49,7 +64,11 @@ class Figurenzeichner final : public Zeichner {
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 
     void SetzeEbene(Ebene ebene) const;
+    void MerkeGewischt(Gang gang, const Rechteck& r);
     [[nodiscard]] bool Beruehrt(const Kante& kante) const;
+    /// How far a line's marks reach [px].
+    [[nodiscard]] std::int64_t Kantenreichweite() const;
+    [[nodiscard]] std::int64_t Symbolreichweite() const;
     void ZeigeZug(const Zug& zug, Farbe farbe);
     void SchreibeZug(const Zug& zug, const Kante& kante);
     void ZeigeText(const PktText& text, Farbe farbe);
@@ -62,6 +81,7 @@ class Figurenzeichner final : public Zeichner {
     const Einstellungen& einstellungen_;
     const Netzangaben& netz_;
     const Uhr& uhr_;
+    Rechteck gewischt_ = kNichts;
 };
 
 }  // namespace zrw

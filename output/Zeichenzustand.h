@@ -19,6 +19,7 @@ struct Zeichenzustand {
     Zeichenmodus modus = Zeichenmodus::Bildschirm;
     double Geraetefaktor = 1.0;             ///< device dots per screen pixel [-]
     bool KurzeNummern = false;              ///< labels without their first four characters
+    bool Abkuerzungen = true;               ///< quick ways to the same picture; off for comparing with them
     Punktergebnisse* Ergebnisse = nullptr;  ///< null: no results are known
 
     // Export: the drawing routines write to these files, too. Set by `Exportiere` only.

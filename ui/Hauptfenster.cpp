@@ -119,6 +119,7 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     : programm_(programm),
       flaeche_(1, 1),
       zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
+      pflege_(programm.zustand, flaeche_, zeichner_),
       ordner_(programm.sitzung.Ordner()) {
     constexpr int kSchritte = 500;
     aenderungen_.setUndoLimit(kSchritte);

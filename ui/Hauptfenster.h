@@ -20,6 +20,7 @@
 #include "output/Blattschnitt.h"
 #include "output/Figurenzeichner.h"
 #include "ui/Bildflaeche.h"
+#include "ui/Bildpflege.h"
 #include "ui/Druckrahmen.h"
 #include "ui/ImageZarwik.h"
 #include "ui/Massstabfeld.h"
@@ -115,6 +116,9 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
 
     // HauptfensterAnsicht.cpp
     void Zoome(double x, double y, bool groesser);
+    bool RechneZoom(double x, double y, bool groesser);
+    void ZeichneNachRad();
+    void BringeInsZiel();
     /// False where the scale lies beyond what zooming allows.
     bool SetzeAnsicht(double faktor, Welt linksOben);
     void MerkeAnsicht(double faktor, Welt linksOben);
@@ -136,14 +140,20 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ZeichneNeu() override;
     void ZeigeVorschau(Vorschau vorschau) override;
     void ZeigeStatus(const QString& text) override { statusBar()->showMessage(text); }
-    void Tue(std::unique_ptr<QUndoCommand> aenderung) override { aenderungen_.push(aenderung.release()); }
-    void ZeigeVerschoben(Bildpunkt versatz) override { bild_->SetzeVerschiebung(versatz); }
-    void Verschiebe(Bildpunkt versatz) override;
+    void Tue(std::unique_ptr<Netzaenderung> aenderung) override;
+    void HeileBild() override;
+    void BeginneZug() override;
+    void ZieheBild(Bildpunkt versatz) override;
+    void BeendeZug() override;
+    void Verschiebe(Bildpunkt versatz);
     void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
     void ZoomeUm(Bildpunkt ort) override;
     void AnsichtZurueck() override;
 
     // HauptfensterPunkte.cpp
+    template <class Tat>
+    void Fuehre(const Netzaenderung& aenderung, Tat tat);
+    [[nodiscard]] const Netzaenderung& Aenderung(int i) const;
     void NetzGeaendert();
     void FuelleNummern();
     void ZeigePunkt(const QString& nummer);
@@ -190,6 +200,12 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     bool beendet_ = false;      ///< closing has been asked about
     Bildflaeche flaeche_;
     Figurenzeichner zeichner_;
+    Bildpflege pflege_;
+    const Netzaenderung* laufende_ = nullptr;  ///< the change that is being made or taken back
+    Welt zuganfang_;                           ///< pan offsets before the picture was dragged [m]
+    Bildpunkt gezogen_;                        ///< how far it has been dragged [px]
+    Bildpunkt zugziel_;                        ///< how far it is to be dragged [px]
+    bool radOffen_ = false;                    ///< the view has changed with the wheel, the picture has not
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
     std::unique_ptr<LegendeVerschieben> legendenecke_;

@@ -1,5 +1,6 @@
 // Main window: view, mouse and status line.
 #include <QKeyEvent>
+#include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 #include <string>
@@ -26,8 +27,8 @@ constexpr double kEinzelpunkt = 0.5;
 
 void TZrwMainDlg::ZeichneNeu() {
     if (liste_ == nullptr) return;
-    liste_->WeltinBild();
-    liste_->ShowPicture(zeichner_);
+    radOffen_ = false;
+    pflege_.ZeichneNeu(*liste_);
     ZeigeBild();
 }
 
@@ -56,7 +57,7 @@ void TZrwMainDlg::SpeedButton3Click() {
     if (liste_ == nullptr) return;
     BrichAb();
     if (std::exchange(ausdehnungAlt_, false)) liste_->FindWorldMinMax();
-    liste_->Alles(zeichner_);
+    pflege_.Alles(*liste_);
     ZeigeBild();
 }
 
@@ -148,26 +149,25 @@ void TZrwMainDlg::ButtonKleinerClick() {
 /// One zoom step that keeps the world position at (x, y) [px] in place.
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
+    if (RechneZoom(x, y, groesser)) ZeichneNeu();
+}
+
+/// The view after the step. @return false: zooming ends here
+bool TZrwMainDlg::RechneZoom(double x, double y, bool groesser) {
     Liste& l = *liste_;
     const double z = programm_.einstellungen.Zoomschritt;
     const double s = l.Faktor;
     const double danach = groesser ? s * z : s / z;
     if (groesser ? danach < kFeinster : danach > kGroebster) {
         ZeigeStatus(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
-        return;
+        return false;
     }
-    // Zooming out does not clear the picture by itself.
-    l.ClearPicture(zeichner_);
     l.XOffset += x * s;
     l.YOffset -= y * s;
     l.XOffset -= x * danach;
     l.YOffset += y * danach;
-    if (groesser) {
-        l.ZoomUp(zeichner_);
-    } else {
-        l.ZoomDown(zeichner_);
-    }
-    ZeigeBild();
+    l.Faktor = danach;
+    return true;
 }
 
 void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {
@@ -206,6 +206,7 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
         if (taste != taste_) return;
     }
     if (liste_ == nullptr) return;
+    ZeichneNachRad();
     if (taste == Qt::RightButton && Aktiv() != nullptr) {
         Aktiv()->RechteTaste();
         return;
@@ -280,11 +281,21 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
     if (liste_ == nullptr || gedrueckt_ != nullptr) return;
+    BrichAb();
     // Turning down enlarges, turning up shrinks.
     const int anzahl = std::min(std::abs(schritte), 10);
+    bool gezoomt = false;
     for (int i = 0; i < anzahl; ++i)
-        Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0);
+        gezoomt |= RechneZoom(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0);
+    if (!gezoomt) return;
     ZeigeStatus(ort);
+    // Steps that arrive while a picture is being drawn are drawn together with the next.
+    if (!std::exchange(radOffen_, true)) QTimer::singleShot(0, this, [this] { ZeichneNachRad(); });
+}
+
+void TZrwMainDlg::ZeichneNachRad() {
+    if (radOffen_ && liste_ != nullptr) ZeichneNeu();
+    radOffen_ = false;
 }
 
 void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
@@ -298,8 +309,52 @@ void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
 
 void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
     BrichAb();
-    liste_->MoveMe(-versatz.x, versatz.y);
-    ZeichneNeu();
+    const double f = liste_->Faktor;
+    pflege_.Verschiebe(*liste_,
+                       {liste_->XOffset - static_cast<double>(versatz.x) * f,
+                        liste_->YOffset + static_cast<double>(versatz.y) * f},
+                       versatz);
+    ZeigeBild();
+}
+
+void TZrwMainDlg::HeileBild() {
+    if (liste_ == nullptr) return;
+    pflege_.Heile(*liste_);
+    ZeigeBild();
+}
+
+void TZrwMainDlg::BeginneZug() {
+    zuganfang_ = {liste_->XOffset, liste_->YOffset};
+    gezogen_ = {};
+    zugziel_ = {};
+}
+
+void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
+    zugziel_ = versatz;
+    if (pflege_.Verschiebbar(*liste_)) {
+        BringeInsZiel();
+    } else {
+        // What stands still or must be worked out anew is drawn when the mouse is let go.
+        bild_->SetzeVerschiebung({versatz.x - gezogen_.x, versatz.y - gezogen_.y});
+    }
+}
+
+void TZrwMainDlg::BeendeZug() {
+    bild_->SetzeVerschiebung({});
+    BringeInsZiel();
+}
+
+/// From where dragging began, so that many small moves do not add up their rounding.
+void TZrwMainDlg::BringeInsZiel() {
+    if (zugziel_ == gezogen_) return;
+    const double f = liste_->Faktor;
+    const Bildpunkt weg{zugziel_.x - gezogen_.x, zugziel_.y - gezogen_.y};
+    pflege_.Verschiebe(*liste_,
+                       {zuganfang_.rechts - static_cast<double>(zugziel_.x) * f,
+                        zuganfang_.hoch + static_cast<double>(zugziel_.y) * f},
+                       weg);
+    gezogen_ = zugziel_;
+    ZeigeBild();
 }
 
 }  // namespace zrw

@@ -31,12 +31,33 @@ std::string AlsNummer(const QString& text) {
 // A drag under way ends first: its figures are out of the picture, and what is changed may be one of them.
 void TZrwMainDlg::Rueckgaengig() {
     BrichAb();
-    aenderungen_.undo();
+    if (!aenderungen_.canUndo()) return;
+    Fuehre(Aenderung(aenderungen_.index() - 1), [this] { aenderungen_.undo(); });
 }
 
 void TZrwMainDlg::Wiederhole() {
     BrichAb();
-    aenderungen_.redo();
+    if (!aenderungen_.canRedo()) return;
+    Fuehre(Aenderung(aenderungen_.index()), [this] { aenderungen_.redo(); });
+}
+
+/// All that is on the stack came through `Tue`.
+const Netzaenderung& TZrwMainDlg::Aenderung(int i) const {
+    return static_cast<const Netzaenderung&>(*aenderungen_.command(i));
+}
+
+void TZrwMainDlg::Tue(std::unique_ptr<Netzaenderung> aenderung) {
+    Netzaenderung* getan = aenderung.release();
+    Fuehre(*getan, [this, getan] { aenderungen_.push(getan); });
+}
+
+/// Makes a change or takes it back, and draws the picture where it shows.
+template <class Tat>
+void TZrwMainDlg::Fuehre(const Netzaenderung& aenderung, Tat tat) {
+    if (liste_ != nullptr) pflege_.Vorher(*liste_, aenderung.Betroffene());
+    laufende_ = &aenderung;
+    tat();
+    laufende_ = nullptr;
 }
 
 /// A change was made, undone or made again.
@@ -49,7 +70,12 @@ void TZrwMainDlg::NetzGeaendert() {
         (gewaehlt_->XWPu != gewaehltOrt_.rechts || gewaehlt_->YWPu != gewaehltOrt_.hoch))
         WaehlePunkt(*gewaehlt_);
     if (nummernstand_ != liste_->MaxPkte) FuelleNummern();
-    ZeichneNeu();
+    if (laufende_ != nullptr) {
+        pflege_.Nachher(*liste_, laufende_->Betroffene());
+        ZeigeBild();
+    } else {
+        ZeichneNeu();
+    }
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->NetzGeaendert();
 }
@@ -117,6 +143,7 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
         for (const std::int32_t r : {50, 25})
             flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
     }
+    pflege_.Beschmutze();
     bild_->update();
     ZeigeStatus(QStringLiteral("Punkt ") + gefunden);
     return punkt;
@@ -177,7 +204,7 @@ void TZrwMainDlg::VerbergePunkte(const QStringList& nummern) {
     if (liste_ == nullptr) return;
     auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt verstecken"));
     for (const QString& nummer : nummern) {
-        if (const PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
+        if (PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
             aenderung->NimmPunkt(*liste_, *p, false);
     }
     Verberge(std::move(aenderung), nummern);
@@ -207,7 +234,7 @@ void TZrwMainDlg::ZeigeVerborgene(const QStringList& nummern) {
     if (liste_ == nullptr) return;
     auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt anzeigen"));
     for (const QString& nummer : nummern) {
-        if (const PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
+        if (PunktKnoten* p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
             aenderung->NimmPunkt(*liste_, *p, true);
     }
     if (nummern.isEmpty() || aenderung->Leer()) {
@@ -233,7 +260,7 @@ void TZrwMainDlg::NummernZeigenClick() {
     for (PPunktString t = liste_->PktTextKnoten; t != nullptr; t = t->Next) {
         // The number of a hidden point stays with it.
         const PunktKnoten* p = liste_->SuchPkt(t->TNr);
-        if (p != nullptr && p->Item->Visible) aenderung->Nimm(t->Item->Visible, true);
+        if (p != nullptr && p->Item->Visible) aenderung->Nimm(*t, true);
     }
     if (!aenderung->Leer()) Tue(std::move(aenderung));
 }
@@ -275,7 +302,7 @@ void TZrwMainDlg::ZeichnePunktart() {
                                       hier ? Welt{gewaehlt_->XWPu, gewaehlt_->YWPu} : ort};
     const Punkt& p = *gewaehlt_->Item;
     const bool gleich = hier && p.PktArt == neu.art && p.PktTyp == neu.symbol && p.Farbe == neu.farbe;
-    if (!gleich) Tue(std::make_unique<PunktGeaendert>(*gewaehlt_, liste_->FindPktText(gewaehlt_->PNr), neu));
+    if (!gleich) Tue(std::make_unique<PunktGeaendert>(*liste_, *gewaehlt_, neu));
 }
 
 void TZrwMainDlg::FuegePunktEin(const Punkteingabe& eingabe, Welt ort) {

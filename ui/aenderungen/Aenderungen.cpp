@@ -4,36 +4,39 @@
 
 namespace zrw {
 
-PunktVersetzt::PunktVersetzt(PunktKnoten& punkt, Welt nach)
-    : punkt_(punkt), alt_{punkt.XWPu, punkt.YWPu}, neu_(nach) {
+PunktVersetzt::PunktVersetzt(Liste& liste, PunktKnoten& punkt, Welt nach)
+    : liste_(liste), punkt_(punkt), alt_{punkt.XWPu, punkt.YWPu}, neu_(nach) {
     setText(QStringLiteral("Punkt verschieben"));
 }
 
-void PunktVersetzt::Setze(Welt ort) {
-    punkt_.XWPu = ort.rechts;
-    punkt_.YWPu = ort.hoch;
-}
-
-NummerVersetzt::NummerVersetzt(PktText& text, Bildpunkt abstand)
-    : text_(text), alt_{text.XBiO, text.YBiO}, neu_(abstand) {
+NummerVersetzt::NummerVersetzt(Liste& liste, PunktString& text, Bildpunkt abstand)
+    : liste_(liste), text_(text), alt_{text.Item->XBiO, text.Item->YBiO}, neu_(abstand) {
     setText(QStringLiteral("Punktnummer verschieben"));
 }
 
-void NummerVersetzt::Setze(Bildpunkt abstand) {
-    text_.XBiO = abstand.x;
-    text_.YBiO = abstand.y;
-}
-
-void SichtbarkeitGeaendert::Nimm(bool& sichtbar, bool neu) {
-    if (sichtbar == neu) return;
+bool SichtbarkeitGeaendert::Merke(bool& sichtbar, bool neu) {
+    if (sichtbar == neu) return false;
     schalter_.push_back(&sichtbar);
     neu_.push_back(neu);
+    return true;
 }
 
-void SichtbarkeitGeaendert::NimmPunkt(Liste& liste, const PunktKnoten& punkt, bool neu) {
-    liste.FuerKantenAm(punkt.PNr, [&](PunktKante& k) { Nimm(k.Item->Visible, neu); });
-    if (PktText* t = liste.FindPktText(punkt.PNr); t != nullptr) Nimm(t->Visible, neu);
-    Nimm(punkt.Item->Visible, neu);
+void SichtbarkeitGeaendert::Nimm(PunktKnoten& p, bool neu) {
+    if (Merke(p.Item->Visible, neu)) figuren_.punkte.push_back(&p);
+}
+
+void SichtbarkeitGeaendert::Nimm(PunktKante& k, bool neu) {
+    if (Merke(k.Item->Visible, neu)) figuren_.kanten.push_back(&k);
+}
+
+void SichtbarkeitGeaendert::Nimm(PunktString& t, bool neu) {
+    if (Merke(t.Item->Visible, neu)) figuren_.texte.push_back(&t);
+}
+
+void SichtbarkeitGeaendert::NimmPunkt(Liste& liste, PunktKnoten& punkt, bool neu) {
+    liste.FuerKantenAm(punkt.PNr, [&](PunktKante& k) { Nimm(k, neu); });
+    if (PPunktString t = liste.FindText(punkt.PNr); t != nullptr) Nimm(*t, neu);
+    Nimm(punkt, neu);
 }
 
 void SichtbarkeitGeaendert::redo() {
@@ -66,6 +69,10 @@ KanteEingefuegt::KanteEingefuegt(Liste& liste, const Kante& kante, PunktIndex an
     setText(QStringLiteral("Beobachtung einfügen"));
 }
 
+Figurenmenge KanteEingefuegt::Betroffene() const {
+    return knoten_ != nullptr ? Figurenmenge{{}, {knoten_}, {}} : Figurenmenge{};
+}
+
 void KanteEingefuegt::redo() {
     if (knoten_ != nullptr) {
         liste_.SetzeZurueck(platz_);
@@ -89,6 +96,10 @@ PunktEingefuegt::PunktEingefuegt(Liste& liste, const Punkt& punkt, const PktText
     setText(QStringLiteral("Punkt einfügen"));
 }
 
+Figurenmenge PunktEingefuegt::Betroffene() const {
+    return knoten_ != nullptr ? liste_.Umfeld(*knoten_) : Figurenmenge{};
+}
+
 void PunktEingefuegt::redo() {
     if (knoten_ != nullptr) {
         liste_.SetzeZurueck(platz_);
@@ -103,8 +114,12 @@ PunktGeloescht::PunktGeloescht(Liste& liste, PunktKnoten& punkt) : liste_(liste)
     setText(QStringLiteral("Punkt löschen"));
 }
 
-PunktGeaendert::PunktGeaendert(PunktKnoten& punkt, PktText* text, const Angaben& neu)
-    : punkt_(punkt), text_(text), andere_(neu), andereTextfarbe_(neu.farbe) {
+PunktGeaendert::PunktGeaendert(Liste& liste, PunktKnoten& punkt, const Angaben& neu)
+    : liste_(liste),
+      punkt_(punkt),
+      text_(liste.FindPktText(punkt.PNr)),
+      andere_(neu),
+      andereTextfarbe_(neu.farbe) {
     setText(QStringLiteral("Punktart ändern"));
 }
 
@@ -112,8 +127,8 @@ void PunktGeaendert::redo() {
     std::swap(punkt_.Item->PktArt, andere_.art);
     std::swap(punkt_.Item->PktTyp, andere_.symbol);
     std::swap(punkt_.Item->Farbe, andere_.farbe);
-    std::swap(punkt_.XWPu, andere_.ort.rechts);
-    std::swap(punkt_.YWPu, andere_.ort.hoch);
+    const Welt vorher{punkt_.XWPu, punkt_.YWPu};
+    liste_.Versetze(punkt_, std::exchange(andere_.ort, vorher));
     if (text_ != nullptr) std::swap(text_->Col, andereTextfarbe_);
 }
 

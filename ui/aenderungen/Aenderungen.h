@@ -11,40 +11,54 @@
 
 namespace zrw {
 
-/// A point at another place in the world.
-class PunktVersetzt final : public QUndoCommand {
+class Netzaenderung : public QUndoCommand {
   public:
-    PunktVersetzt(PunktKnoten& punkt, Welt nach);
+    /// The figures that it is about, as far as they are in the list: asked before and after the change, so
+    /// that the picture is drawn anew only where they were and are.
+    [[nodiscard]] virtual Figurenmenge Betroffene() const = 0;
+};
+
+/// A point at another place in the world.
+class PunktVersetzt final : public Netzaenderung {
+  public:
+    PunktVersetzt(Liste& liste, PunktKnoten& punkt, Welt nach);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return liste_.Umfeld(punkt_); }
     void redo() override { Setze(neu_); }
     void undo() override { Setze(alt_); }
 
   private:
-    void Setze(Welt ort);
+    void Setze(Welt ort) { liste_.Versetze(punkt_, ort); }
+    Liste& liste_;
     PunktKnoten& punkt_;
     Welt alt_, neu_;
 };
 
 /// A label at another offset from its point [px].
-class NummerVersetzt final : public QUndoCommand {
+class NummerVersetzt final : public Netzaenderung {
   public:
-    NummerVersetzt(PktText& text, Bildpunkt abstand);
+    NummerVersetzt(Liste& liste, PunktString& text, Bildpunkt abstand);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return {{}, {}, {&text_}}; }
     void redo() override { Setze(neu_); }
     void undo() override { Setze(alt_); }
 
   private:
-    void Setze(Bildpunkt abstand);
-    PktText& text_;
+    void Setze(Bildpunkt abstand) { liste_.Versetze(text_, abstand); }
+    Liste& liste_;
+    PunktString& text_;
     Bildpunkt alt_, neu_;
 };
 
 /// The visibility of figures: hidden and shown points and numbers.
-class SichtbarkeitGeaendert final : public QUndoCommand {
+class SichtbarkeitGeaendert final : public Netzaenderung {
   public:
     explicit SichtbarkeitGeaendert(const QString& name) { setText(name); }
     /// Figures that are visible in that way already are left out.
-    void Nimm(bool& sichtbar, bool neu);
+    void Nimm(PunktKnoten& p, bool neu);
+    void Nimm(PunktKante& k, bool neu);
+    void Nimm(PunktString& t, bool neu);
     /// A point with its lines and its label, as hiding and showing points takes them.
-    void NimmPunkt(Liste& liste, const PunktKnoten& punkt, bool neu);
+    void NimmPunkt(Liste& liste, PunktKnoten& punkt, bool neu);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return figuren_; }
     [[nodiscard]] bool Leer() const { return schalter_.empty(); }
     /// Called after the change with true, after taking it back with false; may be empty.
     std::function<void(bool getan)> danach;
@@ -52,16 +66,19 @@ class SichtbarkeitGeaendert final : public QUndoCommand {
     void undo() override;
 
   private:
+    [[nodiscard]] bool Merke(bool& sichtbar, bool neu);
     std::vector<bool*> schalter_;
     std::vector<bool> neu_;
+    Figurenmenge figuren_;
 };
 
 /// Other observations on a line.
-class KanteGeaendert final : public QUndoCommand {
+class KanteGeaendert final : public Netzaenderung {
   public:
     /// @param drehen its ends change places, too
     KanteGeaendert(Liste& liste, PunktKante& kante, LinieAttr richtung, KanteAttr weitere,
                    bool drehen = false);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return {{}, {&kante_}, {}}; }
     void redo() override;
     void undo() override { redo(); }
 
@@ -73,9 +90,10 @@ class KanteGeaendert final : public QUndoCommand {
     bool drehen_;
 };
 
-class KanteEingefuegt final : public QUndoCommand {
+class KanteEingefuegt final : public Netzaenderung {
   public:
     KanteEingefuegt(Liste& liste, const Kante& kante, PunktIndex anfang, PunktIndex ende);
+    [[nodiscard]] Figurenmenge Betroffene() const override;
     void redo() override;
     void undo() override;
 
@@ -87,9 +105,10 @@ class KanteEingefuegt final : public QUndoCommand {
     Herausnahme platz_;
 };
 
-class KanteGeloescht final : public QUndoCommand {
+class KanteGeloescht final : public Netzaenderung {
   public:
     KanteGeloescht(Liste& liste, PunktKante& kante);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return {{}, {&kante_}, {}}; }
     void redo() override { platz_ = liste_.NimmHeraus(kante_); }
     void undo() override { liste_.SetzeZurueck(platz_); }
 
@@ -100,9 +119,10 @@ class KanteGeloescht final : public QUndoCommand {
 };
 
 /// A new point with its label.
-class PunktEingefuegt final : public QUndoCommand {
+class PunktEingefuegt final : public Netzaenderung {
   public:
     PunktEingefuegt(Liste& liste, const Punkt& punkt, const PktText& text, Welt ort, PunktIndex nr);
+    [[nodiscard]] Figurenmenge Betroffene() const override;
     void redo() override;
     void undo() override { platz_ = liste_.NimmHeraus(*knoten_); }
 
@@ -117,9 +137,10 @@ class PunktEingefuegt final : public QUndoCommand {
 };
 
 /// A point with its lines and its label.
-class PunktGeloescht final : public QUndoCommand {
+class PunktGeloescht final : public Netzaenderung {
   public:
     PunktGeloescht(Liste& liste, PunktKnoten& punkt);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return liste_.Umfeld(punkt_); }
     void redo() override { platz_ = liste_.NimmHeraus(punkt_); }
     void undo() override { liste_.SetzeZurueck(platz_); }
 
@@ -130,7 +151,7 @@ class PunktGeloescht final : public QUndoCommand {
 };
 
 /// Another kind, with its colour for point and label, another symbol, another place.
-class PunktGeaendert final : public QUndoCommand {
+class PunktGeaendert final : public Netzaenderung {
   public:
     struct Angaben {
         PunktArt art = PunktArt::FP;
@@ -138,14 +159,15 @@ class PunktGeaendert final : public QUndoCommand {
         Farbe farbe;
         Welt ort;
     };
-    /// @param text the label, or null
-    PunktGeaendert(PunktKnoten& punkt, PktText* text, const Angaben& neu);
+    PunktGeaendert(Liste& liste, PunktKnoten& punkt, const Angaben& neu);
+    [[nodiscard]] Figurenmenge Betroffene() const override { return liste_.Umfeld(punkt_); }
     void redo() override;
     void undo() override { redo(); }
 
   private:
+    Liste& liste_;
     PunktKnoten& punkt_;
-    PktText* text_;
+    PktText* text_;  ///< null where the point has none
     Angaben andere_;
     Farbe andereTextfarbe_;
 };

@@ -1,5 +1,7 @@
 #include "ui/werkzeuge/BildVerschieben.h"
 
+#include <utility>
+
 namespace zrw {
 
 QString BildVerschieben::Anleitung() const {
@@ -7,23 +9,24 @@ QString BildVerschieben::Anleitung() const {
 }
 
 void BildVerschieben::Druecken(Bildpunkt ort) {
-    if (umgebung_.AktuelleListe() != nullptr) anfang_ = ort;
+    if (umgebung_.AktuelleListe() == nullptr) return;
+    anfang_ = ort;
+    umgebung_.BeginneZug();
 }
 
 void BildVerschieben::Ziehen(Bildpunkt ort) {
-    if (anfang_) umgebung_.ZeigeVerschoben({ort.x - anfang_->x, ort.y - anfang_->y});
+    if (anfang_) umgebung_.ZieheBild({ort.x - anfang_->x, ort.y - anfang_->y});
 }
 
 void BildVerschieben::Loslassen(Bildpunkt ort) {
-    if (!anfang_) return;
-    const Bildpunkt versatz{ort.x - anfang_->x, ort.y - anfang_->y};
-    Abbrechen();
-    if (versatz != Bildpunkt{}) umgebung_.Verschiebe(versatz);
+    Ziehen(ort);
+    if (std::exchange(anfang_, std::nullopt)) umgebung_.BeendeZug();
 }
 
 void BildVerschieben::Abbrechen() {
-    if (anfang_) umgebung_.ZeigeVerschoben({});
-    anfang_.reset();
+    if (!std::exchange(anfang_, std::nullopt)) return;
+    umgebung_.ZieheBild({});
+    umgebung_.BeendeZug();
 }
 
 }  // namespace zrw

@@ -56,12 +56,12 @@ void PunktartWaehlen::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
 
 namespace {
 
-PktText* Nummer(Liste& netz, Bildpunkt ort) {
+PPunktString Nummer(Liste& netz, Bildpunkt ort) {
     if (!netz.ShowPktText || !netz.ShowHilfP) return nullptr;
-    if (const PunktString* t = netz.ClickGezeigtenText(ort); t != nullptr) return t->Item;
+    if (PPunktString t = netz.ClickGezeigtenText(ort); t != nullptr) return t;
     const PunktKnoten* p = netz.ClickGezeigten(ort);
-    PktText* text = p != nullptr ? netz.FindPktText(p->PNr) : nullptr;
-    return text != nullptr && text->Visible ? text : nullptr;
+    PPunktString text = p != nullptr ? netz.FindText(p->PNr) : nullptr;
+    return text != nullptr && text->Item->Visible ? text : nullptr;
 }
 
 }  // namespace
@@ -71,15 +71,15 @@ QString NummerVerstecken::Anleitung() const {
 }
 
 Vorschau NummerVerstecken::Treffer(Liste& netz, Bildpunkt ort) const {
-    const PktText* text = Nummer(netz, ort);
-    return text != nullptr ? MarkiereText(*text) : Vorschau();
+    const PunktString* text = Nummer(netz, ort);
+    return text != nullptr ? MarkiereText(*text->Item) : Vorschau();
 }
 
 void NummerVerstecken::Klick(Liste& netz, Bildpunkt ort) {
-    PktText* text = Nummer(netz, ort);
+    PPunktString text = Nummer(netz, ort);
     if (text == nullptr) return;
     auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punktnummer verstecken"));
-    aenderung->Nimm(text->Visible, false);
+    aenderung->Nimm(*text, false);
     Umgebung().Tue(std::move(aenderung));
 }
 

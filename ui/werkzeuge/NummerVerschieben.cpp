@@ -1,5 +1,7 @@
 #include "ui/werkzeuge/NummerVerschieben.h"
 
+#include <utility>
+
 #include "model/Ganzzahl.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/werkzeuge/Markierung.h"
@@ -17,18 +19,17 @@ void NummerVerschieben::Schweben(Bildpunkt ort) {
 
 void NummerVerschieben::Druecken(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
-    const PunktString* treffer = netz != nullptr ? netz->ClickGezeigtenText(ort) : nullptr;
-    if (treffer == nullptr) return;
-    text_ = treffer->Item;
+    text_ = netz != nullptr ? netz->ClickGezeigtenText(ort) : nullptr;
+    if (text_ == nullptr) return;
     anfang_ = ort;
-    text_->Hide(umgebung_.Bildzeichner());
+    text_->Item->Hide(umgebung_.Bildzeichner());
     umgebung_.BildGeaendert();
     Ziehen(ort);
 }
 
 void NummerVerschieben::Ziehen(Bildpunkt ort) {
     if (text_ == nullptr) return;
-    PktText text = *text_;
+    PktText text = *text_->Item;
     text.Visible = true;
     text.XBiO = Summe(text.XBiO, ort.x - anfang_.x);
     text.YBiO = Summe(text.YBiO, ort.y - anfang_.y);
@@ -37,19 +38,27 @@ void NummerVerschieben::Ziehen(Bildpunkt ort) {
 
 void NummerVerschieben::Loslassen(Bildpunkt ort) {
     if (text_ == nullptr) return;
-    PktText& text = *text_;
-    const Bildpunkt abstand{Summe(text.XBiO, ort.x - anfang_.x), Summe(text.YBiO, ort.y - anfang_.y)};
-    Abbrechen();
-    if (abstand != Bildpunkt{text.XBiO, text.YBiO})
-        umgebung_.Tue(std::make_unique<NummerVersetzt>(text, abstand));
+    PunktString& text = *text_;
+    const Bildpunkt alt{text.Item->XBiO, text.Item->YBiO};
+    const Bildpunkt abstand{Summe(alt.x, ort.x - anfang_.x), Summe(alt.y, ort.y - anfang_.y)};
+    StelleHer();
+    if (abstand == alt) {
+        umgebung_.HeileBild();
+    } else {
+        umgebung_.Tue(std::make_unique<NummerVersetzt>(*umgebung_.AktuelleListe(), text, abstand));
+    }
+}
+
+void NummerVerschieben::StelleHer() {
+    umgebung_.ZeigeVorschau({});
+    std::exchange(text_, nullptr)->Item->Visible = true;
 }
 
 void NummerVerschieben::Abbrechen() {
     umgebung_.ZeigeVorschau({});
     if (text_ == nullptr) return;
-    text_->Visible = true;
-    text_ = nullptr;
-    umgebung_.ZeichneNeu();
+    StelleHer();
+    umgebung_.HeileBild();
 }
 
 }  // namespace zrw

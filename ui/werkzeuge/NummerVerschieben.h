@@ -18,8 +18,10 @@ class NummerVerschieben final : public Werkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   private:
+    void StelleHer();
+
     Werkzeugumgebung& umgebung_;
-    PktText* text_ = nullptr;  ///< under the mouse while it is dragged
+    PPunktString text_ = nullptr;  ///< under the mouse while it is dragged
     Bildpunkt anfang_;
 };
 

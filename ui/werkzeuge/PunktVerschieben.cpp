@@ -27,13 +27,18 @@ void PunktVerschieben::Druecken(Bildpunkt ort) {
 /// Takes the figures at the point out of the picture and remembers which of them were in it.
 void PunktVerschieben::Loese(Liste& netz) {
     const Bildpunkt ort = punkt_->Item->Position();
-    for (PPunktKante k = netz.KanteKnoten; k != nullptr; k = k->Next) {
+    const Bildbereich dort{ort.x, ort.y, ort.x, ort.y};
+    std::vector<PPunktKante> kanten;
+    netz.SammleKanten(dort, kanten);
+    for (PPunktKante k : kanten) {
         Kante& kante = *k->Item;
         if (!kante.Visible || (kante.Position() != ort && kante.Ende() != ort)) continue;
         kanten_.push_back(
             {&kante, k->ANr == punkt_->PNr, k->ENr == punkt_->PNr, netz.ShowBeob && netz.Dargestellt(*k)});
     }
-    for (PPunktString t = netz.PktTextKnoten; t != nullptr; t = t->Next) {
+    std::vector<PPunktString> texte;
+    netz.SammleTexte(dort, texte);
+    for (PPunktString t : texte) {
         if (t->Item->Visible && t->Item->Position() == ort) texte_.push_back(t->Item);
     }
     sichtbar_ = punkt_->Item->Visible;
@@ -96,20 +101,21 @@ void PunktVerschieben::Loslassen(Bildpunkt ort) {
     const Bildpunkt versatz{ort.x - anfang_.x, ort.y - anfang_.y};
     StelleHer();
     if (versatz == Bildpunkt{}) {
-        umgebung_.ZeichneNeu();
+        umgebung_.HeileBild();
         return;
     }
-    const double faktor = umgebung_.AktuelleListe()->Faktor;
+    Liste& netz = *umgebung_.AktuelleListe();
+    const double faktor = netz.Faktor;
     const Welt nach{punkt.XWPu + static_cast<double>(versatz.x) * faktor,
                     punkt.YWPu - static_cast<double>(versatz.y) * faktor};
-    umgebung_.Tue(std::make_unique<PunktVersetzt>(punkt, nach));
+    umgebung_.Tue(std::make_unique<PunktVersetzt>(netz, punkt, nach));
 }
 
 void PunktVerschieben::Abbrechen() {
     umgebung_.ZeigeVorschau({});
     if (punkt_ == nullptr) return;
     StelleHer();
-    umgebung_.ZeichneNeu();
+    umgebung_.HeileBild();
 }
 
 }  // namespace zrw

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QString>
-#include <QUndoCommand>
 #include <Qt>
 #include <functional>
 #include <memory>
@@ -14,6 +13,7 @@
 
 namespace zrw {
 
+class Netzaenderung;
 class TFormBeobTyp;
 
 /// Draws over the picture without changing it; an empty one draws nothing.
@@ -34,15 +34,18 @@ class Werkzeugumgebung {
     virtual void BildGeaendert() = 0;
     /// Draws the whole picture anew from the world coordinates.
     virtual void ZeichneNeu() = 0;
+    /// Draws anew where something was wiped with `Bildzeichner`.
+    virtual void HeileBild() = 0;
     virtual void ZeigeVorschau(Vorschau vorschau) = 0;
     virtual void ZeigeStatus(const QString& text) = 0;
     /// Does the change, remembers it for undoing and redraws.
-    virtual void Tue(std::unique_ptr<QUndoCommand> aenderung) = 0;
+    virtual void Tue(std::unique_ptr<Netzaenderung> aenderung) = 0;
 
-    /// Shows the picture shifted without changing the view.
-    virtual void ZeigeVerschoben(Bildpunkt versatz) = 0;
-    /// Pans the view so that the network moves by this picture delta [px], and redraws.
-    virtual void Verschiebe(Bildpunkt versatz) = 0;
+    // Panning with the mouse: while it moves, the network lies `versatz` [px] from where it was at the
+    // beginning.
+    virtual void BeginneZug() = 0;
+    virtual void ZieheBild(Bildpunkt versatz) = 0;
+    virtual void BeendeZug() = 0;
     /// Fills the picture with a rectangle of it, given by two corners.
     virtual void ZoomeAuf(Bildpunkt a, Bildpunkt b) = 0;
     /// One step in about a position.

@@ -1,0 +1,50 @@
+// The quick way to a screen picture of all lines, points and labels: only what may touch the part that is
+// being drawn, and in dense pictures from the front to the back, so that what is hidden anyway is never
+// drawn. The picture is the one that handing over every figure in turn gives.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "model/Bildsuche.h"
+#include "model/Knoten.h"
+#include "output/Zeichenflaeche.h"
+
+namespace zrw {
+
+class Liste;
+class Figurenzeichner;
+
+class Bildaufbau {
+  public:
+    /// How far figures reach beyond their positions [px].
+    struct Reichweiten {
+        std::int64_t symbol = 0;
+        std::int64_t kante = 0;
+        std::int64_t textweite = 0;
+        std::int64_t texthoehe = 0;
+    };
+
+    Bildaufbau(const Liste& liste, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
+               const Reichweiten& reichweiten)
+        : liste_(liste), flaeche_(flaeche), zeichner_(zeichner), r_(reichweiten) {}
+
+    void Zeichne();
+
+  private:
+    void Sammle();
+    [[nodiscard]] bool Dicht() const;
+    void VonVorn();
+    [[nodiscard]] Bildbereich Bereich(std::int64_t rand) const;
+
+    const Liste& liste_;
+    Zeichenflaeche& flaeche_;
+    Figurenzeichner& zeichner_;
+    Reichweiten r_;
+    // What is to be drawn, newest first.
+    std::vector<PPunktKante> kanten_;
+    std::vector<PPunktKnoten> punkte_;
+    std::vector<PPunktString> texte_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,132 @@
+#include "ui/Bildpflege.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+namespace zrw {
+namespace {
+
+constexpr Rechteck kNichts{1, 1, 0, 0};
+/// More are drawn faster with all others.
+constexpr std::size_t kMeisteFiguren = 5000;
+
+bool Leer(const Rechteck& r) {
+    return r.links > r.rechts || r.oben > r.unten;
+}
+
+Rechteck Vereint(const Rechteck& a, const Rechteck& b) {
+    if (Leer(a)) return b;
+    if (Leer(b)) return a;
+    return {std::min(a.links, b.links), std::min(a.oben, b.oben), std::max(a.rechts, b.rechts),
+            std::max(a.unten, b.unten)};
+}
+
+Rechteck Geschnitten(const Rechteck& a, const Rechteck& b) {
+    return {std::max(a.links, b.links), std::max(a.oben, b.oben), std::min(a.rechts, b.rechts),
+            std::min(a.unten, b.unten)};
+}
+
+bool ZeigtErgebnisse(const Liste& l) {
+    return l.ShowLgRes || l.ShowHRes || l.ShowLGGen || l.LGGenOn || l.ShowHGen;
+}
+
+}  // namespace
+
+void Bildpflege::ZeichneNeu(Liste& liste) {
+    liste.WeltinBild();
+    liste.ShowPicture(zeichner_);
+    zeichner_.VergissGewischtes();
+    gueltig_ = true;
+}
+
+void Bildpflege::Alles(Liste& liste) {
+    liste.PasseEin();
+    ZeichneNeu(liste);
+}
+
+void Bildpflege::ZeichneAusschnitt(Liste& liste, const Rechteck& r) {
+    if (Leer(r)) return;
+    flaeche_.SetzeAusschnitt(r);
+    liste.ShowPicture(zeichner_);
+    flaeche_.SetzeAusschnitt(flaeche_.Sichtbar());
+}
+
+// --- Panning ----------------------------------------------------------------------------------------------
+
+bool Bildpflege::Verschiebbar(const Liste& liste) const {
+    return zustand_.Abkuerzungen && gueltig_ && !liste.ShowLegende && !liste.ShowGitter && !liste.ShowKMQ &&
+           !ZeigtErgebnisse(liste) && Leer(zeichner_.Gewischt()) && zeichner_.NurPixel();
+}
+
+void Bildpflege::Verschiebe(Liste& liste, Welt versatz, Bildpunkt weg) {
+    const Rechteck bild = flaeche_.Sichtbar();
+    const bool moeglich =
+        Verschiebbar(liste) && std::llabs(weg.x) < bild.rechts / 2 && std::llabs(weg.y) < bild.unten / 2;
+    if (!liste.SetzeVersatz(versatz, weg) || !moeglich) {
+        liste.ShowPicture(zeichner_);
+        zeichner_.VergissGewischtes();
+        gueltig_ = true;
+        return;
+    }
+    const auto dx = static_cast<std::int32_t>(weg.x);
+    const auto dy = static_cast<std::int32_t>(weg.y);
+    flaeche_.Verschiebe(dx, dy);
+    Rechteck rest = bild;
+    if (dy != 0) {
+        ZeichneAusschnitt(liste, {bild.links, dy > 0 ? bild.oben : bild.unten + dy + 1, bild.rechts,
+                                  dy > 0 ? bild.oben + dy - 1 : bild.unten});
+        (dy > 0 ? rest.oben : rest.unten) += dy;
+    }
+    if (dx != 0)
+        ZeichneAusschnitt(liste, {dx > 0 ? rest.links : rest.rechts + dx + 1, rest.oben,
+                                  dx > 0 ? rest.links + dx - 1 : rest.rechts, rest.unten});
+}
+
+// --- Changes ----------------------------------------------------------------------------------------------
+
+/// Whether a change shows only at its figures. The legend tells the time of its last drawing, results stand
+/// beside their points, and labels of one text or one number speak for each other.
+bool Bildpflege::Oertlich(const Liste& liste) const {
+    return zustand_.Abkuerzungen && gueltig_ && !liste.ShowLegende && !ZeigtErgebnisse(liste) &&
+           liste.TexteEindeutig() && liste.NummernEindeutig() && liste.PositionenAktuell();
+}
+
+Rechteck Bildpflege::Umfang(const Liste& liste, const Figurenmenge& figuren) const {
+    Rechteck r = kNichts;
+    for (const PunktKnoten* p : figuren.punkte) {
+        if (liste.Enthaelt(*p)) r = Vereint(r, zeichner_.Umfang(*p->Item));
+    }
+    for (const PunktKante* k : figuren.kanten) {
+        if (liste.Enthaelt(*k)) r = Vereint(r, zeichner_.Umfang(*k->Item));
+    }
+    for (const PunktString* t : figuren.texte)
+        r = Vereint(r, zeichner_.Umfang(*t->Item));
+    return r;
+}
+
+void Bildpflege::Heile(Liste& liste) {
+    Vorher(liste, {});
+    Nachher(liste, {});
+}
+
+void Bildpflege::Vorher(Liste& liste, const Figurenmenge& figuren) {
+    oertlich_ = Oertlich(liste) && figuren.Anzahl() <= kMeisteFiguren;
+    if (oertlich_) vorher_ = Vereint(Umfang(liste, figuren), zeichner_.Gewischt());
+}
+
+void Bildpflege::Nachher(Liste& liste, const Figurenmenge& figuren) {
+    if (!oertlich_ || !Oertlich(liste) || figuren.Anzahl() > kMeisteFiguren) return ZeichneNeu(liste);
+    liste.WeltinBild(figuren);
+    const Rechteck nachher = Geschnitten(Umfang(liste, figuren), flaeche_.Sichtbar());
+    const Rechteck vorher = Geschnitten(vorher_, flaeche_.Sichtbar());
+    if (Leer(Geschnitten(vorher, nachher))) {
+        ZeichneAusschnitt(liste, vorher);
+        ZeichneAusschnitt(liste, nachher);
+    } else {
+        ZeichneAusschnitt(liste, Vereint(vorher, nachher));
+    }
+    zeichner_.VergissGewischtes();
+}
+
+}  // namespace zrw

@@ -1,0 +1,53 @@
+// Keeps the picture in the window what a plain redraw would draw, with as little drawing as that takes:
+// panning moves the picture and draws the strips that come in, a change draws its neighbourhood. The quick
+// ways in here and in Bildaufbau.h are all there are; `Zeichenzustand::Abkuerzungen` switches them off
+// together.
+#pragma once
+
+#include <vector>
+
+#include "model/FigListe.h"
+#include "output/Figurenzeichner.h"
+#include "output/Zeichenzustand.h"
+#include "ui/Bildflaeche.h"
+
+namespace zrw {
+
+class Bildpflege {
+  public:
+    /// All must outlive it.
+    Bildpflege(const Zeichenzustand& zustand, Bildflaeche& flaeche, Figurenzeichner& zeichner)
+        : zustand_(zustand), flaeche_(flaeche), zeichner_(zeichner) {}
+
+    /// The plain way: all positions, the whole picture.
+    void ZeichneNeu(Liste& liste);
+    /// Fits the extents into the picture.
+    void Alles(Liste& liste);
+    /// Something was drawn over the picture that is not in the network.
+    void Beschmutze() { gueltig_ = false; }
+    /// Draws anew where figures were wiped.
+    void Heile(Liste& liste);
+
+    /// Whether panning can move the picture: nothing in it stands still or follows rules of its own.
+    [[nodiscard]] bool Verschiebbar(const Liste& liste) const;
+    /// Sets the pan offsets. @param weg how far the network moves by that [px]
+    void Verschiebe(Liste& liste, Welt versatz, Bildpunkt weg);
+
+    // A change of some figures: before it, and after it. The picture is then as if drawn anew.
+    void Vorher(Liste& liste, const Figurenmenge& figuren);
+    void Nachher(Liste& liste, const Figurenmenge& figuren);
+
+  private:
+    void ZeichneAusschnitt(Liste& liste, const Rechteck& r);
+    [[nodiscard]] Rechteck Umfang(const Liste& liste, const Figurenmenge& figuren) const;
+    [[nodiscard]] bool Oertlich(const Liste& liste) const;
+
+    const Zeichenzustand& zustand_;
+    Bildflaeche& flaeche_;
+    Figurenzeichner& zeichner_;
+    bool gueltig_ = false;  ///< the picture is what a plain redraw draws, but for what was wiped
+    bool oertlich_ = false;
+    Rechteck vorher_;
+};
+
+}  // namespace zrw
