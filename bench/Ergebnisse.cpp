@@ -1,27 +1,24 @@
 // How long the results of the largest network take from their table to the picture: the first time, with
-// import, and afterwards, beside a redraw without them and their raw strokes through the same painter. usage:
-// bench_ergebnisse [ROUNDS]
+// import, and afterwards, beside a redraw without them and their raw strokes through the same painter.
 #include <QApplication>
 #include <QTemporaryDir>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "beispiele/Zufall.h"
 #include "bench/Messung.h"
 #include "bench/Netzgenerator.h"
-#include "input/Oeffnen.h"
+#include "bench/Tabelle.h"
 #include "input/Systemdateien.h"
 #include "input/tabellen/UnitZRWData.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
-#include "tests/hilfe/Speicherdateien.h"
 #include "ui/Bildflaeche.h"
 
 namespace {
 
-using zrw::bench::Miss;
+using namespace zrw::bench;
 
 constexpr int kWeite = 1920;
 constexpr int kHoehe = 1080;
@@ -77,13 +74,14 @@ void SchreibeTabelle(const zrw::Liste& liste, zrw::Dateien& dateien, const std::
     zrw::ErzeugeTabelle(dateien, ordner, zrw::Tabelle::Koordinaten, zeilen, 0);
 }
 
-int Vergleiche(int runden) {
-    zrw::Einstellungen e;
-    zrw::Speicherdateien quelle;
-    quelle.dateien["N.EIN"] = zrw::bench::ErzeugeSteuerdatei({});
-    const zrw::Lesung netz = zrw::OeffneNetz("N.EIN", quelle, e, {}, {kWeite, kHoehe}, {});
+int Arbeite(Tabelle& tabelle) {
+    int worte = 1;
+    char name[] = "bench_ergebnisse";
+    char* argumente[] = {name, nullptr};
+    const QApplication anwendung(worte, argumente);
+    const zrw::Einstellungen e;
+    const zrw::Lesung netz = BaueNetz({}, e, {kWeite, kHoehe});
     zrw::Liste& liste = *netz.liste;
-    liste.ShowFL = true;
     const QTemporaryDir ordner;
     zrw::Systemdateien dateien;
     SchreibeTabelle(liste, dateien, ordner.path().toStdString());
@@ -113,7 +111,7 @@ int Vergleiche(int runden) {
     zustand.flaeche = &flaeche;
     std::printf("%zu Zeilen, %d Punkte, %zu Striche der Ergebnisse, %dx%d\n", kZeilen, liste.MaxPkte,
                 mitschrift.striche.size(), kWeite, kHoehe);
-    std::vector<zrw::bench::Schritt> schritte{
+    std::vector<Schritt> schritte{
         {"(a) Bild ohne Ergebnisse", 0, [&] { return zeichne(false); }},
         {"(b) Striche der Ergebnisse allein", 0,
          [&] {
@@ -148,27 +146,20 @@ int Vergleiche(int runden) {
              });
          }},
     };
-    zrw::bench::Laufe(schritte, runden);
-    zrw::bench::Drucke(schritte);
-    std::vector<double> verhaeltnisse;
+    Laufe(schritte, tabelle.runden);
+    Drucke(schritte);
+    std::vector<double> getrennt;
     for (std::size_t i = 0; i < schritte[0].zeiten.size(); ++i)
-        verhaeltnisse.push_back(schritte[2].zeiten[i] / (schritte[0].zeiten[i] + schritte[1].zeiten[i]));
-    std::printf("(c) / ((a) + (b)): %.2f (Ziel 1.5); (d): %.0f ms (Ziel 400 ms)\n",
-                zrw::bench::Median(verhaeltnisse), zrw::bench::Median(schritte[3].zeiten));
+        getrennt.push_back(schritte[0].zeiten[i] + schritte[1].zeiten[i]);
+    tabelle.Nimm({"Bild mit Ergebnissen: zum Bild ohne und den Strichen allein", schritte[2].zeiten, getrennt,
+                  Verhaeltnis(1.5)});
+    tabelle.Nimm({"Ergebnisse zum ersten Mal, mit der Tabelle", schritte[3].zeiten, {}, Hoechstwert(400)});
     return 0;
 }
 
 }  // namespace
 
-int main(int anzahl, char** argumente) {
+int main(int anzahl, char** worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    int worte = 1;
-    const QApplication anwendung(worte, argumente);
-    const int runden = anzahl > 1 ? std::atoi(argumente[1]) : 5;
-    try {
-        return Vergleiche(runden > 0 ? runden : 5);
-    } catch (const std::exception& f) {
-        std::fprintf(stderr, "%s\n", f.what());
-        return 1;
-    }
+    return Fuehre(anzahl, worte, 5, Arbeite);
 }

@@ -1,10 +1,8 @@
 // How fast a plot is exported to both files, beside the raw limit: writing the same bytes with plain buffered
 // output, without bringing them onto the disk and with that.
-// usage: bench_export [ROUNDS]
 #include "output/Export.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -12,34 +10,15 @@
 
 #include "bench/Messung.h"
 #include "bench/Netzgenerator.h"
-#include "input/Oeffnen.h"
+#include "bench/Tabelle.h"
 #include "input/Systemdateien.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
-#include "tests/hilfe/Speicherdateien.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using zrw::bench::Miss;
-
-/// A folder of its own that goes with its owner.
-class Zwischenordner {
-  public:
-    Zwischenordner() : pfad_(fs::temp_directory_path() / "zarwik_bench_export") {
-        fs::create_directories(pfad_);
-    }
-    ~Zwischenordner() {
-        std::error_code fehler;
-        fs::remove_all(pfad_, fehler);
-    }
-    Zwischenordner(const Zwischenordner&) = delete;
-    Zwischenordner& operator=(const Zwischenordner&) = delete;
-    [[nodiscard]] const fs::path& Pfad() const { return pfad_; }
-
-  private:
-    fs::path pfad_;
-};
+using namespace zrw::bench;
 
 /// The bytes in the pieces in which a program with plain output would hand them over: line by line.
 void SchreibeSchlicht(const fs::path& name, const std::string& bytes) {
@@ -55,19 +34,11 @@ std::string Lies(const fs::path& name) {
     return zrw::Systemdateien().Lies(name, std::size_t{1} << 32U);
 }
 
-double MB(std::size_t bytes) {
-    return static_cast<double>(bytes) / 1e6;
-}
-
-int Vergleiche(int runden) {
+int Arbeite(Tabelle& tabelle) {
     const zrw::Einstellungen e;
     zrw::Systemdateien system;
     const Zwischenordner ordner;
-    zrw::Speicherdateien quelle;
-    quelle.dateien["N.EIN"] = zrw::bench::ErzeugeSteuerdatei({.paare = 200000, .beobachtungen = 294000});
-    const zrw::Lesung netz = zrw::OeffneNetz("N.EIN", quelle, e, {}, {1200, 800}, {});
-    quelle.dateien.clear();
-    netz.liste->ShowFL = true;
+    const zrw::Lesung netz = BaueNetz({.paare = 200000, .beobachtungen = 294000}, e, {1200, 800});
 
     const zrw::Systemuhr uhr;
     zrw::Zeichenzustand zustand;
@@ -83,10 +54,10 @@ int Vergleiche(int runden) {
             return 0;
         });
     };
-    const std::size_t speicher = zrw::bench::Spitzenbedarf([&] { (void)exportiere(true, true); });
+    const std::size_t speicher = Spitzenbedarf([&] { (void)exportiere(true, true); });
     // The same network without its lines: a file of a fraction of the size.
     netz.liste->ShowBeob = false;
-    const std::size_t ohneLinien = zrw::bench::Spitzenbedarf([&] { (void)exportiere(true, true); });
+    const std::size_t ohneLinien = Spitzenbedarf([&] { (void)exportiere(true, true); });
     const auto klein = fs::file_size(dxfname) + fs::file_size(plotname);
     netz.liste->ShowBeob = true;
     (void)exportiere(true, true);
@@ -102,7 +73,7 @@ int Vergleiche(int runden) {
         SchreibeSchlicht(plotname, plotbytes);
         SchreibeSchlicht(dxfname, dxfbytes);
     };
-    std::vector<zrw::bench::Schritt> schritte{
+    std::vector<Schritt> schritte{
         {"(a) dieselben Bytes, gepuffert, Zeile um Zeile", bytes,
          [&] {
              return Miss([&] {
@@ -123,19 +94,17 @@ int Vergleiche(int runden) {
         {"    nur PLT", plotbytes.size(), [&] { return exportiere(true, false); }},
         {"    ohne Datei: nur zeichnen", 0, [&] { return exportiere(false, false); }},
     };
-    zrw::bench::Laufe(schritte, runden);
-    zrw::bench::Drucke(schritte);
+    if (tabelle.kurz) schritte.resize(3);
+    Laufe(schritte, tabelle.runden);
+    Drucke(schritte);
+    tabelle.Nimm({"Export DXF und PLT: zum Schreiben der Bytes", schritte[2].zeiten, schritte[1].zeiten,
+                  Verhaeltnis(6)});
+    tabelle.Nimm({"Export DXF und PLT: Speicher", {MB(speicher)}, {}, {}, "MB"});
     return 0;
 }
 
 }  // namespace
 
-int main(int anzahl, char** argumente) {
-    const int runden = anzahl > 1 ? std::atoi(argumente[1]) : 5;
-    try {
-        return Vergleiche(runden > 0 ? runden : 5);
-    } catch (const std::exception& f) {
-        std::fprintf(stderr, "%s\n", f.what());
-        return 1;
-    }
+int main(int anzahl, char** worte) {
+    return Fuehre(anzahl, worte, 5, Arbeite);
 }

@@ -9,6 +9,7 @@
 
 #include "beispiele/Zufall.h"
 #include "model/Zahlentext.h"
+#include "tests/hilfe/Speicherdateien.h"
 
 namespace zrw::bench {
 namespace {
@@ -189,6 +190,14 @@ class Generator {
 
 std::string ErzeugeSteuerdatei(const Netzmass& mass) {
     return Generator(mass).Erzeuge();
+}
+
+Lesung BaueNetz(const Netzmass& mass, const Einstellungen& einstellungen, Bildgroesse bild) {
+    Speicherdateien quelle;
+    quelle.dateien["N.EIN"] = ErzeugeSteuerdatei(mass);
+    Lesung lesung = OeffneNetz("N.EIN", quelle, einstellungen, {}, bild, {});
+    lesung.liste->ShowFL = true;
+    return lesung;
 }
 
 }  // namespace zrw::bench

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <string>
 
+#include "input/Oeffnen.h"
+
 namespace zrw::bench {
 
 struct Netzmass {
@@ -19,5 +21,9 @@ struct Netzmass {
 /// Grid over 60 x 40 km, network type 3. Points and observations are in random order, as no file is sorted by
 /// place.
 [[nodiscard]] std::string ErzeugeSteuerdatei(const Netzmass& mass);
+
+/// The same as a network, opened as the program does it, with every kind of point shown.
+/// @param einstellungen must outlive it
+[[nodiscard]] Lesung BaueNetz(const Netzmass& mass, const Einstellungen& einstellungen, Bildgroesse bild);
 
 }  // namespace zrw::bench

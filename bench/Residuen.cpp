@@ -1,8 +1,6 @@
 // How fast the results of the largest network are drawn, beside the raw limit: the same pens and lines handed
 // to the same surface from a list.
-// usage: bench_residuen [ROUNDS]
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -10,15 +8,14 @@
 #include "beispiele/Zufall.h"
 #include "bench/Messung.h"
 #include "bench/Netzgenerator.h"
-#include "input/Oeffnen.h"
+#include "bench/Tabelle.h"
 #include "input/tabellen/Punktergebnisse.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
-#include "tests/hilfe/Speicherdateien.h"
 
 namespace {
 
-using zrw::bench::Miss;
+using namespace zrw::bench;
 
 struct Strich {
     zrw::Stift stift;
@@ -78,13 +75,10 @@ class Zufallsergebnisse final : public zrw::Punktergebnisse {
     std::unordered_map<std::string, zrw::Punktergebnis> werte_;
 };
 
-int Vergleiche(int runden) {
-    zrw::Einstellungen e;
-    zrw::Speicherdateien quelle;
-    quelle.dateien["N.EIN"] = zrw::bench::ErzeugeSteuerdatei({});
-    const zrw::Lesung netz = zrw::OeffneNetz("N.EIN", quelle, e, {}, {1200, 800}, {});
+int Arbeite(Tabelle& tabelle) {
+    const zrw::Einstellungen e;
+    const zrw::Lesung netz = BaueNetz({}, e, {1200, 800});
     zrw::Liste& liste = *netz.liste;
-    liste.ShowFL = true;
 
     Zaehlflaeche flaeche;
     zrw::Zeichenzustand zustand;
@@ -109,7 +103,7 @@ int Vergleiche(int runden) {
         flaeche.mitschrift = nullptr;
         std::printf("%d Punkte, Halbachsen bis %.0f px -> %zu Striche\n", liste.MaxPkte, achse,
                     striche.size());
-        std::vector<zrw::bench::Schritt> schritte{
+        std::vector<Schritt> schritte{
             {"(a) dieselben Striche aus einer Liste", 0,
              [&] {
                  return Miss([&] {
@@ -123,21 +117,18 @@ int Vergleiche(int runden) {
             {"(b) alle vier Darstellungen", 0, [&] { return zeichne(true); }},
             {"    nur die Ellipsen", 0, [&] { return zeichne(false); }},
         };
-        zrw::bench::Laufe(schritte, runden);
-        zrw::bench::Drucke(schritte);
+        Laufe(schritte, tabelle.runden);
+        Drucke(schritte);
         std::printf("\n");
+        tabelle.Nimm(
+            {"Ergebnisse bis " + std::to_string(static_cast<int>(achse)) + " px: zu den Strichen allein",
+             schritte[1].zeiten, schritte[0].zeiten});
     }
     return flaeche.summe != 0 ? 0 : 1;
 }
 
 }  // namespace
 
-int main(int anzahl, char** argumente) {
-    const int runden = anzahl > 1 ? std::atoi(argumente[1]) : 7;
-    try {
-        return Vergleiche(runden > 0 ? runden : 7);
-    } catch (const std::exception& f) {
-        std::fprintf(stderr, "%s\n", f.what());
-        return 1;
-    }
+int main(int anzahl, char** worte) {
+    return Fuehre(anzahl, worte, 7, Arbeite);
 }

@@ -1,27 +1,23 @@
 // How fast a control file becomes a network, beside the raw limit: splitting the same bytes into lines and
 // converting every number in them, without keeping anything.
-// usage: bench_steuerdatei [ROUNDS]
 #include "input/Steuerdatei.h"
 
 #include <charconv>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <string_view>
 
 #include "bench/Messung.h"
 #include "bench/Netzgenerator.h"
+#include "bench/Tabelle.h"
 #include "input/Systemdateien.h"
-#include "model/Bytes.h"
-#include "model/Fehler.h"
 #include "tests/hilfe/Speicherdateien.h"
 
 namespace {
 
-using zrw::bench::Miss;
+using namespace zrw::bench;
 
 /// What keeps the compiler from leaving the work out.
 struct Rohergebnis {
@@ -59,6 +55,8 @@ Rohergebnis Rohgrenze(std::string_view bytes) {
     return r;
 }
 
+constexpr std::size_t kGrenze = std::size_t{1} << 30U;
+
 /// As opening does it: read, take the extents, fit.
 zrw::Lesung Lade(const std::filesystem::path& datei, const zrw::Dateien& dateien,
                  const zrw::Einstellungen& e) {
@@ -70,76 +68,44 @@ zrw::Lesung Lade(const std::filesystem::path& datei, const zrw::Dateien& dateien
     return lesung;
 }
 
-std::string Gespeichert(const zrw::Liste& liste, const zrw::Netzangaben& netz) {
-    zrw::ByteSchreiber f;
-    liste.Store(f, netz);
-    return std::string(f.Inhalt());
-}
-
-double MB(std::size_t bytes) {
-    return static_cast<double>(bytes) / 1e6;
-}
-
-/// A file of its own that goes with its owner.
-class Zwischendatei {
-  public:
-    explicit Zwischendatei(std::string_view inhalt)
-        : pfad_(std::filesystem::temp_directory_path() / "zarwik_bench.EIN") {
-        zrw::Systemdateien().Ersetze(pfad_, inhalt);
-    }
-    ~Zwischendatei() {
-        std::error_code fehler;
-        std::filesystem::remove(pfad_, fehler);
-    }
-    Zwischendatei(const Zwischendatei&) = delete;
-    Zwischendatei& operator=(const Zwischendatei&) = delete;
-    [[nodiscard]] const std::filesystem::path& Pfad() const { return pfad_; }
-
-  private:
-    std::filesystem::path pfad_;
-};
-
 constexpr const char* kNetz = "NETZ.EIN";
 
-int Vergleiche(int runden) {
+/// One reading in a process that did nothing before [ms].
+int Frisch(const Tabelle& tabelle) {
+    const zrw::Einstellungen e;
+    const zrw::Systemdateien system;
+    const bool roh = tabelle.aufgabe == "roh";
+    const double zeit = roh ? Miss([&] { return Rohgrenze(system.Lies(tabelle.datei, kGrenze)).summe; })
+                            : Miss([&] { return Lade(tabelle.datei, system, e); });
+    std::printf("%f\n", zeit);
+    return 0;
+}
+
+int Arbeite(Tabelle& tabelle) {
+    if (!tabelle.aufgabe.empty()) return Frisch(tabelle);
     const zrw::Einstellungen e;
     zrw::Speicherdateien dateien;
-    dateien.dateien[kNetz] = zrw::bench::ErzeugeSteuerdatei({});
+    dateien.dateien[kNetz] = ErzeugeSteuerdatei({});
     const std::string& bytes = dateien.dateien[kNetz];
-    const Zwischendatei datei(bytes);
-    const zrw::Systemdateien system;
+    const Zwischenordner ordner;
+    const auto datei = ordner.Pfad() / kNetz;
+    zrw::Systemdateien system;
+    system.Ersetze(datei, bytes);
 
-    const std::size_t vorher = zrw::bench::Speicherbedarf();
-    const double kalt = Miss([&] { return Rohgrenze(bytes).summe; });
-    zrw::Lesung netz;
-    const double erste = Miss([&] {
-        netz = Lade(datei.Pfad(), system, e);
-        return 0;
-    });
-    const std::size_t nachher = zrw::bench::Speicherbedarf();
+    const zrw::Lesung netz = Lade(datei, system, e);
     const Rohergebnis roh = Rohgrenze(bytes);
     std::printf("Steuerdatei %.2f MB, %zu Zeilen, %zu Felder; Netz %d Punkte, %d Linien\n", MB(bytes.size()),
                 roh.zeilen, roh.felder, netz.liste->MaxPkte, netz.liste->MaxKant);
-    std::printf("Erstes Lesen im Prozess %.1f ms (a: %.1f ms), Speicher des Netzes %.1f MB\n\n", erste, kalt,
-                MB(nachher > vorher ? nachher - vorher : 0));
-
-    // A picture file counts at most 65535 lines.
-    zrw::Speicherdateien kleiner;
-    kleiner.dateien[kNetz] = zrw::bench::ErzeugeSteuerdatei({.paare = 65000, .beobachtungen = 95000});
-    const zrw::Lesung bild = Lade(kNetz, kleiner, e);
-    const std::string gespeichert = Gespeichert(*bild.liste, bild.netz);
-    zrw::Netzangaben gelesen;
-
-    std::vector<zrw::bench::Schritt> schritte{
+    std::vector<Schritt> schritte{
         {"(a) Zeilen und Zahlen, nichts behalten", bytes.size(),
          [&] { return Miss([&] { return Rohgrenze(bytes).summe; }); }},
         {"(b) Steuerdatei aus dem Speicher -> Netz", bytes.size(),
          [&] { return Miss([&] { return Lade(kNetz, dateien, e); }); }},
         {"    davon Kopie der Bytes", bytes.size(), [&] { return Miss([&] { return std::string(bytes); }); }},
         {"(c) Steuerdatei von der Platte -> Netz", bytes.size(),
-         [&] { return Miss([&] { return Lade(datei.Pfad(), system, e); }); }},
+         [&] { return Miss([&] { return Lade(datei, system, e); }); }},
         {"    davon Lesen der Bytes", bytes.size(),
-         [&] { return Miss([&] { return system.Lies(datei.Pfad(), bytes.size()); }); }},
+         [&] { return Miss([&] { return system.Lies(datei, bytes.size()); }); }},
         {"(d) WeltinBild", 0,
          [&] {
              return Miss([&] {
@@ -147,29 +113,27 @@ int Vergleiche(int runden) {
                  return 0;
              });
          }},
-        {"(e) Zarwikdatei: Store", gespeichert.size(),
-         [&] { return Miss([&] { return Gespeichert(*bild.liste, bild.netz); }); }},
-        {"(e) Zarwikdatei: Load", gespeichert.size(),
-         [&] {
-             return Miss([&] {
-                 zrw::ByteLeser leser(gespeichert);
-                 return zrw::Liste::Load(leser, e, gelesen, kNetz);
-             });
-         }},
     };
-    zrw::bench::Laufe(schritte, runden);
-    zrw::bench::Drucke(schritte);
+    Laufe(schritte, tabelle.runden);
+    std::vector<Schritt> frisch{
+        {"(a) frischer Prozess: lesen, Zeilen und Zahlen", bytes.size(),
+         [&] { return FrischerProzess("roh", datei)[0]; }},
+        {"(b) frischer Prozess: Steuerdatei -> Netz", bytes.size(),
+         [&] { return FrischerProzess("netz", datei)[0]; }},
+    };
+    Laufe(frisch, tabelle.runden);
+    Drucke(schritte);
+    Drucke(frisch);
+    tabelle.Nimm({"Steuerdatei -> Netz: zum Teilen und Umwandeln", schritte[3].zeiten, schritte[0].zeiten,
+                  Verhaeltnis(2)});
+    tabelle.Nimm({"Steuerdatei -> Netz: dasselbe, frischer Prozess", frisch[1].zeiten, frisch[0].zeiten,
+                  Verhaeltnis(2.5)});
+    tabelle.Nimm({"WeltinBild, alle Bildörter", schritte[5].zeiten, {}, Hoechstwert(8)});
     return 0;
 }
 
 }  // namespace
 
-int main(int anzahl, char** argumente) {
-    const int runden = anzahl > 1 ? std::atoi(argumente[1]) : 7;
-    try {
-        return Vergleiche(runden > 0 ? runden : 7);
-    } catch (const std::exception& f) {
-        std::fprintf(stderr, "%s\n", f.what());
-        return 1;
-    }
+int main(int anzahl, char** worte) {
+    return Fuehre(anzahl, worte, 9, Arbeite);
 }

@@ -11,26 +11,61 @@ namespace zrw {
 namespace {
 
 /// Five times the largest network in use. Lines cost memory, and a damaged file may ask for billions.
-constexpr std::int32_t kMaxKanten = 1'000'000;
+constexpr std::size_t kMaxKanten = 1'000'000;
+static_assert(kMaxKanten < Kantentafel::kMeiste && kMaxPunkte <= Markentafel<16>::kMeiste);
+
+/// The common length on a way of its own: copying a known number of bytes takes no call.
+PunktNummernTyp Nummer(std::string_view text) {
+    constexpr std::size_t kUeblich = 8;
+    return text.size() == kUeblich ? PunktNummernTyp({text.data(), kUeblich}) : PunktNummernTyp(text);
+}
 
 }  // namespace
 
+void Netzbauer::Erwarte(std::size_t punkte, std::size_t kanten) {
+    liste_.Erwarte(punkte, kanten);
+    nummern_.Erwarte(punkte);
+    kanten_.Erwarte(kanten);
+}
+
 void Netzbauer::Punkt(PunktArt art, std::string_view nummer, std::int64_t code, Welt ort) {
-    if (liste_.FindPunktNr(PunktNummernTyp(nummer)) != kKeinPunkt) return;
+    if (anzahl_ > 0) Trage();
+    Wartender& p = punkte_[punktanzahl_++];
+    p.nummer = Nummer(nummer);
+    p.art = art;
+    p.typ = code > 0 ? PunktTyp::Krei : PunktTyp::Pkt;
+    p.ort = ort;
+    p.streuwert = nummern_.Kuendige(p.nummer);
+    // A network that may be full is found to be so at this line.
+    if (punktanzahl_ == punkte_.size() ||
+        static_cast<std::size_t>(liste_.MaxPkte) + punktanzahl_ > kMaxPunkte) {
+        TragePunkte();
+    }
+}
+
+void Netzbauer::TragePunkte() {
+    for (const Wartender& p : std::span(punkte_.data(), std::exchange(punktanzahl_, 0)))
+        Fuege(p);
+}
+
+void Netzbauer::Fuege(const Wartender& p) {
+    if (nummern_.Finde(p.streuwert, p.nummer) != kKeinPunkt) return;
     if (static_cast<std::size_t>(liste_.MaxPkte) >= kMaxPunkte) {
         throw Fehler(
             "Das Netz hat mehr als 65535 Punkte, mehr kann Zarwik nicht darstellen. Es wurde nichts "
             "geladen.");
     }
-    const Farbe farbe = einstellungen_.*ZurArt(art).farbe;
-    auto figur = zrw::Punkt::Create(code > 0 ? PunktTyp::Krei : PunktTyp::Pkt, farbe, PunktAttr::Fu);
-    figur.PktArt = art;
-    const auto nr = static_cast<PunktIndex>(++liste_.MaxPkte);
-    liste_.AddPunkt(figur, ort, nr);
-    liste_.AddPktText(PktText::Create(nummer, farbe, einstellungen_), nr);
+    const Farbe farbe = einstellungen_.*ZurArt(p.art).farbe;
+    auto figur = zrw::Punkt::Create(p.typ, farbe, PunktAttr::Fu);
+    figur.PktArt = p.art;
+    const PunktIndex nr = nummern_.NimmAuf(p.streuwert, p.nummer);
+    ++liste_.MaxPkte;
+    liste_.AddPunkt(figur, p.ort, nr);
+    liste_.AddPktText(PktText::Create(p.nummer.Text(), farbe, einstellungen_), nr);
 }
 
 Netzbauer::Wartende& Netzbauer::Reihe() {
+    if (punktanzahl_ > 0) TragePunkte();
     if (anzahl_ == wartende_.size()) Trage();
     return wartende_[anzahl_++];
 }
@@ -38,7 +73,8 @@ Netzbauer::Wartende& Netzbauer::Reihe() {
 void Netzbauer::Standpunkt(std::string_view nummer) {
     Wartende& w = Reihe();
     w.standpunkt = true;
-    w.nach = PunktNummernTyp(nummer);
+    w.nach = Nummer(nummer);
+    w.streuwertNach = nummern_.Kuendige(w.nach);
 }
 
 void Netzbauer::Beobachte(Art art, std::string_view von, std::string_view nach, Farbe farbe) {
@@ -46,94 +82,103 @@ void Netzbauer::Beobachte(Art art, std::string_view von, std::string_view nach, 
     w.standpunkt = false;
     w.art = art;
     w.farbe = farbe;
-    w.von = PunktNummernTyp(von);
-    w.nach = PunktNummernTyp(nach);
+    if (art != Art::Richtung) {
+        w.von = Nummer(von);
+        w.streuwertVon = nummern_.Kuendige(w.von);
+    }
+    w.nach = Nummer(nach);
+    w.streuwertNach = nummern_.Kuendige(w.nach);
 }
 
 void Netzbauer::Trage() {
     const std::span<Wartende> reihe(wartende_.data(), std::exchange(anzahl_, 0));
-    for (Wartende& w : reihe) {
-        w.p2 = liste_.FindPunktNr(w.nach);
-        if (!w.standpunkt && w.art != Art::Richtung) w.p1 = liste_.FindPunktNr(w.von);
+    for (const Wartende& w : reihe) {
+        nummern_.KuendigeWeiter(w.streuwertNach);
+        nummern_.KuendigeWeiter(w.streuwertVon);
     }
     for (Wartende& w : reihe) {
-        if (w.standpunkt) standpunkt_ = w.p2;
-        if (w.art == Art::Richtung) w.p1 = standpunkt_;
+        w.p2 = nummern_.Finde(w.streuwertNach, w.nach);
+        if (w.standpunkt) {
+            standpunkt_ = w.p2;
+            continue;
+        }
+        w.p1 = w.art == Art::Richtung ? standpunkt_ : nummern_.Finde(w.streuwertVon, w.von);
+        w.streuwertPaar = kanten_.Kuendige(w.p1, w.p2);
     }
-    // Two more rounds that decide nothing: what they touch is at hand when the lines are merged one by one.
-    for (Wartende& w : reihe) {
-        w.kante = liste_.FindKante(w.p1, w.p2);
-    }
-    for (Wartende& w : reihe) {
-        if (w.kante != nullptr) w.stil = w.kante->Item->LAttr;
-    }
+    for (const Wartende& w : reihe)
+        kanten_.KuendigeWeiter(w.streuwertPaar);
     for (const Wartende& w : reihe) {
         if (!w.standpunkt) Fasse(w);
     }
 }
 
 void Netzbauer::Fasse(const Wartende& w) {
+    if (w.p1 == kKeinPunkt || w.p2 == kKeinPunkt || w.p1 == w.p2) return;
     switch (w.art) {
         case Art::Richtung:
-            Richtung(w.p1, w.p2, w.farbe);
+            Richtung(w);
             break;
         case Art::Strecke:
-            Strecke(w.p1, w.p2);
+            Strecke(w);
             break;
         case Art::Hoehenunterschied:
-            Hoehenunterschied(w.p1, w.p2);
+            Hoehenunterschied(w);
             break;
         case Art::GPSVektor:
-            GPSVektor(w.p1, w.p2);
+            GPSVektor(w);
             break;
     }
 }
 
-PPunktKante Netzbauer::Zusammenfuehren(PunktIndex p1, PunktIndex p2, Farbe farbe, KanteAttr kAttr,
-                                       LinieAttr lAttr) {
-    if (p1 == kKeinPunkt || p2 == kKeinPunkt || p1 == p2) return nullptr;
-    if (PPunktKante k = liste_.FindKante(p1, p2); k != nullptr) return k;
-    if (liste_.MaxKant >= kMaxKanten) {
+void Netzbauer::Vollende() {
+    TragePunkte();
+    Trage();
+    for (const Kantenstand& k : kanten_.Alle())
+        liste_.AddKante(Kante::Create(k.farbe, k.kAttr, k.lAttr), k.anfang, k.ende);
+    liste_.MaxKant = static_cast<std::int32_t>(kanten_.Alle().size());
+}
+
+Kantenstand* Netzbauer::Zusammenfuehren(const Wartende& w, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr) {
+    Kantenstand* k = kanten_.FindeOderNimm(w.streuwertPaar, {w.p1, w.p2, farbe, kAttr, lAttr});
+    if (kanten_.Alle().size() > kMaxKanten) {
         throw Fehler("Das Netz hat mehr als " + std::to_string(kMaxKanten) +
                      " Linien, mehr kann Zarwik nicht darstellen. Es wurde nichts geladen.");
     }
-    liste_.AddKante(Kante::Create(farbe, kAttr, lAttr), p1, p2);
-    ++liste_.MaxKant;
-    return nullptr;
+    return k;
 }
 
-void Netzbauer::Orientiere(PunktKante& k, PunktIndex anfang) {
-    if (k.ANr != anfang) liste_.DreheKante(k);
+/// Lets the line begin at this point, one of its two.
+void Netzbauer::Orientiere(Kantenstand& k, PunktIndex anfang) {
+    if (k.anfang != anfang) std::swap(k.anfang, k.ende);
 }
 
-void Netzbauer::Richtung(PunktIndex p1, PunktIndex p2, Farbe farbe) {
-    const PPunktKante k = Zusammenfuehren(p1, p2, farbe, {}, LinieAttr::AR1);
+void Netzbauer::Richtung(const Wartende& w) {
+    Kantenstand* k = Zusammenfuehren(w, w.farbe, {}, LinieAttr::AR1);
     if (k == nullptr) return;
-    LinieAttr& stil = k->Item->LAttr;
-    if (stil == LinieAttr::Null || stil == LinieAttr::AST) {
+    if (k->lAttr == LinieAttr::Null || k->lAttr == LinieAttr::AST) {
         // The first direction decides which way the line runs: its solid half lies at the standpoint.
-        Orientiere(*k, p1);
-        stil = LinieAttr::AR1;
-    } else if (stil == LinieAttr::AR1 && k->ANr == p2) {
-        stil = LinieAttr::AR2;
+        Orientiere(*k, w.p1);
+        k->lAttr = LinieAttr::AR1;
+    } else if (k->lAttr == LinieAttr::AR1 && k->anfang == w.p2) {
+        k->lAttr = LinieAttr::AR2;
     }
 }
 
-void Netzbauer::Strecke(PunktIndex p1, PunktIndex p2) {
-    const PPunktKante k = Zusammenfuehren(p1, p2, einstellungen_.RICol, KanteAttr::ST, LinieAttr::AST);
-    if (k != nullptr) k->Item->KAttr.Setze(KanteAttr::ST);
+void Netzbauer::Strecke(const Wartende& w) {
+    Kantenstand* k = Zusammenfuehren(w, einstellungen_.RICol, KanteAttr::ST, LinieAttr::AST);
+    if (k != nullptr) k->kAttr.Setze(KanteAttr::ST);
 }
 
-void Netzbauer::Hoehenunterschied(PunktIndex p1, PunktIndex p2) {
-    const PPunktKante k = Zusammenfuehren(p1, p2, einstellungen_.RICol, KanteAttr::DH1, LinieAttr::AST);
+void Netzbauer::Hoehenunterschied(const Wartende& w) {
+    Kantenstand* k = Zusammenfuehren(w, einstellungen_.RICol, KanteAttr::DH1, LinieAttr::AST);
     if (k == nullptr) return;
-    if (k->Item->LAttr == LinieAttr::AST) Orientiere(*k, p1);
-    k->Item->KAttr.Setze(k->ANr == p1 ? KanteAttr::DH1 : KanteAttr::DH2);
+    if (k->lAttr == LinieAttr::AST) Orientiere(*k, w.p1);
+    k->kAttr.Setze(k->anfang == w.p1 ? KanteAttr::DH1 : KanteAttr::DH2);
 }
 
-void Netzbauer::GPSVektor(PunktIndex p1, PunktIndex p2) {
-    const PPunktKante k = Zusammenfuehren(p1, p2, einstellungen_.GPSCol, KanteAttr::GPS, LinieAttr::Null);
-    if (k != nullptr) k->Item->KAttr.Setze(KanteAttr::GPS);
+void Netzbauer::GPSVektor(const Wartende& w) {
+    Kantenstand* k = Zusammenfuehren(w, einstellungen_.GPSCol, KanteAttr::GPS, LinieAttr::Null);
+    if (k != nullptr) k->kAttr.Setze(KanteAttr::GPS);
 }
 
 }  // namespace zrw

@@ -7,58 +7,77 @@
 #include <cstdint>
 #include <string_view>
 
+#include "input/Netztafeln.h"
 #include "model/FigListe.h"
 
 namespace zrw {
 
 class Netzbauer {
   public:
+    /// @param liste empty; nobody else adds to it meanwhile
     Netzbauer(Liste& liste, const Einstellungen& einstellungen)
         : liste_(liste), einstellungen_(einstellungen) {}
 
+    /// Announces about so many points and lines to come; saves time, changes nothing else.
+    void Erwarte(std::size_t punkte, std::size_t kanten);
+
     /// Adds a point with its label, unless its number is in the network already. A positive code makes it a
-    /// circle, zero or less a dot, both filled.
+    /// circle, zero or less a dot, both filled. What waits before it enters first.
     /// @throws Fehler (without place) where the network is full
     void Punkt(PunktArt art, std::string_view nummer, std::int64_t code, Welt ort);
 
     enum class Art : std::uint8_t { Richtung, Strecke, Hoehenunterschied, GPSVektor };
     /// One observation between the points with these numbers; a direction starts at the last standpoint
-    /// instead. Unknown points and a point with itself are dropped. It enters the network with `Trage`, at
-    /// the latest.
+    /// instead. Unknown points, later ones among them, and a point with itself are dropped.
     void Beobachte(Art art, std::string_view von, std::string_view nach, Farbe farbe = {});
     /// Standpoint of the directions that follow.
     void Standpunkt(std::string_view nummer);
-    /// Enters what waits. To be called before a point is added, for an observation does not know later
-    /// points.
-    void Trage();
+    /// The end of the reading: what waits and all the lines enter the list.
+    void Vollende();
 
   private:
-    /// Observations wait in a small queue: looking up many at once lets their memory accesses overlap, and
-    /// those are what reading a large network spends its time on.
+    // Points and observations wait in small queues: looking up many at once lets their memory accesses
+    // overlap. One of the two is empty at any time.
+    struct Wartender {
+        PunktNummernTyp nummer;
+        PunktArt art = PunktArt::FP;
+        PunktTyp typ = PunktTyp::Pkt;
+        Welt ort;
+        std::uint64_t streuwert = 0;
+    };
     struct Wartende {
         Art art = Art::Richtung;
         bool standpunkt = false;  ///< no observation: sets the standpoint
         Farbe farbe;
         PunktNummernTyp von;
         PunktNummernTyp nach;
+        std::uint64_t streuwertVon = 0;
+        std::uint64_t streuwertNach = 0;
         PunktIndex p1 = kKeinPunkt;
         PunktIndex p2 = kKeinPunkt;
-        PPunktKante kante = nullptr;
-        LinieAttr stil = LinieAttr::Null;
+        std::uint64_t streuwertPaar = 0;
     };
     Wartende& Reihe();
+    /// Enter what waits.
+    void TragePunkte();
+    void Trage();
+    void Fuege(const Wartender& p);
     void Fasse(const Wartende& w);
-    void Richtung(PunktIndex p1, PunktIndex p2, Farbe farbe);
-    void Strecke(PunktIndex p1, PunktIndex p2);
-    void Hoehenunterschied(PunktIndex p1, PunktIndex p2);
-    void GPSVektor(PunktIndex p1, PunktIndex p2);
+    void Richtung(const Wartende& w);
+    void Strecke(const Wartende& w);
+    void Hoehenunterschied(const Wartende& w);
+    void GPSVektor(const Wartende& w);
     /// The line of the pair if there is one, else a new one p1 -> p2 with these attributes and nothing.
-    PPunktKante Zusammenfuehren(PunktIndex p1, PunktIndex p2, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr);
-    void Orientiere(PunktKante& k, PunktIndex anfang);
+    Kantenstand* Zusammenfuehren(const Wartende& w, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr);
+    static void Orientiere(Kantenstand& k, PunktIndex anfang);
 
     std::array<Wartende, 64> wartende_;
     std::size_t anzahl_ = 0;
+    std::array<Wartender, 32> punkte_;
+    std::size_t punktanzahl_ = 0;
     PunktIndex standpunkt_ = kKeinPunkt;
+    Nummerntafel nummern_;
+    Kantentafel kanten_;
     Liste& liste_;
     const Einstellungen& einstellungen_;
 };

@@ -120,9 +120,9 @@ Steuerleser::Steuerleser(const std::filesystem::path& datei, const Dateien& date
       ellipsoid_(EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite)) {}
 
 Lesung Steuerleser::Lies() {
-    // A point or a line takes about so many bytes of a control file.
-    lesung_.liste->Erwarte(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
-                           std::min<std::size_t>(quelle_.Groesse() / 80, 200'000));
+    // A point or a line takes at least about so many bytes of a control file.
+    bauer_.Erwarte(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
+                   std::min<std::size_t>(quelle_.Groesse() / 64, 200'000));
     try {
         constexpr unsigned kTakt = 8192;  // lines between two reports
         for (unsigned zeilen = 1; !fertig_ && quelle_.Naechste(zeile_); ++zeilen) {
@@ -141,7 +141,7 @@ Lesung Steuerleser::Lies() {
             }
             (this->*satz->lesen)(rest);
         }
-        bauer_.Trage();
+        bauer_.Vollende();
     } catch (const Leseabbruch&) {
         throw;
     } catch (const Fehler& f) {
@@ -263,7 +263,6 @@ void Steuerleser::LesePunkt(PunktArt punktart, std::string_view rest) {
         Melde(Auszug(text));
         return;
     }
-    bauer_.Trage();
     bauer_.Punkt(punktart, nummer, *code, ort);
 }
 

@@ -2,41 +2,64 @@
 // struct is ever dumped and no read leaves its buffer.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 
 namespace zrw {
 
+/// The bytes of a value from this machine's order into little-endian, or back.
+template <class T>
+[[nodiscard]] T KleinesEndeZuerst(T v) {
+    if constexpr (std::endian::native == std::endian::little || sizeof(T) == 1) return v;
+    auto bytes = std::bit_cast<std::array<char, sizeof(T)>>(v);
+    std::reverse(bytes.begin(), bytes.end());
+    return std::bit_cast<T>(bytes);
+}
+
 /// Appends values to a growing buffer.
 class ByteSchreiber {
   public:
-    void U8(std::uint8_t v) { puffer_.push_back(static_cast<char>(v)); }
-    void U16(std::uint16_t v) { Setze(v, 2); }
-    void U32(std::uint32_t v) { Setze(v, 4); }
-    void I32(std::int32_t v) { Setze(static_cast<std::uint32_t>(v), 4); }
-    void I64(std::int64_t v) { Setze(static_cast<std::uint64_t>(v), 8); }
-    void F64(double v) { Setze(std::bit_cast<std::uint64_t>(v), 8); }
+    void U8(std::uint8_t v) { Setze(v); }
+    void U16(std::uint16_t v) { Setze(v); }
+    void U32(std::uint32_t v) { Setze(v); }
+    void I32(std::int32_t v) { Setze(v); }
+    void I64(std::int64_t v) { Setze(v); }
+    void F64(double v) { Setze(std::bit_cast<std::uint64_t>(v)); }
     /// The text and then zeros up to `breite` bytes; a longer text is cut.
     void Text(std::string_view text, std::size_t breite) {
         const std::string_view gekuerzt = text.substr(0, breite);
-        puffer_.append(gekuerzt);
-        puffer_.append(breite - gekuerzt.size(), '\0');
+        char* platz = Platz(breite);
+        std::fill(std::copy(gekuerzt.begin(), gekuerzt.end(), platz), platz + breite, '\0');
     }
-    void Reserviere(std::size_t bytes) { puffer_.reserve(bytes); }
+    void Reserviere(std::size_t bytes) {
+        if (puffer_.size() < bytes) puffer_.resize(bytes);
+    }
 
-    [[nodiscard]] std::string_view Inhalt() const { return puffer_; }
+    [[nodiscard]] std::string_view Inhalt() const { return {puffer_.data(), laenge_}; }
 
   private:
-    void Setze(std::uint64_t v, unsigned bytes) {
-        char b[8];
-        for (unsigned i = 0; i < bytes; ++i)
-            b[i] = static_cast<char>((v >> (8U * i)) & 0xFFU);
-        puffer_.append(b, bytes);
+    template <class T>
+    void Setze(T v) {
+        v = KleinesEndeZuerst(v);
+        std::memcpy(Platz(sizeof v), &v, sizeof v);
     }
-    std::string puffer_;
+    /// Room for so many bytes behind what is there; it counts from now on.
+    [[nodiscard]] char* Platz(std::size_t bytes) {
+        if (puffer_.size() - laenge_ < bytes) Wachse(bytes);
+        char* platz = puffer_.data() + laenge_;
+        laenge_ += bytes;
+        return platz;
+    }
+    void Wachse(std::size_t bytes) { puffer_.resize(2 * puffer_.size() + bytes + 256); }
+
+    std::string puffer_;  ///< appending to a text would cost more than the bytes
+    std::size_t laenge_ = 0;
 };
 
 /// Reads values from a buffer. Reading past the end yields zeros and clears `Gut()`.
@@ -44,12 +67,12 @@ class ByteLeser {
   public:
     explicit ByteLeser(std::string_view inhalt) : inhalt_(inhalt) {}
 
-    [[nodiscard]] std::uint8_t U8() { return static_cast<std::uint8_t>(Hole(1)); }
-    [[nodiscard]] std::uint16_t U16() { return static_cast<std::uint16_t>(Hole(2)); }
-    [[nodiscard]] std::uint32_t U32() { return static_cast<std::uint32_t>(Hole(4)); }
-    [[nodiscard]] std::int32_t I32() { return static_cast<std::int32_t>(U32()); }
-    [[nodiscard]] std::int64_t I64() { return static_cast<std::int64_t>(Hole(8)); }
-    [[nodiscard]] double F64() { return std::bit_cast<double>(Hole(8)); }
+    [[nodiscard]] std::uint8_t U8() { return Hole<std::uint8_t>(); }
+    [[nodiscard]] std::uint16_t U16() { return Hole<std::uint16_t>(); }
+    [[nodiscard]] std::uint32_t U32() { return Hole<std::uint32_t>(); }
+    [[nodiscard]] std::int32_t I32() { return Hole<std::int32_t>(); }
+    [[nodiscard]] std::int64_t I64() { return Hole<std::int64_t>(); }
+    [[nodiscard]] double F64() { return std::bit_cast<double>(Hole<std::uint64_t>()); }
     [[nodiscard]] bool Bool() { return U8() != 0; }
     [[nodiscard]] std::string_view Text(std::size_t breite) {
         if (breite > Rest()) {
@@ -65,17 +88,16 @@ class ByteLeser {
     [[nodiscard]] bool Gut() const { return gut_; }
 
   private:
-    [[nodiscard]] std::uint64_t Hole(unsigned bytes) {
-        if (bytes > Rest()) {
+    template <class T>
+    [[nodiscard]] T Hole() {
+        T v{};
+        if (sizeof v > Rest()) {
             Ende();
-            return 0;
+            return v;
         }
-        std::uint64_t v = 0;
-        for (unsigned i = 0; i < bytes; ++i) {
-            v |= static_cast<std::uint64_t>(static_cast<unsigned char>(inhalt_[stelle_ + i])) << (8U * i);
-        }
-        stelle_ += bytes;
-        return v;
+        std::memcpy(&v, inhalt_.data() + stelle_, sizeof v);
+        stelle_ += sizeof v;
+        return KleinesEndeZuerst(v);
     }
     void Ende() {
         gut_ = false;

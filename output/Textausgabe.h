@@ -1,7 +1,6 @@
 // A text file on its way to the disk, in large pieces: whatever its size, it takes the memory of one piece.
 #pragma once
 
-#include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -16,20 +15,20 @@ namespace zrw {
 
 class Textausgabe {
   public:
-    explicit Textausgabe(std::unique_ptr<Dateischreiber> datei) : datei_(std::move(datei)) {
-        stueck_.reserve(kStueck + kZugabe);
-    }
+    explicit Textausgabe(std::unique_ptr<Dateischreiber> datei)
+        : datei_(std::move(datei)), stueck_(kStueck, '\0') {}
 
     /// @throws Fehler where a full piece cannot be written
     void Nimm(std::string_view text) {
-        stueck_ += text;
-        if (stueck_.size() >= kStueck) Weiter();
+        if (text.size() > stueck_.size() - laenge_) Weiter();
+        if (text.size() > stueck_.size()) return datei_->Schreibe(text);
+        laenge_ += text.copy(stueck_.data() + laenge_, text.size());
     }
     /// Plain decimal integer.
     void Nimm(std::int64_t zahl) {
-        std::array<char, 20> ziffern{};  // the lower end of 64 bits with its sign
-        const char* ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), zahl).ptr;
-        Nimm(std::string_view(ziffern.data(), static_cast<std::size_t>(ende - ziffern.data())));
+        if (stueck_.size() - laenge_ < kLaengsteZahl) Weiter();
+        char* anfang = stueck_.data() + laenge_;
+        laenge_ += static_cast<std::size_t>(std::to_chars(anfang, anfang + kLaengsteZahl, zahl).ptr - anfang);
     }
     /// Text of the network. A control character would break the line or the label that it stands in, so it
     /// becomes a blank; damaged picture files hold such numbers.
@@ -48,15 +47,16 @@ class Textausgabe {
 
   private:
     static constexpr std::size_t kStueck = std::size_t{1} << 16U;
-    static constexpr std::size_t kZugabe = 512;  // the longest text that comes in one go
+    static constexpr std::size_t kLaengsteZahl = 20;  // the lower end of 64 bits with its sign
 
     void Weiter() {
-        datei_->Schreibe(stueck_);
-        stueck_.clear();
+        datei_->Schreibe({stueck_.data(), laenge_});
+        laenge_ = 0;
     }
 
     std::unique_ptr<Dateischreiber> datei_;
-    std::string stueck_;
+    std::string stueck_;      ///< always of the size of a piece
+    std::size_t laenge_ = 0;  ///< what of it is taken
 };
 
 }  // namespace zrw
