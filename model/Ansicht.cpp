@@ -1,6 +1,8 @@
 // View arithmetic of the list: fitting, world to picture and back, zooming, panning, moving.
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <vector>
 
 #include "model/FigListe.h"
 #include "model/Ganzzahl.h"
@@ -38,22 +40,23 @@ void Liste::Findfaktor() {
     Faktor = dy < dx ? dx / (Hoehe - kBildrand) : dy / Weite;
 }
 
-void Liste::WeltinBild() {
-    (void)RechneBild({});
-}
-
 namespace {
 
-/// Sets picture positions and sees whether all of them moved alike.
+/// Sets picture positions and, where that is asked for, sees whether all of them moved alike.
+template <bool Prueft>
 class Versetzer {
   public:
     explicit Versetzer(Bildpunkt weg) : weg_(weg) {}
     void Setze(std::int64_t& x, std::int64_t& y, Bildpunkt neu) {
-        // Far outside, sums would leave 64 bits; pictures of such views are not moved.
-        constexpr std::uint64_t kWeit = 1ULL << 29U;
-        const auto fern = [](std::int64_t v) { return static_cast<std::uint64_t>(v) + kWeit >= 2 * kWeit; };
-        anders_ |= fern(x) | fern(y) | fern(neu.x) | fern(neu.y);
-        if (!anders_) anders_ = neu.x - x != weg_.x || neu.y - y != weg_.y;
+        if constexpr (Prueft) {
+            // Far outside, sums would leave 64 bits; pictures of such views are not moved.
+            constexpr std::uint64_t kWeit = 1ULL << 29U;
+            const auto fern = [](std::int64_t v) {
+                return static_cast<std::uint64_t>(v) + kWeit >= 2 * kWeit;
+            };
+            anders_ |= fern(x) | fern(y) | fern(neu.x) | fern(neu.y);
+            if (!anders_) anders_ = neu.x - x != weg_.x || neu.y - y != weg_.y;
+        }
         x = neu.x;
         y = neu.y;
     }
@@ -65,30 +68,59 @@ class Versetzer {
     bool anders_ = false;
 };
 
+/// Positions by internal number, all in one place: lines ask for them in any order.
+class Ortstafel {
+  public:
+    void Nimm(PunktIndex nr, Bildpunkt ort) {
+        if (bekannt_[nr]) return;  // the newest of a number counts
+        bekannt_[nr] = true;
+        orte_[nr] = ort;
+    }
+    /// Null where there is no such point.
+    [[nodiscard]] const Bildpunkt* Finde(PunktIndex nr) const { return bekannt_[nr] ? &orte_[nr] : nullptr; }
+
+  private:
+    // Not cleared: what is not known is not read.
+    std::unique_ptr<Bildpunkt[]> orte_ = std::make_unique_for_overwrite<Bildpunkt[]>(kMaxPunkte + 1);
+    std::vector<bool> bekannt_ = std::vector<bool>(kMaxPunkte + 1);
+};
+
 }  // namespace
 
-/// @param weg how far all figures are expected to move [px] @return whether they did
+/// @param weg how far all figures are expected to move [px] @return whether they did, if that is looked at
+template <bool Prueft>
 bool Liste::RechneBild(Bildpunkt weg) {
-    Versetzer v(weg);
+    Versetzer<Prueft> v(weg);
+    Ortstafel orte;
     // The detours of indirect lines are rounded with halves to the even neighbour, which an odd way swaps.
     const bool ungerade = weg.x % 2 != 0 || weg.y % 2 != 0;
-    for (zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next)
-        v.Setze(p->Item->XO, p->Item->YO, Bildort({p->XWPu, p->YWPu}));
-    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        const zrw::PunktKnoten* a = SuchPkt(k->ANr);
-        const zrw::PunktKnoten* e = SuchPkt(k->ENr);
-        if (a != nullptr) v.Setze(k->Item->XO, k->Item->YO, a->Item->Position());
-        if (e != nullptr) v.Setze(k->Item->XBiE, k->Item->YBiE, e->Item->Position());
-        if (a == nullptr || e == nullptr || (ungerade && k->Item->LAttr > LinieAttr::AST)) v.SetzeAnders();
-    }
-    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        const zrw::PunktKnoten* p = SuchPkt(t->TNr);
-        if (p != nullptr) v.Setze(t->Item->XO, t->Item->YO, p->Item->Position());
+    // By the order in memory: following the lists would wait for each node before it knows the next.
+    suche_.punkte.FuerAlle([&](std::uint32_t f) {
+        const zrw::PunktKnoten& p = punktArena_[f].knoten;
+        const Bildpunkt ort = Bildort({p.XWPu, p.YWPu});
+        v.Setze(p.Item->XO, p.Item->YO, ort);
+        orte.Nimm(p.PNr, ort);
+    });
+    suche_.kanten.FuerAlle([&](std::uint32_t f) {
+        const PunktKante& k = kanteArena_[f].knoten;
+        const Bildpunkt* a = orte.Finde(k.ANr);
+        const Bildpunkt* e = orte.Finde(k.ENr);
+        if (a != nullptr) v.Setze(k.Item->XO, k.Item->YO, *a);
+        if (e != nullptr) v.Setze(k.Item->XBiE, k.Item->YBiE, *e);
+        if (a == nullptr || e == nullptr || (ungerade && k.Item->LAttr > LinieAttr::AST)) v.SetzeAnders();
+    });
+    suche_.texte.FuerAlle([&](std::uint32_t f) {
+        const PunktString& t = textArena_[f].knoten;
+        const Bildpunkt* p = orte.Finde(t.TNr);
+        if (p != nullptr) v.Setze(t.Item->XO, t.Item->YO, *p);
         if (p == nullptr) v.SetzeAnders();
-    }
-    suche_.lage = {Faktor, MinXW + XOffset, MaxYW + YOffset};
-    suche_.frisch = true;
+    });
+    suche_.lage = {Faktor, MinXW + XOffset, MaxYW + YOffset, true};
     return v.Glatt();
+}
+
+void Liste::WeltinBild() {
+    (void)RechneBild<false>({});
 }
 
 void Liste::WeltinBild(const Figurenmenge& figuren) {
@@ -162,7 +194,7 @@ void Liste::MoveMe(std::int64_t dx, std::int64_t dy) {
 bool Liste::SetzeVersatz(Welt versatz, Bildpunkt weg) {
     XOffset = versatz.rechts;
     YOffset = versatz.hoch;
-    return RechneBild(weg);
+    return RechneBild<true>(weg);
 }
 
 void Liste::MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy) {

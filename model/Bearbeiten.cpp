@@ -110,7 +110,7 @@ void Liste::SetzeZurueck(const Herausnahme& h) {
         k->knoten->Item->Visible = k->sichtbar;
         ++MaxKant;
     }
-    suche_.frisch = false;
+    suche_.lage.frisch = false;
     if (h.punkt.knoten != nullptr) MeldePunkt(*h.punkt.knoten);
 }
 

@@ -27,6 +27,7 @@ struct Bildlage {
     double faktor = 0.0;  ///< [m/px]
     double links = 0.0;   ///< easting of the left border [m]
     double oben = 0.0;    ///< northing of the upper border [m]
+    bool frisch = false;  ///< no figure came or moved since the positions were worked out
 };
 
 /// What is in one list: its figures by `Folge`, and where they are.
@@ -106,8 +107,7 @@ struct Bildsuche {
     Suchmenge texte;
     Bildlage lage;
     bool gebaut = false;
-    bool frisch = false;  ///< no figure came or moved since the positions were worked out
-    Weltkasten alles;     ///< of all points, once built
+    Weltkasten alles;  ///< of all points, once built
 
     /// What came or moved has grown too much to be asked every time.
     [[nodiscard]] bool Ueberholt() const;

@@ -77,7 +77,7 @@ PunktKante& Liste::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr)
     KanteKnoten = &k;
     index_.Auf(k);
     suche_.kanten.Auf(k.Folge, suche_.gebaut);
-    suche_.frisch = false;
+    suche_.lage.frisch = false;
     return k;
 }
 
@@ -87,7 +87,7 @@ PunktString& Liste::AddPktText(const PktText& item, PunktIndex iNr) {
     PktTextKnoten = &platz->knoten;
     index_.Auf(platz->knoten);
     suche_.texte.Auf(platz->knoten.Folge, suche_.gebaut);
-    suche_.frisch = false;
+    suche_.lage.frisch = false;
     return platz->knoten;
 }
 

@@ -87,6 +87,9 @@ class Liste {
     void WeltinBild(const Figurenmenge& figuren);
     /// The positions are those of the view as it is now.
     [[nodiscard]] bool PositionenAktuell() const;
+    // For whoever puts all positions back by hand: the view that they came from goes with them.
+    [[nodiscard]] const Bildlage& Lage() const { return suche_.lage; }
+    void SetzeLage(const Bildlage& lage) { suche_.lage = lage; }
     /// Sets the pan offsets. @param weg how far the figures should move by that [px] @return whether all did,
     /// so that the picture can be moved as it is
     bool SetzeVersatz(Welt versatz, Bildpunkt weg);
@@ -237,6 +240,7 @@ class Liste {
     };
 
     void ZeichneFiguren(Zeichner& z);
+    template <bool Prueft>
     bool RechneBild(Bildpunkt weg);
     [[nodiscard]] bool Suchbereit(const Bildbereich& b) const;
     void BaueSuche() const;

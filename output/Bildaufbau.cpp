@@ -7,28 +7,66 @@
 #include "output/Figurenzeichner.h"
 
 namespace zrw {
-namespace {}  // namespace
+namespace {
+
+/// Calls `tun` for nodes, newest first or oldest first. They lie all over the memory: what comes next is
+/// asked for while the ones before are being drawn.
+template <class Knoten, class Tun>
+void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) {
+    constexpr std::size_t kVoraus = 12;
+    constexpr std::size_t kSpeicherzeile = 64;
+    const std::size_t anzahl = knoten.size();
+    for (std::size_t i = 0; i < anzahl; ++i) {
+        if (i + kVoraus < anzahl) {
+            const auto* bald = reinterpret_cast<const char*>(
+                knoten[aeltesteZuerst ? anzahl - 1 - i - kVoraus : i + kVoraus]);
+            __builtin_prefetch(bald);
+            __builtin_prefetch(bald + kSpeicherzeile);
+        }
+        tun(*knoten[aeltesteZuerst ? anzahl - 1 - i : i]);
+    }
+}
+
+}  // namespace
+
+Bildaufbau::Bildaufbau(const Liste& liste, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
+                       const Reichweiten& reichweiten)
+    : liste_(liste),
+      flaeche_(flaeche),
+      zeichner_(zeichner),
+      r_(reichweiten),
+      gezeigt_(liste),
+      linien_(Bereich(r_.kante)),
+      symbole_(Bereich(r_.symbol)),
+      nummern_(Bereich(0)) {
+    // A text stands right of its corner and below it.
+    nummern_.links -= r_.textweite;
+    nummern_.oben -= r_.texthoehe;
+}
 
 Bildbereich Bildaufbau::Bereich(std::int64_t rand) const {
     const Rechteck a = flaeche_.Ausschnitt();
     return {a.links - rand, a.oben - rand, a.rechts + rand, a.unten + rand};
 }
 
-/// Keeps what is visible and switched on.
+/// Whether a shape reaching from one position to another touches the part that is drawn.
+bool Bildaufbau::Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r) {
+    return std::max(a.x, b.x) >= r.links && std::min(a.x, b.x) <= r.rechts && std::max(a.y, b.y) >= r.oben &&
+           std::min(a.y, b.y) <= r.unten;
+}
+
+/// What may have to be drawn. Only the points are looked at: how dense they lie decides how to draw.
 void Bildaufbau::Sammle() {
-    Gezeigt gezeigt(liste_);
-    if (liste_.ShowBeob) liste_.SammleKanten(Bereich(r_.kante), kanten_);
-    std::erase_if(kanten_, [&](const PunktKante* k) { return !k->Item->Visible || !gezeigt(*k); });
-    liste_.SammlePunkte(Bereich(r_.symbol), punkte_);
-    std::erase_if(punkte_,
-                  [&](const PunktKnoten* p) { return !p->Item->Visible || !liste_.Dargestellt(*p->Item); });
-    if (!liste_.ShowPktText || !liste_.ShowHilfP) return;
-    // A text stands right of its corner and below it.
-    Bildbereich b = Bereich(0);
-    b.links -= r_.textweite;
-    b.oben -= r_.texthoehe;
-    liste_.SammleTexte(b, texte_);
-    std::erase_if(texte_, [&](const PunktString* t) { return !t->Item->Visible || !gezeigt(*t); });
+    if (liste_.ShowBeob) liste_.SammleKanten(linien_, kanten_);
+    liste_.SammlePunkte(symbole_, punkte_);
+    std::size_t anzahl = 0;
+    FuerAlle(punkte_, false, [&](PunktKnoten& p) {
+        const Bildpunkt ort = p.Item->Position();
+        if (p.Item->Visible && liste_.Dargestellt(*p.Item) && Beruehrt(ort, ort, symbole_))
+            punkte_[anzahl++] = &p;
+    });
+    punkte_.resize(anzahl);
+    if (liste_.ShowPktText && liste_.ShowHilfP) liste_.SammleTexte(nummern_, texte_);
 }
 
 /// Whether enough lies behind other things to pay for keeping track of it: what the figures would draw
@@ -59,33 +97,51 @@ bool Bildaufbau::Dicht() const {
     return punkte * jePunkt > kTief * flaeche;
 }
 
-void Bildaufbau::VonVorn() {
-    // What was added last is behind, and labels are before points before lines.
-    for (std::size_t i = texte_.size(); i-- > 0;)
-        texte_[i]->Item->Show(zeichner_);
-    for (std::size_t i = punkte_.size(); i-- > 0;) {
-        Punkt& p = *punkte_[i]->Item;
-        if (!flaeche_.Verdeckt(zeichner_.Umfang(p))) p.Show(zeichner_);
-    }
-    for (std::size_t i = kanten_.size(); i-- > 0;) {
-        Kante& k = *kanten_[i]->Item;
-        if (!flaeche_.Verdeckt(zeichner_.Umfang(k))) k.Show(zeichner_);
-    }
+void Bildaufbau::ZeichnePunkte(bool vonVorn) {
+    FuerAlle(punkte_, vonVorn, [&](PunktKnoten& p) {
+        if (!vonVorn || !Verdeckt(p.Item->Position(), p.Item->Position(), r_.symbol)) p.Item->Show(zeichner_);
+    });
+}
+
+void Bildaufbau::ZeichneKanten(bool vonVorn) {
+    FuerAlle(kanten_, vonVorn, [&](PunktKante& k) {
+        const Bildpunkt a = k.Item->Position();
+        const Bildpunkt e = k.Item->Ende();
+        if (k.Item->Visible && gezeigt_(k) && Beruehrt(a, e, linien_) &&
+            !(vonVorn && Verdeckt(a, e, r_.kante)))
+            k.Item->Show(zeichner_);
+    });
+}
+
+void Bildaufbau::ZeichneTexte(bool vonVorn) {
+    FuerAlle(texte_, vonVorn, [&](PunktString& t) {
+        const Bildpunkt ort = t.Item->Textort();
+        if (t.Item->Visible && gezeigt_(t) && Beruehrt(ort, ort, nummern_)) t.Item->Show(zeichner_);
+    });
+}
+
+/// Nothing of a shape between two positions would be seen behind what is there.
+bool Bildaufbau::Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const {
+    // Shapes far out are never covered as a whole.
+    constexpr std::int64_t kWeit = 1 << 30;
+    return flaeche_.Verdeckt({static_cast<std::int32_t>(std::max(std::min(a.x, b.x), -kWeit) - r),
+                              static_cast<std::int32_t>(std::max(std::min(a.y, b.y), -kWeit) - r),
+                              static_cast<std::int32_t>(std::min(std::max(a.x, b.x), kWeit) + r),
+                              static_cast<std::int32_t>(std::min(std::max(a.y, b.y), kWeit) + r)});
 }
 
 void Bildaufbau::Zeichne() {
     Sammle();
     if (zeichner_.NurPixel() && Dicht() && flaeche_.BeginneVonVorn()) {
-        VonVorn();
+        ZeichneTexte(true);
+        ZeichnePunkte(true);
+        ZeichneKanten(true);
         flaeche_.BeendeVonVorn();
-        return;
+    } else {
+        ZeichneKanten(false);
+        ZeichnePunkte(false);
+        ZeichneTexte(false);
     }
-    for (PPunktKante k : kanten_)
-        k->Item->Show(zeichner_);
-    for (PPunktKnoten p : punkte_)
-        p->Item->Show(zeichner_);
-    for (PPunktString t : texte_)
-        t->Item->Show(zeichner_);
 }
 
 }  // namespace zrw

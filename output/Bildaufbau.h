@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/Bildsuche.h"
+#include "model/Gezeigt.h"
 #include "model/Knoten.h"
 #include "output/Zeichenflaeche.h"
 
@@ -26,22 +27,30 @@ class Bildaufbau {
     };
 
     Bildaufbau(const Liste& liste, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
-               const Reichweiten& reichweiten)
-        : liste_(liste), flaeche_(flaeche), zeichner_(zeichner), r_(reichweiten) {}
+               const Reichweiten& reichweiten);
 
     void Zeichne();
 
   private:
     void Sammle();
     [[nodiscard]] bool Dicht() const;
-    void VonVorn();
+    void ZeichneKanten(bool vonVorn);
+    void ZeichnePunkte(bool vonVorn);
+    void ZeichneTexte(bool vonVorn);
+    [[nodiscard]] bool Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const;
+    [[nodiscard]] static bool Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r);
     [[nodiscard]] Bildbereich Bereich(std::int64_t rand) const;
 
     const Liste& liste_;
     Zeichenflaeche& flaeche_;
     Figurenzeichner& zeichner_;
     Reichweiten r_;
-    // What is to be drawn, newest first.
+    Gezeigt gezeigt_;
+    // Where positions lie whose figures may show.
+    Bildbereich linien_;
+    Bildbereich symbole_;
+    Bildbereich nummern_;
+    // What may have to be drawn, newest first.
     std::vector<PPunktKante> kanten_;
     std::vector<PPunktKnoten> punkte_;
     std::vector<PPunktString> texte_;

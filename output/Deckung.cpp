@@ -1,7 +1,6 @@
 #include "output/Deckung.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace zrw {
 
@@ -33,17 +32,6 @@ void Deckung::Beginne(int weite, int hoehe, const Rechteck& ausschnitt) {
             tief_[i] = tiefe;
         }
     }
-}
-
-std::uint64_t Deckung::Nimm(std::size_t spalte, std::size_t y, std::uint64_t pixel) {
-    std::uint64_t& wort = bits_[y * spalten_ + spalte];
-    const std::uint64_t neu = pixel & ~wort;
-    if (neu == 0) return 0;
-    wort |= neu;
-    std::uint16_t& frei = frei_[(y / kKachelhoehe) * spalten_ + spalte];
-    frei = static_cast<std::uint16_t>(frei - std::popcount(neu));
-    if (frei == 0) Voll(spalte, y / kKachelhoehe);
-    return neu;
 }
 
 /// A tile has become full: the runs of full tiles that end above it grow.

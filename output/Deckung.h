@@ -28,13 +28,29 @@ class Deckung {
         return true;
     }
     /// Covers pixels of one word of a row, x = 64 * `spalte` + bit. @return those that were free
-    std::uint64_t Nimm(std::size_t spalte, std::size_t y, std::uint64_t pixel);
+    std::uint64_t Nimm(std::size_t spalte, std::size_t y, std::uint64_t pixel) {
+        std::uint64_t& wort = bits_[y * spalten_ + spalte];
+        const std::uint64_t neu = pixel & ~wort;
+        if (neu == 0) return 0;
+        wort |= neu;
+        std::uint16_t& frei = frei_[(y / kKachelhoehe) * spalten_ + spalte];
+        frei = static_cast<std::uint16_t>(frei - Anzahl(neu));
+        if (frei == 0) Voll(spalte, y / kKachelhoehe);
+        return neu;
+    }
     /// Everything in the rectangle is covered, or outside `ausschnitt`.
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const;
 
   private:
     static constexpr std::size_t kKachelhoehe = 8;
 
+    /// Bits that are set, in parallel sums: the compiler's own call is a library function on plain machines.
+    [[nodiscard]] static unsigned Anzahl(std::uint64_t v) {
+        v -= v >> 1U & 0x5555555555555555U;
+        v = (v & 0x3333333333333333U) + (v >> 2U & 0x3333333333333333U);
+        v = (v + (v >> 4U)) & 0x0F0F0F0F0F0F0F0FU;
+        return static_cast<unsigned>(v * 0x0101010101010101U >> 56U);
+    }
     void Voll(std::size_t spalte, std::size_t reihe);
 
     bool aktiv_ = false;

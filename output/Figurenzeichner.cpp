@@ -84,8 +84,7 @@ Rechteck Figurenzeichner::Umfang(const PktText& text) const {
     return r;
 }
 
-void Figurenzeichner::MerkeGewischt(Gang gang, const Rechteck& r) {
-    if (gang != Gang::Wischen) return;
+void Figurenzeichner::MerkeGewischt(const Rechteck& r) {
     Rechteck& g = gewischt_;
     g = g.links > g.rechts ? r
                            : Rechteck{std::min(g.links, r.links), std::min(g.oben, r.oben),
@@ -112,7 +111,7 @@ std::int64_t Figurenzeichner::Symbolreichweite() const {
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Gang gang) {
     SetzeEbene(Ebene::Punkte);
-    MerkeGewischt(gang, Umfang(punkt));
+    if (gang == Gang::Wischen) MerkeGewischt(Umfang(punkt));
     const Einstellungen& e = einstellungen_;
     const Bildpunkt m = punkt.Position();
     Zeichenflaeche* f = zustand_.flaeche;
@@ -196,15 +195,14 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
     const bool nurBild = Plot(gang) == nullptr && Dxf(gang) == nullptr;
     if (nurBild && !Beruehrt(kante)) return;
     SetzeEbene(Ebene::Beobachtungen);
-    MerkeGewischt(gang, Umfang(kante));
+    if (gang == Gang::Wischen) MerkeGewischt(Umfang(kante));
     const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
     if (zustand_.flaeche != nullptr) {
         const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
         const Farbe farbe = gang == Gang::Wischen ? kWeiss : eigene;
-        const Stiftwechsel wechsel(*zustand_.flaeche, {farbe, 1, Strichart::Voll}, {farbe, false});
-        for (const Zug& zug : bild.Zuege())
-            ZeigeZug(zug, farbe);
+        ZeigeZuege(bild.Zuege(), farbe);
     }
+    if (nurBild) return;
     Plotdatei* plot = Plot(gang);
     const DXFUnit* dxf = Dxf(gang);
     for (const Zug& zug : bild.Zuege()) {
@@ -229,16 +227,17 @@ bool Figurenzeichner::Beruehrt(const Kante& kante) const {
            std::max(a.y, b.y) >= s.oben - rand && std::min(a.y, b.y) <= s.unten + rand;
 }
 
-void Figurenzeichner::ZeigeZug(const Zug& zug, Farbe farbe) {
-    Zeichenflaeche& f = *zustand_.flaeche;
-    const Rechteck grenzen = f.Grenzen();
-    for (const Strich& strich : Striche(zug.form)) {
-        const auto teil = Abschneiden(zug.punkte[strich.von], zug.punkte[strich.nach], grenzen);
-        if (!teil) continue;
-        const Strichart art = strich.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll;
-        if (f.AktuellerStift().art != art) f.SetzeStift({farbe, 1, art});
-        f.Linie(teil->first, teil->second);
+/// All strokes of a line, cut to what the surface can take.
+void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe) {
+    const Rechteck grenzen = zustand_.flaeche->Grenzen();
+    std::size_t anzahl = 0;
+    for (const Zug& zug : zuege) {
+        for (const Strich& s : Striche(zug.form)) {
+            if (const auto teil = Abschneiden(zug.punkte[s.von], zug.punkte[s.nach], grenzen))
+                stuecke_[anzahl++] = {teil->first, teil->second, s.gestrichelt};
+        }
     }
+    zustand_.flaeche->Linien({stuecke_.data(), anzahl}, farbe);
 }
 
 void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
@@ -265,7 +264,7 @@ void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
 
 void Figurenzeichner::ZeichneText(const PktText& text, Gang gang) {
     SetzeEbene(Ebene::Punktnummern);
-    if (gang == Gang::Wischen) MerkeGewischt(gang, Umfang(text));
+    if (gang == Gang::Wischen) MerkeGewischt(Umfang(text));
     if (zustand_.flaeche != nullptr) ZeigeText(text, gang == Gang::Wischen ? kWeiss : text.Col);
     // The files always get the whole number. The plot shifts it by the horizontal offset in both directions;
     // plotted sheets have their numbers there.
@@ -317,7 +316,7 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
     if (zustand_.flaeche == nullptr) return;
     SetzeEbene(Ebene::Legende);
-    MerkeGewischt(gang, zustand_.flaeche->Sichtbar());
+    if (gang == Gang::Wischen) MerkeGewischt(zustand_.flaeche->Sichtbar());
     // Printing leaves a device factor behind that means nothing on the screen.
     const double geraetefaktor = zustand_.modus == Zeichenmodus::Drucker ? zustand_.Geraetefaktor : 1.0;
     Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).Zeichne(legende, gang);

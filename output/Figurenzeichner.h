@@ -64,12 +64,12 @@ class Figurenzeichner final : public Zeichner {
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 
     void SetzeEbene(Ebene ebene) const;
-    void MerkeGewischt(Gang gang, const Rechteck& r);
+    void MerkeGewischt(const Rechteck& r);
     [[nodiscard]] bool Beruehrt(const Kante& kante) const;
     /// How far a line's marks reach [px].
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;
-    void ZeigeZug(const Zug& zug, Farbe farbe);
+    void ZeigeZuege(std::span<const Zug> zuege, Farbe farbe);
     void SchreibeZug(const Zug& zug, const Kante& kante);
     void ZeigeText(const PktText& text, Farbe farbe);
     [[nodiscard]] Plotdatei* Plot(Gang gang) const;
@@ -82,6 +82,7 @@ class Figurenzeichner final : public Zeichner {
     const Netzangaben& netz_;
     const Uhr& uhr_;
     Rechteck gewischt_ = kNichts;
+    std::array<Linienstueck, kMeisteStriche> stuecke_;  ///< of the line that is being drawn
 };
 
 }  // namespace zrw

@@ -28,7 +28,8 @@ Geraeteansicht::Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double fak
       xOffset_(liste.XOffset),
       yOffset_(liste.YOffset),
       weite_(liste.Weite),
-      hoehe_(liste.Hoehe) {
+      hoehe_(liste.Hoehe),
+      lage_(liste.Lage()) {
     std::size_t anzahl = 0;
     FuerJedePosition([&](std::int64_t& /*wert*/) { ++anzahl; });
     positionen_.reserve(anzahl);
@@ -50,6 +51,7 @@ Geraeteansicht::~Geraeteansicht() {
     zustand_ = vorher_;
     auto naechste = positionen_.begin();
     FuerJedePosition([&](std::int64_t& wert) { wert = *naechste++; });
+    liste_.SetzeLage(lage_);
 }
 
 }  // namespace zrw

@@ -50,20 +50,24 @@ struct Kantenbild::Lage {
     double ux = 0.0;
     double uy = 0.0;
     double laenge = 0.0;
-    std::int64_t gx = 0;  ///< marker offset along the line, rounded before use
+    std::int64_t gx = 0;  ///< offset of a GPS marker along the line, rounded before use
     std::int64_t gy = 0;
     double umweg = 0.0;  ///< height of the detour of indirect lines
 
-    Lage(Bildpunkt anfang, Bildpunkt ende, const Einstellungen& groessen, bool genau) : s(anfang), e(ende) {
+    Lage(Bildpunkt anfang, Bildpunkt ende, const Einstellungen& groessen, bool nurStrecke, bool gps,
+         bool genau)
+        : s(anfang), e(ende) {
         const std::int64_t dx = Differenz(e.x, s.x);
         const std::int64_t dy = Differenz(e.y, s.y);
+        m = {Summe(s.x, dx / 2), Summe(s.y, dy / 2)};
+        if (nurStrecke) return;
         laenge = Laenge(dx, dy, genau);
-        if (laenge == 0.0) return;
         ux = static_cast<double>(dx) / laenge;
         uy = static_cast<double>(dy) / laenge;
-        m = {Summe(s.x, dx / 2), Summe(s.y, dy / 2)};
-        gx = RundeZuInt64(groessen.GPSGroesse * ux);
-        gy = RundeZuInt64(groessen.GPSGroesse * uy);
+        if (gps) {
+            gx = RundeZuInt64(groessen.GPSGroesse * ux);
+            gy = RundeZuInt64(groessen.GPSGroesse * uy);
+        }
         // On a short line the detour shrinks, so that it stays between the points.
         umweg = std::min<double>(groessen.Umweggroesse, laenge / 6);
     }
@@ -79,8 +83,9 @@ Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildp
                        const Einstellungen& groessen) {
     if (anfang == ende) return;
     const bool indirekt = lAttr > LinieAttr::AST;
-    const Lage l(anfang, ende, groessen, indirekt);
     const bool gps = kAttr.Hat(KanteAttr::GPS);
+    const bool nurStrecke = !indirekt && kAttr == KanteAttr();
+    const Lage l(anfang, ende, groessen, nurStrecke, gps, indirekt);
     Linie(lAttr, gps && l.laenge > 2.0 * groessen.GPSGroesse, l);
     if (gps) {
         const Bildpunkt vorn{Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)};

@@ -54,6 +54,9 @@ struct Zug {
     std::array<Bildpunkt, 7> punkte{};
 };
 
+/// Most strokes of a line: a detour of two forms, marker, tick and height marks.
+inline constexpr std::size_t kMeisteStriche = 24;
+
 class Kantenbild {
   public:
     /// @param a, e ends of the line [px]; equal ends give nothing

@@ -150,25 +150,44 @@ void Pixelbild::SetzeBits(std::uint64_t bits, std::int64_t x, std::size_t y, std
         zeile[x + std::countr_zero(bits)] = farbe;
 }
 
-void Pixelbild::Zeile(std::span<const std::uint64_t> worte, std::int64_t x, std::int64_t y,
-                      std::uint32_t farbe) {
-    if (y < ausschnitt_.oben || y > ausschnitt_.unten) return;
-    for (const std::uint64_t bits : worte) {
-        if (bits != 0 && x <= ausschnitt_.rechts && x + 63 >= ausschnitt_.links)
-            SetzeBits(bits, x, static_cast<std::size_t>(y), farbe);
-        x += 64;
+/// A block of one word a row that lies in the picture as a whole.
+void Pixelbild::FreierBlock(std::span<const std::uint64_t> worte, std::size_t x, std::size_t y,
+                            std::uint32_t farbe) {
+    std::uint32_t* zeile = bild_ + y * zeile_ + x;
+    const auto bit = static_cast<unsigned>(x % 64);
+    for (std::uint64_t bits : worte) {
+        if (deckung_.Aktiv() && bits != 0) {
+            const std::uint64_t links = deckung_.Nimm(x / 64, y, bits << bit) >> bit;
+            const std::uint64_t ueber = bit != 0 ? bits >> (64U - bit) : 0;
+            bits = links | (ueber != 0 ? deckung_.Nimm(x / 64 + 1, y, ueber) << (64U - bit) : 0);
+        }
+        for (; bits != 0; bits &= bits - 1)
+            zeile[std::countr_zero(bits)] = farbe;
+        zeile += zeile_;
+        ++y;
+    }
+}
+
+void Pixelbild::Block(std::span<const std::uint64_t> worte, std::size_t jeZeile, std::int64_t x,
+                      std::int64_t y, std::uint32_t farbe) {
+    const auto hoehe = static_cast<std::int64_t>(worte.size() / std::max<std::size_t>(jeZeile, 1));
+    const std::int64_t weite = static_cast<std::int64_t>(jeZeile) * 64;
+    const Rechteck& a = ausschnitt_;
+    if (x > a.rechts || y > a.unten || x + weite <= a.links || y + hoehe <= a.oben) return;
+    if (jeZeile == 1 && x >= a.links && y >= a.oben && x + 63 <= a.rechts && y + hoehe - 1 <= a.unten)
+        return FreierBlock(worte, static_cast<std::size_t>(x), static_cast<std::size_t>(y), farbe);
+    for (std::int64_t i = std::max<std::int64_t>(a.oben - y, 0); i < hoehe && y + i <= a.unten; ++i) {
+        for (std::size_t w = 0; w < jeZeile; ++w) {
+            const std::int64_t links = x + static_cast<std::int64_t>(w) * 64;
+            const std::uint64_t bits = worte[static_cast<std::size_t>(i) * jeZeile + w];
+            if (bits != 0 && links <= a.rechts && links + 63 >= a.links)
+                SetzeBits(bits, links, static_cast<std::size_t>(y + i), farbe);
+        }
     }
 }
 
 void Pixelbild::Maske(const Pixelmaske& maske, std::int32_t x, std::int32_t y, std::uint32_t farbe) {
-    const std::int64_t links = std::int64_t{x} + maske.links;
-    const std::int64_t oben = std::int64_t{y} + maske.oben;
-    if (links > ausschnitt_.rechts || oben > ausschnitt_.unten || links + maske.weite <= ausschnitt_.links ||
-        oben + maske.hoehe <= ausschnitt_.oben)
-        return;
-    const std::size_t jeZeile = maske.JeZeile();
-    for (int i = 0; i < maske.hoehe; ++i)
-        Zeile({maske.worte.data() + static_cast<std::size_t>(i) * jeZeile, jeZeile}, links, oben + i, farbe);
+    Block(maske.worte, maske.JeZeile(), std::int64_t{x} + maske.links, std::int64_t{y} + maske.oben, farbe);
 }
 
 }  // namespace zrw

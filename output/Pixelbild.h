@@ -59,8 +59,9 @@ class Pixelbild {
     /// for that are stepped with exact remainders. Ends lie within 2^30.
     void Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, Strichart art);
     void Maske(const Pixelmaske& maske, std::int32_t x, std::int32_t y, std::uint32_t farbe);
-    /// One row of a mask, word by word from `x` on.
-    void Zeile(std::span<const std::uint64_t> worte, std::int64_t x, std::int64_t y, std::uint32_t farbe);
+    /// Rows of `jeZeile` words each, the first bit of the first row at (x, y).
+    void Block(std::span<const std::uint64_t> worte, std::size_t jeZeile, std::int64_t x, std::int64_t y,
+               std::uint32_t farbe);
 
   private:
     template <bool Senkrecht, bool Innen>
@@ -73,6 +74,7 @@ class Pixelbild {
         const auto y = static_cast<std::size_t>(Senkrecht ? laengs : quer);
         if (!deckung_.Aktiv() || deckung_.Nimm(x, y)) bild_[y * zeile_ + x] = farbe;
     }
+    void FreierBlock(std::span<const std::uint64_t> worte, std::size_t x, std::size_t y, std::uint32_t farbe);
     void SetzeBits(std::uint64_t bits, std::int64_t x, std::size_t y, std::uint32_t farbe);
 
     std::uint32_t* bild_ = nullptr;

@@ -33,6 +33,13 @@ struct Flaechenpunkt {
     friend bool operator==(Flaechenpunkt, Flaechenpunkt) = default;
 };
 
+/// A stroke of width 1.
+struct Linienstueck {
+    Flaechenpunkt von;
+    Flaechenpunkt nach;
+    bool gestrichelt = false;
+};
+
 /// Rectangle on a surface [dots]; `rechts` and `unten` lie on it.
 struct Rechteck {
     std::int32_t links = 0;
@@ -76,6 +83,8 @@ class Zeichenflaeche {
 
     /// Line with both ends drawn.
     virtual void Linie(Flaechenpunkt von, Flaechenpunkt nach) = 0;
+    /// Strokes of width 1 in one colour, whatever the pen is.
+    virtual void Linien(std::span<const Linienstueck> stuecke, Farbe farbe);
     // Outline with the pen, inside with the brush.
     virtual void ZeichneRechteck(const Rechteck& r) = 0;
     virtual void Ellipse(const Rechteck& umschrieben) = 0;
@@ -122,5 +131,14 @@ class Stiftwechsel {
     Stift stift_;
     Pinsel pinsel_;
 };
+
+inline void Zeichenflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
+    const Stiftwechsel wechsel(*this, {farbe, 1, Strichart::Voll}, {farbe, false});
+    for (const Linienstueck& s : stuecke) {
+        const Strichart art = s.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll;
+        if (stift_.art != art) SetzeStift({farbe, 1, art});
+        Linie(s.von, s.nach);
+    }
+}
 
 }  // namespace zrw

@@ -1,6 +1,7 @@
 #include "ui/Pixelflaeche.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "output/Abschneiden.h"
 #include "ui/Umwandlung.h"
@@ -35,49 +36,65 @@ Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
     return maske;
 }
 
-/// Glyphs gathered into the rows of one mask, so that each row of the text is set at once.
+/// A short text: its glyphs with their places, gathered into the rows of one mask, so that each row is set at
+/// once.
 class Textzeile {
   public:
-    Textzeile(Pixelbild& bild, std::uint32_t farbe, Flaechenpunkt ort)
-        : bild_(bild), farbe_(farbe), ort_(ort) {}
+    static constexpr std::size_t kMeisteZeichen = 24;
 
-    void Nimm(const Pixelmaske& m) {
-        const int links = stelle_ + m.links + kVorlauf;
-        const int oben = m.oben + kVorlauf;
-        if (links < 0 || oben < 0 || links + m.weite > kWeite || oben + m.hoehe > kHoehe || m.weite > 64) {
-            bild_.Maske(m, ort_.x + stelle_, ort_.y, farbe_);
-            return;
+    /// @return false: it does not fit in here
+    [[nodiscard]] bool Nimm(const Pixelglyphe& g) {
+        const Pixelmaske& m = g.maske;
+        if (!m.worte.empty()) {
+            if (anzahl_ == kMeisteZeichen || m.weite > 64) return false;
+            glyphen_[anzahl_++] = {&m, stelle_ + m.links};
+            links_ = std::min(links_, stelle_ + m.links);
+            rechts_ = std::max(rechts_, stelle_ + m.links + m.weite - 1);
+            oben_ = std::min(oben_, m.oben);
+            unten_ = std::max(unten_, m.oben + m.hoehe - 1);
         }
-        const auto wort = static_cast<std::size_t>(links) / 64;
-        const auto bit = static_cast<unsigned>(links) % 64U;
-        for (int i = 0; i < m.hoehe; ++i) {
-            const std::uint64_t bits = m.worte[static_cast<std::size_t>(i)];
-            auto& zeile = zeilen_[static_cast<std::size_t>(oben) + static_cast<std::size_t>(i)];
-            zeile[wort] |= bits << bit;
-            if (bit != 0 && wort + 1 < zeile.size()) zeile[wort + 1] |= bits >> (64U - bit);
-        }
-        erste_ = std::min(erste_, oben);
-        letzte_ = std::max(letzte_, oben + m.hoehe - 1);
+        stelle_ += g.vorschub;
+        return anzahl_ == 0 || (rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe);
     }
-    void Rueckeweiter(int vorschub) { stelle_ += vorschub; }
-    void Setze() {
-        for (int i = erste_; i <= letzte_; ++i)
-            bild_.Zeile(zeilen_[static_cast<std::size_t>(i)], std::int64_t{ort_.x} - kVorlauf,
-                        std::int64_t{ort_.y} + i - kVorlauf, farbe_);
+    [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
+    [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
+        return {ort.x + links_, ort.y + oben_, ort.x + rechts_, ort.y + unten_};
+    }
+    void Setze(Pixelbild& bild, Flaechenpunkt ort, std::uint32_t farbe) const {
+        const std::size_t worte = static_cast<std::size_t>(rechts_ - links_) / 64 + 1;
+        std::array<std::uint64_t, (kWeite / 64) * kHoehe> bits;
+        const auto hoehe = static_cast<std::size_t>(unten_ - oben_ + 1);
+        std::fill_n(bits.begin(), worte * hoehe, 0);
+        for (std::size_t n = 0; n < anzahl_; ++n) {
+            const Pixelmaske& m = *glyphen_[n].maske;
+            const auto x = static_cast<std::size_t>(glyphen_[n].links - links_);
+            const auto bit = static_cast<unsigned>(x % 64);
+            std::size_t ziel = static_cast<std::size_t>(m.oben - oben_) * worte + x / 64;
+            for (const std::uint64_t zeile : m.worte) {
+                bits[ziel] |= zeile << bit;
+                if (bit != 0 && x / 64 + 1 < worte) bits[ziel + 1] |= zeile >> (64U - bit);
+                ziel += worte;
+            }
+        }
+        bild.Block({bits.data(), worte * hoehe}, worte, std::int64_t{ort.x} + links_,
+                   std::int64_t{ort.y} + oben_, farbe);
     }
 
   private:
-    static constexpr int kVorlauf = 8;  ///< glyphs may begin before their place
     static constexpr int kWeite = 192;
-    static constexpr int kHoehe = 32;
+    static constexpr int kHoehe = 64;
+    struct Platz {
+        const Pixelmaske* maske;
+        int links;
+    };
 
-    Pixelbild& bild_;
-    std::uint32_t farbe_;
-    Flaechenpunkt ort_;
+    std::array<Platz, kMeisteZeichen> glyphen_;
+    std::size_t anzahl_ = 0;
     int stelle_ = 0;
-    int erste_ = kHoehe;
-    int letzte_ = -1;
-    std::array<std::array<std::uint64_t, kWeite / 64>, kHoehe> zeilen_{};
+    int links_ = std::numeric_limits<int>::max();
+    int oben_ = std::numeric_limits<int>::max();
+    int rechts_ = std::numeric_limits<int>::min();
+    int unten_ = std::numeric_limits<int>::min();
 };
 
 }  // namespace
@@ -86,6 +103,7 @@ void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
     // The rows belong to the picture alone here, so that asking for them copies nothing.
     pixel_ = Pixelbild(reinterpret_cast<std::uint32_t*>(bild.bits()), bild.width(), bild.height(),
                        static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t));
+    schrifthoehe_ = Schrifthoehe();
     maler.begin(&bild);
     BindeAn(maler, {0, 0, bild.width() - 1, bild.height() - 1});
 }
@@ -101,7 +119,7 @@ Rechteck Pixelflaeche::Grenzen() const {
 }
 
 bool Pixelflaeche::BeginneVonVorn() {
-    if (!schnell_ || !zeichenweise_ || Schrifthoehe() > kGroessteSchrift) return false;
+    if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift) return false;
     pixel_.BeginneVonVorn();
     return true;
 }
@@ -110,6 +128,7 @@ void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
     glyphen_.fill({});
     zeichenweise_ = !schrift.kerning() && schrift.hintingPreference() == QFont::PreferFullHinting;
     Malerflaeche::SetzeSchrift(schrift);
+    schrifthoehe_ = Schrifthoehe();
 }
 
 void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
@@ -122,6 +141,13 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     } else {
         MaleLinie(von, nach);
     }
+}
+
+void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
+    if (!schnell_) return Malerflaeche::Linien(stuecke, farbe);
+    const std::uint32_t pixelfarbe = Pixelfarbe(farbe);
+    for (const Linienstueck& s : stuecke)
+        pixel_.Linie(s.von, s.nach, pixelfarbe, s.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll);
 }
 
 /// The painter computes exactly only near its picture.
@@ -246,9 +272,8 @@ void Pixelflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
     if (!Stempele(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
 }
 
-const Pixelglyphe& Pixelflaeche::Zeichen(char c) const {
+const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
     auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
-    if (glyphe) return *glyphe;
     glyphe.emplace();
     const std::string_view text(&c, 1);
     glyphe->vorschub = Malerflaeche::Textbreite(text);
@@ -265,15 +290,22 @@ const Pixelglyphe& Pixelflaeche::Zeichen(char c) const {
 }
 
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
-    if (!schnell_ || !zeichenweise_ || Schrifthoehe() > kGroessteSchrift)
+    if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift)
         return Malerflaeche::Text(ort, text, farbe);
-    Textzeile zeile(pixel_, Pixelfarbe(farbe), ort);
+    Textzeile zeile;
+    for (const char c : text) {
+        if (!zeile.Nimm(Zeichen(c))) return LangerText(ort, text, farbe);
+    }
+    if (zeile.Leer() || pixel_.Verdeckt(zeile.Umfang(ort))) return;
+    zeile.Setze(pixel_, ort, Pixelfarbe(farbe));
+}
+
+void Pixelflaeche::LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     for (const char c : text) {
         const Pixelglyphe& g = Zeichen(c);
-        zeile.Nimm(g.maske);
-        zeile.Rueckeweiter(g.vorschub);
+        pixel_.Maske(g.maske, ort.x, ort.y, Pixelfarbe(farbe));
+        ort.x += g.vorschub;
     }
-    zeile.Setze();
 }
 
 }  // namespace zrw

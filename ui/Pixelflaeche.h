@@ -33,6 +33,7 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return pixel_.Verdeckt(r); }
 
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
+    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override;
     void ZeichneRechteck(const Rechteck& r) override;
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
@@ -60,10 +61,16 @@ class Pixelflaeche : public Malerflaeche {
     bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] Stempel Praege(Form form, std::span<const Flaechenpunkt> ecken) const;
-    [[nodiscard]] const Pixelglyphe& Zeichen(char c) const;
+    void LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
+    [[nodiscard]] const Pixelglyphe& Zeichen(char c) const {
+        const auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
+        return glyphe ? *glyphe : NeuesZeichen(c);
+    }
+    [[nodiscard]] const Pixelglyphe& NeuesZeichen(char c) const;
 
     bool schnell_ = true;
     bool zeichenweise_ = true;  ///< characters of the font stand whole pixels apart, whatever is beside them
+    int schrifthoehe_ = 0;      ///< [px]
     Pixelbild pixel_;
     std::vector<Stempel> stempel_;
     std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
