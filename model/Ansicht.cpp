@@ -1,11 +1,10 @@
 // View arithmetic of the list: fitting, world to picture and back, zooming, panning, moving.
 #include <algorithm>
 #include <cmath>
-#include <memory>
-#include <vector>
 
 #include "model/FigListe.h"
 #include "model/Ganzzahl.h"
+#include "model/Ortstafel.h"
 #include "model/Zeichner.h"
 
 namespace zrw {
@@ -68,23 +67,6 @@ class Versetzer {
     bool anders_ = false;
 };
 
-/// Positions by internal number, all in one place: lines ask for them in any order.
-class Ortstafel {
-  public:
-    void Nimm(PunktIndex nr, Bildpunkt ort) {
-        if (bekannt_[nr]) return;  // the newest of a number counts
-        bekannt_[nr] = true;
-        orte_[nr] = ort;
-    }
-    /// Null where there is no such point.
-    [[nodiscard]] const Bildpunkt* Finde(PunktIndex nr) const { return bekannt_[nr] ? &orte_[nr] : nullptr; }
-
-  private:
-    // Not cleared: what is not known is not read.
-    std::unique_ptr<Bildpunkt[]> orte_ = std::make_unique_for_overwrite<Bildpunkt[]>(kMaxPunkte + 1);
-    std::vector<bool> bekannt_ = std::vector<bool>(kMaxPunkte + 1);
-};
-
 }  // namespace
 
 /// @param weg how far all figures are expected to move [px] @return whether they did, if that is looked at
@@ -103,17 +85,17 @@ bool Liste::RechneBild(Bildpunkt weg) {
     });
     suche_.kanten.FuerAlle([&](std::uint32_t f) {
         const PunktKante& k = kanteArena_[f].knoten;
-        const Bildpunkt* a = orte.Finde(k.ANr);
-        const Bildpunkt* e = orte.Finde(k.ENr);
-        if (a != nullptr) v.Setze(k.Item->XO, k.Item->YO, *a);
-        if (e != nullptr) v.Setze(k.Item->XBiE, k.Item->YBiE, *e);
-        if (a == nullptr || e == nullptr || (ungerade && k.Item->LAttr > LinieAttr::AST)) v.SetzeAnders();
+        const auto a = orte.Finde(k.ANr);
+        const auto e = orte.Finde(k.ENr);
+        if (a) v.Setze(k.Item->XO, k.Item->YO, *a);
+        if (e) v.Setze(k.Item->XBiE, k.Item->YBiE, *e);
+        if (!a || !e || (ungerade && k.Item->LAttr > LinieAttr::AST)) v.SetzeAnders();
     });
     suche_.texte.FuerAlle([&](std::uint32_t f) {
         const PunktString& t = textArena_[f].knoten;
-        const Bildpunkt* p = orte.Finde(t.TNr);
-        if (p != nullptr) v.Setze(t.Item->XO, t.Item->YO, *p);
-        if (p == nullptr) v.SetzeAnders();
+        const auto p = orte.Finde(t.TNr);
+        if (p) v.Setze(t.Item->XO, t.Item->YO, *p);
+        if (!p) v.SetzeAnders();
     });
     suche_.lage = {Faktor, MinXW + XOffset, MaxYW + YOffset, true};
     return v.Glatt();

@@ -100,11 +100,18 @@ class Suchmenge {
     std::vector<std::uint32_t> lose_;
 };
 
+/// Between which points a line runs, whichever is its start.
+struct Punktenden {
+    PunktIndex a = kKeinPunkt;
+    PunktIndex e = kKeinPunkt;
+};
+
 /// The three lists together, with the view that their picture positions were worked out with.
 struct Bildsuche {
     Suchmenge punkte;
     Suchmenge kanten;
     Suchmenge texte;
+    std::vector<Punktenden> enden;  ///< of the lines by `Folge`: quicker to ask than the lines
     Bildlage lage;
     bool gebaut = false;
     Weltkasten alles;  ///< of all points, once built

@@ -136,6 +136,11 @@ void Liste::SammleKanten(const Bildbereich& b, std::vector<PPunktKante>& aus) co
     Suchbereit(b) ? suche_.kanten.Suche(suche_.Welt(b), nimm) : suche_.kanten.FuerAlle(nimm);
 }
 
+void Liste::SammleKanten(const Bildbereich& b, std::vector<std::uint32_t>& aus) const {
+    const auto nimm = [&](std::uint32_t f) { aus.push_back(f); };
+    Suchbereit(b) ? suche_.kanten.Suche(suche_.Welt(b), nimm) : suche_.kanten.FuerAlle(nimm);
+}
+
 void Liste::SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) const {
     const Bildbereich weiter = Erweitert(b, kNah);
     const auto nimm = [&](std::uint32_t f) { aus.push_back(&textArena_[f].knoten); };

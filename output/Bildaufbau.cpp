@@ -1,6 +1,7 @@
 #include "output/Bildaufbau.h"
 
 #include <algorithm>
+#include <array>
 
 #include "model/FigListe.h"
 #include "model/Gezeigt.h"
@@ -9,21 +10,26 @@
 namespace zrw {
 namespace {
 
-/// Calls `tun` for nodes, newest first or oldest first. They lie all over the memory: what comes next is
-/// asked for while the ones before are being drawn.
+/// How many figures ahead memory is asked for. Nodes lie all over it: what comes next is on its way while the
+/// ones before are being drawn.
+constexpr std::size_t kVoraus = 12;
+
+template <class Knoten>
+void Hole(const Knoten* knoten) {
+    constexpr std::size_t kSpeicherzeile = 64;
+    const auto* anfang = reinterpret_cast<const char*>(knoten);
+    __builtin_prefetch(anfang);
+    __builtin_prefetch(anfang + kSpeicherzeile);
+}
+
+/// Calls `tun` for nodes, newest first or oldest first.
 template <class Knoten, class Tun>
 void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) {
-    constexpr std::size_t kVoraus = 12;
-    constexpr std::size_t kSpeicherzeile = 64;
     const std::size_t anzahl = knoten.size();
+    const auto stelle = [&](std::size_t i) { return aeltesteZuerst ? anzahl - 1 - i : i; };
     for (std::size_t i = 0; i < anzahl; ++i) {
-        if (i + kVoraus < anzahl) {
-            const auto* bald = reinterpret_cast<const char*>(
-                knoten[aeltesteZuerst ? anzahl - 1 - i - kVoraus : i + kVoraus]);
-            __builtin_prefetch(bald);
-            __builtin_prefetch(bald + kSpeicherzeile);
-        }
-        tun(*knoten[aeltesteZuerst ? anzahl - 1 - i : i]);
+        if (i + kVoraus < anzahl) Hole(knoten[stelle(i + kVoraus)]);
+        tun(*knoten[stelle(i)]);
     }
 }
 
@@ -62,6 +68,7 @@ void Bildaufbau::Sammle() {
     std::size_t anzahl = 0;
     FuerAlle(punkte_, false, [&](PunktKnoten& p) {
         const Bildpunkt ort = p.Item->Position();
+        orte_.Nimm(p.PNr, ort);
         if (p.Item->Visible && liste_.Dargestellt(*p.Item) && Beruehrt(ort, ort, symbole_))
             punkte_[anzahl++] = &p;
     });
@@ -103,14 +110,43 @@ void Bildaufbau::ZeichnePunkte(bool vonVorn) {
     });
 }
 
-void Bildaufbau::ZeichneKanten(bool vonVorn) {
-    FuerAlle(kanten_, vonVorn, [&](PunktKante& k) {
-        const Bildpunkt a = k.Item->Position();
-        const Bildpunkt e = k.Item->Ende();
-        if (k.Item->Visible && gezeigt_(k) && Beruehrt(a, e, linien_) &&
-            !(vonVorn && Verdeckt(a, e, r_.kante)))
-            k.Item->Show(zeichner_);
-    });
+void Bildaufbau::ZeichneKante(PunktKante& k) {
+    if (k.Item->Visible && gezeigt_(k) && Beruehrt(k.Item->Position(), k.Item->Ende(), linien_))
+        k.Item->Show(zeichner_);
+}
+
+void Bildaufbau::ZeichneKanten() {
+    for (std::size_t i = 0; i < kanten_.size(); ++i) {
+        if (i + kVoraus < kanten_.size()) Hole(&liste_.KanteNach(kanten_[i + kVoraus]));
+        ZeichneKante(liste_.KanteNach(kanten_[i]));
+    }
+}
+
+/// Most lines of a dense picture are covered: that shows from their points, without a look at the lines.
+void Bildaufbau::ZeichneKantenVonVorn() {
+    const bool amPunkt = liste_.Lage().frisch;
+    const auto hinten = [&](PunktIndex nr) { return amPunkt ? orte_.Finde(nr) : std::nullopt; };
+    // In batches, so that the memory of the next ones is under way.
+    std::array<PPunktKante, 4 * kVoraus> naechste;
+    for (std::size_t i = kanten_.size(); i > 0;) {
+        const std::size_t bis = i - std::min(i, naechste.size());
+        for (std::size_t n = bis; n-- > bis - std::min(bis, naechste.size());) {
+            orte_.Hole(liste_.Enden(kanten_[n]).a);
+            orte_.Hole(liste_.Enden(kanten_[n]).e);
+        }
+        std::size_t anzahl = 0;
+        while (i-- > bis) {
+            const Punktenden enden = liste_.Enden(kanten_[i]);
+            const auto a = hinten(enden.a);
+            const auto e = hinten(enden.e);
+            if (a && e && Verdeckt(*a, *e, r_.kante)) continue;
+            naechste[anzahl] = &liste_.KanteNach(kanten_[i]);
+            Hole(naechste[anzahl++]);
+        }
+        i = bis;
+        for (std::size_t n = 0; n < anzahl; ++n)
+            ZeichneKante(*naechste[n]);
+    }
 }
 
 void Bildaufbau::ZeichneTexte(bool vonVorn) {
@@ -135,10 +171,10 @@ void Bildaufbau::Zeichne() {
     if (zeichner_.NurPixel() && Dicht() && flaeche_.BeginneVonVorn()) {
         ZeichneTexte(true);
         ZeichnePunkte(true);
-        ZeichneKanten(true);
+        ZeichneKantenVonVorn();
         flaeche_.BeendeVonVorn();
     } else {
-        ZeichneKanten(false);
+        ZeichneKanten();
         ZeichnePunkte(false);
         ZeichneTexte(false);
     }

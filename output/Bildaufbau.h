@@ -9,6 +9,7 @@
 #include "model/Bildsuche.h"
 #include "model/Gezeigt.h"
 #include "model/Knoten.h"
+#include "model/Ortstafel.h"
 #include "output/Zeichenflaeche.h"
 
 namespace zrw {
@@ -34,7 +35,9 @@ class Bildaufbau {
   private:
     void Sammle();
     [[nodiscard]] bool Dicht() const;
-    void ZeichneKanten(bool vonVorn);
+    void ZeichneKante(PunktKante& k);
+    void ZeichneKanten();
+    void ZeichneKantenVonVorn();
     void ZeichnePunkte(bool vonVorn);
     void ZeichneTexte(bool vonVorn);
     [[nodiscard]] bool Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const;
@@ -46,12 +49,13 @@ class Bildaufbau {
     Figurenzeichner& zeichner_;
     Reichweiten r_;
     Gezeigt gezeigt_;
+    Ortstafel orte_;  ///< of the points that were collected
     // Where positions lie whose figures may show.
     Bildbereich linien_;
     Bildbereich symbole_;
     Bildbereich nummern_;
     // What may have to be drawn, newest first.
-    std::vector<PPunktKante> kanten_;
+    std::vector<std::uint32_t> kanten_;  ///< by `Folge`
     std::vector<PPunktKnoten> punkte_;
     std::vector<PPunktString> texte_;
 };

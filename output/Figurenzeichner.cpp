@@ -213,7 +213,10 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
 
 std::int64_t Figurenzeichner::Kantenreichweite() const {
     const Einstellungen& e = einstellungen_;
-    return std::int64_t{8} + e.PTSize + 3 * e.Querstrich + 2 * e.GPSGroesse + e.Umweggroesse;
+    // Tick beside the marker, height marks before the symbol, detour; rounding moves each by a pixel.
+    constexpr std::int64_t kRunden = 2;
+    return kRunden + std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich,
+                               std::int64_t{e.PTSize} + 3 * e.Querstrich, std::int64_t{e.Umweggroesse}});
 }
 
 /// Whether a line with its marks may touch the surface.
@@ -230,11 +233,24 @@ bool Figurenzeichner::Beruehrt(const Kante& kante) const {
 /// All strokes of a line, cut to what the surface can take.
 void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe) {
     const Rechteck grenzen = zustand_.flaeche->Grenzen();
+    // Strokes beside the middle of a surface that takes nearly everything need no closer look.
+    constexpr std::int32_t kNah = 1 << 29;
+    const bool weit =
+        grenzen.links <= -kNah && grenzen.oben <= -kNah && grenzen.rechts >= kNah && grenzen.unten >= kNah;
+    const auto nah = [](Bildpunkt p) {
+        return ((static_cast<std::uint64_t>(p.x) + kNah) | (static_cast<std::uint64_t>(p.y) + kNah)) <
+               std::uint64_t{2} * kNah;
+    };
     std::size_t anzahl = 0;
     for (const Zug& zug : zuege) {
         for (const Strich& s : Striche(zug.form)) {
-            if (const auto teil = Abschneiden(zug.punkte[s.von], zug.punkte[s.nach], grenzen))
+            const Bildpunkt von = zug.punkte[s.von];
+            const Bildpunkt nach = zug.punkte[s.nach];
+            if (weit && nah(von) && nah(nach)) {
+                stuecke_[anzahl++] = {Aufflaeche(von), Aufflaeche(nach), s.gestrichelt};
+            } else if (const auto teil = Abschneiden(von, nach, grenzen)) {
                 stuecke_[anzahl++] = {teil->first, teil->second, s.gestrichelt};
+            }
         }
     }
     zustand_.flaeche->Linien({stuecke_.data(), anzahl}, farbe);

@@ -54,17 +54,17 @@ struct Kantenbild::Lage {
     std::int64_t gy = 0;
     double umweg = 0.0;  ///< height of the detour of indirect lines
 
-    Lage(Bildpunkt anfang, Bildpunkt ende, const Einstellungen& groessen, bool nurStrecke, bool gps,
-         bool genau)
+    Lage(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende, const Einstellungen& groessen)
         : s(anfang), e(ende) {
         const std::int64_t dx = Differenz(e.x, s.x);
         const std::int64_t dy = Differenz(e.y, s.y);
         m = {Summe(s.x, dx / 2), Summe(s.y, dy / 2)};
-        if (nurStrecke) return;
-        laenge = Laenge(dx, dy, genau);
+        const bool indirekt = lAttr > LinieAttr::AST;
+        if (!indirekt && kAttr == KanteAttr()) return;  // strokes from end to end need nothing more
+        laenge = Laenge(dx, dy, indirekt);
         ux = static_cast<double>(dx) / laenge;
         uy = static_cast<double>(dy) / laenge;
-        if (gps) {
+        if (kAttr.Hat(KanteAttr::GPS)) {
             gx = RundeZuInt64(groessen.GPSGroesse * ux);
             gy = RundeZuInt64(groessen.GPSGroesse * uy);
         }
@@ -82,10 +82,8 @@ struct Kantenbild::Lage {
 Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende,
                        const Einstellungen& groessen) {
     if (anfang == ende) return;
-    const bool indirekt = lAttr > LinieAttr::AST;
     const bool gps = kAttr.Hat(KanteAttr::GPS);
-    const bool nurStrecke = !indirekt && kAttr == KanteAttr();
-    const Lage l(anfang, ende, groessen, nurStrecke, gps, indirekt);
+    const Lage l(kAttr, lAttr, anfang, ende, groessen);
     Linie(lAttr, gps && l.laenge > 2.0 * groessen.GPSGroesse, l);
     if (gps) {
         const Bildpunkt vorn{Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)};
@@ -174,9 +172,10 @@ void Kantenbild::Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einste
 }
 
 void Kantenbild::Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte) {
-    Zug& zug = *std::construct_at(&zuege_[anzahl_++]);
-    zug.form = form;
-    std::copy(punkte.begin(), punkte.end(), zug.punkte.begin());
+    Bildpunkt* ziel = punkte_.data() + punktzahl_;
+    std::uninitialized_copy(punkte.begin(), punkte.end(), ziel);
+    std::construct_at(&zuege_[anzahl_++], Zug{form, {ziel, punkte.size()}});
+    punktzahl_ += punkte.size();
 }
 
 }  // namespace zrw

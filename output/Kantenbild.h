@@ -51,8 +51,11 @@ struct Strich {
 
 struct Zug {
     Zugform form = Zugform::Strecke;
-    std::array<Bildpunkt, 7> punkte{};
+    std::span<const Bildpunkt> punkte;  ///< as many as the form has
 };
+
+/// Most points of a form.
+inline constexpr std::size_t kMeistePunkte = 7;
 
 /// Most strokes of a line: a detour of two forms, marker, tick and height marks.
 inline constexpr std::size_t kMeisteStriche = 24;
@@ -77,11 +80,16 @@ class Kantenbild {
     void Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einstellungen& groessen);
     void Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte);
 
-    // Most: two for an indirect line, marker, tick and three height marks. A union, so that only those in use
-    // are set up: clearing all of them would take longer than the line.
+    // Most: two for an indirect line, marker, tick and three height marks. In unions, so that only those in
+    // use are set up: clearing all of them would take longer than the line.
+    static constexpr std::size_t kMeisteZuege = 8;
     union {
-        std::array<Zug, 8> zuege_;
+        std::array<Zug, kMeisteZuege> zuege_;
     };
+    union {
+        std::array<Bildpunkt, kMeisteZuege * kMeistePunkte> punkte_;
+    };
+    std::size_t punktzahl_ = 0;
     std::size_t anzahl_ = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "output/Plotdatei.h"
 
+#include <algorithm>
+
 #include "model/Ganzzahl.h"
 
 namespace zrw {
@@ -62,7 +64,9 @@ void Plotdatei::Zeile(std::string_view vorlage, std::span<const std::int64_t> za
 }
 
 void Plotdatei::Linienzug(const Zug& zug) {
-    Zeile(kLinien[static_cast<std::size_t>(zug.form)], Paare(zug.punkte));
+    std::array<Bildpunkt, kMeistePunkte> punkte{};
+    std::copy(zug.punkte.begin(), zug.punkte.end(), punkte.begin());
+    Zeile(kLinien[static_cast<std::size_t>(zug.form)], Paare(punkte));
 }
 
 void Plotdatei::Punkt(Bildpunkt ort) {

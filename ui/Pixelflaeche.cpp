@@ -70,6 +70,11 @@ class Textzeile {
             const auto x = static_cast<std::size_t>(glyphen_[n].links - links_);
             const auto bit = static_cast<unsigned>(x % 64);
             std::size_t ziel = static_cast<std::size_t>(m.oben - oben_) * worte + x / 64;
+            if (worte == 1) {
+                for (std::size_t i = 0; i < m.worte.size(); ++i)
+                    bits[ziel + i] |= m.worte[i] << bit;
+                continue;
+            }
             for (const std::uint64_t zeile : m.worte) {
                 bits[ziel] |= zeile << bit;
                 if (bit != 0 && x / 64 + 1 < worte) bits[ziel + 1] |= zeile >> (64U - bit);
