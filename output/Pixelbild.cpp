@@ -51,7 +51,7 @@ void Pixelbild::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t fa
     const std::int64_t anfang = laengs(von);
     const std::int64_t ende = laengs(nach);
     const auto laenge = static_cast<std::int32_t>(ende - anfang);
-    // Not steeper than the diagonal, so both stay within 32 bits.
+    // Not steeper than the diagonal and at most `kLang`, so that 32 bits suffice.
     const std::int64_t schritt = laenge > 0 ? (quer(nach) - quer(von)) * 65536 / laenge : 0;
     std::int64_t v = std::int64_t{quer(von)} * 65536 + (schritt > 0 ? schritt - (schritt >> 1) : 0);
     std::int64_t m = anfang;
@@ -104,7 +104,7 @@ void Pixelbild::LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32
     }
 }
 
-void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, Strichart art) {
+inline void Pixelbild::Strecke(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) {
     const Rechteck& s = ausschnitt_;
     if (std::max(von.x, nach.x) < s.links || std::max(von.y, nach.y) < s.oben ||
         std::min(von.x, nach.x) > s.rechts || std::min(von.y, nach.y) > s.unten)
@@ -112,17 +112,25 @@ void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe
     const std::int64_t breit = std::llabs(std::int64_t{von.x} - nach.x);
     const std::int64_t hoch = std::llabs(std::int64_t{von.y} - nach.y);
     const bool senkrecht = breit < hoch;
-    const bool dash = art == Strichart::Gestrichelt;
-    if (In(s, von) && In(s, nach)) {
-        senkrecht ? Schritte<true, true>(von, nach, farbe, dash)
-                  : Schritte<false, true>(von, nach, farbe, dash);
-    } else if (std::max(breit, hoch) <= kLang) {
-        senkrecht ? Schritte<true, false>(von, nach, farbe, dash)
-                  : Schritte<false, false>(von, nach, farbe, dash);
+    if (std::max(breit, hoch) > kLang) {
+        senkrecht ? LangeSchritte<true>(von, nach, farbe, gestrichelt)
+                  : LangeSchritte<false>(von, nach, farbe, gestrichelt);
+    } else if (In(s, von) && In(s, nach)) {
+        senkrecht ? Schritte<true, true>(von, nach, farbe, gestrichelt)
+                  : Schritte<false, true>(von, nach, farbe, gestrichelt);
     } else {
-        senkrecht ? LangeSchritte<true>(von, nach, farbe, dash)
-                  : LangeSchritte<false>(von, nach, farbe, dash);
+        senkrecht ? Schritte<true, false>(von, nach, farbe, gestrichelt)
+                  : Schritte<false, false>(von, nach, farbe, gestrichelt);
     }
+}
+
+void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, Strichart art) {
+    Strecke(von, nach, farbe, art == Strichart::Gestrichelt);
+}
+
+void Pixelbild::Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe) {
+    for (const Linienstueck& s : stuecke)
+        Strecke(s.von, s.nach, farbe, s.gestrichelt);
 }
 
 /// Pixels of one row from `x` on, bit by bit; `x` may lie left of the picture.

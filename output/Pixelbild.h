@@ -58,12 +58,14 @@ class Pixelbild {
     /// smaller end, 16.16 fixed point, rounded down. Dashes (4 on, 2 off) count from `von`. Lines too long
     /// for that are stepped with exact remainders. Ends lie within 2^30.
     void Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, Strichart art);
+    void Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe);
     void Maske(const Pixelmaske& maske, std::int32_t x, std::int32_t y, std::uint32_t farbe);
     /// Rows of `jeZeile` words each, the first bit of the first row at (x, y).
     void Block(std::span<const std::uint64_t> worte, std::size_t jeZeile, std::int64_t x, std::int64_t y,
                std::uint32_t farbe);
 
   private:
+    void Strecke(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt);
     template <bool Senkrecht, bool Innen>
     void Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt);
     template <bool Senkrecht>

@@ -150,9 +150,7 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 
 void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
     if (!schnell_) return Malerflaeche::Linien(stuecke, farbe);
-    const std::uint32_t pixelfarbe = Pixelfarbe(farbe);
-    for (const Linienstueck& s : stuecke)
-        pixel_.Linie(s.von, s.nach, pixelfarbe, s.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll);
+    pixel_.Linien(stuecke, Pixelfarbe(farbe));
 }
 
 /// The painter computes exactly only near its picture.
