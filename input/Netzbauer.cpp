@@ -12,7 +12,6 @@ namespace {
 
 /// Five times the largest network in use. Lines cost memory, and a damaged file may ask for billions.
 constexpr std::size_t kMaxKanten = 1'000'000;
-static_assert(kMaxKanten < Kantentafel::kMeiste && kMaxPunkte <= Markentafel<16>::kMeiste);
 
 /// The common length on a way of its own: copying a known number of bytes takes no call.
 PunktNummernTyp Nummer(std::string_view text) {
@@ -23,7 +22,7 @@ PunktNummernTyp Nummer(std::string_view text) {
 }  // namespace
 
 void Netzbauer::Erwarte(std::size_t punkte, std::size_t kanten) {
-    liste_.Erwarte(punkte, kanten);
+    liste_.Erwarte(punkte, 0);
     nummern_.Erwarte(punkte);
     kanten_.Erwarte(kanten);
 }
@@ -133,6 +132,7 @@ void Netzbauer::Fasse(const Wartende& w) {
 void Netzbauer::Vollende() {
     TragePunkte();
     Trage();
+    liste_.Erwarte(0, kanten_.Alle().size());
     for (const Kantenstand& k : kanten_.Alle())
         liste_.AddKante(Kante::Create(k.farbe, k.kAttr, k.lAttr), k.anfang, k.ende);
     liste_.MaxKant = static_cast<std::int32_t>(kanten_.Alle().size());

@@ -6,80 +6,15 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <span>
 #include <vector>
 
 #include "model/Figuren.h"
+#include "model/GrosserSpeicher.h"
+#include "model/Markentafel.h"
 #include "model/Werte.h"
 
 namespace zrw {
-
-/// Begins to fetch memory that will be read soon.
-inline void HoleVor([[maybe_unused]] const void* platz) {
-#ifdef __GNUC__
-    __builtin_prefetch(platz);
-#endif
-}
-
-/// A secret of its own for every reading: a file cannot be made so that all its keys meet in one place.
-[[nodiscard]] inline std::uint64_t Lesesaat() {
-    std::random_device zufall;
-    return std::uint64_t{zufall()} << 32U | zufall();
-}
-
-/// Open addressing to things that are counted from 1 and stand in a row elsewhere. Beside the number of the
-/// thing its place holds only some bits of the key: the table stays small, and a search seldom has to look at
-/// another thing than the one it wants.
-template <unsigned kNummernbits>
-class Markentafel {
-  public:
-    static constexpr std::uint32_t kKeins = 0;
-    static constexpr std::uint32_t kMeiste = (1U << kNummernbits) - 1;
-
-    /// Room for `anzahl` things where there is none. @param streuwert of the thing with a number, for those
-    /// that are in the table
-    template <class Streuwert>
-    void Erwarte(std::size_t anzahl, std::size_t vorhanden, Streuwert streuwert) {
-        if (anzahl * 2 <= faecher_.size()) return;
-        std::size_t groesse = std::max<std::size_t>(faecher_.size(), 64);
-        while (groesse < anzahl * 2)
-            groesse *= 2;
-        faecher_.assign(groesse, kKeins);
-        for (std::uint32_t nr = 1; nr <= vorhanden; ++nr)
-            Trage(streuwert(nr), nr);
-    }
-    /// Announces a search.
-    void Kuendige(std::uint64_t streuwert) const { HoleVor(&faecher_[streuwert & Rest()]); }
-    /// What a search will probably look at, where the memory of the announcement has come meanwhile.
-    [[nodiscard]] std::uint32_t Erstes(std::uint64_t streuwert) const {
-        return faecher_[streuwert & Rest()] & kMeiste;
-    }
-    /// The number of the thing, `kKeins` if it is not there. @param gleich whether it is the one with a
-    /// number
-    template <class Gleich>
-    [[nodiscard]] std::uint32_t Finde(std::uint64_t streuwert, Gleich gleich) const {
-        for (std::size_t i = streuwert & Rest();; i = (i + 1) & Rest()) {
-            const std::uint32_t fach = faecher_[i];
-            if (fach == kKeins) return kKeins;
-            if ((fach ^ Marke(streuwert)) <= kMeiste && gleich(fach & kMeiste)) return fach & kMeiste;
-        }
-    }
-    /// Enters what is not yet there, with room for it.
-    void Trage(std::uint64_t streuwert, std::uint32_t nr) {
-        std::size_t i = streuwert & Rest();
-        while (faecher_[i] != kKeins)
-            i = (i + 1) & Rest();
-        faecher_[i] = Marke(streuwert) | nr;
-    }
-
-  private:
-    [[nodiscard]] std::size_t Rest() const { return faecher_.size() - 1; }
-    [[nodiscard]] static std::uint32_t Marke(std::uint64_t streuwert) {
-        return static_cast<std::uint32_t>(streuwert >> 32U) & ~kMeiste;
-    }
-    std::vector<std::uint32_t> faecher_;
-};
 
 /// The numbers of the points 1, 2, 3 ... in the order of their entering.
 class Nummerntafel {
@@ -88,7 +23,7 @@ class Nummerntafel {
 
     /// Makes room for so many points.
     void Erwarte(std::size_t punkte) {
-        tafel_.Erwarte(punkte, nummern_.size() - 1,
+        tafel_.Erwarte(punkte, static_cast<std::uint32_t>(punkte),
                        [this](std::uint32_t nr) { return nummern_[nr].nummer.Streuwert(saat_); });
         if (nummern_.capacity() <= punkte) nummern_.reserve(std::max(punkte + 1, 2 * nummern_.size()));
     }
@@ -117,9 +52,9 @@ class Nummerntafel {
     struct alignas(16) Eintrag {  // none lies across two lines of the cache
         PunktNummernTyp nummer;
     };
-    std::uint64_t saat_ = Lesesaat();
-    Markentafel<16> tafel_;
-    std::vector<Eintrag> nummern_ = std::vector<Eintrag>(1);  // there is no point 0
+    std::uint64_t saat_ = NeueSaat();
+    Markentafel tafel_;
+    std::vector<Eintrag, Grossverteiler<Eintrag>> nummern_{Eintrag{}};  // there is no point 0
 };
 
 /// A line while its observations come together.
@@ -134,14 +69,11 @@ struct Kantenstand {
 /// The lines in the order of their first observation, found by their points, whichever is named first.
 class Kantentafel {
   public:
-    static constexpr std::uint32_t kKeine = Markentafel<20>::kKeins;
-    static constexpr std::size_t kMeiste = Markentafel<20>::kMeiste;
-
     Kantentafel() { Erwarte(64); }
 
     /// Makes room for so many lines.
     void Erwarte(std::size_t kanten) {
-        tafel_.Erwarte(kanten, kanten_.size() - 1,
+        tafel_.Erwarte(kanten, static_cast<std::uint32_t>(kanten),
                        [this](std::uint32_t nr) { return Streuwert(kanten_[nr].anfang, kanten_[nr].ende); });
         if (kanten_.capacity() <= kanten) kanten_.reserve(std::max(kanten + 1, 2 * kanten_.size()));
     }
@@ -156,14 +88,14 @@ class Kantentafel {
     /// The line between the two points of `neu`, in either orientation; where there is none, `neu` enters.
     /// @return null then
     [[nodiscard]] Kantenstand* FindeOderNimm(std::uint64_t streuwert, const Kantenstand& neu) {
-        const std::uint32_t nr = tafel_.Finde(streuwert, [&](std::uint32_t i) {
+        Erwarte(kanten_.size());
+        const auto naechste = static_cast<std::uint32_t>(kanten_.size());
+        const std::uint32_t nr = tafel_.Setze(streuwert, naechste, false, [&](std::uint32_t i) {
             const Kantenstand& k = kanten_[i];
             return (k.anfang == neu.anfang && k.ende == neu.ende) ||
                    (k.anfang == neu.ende && k.ende == neu.anfang);
         });
-        if (nr != kKeine) return &kanten_[nr];
-        Erwarte(kanten_.size());
-        tafel_.Trage(streuwert, static_cast<std::uint32_t>(kanten_.size()));
+        if (nr != Markentafel::kKeins) return &kanten_[nr];
         kanten_.push_back(neu);
         return nullptr;
     }
@@ -173,9 +105,9 @@ class Kantentafel {
     [[nodiscard]] std::uint64_t Streuwert(PunktIndex a, PunktIndex b) const {
         return Mische((std::uint64_t{std::min(a, b)} << 16U | std::max(a, b)) ^ saat_);
     }
-    std::uint64_t saat_ = Lesesaat();
-    Markentafel<20> tafel_;
-    std::vector<Kantenstand> kanten_ = std::vector<Kantenstand>(1);  // counted from 1, too
+    std::uint64_t saat_ = NeueSaat();
+    Markentafel tafel_;
+    std::vector<Kantenstand, Grossverteiler<Kantenstand>> kanten_{Kantenstand{}};  // counted from 1, too
 };
 
 }  // namespace zrw

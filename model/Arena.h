@@ -2,11 +2,15 @@
 // end.
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <memory>
 #include <type_traits>
 #include <utility>
 #include <vector>
+
+#include "model/GrosserSpeicher.h"
 
 namespace zrw {
 
@@ -17,7 +21,7 @@ class Arena {
   public:
     template <class... Args>
     [[nodiscard]] T* Neu(Args&&... args) {
-        if (frei_ == 0) NeuerBlock();
+        if (frei_ == 0) NeuerBlock(Blocklaenge());
         T* platz = std::construct_at(naechster_, std::forward<Args>(args)...);
         ++naechster_;
         --frei_;
@@ -27,26 +31,47 @@ class Arena {
     [[nodiscard]] std::size_t Anzahl() const { return anzahl_; }
     /// In the order of making.
     [[nodiscard]] T& operator[](std::size_t i) const {
-        if (i < kErster) return bloecke_.front().get()[i];
-        return bloecke_[(i - kErster) / kWeiterer + 1].get()[(i - kErster) % kWeiterer];
+        const Block& block = bloecke_[static_cast<std::size_t>(std::bit_width(i >> erste_))];
+        return block.speicher.get()[i - block.anfang];
+    }
+    /// Makes room for about so many in one piece, where there is nothing yet.
+    void Erwarte(std::size_t anzahl) {
+        if (!bloecke_.empty() || anzahl == 0) return;
+        erste_ = std::max(erste_, static_cast<unsigned>(std::bit_width(anzahl - 1)));
+        NeuerBlock(anzahl);
     }
 
   private:
-    // Small networks stay small, large ones need few blocks.
-    static constexpr std::size_t kErster = 64;
-    static constexpr std::size_t kWeiterer = 4096;
-
-    void NeuerBlock() {
-        const std::size_t anzahl = bloecke_.empty() ? kErster : kWeiterer;
-        bloecke_.push_back({std::allocator<T>().allocate(anzahl), Freigabe{anzahl}});
-        naechster_ = bloecke_.back().get();
-        frei_ = anzahl;
-    }
     struct Freigabe {
-        std::size_t anzahl;
-        void operator()(T* p) const { std::allocator<T>().deallocate(p, anzahl); }
+        std::size_t bytes;
+        void operator()(T* p) const { GibSpeicher(p, bytes); }
     };
-    std::vector<std::unique_ptr<T, Freigabe>> bloecke_;
+    struct Block {
+        std::unique_ptr<T, Freigabe> speicher;
+        std::size_t anfang;  ///< number of its first element
+    };
+
+    // The second block is as long as the first, each later one as long as all before it: small networks stay
+    // small, large ones need few blocks, and the highest bit of a number tells the block.
+    [[nodiscard]] std::size_t Blockanfang() const {
+        return bloecke_.empty() ? 0 : std::size_t{1} << (erste_ + bloecke_.size() - 1);
+    }
+    [[nodiscard]] std::size_t Blocklaenge() const {
+        return std::max(Blockanfang(), std::size_t{1} << erste_);
+    }
+    /// @param erwartet how many of its elements will come for all one knows
+    void NeuerBlock(std::size_t erwartet) {
+        const std::size_t laenge = Blocklaenge();
+        const std::size_t bytes = laenge * sizeof(T);
+        auto* speicher = static_cast<T*>(NimmSpeicher(bytes, erwartet * sizeof(T)));
+        std::unique_ptr<T, Freigabe> besitz(speicher, Freigabe{bytes});
+        bloecke_.push_back({std::move(besitz), Blockanfang()});
+        naechster_ = speicher;
+        frei_ = laenge;
+    }
+
+    std::vector<Block> bloecke_;
+    unsigned erste_ = 6;  ///< length of the first block, as a power of two
     T* naechster_ = nullptr;
     std::size_t frei_ = 0;
     std::size_t anzahl_ = 0;

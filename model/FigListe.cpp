@@ -56,6 +56,14 @@ void Liste::PktTextDone(Zeichner& z) {
 
 // --- Adding -----------------------------------------------------------------------------------------------
 
+void Liste::Erwarte(std::size_t punkte, std::size_t kanten) {
+    punktArena_.Erwarte(punkte);
+    textArena_.Erwarte(punkte);
+    kanteArena_.Erwarte(kanten);
+    index_.Erwarte(punkte);
+    suche_.enden.reserve(kanten);
+}
+
 PunktKnoten& Liste::AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr) {
     PunktPlatz* platz = punktArena_.Neu(PunktPlatz{{}, item});
     platz->knoten = {ort.rechts, ort.hoch, iNr, Auf32(punktArena_.Anzahl() - 1), &platz->figur, PunktKnoten};
@@ -77,6 +85,7 @@ PunktKante& Liste::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr)
     KanteKnoten = &k;
     index_.Auf(k);
     suche_.kanten.Auf(k.Folge, suche_.gebaut);
+    suche_.enden.push_back({iANr, iENr});
     suche_.lage.frisch = false;
     return k;
 }

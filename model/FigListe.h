@@ -72,7 +72,7 @@ class Liste {
     virtual void PktTextDone(Zeichner& z);
 
     /// Announces about so many points and lines to come; saves time, changes nothing else.
-    void Erwarte(std::size_t punkte, std::size_t kanten) { index_.Erwarte(punkte, kanten); }
+    void Erwarte(std::size_t punkte, std::size_t kanten);
     /// Put a copy of the figure at the head of its list. Counts and duplicates are the caller's business.
     virtual zrw::PunktKnoten& AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr);
     virtual PunktKante& AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr);
@@ -163,7 +163,7 @@ class Liste {
     /// Calls `tun(PunktKante&)` for every line at a point, newest first.
     template <class Tun>
     void FuerKantenAm(PunktIndex nr, Tun tun) {
-        for (PPunktKante k = index_.ErsteKante(nr); k != nullptr; k = Figurenindex::NaechsteKante(*k, nr))
+        for (PPunktKante k = index_.ErsteKante(nr); k != nullptr; k = index_.NaechsteKante(*k, nr))
             tun(*k);
     }
     /// The point with its lines and its label.
@@ -189,6 +189,10 @@ class Liste {
     void SammlePunkte(const Bildbereich& b, std::vector<PPunktKnoten>& aus) const;
     /// Lines that may run through it.
     void SammleKanten(const Bildbereich& b, std::vector<PPunktKante>& aus) const;
+    /// The same by `Folge`.
+    void SammleKanten(const Bildbereich& b, std::vector<std::uint32_t>& aus) const;
+    [[nodiscard]] PunktKante& KanteNach(std::uint32_t folge) const { return kanteArena_[folge].knoten; }
+    [[nodiscard]] Punktenden Enden(std::uint32_t folge) const { return suche_.enden[folge]; }
     /// Labels whose corner or whose point may lie in it.
     void SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) const;
 
@@ -226,19 +230,6 @@ class Liste {
     [[nodiscard]] const Einstellungen& Anzeige() const { return einstellungen_; }
 
   private:
-    struct PunktPlatz {
-        zrw::PunktKnoten knoten;
-        Punkt figur;
-    };
-    struct KantePlatz {
-        PunktKante knoten;
-        Kante figur;
-    };
-    struct TextPlatz {
-        PunktString knoten;
-        PktText figur;
-    };
-
     void ZeichneFiguren(Zeichner& z);
     template <bool Prueft>
     bool RechneBild(Bildpunkt weg);
@@ -250,7 +241,7 @@ class Liste {
     Arena<PunktPlatz> punktArena_;
     Arena<KantePlatz> kanteArena_;
     Arena<TextPlatz> textArena_;
-    Figurenindex index_;
+    Figurenindex index_{kanteArena_, textArena_};
     mutable Bildsuche suche_;  ///< built when somebody first asks
 };
 

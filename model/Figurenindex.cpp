@@ -1,29 +1,20 @@
 #include "model/Figurenindex.h"
 
 #include <algorithm>
-#include <random>
 #include <utility>
-
-#include "model/Knoten.h"
 
 namespace zrw {
 namespace {
 
-template <class Knoten>
-Knoten* Hole(const std::vector<Knoten*>& tafel, PunktIndex nr) {
-    return nr < tafel.size() ? tafel[nr] : nullptr;
+template <class Wert>
+Wert Hole(const std::vector<Wert>& tafel, PunktIndex nr) {
+    return nr < tafel.size() ? tafel[nr] : Wert{};
 }
 
-template <class Knoten>
-void Lege(std::vector<Knoten*>& tafel, PunktIndex nr, Knoten* knoten) {
-    if (nr >= tafel.size()) tafel.resize(std::size_t{nr} + 1, nullptr);
-    tafel[nr] = knoten;
-}
-
-/// A secret of its own for every list: a file cannot be made so that all its keys meet in one place.
-std::uint64_t NeueSaat() {
-    std::random_device zufall;
-    return std::uint64_t{zufall()} << 32U | zufall();
+template <class Wert>
+void Lege(std::vector<Wert>& tafel, PunktIndex nr, Wert wert) {
+    if (nr >= tafel.size()) tafel.resize(std::size_t{nr} + 1, Wert{});
+    tafel[nr] = wert;
 }
 
 /// The first node of a list that fits, one of which does; `einziger` where it is known to be the only one.
@@ -36,46 +27,26 @@ Knoten* Erster(Knoten& kopf, Bedingung passt, Knoten* einziger) {
     return k;
 }
 
-bool GleichesPaar(const PunktKante& x, const PunktKante& y) {
-    return (x.ANr == y.ANr && x.ENr == y.ENr) || (x.ANr == y.ENr && x.ENr == y.ANr);
+bool GleichesPaar(const PunktKante& k, PunktIndex a, PunktIndex e) {
+    return (k.ANr == a && k.ENr == e) || (k.ANr == e && k.ENr == a);
+}
+
+/// The same for two points, whichever is named first.
+std::uint64_t Streuwert(PunktIndex a, PunktIndex e, std::uint64_t saat) {
+    return Mische((std::uint64_t{std::min(a, e)} << 16U | std::max(a, e)) ^ saat);
 }
 
 }  // namespace
 
-Figurenindex::Figurenindex() : nachNummer_(NeueSaat()), nachPaar_(NeueSaat()) {}
+void Figurenindex::Erwarte(std::size_t punkte) {
+    punkte_.reserve(punkte + 1);
+    texte_.reserve(punkte + 1);
+}
+
+// --- Points -----------------------------------------------------------------------------------------------
 
 void Figurenindex::Auf(PunktKnoten& p) {
     Lege(punkte_, p.PNr, &p);
-}
-
-void Figurenindex::Auf(PunktString& t) {
-    if (FindeText(t.TNr) == nullptr) ++textnummern_;
-    Lege(texte_, t.TNr, &t);
-    ++textanzahl_;
-    nachNummer_.Setze(t.Item->Aus, {&t, t.TNr});
-}
-
-void Figurenindex::Auf(PunktKante& k) {
-    neuesteKante_ = &k;
-    if (verkettet_) KetteAn(k);
-    nachPaar_.Setze({k.ANr, k.ENr}, &k);
-}
-
-void Figurenindex::Verkette() {
-    std::vector<PunktKante*> alle;
-    for (PunktKante* k = neuesteKante_; k != nullptr; k = k->Next)
-        alle.push_back(k);
-    std::for_each(alle.rbegin(), alle.rend(), [this](PunktKante* k) { KetteAn(*k); });
-    verkettet_ = true;
-}
-
-void Figurenindex::KetteAn(PunktKante& k) {
-    k.naechsteAmStart_ = Hole(kantenAm_, k.ANr);
-    Lege(kantenAm_, k.ANr, &k);
-    if (k.ENr != k.ANr) {
-        k.naechsteAmEnde_ = Hole(kantenAm_, k.ENr);
-        Lege(kantenAm_, k.ENr, &k);
-    }
 }
 
 void Figurenindex::Ab(PunktKnoten& p) {
@@ -86,54 +57,6 @@ void Figurenindex::Ab(PunktKnoten& p) {
     punkte_[p.PNr] = ersatz;
 }
 
-void Figurenindex::Ab(PunktString& t) {
-    --textanzahl_;
-    if (FindeText(t.TNr) == &t) {
-        PunktString* ersatz = t.Next;
-        while (ersatz != nullptr && ersatz->TNr != t.TNr)
-            ersatz = ersatz->Next;
-        texte_[t.TNr] = ersatz;
-        if (ersatz == nullptr) --textnummern_;
-    }
-    const PunktNummernTyp& nummer = t.Item->Aus;
-    if (FindeText(nummer) != &t) return;
-    PunktString* ersatz = t.Next;
-    while (ersatz != nullptr && !(ersatz->Item->Aus == nummer))
-        ersatz = ersatz->Next;
-    if (ersatz != nullptr) {
-        nachNummer_.Setze(nummer, {ersatz, ersatz->TNr});
-    } else {
-        nachNummer_.Entferne(nummer);
-    }
-}
-
-void Figurenindex::Ab(PunktKante& k) {
-    if (neuesteKante_ == &k) neuesteKante_ = k.Next;
-    for (const PunktIndex nr : {k.ANr, k.ENr}) {
-        PunktKante** zeiger = nr < kantenAm_.size() ? &kantenAm_[nr] : nullptr;
-        while (zeiger != nullptr && *zeiger != nullptr && *zeiger != &k) {
-            zeiger = (*zeiger)->ANr == nr ? &(*zeiger)->naechsteAmStart_ : &(*zeiger)->naechsteAmEnde_;
-        }
-        if (zeiger != nullptr && *zeiger == &k) *zeiger = NaechsteKante(k, nr);
-    }
-    if (FindeKante(k.ANr, k.ENr) != &k) return;
-    // Both points list the lines of the pair in the same order. Searching from both ends in step takes as
-    // long as the point with fewer lines takes; the other one may be a station with tens of thousands.
-    PunktKante* vonA = ErsteKante(k.ANr);
-    PunktKante* vonE = ErsteKante(k.ENr);
-    while (vonA != nullptr && vonE != nullptr && !GleichesPaar(*vonA, k) && !GleichesPaar(*vonE, k)) {
-        vonA = NaechsteKante(*vonA, k.ANr);
-        vonE = NaechsteKante(*vonE, k.ENr);
-    }
-    PunktKante* ersatz = nullptr;
-    if (vonA != nullptr && vonE != nullptr) ersatz = GleichesPaar(*vonA, k) ? vonA : vonE;
-    if (ersatz != nullptr) {
-        nachPaar_.Setze({k.ANr, k.ENr}, ersatz);
-    } else {
-        nachPaar_.Entferne({k.ANr, k.ENr});
-    }
-}
-
 void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
     // A point of the same number nearer the head keeps answering.
     Lege(punkte_, p.PNr,
@@ -142,18 +65,126 @@ void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
              FindePunkt(p.PNr) == nullptr ? &p : nullptr));
 }
 
+void Figurenindex::LeerePunkte() {
+    punkte_.clear();
+}
+
+// --- Labels -----------------------------------------------------------------------------------------------
+
+void Figurenindex::Auf(PunktString& t) {
+    if (FindeText(t.TNr) == nullptr) ++textnummern_;
+    Lege(texte_, t.TNr, &t);
+    ++textanzahl_;
+    neuesterText_ = &t;
+    if (texteBekannt_) Nimm(t, true);
+}
+
+void Figurenindex::Ab(PunktString& t) {
+    --textanzahl_;
+    if (neuesterText_ == &t) neuesterText_ = t.Next;
+    if (FindeText(t.TNr) == &t) {
+        PunktString* ersatz = t.Next;
+        while (ersatz != nullptr && ersatz->TNr != t.TNr)
+            ersatz = ersatz->Next;
+        texte_[t.TNr] = ersatz;
+        if (ersatz == nullptr) --textnummern_;
+    }
+    const PunktNummernTyp& nummer = t.Item->Aus;
+    if (!texteBekannt_ || FindeText(nummer) != &t) return;
+    const PunktString* ersatz = t.Next;
+    while (ersatz != nullptr && !(ersatz->Item->Aus == nummer))
+        ersatz = ersatz->Next;
+    if (ersatz != nullptr) {
+        Nimm(*ersatz, true);
+    } else {
+        nachNummer_.Entferne(Nummer(t.Folge), [this](std::uint32_t nr) { return Textstreuwert(nr); });
+    }
+}
+
 void Figurenindex::Zurueck(PunktString& t, PunktString& kopf) {
     ++textanzahl_;
+    neuesterText_ = &kopf;
     if (FindeText(t.TNr) == nullptr) ++textnummern_;
     Lege(texte_, t.TNr,
          Erster(
              kopf, [&](const PunktString& k) { return k.TNr == t.TNr; },
              FindeText(t.TNr) == nullptr ? &t : nullptr));
+    if (!texteBekannt_) return;
     const PunktNummernTyp& nummer = t.Item->Aus;
-    PunktString* erster = Erster(
-        kopf, [&](const PunktString& k) { return k.Item->Aus == nummer; },
-        FindeText(nummer) == nullptr ? &t : nullptr);
-    nachNummer_.Setze(nummer, {erster, erster->TNr});
+    Nimm(*Erster(
+             kopf, [&](const PunktString& k) { return k.Item->Aus == nummer; },
+             FindeText(nummer) == nullptr ? &t : nullptr),
+         true);
+}
+
+void Figurenindex::LeereTexte() {
+    texte_.clear();
+    textanzahl_ = 0;
+    textnummern_ = 0;
+    neuesterText_ = nullptr;
+    texteBekannt_ = false;
+    nachNummer_.Leere();
+}
+
+PunktString* Figurenindex::FindeText(PunktIndex nr) const {
+    return Hole(texte_, nr);
+}
+
+PunktString* Figurenindex::FindeText(const PunktNummernTyp& nummer) const {
+    if (!texteBekannt_) LerneTexte();
+    const std::uint32_t nr = nachNummer_.Finde(
+        nummer.Streuwert(saat_), [&](std::uint32_t n) { return textarena_[n - 1].figur.Aus == nummer; });
+    return nr != Markentafel::kKeins ? &textarena_[nr - 1].knoten : nullptr;
+}
+
+std::uint64_t Figurenindex::Textstreuwert(std::uint32_t nr) const {
+    return textarena_[nr - 1].figur.Aus.Streuwert(saat_);
+}
+
+void Figurenindex::Nimm(const PunktString& t, bool verdraengt) const {
+    nachNummer_.Erwarte(nachNummer_.Anzahl() + 1, Nummer(t.Folge),
+                        [this](std::uint32_t nr) { return Textstreuwert(nr); });
+    const PunktNummernTyp& nummer = t.Item->Aus;
+    (void)nachNummer_.Setze(nummer.Streuwert(saat_), Nummer(t.Folge), verdraengt,
+                            [&](std::uint32_t nr) { return textarena_[nr - 1].figur.Aus == nummer; });
+}
+
+void Figurenindex::LerneTexte() const {
+    nachNummer_.Erwarte(textanzahl_, 0, [](std::uint32_t) { return 0U; });
+    for (const PunktString* t = neuesterText_; t != nullptr; t = t->Next)
+        Nimm(*t, false);
+    texteBekannt_ = true;
+}
+
+// --- Lines ------------------------------------------------------------------------------------------------
+
+void Figurenindex::Auf(PunktKante& k) {
+    neuesteKante_ = &k;
+    if (verkettet_) KetteAn(k);
+    if (paareBekannt_) Nimm(k, true);
+}
+
+void Figurenindex::Ab(PunktKante& k) {
+    if (neuesteKante_ == &k) neuesteKante_ = k.Next;
+    if (verkettet_) {
+        HaengeAus(k, k.ANr);
+        HaengeAus(k, k.ENr);
+    }
+    if (!paareBekannt_ || FindeKante(k.ANr, k.ENr) != &k) return;
+    const auto passt = [&](const PunktKante& x) { return GleichesPaar(x, k.ANr, k.ENr); };
+    // Both points list the lines of the pair in the same order. Searching from both ends in step takes as
+    // long as the point with fewer lines takes; the other one may be a station with tens of thousands.
+    const PunktKante* vonA = ErsteKante(k.ANr);
+    const PunktKante* vonE = ErsteKante(k.ENr);
+    while (vonA != nullptr && vonE != nullptr && !passt(*vonA) && !passt(*vonE)) {
+        vonA = NaechsteKante(*vonA, k.ANr);
+        vonE = NaechsteKante(*vonE, k.ENr);
+    }
+    if (vonA != nullptr && vonE != nullptr) {
+        Nimm(passt(*vonA) ? *vonA : *vonE, true);
+    } else {
+        nachPaar_.Entferne(Nummer(k.Folge), [this](std::uint32_t nr) { return Paarstreuwert(nr); });
+    }
 }
 
 void Figurenindex::Zurueck(PunktKante& k, PunktKante& kopf) {
@@ -161,49 +192,81 @@ void Figurenindex::Zurueck(PunktKante& k, PunktKante& kopf) {
     // The chains at the points are made anew when somebody asks for them.
     verkettet_ = false;
     kantenAm_.clear();
-    nachPaar_.Setze({k.ANr, k.ENr}, Erster(
-                                        kopf, [&](const PunktKante& x) { return GleichesPaar(x, k); },
-                                        FindeKante(k.ANr, k.ENr) == nullptr ? &k : nullptr));
+    if (!paareBekannt_) return;
+    Nimm(*Erster(
+             kopf, [&](const PunktKante& x) { return GleichesPaar(x, k.ANr, k.ENr); },
+             FindeKante(k.ANr, k.ENr) == nullptr ? &k : nullptr),
+         true);
 }
 
-void Figurenindex::Drehe(PunktKante& k) {
-    if (k.ANr != k.ENr) std::swap(k.naechsteAmStart_, k.naechsteAmEnde_);
-}
-
-void Figurenindex::LeerePunkte() {
-    punkte_.clear();
-}
-
-void Figurenindex::LeereTexte() {
-    texte_.clear();
-    textanzahl_ = 0;
-    textnummern_ = 0;
-    nachNummer_.Leere();
-}
-
-void Figurenindex::Erwarte(std::size_t punkte, std::size_t kanten) {
-    nachNummer_.Erwarte(punkte);
-    nachPaar_.Erwarte(kanten);
+void Figurenindex::Drehe(const PunktKante& k) {
+    if (k.ANr != k.ENr && k.Folge < naechste_.size()) std::swap(naechste_[k.Folge][0], naechste_[k.Folge][1]);
 }
 
 void Figurenindex::LeereKanten() {
     neuesteKante_ = nullptr;
     verkettet_ = false;
     kantenAm_.clear();
+    paareBekannt_ = false;
     nachPaar_.Leere();
 }
 
-PunktString* Figurenindex::FindeText(PunktIndex nr) const {
-    return Hole(texte_, nr);
+PunktKante* Figurenindex::FindeKante(PunktIndex a, PunktIndex b) const {
+    if (!paareBekannt_) LernePaare();
+    return ZurNummer(nachPaar_.Finde(Streuwert(a, b, saat_), [&](std::uint32_t nr) {
+        return GleichesPaar(kantenarena_[nr - 1].knoten, a, b);
+    }));
+}
+
+std::uint64_t Figurenindex::Paarstreuwert(std::uint32_t nr) const {
+    const PunktKante& k = kantenarena_[nr - 1].knoten;
+    return Streuwert(k.ANr, k.ENr, saat_);
+}
+
+void Figurenindex::Nimm(const PunktKante& k, bool verdraengt) const {
+    nachPaar_.Erwarte(nachPaar_.Anzahl() + 1, Nummer(k.Folge),
+                      [this](std::uint32_t nr) { return Paarstreuwert(nr); });
+    (void)nachPaar_.Setze(Streuwert(k.ANr, k.ENr, saat_), Nummer(k.Folge), verdraengt, [&](std::uint32_t nr) {
+        return GleichesPaar(kantenarena_[nr - 1].knoten, k.ANr, k.ENr);
+    });
+}
+
+void Figurenindex::LernePaare() const {
+    nachPaar_.Erwarte(kantenarena_.Anzahl(), 0, [](std::uint32_t) { return 0U; });
+    for (const PunktKante* k = neuesteKante_; k != nullptr; k = k->Next)
+        Nimm(*k, false);
+    paareBekannt_ = true;
 }
 
 PunktKante* Figurenindex::ErsteKante(PunktIndex nr) {
     if (!verkettet_) Verkette();
-    return Hole(kantenAm_, nr);
+    return ZurNummer(Hole(kantenAm_, nr));
 }
 
-PunktKante* Figurenindex::NaechsteKante(const PunktKante& k, PunktIndex nr) {
-    return k.ANr == nr ? k.naechsteAmStart_ : k.naechsteAmEnde_;
+void Figurenindex::Verkette() {
+    std::vector<const PunktKante*> alle;
+    for (const PunktKante* k = neuesteKante_; k != nullptr; k = k->Next)
+        alle.push_back(k);
+    naechste_.resize(kantenarena_.Anzahl());
+    std::for_each(alle.rbegin(), alle.rend(), [this](const PunktKante* k) { KetteAn(*k); });
+    verkettet_ = true;
+}
+
+void Figurenindex::KetteAn(const PunktKante& k) {
+    if (k.Folge >= naechste_.size()) naechste_.resize(std::size_t{k.Folge} + 1);
+    naechste_[k.Folge] = {Hole(kantenAm_, k.ANr), Hole(kantenAm_, k.ENr)};
+    Lege(kantenAm_, k.ANr, Nummer(k.Folge));
+    Lege(kantenAm_, k.ENr, Nummer(k.Folge));
+}
+
+/// Takes the line out of the chain at one of its points.
+void Figurenindex::HaengeAus(const PunktKante& k, PunktIndex nr) {
+    const auto naechste = [&](const PunktKante& x) { return &naechste_[x.Folge][x.ANr == nr ? 0 : 1]; };
+    if (nr >= kantenAm_.size()) return;
+    std::uint32_t* zeiger = &kantenAm_[nr];
+    while (*zeiger != 0 && *zeiger != Nummer(k.Folge))
+        zeiger = naechste(*ZurNummer(*zeiger));
+    if (*zeiger != 0) *zeiger = *naechste(k);
 }
 
 }  // namespace zrw

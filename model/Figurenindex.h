@@ -4,103 +4,25 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
+#include "model/Arena.h"
+#include "model/Knoten.h"
+#include "model/Markentafel.h"
 #include "model/Werte.h"
 
 namespace zrw {
 
-struct PunktKnoten;
-struct PunktString;
-class PunktKante;
-
-/// Open addressing from a key to a value that is false where there is none. The keys stand in the table
-/// itself, so that a search touches no node: memory is what reading a large network waits for.
-template <class Schluessel, class Wert>
-class Streutafel {
-  public:
-    explicit Streutafel(std::uint64_t saat) : saat_(saat) {}
-
-    [[nodiscard]] Wert Finde(const Schluessel& s) const {
-        return faecher_.empty() ? Wert{} : faecher_[Suche(s)].wert;
-    }
-    /// Enters the value; one of the same key is displaced, as the head of a list hides what is behind it.
-    void Setze(const Schluessel& s, Wert wert) {
-        if ((belegt_ + 1) * 5 > faecher_.size() * 4) Wachse();
-        Fach& fach = faecher_[Suche(s)];
-        if (!fach.wert) ++belegt_;
-        fach = {s, wert};
-    }
-    void Entferne(const Schluessel& s) {
-        if (!Finde(s)) return;
-        std::size_t i = Suche(s);
-        // Close the gap, so that a search never has to step over removed entries.
-        for (std::size_t j = Weiter(i); faecher_[j].wert; j = Weiter(j)) {
-            const std::size_t heim = Platz(faecher_[j].schluessel);
-            if (((j - heim) & (faecher_.size() - 1)) < ((j - i) & (faecher_.size() - 1))) continue;
-            faecher_[i] = faecher_[j];
-            i = j;
-        }
-        faecher_[i] = {};
-        --belegt_;
-    }
-    /// Makes room for so many entries at once.
-    void Erwarte(std::size_t anzahl) {
-        while (anzahl * 5 > faecher_.size() * 4)
-            Wachse();
-    }
-    [[nodiscard]] std::size_t Anzahl() const { return belegt_; }
-    void Leere() {
-        faecher_.clear();
-        belegt_ = 0;
-    }
-
-  private:
-    struct Fach {
-        Schluessel schluessel{};
-        Wert wert{};
-    };
-    [[nodiscard]] std::size_t Platz(const Schluessel& s) const {
-        return s.Streuwert(saat_) & (faecher_.size() - 1);
-    }
-    [[nodiscard]] std::size_t Weiter(std::size_t i) const { return (i + 1) & (faecher_.size() - 1); }
-    /// The place of the key, or the free one where it belongs.
-    [[nodiscard]] std::size_t Suche(const Schluessel& s) const {
-        std::size_t i = Platz(s);
-        while (faecher_[i].wert && !(faecher_[i].schluessel == s))
-            i = Weiter(i);
-        return i;
-    }
-    void Wachse() {
-        std::vector<Fach> alt(faecher_.empty() ? 64 : faecher_.size() * 2);
-        alt.swap(faecher_);
-        for (const Fach& f : alt) {
-            if (f.wert) faecher_[Suche(f.schluessel)] = f;
-        }
-    }
-    std::uint64_t saat_;
-    std::vector<Fach> faecher_;
-    std::size_t belegt_ = 0;
-};
-
-/// Two points, whichever is named first.
-class Punktpaar {
-  public:
-    Punktpaar() = default;
-    Punktpaar(PunktIndex a, PunktIndex b) : wert_(std::uint32_t{std::min(a, b)} << 16U | std::max(a, b)) {}
-    friend bool operator==(Punktpaar, Punktpaar) = default;
-    [[nodiscard]] std::uint64_t Streuwert(std::uint64_t saat) const { return Mische(wert_ ^ saat); }
-
-  private:
-    std::uint32_t wert_ = 0;
-};
-
-/// The indexes of one list. Told of every node that enters (already linked at the head) or leaves.
+/// The indexes of one list. Told of every node that enters (already linked at the head) or leaves. Texts,
+/// pairs and the lines of a point are entered when somebody first asks for one: reading a network never does.
 class Figurenindex {
   public:
-    Figurenindex();
+    /// @param kanten, texte where the nodes stand
+    Figurenindex(const Arena<KantePlatz>& kanten, const Arena<TextPlatz>& texte)
+        : kantenarena_(kanten), textarena_(texte) {}
 
     void Auf(PunktKnoten& p);
     void Auf(PunktString& t);
@@ -115,9 +37,9 @@ class Figurenindex {
     void Zurueck(PunktString& t, PunktString& kopf);
     void Zurueck(PunktKante& k, PunktKante& kopf);
     /// The line is about to swap its ends: its places among the lines of both points swap with them.
-    static void Drehe(PunktKante& k);
-    /// Announces so many figures; saves growing on the way.
-    void Erwarte(std::size_t punkte, std::size_t kanten);
+    void Drehe(const PunktKante& k);
+    /// Announces so many points with their labels; saves growing on the way.
+    void Erwarte(std::size_t punkte);
     void LeerePunkte();
     void LeereTexte();
     void LeereKanten();
@@ -126,42 +48,62 @@ class Figurenindex {
         return nr < punkte_.size() ? punkte_[nr] : nullptr;
     }
     [[nodiscard]] PunktString* FindeText(PunktIndex nr) const;
-    [[nodiscard]] PunktString* FindeText(const PunktNummernTyp& nummer) const {
-        return nachNummer_.Finde(nummer).text;
-    }
+    [[nodiscard]] PunktString* FindeText(const PunktNummernTyp& nummer) const;
     /// Internal number of the point with that label, 0 if there is none.
     [[nodiscard]] PunktIndex FindeNummer(const PunktNummernTyp& nummer) const {
-        return nachNummer_.Finde(nummer).nr;
+        const PunktString* t = FindeText(nummer);
+        return t != nullptr ? t->TNr : kKeinPunkt;
     }
     /// No two labels read the same: each then leads to its own number.
-    [[nodiscard]] bool TexteEindeutig() const { return textanzahl_ == nachNummer_.Anzahl(); }
+    [[nodiscard]] bool TexteEindeutig() const {
+        if (!texteBekannt_) LerneTexte();
+        return textanzahl_ == nachNummer_.Anzahl();
+    }
     /// No two labels belong to one number.
     [[nodiscard]] bool NummernEindeutig() const { return textanzahl_ == textnummern_; }
     /// The newest line between two points, in either orientation.
-    [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const { return nachPaar_.Finde({a, b}); }
+    [[nodiscard]] PunktKante* FindeKante(PunktIndex a, PunktIndex b) const;
     /// The lines at a point, newest first: `for (k = ErsteKante(nr); k; k = NaechsteKante(*k, nr))`.
     [[nodiscard]] PunktKante* ErsteKante(PunktIndex nr);
-    [[nodiscard]] static PunktKante* NaechsteKante(const PunktKante& k, PunktIndex nr);
+    [[nodiscard]] PunktKante* NaechsteKante(const PunktKante& k, PunktIndex nr) const {
+        return ZurNummer(naechste_[k.Folge][k.ANr == nr ? 0 : 1]);
+    }
 
   private:
-    struct Texteintrag {
-        PunktString* text = nullptr;
-        PunktIndex nr = kKeinPunkt;
-        explicit operator bool() const { return text != nullptr; }
-    };
+    // Nodes are named by the number after their `Folge`, so that 0 is none: half of a pointer.
+    [[nodiscard]] static std::uint32_t Nummer(std::uint32_t folge) { return folge + 1; }
+    [[nodiscard]] PunktKante* ZurNummer(std::uint32_t nr) const {
+        return nr != 0 ? &kantenarena_[nr - 1].knoten : nullptr;
+    }
+    void LerneTexte() const;
+    void LernePaare() const;
+    [[nodiscard]] std::uint64_t Textstreuwert(std::uint32_t nr) const;
+    [[nodiscard]] std::uint64_t Paarstreuwert(std::uint32_t nr) const;
+    /// @param verdraengt the label counts before another one that reads the same
+    void Nimm(const PunktString& t, bool verdraengt) const;
+    void Nimm(const PunktKante& k, bool verdraengt) const;
+    void Verkette();
+    void KetteAn(const PunktKante& k);
+    void HaengeAus(const PunktKante& k, PunktIndex nr);
+
+    const Arena<KantePlatz>& kantenarena_;
+    const Arena<TextPlatz>& textarena_;
     std::vector<PunktKnoten*> punkte_;
     std::vector<PunktString*> texte_;
-    /// The lines at each point are chained when somebody first asks for them: reading a network never does.
-    void Verkette();
-    void KetteAn(PunktKante& k);
-
-    PunktKante* neuesteKante_ = nullptr;  ///< head of the list of lines
-    bool verkettet_ = false;
     std::size_t textanzahl_ = 0;
     std::size_t textnummern_ = 0;  ///< numbers that have a label
-    std::vector<PunktKante*> kantenAm_;
-    Streutafel<PunktNummernTyp, Texteintrag> nachNummer_;
-    Streutafel<Punktpaar, PunktKante*> nachPaar_;
+    PunktString* neuesterText_ = nullptr;
+    PunktKante* neuesteKante_ = nullptr;  ///< head of the list of lines
+
+    bool verkettet_ = false;
+    std::vector<std::uint32_t> kantenAm_;                 ///< newest line by number of the point
+    std::vector<std::array<std::uint32_t, 2>> naechste_;  ///< by `Folge`: next line at the start, at the end
+
+    std::uint64_t saat_ = NeueSaat();
+    mutable bool texteBekannt_ = false;
+    mutable bool paareBekannt_ = false;
+    mutable Markentafel nachNummer_;
+    mutable Markentafel nachPaar_;
 };
 
 }  // namespace zrw

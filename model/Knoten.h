@@ -24,18 +24,12 @@ struct PunktKnoten {
 using PPunktKnoten = PunktKnoten*;
 
 /// Node of an observation line.
-class PunktKante {
-  public:
+struct PunktKante {
     PunktIndex ANr = kKeinPunkt;  ///< start point
     PunktIndex ENr = kKeinPunkt;  ///< end point
     std::uint32_t Folge = 0;
     Kante* Item = nullptr;
     PunktKante* Next = nullptr;
-
-  private:
-    friend class Figurenindex;
-    PunktKante* naechsteAmStart_ = nullptr;
-    PunktKante* naechsteAmEnde_ = nullptr;
 };
 using PPunktKante = PunktKante*;
 
@@ -47,6 +41,20 @@ struct PunktString {
     PunktString* Next = nullptr;
 };
 using PPunktString = PunktString*;
+
+// A node and its figure as they stand in the arena, at the place that `Folge` names.
+struct PunktPlatz {
+    PunktKnoten knoten;
+    Punkt figur;
+};
+struct KantePlatz {
+    PunktKante knoten;
+    Kante figur;
+};
+struct TextPlatz {
+    PunktString knoten;
+    PktText figur;
+};
 
 /// Figures of one list.
 struct Figurenmenge {

@@ -13,7 +13,7 @@
 #include "input/tabellen/Ergebnistabellen.h"
 #include "input/tabellen/Punktergebnisse.h"
 #include "model/Dateien.h"
-#include "model/Figurenindex.h"
+#include "model/Streutafel.h"
 #include "model/Werte.h"
 
 namespace zrw {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 
 #include "tests/hilfe/Probenetz.h"
 
@@ -51,6 +52,11 @@ void Vergleiche(Probenetz& n, PunktIndex nummern, int texte) {
             Erster(l.PktTextKnoten, [&](const PunktString& k) { return k.Item->Aus.Text() == text; });
         ASSERT_EQ(l.FindPunkt(text), t != nullptr ? l.SuchPkt(t->TNr) : nullptr) << text;
     }
+    std::set<std::string_view> gelesen;
+    std::size_t anzahl = 0;
+    for (const PunktString* t = l.PktTextKnoten; t != nullptr; t = t->Next, ++anzahl)
+        gelesen.insert(t->Item->Aus.Text());
+    ASSERT_EQ(l.TexteEindeutig(), gelesen.size() == anzahl);
     std::int32_t kanten = 0;
     for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next, ++kanten) {
         ASSERT_EQ(l.FindKante(k->ENr, k->ANr), Linie(l, k->ANr, k->ENr));
@@ -123,6 +129,21 @@ TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
             Vergleiche(n, f.nummern, f.texte);
             if (HasFatalFailure()) FAIL() << "step " << i << " with " << f.nummern << " numbers";
         }
+    }
+}
+
+// Blocks of every length begin and end where they should, whatever was announced.
+TEST(Figurenindex, ArenaFindetWasSieGab) {
+    for (const std::size_t erwartet : {0U, 1U, 64U, 65U, 1000U, 30000U, 300000U}) {
+        Arena<std::uint64_t> arena;
+        arena.Erwarte(erwartet);
+        std::vector<const std::uint64_t*> plaetze;
+        for (std::uint64_t i = 0; i < 200'000; ++i)
+            plaetze.push_back(arena.Neu(i));
+        arena.Erwarte(erwartet);  // too late: changes nothing
+        ASSERT_EQ(arena.Anzahl(), plaetze.size());
+        for (std::size_t i = 0; i < plaetze.size(); ++i)
+            ASSERT_TRUE(&arena[i] == plaetze[i] && arena[i] == i) << i << " of " << erwartet;
     }
 }
 

@@ -1,0 +1,31 @@
+// Memory for what grows large: in few large pages where the system has them. To touch four kilobytes at a
+// time takes a multiple of the time that filling them takes.
+#pragma once
+
+#include <cstddef>
+
+namespace zrw {
+
+/// Memory for any type. @param genutzt how many of the bytes are expected to be written; the rest costs
+/// nothing before it is
+[[nodiscard]] void* NimmSpeicher(std::size_t bytes, std::size_t genutzt);
+/// @param bytes as it was taken
+void GibSpeicher(void* speicher, std::size_t bytes) noexcept;
+
+/// The same for the containers of the standard library.
+template <class T>
+struct Grossverteiler {
+    using value_type = T;
+
+    Grossverteiler() = default;
+    template <class U>
+    Grossverteiler(const Grossverteiler<U>& /*anderer*/) {}  // NOLINT(google-explicit-constructor)
+
+    [[nodiscard]] T* allocate(std::size_t anzahl) {
+        return static_cast<T*>(NimmSpeicher(anzahl * sizeof(T), anzahl * sizeof(T)));
+    }
+    void deallocate(T* speicher, std::size_t anzahl) noexcept { GibSpeicher(speicher, anzahl * sizeof(T)); }
+    friend bool operator==(Grossverteiler, Grossverteiler) { return true; }
+};
+
+}  // namespace zrw
