@@ -19,21 +19,15 @@ namespace {
 
 constexpr Bildgroesse kUebliche{1200, 800};
 
-void Drucke(const std::string& text) {
-    std::fprintf(stderr, "%s\n", text.c_str());
-}
-
 Einstellungen LadeEinstellungen(const Aufruf& aufruf) {
-    Einstellungen e;
-    if (!aufruf.einstellungen) {
-        LoadSettings(e, Einstellungsablage());
-        return e;
-    }
-    const QString datei = AusUtf8(*aufruf.einstellungen);
-    if (!QFileInfo(datei).isFile() || !QFileInfo(datei).isReadable()) {
+    const QString datei = AusUtf8(aufruf.einstellungen.value_or(std::string()));
+    // Where the user's own file is missing the defaults hold; one that was asked for must be there.
+    if (aufruf.einstellungen && !QFileInfo::exists(datei))
         throw Fehler("Kann Datei nicht öffnen (Einstellungen).", *aufruf.einstellungen);
-    }
-    LoadSettings(e, Einstellungsablage(datei));
+    const Einstellungsablage ablage = aufruf.einstellungen ? Einstellungsablage(datei) : Einstellungsablage();
+    if (const auto fehler = ablage.Lesefehler()) throw *fehler;
+    Einstellungen e;
+    LoadSettings(e, ablage);
     return e;
 }
 
@@ -59,10 +53,13 @@ void SetzeGroesse(const Aufruf& aufruf, Liste& liste) {
 void WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Einstellungen& einstellungen) {
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     std::error_code fehler;
-    const auto alias = TavelinOrdner(Einstellungsablage());
-    const bool bild = IstBilddatei(datei);
-    daten.SetzeOrdner(bild && alias ? *alias : std::filesystem::absolute(datei, fehler).parent_path());
-    if (bild) return;
+    daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).parent_path());
+    if (IstBilddatei(datei)) {
+        const Einstellungsablage eigene;
+        if (const auto f = eigene.Lesefehler()) throw *f;
+        if (const auto alias = TavelinOrdner(eigene)) daten.SetzeOrdner(*alias);
+        return;
+    }
     for (const std::string& text : MarkiereFehler(liste, daten, einstellungen))
         Drucke(text);
 }
@@ -111,12 +108,24 @@ void Exportiere(const Aufruf& aufruf) {
 
 }  // namespace
 
+void Drucke(const std::string& text) {
+    QString zeile = AusUtf8(text);
+    for (QChar& c : zeile) {
+        const auto art = c.category();
+        if (art == QChar::Other_Control || art == QChar::Other_Format || art == QChar::Separator_Line ||
+            art == QChar::Separator_Paragraph) {
+            c = u' ';
+        }
+    }
+    std::fprintf(stderr, "%s\n", NachUtf8(zeile).c_str());
+}
+
 int FuehreStapelAus(const Aufruf& aufruf) {
     try {
         Exportiere(aufruf);
         return 0;
     } catch (const std::exception& f) {
-        Drucke(f.what());
+        Drucke(Fehlertext(f));
         return 1;
     }
 }

@@ -1,6 +1,7 @@
 // Start of the program: command line, then either the batch mode or the window.
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QStandardPaths>
 #include <QTranslator>
 #include <cstdio>
 
@@ -23,6 +24,21 @@ std::vector<std::string> Worte(int argc, char** argv) {
     return worte;
 }
 
+/// What was kept and could not be read. The program runs with its defaults.
+void MeldeLesefehler(const Einstellungsablage& ablage, const Sitzung& sitzung, Dialogdienst& dialoge) {
+    if (const auto f = ablage.Lesefehler()) {
+        dialoge.Melde(
+            AusUtf8(f->what()) +
+            QStringLiteral("\nEs gelten die üblichen Einstellungen. Die Datei bleibt, wie sie ist, bis "
+                           "Einstellungen gespeichert werden."));
+    }
+    if (const auto& f = sitzung.Lesefehler()) {
+        dialoge.Melde(
+            AusUtf8(f->what()) +
+            QStringLiteral("\nDie letzten Dateien und die Lage des Fensters werden nicht gemerkt."));
+    }
+}
+
 int Fenster(const Aufruf& aufruf) {
     QApplication::setApplicationName(QStringLiteral("Zarwik"));
     QGuiApplication::setDesktopFileName(QStringLiteral("zarwik"));
@@ -42,15 +58,22 @@ int Fenster(const Aufruf& aufruf) {
     Systemdrucker drucker(dateien);
     QtDialogdienst dialoge;
     Sitzung sitzung;
+    Rettung rettung(
+        QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/rettung"),
+        dateien);
     TZrwMainDlg fenster({einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung,
-                         QStringLiteral(ZRW_VERSION)});
+                         QStringLiteral(ZRW_VERSION), &rettung});
     dialoge.SetzeEltern(&fenster);
     fenster.show();
-    if (!aufruf.datei.empty()) {
-        // When the window stands and has its size, as the network is fitted into it.
-        QMetaObject::invokeMethod(
-            &fenster, [&] { fenster.Oeffne(TextPfad(aufruf.datei)); }, Qt::QueuedConnection);
-    }
+    // When the window stands and has its size, as the network is fitted into it.
+    QMetaObject::invokeMethod(
+        &fenster,
+        [&] {
+            MeldeLesefehler(ablage, sitzung, dialoge);
+            if (fenster.BieteRettungAn()) return;
+            if (!aufruf.datei.empty()) fenster.Oeffne(TextPfad(aufruf.datei));
+        },
+        Qt::QueuedConnection);
     return QApplication::exec();
 }
 
@@ -64,7 +87,7 @@ int main(int argc, char** argv) {
     try {
         aufruf = LiesAufruf(Worte(argc, argv));
     } catch (const Falschaufruf& f) {
-        std::fprintf(stderr, "%s. Hilfe mit --help.\n", f.text.c_str());
+        Drucke(f.text + ". Hilfe mit --help.");
         return 2;
     }
     if (aufruf.auftrag == Auftrag::Hilfe) return std::fputs(Hilfetext().c_str(), stdout) < 0 ? 1 : 0;

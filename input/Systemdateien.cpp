@@ -33,7 +33,7 @@ using Strom = std::unique_ptr<std::FILE, Schliesser>;
 
 /// The system's own texts come in the language of the system; these are the ones that users meet.
 std::string Grund(int nummer) {
-    static constexpr std::array<std::pair<int, const char*>, 11> kGruende{{
+    static constexpr std::array<std::pair<int, const char*>, 12> kGruende{{
         {ENOENT, "nicht vorhanden"},
         {EACCES, "keine Berechtigung"},
         {EPERM, "keine Berechtigung"},
@@ -44,6 +44,7 @@ std::string Grund(int nummer) {
         {ENOTDIR, "ein Teil des Pfades ist kein Ordner"},
         {ENAMETOOLONG, "Name zu lang"},
         {EIO, "Ein-/Ausgabefehler"},
+        {ELOOP, "Verweise im Kreis"},
         {EMFILE, "zu viele offene Dateien"},
     }};
     const auto* grund =
@@ -54,6 +55,8 @@ std::string Grund(int nummer) {
 [[noreturn]] void Wirf(const std::string& text, const fs::path& datei, int nummer) {
     throw Fehler(text + " (" + Grund(nummer) + ").", PfadText(datei));
 }
+
+constexpr const char* kNichtSchreiben = "Kann Datei nicht schreiben";
 
 [[noreturn]] void NichtZuOeffnen(const fs::path& datei, const std::string& grund) {
     throw Oeffnungsfehler("Kann Datei nicht öffnen (" + grund + ").", PfadText(datei));
@@ -70,6 +73,16 @@ bool AufPlatte(std::FILE* f) {
 void OrdnerAufPlatte(const fs::path& /*ordner*/) {}
 int Prozess() {
     return _getpid();
+}
+std::optional<Dateistand> StandVon(std::FILE* /*f*/, const fs::path& p) {
+    std::error_code fehler;
+    const std::uintmax_t groesse = fs::file_size(p, fehler);
+    if (fehler) return std::nullopt;
+    return Dateistand{groesse, std::int64_t{fs::last_write_time(p, fehler).time_since_epoch().count()}};
+}
+bool Schreibbar(const fs::path& p) {
+    constexpr int kSchreiben = 2;
+    return _waccess(p.c_str(), kSchreiben) == 0;
 }
 #else
 Strom Oeffne(const fs::path& p, bool neu) {
@@ -93,6 +106,17 @@ void OrdnerAufPlatte(const fs::path& ordner) {
 int Prozess() {
     return ::getpid();
 }
+/// Of the file that is open, which a new one under its name does not touch.
+std::optional<Dateistand> StandVon(std::FILE* f, const fs::path& /*p*/) {
+    struct stat s {};
+    if (::fstat(::fileno(f), &s) != 0) return std::nullopt;
+    constexpr std::int64_t kNano = 1'000'000'000;
+    return Dateistand{static_cast<std::uintmax_t>(s.st_size),
+                      std::int64_t{s.st_mtim.tv_sec} * kNano + std::int64_t{s.st_mtim.tv_nsec}};
+}
+bool Schreibbar(const fs::path& p) {
+    return ::access(p.c_str(), W_OK) == 0;
+}
 #endif
 
 /// A buffer of so many bytes in few large pages where the system has them: to touch four kilobytes at a time
@@ -102,25 +126,39 @@ std::string Puffer(std::size_t groesse) {
     puffer.reserve(groesse);
 #ifdef MADV_HUGEPAGE
     constexpr std::uintptr_t kGrosseSeite = std::uintptr_t{2} << 20U;
-    const auto anfang = (reinterpret_cast<std::uintptr_t>(puffer.data()) + kGrosseSeite - 1) / kGrosseSeite;
-    const auto ende = (reinterpret_cast<std::uintptr_t>(puffer.data()) + groesse) / kGrosseSeite;
-    if (ende > anfang) {
-        (void)::madvise(reinterpret_cast<void*>(anfang * kGrosseSeite), (ende - anfang) * kGrosseSeite,
-                        MADV_HUGEPAGE);
-    }
+    const auto ort = reinterpret_cast<std::uintptr_t>(puffer.data());
+    const std::uintptr_t anfang = (ort + kGrosseSeite - 1) / kGrosseSeite * kGrosseSeite;
+    const std::uintptr_t ende = (ort + groesse) / kGrosseSeite * kGrosseSeite;
+    if (ende > anfang) (void)::madvise(puffer.data() + (anfang - ort), ende - anfang, MADV_HUGEPAGE);
 #endif
     puffer.resize(groesse);
     return puffer;
 }
 
-/// A name beside the target that no other running program and no second save uses.
+/// A name beside the target that no other running program and no second save uses. Short: the target's own
+/// may have all the characters that a name can have.
 fs::path NameDaneben(const fs::path& ziel, unsigned& laufend) {
     std::error_code fehler;
     for (;;) {
-        fs::path name = ziel;
-        name += '.' + std::to_string(Prozess()) + '-' + std::to_string(laufend++) + ".neu";
+        fs::path name = ziel.parent_path() / "zarwik.";
+        name += std::to_string(Prozess()) + '-' + std::to_string(laufend++) + ".neu";
         if (!fs::exists(fs::symlink_status(name, fehler))) return name;
     }
+}
+
+/// Where writing to a name leads to. A link whose file is missing leads to where that file belongs: who has
+/// put the link there wants the file in that place, and not the link replaced.
+/// @throws Fehler for links in a circle
+fs::path Linkziel(const fs::path& datei) {
+    constexpr int kVerweise = 40;  // as many as the system follows
+    std::error_code fehler;
+    fs::path ziel = datei;
+    for (int i = 0; fs::is_symlink(fs::symlink_status(ziel, fehler)); ++i) {
+        if (i == kVerweise) Wirf(kNichtSchreiben, datei, ELOOP);
+        ziel = ziel.parent_path() / fs::read_symlink(ziel, fehler);  // an absolute one stands for itself
+    }
+    const fs::path echt = fs::weakly_canonical(ziel, fehler);
+    return fehler ? ziel : echt;
 }
 
 /// Writes a file beside its target and renames it.
@@ -130,7 +168,7 @@ class Schreiber final : public Dateischreiber {
     Schreiber(const fs::path& genannt, fs::path ziel, fs::path daneben)
         : genannt_(genannt), ziel_(std::move(ziel)), daneben_(std::move(daneben)) {
         strom_ = Oeffne(daneben_, true);
-        if (strom_ == nullptr) Wirf(kText, genannt_, errno);
+        if (strom_ == nullptr) Wirf(kNichtSchreiben, genannt_, errno);
         // Callers hand over large pieces; a second buffer would only copy them.
         std::setvbuf(strom_.get(), nullptr, _IONBF, 0);
         liegtDaneben_ = true;
@@ -145,23 +183,23 @@ class Schreiber final : public Dateischreiber {
 
     void Schreibe(std::string_view bytes) override {
         if (std::fwrite(bytes.data(), 1, bytes.size(), strom_.get()) != bytes.size())
-            Wirf(kText, genannt_, errno);
+            Wirf(kNichtSchreiben, genannt_, errno);
     }
     void Sichere() override {
-        if (!AufPlatte(strom_.get()) || std::fclose(strom_.release()) != 0) Wirf(kText, genannt_, errno);
+        if (!AufPlatte(strom_.get()) || std::fclose(strom_.release()) != 0)
+            Wirf(kNichtSchreiben, genannt_, errno);
     }
     void Uebernimm() override {
         std::error_code fehler;
         const fs::file_status alt = fs::status(ziel_, fehler);
         if (fs::exists(alt)) fs::permissions(daneben_, alt.permissions(), fehler);
         fs::rename(daneben_, ziel_, fehler);
-        if (fehler) Wirf(kText, genannt_, fehler.value());
+        if (fehler) Wirf(kNichtSchreiben, genannt_, fehler.value());
         liegtDaneben_ = false;
         OrdnerAufPlatte(ziel_.parent_path());
     }
 
   private:
-    static constexpr const char* kText = "Kann Datei nicht schreiben";
     fs::path genannt_;
     fs::path ziel_;
     fs::path daneben_;
@@ -202,28 +240,32 @@ std::string Systemdateien::Lies(const fs::path& datei, std::size_t grenze) const
     if (!fs::is_regular_file(status)) NichtZuOeffnen(datei, "keine gewöhnliche Datei");
     const Strom strom = Oeffne(datei, false);
     if (strom == nullptr) NichtZuOeffnen(datei, Grund(errno));
-    const auto groesse = fs::file_size(datei, fehler);
-    if (!fehler && groesse > grenze) {
-        throw Fehler("Die Datei ist mit " + std::to_string(groesse) + " Bytes zu groß (höchstens " +
+    const auto vorher = StandVon(strom.get(), datei);
+    if (vorher && vorher->groesse > grenze) {
+        throw Fehler("Die Datei ist mit " + std::to_string(vorher->groesse) + " Bytes zu groß (höchstens " +
                          std::to_string(grenze) + ").",
                      PfadText(datei));
     }
-    // The size is a hint only: the file may grow or shrink while it is read.
-    std::string inhalt = Puffer(fehler ? 0 : static_cast<std::size_t>(groesse));
+    std::string inhalt = Puffer(vorher ? static_cast<std::size_t>(vorher->groesse) : 0);
     inhalt.resize(std::fread(inhalt.data(), 1, inhalt.size(), strom.get()));
     if (std::ferror(strom.get()) != 0) Wirf("Kann Datei nicht lesen", datei, errno);
+    // Another program may be writing it: part of the old content and part of the new one are no file.
+    if (StandVon(strom.get(), datei) != vorher || !vorher || inhalt.size() != vorher->groesse) {
+        throw Fehler("Die Datei wurde während des Lesens geändert. Bitte noch einmal öffnen.",
+                     PfadText(datei));
+    }
     return inhalt;
 }
 
 std::unique_ptr<Dateischreiber> Systemdateien::Beginne(const fs::path& datei) {
     std::error_code fehler;
-    const fs::path echt = fs::weakly_canonical(datei, fehler);
-    fs::path ziel = fehler ? datei : echt;
-    if (fs::is_directory(ziel, fehler))
-        throw Fehler("Kann Datei nicht schreiben (ist ein Ordner).", PfadText(datei));
+    fs::path ziel = Linkziel(datei);
+    if (fs::is_directory(ziel, fehler)) Wirf(kNichtSchreiben, datei, EISDIR);
     // Renaming onto a device or a pipe would take it away from the whole system.
     if (fs::exists(ziel, fehler) && !fs::is_regular_file(ziel, fehler))
         throw Fehler("Kann Datei nicht schreiben (keine gewöhnliche Datei).", PfadText(datei));
+    // The folder would allow it; but somebody has protected the file.
+    if (fs::exists(ziel, fehler) && !Schreibbar(ziel)) Wirf(kNichtSchreiben, datei, errno);
     fs::path daneben = NameDaneben(ziel, laufend_);
     return std::make_unique<Schreiber>(datei, std::move(ziel), std::move(daneben));
 }

@@ -2,6 +2,7 @@
 // borders, shown at one place of the window or printed by the batch mode.
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -40,5 +41,15 @@ class Oeffnungsfehler : public Fehler {
   public:
     using Fehler::Fehler;
 };
+
+/// What users are told of any fault. Beside ours there is only one to be expected: no more memory.
+[[nodiscard]] inline std::string Fehlertext(const std::exception& fehler) {
+    if (dynamic_cast<const Fehler*>(&fehler) != nullptr) return fehler.what();
+    if (dynamic_cast<const std::bad_alloc*>(&fehler) != nullptr ||
+        dynamic_cast<const std::length_error*>(&fehler) != nullptr) {
+        return "Der Speicher reicht nicht. Bitte andere Programme beenden oder ein kleineres Netz nehmen.";
+    }
+    return std::string("Unerwarteter Fehler (") + fehler.what() + ").";
+}
 
 }  // namespace zrw

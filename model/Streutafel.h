@@ -15,7 +15,8 @@ class Streutafel {
     explicit Streutafel(std::uint64_t saat) : saat_(saat) {}
 
     [[nodiscard]] Wert Finde(const Schluessel& s) const {
-        return faecher_.empty() ? Wert{} : faecher_[Suche(s)].wert;
+        if (faecher_.empty()) return {};
+        return faecher_[Suche(s)].wert;
     }
     /// Enters the value; one of the same key is displaced, as the head of a list hides what is behind it.
     void Setze(const Schluessel& s, Wert wert) {

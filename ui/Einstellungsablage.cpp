@@ -9,40 +9,64 @@
 namespace zrw {
 namespace {
 
-const QString kAbschnitt = QStringLiteral("ZRWPAR/");
+constexpr const char* kAbschnitt = "ZRWPAR";
 
-std::unique_ptr<QSettings> EigeneAblage() {
-#ifdef Q_OS_WIN
-    return std::make_unique<QSettings>(QStringLiteral("HKEY_CURRENT_USER\\ZRWINI"), QSettings::NativeFormat);
-#else
-    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return std::make_unique<QSettings>(ordner + QStringLiteral("/ZRWINI.ini"), QSettings::IniFormat);
-#endif
+[[nodiscard]] QString Registryname(std::string_view schluessel) {
+    return QLatin1String(kAbschnitt) + QLatin1Char('/') + AusUtf8(schluessel);
 }
 
 }  // namespace
 
-Einstellungsablage::Einstellungsablage() : ablage_(EigeneAblage()) {}
+#ifdef Q_OS_WIN
+Einstellungsablage::Einstellungsablage()
+    : registry_(std::make_unique<QSettings>(QStringLiteral("HKEY_CURRENT_USER\\ZRWINI"),
+                                            QSettings::NativeFormat)) {}
+#else
+Einstellungsablage::Einstellungsablage()
+    : Einstellungsablage(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                         QStringLiteral("/ZRWINI.ini")) {}
+#endif
 
 Einstellungsablage::Einstellungsablage(const QString& inidatei)
-    : ablage_(std::make_unique<QSettings>(inidatei, QSettings::IniFormat)) {}
+    : datei_(std::in_place, inidatei, kAbschnitt) {}
+
+std::optional<Fehler> Einstellungsablage::Lesefehler() const {
+    return datei_ ? datei_->Lesefehler() : std::nullopt;
+}
 
 std::optional<std::string> Einstellungsablage::Lies(std::string_view schluessel) const {
-    const QVariant wert = ablage_->value(kAbschnitt + AusUtf8(schluessel));
-    if (!wert.isValid()) return std::nullopt;
-    // An INI text with a comma comes back as a list; it was one text when the user wrote it.
-    return NachUtf8(wert.toStringList().join(QLatin1Char(',')));
+    const QStringList texte =
+        datei_ ? datei_->Lies(schluessel) : registry_->value(Registryname(schluessel)).toStringList();
+    if (texte.isEmpty()) return std::nullopt;
+    // A text with a comma comes back as several; it was one when the user wrote it.
+    return NachUtf8(texte.join(QLatin1Char(',')));
 }
 
 void Einstellungsablage::Schreibe(std::string_view schluessel, const std::string& text) {
-    ablage_->setValue(kAbschnitt + AusUtf8(schluessel), AusUtf8(text));
+    if (datei_) {
+        datei_->Setze(schluessel, {AusUtf8(text)});
+    } else {
+        registry_->setValue(Registryname(schluessel), AusUtf8(text));
+    }
 }
 
 void Einstellungsablage::Sichere() {
-    ablage_->sync();
-    if (ablage_->status() != QSettings::NoError) {
-        throw Fehler("Die Einstellungen konnten nicht gespeichert werden.", NachUtf8(ablage_->fileName()));
+    const std::string text = "Die Einstellungen konnten nicht gespeichert werden";
+    if (datei_) {
+        try {
+            datei_->Sichere();
+        } catch (const Fehler& f) {
+            throw Fehler(text + ". " + f.Text(), f.Datei());
+        }
+        return;
     }
+    registry_->sync();
+    if (registry_->status() != QSettings::NoError) throw Fehler(text + ".", NachUtf8(registry_->fileName()));
+}
+
+void SichereEinstellungen(const Einstellungen& e, EinstellungsSpeicher& speicher) {
+    SaveSettings(e, speicher);
+    if (auto* ablage = dynamic_cast<Einstellungsablage*>(&speicher)) ablage->Sichere();
 }
 
 std::optional<std::filesystem::path> TavelinOrdner(const EinstellungsSpeicher& ablage) {

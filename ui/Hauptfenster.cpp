@@ -129,6 +129,9 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     qApp->installEventFilter(this);
     connect(&aenderungen_, &QUndoStack::indexChanged, this, [this] { NetzGeaendert(); });
     connect(&aenderungen_, &QUndoStack::cleanChanged, this, [this] { ZeigeTitel(); });
+    constexpr int kMinute = 60000;
+    connect(&bewahrung_, &QTimer::timeout, this, [this] { BewahreNetz(); });
+    bewahrung_.start(kMinute);
 }
 
 TZrwMainDlg::~TZrwMainDlg() {

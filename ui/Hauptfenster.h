@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QSet>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolButton>
 #include <QUndoStack>
 #include <filesystem>
@@ -57,6 +58,8 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     /// The current network, or null before one is opened.
     [[nodiscard]] const Liste* Netz() const { return liste_.get(); }
     [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
+    /// Offers plots that an earlier run could not save. @return whether one is shown now
+    bool BieteRettungAn();
     [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !aenderungen_.isClean(); }
 
     // Click handlers, by component.
@@ -179,6 +182,10 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void WaehleTabellenordner(const std::filesystem::path& datei);
     void MarkiereFehler();
 
+    // HauptfensterRettung.cpp
+    void BewahreNetz();
+    void VergissRettung();
+
     // HauptfensterDruck.cpp
     [[nodiscard]] std::optional<double> Druckmassstab();
     [[nodiscard]] std::vector<Blatt> Blaetter(double massstab, const Druckseite& seite) const;
@@ -196,8 +203,10 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     Programm programm_;
     std::unique_ptr<Liste> liste_;
     QUndoStack aenderungen_;
-    bool ungesichert_ = false;  ///< changes that cannot be undone
-    bool beendet_ = false;      ///< closing has been asked about
+    bool ungesichert_ = false;      ///< changes that cannot be undone
+    QTimer bewahrung_;              ///< when the unsaved plot is kept again
+    bool rettungGestoert_ = false;  ///< the user knows that it cannot be kept
+    bool beendet_ = false;          ///< closing has been asked about
     Bildflaeche flaeche_;
     Figurenzeichner zeichner_;
     Bildpflege pflege_;

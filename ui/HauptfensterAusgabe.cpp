@@ -24,8 +24,7 @@ namespace zrw {
 
 /// The one place that tells what an action could not do; its scopes have put everything back by then.
 void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
-    const bool eigener = dynamic_cast<const Fehler*>(&fehler) != nullptr;
-    programm_.dialoge.Melde(eigener ? AusUtf8(fehler.what()) : QStringLiteral("Der Speicher reicht nicht."));
+    programm_.dialoge.Melde(AusUtf8(Fehlertext(fehler)));
 }
 
 void TZrwMainDlg::SpeedButton12Click() {
@@ -38,6 +37,7 @@ void TZrwMainDlg::SpeedButton12Click() {
 
 void TZrwMainDlg::SpeedButton16Click() {
     if (liste_ == nullptr) return;
+    BewahreNetz();
     BrichAb();  // figures that are being dragged are out of the picture
     const auto massstab = Druckmassstab();
     if (!massstab) return;

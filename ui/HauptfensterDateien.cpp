@@ -159,6 +159,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         ereignis->ignore();
         return;
     }
+    VergissRettung();
     LoeseWerkzeuge();
     // An open settings window keeps what was chosen in it; the help would keep the program running.
     for (QDialog* dialog : findChildren<QDialog*>())
@@ -191,6 +192,7 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     if (!DarfVerwerfen()) return;
     Sammler meldungen;
     Lesung lesung;
+    const Einstellungen vorher = programm_.einstellungen;
     QString fehler;
     bool mitFenster = true;
     try {
@@ -202,16 +204,18 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
             {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); },
             Lesebalken(*statusBar()));
     } catch (const Leseabbruch& f) {
+        programm_.einstellungen = vorher;
         ZeigeStatus(AusUtf8(f.what()));
         return;
     } catch (const Oeffnungsfehler& f) {
         fehler = AusUtf8(f.what());
         // A control file that cannot be opened brings no box up; the status line names it.
         mitFenster = IstBilddatei(datei);
-    } catch (const Fehler& f) {
-        fehler = AusUtf8(f.what());
+    } catch (const std::exception& f) {
+        fehler = AusUtf8(Fehlertext(f));
     }
     if (!fehler.isEmpty()) {
+        programm_.einstellungen = vorher;
         ZeigeStatus(fehler);
         if (mitFenster) meldungen.Schliesse(fehler);
     }
@@ -224,7 +228,11 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
         beendet_ = true;
         close();
     } else if (lesung.liste != nullptr) {
-        Uebernimm(std::move(lesung), datei);
+        try {
+            Uebernimm(std::move(lesung), datei);
+        } catch (const std::exception& f) {
+            ZeigeFehler(f);
+        }
     }
 }
 
@@ -241,6 +249,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     ansichten_.clear();
     aenderungen_.clear();
     ungesichert_ = false;
+    VergissRettung();
     ausdehnungAlt_ = false;
     zentriert_.clear();
     liste_ = std::move(lesung.liste);
@@ -305,6 +314,7 @@ bool TZrwMainDlg::Speichere() {
         return false;
     }
     ungesichert_ = false;
+    VergissRettung();
     aenderungen_.setClean();
     ZeigeTitel();
     ordner_ = QFileInfo(*name).absolutePath();

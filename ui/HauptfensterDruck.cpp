@@ -68,6 +68,7 @@ std::optional<Bildpunkt> TZrwMainDlg::Legendenort(const Druckauftrag& auftrag) c
 
 void TZrwMainDlg::SpeedButton5Click() {
     if (liste_ == nullptr) return;
+    BewahreNetz();
     BrichAb();
     const auto massstab = Druckmassstab();
     if (!massstab || !programm_.drucker.Waehle(this)) return;
@@ -99,6 +100,7 @@ void TZrwMainDlg::SpeedButton5Click() {
 
 void TZrwMainDlg::VorschauClick() {
     if (liste_ == nullptr) return;
+    BewahreNetz();
     BrichAb();
     const auto massstab = Druckmassstab();
     if (!massstab) return;

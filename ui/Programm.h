@@ -11,6 +11,7 @@
 #include "output/Zeichenzustand.h"
 #include "ui/Dialogdienst.h"
 #include "ui/Drucker.h"
+#include "ui/Rettung.h"
 #include "ui/Sitzung.h"
 
 namespace zrw {
@@ -28,6 +29,7 @@ struct Programm {
     Dialogdienst& dialoge;
     Sitzung& sitzung;
     QString version;
+    Rettung* rettung = nullptr;  ///< null: unsaved plots are not kept
 };
 
 }  // namespace zrw

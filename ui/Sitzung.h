@@ -3,9 +3,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QSettings>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
+#include <optional>
+
+#include "ui/Inidatei.h"
 
 namespace zrw {
 
@@ -16,6 +19,12 @@ class Sitzung {
     /// The user's own file.
     Sitzung();
     explicit Sitzung(const QString& inidatei);
+    ~Sitzung();
+    Sitzung(const Sitzung&) = delete;
+    Sitzung& operator=(const Sitzung&) = delete;
+
+    /// Why the file that is there could not be read. It is left alone then; nothing is remembered.
+    [[nodiscard]] const std::optional<Fehler>& Lesefehler() const { return ablage_.Lesefehler(); }
 
     /// Newest first, at most `kLetzteDateien`.
     [[nodiscard]] QStringList LetzteDateien() const;
@@ -27,7 +36,11 @@ class Sitzung {
     void MerkeStand(const QString& name, const QByteArray& stand);
 
   private:
-    QSettings ablage_;
+    void Setze(std::string_view schluessel, const QStringList& texte);
+    void Sichere();
+
+    Inidatei ablage_;
+    QTimer bald_;  ///< one action remembers several things: they are written together
 };
 
 }  // namespace zrw

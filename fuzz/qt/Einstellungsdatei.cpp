@@ -2,7 +2,6 @@
 // them.
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <cstddef>
 #include <cstdint>
@@ -11,28 +10,16 @@
 #include "fuzz/Proben.h"
 #include "model/Fehler.h"
 #include "ui/Einstellungsablage.h"
+#include "ui/Inidatei.h"
 #include "ui/Sitzung.h"
 
 namespace {
 
 using namespace zrw;
 
-/// A stored value may be a picture, which only a program with graphics can read: the real one has them by
-/// then.
-void BrauchtGrafik() {
-    static int anzahl = 1;
-    static char name[] = "fuzz";
-    static char* worte[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QGuiApplication kAnwendung(anzahl, worte);
-}
-
-/// A name that was not used for a while: the store keeps the contents of the files that it has seen last.
 QString Lege(const char* daten, std::size_t groesse) {
     static const QTemporaryDir kOrdner;
-    static int laufend = 0;
-    constexpr int kNamen = 64;
-    const QString name = kOrdner.filePath(QString::number(laufend++ % kNamen) + QStringLiteral(".ini"));
+    const QString name = kOrdner.filePath(QStringLiteral("x.ini"));
     QFile datei(name);
     fuzz::Verlange(datei.open(QIODevice::WriteOnly) &&
                        datei.write(daten, static_cast<qint64>(groesse)) == static_cast<qint64>(groesse),
@@ -51,13 +38,17 @@ void Pruefe(const QString& name) {
     fuzz::Verlange(sitzung.LetzteDateien().size() <= Sitzung::kLetzteDateien, "nicht zu viele Dateien");
     (void)sitzung.Ordner();
     (void)sitzung.Stand(QStringLiteral("Fensterlage"));
+    // What was read is what is written, whatever stands around it.
+    Inidatei ini(name, "Sitzung");
+    const QStringList texte = ini.Lies("Dateien");
+    ini.Setze("Dateien", texte);
+    fuzz::Verlange(ini.Lies("Dateien") == texte || texte.isEmpty(), "Setzen und Lesen sind eins");
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
-    BrauchtGrafik();
     const QString name = Lege(eingabe.data(), eingabe.size());
     try {
         Pruefe(name);

@@ -5,9 +5,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
 #include "model/Fehler.h"
 
@@ -55,6 +57,25 @@ TEST_F(Systemdatei, LiestNurWasEineDateiIst) {
     ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
     EXPECT_EQ(FehlerBei("rohr"), "Kann Datei nicht öffnen (keine gewöhnliche Datei).");
     EXPECT_EQ(FehlerBei(std::string(5000, 'n')), "Kann Datei nicht öffnen (Name zu lang).");
+    fs::create_symlink("kreis", ordner / "kreis");
+    EXPECT_EQ(FehlerBei("kreis"), "Kann Datei nicht öffnen (Verweise im Kreis).");
+}
+
+TEST_F(Systemdatei, MerktDassWaehrendDesLesensGeschriebenWird) {
+    Lege("a", std::string(std::size_t{4} << 20U, 'x'));
+    std::atomic<bool> ende = false;
+    std::thread schreiber([&] {
+        std::ofstream s(ordner / "a", std::ios::binary | std::ios::app);
+        while (!ende)
+            s << 'y' << std::flush;
+    });
+    std::string text = "kein Fehler";
+    for (int i = 0; i < 1000 && text == "kein Fehler"; ++i)
+        text = FehlerBei("a", std::size_t{1} << 30U);
+    ende = true;
+    schreiber.join();
+    EXPECT_EQ(text, "Die Datei wurde während des Lesens geändert. Bitte noch einmal öffnen.");
+    EXPECT_EQ(FehlerBei("a", std::size_t{1} << 30U), "kein Fehler");
 }
 
 TEST_F(Systemdatei, ErsetztAlsGanzes) {
@@ -68,12 +89,26 @@ TEST_F(Systemdatei, ErsetztAlsGanzes) {
               fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
     dateien.Ersetze(ordner / "neu", "");
     EXPECT_TRUE(fs::exists(ordner / "neu"));
+    const std::string lang(255, 'n');
+    dateien.Ersetze(ordner / lang, "nachher");
+    EXPECT_EQ(Inhalt(lang), "nachher");
+    // A link whose file is missing leads to its place, over another link and another folder.
+    fs::create_symlink("Unter\xC3\x84/zweiter", ordner / "erster");
+    fs::create_symlink("Tief/da", ordner / "Unter\xC3\x84" / "zweiter");
+    dateien.Ersetze(ordner / "erster", "nachher");
+    EXPECT_EQ(Inhalt("Unter\xC3\x84/Tief/da"), "nachher");
+    EXPECT_TRUE(fs::is_symlink(ordner / "erster") && fs::is_symlink(ordner / "Unter\xC3\x84" / "zweiter"));
 }
 
 TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
     Lege("alt", "vorher");
     for (const fs::path& ziel : {ordner / "Unter\xC3\x84", ordner / "fehlt" / "x", ordner / "alt" / "x"}) {
         EXPECT_THROW(dateien.Ersetze(ziel, "neu"), Fehler) << ziel;
+    }
+    // A file that somebody has protected; root may write it all the same.
+    if (::geteuid() != 0) {
+        fs::permissions(ordner / "alt", fs::perms::owner_read);
+        EXPECT_THROW(dateien.Ersetze(ordner / "alt", "neu"), Fehler);
     }
     // A pipe stays a pipe, by its own name and by a link to it.
     ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
@@ -82,9 +117,12 @@ TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
         EXPECT_THROW(dateien.Ersetze(ordner / ziel, "neu"), Fehler) << ziel;
         EXPECT_TRUE(fs::is_fifo(ordner / ziel)) << ziel;
     }
+    fs::create_symlink("kreis", ordner / "kreis");
+    EXPECT_THROW(dateien.Ersetze(ordner / "kreis", "neu"), Fehler);
+    EXPECT_TRUE(fs::is_symlink(ordner / "kreis"));
     EXPECT_EQ(Inhalt("alt"), "vorher");
     // Nothing is left beside.
-    EXPECT_EQ(std::distance(fs::directory_iterator(ordner), fs::directory_iterator()), 4);
+    EXPECT_EQ(std::distance(fs::directory_iterator(ordner), fs::directory_iterator()), 5);
 }
 
 TEST_F(Systemdatei, FindetInJederSchreibweise) {

@@ -99,14 +99,18 @@ def ziel_ist(art):
     return tu
 
 
-def verweis_als_ziel(w):
-    w.schreibe("anderswo/NETZ.ZRW", ALT)
-    os.remove(w.pfad("ziel/NETZ.ZRW"))
-    os.symlink("../anderswo/NETZ.ZRW", w.pfad("ziel/NETZ.ZRW"))
-    e = w.laeuft(*EXPORT, "NETZ.EIN")
-    if not os.path.islink(w.pfad("ziel/NETZ.ZRW")) or halbe_dateien(w.pfad("anderswo")):
-        e.status = -1
-    return e
+def verweis_als_ziel(alt):
+    def tu(w):
+        w.schreibe("anderswo/NETZ.ZRW", ALT)
+        if not alt:
+            os.remove(w.pfad("anderswo/NETZ.ZRW"))
+        verweis("ziel/NETZ.ZRW", "../anderswo/NETZ.ZRW")(w)
+        e = w.laeuft(*EXPORT, "NETZ.EIN")
+        if not os.path.islink(w.pfad("ziel/NETZ.ZRW")) or os.listdir(w.pfad("anderswo")) != ["NETZ.ZRW"] or \
+                halbe_dateien(w.pfad("anderswo")):
+            e.status = -1
+        return e
+    return tu
 
 
 def wenig_speicher(w):
@@ -273,7 +277,17 @@ FAELLE = [
         ("Ziel ist eine Pipe", ziel_ist("rohr"), 1, f"{NICHT} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
         ("Ziel führt zu einem Gerät", ziel_ist("geraet"), 1, f"{NICHT} (keine gewöhnliche Datei)", UNVERAENDERT,
          ""),
-        ("Ziel ist ein Verweis auf eine Datei", verweis_als_ziel, 0, "", NEU, ""),
+        ("Ziel ist ein Verweis auf eine Datei", verweis_als_ziel(True), 0, "", NEU, ""),
+        ("Ziel ist ein Verweis auf eine Datei, die es noch nicht gibt", verweis_als_ziel(False), 0, "", NEU, ""),
+        ("Ziel ist ein Verweis in einen Ordner, den es nicht gibt",
+         mit(verweis("ziel/NETZ.ZRW", "weg/NETZ.ZRW"), *EXPORT, "NETZ.EIN"), 1, f"{NICHT} (nicht vorhanden)",
+         UNVERAENDERT, ""),
+        ("Ziel ist ein Verweis auf sich selbst", mit(verweis("ziel/NETZ.ZRW", "NETZ.ZRW"), *EXPORT, "NETZ.EIN"), 1,
+         f"{NICHT} (Verweise im Kreis)", UNVERAENDERT, ""),
+        ("Ziel ist nur lesbar", mit(lambda w: os.chmod(w.pfad("ziel/NETZ.ZRW"), 0o444), *EXPORT, "NETZ.EIN",
+                                    nutzer=NIEMAND), 1, f"{NICHT} (keine Berechtigung)", UNVERAENDERT, ""),
+        ("Name mit 255 Zeichen", mit(lambda w: os.rename(w.pfad("NETZ.EIN"), w.pfad("n" * 251 + ".EIN")), *EXPORT,
+                                     "n" * 251 + ".EIN"), 0, "", NEU, ""),
         ("Zielordner ist eine Datei", ruf("--export", "zrw", "--ziel", "KOORD.KF", "NETZ.EIN"), 1,
          "ein Teil des Pfades ist kein Ordner", UNVERAENDERT, ""),
         ("Zielordner ist ein Gerät", ruf("--export", "zrw", "--ziel", "/dev/full", "NETZ.EIN", nutzer=NIEMAND), 1,
@@ -319,6 +333,8 @@ FAELLE = [
         ("ohne Standardströme", geschlossene_ausgaben, 0, "", NEU, ""),
         ("Einfügung fehlt", mit(datei("a.EIN", EINBINDUNG.format("fehlt.SF")), *EXPORT, "a.EIN"), 1,
          "Kann Datei fehlt.SF nicht öffenen!", UNVERAENDERT, ""),
+        ("Einfügung mit Steuerzeichen im Namen", mit(datei("a.EIN", b"$NT 3\n$SF \x1b[31m\x7f\x81\x9by\n"), *EXPORT,
+                                                     "a.EIN"), 1, "nicht öffenen!", UNVERAENDERT, ""),
         ("Einfügung ist eine Pipe", mit(lambda w: (rohr("p.SF")(w), datei("a.EIN", EINBINDUNG.format("p.SF"))(w)),
                                         *EXPORT, "a.EIN"), 1, "Kann Datei p.SF nicht", UNVERAENDERT, ""),
         ("Einfügung ist ein Gerät", mit(datei("a.EIN", EINBINDUNG.format("/dev/zero")), *EXPORT, "a.EIN"), 1,
@@ -351,13 +367,20 @@ FAELLE = [
          AUF, UNVERAENDERT, ""),
         ("Einstellungsdatei ist keine", mit(datei("b.ini", os.urandom(5000)), *EXPORT, "--einstellungen", "b.ini",
                                             "NETZ.EIN"), 0, "", NEU, ""),
-        ("eigene Einstellungen sind eine Pipe", mit(rohr("heim/ZRWINI.ini"), *EXPORT, "NETZ.EIN"), (0, 1), None,
-         None, ""),
-        ("eigene Einstellungen sind ein Ordner", mit(ordner("heim/ZRWINI.ini"), *EXPORT, "NETZ.EIN"), (0, 1), None,
-         None, ""),
+        ("Einstellungsdatei mit Wert eigener Art und Größe, Speicher 512 MB",
+         lambda w: w.laeuft(*EXPORT, "--einstellungen",
+                            os.path.join(w.wurzel, "fuzz/korpus/Einstellungsdatei/riesiges_feld"), "NETZ.EIN",
+                            grenzen={"RLIMIT_AS": 512 << 20}), 0, "", NEU, "Speichergrenze"),
+        ("eigene Einstellungen sind eine Pipe", mit(rohr("heim/ZRWINI.ini"), *EXPORT, "NETZ.EIN"), 1,
+         f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
+        ("eigene Einstellungen sind ein Ordner", mit(ordner("heim/ZRWINI.ini"), *EXPORT, "NETZ.EIN"), 1,
+         f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
+        ("eigene Einstellungen führen zu einem Gerät", mit(verweis("heim/ZRWINI.ini", "/dev/zero"), *EXPORT,
+                                                           "NETZ.EIN"), 1, f"{AUF} (keine gewöhnliche Datei)",
+         UNVERAENDERT, ""),
         ("eigene Einstellungen mit 2 GB, Speicher 512 MB",
          mit(lambda w: subprocess.run(["truncate", "-s", "2G", w.pfad("heim/ZRWINI.ini")], check=True), *EXPORT,
-             "NETZ.EIN", grenzen={"RLIMIT_AS": 512 << 20}), (0, 1), None, None, "Speichergrenze"),
+             "NETZ.EIN", grenzen={"RLIMIT_AS": 512 << 20}), 1, "zu groß", UNVERAENDERT, "Speichergrenze"),
     ]),
     ("Aufruf", [
         ("Option ohne Wert", ruf("--export"), 2, "--export erwartet einen Wert", UNVERAENDERT, ""),

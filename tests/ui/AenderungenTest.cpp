@@ -294,6 +294,7 @@ TEST_F(Aenderungen, AbgelegteUndLetzteDateien) {
     dialoge.datei = ordner.filePath("m9.EIN");
     Knopf("LetzteDateienButton").click();
     EXPECT_TRUE(fenster.windowTitle().endsWith("m9.EIN"));
+    QCoreApplication::processEvents();  // the session is written when there is nothing else to do
     EXPECT_EQ(Sitzung(ordner.filePath("sitzung.ini")).LetzteDateien().front(), ordner.filePath("m9.EIN"));
 }
 

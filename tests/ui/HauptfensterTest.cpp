@@ -73,6 +73,53 @@ TEST_F(Hauptfenster, FehlerLassenDasNetzStehen) {
     EXPECT_EQ(netz.Netztyp, 3);
 }
 
+/// Real files, and no memory to read them into.
+class EngeDateien final : public Dateien {
+  public:
+    bool eng = false;
+
+    [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
+        if (eng) throw std::bad_alloc();
+        return echte_.Lies(datei, grenze);
+    }
+    [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& datei) const override {
+        return echte_.Stand(datei);
+    }
+    [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
+        return echte_.Beginne(datei);
+    }
+    [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& dort,
+                                                             const std::string& name) const override {
+        return echte_.Finde(dort, name);
+    }
+
+  private:
+    Systemdateien echte_;
+};
+
+TEST_F(Hauptfenster, OhneSpeicherBleibtAllesWieEsWar) {
+    EngeDateien enge;
+    TZrwMainDlg zweites(
+        {einstellungen, ablage, netz, zustand, enge, uhr, daten, drucker, dialoge, sitzung, "1.2"});
+    zweites.Oeffne(kBeispiel);
+    const Liste* vorher = zweites.Netz();
+    ASSERT_NE(vorher, nullptr);
+    const QString titel = zweites.windowTitle();
+    einstellungen.Fang = 9;
+    enge.eng = true;
+    Lege("klein.ZRW", "");
+    for (const QString& name : {QString(kBeispiel), ordner.filePath("klein.ZRW")}) {
+        dialoge.meldungen.clear();
+        zweites.Oeffne(name.toStdString());
+        ASSERT_EQ(dialoge.meldungen.size(), 1);
+        EXPECT_TRUE(dialoge.meldungen[0].startsWith("Der Speicher reicht nicht."))
+            << dialoge.meldungen[0].toStdString();
+        EXPECT_EQ(zweites.Netz(), vorher);
+        EXPECT_EQ(zweites.windowTitle(), titel);
+        EXPECT_EQ(einstellungen.Fang, 9);
+    }
+}
+
 TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
     std::string inhalt = "$NT 1\n$FP";
     for (int i = 0; i < 25; ++i)

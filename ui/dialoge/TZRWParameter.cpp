@@ -11,7 +11,9 @@
 #include <QSpinBox>
 #include <array>
 
+#include "model/Fehler.h"
 #include "model/Zahlentext.h"
+#include "ui/Einstellungsablage.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/Farbfeld.h"
 
@@ -210,7 +212,12 @@ void TZRWParameter::UebernimmResiduenmassstab() {
 
 void TZRWParameter::done(int ergebnis) {
     UebernimmResiduenmassstab();  // Escape and the window's cross leave no field before
-    SaveSettings(e_, speicher_);
+    try {
+        SichereEinstellungen(e_, speicher_);
+    } catch (const std::exception& f) {
+        dialoge_.Melde(AusUtf8(Fehlertext(f)) +
+                       QStringLiteral("\nSie gelten weiter, bis Zarwik beendet wird."));
+    }
     QDialog::done(ergebnis);
     if (geschlossen) geschlossen();
 }

@@ -1,0 +1,69 @@
+// Main window: what becomes of an unsaved plot when the program ends without a word.
+#include <QDateTime>
+#include <QFileInfo>
+#include <QLocale>
+#include <utility>
+
+#include "model/Rettungsstand.h"
+#include "ui/Hauptfenster.h"
+#include "ui/Rettung.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+
+/// Every minute, and before work that other programs take part in.
+void TZrwMainDlg::BewahreNetz() {
+    if (programm_.rettung == nullptr || liste_ == nullptr) return;
+    if (!Ungesichert()) return VergissRettung();
+    if (gedrueckt_ != nullptr) return;  // figures that are being dragged are marked invisible
+    try {
+        const QString name = titel_.mid(QStringLiteral("Zarwik ").size());
+        programm_.rettung->Bewahre(SchreibeRettung(*liste_, programm_.netz, NachUtf8(name)));
+        rettungGestoert_ = false;
+    } catch (const std::exception& f) {
+        // Nothing is lost yet: no message box once a minute.
+        if (!std::exchange(rettungGestoert_, true))
+            ZeigeStatus(QStringLiteral("Der Netzplan kann nicht für den Notfall bewahrt werden: ") +
+                        AusUtf8(f.what()));
+    }
+}
+
+void TZrwMainDlg::VergissRettung() {
+    if (programm_.rettung != nullptr) programm_.rettung->Vergiss();
+}
+
+bool TZrwMainDlg::BieteRettungAn() {
+    if (programm_.rettung == nullptr) return false;
+    Rettung& rettung = *programm_.rettung;
+    for (const QString& datei : rettung.Hinterlassene()) {
+        try {
+            Rettungsstand stand = LiesRettung(rettung.Lies(datei), programm_.einstellungen, NachUtf8(datei));
+            const QString name = AusUtf8(stand.name);
+            const QString zeit =
+                QLocale(QLocale::German)
+                    .toString(QFileInfo(datei).lastModified(), QStringLiteral("dd.MM.yyyy HH:mm"));
+            if (!programm_.dialoge.Frage(
+                    QStringLiteral("Zarwik wurde nicht ordentlich beendet. Der Netzplan\n%1\nwar nicht "
+                                   "gespeichert und ist vom Stand %2 Uhr noch da.\n\nWiederherstellen?")
+                        .arg(QFileInfo(name).fileName(), zeit))) {
+                rettung.LegeAb(datei);
+                continue;
+            }
+            Lesung lesung;
+            lesung.liste = std::move(stand.liste);
+            lesung.netz = stand.netz;
+            Uebernimm(std::move(lesung), NachPfad(name));
+            ungesichert_ = true;
+            ZeigeTitel();
+            BewahreNetz();
+            rettung.Entferne(datei);
+            return true;
+        } catch (const std::exception& f) {
+            ZeigeFehler(f);
+            rettung.LegeAb(datei);
+        }
+    }
+    return false;
+}
+
+}  // namespace zrw
