@@ -13,6 +13,8 @@ class Gezeigt {
   public:
     explicit Gezeigt(const Liste& liste) : liste_(liste), antworten_(kMaxPunkte + 1) {}
 
+    /// What is known already, of the newest point of the number.
+    void Nimm(PunktIndex nr, bool gezeigt) { antworten_[nr] = gezeigt ? Antwort::Ja : Antwort::Nein; }
     /// There is such a point, and its kind is switched on.
     [[nodiscard]] bool operator()(PunktIndex nr) {
         Antwort& a = antworten_[nr];

@@ -68,9 +68,13 @@ void Bildaufbau::Sammle() {
     std::size_t anzahl = 0;
     FuerAlle(punkte_, false, [&](PunktKnoten& p) {
         const Bildpunkt ort = p.Item->Position();
-        orte_.Nimm(p.PNr, ort);
-        if (p.Item->Visible && liste_.Dargestellt(*p.Item) && Beruehrt(ort, ort, symbole_))
-            punkte_[anzahl++] = &p;
+        const bool dargestellt = liste_.Dargestellt(*p.Item);
+        // Of several points of a number, lines and labels follow the newest.
+        if (liste_.SuchPkt(p.PNr) == &p) {
+            orte_.Nimm(p.PNr, ort);
+            gezeigt_.Nimm(p.PNr, dargestellt);
+        }
+        if (p.Item->Visible && dargestellt && Beruehrt(ort, ort, symbole_)) punkte_[anzahl++] = &p;
     });
     punkte_.resize(anzahl);
     if (liste_.ShowPktText && liste_.ShowHilfP) liste_.SammleTexte(nummern_, texte_);

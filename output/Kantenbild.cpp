@@ -54,7 +54,8 @@ struct Kantenbild::Lage {
     std::int64_t gy = 0;
     double umweg = 0.0;  ///< height of the detour of indirect lines
 
-    Lage(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende, const Einstellungen& groessen)
+    Lage(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang, const Bildpunkt& ende,
+         const Einstellungen& groessen)
         : s(anfang), e(ende) {
         const std::int64_t dx = Differenz(e.x, s.x);
         const std::int64_t dy = Differenz(e.y, s.y);
@@ -79,7 +80,7 @@ struct Kantenbild::Lage {
     }
 };
 
-Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende,
+Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang, const Bildpunkt& ende,
                        const Einstellungen& groessen) {
     if (anfang == ende) return;
     const bool gps = kAttr.Hat(KanteAttr::GPS);

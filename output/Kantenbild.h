@@ -64,7 +64,7 @@ class Kantenbild {
   public:
     /// @param a, e ends of the line [px]; equal ends give nothing
     /// @param e sizes in dots of the device that is drawn on
-    Kantenbild(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt anfang, Bildpunkt ende,
+    Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang, const Bildpunkt& ende,
                const Einstellungen& groessen);
 
     Kantenbild(const Kantenbild&) = delete;

@@ -45,17 +45,18 @@ class Textzeile {
     /// @return false: it does not fit in here
     [[nodiscard]] bool Nimm(const Pixelglyphe& g) {
         const Pixelmaske& m = g.maske;
-        if (!m.worte.empty()) {
-            if (anzahl_ == kMeisteZeichen || m.weite > 64) return false;
-            glyphen_[anzahl_++] = {&m, stelle_ + m.links};
-            links_ = std::min(links_, stelle_ + m.links);
-            rechts_ = std::max(rechts_, stelle_ + m.links + m.weite - 1);
-            oben_ = std::min(oben_, m.oben);
-            unten_ = std::max(unten_, m.oben + m.hoehe - 1);
-        }
+        const int links = stelle_ + m.links;
         stelle_ += g.vorschub;
-        return anzahl_ == 0 || (rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe);
+        if (m.worte.empty()) return true;
+        if (anzahl_ == kMeisteZeichen || m.weite > 64) return false;
+        glyphen_[anzahl_++] = {&m, links};
+        links_ = std::min(links_, links);
+        rechts_ = std::max(rechts_, links + m.weite - 1);
+        oben_ = std::min(oben_, m.oben);
+        unten_ = std::max(unten_, m.oben + m.hoehe - 1);
+        return true;
     }
+    [[nodiscard]] bool Passt() const { return rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe; }
     [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
     [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
         return {ort.x + links_, ort.y + oben_, ort.x + rechts_, ort.y + unten_};
@@ -299,7 +300,9 @@ void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     for (const char c : text) {
         if (!zeile.Nimm(Zeichen(c))) return LangerText(ort, text, farbe);
     }
-    if (zeile.Leer() || pixel_.Verdeckt(zeile.Umfang(ort))) return;
+    if (zeile.Leer()) return;
+    if (!zeile.Passt()) return LangerText(ort, text, farbe);
+    if (pixel_.Verdeckt(zeile.Umfang(ort))) return;
     zeile.Setze(pixel_, ort, Pixelfarbe(farbe));
 }
 
