@@ -17,7 +17,8 @@ void TZrwMainDlg::BewahreNetz() {
     if (!Ungesichert()) return VergissRettung();
     if (gedrueckt_ != nullptr) return;  // figures that are being dragged are marked invisible
     try {
-        const QString name = titel_.mid(QStringLiteral("Zarwik ").size());
+        // The next run may start in another folder.
+        const QString name = QFileInfo(titel_.mid(QStringLiteral("Zarwik ").size())).absoluteFilePath();
         programm_.rettung->Bewahre(SchreibeRettung(*liste_, programm_.netz, NachUtf8(name)));
         rettungGestoert_ = false;
     } catch (const std::exception& f) {
