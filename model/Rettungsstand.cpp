@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/BilddateiFormat.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
 
@@ -16,6 +17,21 @@ std::vector<PPunktKnoten> Punkte(const Liste& liste) {
     for (PPunktKnoten p = liste.PunktKnoten; p != nullptr; p = p->Next)
         punkte.push_back(p);
     return punkte;
+}
+
+/// The picture file's part. A picture file counts its lines in 16 bits only; here all of them follow.
+std::unique_ptr<Liste> LadeGanz(ByteLeser& f, const Einstellungen& einstellungen, Netzangaben& netz,
+                                const std::string& datei) {
+    auto liste = Liste::Load(f, einstellungen, netz, datei);
+    const bool weitere = f.Rest() >= bilddatei::kKantensatz;
+    while (f.Rest() >= bilddatei::kKantensatz) {
+        const PunktIndex a = f.U16();
+        const PunktIndex e = f.U16();
+        liste->AddKante(Kante::Load(f), a, e);
+        ++liste->MaxKant;
+    }
+    if (weitere) liste->WeltinBild();
+    return liste;
 }
 
 }  // namespace
@@ -45,13 +61,13 @@ Rettungsstand LiesRettung(std::string_view bytes, const Einstellungen& einstellu
     const std::uint32_t anzahl = f.U32();
     if (!f.Gut() || anzahl > f.Rest()) throw beschaedigt();
     const std::string_view arten = f.Text(anzahl);
-    const auto geladen = Liste::Load(f, einstellungen, stand.netz, datei);
+    const auto geladen = LadeGanz(f, einstellungen, stand.netz, datei);
     if (Punkte(*geladen).size() != anzahl) throw beschaedigt();
     // Loading turns the order of the figures round; twice brings it back.
     ByteSchreiber g;
     geladen->Store(g, stand.netz);
     ByteLeser zurueck(g.Inhalt());
-    stand.liste = Liste::Load(zurueck, einstellungen, stand.netz, datei);
+    stand.liste = LadeGanz(zurueck, einstellungen, stand.netz, datei);
     const std::vector<PPunktKnoten> punkte = Punkte(*stand.liste);
     for (std::size_t i = 0; i < punkte.size(); ++i) {
         const auto art = static_cast<std::uint8_t>(arten[i]);

@@ -7,7 +7,7 @@
 //   n      name of the plot for the user, UTF-8
 //   4      number of points, u32
 //   n      kind of each point (PunktArt), in the order of the point records, one byte each
-//   rest   picture file (BilddateiFormat.h)
+//   rest   picture file (BilddateiFormat.h), followed by the lines that it has no numbers for
 #pragma once
 
 #include <memory>

@@ -45,6 +45,20 @@ TEST(Rettungsstand, BringtAllesZurueck) {
         EXPECT_THROW((void)LiesRettung(rettung.substr(0, laenge), n.e, "x"), Fehler) << laenge;
 }
 
+TEST(Rettungsstand, MehrLinienAlsEineZarwikdateiZaehlt) {
+    Probenetz n;
+    n.P(1);
+    n.P(2, 5, 5);
+    n.T(1, "A");
+    n.T(2, "B");
+    for (int i = 0; i < 65536 + 40; ++i)
+        n.K(1, 2, static_cast<LinieAttr>(i % 7));
+    n.l.WeltinBild();
+    const std::string rettung = SchreibeRettung(n.l, {}, "x");
+    const Rettungsstand stand = LiesRettung(rettung, n.e, "x");
+    EXPECT_TRUE(Bytes(*stand.liste, {}) == Bytes(n.l, {}));
+}
+
 TEST(Rettung, HinterlassenesWirdGefundenFremdesNicht) {
     const QTemporaryDir ordner;
     const QString pfad = ordner.filePath("rettung");
