@@ -144,6 +144,36 @@ TEST(Ansicht, BildinWeltIstDieUmkehrung) {
     }
 }
 
+// From the size of atoms to that of the sun's system: as long as doubles can tell pixels apart, every pixel
+// comes back, zooming in and out again leads where it began, and the top-left corner stays in place.
+TEST(Ansicht, JederMassstabFindetSeinePixelWieder) {
+    std::mt19937 zufall(11);
+    const auto pixel = [&] { return static_cast<std::int64_t>(zufall() % 20001) - 10000; };
+    for (int zehner = -12; zehner <= 12; ++zehner) {
+        Ansichtsnetz n;
+        n.l.Faktor = std::pow(10.0, zehner) * (1.0 + static_cast<double>(zufall() % 1000) / 999);
+        // A place a milliard pixels away has seven digits left below the pixel.
+        n.l.XOffset = n.l.Faktor * 1e9 - n.l.MinXW;
+        n.l.YOffset = n.l.Faktor * -1e9 - n.l.MaxYW;
+        for (int i = 0; i < 40; ++i) {
+            SCOPED_TRACE(std::to_string(zehner) + "/" + std::to_string(i));
+            const Bildpunkt b{pixel(), pixel()};
+            const Welt w = n.l.BildinWelt(b);
+            n.l.Versetze(*n.l.PunktKnoten, w);
+            n.l.WeltinBild();
+            ASSERT_EQ(n.l.PunktKnoten->Item->Position(), b);
+            const Welt ecke = n.l.BildinWelt({});
+            const double vorher = n.l.Faktor;
+            n.l.ZoomUp(n.z);
+            ASSERT_EQ(n.l.BildinWelt({}).rechts, ecke.rechts);
+            n.l.ZoomDown(n.z);
+            ASSERT_EQ(n.l.PunktKnoten->Item->Position(), b);
+            ASSERT_NEAR(n.l.Faktor / vorher, 1.0, 1e-15);
+            n.l.Faktor = vorher;
+        }
+    }
+}
+
 // Picture files bring any view.
 TEST(Ansicht, JedeAnsichtBleibtImWertebereich) {
     for (const double faktor : {0.0, -0.0, kInf, -kInf, std::nan(""), 5e-324, 1.7e308, -3.0}) {
