@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
 """Prints the rows that the benchmark programs wrote as one table and keeps them as JSON.
+Beside the JSON copy stands the table for docs/leistung.md (the same name with .md).
 usage: tabelle.py ZEILEN ERGEBNIS.json   (ZEILEN: one JSON object a line, see Tabelle.h)"""
 import json
 import os
@@ -25,6 +26,16 @@ def spalten(z):
     return [z["was"], *eigene, *vergleich, verhaeltnis, ziel, erreicht]
 
 
+def dokument(tabelle):
+    """The rows as the document has them: minimum / median, decimal commas."""
+    zeilen = ["| was | Zarwik min / Median | Vergleich min / Median | Verhältnis | Ziel | erreicht |", "|---|---|---|---|---|---|"]
+    for was, a, b, c, d, verhaeltnis, ziel, erreicht in tabelle:
+        werte = [" / ".join(w for w in paar if w) for paar in ((a, b), (c, d))]
+        felder = [*werte, verhaeltnis, ziel, erreicht.replace("NEIN", "**nein**")]
+        zeilen.append("| " + " | ".join([was.strip(), *(f.replace(".", ",") for f in felder)]) + " |")
+    return "\n".join(zeilen) + "\n"
+
+
 def main():
     with open(sys.argv[1], encoding="utf-8") as f:
         zeilen = [json.loads(z) for z in f if z.strip()]
@@ -38,6 +49,8 @@ def main():
     verfehlt = [z["was"] for z in mit_ziel if not z["erreicht"]]
     print(f"\nZeiten in ms, wo nichts anderes steht; Verhältnis: Median der Runden. "
           f"{len(mit_ziel) - len(verfehlt)} von {len(mit_ziel)} Zielen erreicht.")
+    with open(sys.argv[2].removesuffix(".json") + ".md", "w", encoding="utf-8") as f:
+        f.write(dokument(tabelle[1:]))
     with open(sys.argv[2], "w", encoding="utf-8") as f:
         json.dump({"zeit": time.strftime("%Y-%m-%dT%H:%M:%S"), "last": os.getloadavg()[0], "zeilen": zeilen}, f,
                   ensure_ascii=False, indent=1)

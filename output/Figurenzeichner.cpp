@@ -216,7 +216,7 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
     // Tick beside the marker, height marks before the symbol, detour; rounding moves each by a pixel.
     constexpr std::int64_t kRunden = 2;
     return kRunden + std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich,
-                               std::int64_t{e.PTSize} + 3 * e.Querstrich, std::int64_t{e.Umweggroesse}});
+                               e.PTSize + std::int64_t{3} * e.Querstrich, std::int64_t{e.Umweggroesse}});
 }
 
 /// Whether a line with its marks may touch the surface.

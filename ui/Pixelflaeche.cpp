@@ -62,9 +62,10 @@ class Textzeile {
         return {ort.x + links_, ort.y + oben_, ort.x + rechts_, ort.y + unten_};
     }
     void Setze(Pixelbild& bild, Flaechenpunkt ort, std::uint32_t farbe) const {
+        constexpr std::size_t kMeisteWorte = std::size_t{kWeite / 64} * kHoehe;
         const std::size_t worte = static_cast<std::size_t>(rechts_ - links_) / 64 + 1;
-        std::array<std::uint64_t, (kWeite / 64) * kHoehe> bits;
-        const auto hoehe = static_cast<std::size_t>(unten_ - oben_ + 1);
+        std::array<std::uint64_t, kMeisteWorte> bits;
+        const std::size_t hoehe = static_cast<std::size_t>(unten_ - oben_) + 1;
         std::fill_n(bits.begin(), worte * hoehe, 0);
         for (std::size_t n = 0; n < anzahl_; ++n) {
             const Pixelmaske& m = *glyphen_[n].maske;
