@@ -53,7 +53,7 @@ class Versetzer {
             const auto fern = [](std::int64_t v) {
                 return static_cast<std::uint64_t>(v) + kWeit >= 2 * kWeit;
             };
-            anders_ |= fern(x) | fern(y) | fern(neu.x) | fern(neu.y);
+            if (fern(x) || fern(y) || fern(neu.x) || fern(neu.y)) anders_ = true;
             if (!anders_) anders_ = neu.x - x != weg_.x || neu.y - y != weg_.y;
         }
         x = neu.x;
