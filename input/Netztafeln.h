@@ -12,6 +12,7 @@
 #include "model/Figuren.h"
 #include "model/GrosserSpeicher.h"
 #include "model/Markentafel.h"
+#include "model/Saat.h"
 #include "model/Werte.h"
 
 namespace zrw {

@@ -12,6 +12,7 @@
 #include "model/Arena.h"
 #include "model/Knoten.h"
 #include "model/Markentafel.h"
+#include "model/Saat.h"
 #include "model/Werte.h"
 
 namespace zrw {

@@ -7,7 +7,6 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <utility>
 #include <vector>
 
@@ -20,12 +19,6 @@ inline void HoleVor([[maybe_unused]] const void* platz) {
 #ifdef __GNUC__
     __builtin_prefetch(platz);
 #endif
-}
-
-/// A secret of its own for every table: a file cannot be made so that all its keys meet in one place.
-[[nodiscard]] inline std::uint64_t NeueSaat() {
-    std::random_device zufall;
-    return std::uint64_t{zufall()} << 32U | zufall();
 }
 
 /// Callers hand over the hash of the key they mean, and tell it of a thing, `streuwert(nr)`, or whether a

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/Saat.h"
+
 namespace zrw {
 
 /// Open addressing from a key to a value that is false where there is none. The keys stand in the table
@@ -12,8 +14,6 @@ namespace zrw {
 template <class Schluessel, class Wert>
 class Streutafel {
   public:
-    explicit Streutafel(std::uint64_t saat) : saat_(saat) {}
-
     [[nodiscard]] Wert Finde(const Schluessel& s) const {
         if (faecher_.empty()) return {};
         return faecher_[Suche(s)].wert;
@@ -54,7 +54,7 @@ class Streutafel {
             if (f.wert) faecher_[Suche(f.schluessel)] = f;
         }
     }
-    std::uint64_t saat_;
+    std::uint64_t saat_ = NeueSaat();
     std::vector<Fach> faecher_;
     std::size_t belegt_ = 0;
 };

@@ -53,7 +53,7 @@ class TDM final : public Punktergebnisse {
     /// Results and the way to them: a picture asks once for every point.
     struct Punkttafel {
         std::vector<Punktergebnis> werte;
-        Streutafel<PunktNummernTyp, const Punktergebnis*> zu{0x5A4157494BULL};
+        Streutafel<PunktNummernTyp, const Punktergebnis*> zu;
 
         Punkttafel() = default;
         // A copy would point into the results of the other.
