@@ -10,13 +10,13 @@
 #include <utility>
 
 #include "model/Fehler.h"
+#include "model/GrosserSpeicher.h"
 
 #ifdef _WIN32
 #include <io.h>
 #include <process.h>
 #else
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -119,18 +119,10 @@ bool Schreibbar(const fs::path& p) {
 }
 #endif
 
-/// A buffer of so many bytes in few large pages where the system has them: to touch four kilobytes at a time
-/// takes a multiple of the time that reading takes.
 std::string Puffer(std::size_t groesse) {
     std::string puffer;
     puffer.reserve(groesse);
-#ifdef MADV_HUGEPAGE
-    constexpr std::uintptr_t kGrosseSeite = std::uintptr_t{2} << 20U;
-    const auto ort = reinterpret_cast<std::uintptr_t>(puffer.data());
-    const std::uintptr_t anfang = (ort + kGrosseSeite - 1) / kGrosseSeite * kGrosseSeite;
-    const std::uintptr_t ende = (ort + groesse) / kGrosseSeite * kGrosseSeite;
-    if (ende > anfang) (void)::madvise(puffer.data() + (anfang - ort), ende - anfang, MADV_HUGEPAGE);
-#endif
+    FasseInGrosseSeiten(puffer.data(), groesse);
     puffer.resize(groesse);
     return puffer;
 }

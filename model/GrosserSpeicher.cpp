@@ -1,5 +1,6 @@
 #include "model/GrosserSpeicher.h"
 
+#include <cstdint>
 #include <new>
 
 #ifdef __linux__
@@ -23,14 +24,19 @@ void* NimmSpeicher(std::size_t bytes, std::size_t genutzt) {
     // A whole number of pages: whoever comes next shall not lie in the last one.
     const std::size_t ganz = (bytes + kSeite - 1) / kSeite * kSeite;
     void* speicher = ::operator new(ganz, kGrenze);
-#ifdef MADV_HUGEPAGE
     // A page of which little is used would cost more memory than it saves time.
-    const std::size_t seiten = (genutzt + kSeite / 2) / kSeite;
-    if (seiten > 0) (void)::madvise(speicher, seiten * kSeite, MADV_HUGEPAGE);
-#else
-    (void)genutzt;
-#endif
+    FasseInGrosseSeiten(speicher, (genutzt + kSeite / 2) / kSeite * kSeite);
     return speicher;
+}
+
+void FasseInGrosseSeiten([[maybe_unused]] void* speicher, [[maybe_unused]] std::size_t bytes) {
+#ifdef MADV_HUGEPAGE
+    const auto ort = reinterpret_cast<std::uintptr_t>(speicher);
+    const std::uintptr_t anfang = (ort + kSeite - 1) / kSeite * kSeite;
+    const std::uintptr_t ende = (ort + bytes) / kSeite * kSeite;
+    if (ende > anfang)
+        (void)::madvise(static_cast<std::byte*>(speicher) + (anfang - ort), ende - anfang, MADV_HUGEPAGE);
+#endif
 }
 
 void GibSpeicher(void* speicher, std::size_t bytes) noexcept {

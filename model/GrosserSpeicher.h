@@ -9,6 +9,8 @@ namespace zrw {
 /// Memory for any type. @param genutzt how many of the bytes are expected to be written; the rest costs
 /// nothing before it is
 [[nodiscard]] void* NimmSpeicher(std::size_t bytes, std::size_t genutzt);
+/// Asks for large pages behind memory that is already there, as far as it covers whole ones.
+void FasseInGrosseSeiten(void* speicher, std::size_t bytes);
 /// @param bytes as it was taken
 void GibSpeicher(void* speicher, std::size_t bytes) noexcept;
 
