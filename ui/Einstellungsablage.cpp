@@ -64,11 +64,6 @@ void Einstellungsablage::Sichere() {
     if (registry_->status() != QSettings::NoError) throw Fehler(text + ".", NachUtf8(registry_->fileName()));
 }
 
-void SichereEinstellungen(const Einstellungen& e, EinstellungsSpeicher& speicher) {
-    SaveSettings(e, speicher);
-    if (auto* ablage = dynamic_cast<Einstellungsablage*>(&speicher)) ablage->Sichere();
-}
-
 std::optional<std::filesystem::path> TavelinOrdner(const EinstellungsSpeicher& ablage) {
     constexpr const char* kAlias = "TAVELIN";
     if (qEnvironmentVariableIsSet(kAlias)) return NachPfad(qEnvironmentVariable(kAlias));

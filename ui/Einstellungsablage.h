@@ -20,22 +20,15 @@ class Einstellungsablage final : public EinstellungsSpeicher {
 
     [[nodiscard]] std::optional<std::string> Lies(std::string_view schluessel) const override;
     void Schreibe(std::string_view schluessel, const std::string& text) override;
+    void Sichere() override;
 
     /// Why the stored settings could not be read; there are none then.
     [[nodiscard]] std::optional<Fehler> Lesefehler() const;
-
-    /// Writes what is pending. @throws Fehler where the store cannot be written; it keeps the values in
-    /// memory
-    void Sichere();
 
   private:
     std::unique_ptr<QSettings> registry_;  ///< one of the two
     std::optional<Inidatei> datei_;
 };
-
-/// Writes the settings, onto the disk too where the store is kept there.
-/// @throws Fehler where that cannot be done; the store keeps the values in memory
-void SichereEinstellungen(const Einstellungen& e, EinstellungsSpeicher& speicher);
 
 /// Folder of the result tables as the user set it under the name "TAVELIN", in the environment or among the
 /// settings; none where it is not set.

@@ -118,7 +118,8 @@ TEST_F(InidateiTest, UnlesbaresHaeltNichtAufUndBleibt) {
         EXPECT_EQ(vorher.st_ino, nachher.st_ino);
         ASSERT_EQ(std::remove(name.toUtf8()), 0);
         // As soon as it can be saved, it is.
-        SichereEinstellungen(e, ablage);
+        SaveSettings(e, ablage);
+        ablage.Sichere();
         EXPECT_EQ(Einstellungsablage(name).Lies("Fang"), "9");
         ASSERT_EQ(std::remove(name.toUtf8()), 0);
     }

@@ -213,7 +213,8 @@ void TZRWParameter::UebernimmResiduenmassstab() {
 void TZRWParameter::done(int ergebnis) {
     UebernimmResiduenmassstab();  // Escape and the window's cross leave no field before
     try {
-        SichereEinstellungen(e_, speicher_);
+        SaveSettings(e_, speicher_);
+        speicher_.Sichere();
     } catch (const std::exception& f) {
         dialoge_.Melde(AusUtf8(Fehlertext(f)) +
                        QStringLiteral("\nSie gelten weiter, bis Zarwik beendet wird."));
