@@ -38,6 +38,7 @@ class QStringListModel;
 
 namespace zrw {
 
+struct Rettungsstand;
 class Hilfefenster;
 class TFormBeobTyp;
 class TFormData;
@@ -184,6 +185,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
 
     // HauptfensterRettung.cpp
     void BewahreNetz();
+    std::optional<Rettungsstand> LiesHinterlassenes(const QString& datei);
     void VergissRettung();
 
     // HauptfensterDruck.cpp

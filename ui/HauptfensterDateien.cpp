@@ -159,6 +159,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         ereignis->ignore();
         return;
     }
+    bewahrung_.stop();
     VergissRettung();
     LoeseWerkzeuge();
     // An open settings window keeps what was chosen in it; the help would keep the program running.

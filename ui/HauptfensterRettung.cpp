@@ -38,8 +38,9 @@ bool TZrwMainDlg::BieteRettungAn() {
     Rettung& rettung = *programm_.rettung;
     for (const QString& datei : rettung.Hinterlassene()) {
         try {
-            Rettungsstand stand = LiesRettung(rettung.Lies(datei), programm_.einstellungen, NachUtf8(datei));
-            const QString name = AusUtf8(stand.name);
+            std::optional<Rettungsstand> stand = LiesHinterlassenes(datei);
+            if (!stand) continue;
+            const QString name = AusUtf8(stand->name);
             const QString zeit =
                 QLocale(QLocale::German)
                     .toString(QFileInfo(datei).lastModified(), QStringLiteral("dd.MM.yyyy HH:mm"));
@@ -51,8 +52,8 @@ bool TZrwMainDlg::BieteRettungAn() {
                 continue;
             }
             Lesung lesung;
-            lesung.liste = std::move(stand.liste);
-            lesung.netz = stand.netz;
+            lesung.liste = std::move(stand->liste);
+            lesung.netz = stand->netz;
             Uebernimm(std::move(lesung), NachPfad(name));
             ungesichert_ = true;
             ZeigeTitel();
@@ -60,11 +61,23 @@ bool TZrwMainDlg::BieteRettungAn() {
             rettung.Entferne(datei);
             return true;
         } catch (const std::exception& f) {
-            ZeigeFehler(f);
-            rettung.LegeAb(datei);
+            ZeigeFehler(f);  // the file stays: the next start may have more luck
         }
     }
     return false;
+}
+
+/// @return nothing for a damaged file, which is put aside
+/// @throws std::exception where the plot may be read another time
+std::optional<Rettungsstand> TZrwMainDlg::LiesHinterlassenes(const QString& datei) {
+    const std::string bytes = programm_.rettung->Lies(datei);
+    try {
+        return LiesRettung(bytes, programm_.einstellungen, NachUtf8(datei));
+    } catch (const Fehler& f) {
+        ZeigeFehler(f);
+        programm_.rettung->LegeAb(datei);
+        return std::nullopt;
+    }
 }
 
 }  // namespace zrw
