@@ -1,5 +1,6 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
 #include <QComboBox>
+#include <QScopedValueRollback>
 #include <QStringListModel>
 #include <algorithm>
 #include <iterator>
@@ -47,17 +48,16 @@ const Netzaenderung& TZrwMainDlg::Aenderung(int i) const {
 }
 
 void TZrwMainDlg::Tue(std::unique_ptr<Netzaenderung> aenderung) {
-    Netzaenderung* getan = aenderung.release();
-    Fuehre(*getan, [this, getan] { aenderungen_.push(getan); });
+    const Netzaenderung& neu = *aenderung;
+    Fuehre(neu, [&] { aenderungen_.push(aenderung.release()); });
 }
 
 /// Makes a change or takes it back, and draws the picture where it shows.
 template <class Tat>
 void TZrwMainDlg::Fuehre(const Netzaenderung& aenderung, Tat tat) {
     if (liste_ != nullptr) pflege_.Vorher(*liste_, aenderung.Betroffene());
-    laufende_ = &aenderung;
+    const QScopedValueRollback laufend(laufende_, &aenderung);
     tat();
-    laufende_ = nullptr;
 }
 
 /// A change was made, undone or made again.
