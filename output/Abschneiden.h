@@ -22,6 +22,16 @@ namespace zrw {
     return {static_cast<std::int32_t>(b.x), static_cast<std::int32_t>(b.y)};
 }
 
+/// The rectangle that shapes between two positions and `rand` dots round them touch. Positions far outside
+/// come nearer, and stay outside.
+[[nodiscard]] inline Rechteck Umgebung(Bildpunkt a, Bildpunkt b, std::int64_t rand) {
+    constexpr std::int64_t kWeit = 1 << 30;
+    const auto begrenzt = [=](std::int64_t v) { return std::clamp(v, -kWeit, kWeit); };
+    const auto dot = [](std::int64_t v) { return static_cast<std::int32_t>(v); };
+    return {dot(begrenzt(std::min(a.x, b.x)) - rand), dot(begrenzt(std::min(a.y, b.y)) - rand),
+            dot(begrenzt(std::max(a.x, b.x)) + rand), dot(begrenzt(std::max(a.y, b.y)) + rand)};
+}
+
 /// Distance from the visible rectangle within which devices compute exactly.
 inline constexpr std::int64_t kGrosszuegig = 8192;
 

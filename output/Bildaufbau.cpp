@@ -5,6 +5,7 @@
 
 #include "model/FigListe.h"
 #include "model/Gezeigt.h"
+#include "output/Abschneiden.h"
 #include "output/Figurenzeichner.h"
 
 namespace zrw {
@@ -162,12 +163,7 @@ void Bildaufbau::ZeichneTexte(bool vonVorn) {
 
 /// Nothing of a shape between two positions would be seen behind what is there.
 bool Bildaufbau::Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const {
-    // Shapes far out are never covered as a whole.
-    constexpr std::int64_t kWeit = 1 << 30;
-    return flaeche_.Verdeckt({static_cast<std::int32_t>(std::max(std::min(a.x, b.x), -kWeit) - r),
-                              static_cast<std::int32_t>(std::max(std::min(a.y, b.y), -kWeit) - r),
-                              static_cast<std::int32_t>(std::min(std::max(a.x, b.x), kWeit) + r),
-                              static_cast<std::int32_t>(std::min(std::max(a.y, b.y), kWeit) + r)});
+    return flaeche_.Verdeckt(Umgebung(a, b, r));
 }
 
 void Bildaufbau::Zeichne() {

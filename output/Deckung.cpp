@@ -45,11 +45,9 @@ void Deckung::Voll(std::size_t spalte, std::size_t reihe) {
 }
 
 bool Deckung::Verdeckt(const Rechteck& r) const {
-    const std::int32_t links = std::max(r.links, ausschnitt_.links);
-    const std::int32_t oben = std::max(r.oben, ausschnitt_.oben);
-    const std::int32_t rechts = std::min(r.rechts, ausschnitt_.rechts);
-    const std::int32_t unten = std::min(r.unten, ausschnitt_.unten);
-    if (links > rechts || oben > unten) return true;
+    const Rechteck sicht = Geschnitten(r, ausschnitt_);
+    if (Leer(sicht)) return true;
+    const auto [links, oben, rechts, unten] = sicht;
     const std::size_t erste = static_cast<std::size_t>(oben) / kKachelhoehe;
     const std::size_t tiefe = static_cast<std::size_t>(unten) / kKachelhoehe - erste + 1;
     for (std::size_t s = static_cast<std::size_t>(links) / 64; s <= static_cast<std::size_t>(rechts) / 64;

@@ -33,16 +33,6 @@ Dxfart Kantenart(bool gestrichelt) {
     return {dxf::kBeobachtungen, gestrichelt ? dxf::kGestrichelt : dxf::kDurchgezogen};
 }
 
-std::int32_t Begrenzt(std::int64_t v) {
-    constexpr std::int64_t kWeit = 1 << 30;
-    return static_cast<std::int32_t>(std::clamp(v, -kWeit, kWeit));
-}
-
-Rechteck Umgebung(Bildpunkt ort, std::int64_t r) {
-    return {Begrenzt(Differenz(ort.x, r)), Begrenzt(Differenz(ort.y, r)), Begrenzt(Summe(ort.x, r)),
-            Begrenzt(Summe(ort.y, r))};
-}
-
 constexpr Dxfart kPunktart{dxf::kPunkte};
 constexpr Dxfart kTextart{dxf::kPunktnummern};
 
@@ -64,31 +54,24 @@ Dxfpunkt Figurenzeichner::Weltort(Bildpunkt b) const {
 }
 
 Rechteck Figurenzeichner::Umfang(const Punkt& punkt) const {
-    return Umgebung(punkt.Position(), Symbolreichweite());
+    return Umgebung(punkt.Position(), punkt.Position(), Symbolreichweite());
 }
 
 Rechteck Figurenzeichner::Umfang(const Kante& kante) const {
-    const Rechteck a = Umgebung(kante.Position(), Kantenreichweite());
-    const Rechteck e = Umgebung(kante.Ende(), Kantenreichweite());
-    return {std::min(a.links, e.links), std::min(a.oben, e.oben), std::max(a.rechts, e.rechts),
-            std::max(a.unten, e.unten)};
+    return Umgebung(kante.Position(), kante.Ende(), Kantenreichweite());
 }
 
 Rechteck Figurenzeichner::Umfang(const PktText& text) const {
-    if (zustand_.flaeche == nullptr) return kNichts;
+    if (zustand_.flaeche == nullptr) return kKeinRechteck;
+    const Bildpunkt ort = text.Textort();
+    const Bildpunkt ende{Summe(ort.x, zustand_.flaeche->Textbreite(text.Aus.Text())),
+                         Summe(ort.y, zustand_.flaeche->Texthoehe())};
     // Glyphs may stand out of their line.
-    const std::int32_t rand = zustand_.flaeche->Texthoehe();
-    Rechteck r = Umgebung(text.Textort(), rand);
-    r.rechts = Begrenzt(std::int64_t{r.rechts} + zustand_.flaeche->Textbreite(text.Aus.Text()));
-    r.unten = Begrenzt(std::int64_t{r.unten} + rand);
-    return r;
+    return Umgebung(ort, ende, zustand_.flaeche->Texthoehe());
 }
 
 void Figurenzeichner::MerkeGewischt(const Rechteck& r) {
-    Rechteck& g = gewischt_;
-    g = g.links > g.rechts ? r
-                           : Rechteck{std::min(g.links, r.links), std::min(g.oben, r.oben),
-                                      std::max(g.rechts, r.rechts), std::max(g.unten, r.unten)};
+    gewischt_ = Vereint(gewischt_, r);
 }
 
 void Figurenzeichner::SetzeEbene(Ebene ebene) const {

@@ -46,12 +46,11 @@ class Figurenzeichner final : public Zeichner {
     [[nodiscard]] Rechteck Umfang(const PktText& text) const;
     /// Where figures were wiped, which leaves holes in what they crossed; empty where nothing was.
     [[nodiscard]] const Rechteck& Gewischt() const { return gewischt_; }
-    void VergissGewischtes() { gewischt_ = kNichts; }
+    void VergissGewischtes() { gewischt_ = kKeinRechteck; }
     /// Symbols are small enough for the surface to set their pixels itself.
     [[nodiscard]] bool NurPixel() const { return Symbolreichweite() <= kGroesstesSymbol; }
 
   private:
-    static constexpr Rechteck kNichts{1, 1, 0, 0};
     /// Where a point symbol is drawn to: what is null is left out.
     struct Symbolziel {
         Zeichenflaeche* flaeche;
@@ -81,7 +80,7 @@ class Figurenzeichner final : public Zeichner {
     const Einstellungen& einstellungen_;
     const Netzangaben& netz_;
     const Uhr& uhr_;
-    Rechteck gewischt_ = kNichts;
+    Rechteck gewischt_ = kKeinRechteck;
     std::array<Linienstueck, kMeisteStriche> stuecke_;  ///< of the line that is being drawn
 };
 

@@ -383,7 +383,7 @@ void Pdfflaeche::Ellipse(const Rechteck& u) {
 }
 
 void Pdfflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
-    const Rechteck g = Geschnitten(r);
+    const Rechteck g = Geschnitten(r, Sichtbar());
     if (g.links > g.rechts || g.oben > g.unten) return;
     BeginneForm();
     WendeFuellungAn(farbe);

@@ -27,8 +27,7 @@ bool In(const Rechteck& r, Flaechenpunkt p) {
 }  // namespace
 
 void Pixelbild::SetzeAusschnitt(const Rechteck& r) {
-    ausschnitt_ = {std::max(r.links, 0), std::max(r.oben, 0), std::min(r.rechts, weite_ - 1),
-                   std::min(r.unten, hoehe_ - 1)};
+    ausschnitt_ = Geschnitten(r, Ganz());
 }
 
 void Pixelbild::Verschiebe(int dx, int dy) {

@@ -211,7 +211,7 @@ void Svgflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
 }
 
 void Svgflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
-    const Rechteck g = Geschnitten(r);
+    const Rechteck g = Geschnitten(r, Sichtbar());
     if (g.links > g.rechts || g.oben > g.unten) return;
     BeginneElement();
     Schreibe("<rect");

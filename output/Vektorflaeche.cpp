@@ -82,15 +82,9 @@ bool Vektorflaeche::SiehtText(Flaechenpunkt ort, std::string_view text) const {
 Rechteck Vektorflaeche::Umschrieben(std::span<const Flaechenpunkt> ecken) {
     Rechteck r{ecken[0].x, ecken[0].y, ecken[0].x, ecken[0].y};
     for (const Flaechenpunkt& e : ecken) {
-        r = {std::min(r.links, e.x), std::min(r.oben, e.y), std::max(r.rechts, e.x), std::max(r.unten, e.y)};
+        r = Vereint(r, {e.x, e.y, e.x, e.y});
     }
     return r;
-}
-
-Rechteck Vektorflaeche::Geschnitten(const Rechteck& r) const {
-    const Rechteck s = Sichtbar();
-    return {std::max(r.links, s.links), std::max(r.oben, s.oben), std::min(r.rechts, s.rechts),
-            std::min(r.unten, s.unten)};
 }
 
 }  // namespace zrw

@@ -52,8 +52,6 @@ class Vektorflaeche : public Zeichenflaeche {
     [[nodiscard]] bool SiehtText(Flaechenpunkt ort, std::string_view text) const;
     /// The rectangle round some corners.
     [[nodiscard]] static Rechteck Umschrieben(std::span<const Flaechenpunkt> ecken);
-    /// A rectangle cut to the sheet and its edges: sizes from a file may be anything.
-    [[nodiscard]] Rechteck Geschnitten(const Rechteck& r) const;
 
     /// An ellipse by its centre and half axes [dots].
     struct Ellipsenmass {

@@ -8,6 +8,7 @@
 
 #include "model/Werte.h"
 #include "output/Ebene.h"
+#include "output/Rechteck.h"
 
 namespace zrw {
 
@@ -38,14 +39,6 @@ struct Linienstueck {
     Flaechenpunkt von;
     Flaechenpunkt nach;
     bool gestrichelt = false;
-};
-
-/// Rectangle on a surface [dots]; `rechts` and `unten` lie on it.
-struct Rechteck {
-    std::int32_t links = 0;
-    std::int32_t oben = 0;
-    std::int32_t rechts = 0;
-    std::int32_t unten = 0;
 };
 
 class Zeichenflaeche {

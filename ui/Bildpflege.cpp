@@ -1,31 +1,12 @@
 #include "ui/Bildpflege.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdlib>
 
 namespace zrw {
 namespace {
 
-constexpr Rechteck kNichts{1, 1, 0, 0};
 /// More are drawn faster with all others.
 constexpr std::size_t kMeisteFiguren = 5000;
-
-bool Leer(const Rechteck& r) {
-    return r.links > r.rechts || r.oben > r.unten;
-}
-
-Rechteck Vereint(const Rechteck& a, const Rechteck& b) {
-    if (Leer(a)) return b;
-    if (Leer(b)) return a;
-    return {std::min(a.links, b.links), std::min(a.oben, b.oben), std::max(a.rechts, b.rechts),
-            std::max(a.unten, b.unten)};
-}
-
-Rechteck Geschnitten(const Rechteck& a, const Rechteck& b) {
-    return {std::max(a.links, b.links), std::max(a.oben, b.oben), std::min(a.rechts, b.rechts),
-            std::min(a.unten, b.unten)};
-}
 
 bool ZeigtErgebnisse(const Liste& l) {
     return l.ShowLgRes || l.ShowHRes || l.ShowLGGen || l.LGGenOn || l.ShowHGen;
@@ -35,6 +16,10 @@ bool ZeigtErgebnisse(const Liste& l) {
 
 void Bildpflege::ZeichneNeu(Liste& liste) {
     liste.WeltinBild();
+    ZeichneAlles(liste);
+}
+
+void Bildpflege::ZeichneAlles(Liste& liste) {
     liste.ShowPicture(zeichner_);
     zeichner_.VergissGewischtes();
     gueltig_ = true;
@@ -64,10 +49,7 @@ void Bildpflege::Verschiebe(Liste& liste, Welt versatz, Bildpunkt weg) {
     const bool moeglich =
         Verschiebbar(liste) && std::llabs(weg.x) < bild.rechts / 2 && std::llabs(weg.y) < bild.unten / 2;
     if (!liste.SetzeVersatz(versatz, weg) || !moeglich) {
-        liste.ShowPicture(zeichner_);
-        zeichner_.VergissGewischtes();
-        gueltig_ = true;
-        return;
+        return ZeichneAlles(liste);
     }
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
@@ -93,7 +75,7 @@ bool Bildpflege::Oertlich(const Liste& liste) const {
 }
 
 Rechteck Bildpflege::Umfang(const Liste& liste, const Figurenmenge& figuren) const {
-    Rechteck r = kNichts;
+    Rechteck r = kKeinRechteck;
     for (const PunktKnoten* p : figuren.punkte) {
         if (liste.Enthaelt(*p)) r = Vereint(r, zeichner_.Umfang(*p->Item));
     }

@@ -38,6 +38,7 @@ class Bildpflege {
     void Nachher(Liste& liste, const Figurenmenge& figuren);
 
   private:
+    void ZeichneAlles(Liste& liste);
     void ZeichneAusschnitt(Liste& liste, const Rechteck& r);
     [[nodiscard]] Rechteck Umfang(const Liste& liste, const Figurenmenge& figuren) const;
     [[nodiscard]] bool Oertlich(const Liste& liste) const;

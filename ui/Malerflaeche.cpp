@@ -105,10 +105,7 @@ void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
 
 void Malerflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
     // Cut to the picture first: a size from a file may be anything.
-    const Rechteck s = Sichtbar();
-    maler_->fillRect(AlsQRect({std::max(r.links, s.links), std::max(r.oben, s.oben),
-                               std::min(r.rechts, s.rechts), std::min(r.unten, s.unten)}),
-                     AlsQColor(farbe));
+    maler_->fillRect(AlsQRect(Geschnitten(r, Sichtbar())), AlsQColor(farbe));
 }
 
 void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {

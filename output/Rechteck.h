@@ -1,0 +1,36 @@
+// Rectangles on a surface, empty ones included.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+namespace zrw {
+
+/// Rectangle on a surface [dots]; `rechts` and `unten` lie on it.
+struct Rechteck {
+    std::int32_t links = 0;
+    std::int32_t oben = 0;
+    std::int32_t rechts = 0;
+    std::int32_t unten = 0;
+};
+
+inline constexpr Rechteck kKeinRechteck{1, 1, 0, 0};
+
+[[nodiscard]] constexpr bool Leer(const Rechteck& r) {
+    return r.links > r.rechts || r.oben > r.unten;
+}
+
+/// The smallest one round both.
+[[nodiscard]] constexpr Rechteck Vereint(const Rechteck& a, const Rechteck& b) {
+    if (Leer(a)) return b;
+    if (Leer(b)) return a;
+    return {std::min(a.links, b.links), std::min(a.oben, b.oben), std::max(a.rechts, b.rechts),
+            std::max(a.unten, b.unten)};
+}
+
+[[nodiscard]] constexpr Rechteck Geschnitten(const Rechteck& a, const Rechteck& b) {
+    return {std::max(a.links, b.links), std::max(a.oben, b.oben), std::min(a.rechts, b.rechts),
+            std::min(a.unten, b.unten)};
+}
+
+}  // namespace zrw
