@@ -124,10 +124,6 @@ class Vergleich {
 };
 
 int Arbeite(Tabelle& tabelle) {
-    int worte = 1;
-    char name[] = "bench_bild";
-    char* argumente[] = {name, nullptr};
-    const QApplication anwendung(worte, argumente);
     Vergleich vergleich(tabelle);
     for (const Ansicht& a : kAnsichten) {
         for (const bool nummern : {true, false})
@@ -140,5 +136,6 @@ int Arbeite(Tabelle& tabelle) {
 
 int main(int anzahl, char** worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication anwendung(anzahl, worte);
     return Fuehre(anzahl, worte, 5, Arbeite);
 }

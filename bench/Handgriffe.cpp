@@ -130,10 +130,6 @@ class Handgriffe {
 };
 
 int Arbeite(Tabelle& tabelle) {
-    int worte = 1;
-    char name[] = "bench_handgriffe";
-    char* argumente[] = {name, nullptr};
-    const QApplication anwendung(worte, argumente);
     Handgriffe handgriffe(tabelle);
     for (const Ansicht& a : kAnsichten) {
         if (!tabelle.kurz || a.name[0] != 'b') handgriffe.Miss(a);
@@ -145,5 +141,6 @@ int Arbeite(Tabelle& tabelle) {
 
 int main(int anzahl, char** argumente) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication anwendung(anzahl, argumente);
     return Fuehre(anzahl, argumente, 9, Arbeite);
 }

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "output/Figurenzeichner.h"
-#include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Rasterflaeche.h"
+#include "tests/hilfe/Zeichentafel.h"
 #include "tests/hilfe/Zufallsnetz.h"
 
 namespace zrw {
@@ -16,16 +16,9 @@ namespace {
 constexpr int kWeite = 400;
 constexpr int kHoehe = 300;
 
-struct Tafel {
-    explicit Tafel(const Einstellungen& e, bool abkuerzungen = true) : zeichner(zustand, e, netz, uhr) {
-        zustand.flaeche = &flaeche;
-        zustand.Abkuerzungen = abkuerzungen;
-    }
-    Rasterflaeche flaeche{kWeite, kHoehe};
-    Netzangaben netz;
-    Zeichenzustand zustand;
-    Festuhr uhr;
-    Figurenzeichner zeichner;
+struct Tafel : Zeichentafel<Rasterflaeche> {
+    explicit Tafel(const Einstellungen& e, bool abkuerzungen = true)
+        : Zeichentafel(kWeite, kHoehe, e, abkuerzungen) {}
 };
 
 void PruefeTreffer(Zufallsnetz& n) {

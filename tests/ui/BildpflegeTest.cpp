@@ -9,7 +9,7 @@
 #include <random>
 
 #include "output/Uhr.h"
-#include "tests/hilfe/Festuhr.h"
+#include "tests/hilfe/Zeichentafel.h"
 #include "tests/hilfe/Zufallsnetz.h"
 #include "ui/aenderungen/Aenderungen.h"
 
@@ -66,16 +66,9 @@ std::unique_ptr<Netzaenderung> NeueAenderung(Zufallsnetz& n) {
 }
 
 /// A picture with all that drawing needs.
-struct Tafel {
-    explicit Tafel(const Einstellungen& e, bool abkuerzungen = true) : zeichner(zustand, e, netz, uhr) {
-        zustand.flaeche = &flaeche;
-        zustand.Abkuerzungen = abkuerzungen;
-    }
-    Bildflaeche flaeche{kWeite, kHoehe};
-    Netzangaben netz;
-    Zeichenzustand zustand;
-    Festuhr uhr;
-    Figurenzeichner zeichner;
+struct Tafel : Zeichentafel<Bildflaeche> {
+    explicit Tafel(const Einstellungen& e, bool abkuerzungen = true)
+        : Zeichentafel(kWeite, kHoehe, e, abkuerzungen) {}
 };
 
 int Unterschied(const QImage& a, const QImage& b) {
