@@ -43,8 +43,7 @@ class Arena {
 
   private:
     struct Freigabe {
-        std::size_t bytes;
-        void operator()(T* p) const { GibSpeicher(p, bytes); }
+        void operator()(T* p) const { GibSpeicher(p); }
     };
     struct Block {
         std::unique_ptr<T, Freigabe> speicher;
@@ -62,9 +61,8 @@ class Arena {
     /// @param erwartet how many of its elements will come for all one knows
     void NeuerBlock(std::size_t erwartet) {
         const std::size_t laenge = Blocklaenge();
-        const std::size_t bytes = laenge * sizeof(T);
-        auto* speicher = static_cast<T*>(NimmSpeicher(bytes, erwartet * sizeof(T)));
-        std::unique_ptr<T, Freigabe> besitz(speicher, Freigabe{bytes});
+        auto* speicher = static_cast<T*>(NimmSpeicher(laenge * sizeof(T), erwartet * sizeof(T)));
+        std::unique_ptr<T, Freigabe> besitz(speicher);
         bloecke_.push_back({std::move(besitz), Blockanfang()});
         naechster_ = speicher;
         frei_ = laenge;

@@ -1,6 +1,7 @@
 #include "model/GrosserSpeicher.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <new>
 
 #ifdef __linux__
@@ -10,22 +11,25 @@
 namespace zrw {
 namespace {
 
-constexpr std::size_t kSeite = std::size_t{2} << 20U;  ///< a large page
-constexpr std::align_val_t kGrenze{kSeite};
+[[maybe_unused]] constexpr std::size_t kSeite = std::size_t{2} << 20U;  ///< a large page
 
-bool Gross(std::size_t bytes) {
-    return bytes >= kSeite / 2;
+void* Nimm(std::size_t bytes) {
+#ifdef MADV_HUGEPAGE
+    // A whole number of pages: whoever comes next shall not lie in the last one.
+    if (bytes >= kSeite / 2) return std::aligned_alloc(kSeite, (bytes + kSeite - 1) / kSeite * kSeite);
+#endif
+    return std::malloc(bytes != 0 ? bytes : 1);
 }
 
 }  // namespace
 
-void* NimmSpeicher(std::size_t bytes, std::size_t genutzt) {
-    if (!Gross(bytes)) return ::operator new(bytes);
-    // A whole number of pages: whoever comes next shall not lie in the last one.
-    const std::size_t ganz = (bytes + kSeite - 1) / kSeite * kSeite;
-    void* speicher = ::operator new(ganz, kGrenze);
+void* NimmSpeicher(std::size_t bytes, [[maybe_unused]] std::size_t genutzt) {
+    void* speicher = Nimm(bytes);
+    if (speicher == nullptr) throw std::bad_alloc();
+#ifdef MADV_HUGEPAGE
     // A page of which little is used would cost more memory than it saves time.
-    FasseInGrosseSeiten(speicher, (genutzt + kSeite / 2) / kSeite * kSeite);
+    if (bytes >= kSeite / 2) FasseInGrosseSeiten(speicher, (genutzt + kSeite / 2) / kSeite * kSeite);
+#endif
     return speicher;
 }
 
@@ -39,8 +43,8 @@ void FasseInGrosseSeiten([[maybe_unused]] void* speicher, [[maybe_unused]] std::
 #endif
 }
 
-void GibSpeicher(void* speicher, std::size_t bytes) noexcept {
-    Gross(bytes) ? ::operator delete(speicher, kGrenze) : ::operator delete(speicher);
+void GibSpeicher(void* speicher) noexcept {
+    std::free(speicher);
 }
 
 }  // namespace zrw

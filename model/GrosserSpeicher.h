@@ -6,13 +6,12 @@
 
 namespace zrw {
 
-/// Memory for any type. @param genutzt how many of the bytes are expected to be written; the rest costs
-/// nothing before it is
+/// Memory for any type. @throws std::bad_alloc @param genutzt how many of the bytes are expected to be
+/// written; the rest costs nothing before it is
 [[nodiscard]] void* NimmSpeicher(std::size_t bytes, std::size_t genutzt);
 /// Asks for large pages behind memory that is already there, as far as it covers whole ones.
 void FasseInGrosseSeiten(void* speicher, std::size_t bytes);
-/// @param bytes as it was taken
-void GibSpeicher(void* speicher, std::size_t bytes) noexcept;
+void GibSpeicher(void* speicher) noexcept;
 
 /// The same for the containers of the standard library.
 template <class T>
@@ -26,7 +25,7 @@ struct Grossverteiler {
     [[nodiscard]] T* allocate(std::size_t anzahl) {
         return static_cast<T*>(NimmSpeicher(anzahl * sizeof(T), anzahl * sizeof(T)));
     }
-    void deallocate(T* speicher, std::size_t anzahl) noexcept { GibSpeicher(speicher, anzahl * sizeof(T)); }
+    void deallocate(T* speicher, std::size_t /*anzahl*/) noexcept { GibSpeicher(speicher); }
     friend bool operator==(Grossverteiler, Grossverteiler) { return true; }
 };
 
