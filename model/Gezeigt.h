@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 #include "model/FigListe.h"
 
@@ -11,7 +11,8 @@ namespace zrw {
 
 class Gezeigt {
   public:
-    explicit Gezeigt(const Liste& liste) : liste_(liste), antworten_(kMaxPunkte + 1) {}
+    explicit Gezeigt(const Liste& liste)
+        : liste_(liste), antworten_(std::make_unique<Antwort[]>(kMaxPunkte + 1)) {}
 
     /// What is known already, of the newest point of the number.
     void Nimm(PunktIndex nr, bool gezeigt) { antworten_[nr] = gezeigt ? Antwort::Ja : Antwort::Nein; }
@@ -36,7 +37,7 @@ class Gezeigt {
     enum class Antwort : std::uint8_t { Offen, Ja, Nein };
 
     const Liste& liste_;
-    std::vector<Antwort> antworten_;
+    std::unique_ptr<Antwort[]> antworten_;  ///< all of them open: plain zeros
 };
 
 }  // namespace zrw

@@ -1,5 +1,6 @@
 #include "model/Raumbaum.h"
 
+#include <algorithm>
 #include <bit>
 #include <numeric>
 #include <utility>
@@ -7,9 +8,16 @@
 namespace zrw {
 namespace {
 
-/// Sorts numbers by keys, 16 bits a pass from the lowest on (counting sort).
+/// Sorts numbers by keys; equal ones stay in their order.
+/// @param bits no key has more
 void Sortiere(std::vector<std::uint32_t>& nummern, std::span<const std::uint64_t> schluessel, int bits) {
     constexpr std::size_t kFaecher = std::size_t{1} << 16U;
+    if (nummern.size() < kFaecher / 16) {
+        std::stable_sort(nummern.begin(), nummern.end(),
+                         [&](std::uint32_t a, std::uint32_t b) { return schluessel[a] < schluessel[b]; });
+        return;
+    }
+    // Many: 16 bits a pass from the lowest on (counting sort).
     std::vector<std::uint32_t> danach(nummern.size());
     std::vector<std::uint32_t> platz(kFaecher + 1);
     for (int schub = 0; schub < bits; schub += 16) {
