@@ -11,10 +11,16 @@
 
 namespace zrw {
 
-/// Whether a shape reaching `rand` dots round a position can touch the visible rectangle.
+/// Whether a shape from one position to another, `rand` dots wide to all sides, can touch the visible
+/// rectangle.
+[[nodiscard]] inline bool InReichweite(Bildpunkt a, Bildpunkt b, std::int64_t rand, const Rechteck& s) {
+    return std::max(a.x, b.x) >= s.links - rand && std::min(a.x, b.x) <= s.rechts + rand &&
+           std::max(a.y, b.y) >= s.oben - rand && std::min(a.y, b.y) <= s.unten + rand;
+}
+
+/// The same for a shape round one position.
 [[nodiscard]] inline bool InReichweite(Bildpunkt ort, std::int64_t rand, const Rechteck& s) {
-    return ort.x >= s.links - rand && ort.x <= s.rechts + rand && ort.y >= s.oben - rand &&
-           ort.y <= s.unten + rand;
+    return InReichweite(ort, ort, rand, s);
 }
 
 /// Only for positions that are `InReichweite` or cut.
@@ -45,10 +51,7 @@ inline constexpr std::int64_t kGrosszuegig = 8192;
                                                                                         Bildpunkt b,
                                                                                         const Rechteck& s) {
     constexpr std::int64_t kPinselrand = 4;  // wide pens reach a little further than their line
-    if (std::max(a.x, b.x) < s.links - kPinselrand || std::min(a.x, b.x) > s.rechts + kPinselrand ||
-        std::max(a.y, b.y) < s.oben - kPinselrand || std::min(a.y, b.y) > s.unten + kPinselrand) {
-        return std::nullopt;
-    }
+    if (!InReichweite(a, b, kPinselrand, s)) return std::nullopt;
     if (InReichweite(a, kGrosszuegig, s) && InReichweite(b, kGrosszuegig, s))
         return std::pair{Aufflaeche(a), Aufflaeche(b)};
     return AbschneidenLang(a, b, s);

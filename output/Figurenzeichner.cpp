@@ -205,12 +205,7 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
 /// Whether a line with its marks may touch the surface.
 bool Figurenzeichner::Beruehrt(const Kante& kante) const {
     if (zustand_.flaeche == nullptr) return false;
-    const std::int64_t rand = Kantenreichweite();
-    const Rechteck s = zustand_.flaeche->Ausschnitt();
-    const Bildpunkt a = kante.Position();
-    const Bildpunkt b = kante.Ende();
-    return std::max(a.x, b.x) >= s.links - rand && std::min(a.x, b.x) <= s.rechts + rand &&
-           std::max(a.y, b.y) >= s.oben - rand && std::min(a.y, b.y) <= s.unten + rand;
+    return InReichweite(kante.Position(), kante.Ende(), Kantenreichweite(), zustand_.flaeche->Ausschnitt());
 }
 
 /// All strokes of a line, cut to what the surface can take.

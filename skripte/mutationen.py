@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
 """Small seeded changes to model/, input/ and output/, one at a time: do the tests of the core notice?
 
-usage: skripte/mutationen.py [--anzahl N] [--saat S] [--ort ORDNER] [--auch REGEX] [--zeit SEKUNDEN]
+usage: skripte/mutationen.py [--anzahl N] [--saat S] [--ort ORDNER] [--auch REGEX] [--zeit SEKUNDEN] [--nochmal]
 
 Works on a copy of the tree in ORDNER (default: zarwik_mutationen among the temporary files), never on the tree itself.
 Each mutant is built and run through kern_test; one that passes there is tried on the tests that run the whole program
-and compare what it writes. Results are kept there as they come in, one line each: a second start
-with the same seed goes on where the first one ended. At the end the survivors are printed with their places and
-changes; whether one of them changes anything at all (an equivalent mutant) is for the reader to say. Sources are
-changed, headers are not. Exit status 1 only where the unchanged tree does not build or does not pass.
+and compare what it writes. The library's own assertions are on, as the tests also run under the sanitizers. Results
+are kept there as they come in, one line each: a second start with the same seed goes on where the first one ended.
+At the end the survivors are printed with their places and changes; whether one of them changes anything at all (an
+equivalent mutant) is for the reader to say. Sources are changed, headers are not. Exit status 1 only where the
+unchanged tree does not build or does not pass.
 """
 
 import argparse
@@ -131,7 +132,7 @@ def richte_ein(ort, bau):
     with open(ort / "bau.log", "ab") as log:
         # No warnings: a mutant may leave a variable unused, and that is no finding.
         status = befehl(["cmake", "-S", str(quelle), "-B", str(bau), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-                         "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DCMAKE_CXX_FLAGS=-w"], 300, log)
+                         "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DCMAKE_CXX_FLAGS=-w -D_GLIBCXX_ASSERTIONS"], 300, log)
         status = status or baue(bau, 3600, log) or baue(bau, 3600, log, "zarwik")
     if status:
         sys.exit(f"Der unveränderte Baum lässt sich nicht bauen, siehe {ort / 'bau.log'}")
@@ -184,11 +185,15 @@ def main():
     p.add_argument("--saat", type=int, default=1)
     p.add_argument("--ort", type=Path, default=Path(tempfile.gettempdir(), "zarwik_mutationen"))
     p.add_argument("--auch", default=".", help="nur Dateien, deren Name passt")
+    p.add_argument("--nochmal", action="store_true", help="Überlebende noch einmal, mit den Tests von jetzt")
     p.add_argument("--zeit", type=float, help="Sekunden für kern_test (sonst das Dreifache des unveränderten)")
     o = p.parse_args()
     ort = o.ort.resolve()
     ort.mkdir(parents=True, exist_ok=True)
     bau = ort / "bau"
+    if o.nochmal and (ort / "baum").exists():
+        shutil.rmtree(ort / "baum" / "tests")
+        shutil.copytree(WURZEL / "tests", ort / "baum" / "tests", ignore=shutil.ignore_patterns("__pycache__"))
     quelle = richte_ein(ort, bau)
     anfang = time.monotonic()
     with open(ort / "test.log", "wb") as log:
@@ -200,6 +205,9 @@ def main():
     zeit = o.zeit or 3 * dauer + 10
     stand = ort / f"ergebnisse_{o.saat}.jsonl"
     fertig = [json.loads(z) for z in stand.read_text(encoding="utf-8").splitlines()] if stand.exists() else []
+    if o.nochmal:
+        fertig = [f for f in fertig if f["ergebnis"] != "überlebt"]
+        stand.write_text("".join(json.dumps(f, ensure_ascii=False) + "\n" for f in fertig), encoding="utf-8")
     bekannt = {(f["datei"], f["zeile"], f["neu"]) for f in fertig}
     # More candidates than asked for: those that do not compile are not counted.
     for datei, nummer, art, neue_zeile in waehle(quelle, 3 * o.anzahl, o.saat, o.auch):

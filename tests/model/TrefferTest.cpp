@@ -104,6 +104,7 @@ TEST(Treffer, LinienZaehlenGanzePixel) {
         {{0, 0}, {100, 0}, {-1, 0}, false},
         {{40, 40}, {40, 40}, {40, 40}, false},  // no length
         {{kMin, kMin}, {kMin, kMin}, {kMin, kMin}, false},
+        {{40, 40}, {41, 40}, {41, 38}, true},              // hardly any
         {{-kWeit, -kWeit}, {kWeit, kWeit}, {3, 0}, true},  // deep zoom: both ends far outside
         {{-kWeit, -kWeit}, {kWeit, kWeit}, {20, 0}, false},
         {{kMin, 300}, {kMax, 300}, {0, 0}, false},
