@@ -231,6 +231,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     Massstabfeld* EditMasstab_ = nullptr;
     QComboBox* ComboBox1_ = nullptr;
     QStringListModel* nummern_ = nullptr;  ///< of all points, in the order in which they were read
+    bool nummernSortiert_ = false;         ///< or sorted: a picture file has them backwards
     std::int32_t nummernstand_ = 0;        ///< number of points that `nummern_` was made from
     Zentrierkasten* zentrierkasten_ = nullptr;
     TZRWLBLForm* legendentexte_ = nullptr;

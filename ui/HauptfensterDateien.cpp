@@ -19,6 +19,7 @@
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/TFormData.h"
+#include "ui/dialoge/TFormHiddenPkt.h"
 
 namespace zrw {
 namespace {
@@ -112,6 +113,16 @@ class Lesebalken {
     };
     std::shared_ptr<Zustand> zustand_;  // a callback is copied
 };
+
+/// Numbers of the points that a file holds hidden; control files hold none.
+QStringList Verborgene(const Liste& netz) {
+    QStringList nummern;
+    for (const PunktKnoten* p = netz.PunktKnoten; p != nullptr; p = p->Next) {
+        if (p->Item->Visible) continue;
+        if (const QString nummer = AusNetz(netz.GetPktText(p->PNr)); !nummer.isEmpty()) nummern << nummer;
+    }
+    return nummern;
+}
 
 }  // namespace
 
@@ -254,15 +265,17 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     ausdehnungAlt_ = false;
     zentriert_.clear();
     liste_ = std::move(lesung.liste);
+    nummernSortiert_ = IstBilddatei(datei);
     FuelleNummern();
+    const QStringList verborgen = Verborgene(*liste_);
+    if (IstBilddatei(datei) || !verborgen.isEmpty()) versteckte_->Setze(verborgen);
     programm_.netz = lesung.netz;
     WaehleTabellenordner(datei);
     if (IstBilddatei(datei)) {
         // Reading a picture file switches these two on, whatever they were.
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-            if (kSchalter[i].inListe == &Liste::ShowPktText || kSchalter[i].inListe == &Liste::ShowBeob) {
+            if (kSchalter[i].inListe == &Liste::ShowPktText || kSchalter[i].inListe == &Liste::ShowBeob)
                 schalterkaesten_[i]->setChecked(true);
-            }
         }
     } else {
         steuerdatei_ = datei;

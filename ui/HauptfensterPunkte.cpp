@@ -80,12 +80,13 @@ void TZrwMainDlg::NetzGeaendert() {
         werkzeug->NetzGeaendert();
 }
 
-/// The numbers of all points in the order in which they were read.
+/// The numbers of all points in the order in which they were read, those of a picture file sorted.
 void TZrwMainDlg::FuelleNummern() {
     QStringList nummern;
     for (const PunktString* t = liste_->PktTextKnoten; t != nullptr; t = t->Next)
         nummern << AusNetz(t->Item->Aus.Text());
     std::reverse(nummern.begin(), nummern.end());
+    if (nummernSortiert_) nummern.sort(Qt::CaseInsensitive);
     nummern_->setStringList(nummern);
     ComboBox1_->setEditText(QStringLiteral("Punktnummern"));
     QStringList exzentren;

@@ -56,6 +56,11 @@ void TFormHiddenPkt::Nimm(const QStringList& nummern) {
     nummern_->setStringList(alle);
 }
 
+void TFormHiddenPkt::Setze(const QStringList& nummern) {
+    nummern_->setStringList({});
+    Nimm(nummern);
+}
+
 void TFormHiddenPkt::Entferne(const QString& nummer) {
     const auto ort = nummern_->stringList().indexOf(nummer);
     if (ort >= 0) nummern_->removeRow(static_cast<int>(ort));

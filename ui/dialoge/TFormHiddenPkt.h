@@ -18,6 +18,8 @@ class TFormHiddenPkt final : public QDialog {
     void Nimm(const QString& nummer);
     /// Many at once, in the time of one. Deselects.
     void Nimm(const QStringList& nummern);
+    /// These in place of all that stand there.
+    void Setze(const QStringList& nummern);
     /// Removes one entry of this text, if there is one.
     void Entferne(const QString& nummer);
     [[nodiscard]] QStringList Nummern() const;
