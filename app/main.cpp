@@ -55,9 +55,9 @@ int Fenster(const Aufruf& aufruf) {
     Systemdateien dateien;
     const Systemuhr uhr;
     TDM daten(dateien);
-    Systemdrucker drucker(dateien);
     QtDialogdienst dialoge;
     Sitzung sitzung;
+    Systemdrucker drucker(dateien, &sitzung);
     Rettung rettung(
         QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + QStringLiteral("/rettung"),
         dateien);

@@ -12,10 +12,13 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <vector>
 
 #include "model/Fehler.h"
+#include "model/Zahlentext.h"
 #include "output/Export.h"
 #include "ui/Malerflaeche.h"
+#include "ui/Sitzung.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/Druckvorschau.h"
 
@@ -36,9 +39,11 @@ class Druckflaeche final : public Malerflaeche {
 /// A whole PDF ends like this; Qt does not tell when the disk is full.
 constexpr const char* kPdfende = "%%EOF";
 
+const QString kPapier = QStringLiteral("Papier");
+
 }  // namespace
 
-Systemdrucker::Systemdrucker(Dateien& dateien) : dateien_(dateien) {}
+Systemdrucker::Systemdrucker(Dateien& dateien, Sitzung* sitzung) : dateien_(dateien), sitzung_(sitzung) {}
 Systemdrucker::~Systemdrucker() = default;
 
 QPrinter& Systemdrucker::Geraet() const {
@@ -47,6 +52,7 @@ QPrinter& Systemdrucker::Geraet() const {
         geraet_ = info.isNull() ? std::make_unique<QPrinter>(QPrinter::HighResolution)
                                 : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
         geraet_->setCreator(QStringLiteral("Zarwik"));
+        NimmPapier(*geraet_);
     }
     // Whoever chooses another printer or a file in a dialog gets that one's own, which is a screen's for
     // files.
@@ -62,6 +68,37 @@ QPrinter& Systemdrucker::Geraet() const {
     return *geraet_;
 }
 
+/// The paper of the last run: width, height, 1 for landscape, and the margins, all lengths in millimetres.
+void Systemdrucker::NimmPapier(QPrinter& geraet) const {
+    if (sitzung_ == nullptr) return;
+    std::vector<double> werte;
+    for (const QByteArray& text : sitzung_->Stand(kPapier).split(' ')) {
+        const auto zahl = LiesReal(text.toStdString());
+        constexpr double kGroesstes = 5000.0;
+        if (!zahl || *zahl < 0.0 || *zahl > kGroesstes) return;
+        werte.push_back(*zahl);
+    }
+    if (werte.size() != 7 || werte[0] < 1.0 || werte[1] < 1.0) return;
+    const QPageSize papier(QSizeF(werte[0], werte[1]), QPageSize::Millimeter, QString(),
+                           QPageSize::FuzzyMatch);
+    geraet.setPageLayout(QPageLayout(papier, werte[2] > 0.0 ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                     QMarginsF(werte[3], werte[4], werte[5], werte[6]),
+                                     QPageLayout::Millimeter));
+}
+
+void Systemdrucker::MerkePapier() const {
+    if (sitzung_ == nullptr) return;
+    const QPageLayout seite = Geraet().pageLayout();
+    const QSizeF papier = seite.pageSize().size(QPageSize::Millimeter);
+    const QMarginsF rand = seite.margins(QPageLayout::Millimeter);
+    QByteArrayList texte;
+    for (const double wert :
+         {papier.width(), papier.height(), seite.orientation() == QPageLayout::Landscape ? 1.0 : 0.0,
+          rand.left(), rand.top(), rand.right(), rand.bottom()})
+        texte << QByteArray::fromStdString(Festkomma(wert, 0, 2));
+    sitzung_->MerkeStand(kPapier, texte.join(' '));
+}
+
 int Systemdrucker::Aufloesung() const {
     return Geraet().resolution();
 }
@@ -73,12 +110,16 @@ Druckseite Systemdrucker::Seite() const {
 
 bool Systemdrucker::Waehle(QWidget* eltern) {
     QPrintDialog dialog(&Geraet(), eltern);
-    return dialog.exec() == QDialog::Accepted;
+    if (dialog.exec() != QDialog::Accepted) return false;
+    MerkePapier();
+    return true;
 }
 
 bool Systemdrucker::RichteEin(QWidget* eltern) {
     QPageSetupDialog dialog(&Geraet(), eltern);
-    return dialog.exec() == QDialog::Accepted;
+    if (dialog.exec() != QDialog::Accepted) return false;
+    MerkePapier();
+    return true;
 }
 
 void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {

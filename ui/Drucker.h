@@ -25,6 +25,8 @@ struct Druckwerk {
     std::function<void(Zeichenflaeche&, int)> zeichne;  ///< draws a sheet, from 0 on
 };
 
+class Sitzung;
+
 class Drucker {
   public:
     virtual ~Drucker() = default;
@@ -48,7 +50,8 @@ class Drucker {
 class Systemdrucker final : public Drucker {
   public:
     /// @param dateien puts printed files in place
-    explicit Systemdrucker(Dateien& dateien);
+    /// @param sitzung knows the paper of the last run, may be null
+    explicit Systemdrucker(Dateien& dateien, Sitzung* sitzung = nullptr);
     ~Systemdrucker() override;
     [[nodiscard]] int Aufloesung() const override;
     [[nodiscard]] Druckseite Seite() const override;
@@ -62,9 +65,12 @@ class Systemdrucker final : public Drucker {
 
   private:
     [[nodiscard]] QPrinter& Geraet() const;
+    void NimmPapier(QPrinter& geraet) const;
+    void MerkePapier() const;
     void Male(QPrinter& geraet, const Druckwerk& werk) const;
 
     Dateien& dateien_;
+    Sitzung* sitzung_;
     mutable QString stand_;                     ///< printer and file that the resolution was chosen for
     mutable std::unique_ptr<QPrinter> geraet_;  ///< made when first needed: looking for printers takes time
 };
