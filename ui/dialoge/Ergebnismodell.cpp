@@ -4,6 +4,7 @@
 
 #include "input/tabellen/Anzeigetext.h"
 #include "ui/Umwandlung.h"
+#include "ui/dialoge/Spaltenhinweise.h"
 
 namespace zrw {
 namespace {
@@ -87,10 +88,12 @@ QVariant Ergebnismodell::data(const QModelIndex& stelle, int rolle) const {
 }
 
 QVariant Ergebnismodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const {
-    if (rolle != Qt::DisplayRole) return {};
-    if (richtung == Qt::Vertical) return abschnitt + 1;
+    if (rolle != Qt::DisplayRole && rolle != Qt::ToolTipRole) return {};
+    if (richtung == Qt::Vertical) return rolle == Qt::DisplayRole ? QVariant(abschnitt + 1) : QVariant();
     if (abschnitt < 0 || abschnitt >= columnCount()) return {};
     const Tabellenfeld* feld = Feld(abschnitt);
+    if (rolle == Qt::ToolTipRole)
+        return feld != nullptr ? QVariant(AusUtf8(Hinweistext(feld->name))) : QVariant();
     if (feld != nullptr && !feld->titel.empty()) return AusUtf8(feld->titel);
     return AusUtf8(antwort_.spalten[S(abschnitt)]);
 }

@@ -43,6 +43,8 @@ TFormBeobTyp::TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern)
     RadioGroupRichtg_->setToolTip(QStringLiteral("Art der Richtungsmessung"));
     RadioGroupZenit_->setToolTip(QStringLiteral("Gemessener Höhenmessung"));
     RadioGroupZenit_->Waehle(0);
+    CheckBoxStrecke_->setToolTip(QStringLiteral("Querstrich neben der Mitte der Linie"));
+    CheckBoxGps_->setToolTip(QStringLiteral("Raute um die Mitte der Linie"));
     CheckBoxInd_->setToolTip(QStringLiteral("IÍndirekter Messung"));
     CheckBoxNeuBeob_->setToolTip(QStringLiteral("Neue Beobachtung einfügen"));
 

@@ -34,6 +34,7 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
     setWindowTitle(QStringLiteral("Abriss nach der Ausgleichung"));
     // Whoever types point numbers goes on typing.
     setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     angaben_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     BaueGitter();
     reiter_->setObjectName(QStringLiteral("TabControl1"));

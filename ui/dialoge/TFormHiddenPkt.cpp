@@ -27,6 +27,7 @@ TFormHiddenPkt::TFormHiddenPkt(QWidget* eltern)
     ListBox1_->setModel(nummern_);
     auto* anzeigen = new QPushButton(QStringLiteral("Anzeigen"), this);
     anzeigen->setObjectName(QStringLiteral("UnhiddenButton"));
+    anzeigen->setToolTip(QStringLiteral("Markierte Punkte wieder zeichnen"));
     auto* schliessen = new QPushButton(QStringLiteral("Schließen"), this);
     schliessen->setObjectName(QStringLiteral("Button2"));
 

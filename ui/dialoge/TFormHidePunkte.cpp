@@ -29,6 +29,7 @@ TFormHidePunkte::TFormHidePunkte(QWidget* eltern)
     ListBoxPkt_->setModel(nummern_);
     auto* verbergen = new QPushButton(QStringLiteral("Verstecken"), this);
     verbergen->setObjectName(QStringLiteral("Button1"));
+    verbergen->setToolTip(QStringLiteral("Markierte Punkte nicht mehr zeichnen"));
     auto* schliessen = new QPushButton(QStringLiteral("Schließen"), this);
     schliessen->setObjectName(QStringLiteral("Button2"));
     // Enter in the filter must not hide anything.

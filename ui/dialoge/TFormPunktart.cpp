@@ -53,6 +53,8 @@ TFormPunktart::TFormPunktart(QWidget* eltern)
     setObjectName(QStringLiteral("TFormPunktart"));
     setWindowTitle(QStringLiteral("Punktart"));
     RadioGroupPktArt_->setToolTip(QStringLiteral("Punktart angeben"));
+    RadioGroupSymb_->setToolTip(QStringLiteral("Zeichen des Punktes im Plan"));
+    PktNummer_->setToolTip(QStringLiteral("Höchstens 14 Zeichen; nur bei einem neuen Punkt einzugeben"));
     CheckBoxNeuPkt_->setObjectName(QStringLiteral("CheckBoxNeuPkt"));
     CheckBoxNeuPkt_->setToolTip(QStringLiteral("Neupunkt einfügen"));
     auto* knopf = new QPushButton(QStringLiteral("Zeichnen"), this);
