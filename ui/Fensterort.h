@@ -4,7 +4,9 @@
 
 #include <QEvent>
 #include <QObject>
+#include <QScreen>
 #include <QWidget>
+#include <algorithm>
 
 namespace zrw {
 
@@ -23,12 +25,16 @@ class Fensterort final : public QObject {
         if (fenster->testAttribute(Qt::WA_Moved) || fenster->parentWidget() == nullptr) return false;
         constexpr int kAbstand = 24;
         constexpr int kTitelleiste = 32;
+        const QRect schirm = fenster->parentWidget()->screen()->availableGeometry();
+        const QSize groesse = fenster->size().boundedTo(schirm.size() - QSize(kAbstand, 2 * kTitelleiste));
         // Below the tool panel, which is about a sixth of a small window.
         const QRect eltern = fenster->parentWidget()->window()->geometry();
-        const QSize groesse = fenster->size();
         const int y = rand_ == Rand::RechtsOben ? eltern.top() + eltern.height() / 6 + kTitelleiste
                                                 : eltern.bottom() - groesse.height() - kAbstand;
-        fenster->move(std::max(eltern.right() - groesse.width() - kAbstand, 0), std::max(y, kTitelleiste));
+        const QPoint ort(std::min(eltern.right(), schirm.right()) - groesse.width() - kAbstand,
+                         std::min(y, schirm.bottom() - groesse.height() - kTitelleiste));
+        fenster->resize(groesse);
+        fenster->move(std::max(ort.x(), schirm.left()), std::max(ort.y(), schirm.top() + kTitelleiste));
         return false;
     }
 

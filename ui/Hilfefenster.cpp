@@ -219,7 +219,8 @@ Hilfefenster::Hilfefenster(QWidget* eltern) : QWidget(eltern, Qt::Window) {
     seite_->setSource(Adresse(*FindeThema(kErsteSeite)));
 
     constexpr QSize kGroesse(960, 680);
-    resize(kGroesse.boundedTo(screen()->availableGeometry().size()));
+    constexpr QSize kRahmen(20, 60);  // of the window, whatever draws it
+    resize(kGroesse.boundedTo(screen()->availableGeometry().size() - kRahmen));
     inhalt_->resizeColumnToContents(0);
     const int breite = inhalt_->columnWidth(0) + 2 * inhalt_->indentation();
     teiler->setSizes({breite, std::max(width() - breite, 1)});

@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -13,7 +14,7 @@
 namespace zrw {
 
 Druckvorschau::Druckvorschau(QPrinter& drucker, const QImage& uebersicht, QWidget* eltern)
-    : QDialog(eltern), blaetter_(new QPrintPreviewWidget(&drucker, this)) {
+    : QDialog(eltern), blaetter_(new QPrintPreviewWidget(&drucker, this)), blatt_(new QLabel(this)) {
     setObjectName(QStringLiteral("Druckvorschau"));
     setWindowTitle(QStringLiteral("Druckvorschau"));
     connect(blaetter_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* geraet) {
@@ -40,7 +41,10 @@ Druckvorschau::Druckvorschau(QPrinter& drucker, const QImage& uebersicht, QWidge
     });
     knopf(QStringLiteral("Größer"), [this] { blaetter_->zoomIn(); });
     knopf(QStringLiteral("Kleiner"), [this] { blaetter_->zoomOut(); });
+    blatt_->setObjectName(QStringLiteral("Blatt"));
+    reihe->addWidget(blatt_);
     reihe->addStretch();
+    connect(blaetter_, &QPrintPreviewWidget::previewChanged, this, [this] { NenneBlatt(); });
 
     auto* knoepfe = new QDialogButtonBox(this);
     knoepfe->addButton(QStringLiteral("Drucken …"), QDialogButtonBox::AcceptRole);
@@ -48,14 +52,26 @@ Druckvorschau::Druckvorschau(QPrinter& drucker, const QImage& uebersicht, QWidge
     connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-    auto* rechts = new QVBoxLayout;
-    rechts->addLayout(reihe);
-    rechts->addWidget(blaetter_, 1);
-    rechts->addWidget(knoepfe);
-    auto* alles = new QHBoxLayout(this);
-    alles->addWidget(ueberblick);
-    alles->addLayout(rechts, 1);
-    resize(1000, 700);
+    auto* mitte = new QHBoxLayout;
+    mitte->addWidget(ueberblick);
+    mitte->addWidget(blaetter_, 1);
+    auto* alles = new QVBoxLayout(this);
+    alles->addLayout(reihe);
+    alles->addLayout(mitte, 1);
+    alles->addWidget(knoepfe);
+    constexpr QSize kGroesse(1000, 700);
+    constexpr QSize kRahmen(20, 60);  // of the window, whatever draws it
+    resize(kGroesse.boundedTo(screen()->availableGeometry().size() - kRahmen));
+}
+
+/// Which sheet is shown; while all are, how many there are.
+void Druckvorschau::NenneBlatt() {
+    const int anzahl = blaetter_->pageCount();
+    if (blaetter_->viewMode() == QPrintPreviewWidget::AllPagesView) {
+        blatt_->setText(anzahl == 1 ? QStringLiteral("1 Blatt") : QStringLiteral("%1 Blätter").arg(anzahl));
+    } else {
+        blatt_->setText(QStringLiteral("Blatt %1 von %2").arg(blaetter_->currentPage()).arg(anzahl));
+    }
 }
 
 void Druckvorschau::ZeigeBlatt(int schritt) {

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <functional>
 
+class QLabel;
 class QPrinter;
 class QPrintPreviewWidget;
 
@@ -19,8 +20,10 @@ class Druckvorschau final : public QDialog {
 
   private:
     void ZeigeBlatt(int schritt);
+    void NenneBlatt();
 
     QPrintPreviewWidget* blaetter_;
+    QLabel* blatt_;
 };
 
 }  // namespace zrw
