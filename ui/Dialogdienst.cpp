@@ -1,5 +1,6 @@
 #include "ui/Dialogdienst.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -22,9 +23,15 @@ QString MitEndung(const QString& name, const QString& endung) {
     return name + QLatin1Char('.') + moegliche.front();
 }
 
+/// Over the window that asks, which then has the keyboard again.
+QWidget* QtDialogdienst::Eltern() const {
+    QWidget* fenster = QApplication::activeWindow();
+    return fenster != nullptr && fenster->isVisible() ? fenster : eltern_;
+}
+
 void QtDialogdienst::Zeige(int symbol, const QString& text) {
     QMessageBox box(static_cast<QMessageBox::Icon>(symbol), QStringLiteral("Zarwik"), text, QMessageBox::Ok,
-                    eltern_);
+                    Eltern());
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -38,16 +45,21 @@ void QtDialogdienst::Sage(const QString& text) {
 }
 
 bool QtDialogdienst::Frage(const QString& text) {
-    QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, eltern_);
+    return Frage(text, false);
+}
+
+bool QtDialogdienst::Frage(const QString& text, bool escapeIstNein) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, Eltern());
     const auto* ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
     // Not QMessageBox::NoRole: Escape would press that, and a plot would be gone for one key too many.
-    box.addButton(QStringLiteral("&Nein"), QMessageBox::DestructiveRole);
+    auto* nein = box.addButton(QStringLiteral("&Nein"), QMessageBox::DestructiveRole);
+    if (escapeIstNein) box.setEscapeButton(nein);
     box.exec();
     return box.clickedButton() == ja;
 }
 
 std::optional<bool> QtDialogdienst::FrageMitAbbruch(const QString& text) {
-    QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, eltern_);
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, Eltern());
     const auto* ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
     const auto* nein = box.addButton(QStringLiteral("&Nein"), QMessageBox::NoRole);
     box.setEscapeButton(box.addButton(QStringLiteral("&Abbrechen"), QMessageBox::RejectRole));
@@ -60,7 +72,7 @@ std::optional<bool> QtDialogdienst::FrageMitAbbruch(const QString& text) {
 std::optional<QFont> QtDialogdienst::WaehleSchrift(const QFont& anfang) {
     bool gewaehlt = false;
     const QFont schrift =
-        QFontDialog::getFont(&gewaehlt, anfang, eltern_, QStringLiteral("Zeichenfont wählen"));
+        QFontDialog::getFont(&gewaehlt, anfang, Eltern(), QStringLiteral("Zeichenfont wählen"));
     if (!gewaehlt) return std::nullopt;
     return schrift;
 }
@@ -77,13 +89,13 @@ std::optional<QString> QtDialogdienst::WaehleAus(const QStringList& texte) {
 }
 
 std::optional<QString> QtDialogdienst::WaehleZumOeffnen(const Dateiwahl& wahl) {
-    const QString name = QFileDialog::getOpenFileName(eltern_, wahl.titel, wahl.ordner, wahl.filter);
+    const QString name = QFileDialog::getOpenFileName(Eltern(), wahl.titel, wahl.ordner, wahl.filter);
     if (name.isEmpty()) return std::nullopt;
     return name;
 }
 
 std::optional<QString> QtDialogdienst::WaehleZumSpeichern(const Dateiwahl& wahl) {
-    QFileDialog dialog(eltern_, wahl.titel, wahl.ordner, wahl.filter);
+    QFileDialog dialog(Eltern(), wahl.titel, wahl.ordner, wahl.filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     // The question about replacing must name the file that is written, so it is asked here, with the
     // extension.
@@ -92,13 +104,13 @@ std::optional<QString> QtDialogdienst::WaehleZumSpeichern(const Dateiwahl& wahl)
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString name = MitEndung(dialog.selectedFiles().front(), wahl.endung);
         const QString frage = QStringLiteral("%1 ist bereits vorhanden. Ersetzen?");
-        if (!QFileInfo::exists(name) || Frage(frage.arg(QDir::toNativeSeparators(name)))) return name;
+        if (!QFileInfo::exists(name) || Frage(frage.arg(QDir::toNativeSeparators(name)), true)) return name;
     }
     return std::nullopt;
 }
 
 std::optional<Farbe> QtDialogdienst::WaehleFarbe(Farbe anfang) {
-    const QColor farbe = QColorDialog::getColor(AlsQColor(anfang), eltern_, QStringLiteral("Farbe wählen"));
+    const QColor farbe = QColorDialog::getColor(AlsQColor(anfang), Eltern(), QStringLiteral("Farbe wählen"));
     if (!farbe.isValid()) return std::nullopt;
     const QRgb rgb = farbe.rgb();
     return Farbe{static_cast<std::uint32_t>(qRed(rgb)) | static_cast<std::uint32_t>(qGreen(rgb)) << 8U |

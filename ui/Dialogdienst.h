@@ -62,7 +62,10 @@ class QtDialogdienst final : public Dialogdienst {
     std::optional<QString> WaehleAus(const QStringList& texte) override;
 
   private:
+    [[nodiscard]] QWidget* Eltern() const;
     void Zeige(int symbol, const QString& text);
+    /// @param escapeIstNein where "no" loses nothing
+    [[nodiscard]] bool Frage(const QString& text, bool escapeIstNein);
 
     QWidget* eltern_ = nullptr;
 };
