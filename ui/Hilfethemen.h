@@ -118,7 +118,7 @@ inline constexpr std::array<Hilfekomponente, 69> kHilfekomponenten{{
     {"VorschauButton", 35},
     {"SpeedButtonClipbrd", 35},
     {"SpeedButton16", 3},
-    {"EditMasstab", 3},
+    {"EditMasstab", 35},
     {"SpeedButton12", 28},
     // Program
     {"ColorButton", 30},
