@@ -38,6 +38,11 @@ static void MeldeBilderAn() {
 namespace zrw {
 namespace {
 
+// What a command button may be besides.
+constexpr unsigned kGruppenende = 1;
+constexpr unsigned kBrauchtNetz = 2;
+constexpr unsigned kInJedemFenster = 4;  ///< its shortcut works while a dialog of a tool has the keyboard
+
 /// A command button of the tool panel.
 struct Befehl {
     const char* komponente;
@@ -45,7 +50,7 @@ struct Befehl {
     const char* bild;
     const char* taste;  ///< shortcut in Qt's portable form, or empty
     void (TZrwMainDlg::*klick)();
-    bool gruppenende = false;
+    unsigned merkmale = 0;
 };
 
 constexpr std::array<Befehl, 25> kBefehle{{
@@ -53,32 +58,39 @@ constexpr std::array<Befehl, 25> kBefehle{{
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
     {"LetzteDateienButton", "Letzte Dateien", "letzte_dateien", "", &TZrwMainDlg::LetzteDateienClick},
-    {"SpeedButton9", "Zarwik speichern", "speichern", "Ctrl+S", &TZrwMainDlg::SpeedButton9Click},
-    {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click, true},
-    {"RueckgaengigButton", "Rückgängig", "rueckgaengig", "Ctrl+Z", &TZrwMainDlg::Rueckgaengig},
-    {"WiederholenButton", "Wiederholen", "wiederholen", "Ctrl+Y", &TZrwMainDlg::Wiederhole, true},
-    {"ButtonGroesser", "Bild größer", "groesser", "+", &TZrwMainDlg::ButtonGroesserClick},
-    {"ButtonKleiner", "Bild kleiner", "kleiner", "-", &TZrwMainDlg::ButtonKleinerClick},
-    {"SpeedButton3", "Alles darstellen", "alles", "Home", &TZrwMainDlg::SpeedButton3Click},
-    {"EinpassenButton", "Sichtbare Punkte einpassen", "einpassen", "F", &TZrwMainDlg::EinpassenClick, true},
+    {"SpeedButton9", "Zarwik speichern", "speichern", "Ctrl+S", &TZrwMainDlg::SpeedButton9Click,
+     kBrauchtNetz | kInJedemFenster},
+    {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click, kGruppenende},
+    {"RueckgaengigButton", "Rückgängig", "rueckgaengig", "Ctrl+Z", &TZrwMainDlg::Rueckgaengig,
+     kInJedemFenster},
+    {"WiederholenButton", "Wiederholen", "wiederholen", "Ctrl+Y", &TZrwMainDlg::Wiederhole,
+     kInJedemFenster | kGruppenende},
+    {"ButtonGroesser", "Bild größer", "groesser", "+", &TZrwMainDlg::ButtonGroesserClick, kBrauchtNetz},
+    {"ButtonKleiner", "Bild kleiner", "kleiner", "-", &TZrwMainDlg::ButtonKleinerClick, kBrauchtNetz},
+    {"SpeedButton3", "Alles darstellen", "alles", "Home", &TZrwMainDlg::SpeedButton3Click, kBrauchtNetz},
+    {"EinpassenButton", "Sichtbare Punkte einpassen", "einpassen", "F", &TZrwMainDlg::EinpassenClick,
+     kBrauchtNetz | kGruppenende},
     {"SpeedButton14", "Punkte verstecken", "punkte_verstecken", "", &TZrwMainDlg::SpeedButton14Click},
     {"SpeedButton15", "Versteckte Punkte", "versteckte_punkte", "", &TZrwMainDlg::SpeedButton15Click},
     {"NummernZeigenButton", "Versteckte Punktnummern zeigen", "nummern_zeigen", "",
-     &TZrwMainDlg::NummernZeigenClick, true},
-    {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click},
-    {"SpeedButton5", "Zarwik drucken", "drucken", "Ctrl+P", &TZrwMainDlg::SpeedButton5Click},
-    {"VorschauButton", "Druckvorschau", "vorschau", "", &TZrwMainDlg::VorschauClick},
+     &TZrwMainDlg::NummernZeigenClick, kBrauchtNetz | kGruppenende},
+    {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click, kBrauchtNetz},
+    {"SpeedButton5", "Zarwik drucken", "drucken", "Ctrl+P", &TZrwMainDlg::SpeedButton5Click, kBrauchtNetz},
+    {"VorschauButton", "Druckvorschau", "vorschau", "", &TZrwMainDlg::VorschauClick, kBrauchtNetz},
     {"SpeedButton11", "Druckereinstellungen", "drucker", "", &TZrwMainDlg::SpeedButton11Click},
-    {"SpeedButtonClipbrd", "Grafik als Bitmap speichern", "bitmap", "",
-     &TZrwMainDlg::SpeedButtonClipbrdClick},
+    {"SpeedButtonClipbrd", "Grafik als Bitmap speichern", "bitmap", "", &TZrwMainDlg::SpeedButtonClipbrdClick,
+     kBrauchtNetz},
     {"SpeedButton16", "DXF und HPGL Format ausgeben", "dxf", "Ctrl+E", &TZrwMainDlg::SpeedButton16Click,
-     true},
+     kBrauchtNetz | kGruppenende},
     {"SpeedButton8", "Zeichenfont wählen", "schrift", "", &TZrwMainDlg::SpeedButton8Click},
     {"ColorButton", "Zarwikeinstellungen", "einstellungen", "", &TZrwMainDlg::ColorButtonClick},
     {"SpeedButton4", "Programminfo", "info", "", &TZrwMainDlg::SpeedButton4Click},
-    {"SpeedButton6", "Hilfe", "hilfe", "F1", &TZrwMainDlg::SpeedButton6Click, true},
+    {"SpeedButton6", "Hilfe", "hilfe", "F1", &TZrwMainDlg::SpeedButton6Click, kGruppenende},
     {"SpeedButton10", "Punkt anzeigen", "punkt_anzeigen", "", nullptr},
 }};
+
+const QString kOhneNetz = QStringLiteral(
+    "Dazu muss ein Netz geöffnet sein: Steuerdatei mit Strg+O, Zarwikdatei mit Strg+Umschalt+O");
 
 QToolButton* NeuerKnopf(std::string_view komponente, std::string_view hinweis, std::string_view bild,
                         QWidget* eltern) {
@@ -147,6 +159,7 @@ void TZrwMainDlg::BaueFenster() {
     ZeigeTitel();
     setWindowIcon(QIcon(QStringLiteral(":/bilder/zarwik.svg")));
     setAcceptDrops(true);
+    setAttribute(Qt::WA_AlwaysShowToolTips);  // also while the dialog of a tool has the keyboard
 
     auto* mitte = new QWidget(this);
     auto* spalte = new QVBoxLayout(mitte);
@@ -172,6 +185,10 @@ void TZrwMainDlg::BaueFenster() {
 
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->setSizeGripEnabled(false);
+    anleitung_ = new QLabel(this);
+    anleitung_->setMinimumWidth(1);  // a long text must not widen the window
+    anleitung_->setContentsMargins(0, 0, 6, 0);
+    statusBar()->addPermanentWidget(anleitung_);
     ZeigeStatus(QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
     if (!restoreGeometry(programm_.sitzung.Stand(QStringLiteral("Fensterlage")))) {
         // The whole screen but for a strip that the system's own bar may need.
@@ -192,21 +209,27 @@ static QString Tastenname(const QKeySequence& taste) {
 
 void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
     for (const Befehl& b : kBefehle) {
+        const auto tue = [this, &b] {
+            if ((b.merkmale & kBrauchtNetz) != 0 && liste_ == nullptr) {
+                ZeigeStatus(kOhneNetz);
+            } else {
+                (this->*b.klick)();
+            }
+        };
         auto* knopf = NeuerKnopf(b.komponente, b.hinweis, b.bild, this);
         const QKeySequence taste(QString::fromLatin1(b.taste));
         if (!taste.isEmpty()) {
             // Not the button's own shortcut: it plays the click, and a second press within that is lost.
-            if (b.klick != nullptr)
-                connect(new QShortcut(taste, this), &QShortcut::activated, this,
-                        [this, klick = b.klick] { (this->*klick)(); });
+            auto* kuerzel = new QShortcut(taste, this);
+            if ((b.merkmale & kInJedemFenster) != 0) kuerzel->setContext(Qt::ApplicationShortcut);
+            connect(kuerzel, &QShortcut::activated, this, tue);
             knopf->setToolTip(QString::fromUtf8(b.hinweis) + QStringLiteral(" (") + Tastenname(taste) +
                               QLatin1Char(')'));
         }
-        if (b.klick != nullptr)
-            connect(knopf, &QToolButton::clicked, this, [this, klick = b.klick] { (this->*klick)(); });
         if (b.klick == nullptr) continue;  // stands beside the field that it belongs to
+        connect(knopf, &QToolButton::clicked, this, tue);
         reihe.addWidget(knopf);
-        if (b.gruppenende) reihe.addWidget(Trennstrich(this));
+        if ((b.merkmale & kGruppenende) != 0) reihe.addWidget(Trennstrich(this));
     }
     Knopf("SpeedButton14").setCheckable(true);
     // Shows the point when the mouse button comes up, also with the keyboard.
@@ -294,6 +317,7 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     });
     reihe.addWidget(ComboBox1_);
     reihe.addWidget(&Knopf("SpeedButton10"));
+    setTabOrder(ComboBox1_, &Knopf("SpeedButton10"));  // made with the commands, which come first
 }
 
 void TZrwMainDlg::BaueDialoge() {
@@ -330,6 +354,7 @@ void TZrwMainDlg::BaueDialoge() {
     punktart_->zeichnen = [this] { ZeichnePunktart(); };
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
     new Fensterort(*ergebnisse_, Rand::RechtsUnten);
+    new Fensterort(*versteckte_, Rand::RechtsUnten);  // beside the window that hides points
     for (QDialog* dialog : std::initializer_list<QDialog*>{punktart_, beobachtungstyp_, punkteVerstecken_})
         new Fensterort(*dialog, Rand::RechtsOben);
     // Closing the window of a mode ends the mode.
@@ -347,7 +372,12 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     if (!unten) {
         werkzeuge_[nummer]->Beende();
         gewaehlt_ = nullptr;
-        if (Aktiv() == nullptr) bild_->unsetCursor();
+        if (Aktiv() == nullptr) {
+            bild_->unsetCursor();
+            // What the tool asked for is asked for no longer; other messages stay.
+            anleitung_->clear();
+            if (statusBar()->currentMessage() == werkzeuge_[nummer]->Anleitung()) ZeigeStatus(QString());
+        }
         return;
     }
     // One mode at most; none is allowed, which an exclusive button group is not.
@@ -356,7 +386,7 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     }
     werkzeuge_[nummer]->Beginne();
     bild_->setCursor(werkzeuge_[nummer]->Zeiger());
-    ZeigeStatus(werkzeuge_[nummer]->Anleitung());
+    ZeigeStatus(liste_ != nullptr ? werkzeuge_[nummer]->Anleitung() : kOhneNetz);
 }
 
 void TZrwMainDlg::LoeseWerkzeuge() {
@@ -373,8 +403,7 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
             return;
         }
         if (!HatKartengitter(programm_.netz.Netztyp)) {
-            statusBar()->showMessage(
-                QStringLiteral("Zum Koordinatensystem dieses Netzes gibt es kein Kartengitter."));
+            ZeigeStatus(QStringLiteral("Zum Koordinatensystem dieses Netzes gibt es kein Kartengitter."));
         }
     }
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);

@@ -33,6 +33,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLayout;
 class QStringListModel;
 
@@ -143,7 +144,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void BildGeaendert() override { bild_->update(); }
     void ZeichneNeu() override;
     void ZeigeVorschau(Vorschau vorschau) override;
-    void ZeigeStatus(const QString& text) override { statusBar()->showMessage(text); }
+    void ZeigeStatus(const QString& text) override;
     void Tue(std::unique_ptr<Netzaenderung> aenderung) override;
     void HeileBild() override;
     void BeginneZug() override;
@@ -228,6 +229,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
+    QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
     Massstabfeld* EditMasstab_ = nullptr;
     QComboBox* ComboBox1_ = nullptr;
     QStringListModel* nummern_ = nullptr;  ///< of all points, in the order in which they were read

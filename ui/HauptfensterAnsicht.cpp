@@ -1,5 +1,6 @@
 // Main window: view, mouse and status line.
 #include <QKeyEvent>
+#include <QLabel>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
@@ -59,6 +60,7 @@ void TZrwMainDlg::SpeedButton3Click() {
     if (std::exchange(ausdehnungAlt_, false)) liste_->FindWorldMinMax();
     pflege_.Alles(*liste_);
     ZeigeBild();
+    ZeigeStatus(maus_);
 }
 
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
@@ -102,6 +104,7 @@ bool TZrwMainDlg::SetzeAnsicht(double faktor, Welt linksOben) {
     liste_->XOffset = linksOben.rechts - liste_->MinXW;
     liste_->YOffset = linksOben.hoch - liste_->MaxYW;
     ZeichneNeu();
+    ZeigeStatus(maus_);
     return true;
 }
 
@@ -149,7 +152,9 @@ void TZrwMainDlg::ButtonKleinerClick() {
 /// One zoom step that keeps the world position at (x, y) [px] in place.
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
-    if (RechneZoom(x, y, groesser)) ZeichneNeu();
+    if (!RechneZoom(x, y, groesser)) return;
+    ZeichneNeu();
+    ZeigeStatus(maus_);
 }
 
 /// The view after the step. @return false: zooming ends here
@@ -170,11 +175,18 @@ bool TZrwMainDlg::RechneZoom(double x, double y, bool groesser) {
     return true;
 }
 
+void TZrwMainDlg::ZeigeStatus(const QString& text) {
+    anleitung_->clear();
+    statusBar()->showMessage(text);
+}
+
 void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {
     const Welt w = liste_->BildinWelt(ort);
     const std::string text = Festkomma(w.rechts, 12, 2) + " " + Festkomma(w.hoch, 12, 2) + " " +
                              " M=1:" + Festkomma(liste_->Faktor * 1000, 5, 0);
     ZeigeStatus(AusUtf8(text));
+    // What the tool asks for stays legible while the mouse goes there.
+    if (const Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) anleitung_->setText(werkzeug->Anleitung());
 }
 
 Werkzeug* TZrwMainDlg::Aktiv() const {
@@ -256,6 +268,7 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
         } else if (Aktiv() != nullptr) {
             Aktiv()->Abbrechen();
         }
+        bild_->setFocus();  // out of the fields of the panel, whose keys are their own
         return;
     }
     // A tenth of the picture at a time.
@@ -315,6 +328,7 @@ void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
                         liste_->YOffset + static_cast<double>(versatz.y) * f},
                        versatz);
     ZeigeBild();
+    ZeigeStatus(maus_);
 }
 
 void TZrwMainDlg::HeileBild() {

@@ -51,8 +51,7 @@ void TZrwMainDlg::SpeedButton16Click() {
         ZeigeFehler(f);
         return;
     }
-    statusBar()->showMessage(QStringLiteral("Geschrieben nach ") +
-                             QDir::toNativeSeparators(QDir::currentPath()));
+    ZeigeStatus(QStringLiteral("Geschrieben nach ") + QDir::toNativeSeparators(QDir::currentPath()));
     // "ZRP.PLT" is not the file's name, but what users have always read here.
     programm_.dialoge.Sage(
         QStringLiteral("Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."));
@@ -105,7 +104,10 @@ void TZrwMainDlg::ZeigeHilfe(int kontext) {
 bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
     if (ereignis->type() == QEvent::KeyPress && empfaenger->isWidgetType()) {
         const auto* taste = static_cast<QKeyEvent*>(ereignis);
-        if (taste->key() == Qt::Key_F1 && taste->modifiers() == Qt::ControlModifier) {
+        // In a dialog there is nothing that plain help could be about but the dialog.
+        const bool dialog = static_cast<QWidget*>(empfaenger)->window() != this;
+        if (taste->key() == Qt::Key_F1 &&
+            (taste->modifiers() == Qt::ControlModifier || (dialog && taste->modifiers() == Qt::NoModifier))) {
             ZeigeHilfe(ThemaZu(QApplication::focusWidget()));
             return true;
         }

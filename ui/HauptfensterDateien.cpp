@@ -293,8 +293,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     liste_->Hoehe = bild_->height();
     const QFileInfo info(AusUtf8(PfadText(datei)));
     ordner_ = info.absolutePath();
-    const QString name = QDir::toNativeSeparators(info.filePath());
-    titel_ = QStringLiteral("Zarwik ") + name;
+    titel_ = QStringLiteral("Zarwik ") + QDir::toNativeSeparators(info.filePath());
     ZeigeTitel();
     programm_.sitzung.NimmDatei(info.absoluteFilePath());
     programm_.sitzung.MerkeOrdner(ordner_);

@@ -33,13 +33,17 @@ std::string AlsNummer(const QString& text) {
 void TZrwMainDlg::Rueckgaengig() {
     BrichAb();
     if (!aenderungen_.canUndo()) return;
+    const QString text = aenderungen_.undoText();
     Fuehre(Aenderung(aenderungen_.index() - 1), [this] { aenderungen_.undo(); });
+    ZeigeStatus(QStringLiteral("Rückgängig: ") + text);
 }
 
 void TZrwMainDlg::Wiederhole() {
     BrichAb();
     if (!aenderungen_.canRedo()) return;
+    const QString text = aenderungen_.redoText();
     Fuehre(Aenderung(aenderungen_.index()), [this] { aenderungen_.redo(); });
+    ZeigeStatus(QStringLiteral("Wiederholt: ") + text);
 }
 
 /// All that is on the stack came through `Tue`.
@@ -165,7 +169,9 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
     if (liste_ == nullptr) return;
     const Sanduhr sanduhr;
     PPunktKnoten ziel = zentrum ? liste_->FindPunkt(AlsNummer(*zentrum)) : nullptr;
-    if (ziel != nullptr && !exzentren.isEmpty()) {
+    if (ziel == nullptr || exzentren.isEmpty()) {
+        ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
+    } else {
         for (const QString& nummer : exzentren) {
             if (PPunktKnoten p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
                 liste_->ZentrierPunkt(*p, *ziel, zeichner_);
@@ -174,6 +180,8 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
         ungesichert_ = true;
         aenderungen_.clear();
         ZeigeTitel();
+        ZeigeStatus(
+            QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
     }
     ZeichneNeu();
 }
@@ -294,6 +302,12 @@ void TZrwMainDlg::ZeichnePunktart() {
     }
     if (gewaehlt_ == nullptr) {
         programm_.dialoge.Melde(QStringLiteral("Bitte zuerst einen Punkt im Bild anklicken."));
+        return;
+    }
+    if (e.nummer != AusNetz(liste_->GetPktText(gewaehlt_->PNr))) {
+        programm_.dialoge.Melde(
+            QStringLiteral("Die Nummer eines Punktes lässt sich nicht ändern. Für einen neuen Punkt "
+                           "„Neupunkt“ ankreuzen."));
         return;
     }
     // What the dialog shows with four decimals is the place itself unless somebody changed it.
