@@ -28,7 +28,7 @@ from pathlib import Path
 WURZEL = Path(__file__).resolve().parent.parent
 RAEUME = ("model", "input", "output")
 ERGEBNISSE = ("getötet", "getötet vom Programmtest", "überlebt", "baut nicht")
-PROGRAMMTESTS = "^(ergebnisse|golden_export|paradox|geojson|hp2xx)$"
+PROGRAMMTESTS = "^(ergebnisse|golden_export|beispiele|geojson|hp2xx)$"
 PROGRAMMZEIT = 180  # seconds
 
 # What can be swapped: pattern in code without strings and comments -> replacements.

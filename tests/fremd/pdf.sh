@@ -10,4 +10,4 @@ blatt() {
 blatt a0 --papier A0 --quer --massstab 50000
 blatt a4 --massstab 50000 --dpi 1200
 blatt quer --papier A4 --quer --massstab 200000 --dpi 300
-"$python" "$wurzel/tests/fremd/pdf_pruefung.py" "$wurzel/beispiele/NETZ.EIN"
+"$python" "$wurzel/tests/fremd/pdf_pruefung.py"

@@ -4,7 +4,7 @@
 set -euo pipefail
 programme='rsvg-convert pdftoppm'
 . "$2/tests/fremd/hilfen/umgebung.sh"
-for netz in "$wurzel/beispiele/NETZ.EIN" TAFEL.ZRW; do
+for netz in "$wurzel/beispiele/NETZ.EIN" 03_linienstile.ZRW; do
     name=$(basename "${netz%.*}")
     "$zarwik" --export svg,zrw --groesse 1200x800 --ziel "$name" --ein legende,tk25 "$netz"
     rsvg-convert -f pdf -o "$name.pdf" "$name/$name.svg" 2>stderr
@@ -19,10 +19,11 @@ import zrwdatei as z
 
 SVG = "{http://www.w3.org/2000/svg}"
 fehler = []
-for name, gitter, mindestens in (("NETZ", ["GITTER"], 180), ("TAFEL", [], 20)):
+for name, ebenen, mindestens in (("NETZ", "GITTER BEOB PUNKTE PUNKTNR LEGENDE", 180),
+                                 ("03_linienstile", "BEOB LEGENDE", 20)):
     bild, wurzel = z.Bild(f"{name}/{name}.ZRW"), ET.parse(f"{name}/{name}.svg").getroot()
     gruppen = [g.get("id") for g in wurzel.iter(SVG + "g")]
-    if gruppen != [*gitter, "BEOB", "PUNKTE", "PUNKTNR", "LEGENDE"]:
+    if gruppen != ebenen.split():
         fehler.append(f"{name}: Gruppen {gruppen}")
     texte = {t.text: (float(t.get("x")), float(t.get("y"))) for g in wurzel.iter(SVG + "g")
              if g.get("id") == "PUNKTNR" for t in g.iter(SVG + "text")}

@@ -14,6 +14,9 @@ struct Zeichentafel {
         zustand.flaeche = &flaeche;
         zustand.Abkuerzungen = abkuerzungen;
     }
+    explicit Zeichentafel(const Einstellungen& e) : zeichner(zustand, e, netz, uhr) {
+        zustand.flaeche = &flaeche;
+    }
     Flaeche flaeche;
     Netzangaben netz;
     Zeichenzustand zustand;

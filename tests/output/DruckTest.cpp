@@ -6,10 +6,9 @@
 #include <algorithm>
 
 #include "model/Bytes.h"
-#include "output/Figurenzeichner.h"
-#include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/MerkFlaeche.h"
 #include "tests/hilfe/Probenetz.h"
+#include "tests/hilfe/Zeichentafel.h"
 
 namespace zrw {
 namespace {
@@ -17,7 +16,6 @@ namespace {
 class Druck : public testing::Test {
   protected:
     Druck() {
-        zustand.flaeche = &bild;
         n.l.Weite = 800;
         n.l.Hoehe = 600;
         n.l.MaxYW = 1000;
@@ -33,20 +31,17 @@ class Druck : public testing::Test {
 
     [[nodiscard]] std::string Stand() const {
         ByteSchreiber f;
-        n.l.Store(f, netz);
+        n.l.Store(f, tafel.netz);
         return std::string(f.Inhalt()) + std::to_string(n.e.PTSize) + std::to_string(n.e.Querstrich);
     }
     void Drucke(double aufloesung) {
-        zrw::Drucke(n.l, zeichner, zustand, n.e, blatt, {25000, "25000", {4724, 3307, aufloesung}});
+        zrw::Drucke(n.l, tafel.zeichner, zustand, n.e, blatt, {25000, "25000", {4724, 3307, aufloesung}});
     }
 
     Probenetz n;
-    Netzangaben netz;
-    Festuhr uhr;
-    Zeichenzustand zustand;
-    MerkFlaeche bild;
+    Zeichentafel<MerkFlaeche> tafel{n.e};
+    Zeichenzustand& zustand = tafel.zustand;
     MerkFlaeche blatt;
-    Figurenzeichner zeichner{zustand, n.e, netz, uhr};
 };
 
 TEST_F(Druck, MassstabSymboleUndSchriftAufDemBlatt) {
@@ -62,10 +57,10 @@ TEST_F(Druck, MassstabSymboleUndSchriftAufDemBlatt) {
     EXPECT_TRUE(enthaelt("Text 0x000000 62 -31 A"));
     EXPECT_TRUE(enthaelt("Text 0x000000 298 -31 B"));
     EXPECT_EQ(Stand(), vorher);
-    EXPECT_EQ(zustand.flaeche, &bild);
+    EXPECT_EQ(zustand.flaeche, &tafel.flaeche);
     EXPECT_EQ(zustand.modus, Zeichenmodus::Bildschirm);
     EXPECT_DOUBLE_EQ(zustand.Geraetefaktor, 0.16) << "stays at screen to printer";
-    EXPECT_TRUE(bild.zeilen.empty());
+    EXPECT_TRUE(tafel.flaeche.zeilen.empty());
 }
 
 TEST_F(Druck, LegendeStehtImSelbenEckUndBehaeltDenMassstab) {
@@ -92,7 +87,7 @@ TEST_F(Druck, EinAbgebrochenerAuftragHinterlaesstNichts) {
     EXPECT_THROW(zrw::Drucke(n.l, abbruch, zustand, n.e, blatt, {5000, "5000", {100, 100, 1200}}),
                  std::bad_alloc);
     EXPECT_EQ(Stand(), vorher);
-    EXPECT_EQ(zustand.flaeche, &bild);
+    EXPECT_EQ(zustand.flaeche, &tafel.flaeche);
     EXPECT_DOUBLE_EQ(zustand.Geraetefaktor, 1.0);
 }
 

@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "output/Abschneiden.h"
-#include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/MerkFlaeche.h"
+#include "tests/hilfe/Zeichentafel.h"
 
 namespace zrw {
 namespace {
@@ -16,8 +16,6 @@ constexpr Farbe kRot{0x0000FF};
 
 class Zeichnen : public testing::Test {
   protected:
-    Zeichnen() { zustand.flaeche = &flaeche; }
-
     /// Strokes of a line from a to e in red, one text line a stroke: "- x y x y" solid, "~ x y x y" dashed.
     Zeilen Kantenstriche(KanteAttr kAttr, LinieAttr lAttr, Bildpunkt a, Bildpunkt e) {
         Kante k = Kante::Create(kRot, kAttr, lAttr);
@@ -35,11 +33,10 @@ class Zeichnen : public testing::Test {
     }
 
     Einstellungen einstellungen;
-    Netzangaben netz;
-    Festuhr uhr;
-    Zeichenzustand zustand;
-    MerkFlaeche flaeche;
-    Figurenzeichner zeichner{zustand, einstellungen, netz, uhr};
+    Zeichentafel<MerkFlaeche> tafel{einstellungen};
+    Zeichenzustand& zustand = tafel.zustand;
+    MerkFlaeche& flaeche = tafel.flaeche;
+    Figurenzeichner& zeichner = tafel.zeichner;
 
   private:
     bool gestrichelt_ = false;  // the pen keeps its style from one line to the next
@@ -79,60 +76,40 @@ TEST_F(Zeichnen, WischenIstDasselbeInWeiss) {
     EXPECT_EQ(flaeche.Nimm(), (Zeilen{"Text 0x0000FF 10 -5 12W", "Text 0xFFFFFF 10 -5 12W"}));
 }
 
-// The line runs to the right, so "across" is downwards in the picture.
+// On the screen as in the files, where tests/golden_export holds every style with every decoration. The line
+// runs to the right, so "across" is downwards in the picture.
 TEST_F(Zeichnen, LinienstilAufEinenBlick) {
-    struct Fall {
+    const struct {
         LinieAttr stil;
         KanteAttr beobachtet;
         Zeilen erwartet;
+    } faelle[] = {
+        {LinieAttr::AR1, KanteAttr::ST, {"- 100 50 150 50", "~ 150 50 200 50", "- 156 54 156 46"}},
+        {LinieAttr::AST,
+         KanteAttr::GPS,
+         {"~ 100 50 146 50", "~ 154 50 200 50", "- 154 50 150 54", "- 150 54 146 50", "- 146 50 150 46",
+          "- 150 46 154 50"}},
+        {LinieAttr::ASTI,
+         {},
+         {"~ 100 50 142 50", "- 142 50 146 54", "- 146 54 154 54", "- 154 54 158 50", "~ 158 50 172 50",
+          "~ 172 50 186 50", "~ 186 50 200 50"}},
+        {static_cast<LinieAttr>(99), {}, {}},
     };
-    const KanteAttr gps = KanteAttr::GPS;
-    const Zeilen marke{"- 154 50 150 54", "- 150 54 146 50", "- 146 50 150 46", "- 150 46 154 50"};
-    const auto mit = [](Zeilen a, const Zeilen& b) {
-        a.insert(a.end(), b.begin(), b.end());
-        return a;
-    };
-    const std::array faelle{
-        Fall{LinieAttr::AR1, {}, {"- 100 50 150 50", "~ 150 50 200 50"}},
-        Fall{LinieAttr::AR2, {}, {"- 100 50 200 50"}},
-        Fall{LinieAttr::AST, {}, {"~ 100 50 200 50"}},
-        Fall{LinieAttr::Null, gps, mit({"- 100 50 200 50"}, marke)},
-        Fall{LinieAttr::AR1, gps, mit({"- 100 50 146 50", "~ 154 50 200 50"}, marke)},
-        Fall{LinieAttr::AR2, gps, mit({"- 100 50 146 50", "- 154 50 200 50"}, marke)},
-        Fall{LinieAttr::AST, gps, mit({"~ 100 50 146 50", "~ 154 50 200 50"}, marke)},
-        Fall{LinieAttr::ARI1,
-             {},
-             {"- 100 50 142 50", "- 142 50 146 54", "- 146 54 150 54", "~ 150 54 154 54", "~ 154 54 158 50",
-              "~ 158 50 200 50"}},
-        Fall{LinieAttr::ARI2,
-             {},
-             {"- 100 50 142 50", "- 142 50 146 54", "- 146 54 150 54", "- 150 54 154 54", "- 154 54 158 50",
-              "- 158 50 200 50", "~ 142 50 158 50"}},
-        Fall{static_cast<LinieAttr>(99), {}, {}},
-    };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         EXPECT_EQ(Kantenstriche(f.beobachtet, f.stil, {100, 50}, {200, 50}), f.erwartet)
             << static_cast<int>(f.stil);
     }
-    EXPECT_EQ(Kantenstriche({}, LinieAttr::ASTI, {100, 50}, {200, 50}),
-              (Zeilen{"~ 100 50 142 50", "- 142 50 146 54", "- 146 54 154 54", "- 154 54 158 50",
-                      "~ 158 50 172 50", "~ 172 50 186 50", "~ 186 50 200 50"}));
 }
 
-TEST_F(Zeichnen, VerzierungenAnIhremPlatz) {
-    struct Fall {
-        KanteAttr::Art art;
-        Zeilen erwartet;
-    };
-    for (const Fall& f : {Fall{KanteAttr::ST, {"- 156 54 156 46"}}, Fall{KanteAttr::DH1, {"- 108 54 112 54"}},
-                          Fall{KanteAttr::DH2, {"- 108 54 112 54", "- 192 46 188 46"}}}) {
-        Zeilen striche = Kantenstriche(f.art, LinieAttr::AR2, {100, 50}, {200, 50});
-        ASSERT_FALSE(striche.empty());
-        striche.erase(striche.begin());
-        EXPECT_EQ(striche, f.erwartet) << static_cast<int>(f.art);
-    }
-    // The midpoint truncates towards zero in either direction: (-3) div 2 = -1.
-    EXPECT_EQ(Kantenstriche(KanteAttr::ST, LinieAttr::AR2, {103, 50}, {100, 50}).back(), "- 96 46 96 54");
+TEST_F(Zeichnen, SchraegeLinien) {
+    // 12 and 16 make 20: the detour shrinks to a sixth of it, less than its size of 4.
+    EXPECT_EQ(
+        Kantenstriche({}, LinieAttr::ARI1, {0, 0}, {12, 16}),
+        (Zeilen{"- 0 0 2 3", "- 2 3 1 7", "- 1 7 3 10", "~ 3 10 5 13", "~ 5 13 10 13", "~ 10 13 12 16"}));
+    EXPECT_EQ(Kantenstriche(KanteAttr::ST, LinieAttr::AR2, {0, 0}, {30, 40}),
+              (Zeilen{"- 0 0 30 40", "- 15 27 22 22"}));
+    EXPECT_EQ(Kantenstriche(KanteAttr::DH1, LinieAttr::AR2, {0, 0}, {30, 40}),
+              (Zeilen{"- 0 0 30 40", "- 2 9 4 12"}));
 }
 
 TEST_F(Zeichnen, LinieOhneRichtungUndGPSIstWeiss) {
@@ -191,9 +168,9 @@ TEST(AbschneidenTest, LangeLinienKreuzenDasBildAmRechtenOrt) {
             EXPECT_TRUE(p.x >= -64 && p.x <= 863 && p.y >= -64 && p.y <= 663) << p.x << " " << p.y;
         }
     }
-    const auto quer = Abschneiden({-kWeit, 300}, {kWeit, 300}, bild);
-    EXPECT_EQ(quer->first.y, 300);
-    EXPECT_EQ(quer->first.x, -64);
+    using Stueck = std::pair<Flaechenpunkt, Flaechenpunkt>;
+    EXPECT_EQ(Abschneiden({-kWeit, 300}, {kWeit, 300}, bild), (Stueck{{-64, 300}, {863, 300}}));
+    EXPECT_EQ(Abschneiden({400, kWeit}, {400, -kWeit}, bild), (Stueck{{400, 663}, {400, -64}}));
     const auto nah = Abschneiden({-5000, 10}, {700, 20}, bild);
     EXPECT_EQ(nah->first.x, -5000) << "left whole, so that its dots do not depend on what is visible";
 }

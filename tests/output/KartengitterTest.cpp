@@ -123,31 +123,6 @@ TEST_F(Gitter, KilometerquadrateMitNummern) {
     EXPECT_GT(eng.size(), 300U);
 }
 
-// The drawing has every piece of its own, in picture coordinates, with numbers however narrow.
-TEST_F(Gitter, ZeichnungInBildkoordinaten) {
-    Schaue({3512400, 5679800}, 25);
-    l.Weite = l.Hoehe = 20;
-    Speicherdateien d;
-    DXFUnit dxf(d);
-    dxf.DxfFileName = "a";
-    dxf.DxfOpen();
-    Kartengitter({&flaeche, &dxf, kBlau}, l).Kilometerquadrate();
-    dxf.DxfClose();
-    dxf.Uebernimm();
-    const std::string linie =
-        "  0\r\nLINE\r\n  8\r\nGITTER\r\n  6\r\nCONTINUOUS\r\n 10\r\n-1.60000000000000E+0001\r\n 20\r\n"
-        " 3.20000000000000E+0001\r\n 30\r\n 0.00000000000000E+0000\r\n 11\r\n-1.60000000000000E+0001\r\n "
-        "21\r\n"
-        " 7.20000000000000E+0001\r\n 31\r\n 0.00000000000000E+0000\r\n";
-    const std::string text =
-        "  0\r\nTEXT\r\n  8\r\nGITTER\r\n  6\r\nCONTINUOUS\r\n 10\r\n-1.10000000000000E+0001\r\n 20\r\n"
-        " 7.20000000000000E+0001\r\n 30\r\n 0.00000000000000E+0000\r\n 40\r\n 8.00000000000000E+0000\r\n  "
-        "1\r\n"
-        "35561278\r\n 50\r\n    0.0000\r\n";
-    EXPECT_EQ(d.dateien["a"],
-              "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n" + linie + text + "  0\r\nENDSEC\r\n  0\r\nEOF\r\n");
-}
-
 // Whatever the view: a grid or none, but at once.
 TEST_F(Gitter, JedeAnsichtIstSchnellFertig) {
     constexpr double kInf = std::numeric_limits<double>::infinity();

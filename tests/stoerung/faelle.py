@@ -23,14 +23,14 @@ from gemeinsam import DATEINAMEN, halbe_dateien, lauf, umgebung
 from welt import ALT, NEU, NIEMAND, UNVERAENDERT, WURZEL_RECHTE, Welt, binde_ein, pruefe
 
 EXPORT = ("--export", "zrw", "--ziel", "ziel")
+ZIEL = "ziel/NETZ.ZRW"
+KNAPP = {"RLIMIT_AS": 512 << 20}
 BILD = ("--export", "svg", "--ein", "lagegen", "--ziel", "ziel")  # reads the tables
 
 
-# --- writing ---------------------------------------------------------------------------------------------------
-
 def voller_datentraeger(w):
     binde_ein(w, "ziel", "size=128k")
-    return w.alle_formate("--ziel", "ziel", "gross.ZRW")
+    return w.alle_formate()
 
 
 def kein_eintrag_frei(w):
@@ -41,62 +41,35 @@ def kein_eintrag_frei(w):
             w.schreibe(f"ziel/fuellt{i}", b"")
     except OSError:
         pass
-    return w.alle_formate("--ziel", "ziel", "gross.ZRW")
+    return w.alle_formate()
 
 
 def schreibgeschuetzt(w):
     binde_ein(w, "ziel", "size=1m")
     subprocess.run(["mount", "-o", "remount,ro", w.pfad("ziel")], check=True)
-    return w.alle_formate("--ziel", "ziel", "gross.ZRW")
-
-
-def groessengrenze(w):
-    return w.alle_formate("--ziel", "ziel", "gross.ZRW", grenzen={"RLIMIT_FSIZE": 65536})
+    return w.alle_formate()
 
 
 def ordner_gesperrt(w):
     os.chmod(w.pfad("ziel"), 0o555)
-    return w.alle_formate("--ziel", "ziel", "gross.ZRW", nutzer=NIEMAND)
+    return w.alle_formate(nutzer=NIEMAND)
 
 
-def ordner_verschwindet(w):
-    return w.waehrend(lambda w: shutil.rmtree(w.pfad("ziel")), "--export", "dxf", "--ziel", "ziel", "gross.ZRW")
-
-
-def daneben_verschwindet(w):
+def beim_schreiben(*schritte):
     def tu(w):
-        for n in os.listdir(w.pfad("ziel")):
-            if n.endswith(".neu"):
-                os.remove(w.pfad("ziel/" + n))
-    return w.waehrend(tu, "--export", "dxf", "--ziel", "ziel", "gross.ZRW")
+        for schritt in schritte:
+            schritt(w)
+    return lambda w: w.waehrend(tu, "--export", "dxf", "--ziel", "ziel", "gross.ZRW")
 
 
-def ziel_wird_ordner(w):
-    def tu(w):
-        os.remove(w.pfad("ziel/ZRW.DXF"))
-        os.mkdir(w.pfad("ziel/ZRW.DXF"))
-    return w.waehrend(tu, "--export", "dxf", "--ziel", "ziel", "gross.ZRW")
+def weg(name):
+    return lambda w: os.remove(w.pfad(name))
 
 
-def ziel_ersetzt(w):
-    def tu(w):
-        os.remove(w.pfad("ziel/ZRW.DXF"))
-        w.schreibe("ziel/ZRW.DXF", "Von einem anderen Programm.")
-    return w.waehrend(tu, "--export", "dxf", "--ziel", "ziel", "gross.ZRW")
-
-
-def eingabe_verschwindet(w):
-    return w.waehrend(lambda w: os.remove(w.pfad("gross.ZRW")), "--export", "dxf", "--ziel", "ziel", "gross.ZRW")
-
-
-def ziel_ist(art):
-    def tu(w):
-        os.remove(w.pfad("ziel/NETZ.ZRW"))
-        {"ordner": os.mkdir, "rohr": os.mkfifo,
-         # As nobody, who could not replace the device even if the program tried.
-         "geraet": lambda p: os.symlink("/dev/full", p)}[art](w.pfad("ziel/NETZ.ZRW"))
-        return w.laeuft(*EXPORT, "NETZ.EIN", nutzer=NIEMAND)
-    return tu
+def daneben_weg(w):
+    for n in os.listdir(w.pfad("ziel")):
+        if n.endswith(".neu"):
+            os.remove(w.pfad("ziel/" + n))
 
 
 def verweis_als_ziel(alt):
@@ -104,17 +77,13 @@ def verweis_als_ziel(alt):
         w.schreibe("anderswo/NETZ.ZRW", ALT)
         if not alt:
             os.remove(w.pfad("anderswo/NETZ.ZRW"))
-        verweis("ziel/NETZ.ZRW", "../anderswo/NETZ.ZRW")(w)
+        verweis(ZIEL, "../anderswo/NETZ.ZRW")(w)
         e = w.laeuft(*EXPORT, "NETZ.EIN")
-        if not os.path.islink(w.pfad("ziel/NETZ.ZRW")) or os.listdir(w.pfad("anderswo")) != ["NETZ.ZRW"] or \
+        if not os.path.islink(w.pfad(ZIEL)) or os.listdir(w.pfad("anderswo")) != ["NETZ.ZRW"] or \
                 halbe_dateien(w.pfad("anderswo")):
             e.status = -1
         return e
     return tu
-
-
-def wenig_speicher(w):
-    return w.alle_formate("--ziel", "ziel", "gross.ZRW", grenzen={"RLIMIT_AS": 85 << 20})
 
 
 def zu_einstellungen(w, **mehr):
@@ -138,8 +107,6 @@ def einstellungen_voll(w):
     return zu_einstellungen(w)
 
 
-# --- reading ---------------------------------------------------------------------------------------------------
-
 def mit(vorbereitung, *worte, **mehr):
     def tu(w):
         vorbereitung(w)
@@ -148,24 +115,58 @@ def mit(vorbereitung, *worte, **mehr):
 
 
 def ruf(*worte, **mehr):
-    return lambda w: w.laeuft(*worte, **mehr)
+    return mit(lambda w: None, *worte, **mehr)
+
+
+def oeffne(name, *vorbereitungen, **mehr):
+    return mit(lambda w: [v(w) for v in vorbereitungen], *EXPORT, name, **mehr)
+
+
+def nach(ziel, **mehr):
+    return ruf("--export", "zrw", "--ziel", ziel, "NETZ.EIN", **mehr)
+
+
+def ersetzt(name, lege):
+    def tu(w):
+        if os.path.exists(w.pfad(name)):
+            os.remove(w.pfad(name))
+        lege(w.pfad(name))
+    return tu
 
 
 def rohr(name):
-    return lambda w: (os.remove(w.pfad(name)) if os.path.exists(w.pfad(name)) else None, os.mkfifo(w.pfad(name)))
+    return ersetzt(name, os.mkfifo)
 
 
 def ordner(name):
-    return lambda w: (os.remove(w.pfad(name)) if os.path.exists(w.pfad(name)) else None, os.makedirs(w.pfad(name)))
+    return ersetzt(name, os.mkdir)
+
+
+def verweis(name, wohin):
+    return ersetzt(name, lambda pfad: os.symlink(wohin, pfad))
 
 
 def datei(name, inhalt):
     return lambda w: w.schreibe(name, inhalt)
 
 
-def verweis(name, wohin):
-    return lambda w: (os.remove(w.pfad(name)) if os.path.exists(w.pfad(name)) else None,
-                      os.symlink(wohin, w.pfad(name)))
+def einbindung(name, von="a.EIN"):
+    return datei(von, f"$NT 3\n$PF 0\n$FP A              1 1 1\n$SF {name}\n")
+
+
+def umbenannt(name):
+    return lambda w: os.rename(w.pfad("NETZ.EIN"), w.pfad(name))
+
+
+def riesiges_feld(w):
+    feld = os.path.join(w.wurzel, "fuzz/korpus/Einstellungsdatei/riesiges_feld")
+    return w.laeuft(*EXPORT, "--einstellungen", feld, "NETZ.EIN", grenzen=KNAPP)
+
+
+def riesige_einstellungen(w):
+    w.schreibe("heim/ZRWINI.ini", b"")
+    os.truncate(w.pfad("heim/ZRWINI.ini"), 2 << 30)
+    return w.laeuft(*EXPORT, "NETZ.EIN", grenzen=KNAPP)
 
 
 def steckdose(name):
@@ -249,167 +250,142 @@ def geschlossene_ausgaben(w):
 
 
 LANG = "x" * 4000
-EINBINDUNG = "$NT 3\n$PF 0\n$FP A              1 1 1\n$SF {}\n"
 NICHT = "Kann Datei nicht schreiben"
 AUF = "Kann Datei nicht öffnen"
+ORT_FEHLT = f"{NICHT} (nicht vorhanden)"
+KEINE_DATEI = f"{AUF} (keine gewöhnliche Datei)"
 
-# (case, what happens, status, part of the message, files afterwards, what it needs)
+
+# A case: name, what happens, status, part of the message, files afterwards, what it needs.
+def misslingt(name, tu, text, status=1, danach=UNVERAENDERT, braucht=""):
+    return name, tu, status, text, danach, braucht
+
+
+def falsch(name, text, *worte):
+    return misslingt(name, ruf(*worte), text, status=2)
+
+
+def gelingt(name, tu, text="", danach=NEU, braucht=""):
+    return name, tu, 0, text, danach, braucht
+
+
 FAELLE = [
     ("Schreiben", [
-        ("Datenträger voll, alle Formate", voller_datentraeger, 1, f"{NICHT} (Datenträger voll)", UNVERAENDERT, "root"),
-        ("kein Verzeichniseintrag frei, alle Formate", kein_eintrag_frei, 1, f"{NICHT} (Datenträger voll)",
-         UNVERAENDERT, "root"),
-        ("Datenträger schreibgeschützt, alle Formate", schreibgeschuetzt, 1,
-         f"{NICHT} (Datenträger schreibgeschützt)", UNVERAENDERT, "root"),
-        ("Grenze für Dateigrößen, alle Formate", groessengrenze, 1, f"{NICHT} (Datei zu groß)", UNVERAENDERT, ""),
-        ("Ordner nur lesbar, alle Formate", ordner_gesperrt, 1, f"{NICHT} (keine Berechtigung)", UNVERAENDERT, ""),
-        ("zu wenig Speicher, alle Formate", wenig_speicher, 1, "Der Speicher reicht nicht", UNVERAENDERT,
-         "Speichergrenze"),
-        ("Zielordner verschwindet beim Schreiben", ordner_verschwindet, 1, f"{NICHT} (nicht vorhanden)",
-         UNVERAENDERT, ""),
-        ("Datei neben dem Ziel verschwindet", daneben_verschwindet, 1, f"{NICHT} (nicht vorhanden)", UNVERAENDERT,
-         ""),
-        ("Ziel wird beim Schreiben zum Ordner", ziel_wird_ordner, 1, f"{NICHT} (ist ein Ordner)", UNVERAENDERT,
-         ""),
-        ("Ziel wird beim Schreiben ersetzt", ziel_ersetzt, 0, "", NEU, ""),
-        ("Eingabe verschwindet beim Schreiben", eingabe_verschwindet, 0, "", NEU, ""),
-        ("Ziel ist ein Ordner", ziel_ist("ordner"), 1, f"{NICHT} (ist ein Ordner)", UNVERAENDERT, ""),
-        ("Ziel ist eine Pipe", ziel_ist("rohr"), 1, f"{NICHT} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
-        ("Ziel führt zu einem Gerät", ziel_ist("geraet"), 1, f"{NICHT} (keine gewöhnliche Datei)", UNVERAENDERT,
-         ""),
-        ("Ziel ist ein Verweis auf eine Datei", verweis_als_ziel(True), 0, "", NEU, ""),
-        ("Ziel ist ein Verweis auf eine Datei, die es noch nicht gibt", verweis_als_ziel(False), 0, "", NEU, ""),
-        ("Ziel ist ein Verweis in einen Ordner, den es nicht gibt",
-         mit(verweis("ziel/NETZ.ZRW", "weg/NETZ.ZRW"), *EXPORT, "NETZ.EIN"), 1, f"{NICHT} (nicht vorhanden)",
-         UNVERAENDERT, ""),
-        ("Ziel ist ein Verweis auf sich selbst", mit(verweis("ziel/NETZ.ZRW", "NETZ.ZRW"), *EXPORT, "NETZ.EIN"), 1,
-         f"{NICHT} (Verweise im Kreis)", UNVERAENDERT, ""),
-        ("Ziel ist nur lesbar", mit(lambda w: os.chmod(w.pfad("ziel/NETZ.ZRW"), 0o444), *EXPORT, "NETZ.EIN",
-                                    nutzer=NIEMAND), 1, f"{NICHT} (keine Berechtigung)", UNVERAENDERT, ""),
-        ("Name mit 255 Zeichen", mit(lambda w: os.rename(w.pfad("NETZ.EIN"), w.pfad("n" * 251 + ".EIN")), *EXPORT,
-                                     "n" * 251 + ".EIN"), 0, "", NEU, ""),
-        ("Zielordner ist eine Datei", ruf("--export", "zrw", "--ziel", "KOORD.KF", "NETZ.EIN"), 1,
-         "ein Teil des Pfades ist kein Ordner", UNVERAENDERT, ""),
-        ("Zielordner ist ein Gerät", ruf("--export", "zrw", "--ziel", "/dev/full", "NETZ.EIN", nutzer=NIEMAND), 1,
-         "ein Teil des Pfades ist kein Ordner", UNVERAENDERT, ""),
-        ("Zielordner in einem Ordner, den es nicht gibt",
-         ruf("--export", "zrw", "--ziel", "gibts/nicht", "NETZ.EIN"), 1, f"{NICHT} (nicht vorhanden)", UNVERAENDERT,
-         ""),
-        ("Zielordner mit 4 000 Zeichen in einem Namen", ruf("--export", "zrw", "--ziel", LANG, "NETZ.EIN"), 1,
-         "Name zu lang", UNVERAENDERT, ""),
-        ("Einstellungen: Ordner nur lesbar", einstellungen_gesperrt, 1, "nicht gespeichert", UNVERAENDERT, ""),
-        ("Einstellungen: Datenträger voll", einstellungen_voll, 1, "nicht gespeichert", UNVERAENDERT, "root"),
+        misslingt("Datenträger voll, alle Formate", voller_datentraeger, f"{NICHT} (Datenträger voll)", braucht="root"),
+        misslingt("kein Verzeichniseintrag frei, alle Formate", kein_eintrag_frei, f"{NICHT} (Datenträger voll)",
+                  braucht="root"),
+        misslingt("Datenträger schreibgeschützt, alle Formate", schreibgeschuetzt,
+                  f"{NICHT} (Datenträger schreibgeschützt)", braucht="root"),
+        misslingt("Grenze für Dateigrößen, alle Formate", lambda w: w.alle_formate(grenzen={"RLIMIT_FSIZE": 65536}),
+                  f"{NICHT} (Datei zu groß)"),
+        misslingt("Ordner nur lesbar, alle Formate", ordner_gesperrt, f"{NICHT} (keine Berechtigung)"),
+        misslingt("zu wenig Speicher, alle Formate", lambda w: w.alle_formate(grenzen={"RLIMIT_AS": 85 << 20}),
+                  "Der Speicher reicht nicht", braucht="Speichergrenze"),
+        misslingt("Zielordner verschwindet beim Schreiben", beim_schreiben(lambda w: shutil.rmtree(w.pfad("ziel"))),
+                  ORT_FEHLT),
+        misslingt("Datei neben dem Ziel verschwindet", beim_schreiben(daneben_weg), ORT_FEHLT),
+        misslingt("Ziel wird beim Schreiben zum Ordner", beim_schreiben(ordner("ziel/ZRW.DXF")),
+                  f"{NICHT} (ist ein Ordner)"),
+        gelingt("Ziel wird beim Schreiben ersetzt",
+                beim_schreiben(weg("ziel/ZRW.DXF"), datei("ziel/ZRW.DXF", "Von einem anderen Programm."))),
+        gelingt("Eingabe verschwindet beim Schreiben", beim_schreiben(weg("gross.ZRW"))),
+        misslingt("Ziel ist ein Ordner", oeffne("NETZ.EIN", ordner(ZIEL)), f"{NICHT} (ist ein Ordner)"),
+        misslingt("Ziel ist eine Pipe", oeffne("NETZ.EIN", rohr(ZIEL)), f"{NICHT} (keine gewöhnliche Datei)"),
+        misslingt("Ziel führt zu einem Gerät", oeffne("NETZ.EIN", verweis(ZIEL, "/dev/full"), nutzer=NIEMAND),
+                  f"{NICHT} (keine gewöhnliche Datei)"),
+        gelingt("Ziel ist ein Verweis auf eine Datei", verweis_als_ziel(True)),
+        gelingt("Ziel ist ein Verweis auf eine Datei, die es noch nicht gibt", verweis_als_ziel(False)),
+        misslingt("Ziel ist ein Verweis in einen Ordner, den es nicht gibt",
+                  oeffne("NETZ.EIN", verweis(ZIEL, "weg/NETZ.ZRW")), ORT_FEHLT),
+        misslingt("Ziel ist ein Verweis auf sich selbst", oeffne("NETZ.EIN", verweis(ZIEL, "NETZ.ZRW")),
+                  f"{NICHT} (Verweise im Kreis)"),
+        misslingt("Ziel ist nur lesbar", oeffne("NETZ.EIN", lambda w: os.chmod(w.pfad(ZIEL), 0o444), nutzer=NIEMAND),
+                  f"{NICHT} (keine Berechtigung)"),
+        gelingt("Name mit 255 Zeichen", oeffne("n" * 251 + ".EIN", umbenannt("n" * 251 + ".EIN"))),
+        misslingt("Zielordner ist eine Datei", nach("KOORD.KF"), "ein Teil des Pfades ist kein Ordner"),
+        misslingt("Zielordner ist ein Gerät", nach("/dev/full", nutzer=NIEMAND), "ein Teil des Pfades ist kein Ordner"),
+        misslingt("Zielordner in einem Ordner, den es nicht gibt", nach("gibts/nicht"), ORT_FEHLT),
+        misslingt("Zielordner mit 4 000 Zeichen in einem Namen", nach(LANG), "Name zu lang"),
+        misslingt("Einstellungen: Ordner nur lesbar", einstellungen_gesperrt, "nicht gespeichert"),
+        misslingt("Einstellungen: Datenträger voll", einstellungen_voll, "nicht gespeichert", braucht="root"),
     ]),
     ("Lesen", [
-        ("Steuerdatei fehlt", ruf(*EXPORT, "fehlt.EIN"), 1, f"{AUF} (nicht vorhanden)", UNVERAENDERT, ""),
-        ("Steuerdatei ist ein Ordner", ruf(*EXPORT, "ziel"), 1, f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT,
-         ""),
-        ("Steuerdatei ist eine Pipe", mit(rohr("NETZ.EIN"), *EXPORT, "NETZ.EIN"), 1,
-         f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
-        ("Steuerdatei ist ein Gerät", ruf(*EXPORT, "/dev/zero"), 1, f"{AUF} (keine gewöhnliche Datei)",
-         UNVERAENDERT, ""),
-        ("Steuerdatei ist ein Socket", mit(steckdose("dose.EIN"), *EXPORT, "dose.EIN"), 1,
-         f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
-        ("Steuerdatei ist ein Verweis auf sich selbst", mit(verweis("kreis.EIN", "kreis.EIN"), *EXPORT, "kreis.EIN"),
-         1, f"{AUF} (Verweise im Kreis)", UNVERAENDERT, ""),
-        ("Steuerdatei ohne Leserecht", nutzer_ohne_recht("NETZ.EIN"), 1, f"{AUF} (keine Berechtigung)",
-         UNVERAENDERT, ""),
-        ("Steuerdatei leer", mit(datei("leer.EIN", b""), *EXPORT, "leer.EIN"), 0, "keine lesbaren Punkte", None,
-         ""),
-        ("Steuerdatei nur aus Nullen", mit(datei("null.EIN", bytes(100000)), *EXPORT, "null.EIN"), 0,
-         "keine lesbaren Punkte", None, ""),
-        ("Zarwikdatei leer", mit(datei("leer.ZRW", b""), *EXPORT, "leer.ZRW"), 1, "keine vollständige Zarwikdatei",
-         UNVERAENDERT, ""),
-        ("Name mit Umlauten und Blanks", mit(lambda w: os.rename(w.pfad("NETZ.EIN"), w.pfad("Größe ä ß.EIN")),
-                                             "--export", "zrw", "--ziel", "ziel", "Größe ä ß.EIN"), 0, "", None, ""),
-        ("Name mit Umlauten, Sprache C", mit(lambda w: os.rename(w.pfad("NETZ.EIN"), w.pfad("Größe.EIN")),
-                                             *EXPORT, "Größe.EIN", LC_ALL="C"), 0, "", None, ""),
-        ("Name mit Zeilenende und Steuerzeichen", mit(datei("a\n\x1b[31mb.EIN", "$NT x\n"), *EXPORT,
-                                                      "a\n\x1b[31mb.EIN"), 1, "Zahl fehlt", UNVERAENDERT, ""),
-        ("Pfad mit fast 4 000 Zeichen", tiefer_pfad, 0, "", None, ""),
-        ("Name mit 4 000 Zeichen", ruf(*EXPORT, LANG + ".EIN"), 1, f"{AUF} (Name zu lang)", UNVERAENDERT, ""),
-        ("Pfad über eine Datei", ruf(*EXPORT, "KOORD.KF/NETZ.EIN"), 1, f"{AUF} (", UNVERAENDERT, ""),
-        ("relative Pfade mit . und ..", relativ, 0, "", NEU, ""),
-        ("ohne Standardströme", geschlossene_ausgaben, 0, "", NEU, ""),
-        ("Einfügung fehlt", mit(datei("a.EIN", EINBINDUNG.format("fehlt.SF")), *EXPORT, "a.EIN"), 1,
-         "Kann Datei fehlt.SF nicht öffenen!", UNVERAENDERT, ""),
-        ("Einfügung mit Steuerzeichen im Namen", mit(datei("a.EIN", b"$NT 3\n$SF \x1b[31m\x7f\x81\x9by\n"), *EXPORT,
-                                                     "a.EIN"), 1, "nicht öffenen!", UNVERAENDERT, ""),
-        ("Einfügung ist eine Pipe", mit(lambda w: (rohr("p.SF")(w), datei("a.EIN", EINBINDUNG.format("p.SF"))(w)),
-                                        *EXPORT, "a.EIN"), 1, "Kann Datei p.SF nicht", UNVERAENDERT, ""),
-        ("Einfügung ist ein Gerät", mit(datei("a.EIN", EINBINDUNG.format("/dev/zero")), *EXPORT, "a.EIN"), 1,
-         "Kann Datei /dev/zero nicht", UNVERAENDERT, ""),
-        ("Einfügung führt zu einem Gerät",
-         mit(lambda w: (verweis("z.SF", "/dev/zero")(w), datei("a.EIN", EINBINDUNG.format("z.SF"))(w)), *EXPORT,
-             "a.EIN"), 1, "Kann Datei z.SF nicht", UNVERAENDERT, ""),
-        ("Einfügung ist ein Ordner", mit(datei("a.EIN", EINBINDUNG.format("ziel")), *EXPORT, "a.EIN"), 1,
-         "Kann Datei ziel nicht", UNVERAENDERT, ""),
-        ("Einfügung ist die Datei selbst", mit(datei("a.EIN", EINBINDUNG.format("a.EIN")), *EXPORT, "a.EIN"), 0,
-         None, None, ""),
-        ("Einfügung liegt außerhalb", mit(datei("unten/a.EIN", EINBINDUNG.format("../RICHT.SF")), *EXPORT,
-                                          "unten/a.EIN"), 0, "", None, ""),
+        misslingt("Steuerdatei fehlt", oeffne("fehlt.EIN"), f"{AUF} (nicht vorhanden)"),
+        misslingt("Steuerdatei ist ein Ordner", oeffne("ziel"), KEINE_DATEI),
+        misslingt("Steuerdatei ist eine Pipe", oeffne("NETZ.EIN", rohr("NETZ.EIN")), KEINE_DATEI),
+        misslingt("Steuerdatei ist ein Gerät", oeffne("/dev/zero"), KEINE_DATEI),
+        misslingt("Steuerdatei ist ein Socket", oeffne("dose.EIN", steckdose("dose.EIN")), KEINE_DATEI),
+        misslingt("Steuerdatei ist ein Verweis auf sich selbst", oeffne("kreis.EIN", verweis("kreis.EIN", "kreis.EIN")),
+                  f"{AUF} (Verweise im Kreis)"),
+        misslingt("Steuerdatei ohne Leserecht", nutzer_ohne_recht("NETZ.EIN"), f"{AUF} (keine Berechtigung)"),
+        gelingt("Steuerdatei leer", oeffne("leer.EIN", datei("leer.EIN", b"")), "keine lesbaren Punkte", danach=None),
+        gelingt("Steuerdatei nur aus Nullen", oeffne("null.EIN", datei("null.EIN", bytes(100000))),
+                "keine lesbaren Punkte", danach=None),
+        misslingt("Zarwikdatei leer", oeffne("leer.ZRW", datei("leer.ZRW", b"")), "keine vollständige Zarwikdatei"),
+        gelingt("Name mit Umlauten und Blanks", oeffne("Größe ä ß.EIN", umbenannt("Größe ä ß.EIN")), danach=None),
+        gelingt("Name mit Umlauten, Sprache C", oeffne("Größe.EIN", umbenannt("Größe.EIN"), LC_ALL="C"), danach=None),
+        misslingt("Name mit Zeilenende und Steuerzeichen",
+                  oeffne("a\n\x1b[31mb.EIN", datei("a\n\x1b[31mb.EIN", "$NT x\n")), "Zahl fehlt"),
+        gelingt("Pfad mit fast 4 000 Zeichen", tiefer_pfad, danach=None),
+        misslingt("Name mit 4 000 Zeichen", oeffne(LANG + ".EIN"), f"{AUF} (Name zu lang)"),
+        misslingt("Pfad über eine Datei", oeffne("KOORD.KF/NETZ.EIN"), f"{AUF} ("),
+        gelingt("relative Pfade mit . und ..", relativ),
+        gelingt("ohne Standardströme", geschlossene_ausgaben),
+        misslingt("Einfügung fehlt", oeffne("a.EIN", einbindung("fehlt.SF")), "Kann Datei fehlt.SF nicht öffenen!"),
+        misslingt("Einfügung mit Steuerzeichen im Namen",
+                  oeffne("a.EIN", datei("a.EIN", b"$NT 3\n$SF \x1b[31m\x7f\x81\x9by\n")), "nicht öffenen!"),
+        misslingt("Einfügung ist eine Pipe", oeffne("a.EIN", rohr("p.SF"), einbindung("p.SF")),
+                  "Kann Datei p.SF nicht"),
+        misslingt("Einfügung ist ein Gerät", oeffne("a.EIN", einbindung("/dev/zero")), "Kann Datei /dev/zero nicht"),
+        misslingt("Einfügung führt zu einem Gerät", oeffne("a.EIN", verweis("z.SF", "/dev/zero"), einbindung("z.SF")),
+                  "Kann Datei z.SF nicht"),
+        misslingt("Einfügung ist ein Ordner", oeffne("a.EIN", einbindung("ziel")), "Kann Datei ziel nicht"),
+        gelingt("Einfügung ist die Datei selbst", oeffne("a.EIN", einbindung("a.EIN")), None, danach=None),
+        gelingt("Einfügung liegt außerhalb", oeffne("unten/a.EIN", einbindung("../RICHT.SF", "unten/a.EIN")),
+                danach=None),
     ]),
     ("Tabellen und Einstellungen", [
-        ("Tabelle ohne Leserecht", nutzer_ohne_recht("KooTABLE.DB"), 0, "KooTABLE.DB", NEU, ""),
-        ("Tabelle ist eine Pipe", mit(rohr("KooTABLE.DB"), *BILD, "NETZ.EIN"), 0, "", NEU,
-         ""),
-        ("Tabelle ist ein Ordner", mit(ordner("KooTABLE.DB"), *BILD, "NETZ.EIN"), 0, "", NEU,
-         ""),
-        ("Tabelle ist keine", mit(datei("KooTABLE.DB", b"x" * 5000), *BILD, "NETZ.EIN"), 0,
-         "KooTABLE.DB", NEU, ""),
-        ("Tabelle wird beim Lesen geschrieben (25 Läufe)",
-         im_wechsel("KooTABLE.DB", 9000, *BILD, "NETZ.EIN"), 0, None, NEU, ""),
-        ("Steuerdatei wird beim Lesen geschrieben (25 Läufe)", im_wechsel("NETZ.EIN", 17000, *EXPORT, "NETZ.EIN"),
-         (0, 1), None, None, ""),
-        ("Einstellungsdatei fehlt", ruf(*EXPORT, "--einstellungen", "fehlt.ini", "NETZ.EIN"), 1, AUF, UNVERAENDERT,
-         ""),
-        ("Einstellungsdatei ist eine Pipe", mit(rohr("p.ini"), *EXPORT, "--einstellungen", "p.ini", "NETZ.EIN"), 1,
-         AUF, UNVERAENDERT, ""),
-        ("Einstellungsdatei ist keine", mit(datei("b.ini", os.urandom(5000)), *EXPORT, "--einstellungen", "b.ini",
-                                            "NETZ.EIN"), 0, "", NEU, ""),
-        ("Einstellungsdatei mit Wert eigener Art und Größe, Speicher 512 MB",
-         lambda w: w.laeuft(*EXPORT, "--einstellungen",
-                            os.path.join(w.wurzel, "fuzz/korpus/Einstellungsdatei/riesiges_feld"), "NETZ.EIN",
-                            grenzen={"RLIMIT_AS": 512 << 20}), 0, "", NEU, "Speichergrenze"),
-        ("eigene Einstellungen sind eine Pipe", mit(rohr("heim/ZRWINI.ini"), *EXPORT, "NETZ.EIN"), 1,
-         f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
-        ("eigene Einstellungen sind ein Ordner", mit(ordner("heim/ZRWINI.ini"), *EXPORT, "NETZ.EIN"), 1,
-         f"{AUF} (keine gewöhnliche Datei)", UNVERAENDERT, ""),
-        ("eigene Einstellungen führen zu einem Gerät", mit(verweis("heim/ZRWINI.ini", "/dev/zero"), *EXPORT,
-                                                           "NETZ.EIN"), 1, f"{AUF} (keine gewöhnliche Datei)",
-         UNVERAENDERT, ""),
-        ("eigene Einstellungen mit 2 GB, Speicher 512 MB",
-         mit(lambda w: subprocess.run(["truncate", "-s", "2G", w.pfad("heim/ZRWINI.ini")], check=True), *EXPORT,
-             "NETZ.EIN", grenzen={"RLIMIT_AS": 512 << 20}), 1, "zu groß", UNVERAENDERT, "Speichergrenze"),
+        gelingt("Tabelle ohne Leserecht", nutzer_ohne_recht("KooTABLE.DB"), "KooTABLE.DB"),
+        gelingt("Tabelle ist eine Pipe", mit(rohr("KooTABLE.DB"), *BILD, "NETZ.EIN")),
+        gelingt("Tabelle ist ein Ordner", mit(ordner("KooTABLE.DB"), *BILD, "NETZ.EIN")),
+        gelingt("Tabelle ist keine", mit(datei("KooTABLE.DB", b"x" * 5000), *BILD, "NETZ.EIN"), "KooTABLE.DB"),
+        gelingt("Tabelle wird beim Lesen geschrieben (25 Läufe)", im_wechsel("KooTABLE.DB", 9000, *BILD, "NETZ.EIN"),
+                None),
+        misslingt("Steuerdatei wird beim Lesen geschrieben (25 Läufe)",
+                  im_wechsel("NETZ.EIN", 17000, *EXPORT, "NETZ.EIN"), None, status=(0, 1), danach=None),
+        misslingt("Einstellungsdatei fehlt", ruf(*EXPORT, "--einstellungen", "fehlt.ini", "NETZ.EIN"), AUF),
+        misslingt("Einstellungsdatei ist eine Pipe",
+                  mit(rohr("p.ini"), *EXPORT, "--einstellungen", "p.ini", "NETZ.EIN"), AUF),
+        gelingt("Einstellungsdatei ist keine",
+                mit(datei("b.ini", os.urandom(5000)), *EXPORT, "--einstellungen", "b.ini", "NETZ.EIN")),
+        gelingt("Einstellungsdatei mit Wert eigener Art und Größe, Speicher 512 MB", riesiges_feld,
+                braucht="Speichergrenze"),
+        misslingt("eigene Einstellungen sind eine Pipe", oeffne("NETZ.EIN", rohr("heim/ZRWINI.ini")), KEINE_DATEI),
+        misslingt("eigene Einstellungen sind ein Ordner", oeffne("NETZ.EIN", ordner("heim/ZRWINI.ini")), KEINE_DATEI),
+        misslingt("eigene Einstellungen führen zu einem Gerät",
+                  oeffne("NETZ.EIN", verweis("heim/ZRWINI.ini", "/dev/zero")), KEINE_DATEI),
+        misslingt("eigene Einstellungen mit 2 GB, Speicher 512 MB", riesige_einstellungen, "zu groß",
+                  braucht="Speichergrenze"),
     ]),
     ("Aufruf", [
-        ("Option ohne Wert", ruf("--export"), 2, "--export erwartet einen Wert", UNVERAENDERT, ""),
-        ("ohne Datei", ruf("--export", "zrw"), 2, "Es fehlt der Name der Datei", UNVERAENDERT, ""),
-        ("leerer Name", ruf("--export", "zrw", ""), 2, "Es fehlt der Name der Datei", UNVERAENDERT, ""),
-        ("leere Liste von Formaten", ruf("--export", "", "NETZ.EIN"), 2, "--export erwartet eine Liste",
-         UNVERAENDERT, ""),
-        ("unbekanntes Format", ruf("--export", "zrw,Bild", "NETZ.EIN"), 2, 'Unbekanntes Format "Bild"', UNVERAENDERT,
-         ""),
-        ("unbekannte Option", ruf("--wasdenn", "NETZ.EIN"), 2, 'Unbekannte Option "--wasdenn"', UNVERAENDERT, ""),
-        ("zwei Dateien", ruf("--export", "zrw", "a", "b"), 2, "Nur eine Datei ist möglich", UNVERAENDERT, ""),
-        ("20 000 Dateien", ruf("--export", "zrw", *map(str, range(20000))), 2, "Nur eine Datei ist möglich",
-         UNVERAENDERT, ""),
-        ("10 000-mal dieselbe Option", ruf(*(["--export", "zrw"] * 10000)), 2, "Es fehlt der Name der Datei",
-         UNVERAENDERT, ""),
-        ("Argument mit 100 000 Zeichen", ruf("--export", "zrw", "x" * 100000), 1, f"{AUF} (Name zu lang)",
-         UNVERAENDERT, ""),
-        ("Liste mit 100 000 Zeichen", ruf("--export", "zrw," * 25000 + "x", "NETZ.EIN"), 2,
-         'Unbekanntes Format "x"', UNVERAENDERT, ""),
-        ("Bytes, die kein UTF-8 sind", ruf("--export", "zrw", b"gr\xfc\xdfe.EIN"), 1,
-         f"{AUF} (nicht vorhanden)", UNVERAENDERT, ""),
-        ("Steuerzeichen in einer Option", ruf("--\x1b[31m\n\x07"), 2, "Unbekannte Option", UNVERAENDERT, ""),
-        ("Optionen nach --", ruf("--export", "zrw", "--", "--help"), 1, AUF, UNVERAENDERT, ""),
-        ("Größe außerhalb", ruf("--export", "png", "--groesse", "99999999999999999999x1", "NETZ.EIN"), 2,
-         "--groesse erwartet", UNVERAENDERT, ""),
-        ("Maßstab unendlich", ruf("--export", "pdf", "--massstab", "1e999", "NETZ.EIN"), 2, "--massstab erwartet",
-         UNVERAENDERT, ""),
-        ("Auflösung negativ", ruf("--export", "plt", "--dpi", "-1", "NETZ.EIN"), 2, "--dpi erwartet", UNVERAENDERT,
-         ""),
+        falsch("Option ohne Wert", "--export erwartet einen Wert", "--export"),
+        falsch("ohne Datei", "Es fehlt der Name der Datei", "--export", "zrw"),
+        falsch("leerer Name", "Es fehlt der Name der Datei", "--export", "zrw", ""),
+        falsch("leere Liste von Formaten", "--export erwartet eine Liste", "--export", "", "NETZ.EIN"),
+        falsch("unbekanntes Format", 'Unbekanntes Format "Bild"', "--export", "zrw,Bild", "NETZ.EIN"),
+        falsch("unbekannte Option", 'Unbekannte Option "--wasdenn"', "--wasdenn", "NETZ.EIN"),
+        falsch("zwei Dateien", "Nur eine Datei ist möglich", "--export", "zrw", "a", "b"),
+        falsch("20 000 Dateien", "Nur eine Datei ist möglich", "--export", "zrw", *map(str, range(20000))),
+        falsch("10 000-mal dieselbe Option", "Es fehlt der Name der Datei", *(["--export", "zrw"] * 10000)),
+        misslingt("Argument mit 100 000 Zeichen", ruf("--export", "zrw", "x" * 100000), f"{AUF} (Name zu lang)"),
+        falsch("Liste mit 100 000 Zeichen", 'Unbekanntes Format "x"', "--export", "zrw," * 25000 + "x", "NETZ.EIN"),
+        misslingt("Bytes, die kein UTF-8 sind", ruf("--export", "zrw", b"gr\xfc\xdfe.EIN"), f"{AUF} (nicht vorhanden)"),
+        falsch("Steuerzeichen in einer Option", "Unbekannte Option", "--\x1b[31m\n\x07"),
+        misslingt("Optionen nach --", ruf("--export", "zrw", "--", "--help"), AUF),
+        falsch("Größe außerhalb", "--groesse erwartet", "--export", "png", "--groesse", "99999999999999999999x1",
+               "NETZ.EIN"),
+        falsch("Maßstab unendlich", "--massstab erwartet", "--export", "pdf", "--massstab", "1e999", "NETZ.EIN"),
+        falsch("Auflösung negativ", "--dpi erwartet", "--export", "plt", "--dpi", "-1", "NETZ.EIN"),
     ]),
 ]
 

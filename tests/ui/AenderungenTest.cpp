@@ -1,7 +1,6 @@
 // Undoing and redoing, unsaved changes and what is asked about them, networks with nothing in them, files
 // dropped and remembered.
 #include <QDropEvent>
-#include <QLineEdit>
 #include <QMimeData>
 #include <QUrl>
 #include <cmath>
@@ -9,7 +8,7 @@
 #include <vector>
 
 #include "tests/hilfe/Probenetz.h"
-#include "tests/ui/Fenster.h"
+#include "tests/ui/Netzprobe.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
 namespace zrw {
@@ -40,8 +39,7 @@ TEST_F(Aenderungen, AllesZurueckUndWiederVor) {
             }
             return orte.empty() ? wackeln : orte[zufall() % orte.size()] + wackeln;
         };
-        const std::string anfang = Gespeichert();
-        const QImage bildAnfang = fenster.Bild().copy();
+        const Stand anfang = Jetzt();
         for (int i = 0; i < 300; ++i) {
             const char* modi[] = {"MovePktButton",  "MoveTextButton", "EditBeobButton",
                                   "EditBeobButton", "PunktartButton", "PunktartButton",
@@ -52,14 +50,13 @@ TEST_F(Aenderungen, AllesZurueckUndWiederVor) {
             const int wahl = w(12);
             if (wahl < 3) {
                 Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(wahl == 0);
-                if (wahl == 0) {
-                    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText(QString("N%1").arg(i));
-                    Finde<QLineEdit>("TFormPunktart", "PktY").setText(QString::number(w(6000)));
-                    Finde<QLineEdit>("TFormPunktart", "PktX").setText(QString::number(w(3500)));
-                }
                 Finde("TFormPunktart", ("RadioGroupPktArt" + std::to_string(w(4))).c_str()).click();
                 Finde("TFormPunktart", ("RadioGroupSymb" + std::to_string(w(6))).c_str()).click();
-                Finde("TFormPunktart", "DrawButton").click();
+                if (wahl == 0) {
+                    Zeichne(QString("N%1").arg(i), QString::number(w(6000)), QString::number(w(3500)));
+                } else {
+                    Finde("TFormPunktart", "DrawButton").click();
+                }
             } else if (wahl < 6) {
                 Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(wahl == 3);
                 Finde("TFormBeobTyp", ("RadioGroupRichtg" + std::to_string(w(3))).c_str()).click();
@@ -77,26 +74,22 @@ TEST_F(Aenderungen, AllesZurueckUndWiederVor) {
             PruefeNetz();
             if (HasFatalFailure()) return;
         }
-        const std::string ende = Gespeichert();
-        const QStringList figurenEnde = Figuren();
-        const QImage bildEnde = fenster.Bild().copy();
+        const QStringList figuren = Figuren();
+        const Stand ende = Jetzt();
         ASSERT_FALSE(ende == anfang);
         NimmAllesZurueck();
-        EXPECT_TRUE(Gespeichert() == anfang);
-        EXPECT_TRUE(fenster.Bild() == bildAnfang);
+        EXPECT_TRUE(Jetzt() == anfang);
         EXPECT_FALSE(fenster.Ungesichert());
         EXPECT_FALSE(fenster.windowTitle().endsWith('*'));
         while (Knopf("WiederholenButton").isEnabled())
             fenster.Wiederhole();
-        EXPECT_EQ(Aenderung(figurenEnde), QStringList());
-        EXPECT_TRUE(Gespeichert() == ende);
-        EXPECT_TRUE(fenster.Bild() == bildEnde);
+        EXPECT_EQ(Aenderung(figuren), QStringList());
+        EXPECT_TRUE(Jetzt() == ende);
     }
 }
 
 TEST_F(Aenderungen, AlleGeloeschtUndZurueck) {
-    const std::string bytes = Gespeichert();
-    const QImage bildVorher = fenster.Bild().copy();
+    const Stand vorher = Jetzt();
     Modus("DelPunktButton");
     for (const QPoint p : {A, B, C, C, E})
         Klick(p);
@@ -112,8 +105,7 @@ TEST_F(Aenderungen, AlleGeloeschtUndZurueck) {
     Knopf("SpeedButton3").click();
     NimmAllesZurueck();
     Knopf("SpeedButton3").click();
-    EXPECT_TRUE(Gespeichert() == bytes);
-    EXPECT_TRUE(fenster.Bild() == bildVorher);
+    EXPECT_TRUE(Jetzt() == vorher);
 }
 
 TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
@@ -126,20 +118,13 @@ TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
     n.T(8, "X");
     n.T(9, "Y");
     n.K(1, 2);
-    n.l.FindWorldMinMax();
-    n.l.Weite = 800;
-    n.l.Hoehe = 530;
-    n.l.PasseEin();
-    ByteSchreiber f;
-    n.l.Store(f, netz);
-    Lege("ohne.ZRW", std::string(f.Inhalt()));
-    dialoge.antwort = false;
     const QPoint nummer = Textort("A");
-    for (const char* datei : {"leer.EIN", "ohne.EIN", "ohne.ZRW"}) {
+    dialoge.antwort = false;
+    OeffneAlsBilddatei(n.l);
+    for (const char* datei : {"leer.EIN", "ohne.EIN", "o.ZRW"}) {
         SCOPED_TRACE(datei);
         Oeffne(datei);
         const std::int32_t punkte = fenster.Netz()->MaxPkte;
-        const std::string bytes = Gespeichert();
         for (const char* knopf : {"EinpassenButton", "ButtonGroesser", "ButtonKleiner", "SpeedButton3",
                                   "NummernZeigenButton", "SpeedButton10"}) {
             Knopf(knopf).click();
@@ -167,8 +152,7 @@ TEST_F(Aenderungen, SternUndStandDerSicherung) {
     Ziehe(A, A + QPoint(10, 0));
     Ziehe(B, B + QPoint(10, 0));
     EXPECT_TRUE(stern());
-    dialoge.datei = ordner.filePath("x.ZRW");
-    Knopf("SpeedButton9").click();
+    Speichere("x.ZRW");
     EXPECT_FALSE(stern());
     fenster.Rueckgaengig();
     EXPECT_TRUE(stern()) << "undone behind what is saved";
@@ -178,11 +162,9 @@ TEST_F(Aenderungen, SternUndStandDerSicherung) {
     Ziehe(A + QPoint(10, 0), A + QPoint(10, 30));
     fenster.Rueckgaengig();
     EXPECT_TRUE(stern()) << "the saved state cannot be reached any more";
-    dialoge.datei = ordner.filePath("fehlt/x.ZRW");
-    Knopf("SpeedButton9").click();
+    Speichere("fehlt/x.ZRW");
     EXPECT_TRUE(stern()) << "not saved";
-    dialoge.datei.reset();
-    Knopf("SpeedButton9").click();
+    Speichere({});
     EXPECT_TRUE(stern()) << "cancelled";
     dialoge.antwort = false;
     Oeffne("n.EIN");

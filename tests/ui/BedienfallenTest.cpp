@@ -1,15 +1,16 @@
 // Traps of the daily work: shortcuts in the middle of a drag, dialogs that outlive what they show, clicks
 // that change nothing.
-#include <QCheckBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRegularExpression>
+#include <QRadioButton>
+#include <QTimer>
 
+#include "input/tabellen/Ergebnisabfragen.h"
 #include "tests/hilfe/Probenetz.h"
-#include "tests/ui/Fenster.h"
+#include "tests/ui/Netzprobe.h"
+#include "ui/dialoge/Spaltenhinweise.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 
 namespace zrw {
@@ -17,67 +18,56 @@ namespace {
 
 class Bedienfallen : public Netzprobe {
   protected:
-    /// Networks that no control file gives: picture files may hold them.
-    void OeffneAlsBilddatei(Liste& l) {
-        l.FindWorldMinMax();
-        l.Weite = 800;
-        l.Hoehe = 530;
-        l.PasseEin();
-        ByteSchreiber f;
-        Netzangaben a;
-        a.Netztyp = 3;
-        l.Store(f, a);
-        Lege("o.ZRW", std::string(f.Inhalt()));
-        Oeffne("o.ZRW");
+    /// The modes that open a dialog.
+    static constexpr std::pair<const char*, const char*> kDialoge[] = {{"EditBeobButton", "TFormBeobTyp"},
+                                                                       {"PunktartButton", "TFormPunktart"}};
+
+    void Verstecke(const char* nummer) const {
+        Waehle("TFormHidePunkte", "ListBoxPkt", {nummer});
+        Finde("TFormHidePunkte", "Button1").click();
+    }
+    void NeueBeobachtung(QPoint von, QPoint nach) const {
+        Modus("EditBeobButton");
+        Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+        Finde("TFormBeobTyp", "RadioGroupRichtg1").click();
+        Klick(von);
+        Klick(nach);
     }
 };
 
-TEST_F(Bedienfallen, SpeichernMittenImZiehen) {
-    Modus("MovePktButton");
-    const QStringList vorher = Figuren();
-    dialoge.datei = ordner.filePath("x.ZRW");
-    Druecke(A);
-    QTest::mouseMove(bild, {200, 300});
-    Knopf("SpeedButton9").click();  // Strg+S
-    Lass({200, 300});
-    dialoge.antwort = false;
-    Oeffne("x.ZRW");
-    EXPECT_EQ(Figuren().filter(QRegularExpression(" -$")), QStringList()) << "saved hidden for good";
-}
-
 TEST_F(Bedienfallen, WiederholenMittenImZiehen) {
-    Modus("HidePktButton");
-    Klick(B);
-    const QStringList verborgen = Figuren();
-    fenster.Rueckgaengig();
-    Modus("MovePktButton");
-    Druecke(A);
-    QTest::mouseMove(bild, {200, 300});
-    fenster.Wiederhole();
-    QTest::keyClick(bild, Qt::Key_Escape);
-    EXPECT_EQ(Aenderung(verborgen), QStringList());
-}
-
-TEST_F(Bedienfallen, LoeschenWiederholtMittenImZiehen) {
-    const QStringList vorher = Figuren();
-    Modus("DelPunktButton");
-    Klick(A);
-    fenster.Rueckgaengig();
-    Modus("MovePktButton");
-    Druecke(A);
-    fenster.Wiederhole();
-    Lass({200, 300});
-    NimmAllesZurueck();
-    EXPECT_EQ(Aenderung(vorher), QStringList());
+    const struct {
+        const char* modus;  // whose click is undone, and done again while something else is dragged
+        QPoint klick;
+        const char* zug;
+        QPoint druck;
+    } faelle[] = {{"HidePktButton", B, "MovePktButton", A},
+                  {"DelPunktButton", A, "MovePktButton", A},
+                  {"HidePktNrButton", Textort("A"), "MoveTextButton", Textort("A")}};
+    for (const auto& f : faelle) {
+        for (const bool abbrechen : {true, false}) {
+            SCOPED_TRACE(testing::Message() << f.modus << " " << abbrechen);
+            Neu();
+            const QStringList vorher = Figuren();
+            Modus(f.modus);
+            Klick(f.klick);
+            const QStringList nachher = Figuren();
+            fenster.Rueckgaengig();
+            Modus(f.zug);
+            Druecke(f.druck);
+            Bewege({200, 300});
+            fenster.Wiederhole();
+            if (abbrechen) Taste(Qt::Key_Escape);
+            Lass({200, 300});
+            EXPECT_EQ(Aenderung(nachher), QStringList());
+            NimmAllesZurueck();
+            EXPECT_EQ(Aenderung(vorher), QStringList());
+        }
+    }
 }
 
 TEST_F(Bedienfallen, EinfuegenZurueckMittenImZiehen) {
-    Modus("PunktartButton");
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
-    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText("Q");
-    Finde<QLineEdit>("TFormPunktart", "PktY").setText("4000");
-    Finde<QLineEdit>("TFormPunktart", "PktX").setText("1500");
-    Finde("TFormPunktart", "DrawButton").click();
+    NeuerPunkt("Q", "4000", "1500");
     ASSERT_NE(Punkt("Q"), nullptr);
     const QStringList mit = Figuren();
     Modus("MovePktButton");
@@ -89,63 +79,47 @@ TEST_F(Bedienfallen, EinfuegenZurueckMittenImZiehen) {
     EXPECT_EQ(Aenderung(mit), QStringList());
 }
 
+TEST_F(Bedienfallen, SpeichernMittenImZiehen) {
+    Modus("MovePktButton");
+    Druecke(A);
+    Bewege({200, 300});
+    Speichere("x.ZRW");  // by its shortcut
+    Lass({200, 300});
+    dialoge.antwort = false;
+    Oeffne("x.ZRW");
+    for (const QString& figur : Figuren())
+        EXPECT_FALSE(figur.endsWith(" -")) << figur.toStdString() << " is saved hidden for good";
+}
+
 TEST_F(Bedienfallen, ExportMittenImZiehen) {
-    Modus("MoveTextButton");
     const QString hier = QDir::currentPath();
     QDir::setCurrent(ordner.path());
-    Knopf("SpeedButton16").click();
-    QFile f(ordner.filePath("ZRW.PLT"));
-    EXPECT_TRUE(f.open(QIODevice::ReadOnly));
-    const auto voll = f.readAll().count("LB ");
-    f.close();
+    const auto nummern = [this] {
+        Knopf("SpeedButton16").click();
+        QFile f("ZRW.PLT");
+        return f.open(QIODevice::ReadOnly) ? f.readAll().count("LB ") : -1;
+    };
+    EXPECT_EQ(nummern(), 5);
+    Modus("MoveTextButton");
     Druecke(Textort("A"));
-    QTest::mouseMove(bild, {200, 300});
-    Knopf("SpeedButton16").click();
-    Lass({200, 300});
-    EXPECT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll().count("LB "), voll);
+    Bewege({200, 300});
+    EXPECT_EQ(nummern(), 5);
     QDir::setCurrent(hier);
 }
 
-TEST_F(Bedienfallen, LangeNummerWirdGekuerztStattAbgelehnt) {
-    Modus("PunktartButton");
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
-    auto& nr = Finde<QLineEdit>("TFormPunktart", "PktNummer");
-    QTest::keyClicks(&nr, "123456789012345");
-    Finde<QLineEdit>("TFormPunktart", "PktY").setText("2500");
-    Finde<QLineEdit>("TFormPunktart", "PktX").setText("1500");
-    const QStringList vorher = Figuren();
-    Finde("TFormPunktart", "DrawButton").click();
-    EXPECT_EQ(dialoge.meldungen.size(), 1);
-    EXPECT_EQ(Aenderung(vorher), QStringList());
-}
-
-TEST_F(Bedienfallen, ErsterPunktImLeerenNetz) {
+TEST_F(Bedienfallen, NeuerPunktWeitWegIstZuZeigen) {
     Lege("leer.EIN", "$NT 3\n");
-    Oeffne("leer.EIN");
-    dialoge.meldungen.clear();
-    Modus("PunktartButton");
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
-    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText("Q");
-    Finde<QLineEdit>("TFormPunktart", "PktY").setText("3500000");
-    Finde<QLineEdit>("TFormPunktart", "PktX").setText("5600000");
-    Finde("TFormPunktart", "DrawButton").click();
-    ASSERT_NE(Punkt("Q"), nullptr);
-    QTest::keyClick(bild, Qt::Key_Home);
-    QTest::qWait(200);
-    EXPECT_GT(fenster.Netz()->Faktor, 0);
-    EXPECT_TRUE(bild->rect().contains(Ort("Q"))) << Ort("Q").x() << " " << Ort("Q").y();
-}
-
-TEST_F(Bedienfallen, AllesZeigtVersetztenPunkt) {
-    Modus("PunktartButton");
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
-    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText("Q");
-    Finde<QLineEdit>("TFormPunktart", "PktY").setText("50000");
-    Finde<QLineEdit>("TFormPunktart", "PktX").setText("1500");
-    Finde("TFormPunktart", "DrawButton").click();
-    Knopf("SpeedButton3").click();
-    EXPECT_TRUE(bild->rect().contains(Ort("Q"))) << Ort("Q").x() << " " << Ort("Q").y();
+    for (const auto& [datei, rechts, hoch] :
+         {std::tuple{"leer.EIN", "3500000", "5600000"}, {"n.EIN", "50000", "1500"}}) {
+        SCOPED_TRACE(datei);
+        dialoge.antwort = false;
+        Oeffne(datei);
+        NeuerPunkt("Q", rechts, hoch);
+        ASSERT_NE(Punkt("Q"), nullptr);
+        Knopf("SpeedButton3").click();
+        EXPECT_GT(fenster.Netz()->Faktor, 0);
+        EXPECT_TRUE(bild->rect().contains(Ort("Q")));
+    }
 }
 
 TEST_F(Bedienfallen, RueckgaengigMitVeraltetemDialog) {
@@ -171,24 +145,23 @@ TEST_F(Bedienfallen, AnsichtZurueckAmAnschlag) {
 }
 
 TEST_F(Bedienfallen, HervorhebungFolgtDerAnsicht) {
-    for (const char* wie : {"plus", "links", "mitte", "zurueck"}) {
-        Oeffne("n.EIN");
+    const std::function<void()> wege[] = {[this] { Knopf("ButtonGroesser").click(); },
+                                          [this] { Taste(Qt::Key_Left); },
+                                          [this] {
+                                              Druecke({300, 300}, Qt::MiddleButton);
+                                              Lass({350, 350}, Qt::MiddleButton);
+                                          },
+                                          [this] { fenster.Rueckgaengig(); }};
+    for (std::size_t i = 0; i < std::size(wege); ++i) {
+        Neu();
         Modus("MovePktButton");
         Ziehe(A, A + QPoint(40, 0));
-        QTest::mouseMove(bild, {400, 400});
-        QTest::mouseMove(bild, A + QPoint(40, 0));
-        if (wie == std::string("plus")) Knopf("ButtonGroesser").click();
-        if (wie == std::string("links")) QTest::keyClick(bild, Qt::Key_Left);
-        if (wie == std::string("zurueck")) fenster.Rueckgaengig();
-        if (wie == std::string("mitte")) {
-            Druecke({300, 300}, Qt::MiddleButton);
-            Lass({350, 350}, Qt::MiddleButton);
-        }
+        Bewege({400, 400});
+        Bewege(A + QPoint(40, 0));
+        wege[i]();
         const QImage gezeigt = bild->grab().toImage();
-        QTest::mouseMove(bild, {795, 5});
-        const QImage ohne = bild->grab().toImage();
-        EXPECT_TRUE(gezeigt == ohne) << wie;
-        dialoge.antwort = false;
+        Bewege({795, 5});
+        EXPECT_TRUE(gezeigt == bild->grab().toImage()) << i;
     }
 }
 
@@ -197,12 +170,13 @@ TEST_F(Bedienfallen, ZentrierteBleibenAusDenListen) {
     Waehle("GroupBox1", "ExzListBox", {"A"});
     Waehle("GroupBox1", "PZListBox", {"B"});
     Finde("GroupBox1", "OkButton").click();
-    EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), (QStringList{"B", "C", "D", "E"}));
+    const QStringList ohneA{"B", "C", "D", "E"};
+    EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), ohneA);
     Modus("DelPunktButton");
     Klick(E);
-    EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), (QStringList{"B", "C", "D"}));
+    EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), ohneA.first(3));
     fenster.Rueckgaengig();
-    EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), (QStringList{"B", "C", "D", "E"}));
+    EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), ohneA);
 }
 
 TEST_F(Bedienfallen, OffenerVersteckdialogFolgtDemNetz) {
@@ -216,32 +190,25 @@ TEST_F(Bedienfallen, OffenerVersteckdialogFolgtDemNetz) {
 }
 
 TEST_F(Bedienfallen, DoppeltVerborgenUndZurueck) {
-    auto& v = *fenster.findChild<QDialog*>("TFormHiddenPkt");
-    auto& vv = static_cast<TFormHiddenPkt&>(v);
+    const auto& verborgene = static_cast<TFormHiddenPkt&>(Kind<QDialog>("TFormHiddenPkt"));
     Knopf("SpeedButton14").click();
+    Verstecke("A");
+    Verstecke("A");
+    EXPECT_EQ(verborgene.Nummern(), (QStringList{"A", "A"}));
+    auto& liste = Finde<QListView>("TFormHiddenPkt", "ListBox1");
     for (int i = 0; i < 2; ++i) {
-        Waehle("TFormHidePunkte", "ListBoxPkt", {"A"});
-        Finde("TFormHidePunkte", "Button1").click();
-    }
-    EXPECT_EQ(vv.Nummern(), (QStringList{"A", "A"}));
-    for (int i = 0; i < 2; ++i) {
-        auto& l = Finde<QListView>("TFormHiddenPkt", "ListBox1");
-        l.setCurrentIndex(l.model()->index(0, 0));
+        liste.setCurrentIndex(liste.model()->index(0, 0));
         Finde("TFormHiddenPkt", "UnhiddenButton").click();
     }
     EXPECT_TRUE(Punkt("A")->Item->Visible);
     fenster.Rueckgaengig();
     fenster.Rueckgaengig();
-    EXPECT_EQ(vv.Nummern().count("A"), Punkt("A")->Item->Visible ? 0 : 1);
+    EXPECT_EQ(verborgene.Nummern().count("A"), Punkt("A")->Item->Visible ? 0 : 1);
 }
 
 TEST_F(Bedienfallen, NeueBeobachtungGegenDieRichtungDerLinie) {
-    Modus("EditBeobButton");
-    Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
-    Finde("TFormBeobTyp", "RadioGroupRichtg1").click();
     const QStringList vorher = Figuren();
-    Klick(B);
-    Klick(A);
+    NeueBeobachtung(B, A);
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ L B-A AR1 0", "- L A-B AR1 0"}));
 }
 
@@ -250,87 +217,64 @@ TEST_F(Bedienfallen, NichtsGeaendertIstKeineAenderung) {
     Klick(A);
     Finde("TFormPunktart", "RadioGroupPktArt0").click();
     Finde("TFormPunktart", "DrawButton").click();
-    EXPECT_FALSE(fenster.Ungesichert()) << "Punktart";
-    dialoge.antwort = false;
-    Oeffne("n.EIN");
-    Modus("EditBeobButton");
-    Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
-    Finde("TFormBeobTyp", "RadioGroupRichtg1").click();
-    Klick(A);
-    Klick(B);
-    EXPECT_FALSE(fenster.Ungesichert()) << "Beobachtung";
-    Oeffne("n.EIN");
+    EXPECT_FALSE(fenster.Ungesichert()) << "the same kind";
+    NeueBeobachtung(A, B);
+    EXPECT_FALSE(fenster.Ungesichert()) << "an observation that is there";
     Knopf("SpeedButton14").click();
-    Waehle("TFormHidePunkte", "ListBoxPkt", {"A"});
-    Finde("TFormHidePunkte", "Button1").click();
-    dialoge.datei = ordner.filePath("x.ZRW");
-    Knopf("SpeedButton9").click();
-    EXPECT_FALSE(fenster.Ungesichert());
-    Finde("TFormHidePunkte", "Button1").click();
-    EXPECT_FALSE(fenster.Ungesichert()) << "Verstecken, was versteckt ist";
+    Verstecke("A");
+    Speichere("x.ZRW");
+    Verstecke("A");
+    EXPECT_FALSE(fenster.Ungesichert()) << "hiding what is hidden";
 }
 
-TEST_F(Bedienfallen, PunktOhneNummerLaesstSichVerstecken) {
-    Probenetz n;
-    n.P(1, 1000, 1000);
-    n.P(2, 3000, 2000);
-    n.T(8, "X");
-    n.T(9, "Y");  // labels of points that do not exist
-    n.K(1, 2);
-    OeffneAlsBilddatei(n.l);
-    ASSERT_EQ(dialoge.meldungen, QStringList());
-    const zrw::Punkt& p = *fenster.Netz()->SuchPkt(1)->Item;
-    Modus("HidePktButton");
-    Klick({static_cast<int>(p.XO), static_cast<int>(p.YO)});
-    EXPECT_FALSE(p.Visible);
-}
-
-TEST_F(Bedienfallen, ZweiPunkteEinerNummer) {
-    Probenetz n;
-    n.P(1, 1000, 1000);
-    n.P(2, 3000, 2000);
-    n.T(1, "X");
-    n.T(2, "X");
-    OeffneAlsBilddatei(n.l);
-    for (const PunktIndex nr : {PunktIndex{1}, PunktIndex{2}}) {
-        const zrw::Punkt& p = *fenster.Netz()->SuchPkt(nr)->Item;
+TEST_F(Bedienfallen, PunkteOhneUndMitGleicherNummerLassenSichVerstecken) {
+    // Labels of points that do not exist, and one label for two points.
+    for (const auto& [nummern, text] : {std::pair{std::array<PunktIndex, 2>{8, 9}, "Y"}, {{1, 2}, "X"}}) {
+        SCOPED_TRACE(text);
+        Probenetz n;
+        n.P(1, 1000, 1000);
+        n.P(2, 3000, 2000);
+        n.T(nummern[0], "X");
+        n.T(nummern[1], text);
+        n.K(1, 2);
+        OeffneAlsBilddatei(n.l);
+        ASSERT_EQ(dialoge.meldungen, QStringList());
         Modus("HidePktButton");
-        Klick({static_cast<int>(p.XO), static_cast<int>(p.YO)});
-        EXPECT_FALSE(p.Visible) << nr;
-        fenster.Rueckgaengig();
+        for (const PunktIndex nr : {PunktIndex{1}, PunktIndex{2}}) {
+            const zrw::Punkt& p = *fenster.Netz()->SuchPkt(nr)->Item;
+            Klick({static_cast<int>(p.XO), static_cast<int>(p.YO)});
+            EXPECT_FALSE(p.Visible) << nr;
+            fenster.Rueckgaengig();
+        }
     }
 }
 
 TEST_F(Bedienfallen, TastenSchnellHintereinander) {
     const double f = fenster.Netz()->Faktor;
     for (int i = 0; i < 3; ++i)
-        QTest::keyClick(bild, '+');
+        Taste(Qt::Key_Plus);
     QTest::qWait(400);
     EXPECT_NEAR(fenster.Netz()->Faktor, f * 8 / 27, f * 1e-9);
 }
 
-TEST_F(Bedienfallen, DoppelklickZentriertNichtAufSichSelbst) {
-    Modus("ZentrierButton");
+TEST_F(Bedienfallen, KlicksDieNichtsTunDuerfen) {
     const QStringList vorher = Figuren();
+    Modus("ZentrierButton");
     Klick(A);
     QTest::mouseDClick(bild, Qt::LeftButton, {}, A);
-    EXPECT_EQ(Aenderung(vorher), QStringList());
-}
-
-TEST_F(Bedienfallen, NummerVersteckenOhneGezeigteNummern) {
-    fenster.findChild<QCheckBox*>("CheckBoxPktNr")->setChecked(false);
-    const QStringList vorher = Figuren();
+    EXPECT_EQ(Aenderung(vorher), QStringList()) << "centred on itself";
+    Kasten("CheckBoxPktNr").setChecked(false);
     Modus("HidePktNrButton");
     Klick(A);
-    EXPECT_EQ(Aenderung(vorher), QStringList());
+    EXPECT_EQ(Aenderung(vorher), QStringList()) << "hid a number while none is shown";
 }
 
 TEST_F(Bedienfallen, DialogGeschlossenLoestDenKnopf) {
-    for (const auto& [knopf, name] :
-         {std::pair{"EditBeobButton", "TFormBeobTyp"}, {"PunktartButton", "TFormPunktart"}}) {
+    for (const auto& [knopf, name] : kDialoge) {
         Modus(knopf);
-        fenster.findChild<QDialog*>(name)->reject();
-        EXPECT_TRUE(fenster.findChild<QDialog*>(name)->isVisible() == Knopf(knopf).isChecked()) << name;
+        auto& dialog = Kind<QDialog>(name);
+        dialog.reject();
+        EXPECT_EQ(dialog.isVisible(), Knopf(knopf).isChecked()) << name;
         Knopf(knopf).setChecked(false);
     }
 }
@@ -339,8 +283,7 @@ TEST_F(Bedienfallen, WerkzeugOhneNetzDannNetz) {
     TZrwMainDlg zweites{
         {einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1.2"}};
     zweites.show();
-    for (const auto& [knopf, name] :
-         {std::pair{"EditBeobButton", "TFormBeobTyp"}, {"PunktartButton", "TFormPunktart"}}) {
+    for (const auto& [knopf, name] : kDialoge) {
         zweites.findChild<QToolButton*>(knopf)->setChecked(true);
         zweites.Oeffne(ordner.filePath("n.EIN").toStdString());
         EXPECT_TRUE(zweites.findChild<QDialog*>(name)->isVisible()) << name;
@@ -350,14 +293,13 @@ TEST_F(Bedienfallen, WerkzeugOhneNetzDannNetz) {
 TEST_F(Bedienfallen, StatusBeimZiehenMitErstemPunkt) {
     Modus("ZentrierButton");
     Druecke(A);
-    QTest::mouseMove(bild, A + QPoint(2, 2));
+    Bewege(A + QPoint(2, 2));
     EXPECT_EQ(Status(), "Exzentrum gewählt, bitte Zentrum wählen.");
     Lass(A + QPoint(2, 2));
 }
 
 TEST_F(Bedienfallen, SchriftBleibtWennDieDateiFehlt) {
-    QFont s("Sans", 30);
-    dialoge.schrift = s;
+    dialoge.schrift = QFont("Sans", 30);
     Knopf("SpeedButton8").click();
     const QImage gross = fenster.Bild().copy();
     Oeffne("fehlt.EIN");
@@ -367,31 +309,9 @@ TEST_F(Bedienfallen, SchriftBleibtWennDieDateiFehlt) {
 
 TEST_F(Bedienfallen, SpeichernMerktDenOrdner) {
     QDir(ordner.path()).mkdir("unter");
-    dialoge.datei = ordner.filePath("unter/x.ZRW");
-    Knopf("SpeedButton9").click();
+    Speichere("unter/x.ZRW");
     EXPECT_EQ(sitzung.Ordner(), ordner.filePath("unter"));
     EXPECT_EQ(sitzung.LetzteDateien().front(), ordner.filePath("unter/x.ZRW"));
-}
-
-TEST_F(Bedienfallen, ZentrumInDerNummernliste) {
-    Modus("SpeedButton13");
-    auto& l = Finde<QListView>("GroupBox1", "PZListBox");
-    QTest::mouseClick(l.viewport(), Qt::LeftButton, {}, l.visualRect(l.model()->index(2, 0)).center());
-    auto& c = *fenster.findChild<QComboBox*>("ComboBox1");
-    EXPECT_EQ(c.currentText(), "C");
-    EXPECT_EQ(c.currentIndex(), 2);
-}
-
-TEST_F(Bedienfallen, UndoEinerVerborgenenNummerImZiehen) {
-    Modus("HidePktNrButton");
-    Klick(Textort("A"));
-    const QStringList ohne = Figuren();
-    fenster.Rueckgaengig();
-    Modus("MoveTextButton");
-    Druecke(Textort("A"));
-    fenster.Wiederhole();
-    QTest::keyClick(bild, Qt::Key_Escape);
-    EXPECT_EQ(Aenderung(ohne), QStringList());
 }
 
 TEST_F(Bedienfallen, GewaehltesExzentrumBleibtMarkiert) {
@@ -400,10 +320,86 @@ TEST_F(Bedienfallen, GewaehltesExzentrumBleibtMarkiert) {
     Ziehe(E, E + QPoint(20, 20));
     Modus("ZentrierButton");
     Klick(A);
-    QTest::mouseMove(bild, {600, 400});
+    Bewege({600, 400});
     ASSERT_EQ(ring(), QColor(255, 165, 0));
     fenster.Rueckgaengig();
     EXPECT_EQ(ring(), QColor(255, 165, 0)) << "still chosen";
 }
+
+TEST_F(Bedienfallen, ZarwikdateiBringtIhreVerstecktenMit) {
+    const auto versteckte = [this] { return Eintraege("TFormHiddenPkt", "ListBox1"); };
+    Speichere("alle.ZRW");
+    Modus("HidePktButton");
+    Klick(E);
+    Klick(A);
+    Speichere("ohne.ZRW");
+    Oeffne("alle.ZRW");
+    EXPECT_EQ(versteckte(), QStringList());
+    Oeffne("ohne.ZRW");
+    EXPECT_EQ(versteckte(), (QStringList{"A", "E"}));
+    const auto& nummern = Kind<QComboBox>("ComboBox1");
+    for (int i = 1; i < nummern.count(); ++i)
+        EXPECT_LT(nummern.itemText(i - 1), nummern.itemText(i));
+}
+
+TEST_F(Bedienfallen, KnopfOhneNetzSagtWasFehlt) {
+    TZrwMainDlg leer{
+        {einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1.2"}};
+    for (const char* name : {"SpeedButton9", "ButtonGroesser", "ButtonKleiner", "SpeedButton3",
+                             "EinpassenButton", "NummernZeigenButton", "SpeedButton12", "SpeedButton5",
+                             "VorschauButton", "SpeedButtonClipbrd", "SpeedButton16", "DelPunktButton"}) {
+        leer.statusBar()->clearMessage();
+        leer.findChild<QToolButton*>(name)->click();
+        EXPECT_TRUE(leer.statusBar()->currentMessage().contains("Netz")) << name;
+    }
+}
+
+TEST_F(Bedienfallen, TastenAusFeldernUndFenstern) {
+    for (const char* name : {"ComboBox1", "EditMasstab"}) {
+        auto& feld = Kind<QWidget>(name);
+        feld.setFocus();
+        QTest::keyClick(&feld, Qt::Key_Escape);
+        EXPECT_EQ(fenster.focusWidget(), bild) << name;
+    }
+    const QStringList vorher = Figuren();
+    Modus("PunktartButton");
+    Klick(A);
+    Finde("TFormPunktart", "RadioGroupPktArt2").click();
+    Finde("TFormPunktart", "DrawButton").click();
+    ASSERT_NE(Aenderung(vorher), QStringList());
+    auto& dialog = Kind<QDialog>("TFormPunktart");
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClick(&Finde("TFormPunktart", "DrawButton"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Aenderung(vorher), QStringList());
+    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText("A2");
+    Finde("TFormPunktart", "DrawButton").click();
+    EXPECT_EQ(dialoge.meldungen.size(), 1) << "the number is not changed without a word";
+}
+
+TEST_F(Bedienfallen, PapierBleibtBisZumNaechstenStart) {
+    Systemdrucker erster(dateien, &sitzung);
+    const Druckseite hoch = erster.Seite();
+    QTimer::singleShot(0, [] {
+        auto* einrichten = static_cast<QDialog*>(QApplication::activeModalWidget());
+        einrichten->findChild<QRadioButton*>("landscape")->click();
+        einrichten->accept();
+    });
+    ASSERT_TRUE(erster.RichteEin(&fenster));
+    for (const auto& [stand, weite] :
+         {std::pair{sitzung.Stand("Papier"), hoch.hoehe}, {QByteArray("1 2 nichts"), hoch.weite}}) {
+        sitzung.MerkeStand("Papier", stand);
+        EXPECT_NEAR(Systemdrucker(dateien, &sitzung).Seite().weite, weite, 40) << stand.toStdString();
+    }
+}
+
+TEST(Spaltenhinweise, JedeSpalteDesErgebnisfensters) {
+    for (const Ergebnisreiter& reiter : kErgebnisreiter) {
+        for (const Tabellenfeld& feld : Beschreibung(reiter.tabelle).felder)
+            EXPECT_NE(Hinweistext(feld.name), "") << feld.name;
+    }
+    EXPECT_NE(Hinweistext("dX"), Hinweistext("DX"));
+}
+
 }  // namespace
 }  // namespace zrw

@@ -186,22 +186,13 @@ class Parameter : public testing::Test {
 TEST_F(Parameter, JedesFeldAendertSeineEinstellungSofort) {
     using E = Einstellungen;
     std::uint32_t farbe = 0x102030;
-    for (const auto& [name, feld] :
-         std::initializer_list<std::pair<const char*, Farbe E::*>>{{"TXPanel", &E::TXCol},
-                                                                   {"FPPanel", &E::FPCol},
-                                                                   {"FLPanel", &E::FLCol},
-                                                                   {"FHPanel", &E::FHCol},
-                                                                   {"NPPanel", &E::NPCol},
-                                                                   {"RIPanel", &E::RICol},
-                                                                   {"AZPanel", &E::AZCol},
-                                                                   {"GPSPanel", &E::GPSCol},
-                                                                   {"TKPanel", &E::TKCol},
-                                                                   {"PPPanel", &E::PPCol},
-                                                                   {"LGResPanel", &E::LGRCol},
-                                                                   {"HresPanel", &E::HRCol},
-                                                                   {"LGGenPanel", &E::LGGCol},
-                                                                   {"HgenPanel", &E::HGCol},
-                                                                   {"GFPanel", &E::GFCol}}) {
+    const std::pair<const char*, Farbe E::*> felder[] = {
+        {"TXPanel", &E::TXCol},     {"FPPanel", &E::FPCol},     {"FLPanel", &E::FLCol},
+        {"FHPanel", &E::FHCol},     {"NPPanel", &E::NPCol},     {"RIPanel", &E::RICol},
+        {"AZPanel", &E::AZCol},     {"GPSPanel", &E::GPSCol},   {"TKPanel", &E::TKCol},
+        {"PPPanel", &E::PPCol},     {"LGResPanel", &E::LGRCol}, {"HresPanel", &E::HRCol},
+        {"LGGenPanel", &E::LGGCol}, {"HgenPanel", &E::HGCol},   {"GFPanel", &E::GFCol}};
+    for (const auto& [name, feld] : felder) {
         auto& panel = dynamic_cast<Farbfeld&>(Finde(*form, name));
         dialoge.farbe = Farbe{++farbe};
         QTest::keyClick(&panel, Qt::Key_Space);

@@ -1,7 +1,4 @@
 // Printing from the window: sheets, the output area, and that nothing of it stays in the picture.
-#include <QCheckBox>
-#include <QFile>
-#include <QLineEdit>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -14,10 +11,11 @@ namespace {
 class Druckfenster : public Fensterprobe {
   protected:
     void Massstab(double wert) const {
-        fenster.findChild<QLineEdit*>("EditMasstab")->setText(QString::number(wert, 'f', 6));
+        Kind<QLineEdit>("EditMasstab").setText(QString::number(wert, 'f', 6));
     }
     /// The sheet of 1200 x 900 dots, 0.0508 M by 0.0381 M metres, is so many pixels wide.
     void Blattbreite(double pixel) const { Massstab(fenster.Netz()->Faktor * pixel / 0.0508); }
+    void Drucke() const { Knopf("SpeedButton5").click(); }
     static bool Leer(const QImage& blatt) {
         QImage weiss(blatt.size(), blatt.format());
         weiss.fill(Qt::white);
@@ -28,25 +26,23 @@ class Druckfenster : public Fensterprobe {
 TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
     fenster.Oeffne(kBeispiel);
     for (const char* kasten : {"CheckBoxLgGen", "CheckBoxLGRes", "CheckBoxKMQ"})
-        fenster.findChild<QCheckBox*>(kasten)->click();
-    const QImage vorher = fenster.Bild().copy();
-    const std::string stand = Gespeichert();
+        Kasten(kasten).click();
+    const Stand vorher = Jetzt();
     drucker.angenommen = false;
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled";
     drucker.angenommen = true;
     Massstab(1000000);
-    Knopf("SpeedButton5").click();
+    Drucke();
     ASSERT_EQ(drucker.titel, QStringList("Zarwik NETZ.EIN"));
     EXPECT_TRUE(dialoge.fragen.isEmpty()) << "it fits one sheet";
     EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
     drucker.kaputt = true;
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(dialoge.meldungen, QStringList("Papierstau."));
-    EXPECT_EQ(fenster.Bild(), vorher);
-    EXPECT_EQ(Gespeichert(), stand);
+    EXPECT_TRUE(Jetzt() == vorher);
     Massstab(0);
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(drucker.titel.size(), 2) << "no job without a scale";
 }
 
@@ -54,18 +50,18 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     fenster.Oeffne(kBeispiel);
     const QImage vorher = fenster.Bild().copy();
     Blattbreite(100);
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(dialoge.fragen.size(), 1);
     EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled at the question";
     dialoge.antwort = true;
-    Knopf("SpeedButton5").click();
+    Drucke();
     const auto blaetter = drucker.blaetter;
     ASSERT_GT(blaetter.size(), 20);
     ASSERT_LT(blaetter.size(), 60) << "corners of the plot hold nothing";
     for (const QImage& b : blaetter)
         EXPECT_FALSE(Leer(b));
     dialoge.antwort = false;
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(drucker.blaetter.size(), 1) << "the sheet of the output area";
     Knopf("VorschauButton").click();
     EXPECT_EQ(drucker.blaetter, blaetter) << "the preview shows what would be printed";
@@ -75,29 +71,27 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     // One sheet holds it all, but not the one in the corner: that one is asked about, too.
     Massstab(2000000);
     for (int i = 0; i < 20; ++i)
-        QTest::keyClick(bild, Qt::Key_Left);
+        Taste(Qt::Key_Left);
     const auto fragen = dialoge.fragen.size();
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(dialoge.fragen.size(), fragen + 1);
     EXPECT_TRUE(Leer(drucker.blaetter.at(0))) << "No: the sheet in the corner";
     dialoge.antwort = true;
-    Knopf("SpeedButton5").click();
+    Drucke();
     ASSERT_EQ(drucker.blaetter.size(), 1);
     EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
     dialoge.antwort = false;
     // Thousands of sheets are no offer.
     Massstab(10);
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(drucker.blaetter.size(), 1);
 }
 
 TEST_F(Druckfenster, AusgabebereichLiegtUeberDemBildUndImBitmap) {
     fenster.Oeffne(kBeispiel);
     const QImage ohne = fenster.Bild().copy();
-    auto* feld = fenster.findChild<QLineEdit*>("EditMasstab");
-    // The sheet of 1200 x 900 dots is 0.0508 M by 0.0381 M metres.
-    feld->setText(QString::number(fenster.Netz()->Faktor * 400 / 0.0508, 'f', 6));
-    fenster.findChild<QCheckBox*>("CheckBoxPreview")->click();
+    Blattbreite(400);
+    Kasten("CheckBoxPreview").click();
     EXPECT_EQ(fenster.Bild(), ohne) << "the network's picture is left alone";
     for (const char* name : {"bild.bmp", "bild.png"}) {
         dialoge.datei = ordner.filePath(name);
@@ -116,26 +110,25 @@ TEST_F(Druckfenster, AusgabebereichLiegtUeberDemBildUndImBitmap) {
 TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
     fenster.Oeffne(kBeispiel);
     Blattbreite(200);
-    auto* kasten = fenster.findChild<QCheckBox*>("CheckBoxPreview");
-    kasten->click();
+    QCheckBox& kasten = Kasten("CheckBoxPreview");
+    kasten.click();
     const auto rot = [this](QPoint ort) { return bild->grab().toImage().pixelColor(ort) == QColor(Qt::red); };
     const QPoint leer{bild->width() - 30, 40};  // beside the network
     dialoge.antwort = false;
-    Knopf("SpeedButton5").click();
+    Drucke();
     const QImage ecke = drucker.blaetter.at(0);
 
-    QTest::mouseMove(bild, {200, 60});
+    Bewege({200, 60});
     EXPECT_EQ(bild->cursor().shape(), Qt::SizeAllCursor);
-    QTest::mousePress(bild, Qt::LeftButton, {}, {200, 60});
-    QTest::mouseMove(bild, {300, 260});
+    Druecke({200, 60});
+    Bewege({300, 260});
     EXPECT_TRUE(rot({300, 260}));
-    QTest::keyClick(bild, Qt::Key_Escape);
+    Taste(Qt::Key_Escape);
     EXPECT_TRUE(rot({200, 60})) << "put back";
-    QTest::mouseRelease(bild, Qt::LeftButton, {}, {300, 260});
-    QTest::mousePress(bild, Qt::LeftButton, {}, {200, 60});
-    QTest::mouseRelease(bild, Qt::LeftButton, {}, {300, 260});
+    Lass({300, 260});
+    Ziehe({200, 60}, {300, 260});
     EXPECT_TRUE(rot({300, 260}));
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_NE(drucker.blaetter.at(0), ecke) << "another part of the plot";
 
     // A legend within the frame stands there on the paper: here in its very corner.
@@ -143,17 +136,17 @@ TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
     liste.ShowLegende = true;
     liste.Legend->XO = 112;  // 12 px right of the frame of 200 px for 1200 dots
     liste.Legend->YO = 212;
-    Knopf("SpeedButton5").click();
+    Drucke();
     EXPECT_EQ(drucker.blaetter.at(0).pixelColor(72 + 300, 72 - 12), QColor(Qt::black))
         << "upper edge of its box";
     liste.ShowLegende = false;
 
     // It stays at its place in the world: after panning by a key, a tenth of the picture, it has moved with
     // it.
-    QTest::keyClick(bild, Qt::Key_Right);
+    Taste(Qt::Key_Right);
     EXPECT_TRUE(rot({300 - bild->width() / 10, 260}));
-    kasten->click();
-    kasten->click();
+    kasten.click();
+    kasten.click();
     EXPECT_TRUE(rot({200, 60})) << "switched off and on it is in the corner again";
     EXPECT_FALSE(rot(leer));
 }
@@ -173,10 +166,10 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
     Figurenzeichner zeichner(zustand, einstellungen, netz, uhr);
     const Welt ecke = liste.BildinWelt({});
     const auto drucke = [&](double massstab) {
-        echter.Drucke(
-            {"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
-                 Drucke(liste, zeichner, zustand, einstellungen, blatt, {massstab, "100000", seite, ecke});
-             }});
+        echter.Drucke({"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
+                           zrw::Drucke(liste, zeichner, zustand, einstellungen, blatt,
+                                       {massstab, "100000", seite, ecke});
+                       }});
     };
     drucke(100000);
     QProcess text;
@@ -202,23 +195,15 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
         EXPECT_NEAR(d.y(), 0, 0.1) << nummer;
     }
 
-    // A folder in the way: told, and the file that was there stays.
-    const QByteArray vorher = [&] {
-        QFile f(pdf);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }();
-    EXPECT_TRUE(vorher.startsWith("%PDF"));
+    // A folder in the way is told, a full disk leaves no file.
     echter.DruckeInDatei(ordner.path() + "/fehlt/plan.pdf", QPageLayout());
     EXPECT_THROW(drucke(100000), Fehler);
     Speicherdateien voll;
     voll.platz = 1000;
     Systemdrucker knapp(voll);
     knapp.DruckeInDatei("voll.pdf", QPageLayout());
-    EXPECT_THROW(knapp.Drucke({"voll", Zeichenschrift(), 1,
-                               [](Zeichenflaeche& blatt, int /*nr*/) {
-                                   blatt.Linie({0, 0}, {9, 9});
-                               }}),
-                 Fehler);
+    const auto strich = [](Zeichenflaeche& blatt, int /*nr*/) { blatt.Linie({0, 0}, {9, 9}); };
+    EXPECT_THROW(knapp.Drucke({"voll", Zeichenschrift(), 1, strich}), Fehler);
     EXPECT_TRUE(voll.dateien.empty());
 }
 

@@ -1,5 +1,4 @@
 // Results in the window: the browser, marked observations and the overlays.
-#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
@@ -9,7 +8,7 @@
 #include <QTableView>
 
 #include "input/tabellen/Paradoxschreiber.h"
-#include "tests/ui/Fenster.h"
+#include "tests/ui/Netzprobe.h"
 
 namespace zrw {
 namespace {
@@ -51,8 +50,11 @@ class Ergebnisfenster : public Netzprobe {
     void Tabelle(zrw::Tabelle t, const std::vector<std::vector<Wert>>& zeilen) {
         ErzeugeTabelle(dateien, ordner.path().toStdString(), t, zeilen, 0);
     }
-    void Klick(QPoint ort) const { QTest::mouseClick(bild, Qt::LeftButton, {}, ort); }
-    [[nodiscard]] QDialog& Fenster() const { return *fenster.findChild<QDialog*>("TFormData"); }
+    [[nodiscard]] bool Markiert(const char* von, const char* nach) const {
+        const auto* kante = fenster.Netz()->FindKante(Punkt(von)->PNr, Punkt(nach)->PNr);
+        return kante->Item->Farbe == einstellungen.GFCol;
+    }
+    [[nodiscard]] QDialog& Fenster() const { return Kind<QDialog>("TFormData"); }
     [[nodiscard]] QTableView& Gitter() const { return *Fenster().findChild<QTableView*>("DBGrid1"); }
     void Reiter(int i) const { Fenster().findChild<QTabBar*>("TabControl1")->setCurrentIndex(i); }
     [[nodiscard]] QString Zelle(int zeile, const char* titel) const {
@@ -154,36 +156,34 @@ TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
 }
 
 TEST_F(Ergebnisfenster, DieWahlEinerNummerListetUndDieMausVerbirgt) {
-    auto* nummern = fenster.findChild<QComboBox*>("ComboBox1");
-    emit nummern->textActivated("E");
+    auto& nummern = Kind<QComboBox>("ComboBox1");
+    emit nummern.textActivated("E");
     EXPECT_TRUE(Fenster().isVisible());
-    QTest::mouseMove(bild, {30, 30});
+    Bewege({30, 30});
     EXPECT_FALSE(Fenster().isVisible());
-    QFile::remove(ordner.filePath("KooTABLE.DB"));
-    QFile::remove(ordner.filePath("STRTABLE.DB"));
-    QFile::remove(ordner.filePath("GPSTABLE.DB"));
-    emit nummern->textActivated("E");
+    for (const char* tafel : {"KooTABLE.DB", "STRTABLE.DB", "GPSTABLE.DB"})
+        QFile::remove(ordner.filePath(tafel));
+    emit nummern.textActivated("E");
     EXPECT_FALSE(Fenster().isVisible()) << "nothing to list";
 }
 
 TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
-    const Liste& l = *fenster.Netz();
-    EXPECT_EQ(l.FindKante(l.FindPunkt("C")->PNr, l.FindPunkt("E")->PNr)->Item->Farbe, einstellungen.GFCol);
-    EXPECT_NE(l.FindKante(l.FindPunkt("A")->PNr, l.FindPunkt("C")->PNr)->Item->Farbe, einstellungen.GFCol);
+    EXPECT_TRUE(Markiert("C", "E"));
+    EXPECT_FALSE(Markiert("A", "C"));
     EXPECT_FALSE(fenster.isWindowModified());
     const QImage ohne = fenster.Bild().copy();
-    auto* kasten = fenster.findChild<QCheckBox*>("CheckBoxLGRes");
-    kasten->click();
+    QCheckBox& kasten = Kasten("CheckBoxLGRes");
+    kasten.click();
     EXPECT_EQ(fenster.Bild().pixelColor(E.x() + 30, E.y()), QColor(Qt::red)) << "40 mm to the right";
     zustand.Geraetefaktor = 0.16;  // as a print leaves it
     Knopf("ButtonGroesser").click();
     Knopf("ButtonKleiner").click();
     EXPECT_EQ(fenster.Bild().pixelColor(E.x() + 30, E.y()), QColor(Qt::red));
-    kasten->click();
+    kasten.click();
     EXPECT_EQ(fenster.Bild(), ohne);
 
     // The other program rewrites the table: told once, outside the drawing.
-    kasten->click();
+    kasten.click();
     Lege("KooTABLE.DB", "halb");
     Knopf("SpeedButton3").click();
     Knopf("SpeedButton3").click();
@@ -193,18 +193,15 @@ TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
 }
 
 TEST_F(Ergebnisfenster, ZarwikdateiFragtDenAlias) {
-    dialoge.datei = ordner.filePath("plan.ZRW");
-    Knopf("SpeedButton9").click();
+    Speichere("plan.ZRW");
     QTemporaryDir anderswo;
     ablage.werte["TAVELIN"] = anderswo.path().toStdString();
-    fenster.Oeffne(ordner.filePath("plan.ZRW").toStdString());
+    Oeffne("plan.ZRW");
     EXPECT_FALSE(daten.Vorhanden("STRTable.DB"));
     ablage.werte.erase("TAVELIN");
-    fenster.Oeffne(ordner.filePath("plan.ZRW").toStdString());
+    Oeffne("plan.ZRW");
     EXPECT_TRUE(daten.Vorhanden("STRTable.DB"));
-    const Liste& l = *fenster.Netz();
-    EXPECT_EQ(l.FindKante(l.FindPunkt("C")->PNr, l.FindPunkt("E")->PNr)->Item->Farbe, einstellungen.GFCol)
-        << "the picture carries its marks";
+    EXPECT_TRUE(Markiert("C", "E")) << "the picture carries its marks";
 }
 
 }  // namespace

@@ -35,13 +35,11 @@ TEST(Hilfe, SeitenUndTafelGehoerenZusammen) {
         EXPECT_EQ(Seite(t).section(u'\n', 0, 0), QStringLiteral("# ") + AusUtf8(t.titel)) << t.datei;
         dateien.insert(name);
     }
-    for (QDirIterator i(QStringLiteral(":/hilfe")); i.hasNext();) {
-        i.next();
-        EXPECT_TRUE(dateien.contains(i.fileName())) << i.fileName().toStdString() << " is in no row";
-    }
-    for (QDirIterator i(QStringLiteral(ZRW_QUELLE "/hilfe"), {QStringLiteral("*.md")}); i.hasNext();) {
-        i.next();
-        EXPECT_TRUE(dateien.contains(i.fileName())) << i.fileName().toStdString() << " is no resource";
+    for (const char* ort : {":/hilfe", ZRW_QUELLE "/hilfe"}) {
+        for (QDirIterator i(QString::fromUtf8(ort), {QStringLiteral("*.md")}); i.hasNext();) {
+            i.next();
+            EXPECT_TRUE(dateien.contains(i.fileName())) << ort << ": " << i.fileName().toStdString();
+        }
     }
     for (const Hilfekomponente& k : kHilfekomponenten)
         EXPECT_TRUE(kontexte.contains(k.kontext)) << k.komponente;
@@ -153,18 +151,13 @@ TEST(Umbruchleiste, BrichtUmUndUebergehtVersteckte) {
         leiste->addWidget(w);
     }
     EXPECT_EQ(leiste->sizeHint(), QSize(4 * 50 + 3 * 4 + 6, 30));
-    EXPECT_EQ(leiste->minimumSize(), QSize(56, 30));
-    EXPECT_EQ(leiste->heightForWidth(4 * 50 + 3 * 4 + 6), 30);
-    EXPECT_EQ(leiste->heightForWidth(4 * 50 + 3 * 4 + 5), 56) << "one pixel short";
+    EXPECT_EQ(leiste->heightForWidth(leiste->sizeHint().width() - 1), 56) << "one pixel short";
     EXPECT_EQ(leiste->heightForWidth(1), 4 * 20 + 3 * 6 + 10);
     leiste->setGeometry({10, 20, 120, 100});
-    EXPECT_EQ(stuecke[1]->geometry(), QRect(67, 25, 50, 20));
     EXPECT_EQ(stuecke[2]->geometry(), QRect(13, 51, 50, 20));
     stuecke[0]->hide();
     leiste->setGeometry({10, 20, 120, 100});
     EXPECT_EQ(stuecke[2]->geometry(), QRect(67, 25, 50, 20));
-    delete leiste->takeAt(3);
-    EXPECT_EQ(leiste->heightForWidth(120), 30);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "tests/ui/Fenster.h"
+#include "tests/ui/Netzprobe.h"
 
 namespace zrw {
 namespace {
@@ -14,12 +14,11 @@ class Punkte : public Netzprobe {
   protected:
     [[nodiscard]] QStringList Verborgene() const { return Eintraege("TFormHiddenPkt", "ListBox1"); }
     QLineEdit& Feld(const char* name) const { return Finde<QLineEdit>("TFormPunktart", name); }
-    void Zeichne(const QString& nummer, const QString& rechts, const QString& hoch) const {
-        Feld("PktNummer").setText(nummer);
-        Feld("PktY").setText(rechts);
-        Feld("PktX").setText(hoch);
-        Finde("TFormPunktart", "DrawButton").click();
+    void Zeige(const QStringList& nummern) const {
+        Waehle("TFormHiddenPkt", "ListBox1", nummern);
+        Finde("TFormHiddenPkt", "UnhiddenButton").click();
     }
+    QComboBox& Nummernfeld() const { return Kind<QComboBox>("ComboBox1"); }
 };
 
 TEST_F(Punkte, ZentrierenMitDerMaus) {
@@ -30,13 +29,13 @@ TEST_F(Punkte, ZentrierenMitDerMaus) {
     Klick({700, 500});
     Klick(A);
     EXPECT_EQ(Status(), "Zentrierung Exzentrum gewählt, bitte Zentrum anklicken.");
-    QTest::mouseMove(bild, {600, 400});
+    Bewege({600, 400});
     EXPECT_EQ(Status(), "Exzentrum gewählt, bitte Zentrum wählen.");
     Klick({700, 500}, Qt::RightButton);
-    QTest::mouseMove(bild, {610, 400});
+    Bewege({610, 400});
     EXPECT_TRUE(Status().contains("M=1:")) << "dropped";
     Klick(B);
-    QTest::keyClick(bild, Qt::Key_Escape);
+    Taste(Qt::Key_Escape);
     Klick(E);
     Modus("PanButton");
     Modus("ZentrierButton");
@@ -53,47 +52,44 @@ TEST_F(Punkte, ZentrierenMitDerMaus) {
 }
 
 TEST_F(Punkte, ZentrierenMitDenListen) {
-    struct Fall {
+    const QStringList alle{"A", "B", "C", "D", "E"};
+    const struct {
         const char* name;
         QStringList exzentren;
         QStringList zentrum;
         QStringList bleiben;
-        QStringList beiB;  // points that are where B is afterwards
-        QStringList zentren;
+    } faelle[] = {
+        {"drei hintereinander", {"C", "D", "E"}, {"B"}, {"A", "B"}},
+        {"erste und letzte", {"A", "E"}, {"B"}, {"B", "C", "D"}},
+        {"das Zentrum selbst dabei", {"A", "B", "C"}, {"B"}, {"D", "E"}},
+        {"kein Exzentrum", {}, {"B"}, alle},
+        {"kein Zentrum", {"A", "C"}, {}, alle},
+        {"nichts", {}, {}, alle},
     };
-    const QStringList alle{"A", "B", "C", "D", "E"};
-    for (const Fall& f : {
-             Fall{
-                 "drei hintereinander", {"C", "D", "E"}, {"B"}, {"A", "B"}, {"B", "C", "D", "E"}, {"A", "B"}},
-             Fall{"erste und letzte", {"A", "E"}, {"B"}, {"B", "C", "D"}, {"A", "B", "E"}, {"B", "C", "D"}},
-             Fall{
-                 "das Zentrum selbst dabei", {"A", "B", "C"}, {"B"}, {"D", "E"}, {"A", "B", "C"}, {"D", "E"}},
-             Fall{"kein Exzentrum", {}, {"B"}, alle, {"B"}, alle},
-             Fall{"kein Zentrum", {"A", "C"}, {}, alle, {"B"}, alle},
-             Fall{"nichts", {}, {}, alle, {"B"}, alle},
-         }) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
         Knopf("SpeedButton13").setChecked(false);
         Neu();
         EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), alle);
         EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), QStringList());
         Modus("SpeedButton13");
-        EXPECT_TRUE(fenster.findChild<QWidget*>("GroupBox1")->isVisible());
+        EXPECT_TRUE(Kind<QWidget>("GroupBox1").isVisible());
         EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), alle);
         Waehle("GroupBox1", "ExzListBox", f.exzentren);
         Waehle("GroupBox1", "PZListBox", f.zentrum);
         const std::string bytes = Gespeichert();
         Finde("GroupBox1", "OkButton").click();
         EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), f.bleiben);
-        EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), f.zentren);
+        EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), f.bleiben);
         PruefeNetz();
         for (const QString& nummer : alle) {
-            EXPECT_EQ(Ort(nummer.toStdString()) == B, f.beiB.contains(nummer)) << nummer.toStdString();
+            const bool beiB = nummer == "B" || !f.bleiben.contains(nummer);
+            EXPECT_EQ(Ort(nummer.toStdString()) == B, beiB) << nummer.toStdString();
         }
-        EXPECT_EQ(fenster.Ungesichert(), f.beiB.size() > 1);
-        EXPECT_EQ(Gespeichert() == bytes, f.beiB.size() == 1);
+        EXPECT_EQ(fenster.Ungesichert(), f.bleiben != alle);
+        EXPECT_EQ(Gespeichert() == bytes, f.bleiben == alle);
         Finde("GroupBox1", "Abbruch").click();
-        EXPECT_FALSE(fenster.findChild<QWidget*>("GroupBox1")->isVisible());
+        EXPECT_FALSE(Kind<QWidget>("GroupBox1").isVisible());
         EXPECT_FALSE(Knopf("SpeedButton13").isChecked());
         EXPECT_TRUE(Knopf("SpeedButton13").isVisible());
     }
@@ -109,13 +105,13 @@ TEST_F(Punkte, ZentrierenMitDenListen) {
     klick(exzentren, 2);
     EXPECT_EQ(zentren.currentIndex().data().toString(), "C");
     klick(zentren, 1);
-    EXPECT_EQ(fenster.findChild<QComboBox*>("ComboBox1")->currentText(), "B");
+    EXPECT_EQ(Nummernfeld().currentText(), "B");
+    EXPECT_EQ(Nummernfeld().currentIndex(), 1);
     EXPECT_FALSE(fenster.Ungesichert());
 }
 
 TEST_F(Punkte, VerborgenUndWiederGezeigt) {
-    const std::string bytes = Gespeichert();
-    const QImage vorher = fenster.Bild().copy();
+    const Stand vorher = Jetzt();
     Verbirg("E");
     EXPECT_EQ(Verborgene(), QStringList{"E"});
     Knopf("SpeedButton14").click();
@@ -133,16 +129,13 @@ TEST_F(Punkte, VerborgenUndWiederGezeigt) {
     EXPECT_FALSE(Knopf("SpeedButton14").isChecked());
 
     Knopf("SpeedButton15").click();
-    Finde("TFormHiddenPkt", "UnhiddenButton").click();  // none selected
+    Zeige({});
     EXPECT_EQ(Verborgene().size(), 4);
-    Waehle("TFormHiddenPkt", "ListBox1", {"B", "C", "D"});  // in a row
-    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    Zeige({"B", "C", "D"});  // in a row
     EXPECT_EQ(Verborgene(), QStringList{"E"});
-    Waehle("TFormHiddenPkt", "ListBox1", {"E"});
-    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    Zeige({"E"});
     EXPECT_EQ(Verborgene(), QStringList());
-    EXPECT_TRUE(Gespeichert() == bytes);
-    EXPECT_TRUE(fenster.Bild() == vorher);
+    EXPECT_TRUE(Jetzt() == vorher);
 
     // The list goes with the changes, there and back.
     for (const QStringList& stand : {QStringList{"E"}, {"B", "C", "D", "E"}, {"E"}, {}}) {
@@ -152,8 +145,7 @@ TEST_F(Punkte, VerborgenUndWiederGezeigt) {
     EXPECT_FALSE(fenster.Ungesichert());
     for (int i = 0; i < 4; ++i)
         fenster.Wiederhole();
-    EXPECT_EQ(Verborgene(), QStringList());
-    EXPECT_TRUE(Gespeichert() == bytes);
+    EXPECT_TRUE(Jetzt() == vorher);
 }
 
 TEST_F(Punkte, VerborgeneEinesAnderenNetzes) {
@@ -163,8 +155,7 @@ TEST_F(Punkte, VerborgeneEinesAnderenNetzes) {
     Oeffne("a.EIN");
     EXPECT_EQ(Verborgene(), (QStringList{"A", "E"})) << "the list outlives the network";
     const std::string bytes = Gespeichert();
-    Waehle("TFormHiddenPkt", "ListBox1", {"A", "E"});
-    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    Zeige({"A", "E"});
     EXPECT_EQ(Verborgene(), QStringList());
     EXPECT_TRUE(Gespeichert() == bytes);
     EXPECT_FALSE(fenster.Ungesichert());
@@ -172,15 +163,13 @@ TEST_F(Punkte, VerborgeneEinesAnderenNetzes) {
 
 TEST_F(Punkte, NummernKommenWieder) {
     const QStringList vorher = Figuren();
-    Modus("HidePktNrButton");
-    for (const QPoint p : {Textort("A"), Textort("B"), Textort("E")})
-        Klick(p);
+    for (const char* nummer : {"A", "B", "E"})
+        VerbirgNummer(nummer);
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ N A 10 -5 -", "+ N B 10 -5 -", "+ N E 10 -5 -",
                                               "- N A 10 -5", "- N B 10 -5", "- N E 10 -5"}));
     EXPECT_EQ(Verborgene(), QStringList());
     Verbirg("B");
-    Waehle("TFormHiddenPkt", "ListBox1", {"B"});
-    Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    Zeige({"B"});
     EXPECT_EQ(Aenderung(vorher),
               (QStringList{"+ N A 10 -5 -", "+ N E 10 -5 -", "- N A 10 -5", "- N E 10 -5"}))
         << "a number comes with its point";
@@ -196,7 +185,7 @@ TEST_F(Punkte, ArtUndOrtAendern) {
     const std::string bytes = Gespeichert();
     const QStringList vorher = Figuren();
     Modus("PunktartButton");
-    EXPECT_TRUE(fenster.findChild<QDialog*>("TFormPunktart")->isVisible());
+    EXPECT_TRUE(Kind<QDialog>("TFormPunktart").isVisible());
     Klick(A);
     EXPECT_EQ(Feld("PktNummer").text(), "A");
     EXPECT_EQ(Feld("PktY").text(), "1000.0000");
@@ -216,25 +205,23 @@ TEST_F(Punkte, ArtUndOrtAendern) {
     NimmAllesZurueck();
     EXPECT_TRUE(Gespeichert() == bytes);
     Knopf("PunktartButton").click();
-    EXPECT_FALSE(fenster.findChild<QDialog*>("TFormPunktart")->isVisible());
+    EXPECT_FALSE(Kind<QDialog>("TFormPunktart").isVisible());
 }
 
 TEST_F(Punkte, NeuerPunkt) {
     const std::string bytes = Gespeichert();
     const QStringList vorher = Figuren();
-    Modus("PunktartButton");
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
     Finde("TFormPunktart", "RadioGroupPktArt1").click();
     Finde("TFormPunktart", "RadioGroupSymb3").click();
-    Zeichne(" Süd 1 ", "2800", "1400");
+    NeuerPunkt(" Süd 1 ", "2800", "1400");
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ N Süd 1 10 -5", "+ P Süd 1 350 200 FL Qua"}));
     PruefeNetz();
     EXPECT_TRUE(dialoge.meldungen.isEmpty());
-    EXPECT_EQ(fenster.findChild<QComboBox*>("ComboBox1")->findText("Süd 1"), 5);
+    EXPECT_EQ(Nummernfeld().findText("Süd 1"), 5);
     EXPECT_TRUE(Eintraege("GroupBox1", "ExzListBox").contains("Süd 1"));
     fenster.Rueckgaengig();
     EXPECT_TRUE(Gespeichert() == bytes);
-    EXPECT_EQ(fenster.findChild<QComboBox*>("ComboBox1")->findText("Süd 1"), -1);
+    EXPECT_EQ(Nummernfeld().findText("Süd 1"), -1);
     fenster.Wiederhole();
     // A line to it goes with it.
     Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
@@ -260,6 +247,7 @@ TEST_F(Punkte, AbgelehnteAngaben) {
     } faelle[] = {
         {true, "", "1500", "1500", "Der neue Punkt braucht eine Nummer."},
         {true, "   ", "1500", "1500", "Der neue Punkt braucht eine Nummer."},
+        {true, "123456789012345", "1500", "1500", "Die Punktnummer ist zu lang (höchstens 14 Zeichen)."},
         {true, "A", "1500", "1500", "Den Punkt A gibt es schon."},
         {true, "Q", "", "1500", zahlen},
         {true, "Q", "1500", "1500,5", zahlen},
@@ -285,9 +273,8 @@ TEST_F(Punkte, AbgelehnteAngaben) {
     Klick(A);
     Modus("PunktartButton");
     dialoge.meldungen.clear();
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(false);
     Zeichne("A", "1500", "1500");
-    EXPECT_EQ(dialoge.meldungen, QStringList{"Bitte zuerst einen Punkt im Bild anklicken."});
+    EXPECT_EQ(dialoge.meldungen, QStringList{faelle[std::size(faelle) - 1].meldung});
 }
 
 TEST_F(Punkte, VollesNetz) {
@@ -301,9 +288,7 @@ TEST_F(Punkte, VollesNetz) {
     Oeffne("voll.EIN");
     ASSERT_EQ(fenster.Netz()->MaxPkte, 65535);
     dialoge.meldungen.clear();
-    Modus("PunktartButton");
-    Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
-    Zeichne("Q", "1500", "1500");
+    NeuerPunkt("Q", "1500", "1500");
     EXPECT_EQ(dialoge.meldungen, QStringList{"Mehr als 65 535 Punkte fasst ein Netz nicht."});
     EXPECT_EQ(fenster.Netz()->MaxPkte, 65535);
     // A number that has become free is taken again.
@@ -321,7 +306,7 @@ TEST_F(Punkte, NummernfeldSuchtUndZeigt) {
          "    ROTST          1         3000         1000\n    ROTEN          1         3000         2000\n"
          "    Tal            1         2000         1500\n$$$\n");
     Oeffne("s.EIN");
-    auto& feld = *fenster.findChild<QComboBox*>("ComboBox1");
+    auto& feld = Nummernfeld();
     EXPECT_EQ(feld.count(), 4);
     bild->setFocus();
     QTest::keyClick(bild, Qt::Key_F, Qt::ControlModifier);
@@ -335,7 +320,7 @@ TEST_F(Punkte, NummernfeldSuchtUndZeigt) {
                                             {"TAL", "Tal"}}) {
         SCOPED_TRACE(getippt);
         for (int i = 0; i < weg; ++i)
-            QTest::keyClick(bild, Qt::Key_Left);
+            Taste(Qt::Key_Left);
         weg += 5;
         feld.lineEdit()->selectAll();
         const double faktor = fenster.Netz()->Faktor;
@@ -374,7 +359,7 @@ TEST_F(Punkte, TastenDerAnsicht) {
                                      {Qt::Key_Up, QPoint(0, 53)},
                                      {Qt::Key_Down, QPoint(0, -53)}}) {
         const QPoint vorher = Ort("A");
-        QTest::keyClick(bild, pfeil);
+        Taste(pfeil);
         EXPECT_EQ(Ort("A") - vorher, weg);
     }
     EXPECT_TRUE(fenster.Bild() == alles);
@@ -383,7 +368,7 @@ TEST_F(Punkte, TastenDerAnsicht) {
     taste('-');
     taste('-');
     EXPECT_NEAR(l.Faktor, 12, 1e-9);
-    QTest::keyClick(bild, Qt::Key_Left);
+    Taste(Qt::Key_Left);
     taste(Qt::Key_Home);
     EXPECT_TRUE(fenster.Bild() == alles);
 

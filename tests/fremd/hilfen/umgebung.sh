@@ -12,9 +12,9 @@ trap 'rm -rf "$ordner"' EXIT
 cd "$ordner" || exit 1
 export HOME=$ordner XDG_CONFIG_HOME=$ordner XDG_RUNTIME_DIR=$ordner QT_QPA_PLATFORM=offscreen
 export PYTHONPATH=$wurzel/tests/fremd PYTHONDONTWRITEBYTECODE=1
-"$python" -c 'import zrwdatei; zrwdatei.schreibe_tafel("TAFEL.ZRW")'
+"$python" "$wurzel/tests/golden_export/netze.py" .
 
-# exportiere ZIEL DATEI SCHALTER...: drawing, plotter file and picture files of one network
+# exportiere ZIEL DATEI SCHALTER...: drawing, plotter file and picture file of one network
 exportiere() {
-    "$zarwik" --export dxf,plt,zrw,png --massstab 25000 --dpi 600 --ziel "$@"
+    "$zarwik" --export dxf,plt,zrw --massstab 25000 --dpi 600 --ziel "$@"
 }
