@@ -71,6 +71,11 @@ TEST(Treffer, DieNeuesteFigurGewinntUndDerTextLiegtNebenDemPunkt) {
     EXPECT_EQ(n.l.MausPktText({10, -5}), n.l.PktTextKnoten);
     EXPECT_EQ(n.l.MausPktText({0, 0}), nullptr);
     EXPECT_EQ(n.l.PickKante({50, 0}), n.l.KanteKnoten);
+    EXPECT_EQ(n.l.PickGezeigte({50, 0}), n.l.KanteKnoten);
+    n.l.KanteKnoten->Item->Visible = false;
+    EXPECT_EQ(n.l.PickGezeigte({50, 3}), n.l.KanteKnoten->Next) << "the one below is seen now";
+    n.l.ShowBeob = false;
+    EXPECT_EQ(n.l.PickGezeigte({50, 3}), nullptr);
 }
 
 TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {

@@ -58,7 +58,8 @@ void PruefeGanz() {
 }
 
 void PruefeSchreiben() {
-    for (const std::string text : {"1", "2.5", "-0.25", "100000", "12345678", "0.001", "3412345.678"}) {
+    for (const std::string text : {"1", "2.5", "-0.25", "100000", "12345678", "0.001", "3412345.678", "1e+15",
+                                   "999999999999999", "0.00001", "9e-06"}) {
         EXPECT_EQ(SchreibeReal(LiesReal(text).value_or(0)), text);
     }
     std::mt19937_64 zufall(3);
