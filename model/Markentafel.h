@@ -37,7 +37,9 @@ class Markentafel {
         Faecher alt(groesse, kKeins);
         alt.swap(faecher_);
         const std::uint32_t alteNummer = nummer_;
-        nummer_ = std::max(static_cast<std::uint32_t>(groesse - 1), ~0U >> std::countl_zero(hoechste | 1U));
+        // Never fewer bits than before: a thing with a higher number may be in the table already.
+        nummer_ = std::max(
+            {nummer_, static_cast<std::uint32_t>(groesse - 1), ~0U >> std::countl_zero(hoechste | 1U)});
         anzahl_ = 0;
         for (const std::uint32_t fach : alt) {
             if (fach != kKeins) Trage(streuwert(fach & alteNummer), fach & alteNummer);

@@ -132,6 +132,20 @@ TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
     }
 }
 
+// An older thing that takes a place may have a lower number than all the others when the table grows.
+TEST(Markentafel, BehaeltHoheNummernBeimWachsen) {
+    const auto streue = [](std::uint32_t nr) { return Mische(nr); };
+    Markentafel tafel;
+    std::vector<std::uint32_t> nummern;
+    for (std::uint32_t i = 0; i < 500; ++i) {
+        nummern.push_back(i % 2 == 0 ? i + 1 : 70'000 + i);
+        tafel.Erwarte(tafel.Anzahl() + 1, nummern.back(), streue);
+        tafel.Trage(streue(nummern.back()), nummern.back());
+        for (const std::uint32_t nr : nummern)
+            ASSERT_EQ(tafel.Finde(streue(nr), [=](std::uint32_t n) { return n == nr; }), nr) << i;
+    }
+}
+
 // Blocks of every length begin and end where they should, whatever was announced.
 TEST(Figurenindex, ArenaFindetWasSieGab) {
     for (const std::size_t erwartet : {0U, 1U, 64U, 65U, 1000U, 30000U, 300000U}) {
