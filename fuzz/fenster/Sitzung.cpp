@@ -75,6 +75,8 @@ class Sitzungslauf {
 
   private:
     std::size_t Wuerfle(std::size_t n) { return zufall_() % n; }
+    /// A place in a container or file of the toolkit, whose sizes have signs.
+    qsizetype Stelle(qsizetype n) { return static_cast<qsizetype>(Wuerfle(static_cast<std::size_t>(n))); }
     QString Lege(const char* name, const std::string& inhalt) {
         const QString pfad = ordner_.filePath(name);
         std::ofstream(pfad.toStdString(), std::ios::binary) << inhalt;
@@ -86,7 +88,7 @@ class Sitzungslauf {
         dialoge_.antwort.reset();
         if (const std::size_t a = Wuerfle(3); a > 0) dialoge_.antwort = a == 1;
         dialoge_.datei.reset();
-        if (Wuerfle(2) == 0) dialoge_.datei = dateien_[static_cast<qsizetype>(Wuerfle(dateien_.size()))];
+        if (Wuerfle(2) == 0) dialoge_.datei = dateien_[Stelle(dateien_.size())];
         dialoge_.farbe = Farbe{static_cast<std::uint32_t>(Wuerfle(0x1000000))};
         dialoge_.meldungen.clear();
         dialoge_.gesagt.clear();
@@ -188,13 +190,13 @@ class Sitzungslauf {
     void Tabelle() {
         const QStringList namen = QDir(ordner_.path()).entryList({"*.DB"});
         if (namen.isEmpty() || Wuerfle(4) == 0) return LegeTabellen();
-        QFile datei(ordner_.filePath(namen[static_cast<qsizetype>(Wuerfle(namen.size()))]));
+        QFile datei(ordner_.filePath(namen[Stelle(namen.size())]));
         if (Wuerfle(3) == 0) {
             datei.remove();
         } else if (datei.open(QIODevice::ReadWrite)) {
-            datei.seek(static_cast<qint64>(Wuerfle(datei.size() + 1)));
+            datei.seek(Stelle(datei.size() + 1));
             datei.putChar(static_cast<char>(Wuerfle(256)));
-            if (Wuerfle(2) == 0) datei.resize(static_cast<qint64>(Wuerfle(datei.size() + 1)));
+            if (Wuerfle(2) == 0) datei.resize(Stelle(datei.size() + 1));
         }
     }
 
@@ -206,8 +208,7 @@ class Sitzungslauf {
             QFile::copy(QStringLiteral(ZRW_QUELLE "/beispiele/NETZ.EIN"), dateien_[0]);
             Lege("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, 1}));
         }
-        if (Wuerfle(20) == 0)
-            fenster_.Oeffne(dateien_[static_cast<qsizetype>(Wuerfle(dateien_.size()))].toStdString());
+        if (Wuerfle(20) == 0) fenster_.Oeffne(dateien_[Stelle(dateien_.size())].toStdString());
     }
 
     /// Uses one control of a window.

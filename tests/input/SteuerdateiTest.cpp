@@ -114,7 +114,7 @@ TEST_F(Steuerdatei, HoechstensSovielePunkteWieNummern) {
 
 TEST_F(Steuerdatei, FeindlicheInhalteEndenZuegig) {
     std::string binaer = "$NT 6\n$FP";
-    for (int i = 0; i < 1'000'000; ++i)
+    for (unsigned i = 0; i < 1'000'000; ++i)
         binaer += static_cast<char>((i * 2654435761U) >> 24U);
     const std::string lang(10'000'000, '7');
     dateien.dateien["netz/S.SF"] = std::string(1'000'000, '\n');
