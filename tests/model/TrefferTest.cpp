@@ -76,6 +76,12 @@ TEST(Treffer, DieNeuesteFigurGewinntUndDerTextLiegtNebenDemPunkt) {
     EXPECT_EQ(n.l.PickGezeigte({50, 3}), n.l.KanteKnoten->Next) << "the one below is seen now";
     n.l.ShowBeob = false;
     EXPECT_EQ(n.l.PickGezeigte({50, 3}), nullptr);
+    for (bool Liste::*schalter : {&Liste::ShowPktText, &Liste::ShowHilfP}) {
+        EXPECT_EQ(n.l.ClickGezeigtenText({10, -5}), n.l.PktTextKnoten);
+        n.l.*schalter = false;
+        EXPECT_EQ(n.l.ClickGezeigtenText({10, -5}), nullptr);
+        n.l.*schalter = true;
+    }
 }
 
 TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {

@@ -54,6 +54,10 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
             SCOPED_TRACE(std::to_string(saat) + "/" + std::to_string(ansicht));
             if (ansicht > 0) n.WuerfleAnsicht();
             n.WuerfleSchalter();
+            // Some figures leave the places that they were found by.
+            for (int i = 0; i < 3; ++i)
+                n.liste.Versetze(n.Punkt1(), n.liste.BildinWelt({n.W(0, kWeite), n.W(0, kHoehe)}));
+            n.liste.Versetze(*n.liste.PktTextKnoten, {n.W(-40, 40), n.W(-40, 40)});
             schnell.zustand.KurzeNummern = einfach.zustand.KurzeNummern = n.W(0, 3) == 0;
             n.liste.WeltinBild();
             n.liste.ShowPicture(einfach.zeichner);
@@ -73,6 +77,49 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
         vonVorn += schnell.flaeche.vonVorn;
     }
     EXPECT_GT(vonVorn, 10) << "too few dense pictures to say anything";
+}
+
+/// How many of the pixels that both pictures show differ after the second one moved.
+int Unterschied(const Rasterflaeche& vorher, const Rasterflaeche& nachher, Bildpunkt weg) {
+    int anzahl = 0;
+    for (std::int64_t y = std::max<std::int64_t>(weg.y, 0); y < kHoehe + std::min<std::int64_t>(weg.y, 0);
+         ++y) {
+        for (std::int64_t x = std::max<std::int64_t>(weg.x, 0); x < kWeite + std::min<std::int64_t>(weg.x, 0);
+             ++x) {
+            const auto ort = [](std::int64_t rechts, std::int64_t runter) {
+                return static_cast<std::size_t>(runter * kWeite + rechts);
+            };
+            anzahl += vorher.Pixel()[ort(x - weg.x, y - weg.y)] != nachher.Pixel()[ort(x, y)] ? 1 : 0;
+        }
+    }
+    return anzahl;
+}
+
+TEST(Bildaufbau, WasSichBewegenLaesstZeigtDasselbeBildWoanders) {
+    int bewegt = 0;
+    int versuche = 0;
+    for (unsigned saat = 1; saat <= 24; ++saat) {
+        Zufallsnetz n(saat, kWeite, kHoehe);
+        for (int ansicht = 0; ansicht < 8; ++ansicht, ++versuche) {
+            SCOPED_TRACE(std::to_string(saat) + "/" + std::to_string(ansicht));
+            n.WuerfleAnsicht();
+            Tafel vorher(n.e);
+            Tafel nachher(n.e);
+            n.liste.WeltinBild();
+            n.liste.ShowPicture(vorher.zeichner);
+            const Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
+            const double f = n.liste.Faktor;
+            if (!n.liste.SetzeVersatz({n.liste.XOffset - static_cast<double>(weg.x) * f,
+                                       n.liste.YOffset + static_cast<double>(weg.y) * f},
+                                      weg))
+                continue;
+            ++bewegt;
+            n.liste.ShowPicture(nachher.zeichner);
+            ASSERT_EQ(Unterschied(vorher.flaeche, nachher.flaeche, weg), 0);
+        }
+    }
+    EXPECT_GT(bewegt, versuche / 4);
+    EXPECT_LT(bewegt, versuche);
 }
 
 }  // namespace
