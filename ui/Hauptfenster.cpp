@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QCompleter>
 #include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -14,11 +12,14 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QShortcut>
-#include <QStringListModel>
 #include <QVBoxLayout>
 
+#include "ui/Ergebnisanzeige.h"
 #include "ui/Fensterort.h"
 #include "ui/Hilfefenster.h"
+#include "ui/Nummernfeld.h"
+#include "ui/Punktartwahl.h"
+#include "ui/Punktversteck.h"
 #include "ui/Umbruchleiste.h"
 #include "ui/Umwandlung.h"
 #include "ui/Zentrierkasten.h"
@@ -132,7 +133,17 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
       flaeche_(1, 1),
       zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
       pflege_(programm.zustand, flaeche_, zeichner_),
-      ordner_(programm.sitzung.Ordner()) {
+      ansicht_(programm.einstellungen, pflege_),
+      druck_(programm_, zeichner_, flaeche_),
+      ordner_(programm.sitzung.Ordner()),
+      bewahrung_(programm_,
+                 {[this] { return JetzigerPlan(); }, [this](const QString& text) { ZeigeStatus(text); },
+                  [this](const std::exception& fehler) { ZeigeFehler(fehler); },
+                  [this](Lesung&& lesung, const std::filesystem::path& datei) {
+                      Uebernimm(std::move(lesung), datei);
+                      ungesichert_ = true;
+                      ZeigeTitel();
+                  }}) {
     constexpr int kSchritte = 500;
     aenderungen_.setUndoLimit(kSchritte);
     programm_.zustand.flaeche = &flaeche_;
@@ -141,9 +152,6 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     qApp->installEventFilter(this);
     connect(&aenderungen_, &QUndoStack::indexChanged, this, [this] { NetzGeaendert(); });
     connect(&aenderungen_, &QUndoStack::cleanChanged, this, [this] { ZeigeTitel(); });
-    constexpr int kMinute = 60000;
-    connect(&bewahrung_, &QTimer::timeout, this, [this] { BewahreNetz(); });
-    bewahrung_.start(kMinute);
 }
 
 TZrwMainDlg::~TZrwMainDlg() {
@@ -179,7 +187,10 @@ void TZrwMainDlg::BaueFenster() {
     reihen->addLayout(kaesten);
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(flaeche_, *this, mitte);
-    bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) { ZeigeAusgabebereich(flaeche); });
+    bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
+        if (liste_ != nullptr) druck_.ZeichneRahmen(*liste_, flaeche);
+    });
+    druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
     spalte->addWidget(bild_, 1);
     setCentralWidget(mitte);
 
@@ -247,7 +258,7 @@ void TZrwMainDlg::BaueWerkzeuge(QLayout& reihe) {
     mitteltaste_ = NeuesWerkzeug<BildVerschieben>(*this);
     Werkzeugumgebung& umgebung = *this;  // the base is private
     legendenecke_ = std::make_unique<LegendeVerschieben>(umgebung);
-    rahmenrand_ = std::make_unique<RahmenVerschieben>(umgebung, druckrahmen_);
+    rahmenrand_ = std::make_unique<RahmenVerschieben>(umgebung, druck_.Rahmen());
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
         const Werkzeugzeile& zeile = kWerkzeuge[i];
         werkzeuge_.push_back(zeile.neu(*this));
@@ -282,7 +293,7 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     EditMasstab_ = new Massstabfeld(this);
     EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
     EditMasstab_->setToolTip(QStringLiteral("Druckmaßstab"));
-    connect(EditMasstab_, &QLineEdit::textChanged, this, [this] { AktualisiereRahmen(); });
+    connect(EditMasstab_, &QLineEdit::textChanged, this, [this] { druck_.AktualisiereRahmen(); });
     // Keys go to the plot again: "Strg+Z" is then its own, not that of the field.
     connect(EditMasstab_, &QLineEdit::returnPressed, this, [this] { bild_->setFocus(); });
     EditMasstab_->setFixedWidth(
@@ -291,25 +302,8 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     reihe.addWidget(schild);
     reihe.addWidget(EditMasstab_);
 
-    nummern_ = new QStringListModel(this);
-    ComboBox1_ = new QComboBox(this);
-    ComboBox1_->setObjectName(QStringLiteral("ComboBox1"));
-    ComboBox1_->setToolTip(QStringLiteral("Punkt aus Liste anzeigen"));
-    ComboBox1_->setAccessibleName(ComboBox1_->toolTip());
-    ComboBox1_->setEditable(true);
-    ComboBox1_->setInsertPolicy(QComboBox::NoInsert);
-    // As wide as a number, not as the widest of 65 000.
-    ComboBox1_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    ComboBox1_->setMinimumContentsLength(static_cast<int>(PunktNummernTyp::kLaenge));
-    ComboBox1_->setModel(nummern_);
-    ComboBox1_->setCompleter(new QCompleter(nummern_, ComboBox1_));
-    ComboBox1_->completer()->setFilterMode(Qt::MatchContains);
-    ComboBox1_->completer()->setCaseSensitivity(Qt::CaseInsensitive);
-    ComboBox1_->setEditText(QStringLiteral("Punktnummern"));
-    connect(ComboBox1_, &QComboBox::textActivated, this,
-            [this](const QString& nummer) { ZeigePunkt(nummer); });
-    connect(ComboBox1_->lineEdit(), &QLineEdit::returnPressed, this,
-            [this] { ZeigePunkt(ComboBox1_->currentText()); });
+    ComboBox1_ = new Nummernfeld(this);
+    ComboBox1_->gewaehlt = [this](const QString& nummer) { ZeigePunkt(nummer); };
     auto* suche = new QShortcut(QKeySequence(QStringLiteral("Ctrl+F")), this);
     connect(suche, &QShortcut::activated, this, [this] {
         ComboBox1_->setFocus();
@@ -333,16 +327,12 @@ void TZrwMainDlg::BaueDialoge() {
         ZeichneNeu();
     };
     legendentexte_ = new TZRWLBLForm(this);
-    versteckte_ = new TFormHiddenPkt(this);
-    versteckte_->zeige = [this](const QString& nummer) { zuZeigen_ << nummer; };
-    versteckte_->fertig = [this] { ZeigeVerborgene(std::exchange(zuZeigen_, {})); };
-    punkteVerstecken_ = new TFormHidePunkte(this);
-    punkteVerstecken_->verstecken = [this](const QStringList& nummern) { VerbergePunkte(nummern); };
-    connect(punkteVerstecken_, &QDialog::finished, this,
+    versteck_ = std::make_unique<Punktversteck>(static_cast<Werkzeugumgebung&>(*this), this);
+    connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { Knopf("SpeedButton14").setChecked(false); });
-    ergebnisse_ = new TFormData(programm_.sitzung, this);
-    ergebnisse_->reiterGewechselt = [this] { ListeAuf(); };
-    ergebnisse_->zeigePunkt = [this](const QString& nummer) {
+    ergebnisse_ = std::make_unique<Ergebnisanzeige>(
+        programm_, this, [this](const std::exception& fehler) { ZeigeFehler(fehler); });
+    ergebnisse_->Fenster().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
         if (liste_ != nullptr && liste_->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
             ZeigeStatus(QStringLiteral("Punkt %1 ist nicht im Plan.").arg(nummer));
@@ -350,15 +340,17 @@ void TZrwMainDlg::BaueDialoge() {
             MarkierePunkt(nummer);
         }
     };
-    punktart_ = new TFormPunktart(this);
-    punktart_->zeichnen = [this] { ZeichnePunktart(); };
+    punktart_ =
+        std::make_unique<Punktartwahl>(static_cast<Werkzeugumgebung&>(*this), programm_.dialoge, this);
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
-    new Fensterort(*ergebnisse_, Rand::RechtsUnten);
-    new Fensterort(*versteckte_, Rand::RechtsUnten);  // beside the window that hides points
-    for (QDialog* dialog : std::initializer_list<QDialog*>{punktart_, beobachtungstyp_, punkteVerstecken_})
+    new Fensterort(ergebnisse_->Fenster(), Rand::RechtsUnten);
+    new Fensterort(versteck_->Versteckte(), Rand::RechtsUnten);  // beside the window that hides points
+    for (QDialog* dialog :
+         std::initializer_list<QDialog*>{&punktart_->Fenster(), beobachtungstyp_, &versteck_->Auswahl()})
         new Fensterort(*dialog, Rand::RechtsOben);
     // Closing the window of a mode ends the mode.
-    connect(punktart_, &QDialog::finished, this, [this] { Knopf("PunktartButton").setChecked(false); });
+    connect(&punktart_->Fenster(), &QDialog::finished, this,
+            [this] { Knopf("PunktartButton").setChecked(false); });
     connect(beobachtungstyp_, &QDialog::finished, this,
             [this] { Knopf("EditBeobButton").setChecked(false); });
 }
@@ -371,7 +363,7 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     BrichAb();
     if (!unten) {
         werkzeuge_[nummer]->Beende();
-        gewaehlt_ = nullptr;
+        punktart_->Loese();
         if (Aktiv() == nullptr) {
             bild_->unsetCursor();
             // What the tool asked for is asked for no longer; other messages stay.
@@ -412,8 +404,8 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
     if (ein && ausTabelle && liste_ != nullptr && !programm_.daten.Vorhanden("KooTABLE.DB"))
         ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
                     QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));
-    if (schalter.schliesstErgebnisse) ergebnisse_->hide();
-    if (schalter.inListe == nullptr && schalter.imZustand == nullptr) AktualisiereRahmen();
+    if (schalter.schliesstErgebnisse) ergebnisse_->Fenster().hide();
+    if (schalter.inListe == nullptr && schalter.imZustand == nullptr) druck_.AktualisiereRahmen();
     if (liste_ != nullptr) ZeichneNeu();
 }
 

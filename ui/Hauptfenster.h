@@ -1,14 +1,12 @@
-// The main window: tool panel, picture and status line. Owns the current network and forwards. By topic:
-// building and switches in Hauptfenster.cpp, files in HauptfensterDateien.cpp, view, mouse and keys in
-// HauptfensterAnsicht.cpp, points, numbers and centring in HauptfensterPunkte.cpp, legend, export and
-// dialogs in HauptfensterAusgabe.cpp, printing and bitmaps in HauptfensterDruck.cpp,
-// results in HauptfensterErgebnisse.cpp.
+// The main window: tool panel, picture and status line. Owns the current network and the classes that do the
+// work, and forwards to them. By topic: building and switches in Hauptfenster.cpp, files in
+// HauptfensterDateien.cpp, view, mouse and keys in HauptfensterAnsicht.cpp, points and what follows a
+// change in HauptfensterPunkte.cpp, legend, export and dialogs in HauptfensterAusgabe.cpp, printing and
+// bitmaps in HauptfensterDruck.cpp.
 #pragma once
 
 #include <QMainWindow>
-#include <QSet>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolButton>
 #include <QUndoStack>
 #include <filesystem>
@@ -18,13 +16,14 @@
 
 #include "input/Oeffnen.h"
 #include "model/FigListe.h"
-#include "output/Blattschnitt.h"
 #include "output/Figurenzeichner.h"
+#include "ui/Ansichtssteuerung.h"
 #include "ui/Bildflaeche.h"
 #include "ui/Bildpflege.h"
-#include "ui/Druckrahmen.h"
 #include "ui/ImageZarwik.h"
 #include "ui/Massstabfeld.h"
+#include "ui/Netzbewahrung.h"
+#include "ui/Plandruck.h"
 #include "ui/Programm.h"
 #include "ui/Schalter.h"
 #include "ui/werkzeuge/LegendeVerschieben.h"
@@ -32,20 +31,17 @@
 #include "ui/werkzeuge/Werkzeug.h"
 
 class QCheckBox;
-class QComboBox;
 class QLabel;
 class QLayout;
-class QStringListModel;
 
 namespace zrw {
 
-struct Rettungsstand;
+class Ergebnisanzeige;
 class Hilfefenster;
+class Nummernfeld;
+class Punktartwahl;
+class Punktversteck;
 class TFormBeobTyp;
-class TFormData;
-class TFormHiddenPkt;
-class TFormHidePunkte;
-class TFormPunktart;
 class TZRWLBLForm;
 class Zentrierkasten;
 
@@ -61,7 +57,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     [[nodiscard]] const Liste* Netz() const { return liste_.get(); }
     [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
     /// Offers plots that an earlier run could not save. @return whether one is shown now
-    bool BieteRettungAn();
+    bool BieteRettungAn() { return bewahrung_.BieteAn(); }
     [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !aenderungen_.isClean(); }
 
     // Click handlers, by component.
@@ -118,15 +114,13 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     [[nodiscard]] bool Speichere();
     [[nodiscard]] bool DarfVerwerfen();
     void ZeigeTitel();
+    [[nodiscard]] Netzbewahrung::Plan JetzigerPlan() const;
 
     // HauptfensterAnsicht.cpp
     void Zoome(double x, double y, bool groesser);
-    bool RechneZoom(double x, double y, bool groesser);
+    void ZoomeAuf(const Ansicht& ansicht);
+    bool SetzeAnsicht(const Ansicht& ansicht);
     void ZeichneNachRad();
-    void BringeInsZiel();
-    /// False where the scale lies beyond what zooming allows.
-    bool SetzeAnsicht(double faktor, Welt linksOben);
-    void MerkeAnsicht(double faktor, Welt linksOben);
     void ZeigeBild();
     void ZeigeStatus(Bildpunkt ort);
     void ZeigeZeiger(Bildpunkt ort);
@@ -147,7 +141,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ZeigeStatus(const QString& text) override;
     void Tue(std::unique_ptr<Netzaenderung> aenderung) override;
     void HeileBild() override;
-    void BeginneZug() override;
+    void BeginneZug() override { ansicht_.BeginneZug(*liste_); }
     void ZieheBild(Bildpunkt versatz) override;
     void BeendeZug() override;
     void Verschiebe(Bildpunkt versatz);
@@ -164,40 +158,12 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ZeigePunkt(const QString& nummer);
     const PunktKnoten* MarkierePunkt(const QString& nummer);
     void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
-    void ZeichnePunktart();
-    void FuegePunktEin(const struct Punkteingabe& eingabe, Welt ort);
-    void VerbergePunkte(const QStringList& nummern);
-    void Verberge(std::unique_ptr<class SichtbarkeitGeaendert> aenderung, const QStringList& nummern);
-    void ZeigeVerborgene(const QStringList& nummern);
     void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
+    void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
     void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
     [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }
-
-    // HauptfensterErgebnisse.cpp
-    void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
-    void DisplayPunkt(const PunktKnoten& punkt);
-    void DisplayKante(const PunktKante& kante);
-    void ListeAuf();
-    void ZeigeTabellenmeldung();
-    void WaehleTabellenordner(const std::filesystem::path& datei);
-    void MarkiereFehler();
-
-    // HauptfensterRettung.cpp
-    void BewahreNetz();
-    std::optional<Rettungsstand> LiesHinterlassenes(const QString& datei);
-    void VergissRettung();
-
-    // HauptfensterDruck.cpp
-    [[nodiscard]] std::optional<double> Druckmassstab();
-    [[nodiscard]] std::vector<Blatt> Blaetter(double massstab, const Druckseite& seite) const;
-    [[nodiscard]] Druckwerk Druckauftraege(std::vector<Blatt> blaetter, double massstab);
-    [[nodiscard]] std::optional<Bildpunkt> Legendenort(const Druckauftrag& auftrag) const;
-    [[nodiscard]] QImage Blattuebersicht(const std::vector<Blatt>& blaetter, double faktor,
-                                         const Druckseite& seite);
-    void AktualisiereRahmen();
-    void ZeigeAusgabebereich(Zeichenflaeche& flaeche) const;
 
     // HauptfensterAusgabe.cpp
     void ZeigeFehler(const std::exception& fehler);
@@ -206,22 +172,17 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     Programm programm_;
     std::unique_ptr<Liste> liste_;
     QUndoStack aenderungen_;
-    bool ungesichert_ = false;      ///< changes that cannot be undone
-    QTimer bewahrung_;              ///< when the unsaved plot is kept again
-    bool rettungGestoert_ = false;  ///< the user knows that it cannot be kept
-    bool beendet_ = false;          ///< closing has been asked about
+    bool ungesichert_ = false;  ///< changes that cannot be undone
+    bool beendet_ = false;      ///< closing has been asked about
     Bildflaeche flaeche_;
     Figurenzeichner zeichner_;
     Bildpflege pflege_;
-    const Netzaenderung* laufende_ = nullptr;  ///< the change that is being made or taken back
-    Welt zuganfang_;                           ///< pan offsets before the picture was dragged [m]
-    Bildpunkt gezogen_;                        ///< how far it has been dragged [px]
-    Bildpunkt zugziel_;                        ///< how far it is to be dragged [px]
-    bool radOffen_ = false;                    ///< the view has changed with the wheel, the picture has not
+    Ansichtssteuerung ansicht_;
+    const Netzaenderung* laufende_ = nullptr;           ///< the change that is being made or taken back
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
     std::unique_ptr<LegendeVerschieben> legendenecke_;
-    Druckrahmen druckrahmen_;
+    Plandruck druck_;
     std::unique_ptr<RahmenVerschieben> rahmenrand_;
     Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
     Qt::MouseButton taste_ = Qt::NoButton;
@@ -231,30 +192,18 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     ImageZarwik* bild_ = nullptr;
     QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
     Massstabfeld* EditMasstab_ = nullptr;
-    QComboBox* ComboBox1_ = nullptr;
-    QStringListModel* nummern_ = nullptr;  ///< of all points, in the order in which they were read
-    bool nummernSortiert_ = false;         ///< or sorted: a picture file has them backwards
-    std::int32_t nummernstand_ = 0;        ///< number of points that `nummern_` was made from
+    Nummernfeld* ComboBox1_ = nullptr;
     Zentrierkasten* zentrierkasten_ = nullptr;
     TZRWLBLForm* legendentexte_ = nullptr;
     TFormBeobTyp* beobachtungstyp_ = nullptr;
-    TFormPunktart* punktart_ = nullptr;
-    TFormHidePunkte* punkteVerstecken_ = nullptr;
-    TFormHiddenPkt* versteckte_ = nullptr;
-    TFormData* ergebnisse_ = nullptr;
+    std::unique_ptr<Punktartwahl> punktart_;
+    std::unique_ptr<Punktversteck> versteck_;
+    std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
-    QString aufgelistet_;                  ///< number of what the results are of, of a line its first point
-    std::optional<QString> zweiterAufgelisteter_;  ///< the second point of a line
-    QStringList zuZeigen_;                         ///< hidden points that are being shown again
-    QSet<QString> zentriert_;                      ///< numbers that left the lists of centring
-    bool ausdehnungAlt_ = false;                   ///< points may lie beyond the extents of the network
-    Welt gewaehltOrt_;                             ///< as the dialog of point kinds shows it
-    PunktKnoten* gewaehlt_ = nullptr;              ///< the point in the dialog of point kinds
-    /// Views before zooming: scale and world position of the top-left corner.
-    std::vector<std::pair<double, Welt>> ansichten_;
     QString titel_;
     QString ordner_;                     ///< of the last file
     std::filesystem::path steuerdatei_;  ///< last control file, proposes the name for saving
+    Netzbewahrung bewahrung_;            ///< goes first: it asks the members above
 };
 
 }  // namespace zrw

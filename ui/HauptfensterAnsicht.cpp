@@ -2,12 +2,11 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QTimer>
-#include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <utility>
 
 #include "model/Zahlentext.h"
+#include "ui/Ergebnisanzeige.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/TFormData.h"
@@ -15,20 +14,13 @@
 namespace zrw {
 namespace {
 
-/// Scales that zooming stays within [m/px]: from the hundredth of a millimetre to several earths in the
-/// picture. Beyond them positions lose their last digit, and nobody finds back.
-constexpr double kFeinster = 1e-5;
-constexpr double kGroebster = 1e6;
-/// Margin round fitted points, with room for their numbers [px].
-constexpr int kRand = 40;
-/// Scale for a single point [m/px].
-constexpr double kEinzelpunkt = 0.5;
+const QString kNichtWeiter = QStringLiteral("Weiter lässt sich das Bild nicht zoomen.");
 
 }  // namespace
 
 void TZrwMainDlg::ZeichneNeu() {
     if (liste_ == nullptr) return;
-    radOffen_ = false;
+    ansicht_.SchliesseRad();
     pflege_.ZeichneNeu(*liste_);
     ZeigeBild();
 }
@@ -38,7 +30,7 @@ void TZrwMainDlg::ZeigeBild() {
     bild_->update();
     // What lies under the mouse now: the picture has moved below it.
     if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr && gedrueckt_ == nullptr) werkzeug->Schweben(maus_);
-    ZeigeTabellenmeldung();
+    ergebnisse_->MeldeTabellen();
 }
 
 void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
@@ -57,8 +49,7 @@ void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
 void TZrwMainDlg::SpeedButton3Click() {
     if (liste_ == nullptr) return;
     BrichAb();
-    if (std::exchange(ausdehnungAlt_, false)) liste_->FindWorldMinMax();
-    pflege_.Alles(*liste_);
+    ansicht_.ZeigeAlles(*liste_);
     ZeigeBild();
     ZeigeStatus(maus_);
 }
@@ -66,79 +57,44 @@ void TZrwMainDlg::SpeedButton3Click() {
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
 void TZrwMainDlg::EinpassenClick() {
     if (liste_ == nullptr) return;
-    Welt min{};
-    Welt max{};
-    bool leer = true;
-    for (const PunktKnoten* p = liste_->PunktKnoten; p != nullptr; p = p->Next) {
-        if (!p->Item->Visible || !liste_->Dargestellt(*p->Item)) continue;
-        const Welt ort{p->XWPu, p->YWPu};
-        min = leer ? ort : Welt{std::min(min.rechts, ort.rechts), std::min(min.hoch, ort.hoch)};
-        max = leer ? ort : Welt{std::max(max.rechts, ort.rechts), std::max(max.hoch, ort.hoch)};
-        leer = false;
-    }
-    if (leer) {
+    if (const auto ansicht = Ansichtssteuerung::Eingepasst(*liste_)) {
+        ZoomeAuf(*ansicht);
+    } else {
         ZeigeStatus(QStringLiteral("Es ist kein Punkt sichtbar."));
-        return;
     }
-    const double dx = max.rechts - min.rechts;
-    const double dy = max.hoch - min.hoch;
-    const double weite = std::max(liste_->Weite - 2 * kRand, 1);
-    const double hoehe = std::max(liste_->Hoehe - 2 * kRand, 1);
-    // One point alone, or several at one place: a few hundred metres round it.
-    const double faktor = dx > 0 || dy > 0 ? std::max(dx / weite, dy / hoehe) : kEinzelpunkt;
-    const double vorher = liste_->Faktor;
-    const Welt ecke = liste_->BildinWelt({});
-    if (SetzeAnsicht(faktor, {(min.rechts + max.rechts - liste_->Weite * faktor) / 2,
-                              (min.hoch + max.hoch + liste_->Hoehe * faktor) / 2}))
-        MerkeAnsicht(vorher, ecke);
 }
 
-/// @param linksOben world position of the picture's top-left corner
-bool TZrwMainDlg::SetzeAnsicht(double faktor, Welt linksOben) {
-    if (!(faktor >= kFeinster && faktor <= kGroebster)) {
-        ZeigeStatus(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
+void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
+    ZoomeAuf(Ansichtssteuerung::Ausschnitt(*liste_, a, b));
+}
+
+/// With a way back.
+void TZrwMainDlg::ZoomeAuf(const Ansicht& ansicht) {
+    const Ansicht vorher = Ansichtssteuerung::Jetzt(*liste_);
+    if (SetzeAnsicht(ansicht)) ansicht_.Merke(vorher);
+}
+
+bool TZrwMainDlg::SetzeAnsicht(const Ansicht& ansicht) {
+    if (!Ansichtssteuerung::Erlaubt(ansicht)) {
+        ZeigeStatus(kNichtWeiter);
         return false;
     }
     BrichAb();
-    liste_->Faktor = faktor;
-    liste_->XOffset = linksOben.rechts - liste_->MinXW;
-    liste_->YOffset = linksOben.hoch - liste_->MaxYW;
+    Ansichtssteuerung::Setze(*liste_, ansicht);
     ZeichneNeu();
     ZeigeStatus(maus_);
     return true;
 }
 
-void TZrwMainDlg::MerkeAnsicht(double faktor, Welt linksOben) {
-    constexpr std::size_t kHoechstens = 50;
-    if (ansichten_.size() == kHoechstens) ansichten_.erase(ansichten_.begin());
-    ansichten_.emplace_back(faktor, linksOben);
-}
-
 void TZrwMainDlg::AnsichtZurueck() {
-    if (liste_ == nullptr || ansichten_.empty()) return;
-    const auto [faktor, ecke] = ansichten_.back();
-    ansichten_.pop_back();
-    SetzeAnsicht(faktor, ecke);
-}
-
-void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
-    const auto weite = static_cast<double>(std::max<std::int64_t>(std::llabs(a.x - b.x), 1));
-    const auto hoehe = static_cast<double>(std::max<std::int64_t>(std::llabs(a.y - b.y), 1));
-    const Welt eckeA = liste_->BildinWelt(a);
-    const Welt eckeB = liste_->BildinWelt(b);
-    const double vorher = liste_->Faktor;
-    const Welt ecke = liste_->BildinWelt({});
-    const double faktor = vorher * std::max(weite / liste_->Weite, hoehe / liste_->Hoehe);
-    if (SetzeAnsicht(faktor, {(eckeA.rechts + eckeB.rechts - liste_->Weite * faktor) / 2,
-                              (eckeA.hoch + eckeB.hoch + liste_->Hoehe * faktor) / 2}))
-        MerkeAnsicht(vorher, ecke);
+    if (liste_ == nullptr) return;
+    if (const auto vorige = ansicht_.NimmLetzte()) SetzeAnsicht(*vorige);
 }
 
 void TZrwMainDlg::ZoomeUm(Bildpunkt ort) {
-    const double vorher = liste_->Faktor;
-    const Welt ecke = liste_->BildinWelt({});
+    const Ansicht vorher = Ansichtssteuerung::Jetzt(*liste_);
     Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
-    if (liste_->Faktor != vorher) MerkeAnsicht(vorher, ecke);
+    if (liste_->Faktor != vorher.faktor) ansicht_.Merke(vorher);
 }
 
 void TZrwMainDlg::ButtonGroesserClick() {
@@ -149,30 +105,11 @@ void TZrwMainDlg::ButtonKleinerClick() {
     if (liste_ != nullptr) Zoome(liste_->Weite / 2.0, liste_->Hoehe / 2.0, false);
 }
 
-/// One zoom step that keeps the world position at (x, y) [px] in place.
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
-    if (!RechneZoom(x, y, groesser)) return;
+    if (!ansicht_.Zoome(*liste_, x, y, groesser)) return ZeigeStatus(kNichtWeiter);
     ZeichneNeu();
     ZeigeStatus(maus_);
-}
-
-/// The view after the step. @return false: zooming ends here
-bool TZrwMainDlg::RechneZoom(double x, double y, bool groesser) {
-    Liste& l = *liste_;
-    const double z = programm_.einstellungen.Zoomschritt;
-    const double s = l.Faktor;
-    const double danach = groesser ? s * z : s / z;
-    if (groesser ? danach < kFeinster : danach > kGroebster) {
-        ZeigeStatus(QStringLiteral("Weiter lässt sich das Bild nicht zoomen."));
-        return false;
-    }
-    l.XOffset += x * s;
-    l.YOffset -= y * s;
-    l.XOffset -= x * danach;
-    l.YOffset += y * danach;
-    l.Faktor = danach;
-    return true;
 }
 
 void TZrwMainDlg::ZeigeStatus(const QString& text) {
@@ -245,7 +182,7 @@ void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
         ZeigeZeiger(ort);
         if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) werkzeug->Schweben(ort);
     }
-    if (!Knopf("DataButton").isChecked()) ergebnisse_->hide();
+    if (!Knopf("DataButton").isChecked()) ergebnisse_->Fenster().hide();
 }
 
 /// The pointer tells what a press would do here.
@@ -294,21 +231,13 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
     if (liste_ == nullptr || gedrueckt_ != nullptr) return;
-    BrichAb();
-    // Turning down enlarges, turning up shrinks.
-    const int anzahl = std::min(std::abs(schritte), 10);
-    bool gezoomt = false;
-    for (int i = 0; i < anzahl; ++i)
-        gezoomt |= RechneZoom(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0);
-    if (!gezoomt) return;
+    if (!ansicht_.Rolle(*liste_, ort, schritte)) return ZeigeStatus(kNichtWeiter);
     ZeigeStatus(ort);
-    // Steps that arrive while a picture is being drawn are drawn together with the next.
-    if (!std::exchange(radOffen_, true)) QTimer::singleShot(0, this, [this] { ZeichneNachRad(); });
+    if (!ansicht_.OeffneRad()) QTimer::singleShot(0, this, [this] { ZeichneNachRad(); });
 }
 
 void TZrwMainDlg::ZeichneNachRad() {
-    if (radOffen_ && liste_ != nullptr) ZeichneNeu();
-    radOffen_ = false;
+    if (ansicht_.SchliesseRad()) ZeichneNeu();
 }
 
 void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
@@ -322,11 +251,7 @@ void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
 
 void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
     BrichAb();
-    const double f = liste_->Faktor;
-    pflege_.Verschiebe(*liste_,
-                       {liste_->XOffset - static_cast<double>(versatz.x) * f,
-                        liste_->YOffset + static_cast<double>(versatz.y) * f},
-                       versatz);
+    ansicht_.Verschiebe(*liste_, versatz);
     ZeigeBild();
     ZeigeStatus(maus_);
 }
@@ -337,38 +262,19 @@ void TZrwMainDlg::HeileBild() {
     ZeigeBild();
 }
 
-void TZrwMainDlg::BeginneZug() {
-    zuganfang_ = {liste_->XOffset, liste_->YOffset};
-    gezogen_ = {};
-    zugziel_ = {};
-}
-
 void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
-    zugziel_ = versatz;
+    ansicht_.Ziehe(versatz);
     if (pflege_.Verschiebbar(*liste_)) {
-        BringeInsZiel();
+        if (ansicht_.Folge(*liste_)) ZeigeBild();
     } else {
         // What stands still or must be worked out anew is drawn when the mouse is let go.
-        bild_->SetzeVerschiebung({versatz.x - gezogen_.x, versatz.y - gezogen_.y});
+        bild_->SetzeVerschiebung(ansicht_.Rueckstand());
     }
 }
 
 void TZrwMainDlg::BeendeZug() {
     bild_->SetzeVerschiebung({});
-    BringeInsZiel();
-}
-
-/// From where dragging began, so that many small moves do not add up their rounding.
-void TZrwMainDlg::BringeInsZiel() {
-    if (zugziel_ == gezogen_) return;
-    const double f = liste_->Faktor;
-    const Bildpunkt weg{zugziel_.x - gezogen_.x, zugziel_.y - gezogen_.y};
-    pflege_.Verschiebe(*liste_,
-                       {zuganfang_.rechts - static_cast<double>(zugziel_.x) * f,
-                        zuganfang_.hoch + static_cast<double>(zugziel_.y) * f},
-                       weg);
-    gezogen_ = zugziel_;
-    ZeigeBild();
+    if (ansicht_.Folge(*liste_)) ZeigeBild();
 }
 
 }  // namespace zrw

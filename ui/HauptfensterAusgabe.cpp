@@ -9,8 +9,10 @@
 
 #include "model/Fehler.h"
 #include "output/Export.h"
+#include "ui/Ergebnisanzeige.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Hilfefenster.h"
+#include "ui/Punktartwahl.h"
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
 #include "ui/Zentrierkasten.h"
@@ -31,21 +33,21 @@ void TZrwMainDlg::SpeedButton12Click() {
     if (liste_ == nullptr) return;
     BrichAb();
     legendentexte_->Bearbeite(*liste_);
-    liste_->Legend->Masstab = Utf8NachCp1252(NachUtf8(EditMasstab_->text()));
+    liste_->Legend->Masstab = druck_.Massstabtext();
     ZeichneNeu();
 }
 
 void TZrwMainDlg::SpeedButton16Click() {
     if (liste_ == nullptr) return;
-    BewahreNetz();
+    bewahrung_.Bewahre();
     BrichAb();  // figures that are being dragged are out of the picture
-    const auto massstab = Druckmassstab();
+    const auto massstab = druck_.Massstab();
     if (!massstab) return;
     try {
         const Sanduhr sanduhr;
         const double faktor = Druckfaktor(*massstab, programm_.drucker.Aufloesung());
         Exportiere(*liste_, zeichner_, programm_.zustand, programm_.dateien, {faktor, kPlotname, kDxfname});
-        if (liste_->ShowLegende) liste_->Legend->Masstab = Utf8NachCp1252(NachUtf8(EditMasstab_->text()));
+        if (liste_->ShowLegende) liste_->Legend->Masstab = druck_.Massstabtext();
         ZeichneNeu();
     } catch (const std::exception& f) {
         ZeigeFehler(f);
@@ -115,6 +117,14 @@ bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
     return QMainWindow::eventFilter(empfaenger, ereignis);
 }
 
+void TZrwMainDlg::ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) {
+    if (punkt != nullptr) {
+        ergebnisse_->ListeAuf(*liste_, *punkt);
+    } else if (kante != nullptr) {
+        ergebnisse_->ListeAuf(*liste_, *kante);
+    }
+}
+
 void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
     const bool zeigen = sichtbar && liste_ != nullptr;
     switch (welches) {
@@ -122,11 +132,11 @@ void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
             zeigen ? zentrierkasten_->Zeige() : zentrierkasten_->hide();
             break;
         case Nebenfenster::Punktart:
-            gewaehlt_ = nullptr;
-            punktart_->setVisible(zeigen);
+            punktart_->Loese();
+            punktart_->Fenster().setVisible(zeigen);
             break;
         case Nebenfenster::Ergebnisse:
-            ergebnisse_->setVisible(zeigen);
+            ergebnisse_->Fenster().setVisible(zeigen);
             break;
     }
 }

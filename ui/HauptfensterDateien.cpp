@@ -14,11 +14,15 @@
 
 #include "model/Bilddatei.h"
 #include "model/Fehler.h"
+#include "ui/Ergebnisanzeige.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Hilfefenster.h"
+#include "ui/Nummernfeld.h"
+#include "ui/Punktartwahl.h"
+#include "ui/Punktversteck.h"
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
-#include "ui/dialoge/TFormData.h"
+#include "ui/Zentrierkasten.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 
 namespace zrw {
@@ -170,8 +174,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         ereignis->ignore();
         return;
     }
-    bewahrung_.stop();
-    VergissRettung();
+    bewahrung_.Beende();
     LoeseWerkzeuge();
     // An open settings window keeps what was chosen in it; the help would keep the program running.
     for (QDialog* dialog : findChildren<QDialog*>())
@@ -197,6 +200,10 @@ void TZrwMainDlg::dropEvent(QDropEvent* ereignis) {
 /// The file, and a star while there is something to save.
 void TZrwMainDlg::ZeigeTitel() {
     setWindowTitle(titel_ + (Ungesichert() ? QStringLiteral("*") : QString()));
+}
+
+Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() const {
+    return {liste_.get(), titel_.mid(QStringLiteral("Zarwik ").size()), Ungesichert(), gedrueckt_ != nullptr};
 }
 
 void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
@@ -253,24 +260,21 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     // Nothing may point into the network that goes now.
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->Abbrechen();
-    ergebnisse_->hide();
-    aufgelistet_.clear();
-    zweiterAufgelisteter_.reset();
-    druckrahmen_.Loese();
-    gewaehlt_ = nullptr;
-    ansichten_.clear();
+    ergebnisse_->Vergiss();
+    druck_.Rahmen().Loese();
+    punktart_->Loese();
+    ansicht_.NeuesNetz();
     aenderungen_.clear();
     ungesichert_ = false;
-    VergissRettung();
-    ausdehnungAlt_ = false;
-    zentriert_.clear();
+    bewahrung_.Vergiss();
+    zentrierkasten_->Beginne();
     liste_ = std::move(lesung.liste);
-    nummernSortiert_ = IstBilddatei(datei);
+    ComboBox1_->Sortiere(IstBilddatei(datei));
     FuelleNummern();
     const QStringList verborgen = Verborgene(*liste_);
-    if (IstBilddatei(datei) || !verborgen.isEmpty()) versteckte_->Setze(verborgen);
+    if (IstBilddatei(datei) || !verborgen.isEmpty()) versteck_->Versteckte().Setze(verborgen);
     programm_.netz = lesung.netz;
-    WaehleTabellenordner(datei);
+    ergebnisse_->WaehleOrdner(datei);
     if (IstBilddatei(datei)) {
         // Reading a picture file switches these two on, whatever they were.
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
@@ -304,7 +308,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     // A mode that was chosen before there was a network.
     if (Aktiv() != nullptr) Aktiv()->Beginne();
     // A picture file carries its marks.
-    if (!IstBilddatei(datei)) MarkiereFehler();
+    if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*liste_);
     ZeichneNeu();
 }
 
@@ -327,7 +331,7 @@ bool TZrwMainDlg::Speichere() {
         return false;
     }
     ungesichert_ = false;
-    VergissRettung();
+    bewahrung_.Vergiss();
     aenderungen_.setClean();
     ZeigeTitel();
     ordner_ = QFileInfo(*name).absolutePath();

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStringListModel>
 #include <algorithm>
+#include <iterator>
 
 namespace zrw {
 namespace {
@@ -71,10 +72,17 @@ Zentrierkasten::Zentrierkasten(QWidget* eltern)
 }
 
 void Zentrierkasten::Fuelle(const QStringList& nummern) {
-    QStringList sortiert = nummern;
+    QStringList sortiert;
+    std::copy_if(nummern.begin(), nummern.end(), std::back_inserter(sortiert),
+                 [this](const QString& nummer) { return !zentriert_.contains(nummer); });
     sortiert.sort();
     exzentren_->setStringList(sortiert);
     zentren_->setStringList({});
+}
+
+void Zentrierkasten::MerkeZentrierte(const QStringList& exzentren) {
+    for (const QString& nummer : exzentren)
+        zentriert_ << nummer;
 }
 
 void Zentrierkasten::Entferne(const QString& nummer) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QGroupBox>
+#include <QSet>
 #include <QStringList>
 #include <functional>
 #include <optional>
@@ -16,7 +17,11 @@ class Zentrierkasten final : public QGroupBox {
   public:
     explicit Zentrierkasten(QWidget* eltern);
 
-    /// The points of a new network; the list of centres is empty until the box is shown.
+    /// A new network: nothing of it has been centred.
+    void Beginne() { zentriert_.clear(); }
+    /// Points that are centred now: they do not come back into the lists.
+    void MerkeZentrierte(const QStringList& exzentren);
+    /// The points of the network; the list of centres is empty until the box is shown.
     void Fuelle(const QStringList& nummern);
     /// Points that are no longer in the network, or new in it.
     void Entferne(const QString& nummer);
@@ -40,6 +45,7 @@ class Zentrierkasten final : public QGroupBox {
     QListView* PZListBox_;
     QStringListModel* exzentren_;
     QStringListModel* zentren_;
+    QSet<QString> zentriert_;
     QPoint griff_;
 };
 

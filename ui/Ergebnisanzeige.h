@@ -1,0 +1,57 @@
+// Results of the adjustment: finds the tables of a network, lists what they say about a point or a line in
+// the window "TFormData", and marks gross errors. Not in here: the tables (input/tabellen).
+#pragma once
+
+#include <QString>
+#include <exception>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+#include "model/FigListe.h"
+#include "ui/Programm.h"
+
+class QWidget;
+
+namespace zrw {
+
+class TFormData;
+
+class Ergebnisanzeige {
+  public:
+    /// @param programm must outlive it
+    /// @param eltern owns the window of the results
+    Ergebnisanzeige(const Programm& programm, QWidget* eltern,
+                    std::function<void(const std::exception&)> zeigeFehler);
+
+    ~Ergebnisanzeige();
+    Ergebnisanzeige(const Ergebnisanzeige&) = delete;
+    Ergebnisanzeige& operator=(const Ergebnisanzeige&) = delete;
+
+    [[nodiscard]] TFormData& Fenster() { return *fenster_; }
+    /// The network is about to be replaced.
+    void Vergiss();
+    /// Results lie beside the control file; for a picture file where the alias points to, if there is one.
+    void WaehleOrdner(const std::filesystem::path& datei);
+    /// Whether any table lies beside the network.
+    [[nodiscard]] bool Vorhanden() const;
+
+    void ListeAuf(const Liste& netz, const PunktKnoten& punkt);
+    void ListeAuf(const Liste& netz, const PunktKante& kante);
+    /// Tells what the tables say about errors, and marks it in the network.
+    void MarkiereFehler(Liste& netz);
+    /// What reading the tables had to say. Later, outside whatever goes on: a box would let the next drawing
+    /// in.
+    void MeldeTabellen();
+
+  private:
+    void FuelleReiter();
+
+    const Programm& programm_;
+    TFormData* fenster_;
+    std::function<void(const std::exception&)> zeigeFehler_;
+    QString aufgelistet_;             ///< number of what the results are of, of a line its first point
+    std::optional<QString> zweiter_;  ///< the second point of a line
+};
+
+}  // namespace zrw

@@ -1,0 +1,41 @@
+// The field "Punktnummern": the numbers of all points, to choose one or to type a part of one. It knows
+// numbers only; whoever owns it shows the point.
+#pragma once
+
+#include <QComboBox>
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "model/FigListe.h"
+
+class QStringListModel;
+
+namespace zrw {
+
+class Nummernfeld final : public QComboBox {
+  public:
+    explicit Nummernfeld(QWidget* eltern);
+
+    /// How the numbers of the next network stand: sorted, or in the order in which they were read. A picture
+    /// file has them backwards.
+    void Sortiere(bool sortiert) { sortiert_ = sortiert; }
+    void Fuelle(const Liste& liste);
+    /// Whether points have come or gone since.
+    [[nodiscard]] bool Veraltet(const Liste& liste) const { return stand_ != liste.MaxPkte; }
+    [[nodiscard]] QStringList Nummern() const;
+    /// The first number that holds the text, whatever its case.
+    [[nodiscard]] std::optional<QString> Finde(const QString& teil) const;
+
+    /// A number was chosen, or something typed.
+    std::function<void(const QString& nummer)> gewaehlt;
+
+  private:
+    QStringListModel* nummern_;
+    bool sortiert_ = false;
+    std::int32_t stand_ = 0;  ///< number of points that they were made from
+};
+
+}  // namespace zrw

@@ -1,0 +1,156 @@
+#include "ui/Plandruck.h"
+
+#include <QCheckBox>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "model/Fehler.h"
+#include "model/Ganzzahl.h"
+#include "output/Export.h"
+#include "output/Geraeteansicht.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+
+// --- Scale and output area --------------------------------------------------------------------------------
+
+std::optional<double> Plandruck::Massstab() {
+    Massstabfeld& feld = *felder_.massstab;
+    auto massstab = feld.Massstab();
+    if (!massstab) {
+        programm_.dialoge.Melde(QStringLiteral("Der Druckmaßstab muss eine Zahl größer als 0 sein."));
+        feld.setFocus();
+        feld.selectAll();
+    }
+    return massstab;
+}
+
+std::string Plandruck::Massstabtext() const {
+    return Utf8NachCp1252(NachUtf8(felder_.massstab->text()));
+}
+
+void Plandruck::AktualisiereRahmen() {
+    const bool ein = felder_.rahmen->isChecked();
+    if (!ein) rahmen_.Loese();
+    const auto massstab = felder_.massstab->Massstab();
+    if (ein && massstab) {
+        rahmen_.Setze(Druckrahmen::Stand{*massstab, programm_.drucker.Seite()});
+    } else {
+        rahmen_.Setze({});
+    }
+    felder_.bild->update();
+}
+
+void Plandruck::ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche) const {
+    rahmen_.Zeichne(liste, flaeche, programm_.einstellungen.PPCol);
+}
+
+// --- Sheets -----------------------------------------------------------------------------------------------
+
+/// Sheets of the plot at this scale; one without a place of its own where it fits, or would need too many.
+std::vector<Blatt> Plandruck::Blaetter(const Liste& liste, double massstab) const {
+    const Welt ecke = rahmen_.Ecke(liste);
+    const Druckseite seite = programm_.drucker.Seite();
+    try {
+        auto blaetter = Blattschnitt(liste, massstab, seite, ecke);
+        if (blaetter.size() > 1 || (blaetter.size() == 1 && blaetter[0] != Blatt{})) return blaetter;
+    } catch (const Fehler&) {
+        // One sheet can be printed at any scale.
+    }
+    return {{0, 0, ecke}};
+}
+
+std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(const Liste& liste, double massstab) const {
+    auto blaetter = Blaetter(liste, massstab);
+    const bool leer = std::find(blaetter.begin(), blaetter.end(), Blatt{}) == blaetter.end();
+    // Also where the plan lies on one sheet, but beside the output area.
+    if (blaetter.size() == 1 && !leer) return blaetter;
+    const auto alle = programm_.dialoge.FrageMitAbbruch(
+        QStringLiteral("In diesem Maßstab liegt der Plan auf %1. Alles drucken?\n"
+                       "Nein druckt nur eines: %2.%3")
+            .arg(blaetter.size() == 1 ? QStringLiteral("einem anderen Blatt")
+                                      : QStringLiteral("%1 Blättern").arg(blaetter.size()))
+            .arg(rahmen_.Ecke() ? QStringLiteral("das des Ausgabebereichs")
+                                : QStringLiteral("das in der linken oberen Ecke des Bildes"),
+                 leer ? QStringLiteral("\nAuf diesem liegt nichts vom Plan.") : QString()));
+    if (!alle) return std::nullopt;
+    if (!*alle) blaetter = {{0, 0, rahmen_.Ecke(liste)}};
+    return blaetter;
+}
+
+Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
+    Druckwerk werk;
+    werk.titel = titel;
+    werk.schrift = flaeche_.Schrift();
+    werk.blaetter = static_cast<int>(blaetter.size());
+    Druckauftrag auftrag{massstab, Massstabtext(), programm_.drucker.Seite()};
+    auftrag.legende = Legendenort(liste, auftrag);
+    werk.zeichne = [this, &liste, blaetter = std::move(blaetter), auftrag](Zeichenflaeche& flaeche,
+                                                                           int nummer) mutable {
+        auftrag.ecke = blaetter[static_cast<std::size_t>(nummer)].ecke;
+        zrw::Drucke(liste, zeichner_, programm_.zustand, programm_.einstellungen, flaeche, auftrag);
+    };
+    return werk;
+}
+
+/// A legend that stands within the frame of the output area stands there on the sheet.
+std::optional<Bildpunkt> Plandruck::Legendenort(const Liste& liste, const Druckauftrag& auftrag) const {
+    if (!felder_.rahmen->isChecked() || liste.Legend == nullptr) return std::nullopt;
+    const double dot = Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung);
+    const Welt ecke = rahmen_.Ecke(liste);
+    const Welt w = liste.BildinWelt(liste.Legend->Position());
+    const Bildpunkt ort{RundeZuInt64((w.rechts - ecke.rechts) / dot),
+                        RundeZuInt64((ecke.hoch - w.hoch) / dot)};
+    const bool darin = ort.x >= 0 && ort.y >= 0 && ort.x < auftrag.seite.weite && ort.y < auftrag.seite.hoehe;
+    return darin ? std::optional(ort) : std::nullopt;
+}
+
+// --- Printing ---------------------------------------------------------------------------------------------
+
+void Plandruck::Drucke(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
+    programm_.drucker.Drucke(Werk(liste, std::move(blaetter), massstab, titel));
+}
+
+bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel) {
+    auto blaetter = Blaetter(liste, massstab);
+    const QImage uebersicht = Uebersicht(liste, blaetter, massstab);
+    return programm_.drucker.ZeigeVorschau(eltern, Werk(liste, std::move(blaetter), massstab, titel),
+                                           uebersicht);
+}
+
+/// The network without its texts, and over it the sheets with their numbers.
+QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const {
+    constexpr double kWeite = 320;
+    constexpr double kHoehe = 480;
+    const Druckseite seite = programm_.drucker.Seite();
+    const double faktor = Druckfaktor(massstab, seite.aufloesung);
+    const double breite = seite.weite * faktor;
+    const double hoehe = seite.hoehe * faktor;
+    Welt lo = blaetter.front().ecke;
+    Welt ru = lo;
+    for (const Blatt& b : blaetter) {
+        lo = {std::min(lo.rechts, b.ecke.rechts), std::max(lo.hoch, b.ecke.hoch)};
+        ru = {std::max(ru.rechts, b.ecke.rechts + breite), std::min(ru.hoch, b.ecke.hoch - hoehe)};
+    }
+    const double jePixel = std::max((ru.rechts - lo.rechts) / kWeite, (lo.hoch - ru.hoch) / kHoehe);
+    const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / jePixel)); };
+    Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
+    const Geraeteansicht ansicht(liste, programm_.zustand, jePixel, lo);
+    Zeichenzustand zustand = programm_.zustand;
+    zustand.flaeche = &bild;
+    Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+    if (liste.ShowBeob) liste.DisplayKante(zeichner);
+    liste.DisplayPunkte(zeichner);
+    bild.SetzeStift({programm_.einstellungen.PPCol, 1, Strichart::Voll});
+    bild.SetzePinsel({kWeiss, true});
+    for (std::size_t i = 0; i < blaetter.size(); ++i) {
+        const int x = pixel(blaetter[i].ecke.rechts - lo.rechts);
+        const int y = pixel(lo.hoch - blaetter[i].ecke.hoch);
+        bild.ZeichneRechteck({x, y, x + pixel(breite), y + pixel(hoehe)});
+        bild.Text({x + 3, y + 1}, std::to_string(i + 1), programm_.einstellungen.PPCol);
+    }
+    return bild.Bild();
+}
+
+}  // namespace zrw

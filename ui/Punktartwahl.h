@@ -1,0 +1,42 @@
+// Changes the kind and place of a picked point, and inserts new points, as the window "TFormPunktart" says.
+#pragma once
+
+#include "model/FigListe.h"
+#include "ui/Dialogdienst.h"
+#include "ui/werkzeuge/Werkzeug.h"
+
+class QWidget;
+
+namespace zrw {
+
+struct Punkteingabe;
+class TFormPunktart;
+
+class Punktartwahl {
+  public:
+    /// @param umgebung, dialoge must outlive it
+    /// @param eltern owns the window
+    Punktartwahl(Werkzeugumgebung& umgebung, Dialogdienst& dialoge, QWidget* eltern);
+    ~Punktartwahl();
+    Punktartwahl(const Punktartwahl&) = delete;
+    Punktartwahl& operator=(const Punktartwahl&) = delete;
+
+    [[nodiscard]] TFormPunktart& Fenster() { return *fenster_; }
+    void Waehle(PunktKnoten& punkt);
+    /// Nothing is picked any more.
+    void Loese() { gewaehlt_ = nullptr; }
+    /// The picked point may have moved or gone.
+    void NetzGeaendert();
+
+  private:
+    void Zeichne();
+    void FuegeEin(const Punkteingabe& eingabe, Welt ort);
+
+    Werkzeugumgebung& umgebung_;
+    Dialogdienst& dialoge_;
+    TFormPunktart* fenster_;
+    Welt gewaehltOrt_;  ///< as the window shows it
+    PunktKnoten* gewaehlt_ = nullptr;
+};
+
+}  // namespace zrw
