@@ -134,6 +134,7 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
     EXPECT_TRUE(std::holds_alternative<std::monostate>(a.zeilen[0][Feld(Tabelle::Koordinaten, "H")]));
     EXPECT_EQ(a.spalten.back(), "NEU");
     EXPECT_EQ(std::get<std::string>(a.zeilen[0].back()), "abc");
+    EXPECT_EQ(daten.Frage(Tabelle::Koordinaten, "SELECT NEU, PKT from KooTABLE").spalten.back(), "NEU");
     daten.Erneuere();
     ASSERT_NE(daten.Zu("P"), nullptr);
     EXPECT_EQ(daten.Zu("P")->dY, -2.0);

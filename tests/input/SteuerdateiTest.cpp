@@ -134,7 +134,10 @@ TEST_F(Steuerdatei, OeffnenPasstEinUndSagtWasFehlt) {
     const auto oeffne = [&](const char* name) {
         meldungen.clear();
         return OeffneNetz(name, dateien, einstellungen, {.Netztyp = 9, .Hauptmeridian = 12}, {1000, 530},
-                          [this](const Meldung& m) { meldungen.push_back(m.text); });
+                          [this](const Meldung& m) {
+                              meldungen.push_back(m.text);
+                              EXPECT_EQ(m.zeile, 0) << "about the whole file";
+                          });
     };
     dateien.dateien["N.EIN"] =
         "$NT 1\n$FP A              1 3412345 5601000\n    B              1 3418765 5602000\n";
