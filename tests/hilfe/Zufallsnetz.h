@@ -14,7 +14,7 @@ namespace zrw {
 class Zufallsnetz {
   public:
     Zufallsnetz(unsigned saat, int w, int h) : weite(w), hoehe(h), zufall_(saat) {
-        const int punkte = std::array{3, 40, 400, 3000}[saat % 4];
+        const int punkte = std::array{3, 40, 270, 3000}[saat % 4];  // 17 leaves of a tree, too
         for (int i = 1; i <= punkte; ++i)
             NeuerPunkt(static_cast<PunktIndex>(i), Welt{Ort(), Ort()});
         if (saat % 5 == 0) NeuerPunkt(2, {Ort(), Ort()});  // a number twice

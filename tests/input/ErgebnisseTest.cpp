@@ -9,6 +9,7 @@
 #include "input/Systemdateien.h"
 #include "input/tabellen/Ergebnisabfragen.h"
 #include "input/tabellen/MarkiereFehler.h"
+#include "input/tabellen/ParadoxFormat.h"
 #include "input/tabellen/Paradoxschreiber.h"
 #include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
@@ -163,6 +164,12 @@ TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
 
     std::string& db = dateien.dateien["netz/KooTABLE.DB"];
     const std::string heil = db;
+    db[paradox::kCodeseite] = '\x62';  // 866, Cyrillic
+    db[paradox::kCodeseite + 1] = '\x03';
+    daten.Erneuere();
+    EXPECT_TRUE(daten.NimmMeldung().starts_with("KooTABLE.DB: ")) << "a warning about the whole table";
+    db = heil;
+    daten.Erneuere();
     db.resize(2100);
     daten.Erneuere();
     EXPECT_EQ(daten.Zu("A")->dY, 3.0);

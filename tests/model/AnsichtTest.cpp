@@ -174,6 +174,28 @@ TEST(Ansicht, JederMassstabFindetSeinePixelWieder) {
     }
 }
 
+// The picture may be moved as it is only where drawing anew would give the same.
+TEST(Ansicht, SagtObSichAllesGleichBewegt) {
+    const struct {
+        LinieAttr stil;
+        Welt versatz;
+        Bildpunkt weg;
+        bool gleich;
+    } faelle[] = {{LinieAttr::AR1, {-3, 1}, {3, 1}, true},    {LinieAttr::AR1, {-3, 1}, {3, 2}, false},
+                  {LinieAttr::AR1, {-2.5, 0}, {2, 0}, false}, {LinieAttr::ARI1, {-4, 2}, {4, 2}, true},
+                  {LinieAttr::ARI1, {-3, 0}, {3, 0}, false},  {LinieAttr::ARI1, {0, 3}, {0, 3}, false}};
+    for (const auto& f : faelle) {
+        Probenetz n;
+        n.P(1, 0, 0);
+        n.P(2, 15, 0);
+        n.K(1, 2, f.stil);
+        n.l.Faktor = 1.0;
+        n.l.WeltinBild();
+        EXPECT_EQ(n.l.SetzeVersatz(f.versatz, f.weg), f.gleich)
+            << static_cast<int>(f.stil) << ": " << f.weg.x << ", " << f.weg.y;
+    }
+}
+
 // Picture files bring any view.
 TEST(Ansicht, JedeAnsichtBleibtImWertebereich) {
     for (const double faktor : {0.0, -0.0, kInf, -kInf, std::nan(""), 5e-324, 1.7e308, -3.0}) {

@@ -110,6 +110,8 @@ TEST_F(Zeichnen, SchraegeLinien) {
               (Zeilen{"- 0 0 30 40", "- 15 27 22 22"}));
     EXPECT_EQ(Kantenstriche(KanteAttr::DH1, LinieAttr::AR2, {0, 0}, {30, 40}),
               (Zeilen{"- 0 0 30 40", "- 2 9 4 12"}));
+    zustand.flaeche = nullptr;
+    EXPECT_EQ(Kantenstriche(KanteAttr::DH1, LinieAttr::AR2, {0, 0}, {30, 40}), Zeilen{}) << "nowhere to draw";
 }
 
 TEST_F(Zeichnen, LinieOhneRichtungUndGPSIstWeiss) {

@@ -147,7 +147,7 @@ TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
     const Zeichnung innen = [](Zeichenflaeche& f) {
         f.Linie({-50, 100}, {50, 100});
         f.Ellipse({790, 590, 810, 610});
-        f.Text({-5, -5}, "WWW", kSchwarz);
+        f.Text({-f.Textbreite("WWW"), -5}, "WWW", kSchwarz);  // its last column may be on the sheet
         f.Fuelle({-2000000000, -5, 2000000000, 10}, kSchwarz);
     };
     const Zeichnung aussen = [](Zeichenflaeche& f) {
