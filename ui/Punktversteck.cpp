@@ -8,6 +8,20 @@
 #include "ui/dialoge/TFormHidePunkte.h"
 
 namespace zrw {
+namespace {
+
+/// All points of these numbers that the network has.
+std::unique_ptr<SichtbarkeitGeaendert> Aenderung(Liste& liste, const QStringList& nummern, bool sichtbar) {
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(sichtbar ? QStringLiteral("Punkt anzeigen")
+                                                                      : QStringLiteral("Punkt verstecken"));
+    for (const QString& nummer : nummern) {
+        if (PunktKnoten* p = liste.FindPunkt(Utf8NachCp1252(NachUtf8(nummer))); p != nullptr)
+            aenderung->NimmPunkt(liste, *p, sichtbar);
+    }
+    return aenderung;
+}
+
+}  // namespace
 
 Punktversteck::Punktversteck(Werkzeugumgebung& umgebung, QWidget* eltern)
     : umgebung_(umgebung), auswahl_(new TFormHidePunkte(eltern)), versteckte_(new TFormHiddenPkt(eltern)) {
@@ -33,12 +47,7 @@ void Punktversteck::Verberge(PunktKnoten& punkt) {
 void Punktversteck::Verberge(const QStringList& nummern) {
     Liste* liste = umgebung_.AktuelleListe();
     if (liste == nullptr) return;
-    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt verstecken"));
-    for (const QString& nummer : nummern) {
-        if (PunktKnoten* p = liste->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))); p != nullptr)
-            aenderung->NimmPunkt(*liste, *p, false);
-    }
-    Verberge(std::move(aenderung), nummern);
+    Verberge(Aenderung(*liste, nummern, false), nummern);
 }
 
 void Punktversteck::Verberge(std::unique_ptr<SichtbarkeitGeaendert> aenderung, const QStringList& nummern) {
@@ -64,11 +73,7 @@ void Punktversteck::Verberge(std::unique_ptr<SichtbarkeitGeaendert> aenderung, c
 void Punktversteck::Zeige(const QStringList& nummern) {
     Liste* liste = umgebung_.AktuelleListe();
     if (liste == nullptr) return;
-    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt anzeigen"));
-    for (const QString& nummer : nummern) {
-        if (PunktKnoten* p = liste->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))); p != nullptr)
-            aenderung->NimmPunkt(*liste, *p, true);
-    }
+    auto aenderung = Aenderung(*liste, nummern, true);
     if (nummern.isEmpty() || aenderung->Leer()) {
         umgebung_.ZeichneNeu();
         return;
