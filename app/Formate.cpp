@@ -21,7 +21,8 @@ namespace zrw {
 namespace {
 
 void SchreibeZrw(const Ausgabe& a, const std::filesystem::path& datei) {
-    SchreibeBilddatei(a.liste, a.netz, datei, a.dateien);
+    const std::string weg = WeggelasseneNummern(SchreibeBilddatei(a.liste, a.netz, datei, a.dateien));
+    if (!weg.empty()) a.sage(Fehler::Meldung(weg, PfadText(datei), 0));
 }
 
 /// Draws the picture as the window would show it and writes it in one of Qt's picture formats.

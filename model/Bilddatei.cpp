@@ -1,5 +1,6 @@
 #include "model/Bilddatei.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 #include <string>
@@ -56,6 +57,10 @@ std::size_t Anzahl(const Knoten* kopf) {
 }  // namespace
 
 void Liste::Store(ByteSchreiber& f, const Netzangaben& netz) const {
+    StoreOhne({}, f, netz);
+}
+
+void Liste::StoreOhne(const Textmenge& texte, ByteSchreiber& f, const Netzangaben& netz) const {
     for (const double feld : {Faktor, MaxXW, MinXW, MaxYW, MinYW, XOffset, YOffset})
         f.F64(feld);
     for (const std::int32_t feld : {MaxPkte, MaxKant, Weite, Hoehe})
@@ -70,6 +75,7 @@ void Liste::Store(ByteSchreiber& f, const Netzangaben& netz) const {
         p->Item->Store(f);
     }
     for (const PunktString* t = PktTextKnoten; t != nullptr; t = t->Next) {
+        if (texte.count(t) != 0) continue;
         f.U16(t->TNr);
         t->Item->Store(f);
     }
@@ -112,8 +118,22 @@ std::unique_ptr<Liste> Liste::Load(ByteLeser& f, const Einstellungen& einstellun
     return liste;
 }
 
-void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
-                       Dateien& dateien) {
+// Files of unknown origin hold labels of no point, or several of one. When a point then goes, the one count
+// for points and labels would be wrong.
+Textmenge UeberzaehligeTexte(const Liste& liste) {
+    Textmenge herrenlose;
+    std::size_t zuviel = Anzahl(liste.PktTextKnoten);
+    zuviel -= std::min(zuviel, Anzahl(liste.PunktKnoten));
+    for (const PunktString* t = liste.PktTextKnoten; t != nullptr && zuviel > 0; t = t->Next) {
+        if (liste.SuchPkt(t->TNr) != nullptr && liste.FindText(t->TNr) == t) continue;
+        herrenlose.insert(t);
+        --zuviel;
+    }
+    return herrenlose;
+}
+
+std::size_t SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+                              Dateien& dateien) {
     if (liste.MaxPkte > kMaxAnzahl || liste.MaxKant > kMaxAnzahl) {
         throw Fehler("Eine Zarwikdatei fasst höchstens 65535 Punkte und 65535 Linien; dieses Netz hat " +
                          std::to_string(liste.MaxPkte) + " Punkte und " + std::to_string(liste.MaxKant) +
@@ -123,7 +143,8 @@ void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::f
     // The file has one count for both. Lists of unknown origin may have come apart; such a file would read
     // wrongly.
     const std::size_t punkte = Anzahl(liste.PunktKnoten);
-    const std::size_t texte = Anzahl(liste.PktTextKnoten);
+    const Textmenge herrenlose = UeberzaehligeTexte(liste);
+    const std::size_t texte = Anzahl(liste.PktTextKnoten) - herrenlose.size();
     if (punkte != texte || punkte != static_cast<std::size_t>(liste.MaxPkte) ||
         Anzahl(liste.KanteKnoten) != static_cast<std::size_t>(liste.MaxKant)) {
         throw Fehler("Das Netz hat " + std::to_string(punkte) + " Punkte und " + std::to_string(texte) +
@@ -133,8 +154,16 @@ void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::f
     ByteSchreiber f;
     f.Reserviere(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
                  static_cast<std::size_t>(liste.MaxKant) * kKantensatz);
-    liste.Store(f, netz);
+    liste.StoreOhne(herrenlose, f, netz);
     dateien.Ersetze(datei, f.Inhalt());
+    return herrenlose.size();
+}
+
+std::string WeggelasseneNummern(std::size_t anzahl) {
+    if (anzahl == 0) return {};
+    return (anzahl == 1 ? std::string("Eine Punktnummer, die zu keinem Punkt gehört, wurde")
+                        : std::to_string(anzahl) + " Punktnummern, die zu keinem Punkt gehören, wurden") +
+           " nicht mitgespeichert.";
 }
 
 std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const Dateien& dateien,

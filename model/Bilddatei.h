@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
 
 #include "model/Dateien.h"
 #include "model/FigListe.h"
@@ -10,10 +11,16 @@
 namespace zrw {
 
 /// Writes the plot and its view, replacing the file as a whole.
+/// @return how many labels were left out, see `UeberzaehligeTexte`
 /// @throws Fehler where it cannot be written, holds more points or lines than the format can count, or its
 /// labels do not go with its points
-void SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
-                       Dateien& dateien);
+std::size_t SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+                              Dateien& dateien);
+/// The labels that must stay out of a file: as many of those that no point owns as there are more labels than
+/// points. A point owns the newest label of its number.
+[[nodiscard]] Textmenge UeberzaehligeTexte(const Liste& liste);
+/// What that number means, for the user; empty for 0. UTF-8.
+[[nodiscard]] std::string WeggelasseneNummern(std::size_t anzahl);
 
 /// Opens a picture file. On a `Fehler` the given `netz` is as it was.
 [[nodiscard]] std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const Dateien& dateien,

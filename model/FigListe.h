@@ -67,6 +67,8 @@ class Liste {
     /// Wipes and drops every figure; the counts stay.
     virtual void Done(Zeichner& z);
     virtual void Store(ByteSchreiber& f, const Netzangaben& netz) const;  // Bilddatei.cpp
+    /// The same without some labels.
+    void StoreOhne(const Textmenge& texte, ByteSchreiber& f, const Netzangaben& netz) const;
     virtual void PunktDone(Zeichner& z);
     virtual void KanteDone(Zeichner& z);
     virtual void PktTextDone(Zeichner& z);
@@ -195,6 +197,8 @@ class Liste {
     [[nodiscard]] Punktenden Enden(std::uint32_t folge) const { return suche_.enden[folge]; }
     /// Labels whose corner or whose point may lie in it.
     void SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) const;
+    /// How often the trees behind these answers were built; a question that builds them takes long.
+    [[nodiscard]] std::size_t Suchbauten() const { return suche_.bauten; }
 
     [[nodiscard]] PPunktKnoten ClickPunkt(Bildpunkt maus) const;
     // The same for what the picture shows: neither hidden figures nor kinds that are switched off.
@@ -236,6 +240,7 @@ class Liste {
     [[nodiscard]] bool Suchbereit(const Bildbereich& b) const;
     void BaueSuche() const;
     void MeldePunkt(const zrw::PunktKnoten& p);
+    void VerdraengeText(PunktIndex nr);
 
     const Einstellungen& einstellungen_;
     Arena<PunktPlatz> punktArena_;

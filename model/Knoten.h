@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <unordered_set>
 #include <vector>
 
 #include "model/Figuren.h"
@@ -55,6 +56,8 @@ struct TextPlatz {
     PunktString knoten;
     PktText figur;
 };
+
+using Textmenge = std::unordered_set<const PunktString*>;
 
 /// Figures of one list.
 struct Figurenmenge {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/Bilddatei.h"
 #include "model/BilddateiFormat.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
@@ -45,7 +46,7 @@ std::string SchreibeRettung(const Liste& liste, const Netzangaben& netz, const s
     f.U32(static_cast<std::uint32_t>(punkte.size()));
     for (const PunktKnoten* p : punkte)
         f.U8(static_cast<std::uint8_t>(p->Item->PktArt));
-    liste.Store(f, netz);
+    liste.StoreOhne(UeberzaehligeTexte(liste), f, netz);
     return std::string(f.Inhalt());
 }
 

@@ -323,9 +323,10 @@ bool TZrwMainDlg::Speichere() {
     const auto name = programm_.dialoge.WaehleZumSpeichern(
         {QStringLiteral("Zarwik speichern"), kBildfilter, ordner_, vorschlag, QStringLiteral("ZRW")});
     if (!name) return true;
+    std::size_t weggelassen = 0;
     try {
         const Sanduhr sanduhr;
-        SchreibeBilddatei(*liste_, programm_.netz, NachPfad(*name), programm_.dateien);
+        weggelassen = SchreibeBilddatei(*liste_, programm_.netz, NachPfad(*name), programm_.dateien);
     } catch (const std::exception& f) {
         ZeigeFehler(f);
         return false;
@@ -337,7 +338,9 @@ bool TZrwMainDlg::Speichere() {
     ordner_ = QFileInfo(*name).absolutePath();
     programm_.sitzung.MerkeOrdner(ordner_);
     programm_.sitzung.NimmDatei(QFileInfo(*name).absoluteFilePath());
-    ZeigeStatus(QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name));
+    QString text = QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name);
+    if (weggelassen > 0) text += QStringLiteral(". ") + AusUtf8(WeggelasseneNummern(weggelassen));
+    ZeigeStatus(text);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "model/Rettungsstand.h"
 #include "tests/hilfe/Probenetz.h"
 #include "tests/hilfe/Speicherdateien.h"
 
@@ -191,6 +192,31 @@ TEST(Bilddatei, WasNichtPasstLaesstDieAlteDateiStehen) {
         n.l.MaxKant = kanten;
         EXPECT_THROW(n.Schreibe(n.l), Fehler) << punkte << " " << kanten;
         EXPECT_EQ(n.d.dateien[kName], "alt");
+    }
+}
+
+// What could be saved before keeps its bytes; where a point goes, labels of no point go too, and only they.
+TEST(Bilddatei, HerrenloseNummernBleibenNachDemLoeschenWeg) {
+    struct {
+        PunktIndex statt;  ///< number that the labels of point 1 and 65535 get
+        bool beide;
+        PunktIndex geloescht;
+        std::size_t weg;
+    } constexpr kFaelle[] = {{9, false, 2, 0}, {9, false, 1, 1}, {9, true, 1, 1}, {2, false, 1, 1}};
+    for (const auto& f : kFaelle) {
+        Dateinetz n;
+        std::string inhalt = kDatei;
+        const std::string nr{static_cast<char>(f.statt), 0};
+        inhalt.replace(84 + 3 * 41 + 2 * 54, 2, nr);
+        if (f.beide) inhalt.replace(84 + 3 * 41, 2, nr);
+        const auto l = n.Lies(inhalt);
+        EXPECT_EQ(SchreibeBilddatei(*l, n.netz, kName, n.d), 0U);
+        (void)l->NimmHeraus(*l->SuchPkt(f.geloescht));
+        EXPECT_EQ(SchreibeBilddatei(*l, n.netz, kName, n.d), f.weg) << f.geloescht;
+        const auto wieder = n.Lies(n.d.dateien[kName]);
+        EXPECT_EQ(wieder->MaxPkte, 2);
+        EXPECT_EQ(wieder->FindPktText(f.geloescht), nullptr);
+        EXPECT_EQ(SchreibeRettung(*l, n.netz, "").substr(18), n.d.dateien[kName]) << "kept plot";
     }
 }
 
