@@ -98,6 +98,7 @@ void Liste::SetzeZurueck(const Herausnahme& h) {
     }
     if (h.text.knoten != nullptr) {
         HaengeEin(PktTextKnoten, *h.text.knoten, h.text.davor);
+        VerdraengeText(h.text.knoten->TNr);
         index_.Zurueck(*h.text.knoten, *PktTextKnoten);
         suche_.texte.Auf(h.text.knoten->Folge, suche_.gebaut);
         h.text.knoten->Item->Visible = h.text.sichtbar;

@@ -26,11 +26,7 @@ void Suchmenge::Leere() {
 void Suchmenge::VergissOrte() {
     baum_.Leere();
     lose_.clear();
-}
-
-bool Bildsuche::Ueberholt() const {
-    const auto viele = [](const Suchmenge& m) { return m.Lose() > 256 + m.Anzahl() / 64; };
-    return !gebaut || viele(punkte) || viele(kanten) || viele(texte);
+    loseBeimBau_ = 0;
 }
 
 bool Bildsuche::Brauchbar() const {

@@ -40,14 +40,16 @@ class Suchmenge {
     [[nodiscard]] bool Hat(std::uint32_t folge) const {
         return folge / 64 < da_.size() && (da_[folge / 64] >> (folge % 64) & 1U) != 0;
     }
-    [[nodiscard]] std::size_t Lose() const { return lose_.size(); }
-    [[nodiscard]] std::size_t Anzahl() const { return anzahl_; }
+    /// So much has come or moved since the tree was built that building it again pays. Figures that no tree
+    /// can hold do not count: they would stand beside the next one, too.
+    [[nodiscard]] bool Ueberholt() const { return lose_.size() - loseBeimBau_ > 256 + anzahl_ / 64; }
 
     /// @param eintraege those with a box, neighbours beside each other; all others are kept beside the tree
     template <class Kasten>
     void Baue(std::vector<std::uint32_t> eintraege, std::vector<std::uint32_t> lose, Kasten kasten) {
         baum_.Baue(std::move(eintraege), kasten);
         lose_ = std::move(lose);
+        loseBeimBau_ = lose_.size();
     }
     void Leere();
     /// Forgets where the figures are.
@@ -98,6 +100,7 @@ class Suchmenge {
     std::size_t anzahl_ = 0;
     Raumbaum baum_;
     std::vector<std::uint32_t> lose_;
+    std::size_t loseBeimBau_ = 0;
 };
 
 /// Between which points a line runs, whichever is its start.
@@ -114,10 +117,13 @@ struct Bildsuche {
     std::vector<Punktenden> enden;  ///< of the lines by `Folge`: quicker to ask than the lines
     Bildlage lage;
     bool gebaut = false;
-    Weltkasten alles;  ///< of all points, once built
+    std::size_t bauten = 0;  ///< how often it was built
+    Weltkasten alles;        ///< of all points, once built
 
     /// What came or moved has grown too much to be asked every time.
-    [[nodiscard]] bool Ueberholt() const;
+    [[nodiscard]] bool Ueberholt() const {
+        return !gebaut || punkte.Ueberholt() || kanten.Ueberholt() || texte.Ueberholt();
+    }
     /// World rectangle that holds every figure at a picture position in the rectangle.
     [[nodiscard]] Weltkasten Welt(const Bildbereich& b) const;
     /// The picture positions follow from the world as they do on a map.

@@ -94,6 +94,7 @@ PunktString& Liste::AddPktText(const PktText& item, PunktIndex iNr) {
     TextPlatz* platz = textArena_.Neu(TextPlatz{{}, item});
     platz->knoten = {iNr, Auf32(textArena_.Anzahl() - 1), &platz->figur, PktTextKnoten};
     PktTextKnoten = &platz->knoten;
+    VerdraengeText(iNr);
     index_.Auf(platz->knoten);
     suche_.texte.Auf(platz->knoten.Folge, suche_.gebaut);
     suche_.lage.frisch = false;

@@ -78,6 +78,7 @@ bool Liste::Suchbereit(const Bildbereich& b) const {
 void Liste::BaueSuche() const {
     suche_.Vergiss();
     suche_.gebaut = true;
+    ++suche_.bauten;
     suche_.alles = {};
     const auto punkt = [this](std::uint32_t f) -> const zrw::PunktKnoten& { return punktArena_[f].knoten; };
     Folgen folgen;
@@ -119,7 +120,9 @@ void Liste::BaueSuche() const {
     NachRang texte(raenge);
     suche_.texte.FuerAlle([&](std::uint32_t f) {
         const PunktString& t = textArena_[f].knoten;
-        if (ende(t.TNr) == nullptr || !Nah(*t.Item) || !index_.NummernEindeutig()) return lose.push_back(f);
+        // Only the newest label of a number is told when its point moves.
+        if (ende(t.TNr) == nullptr || !Nah(*t.Item) || index_.FindeText(t.TNr) != &t)
+            return lose.push_back(f);
         texte.Nimm(rang[t.TNr], f);
     });
     suche_.texte.Baue(texte.Sortiert(), std::move(lose),
@@ -154,6 +157,12 @@ void Liste::MeldePunkt(const zrw::PunktKnoten& p) {
     if (suche_.punkte.Hat(p.Folge)) suche_.punkte.Verlegt(p.Folge);
     FuerKantenAm(p.PNr, [&](const PunktKante& k) { suche_.kanten.Verlegt(k.Folge); });
     if (const PunktString* t = index_.FindeText(p.PNr); t != nullptr) suche_.texte.Verlegt(t->Folge);
+}
+
+/// Another label of the number comes: the one there is may no longer be told when its point moves.
+void Liste::VerdraengeText(PunktIndex nr) {
+    if (!suche_.gebaut) return;
+    if (const PunktString* alt = index_.FindeText(nr); alt != nullptr) suche_.texte.Verlegt(alt->Folge);
 }
 
 void Liste::Versetze(zrw::PunktKnoten& p, Welt ort) {

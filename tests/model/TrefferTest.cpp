@@ -84,6 +84,42 @@ TEST(Treffer, DieNeuesteFigurGewinntUndDerTextLiegtNebenDemPunkt) {
     }
 }
 
+// Figures that no tree can hold must not have it built anew at every question; many moved ones must.
+TEST(Treffer, DieBaeumeWerdenNurFuerZuwachsNeuGebaut) {
+    constexpr PunktIndex kPunkte = 1000;
+    Probenetz n;
+    for (PunktIndex i = 1; i <= kPunkte; ++i) {
+        n.P(i, i % 40 * 100.0, i / 40 * 100.0);
+        n.T(i, std::to_string(i)).Item->XBiO = i % 2 != 0 ? 5000 : 8;  // half of them far
+        n.K(i, i % 3 != 0 ? i : 60000);                                // a third leads nowhere
+    }
+    n.T(7, "7a");
+    n.l.FindWorldMinMax();
+    n.l.Weite = n.l.Hoehe = 500;
+    n.l.PasseEin();
+    n.l.Faktor /= 20;
+    n.l.WeltinBild();
+    const auto frage = [&](std::int64_t i) {
+        (void)n.l.ClickPunkt({i, i});
+        (void)n.l.MausPktText({i, i});
+        (void)n.l.PickKante({i, i});
+    };
+    for (std::int64_t i = 0; i < 20; ++i)
+        frage(i);
+    EXPECT_EQ(n.l.Suchbauten(), 1U);
+    for (PunktIndex i = 1; i <= kPunkte / 2; ++i)
+        n.l.Versetze(*n.l.SuchPkt(i), {50.0 * i, 0});
+    n.l.WeltinBild();
+    frage(1);
+    frage(2);
+    EXPECT_EQ(n.l.Suchbauten(), 2U);
+    // Of two labels of one number both follow their point.
+    n.l.Versetze(*n.l.SuchPkt(7), n.l.BildinWelt({100, 100}));
+    n.l.WeltinBild();
+    EXPECT_NE(n.l.MausPktText({100 + 10, 100 - 5}), nullptr);
+    EXPECT_NE(n.l.MausPktText({100 + 5000, 100 - 5}), nullptr);
+}
+
 TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {
     Probenetz n;
     PunktKnoten& p = n.P(1);
