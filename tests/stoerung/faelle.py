@@ -4,8 +4,8 @@
 usage: faelle.py ZARWIK EINSTELLUNGEN_SICHERN WURZEL [--schreiben] [--ohne-speichergrenze]
 
 Every case runs the real program and checks its status, its message and that the files are as they were, or new and
-whole. --schreiben puts the table of the cases into docs/zuverlaessigkeit.md. Cases that only root can set up are
-named and left out for other users.
+whole. --schreiben puts the table of the cases into docs/zuverlaessigkeit.md. Cases that need a small file system of
+their own are named and left out where nothing can be mounted.
 """
 
 import argparse
@@ -250,6 +250,7 @@ def geschlossene_ausgaben(w):
 
 
 LANG = "x" * 4000
+EINBINDEN = "das Recht einzubinden"
 NICHT = "Kann Datei nicht schreiben"
 AUF = "Kann Datei nicht öffnen"
 ORT_FEHLT = f"{NICHT} (nicht vorhanden)"
@@ -271,11 +272,11 @@ def gelingt(name, tu, text="", danach=NEU, braucht=""):
 
 FAELLE = [
     ("Schreiben", [
-        misslingt("Datenträger voll, alle Formate", voller_datentraeger, f"{NICHT} (Datenträger voll)", braucht="root"),
+        misslingt("Datenträger voll, alle Formate", voller_datentraeger, f"{NICHT} (Datenträger voll)", braucht=EINBINDEN),
         misslingt("kein Verzeichniseintrag frei, alle Formate", kein_eintrag_frei, f"{NICHT} (Datenträger voll)",
-                  braucht="root"),
+                  braucht=EINBINDEN),
         misslingt("Datenträger schreibgeschützt, alle Formate", schreibgeschuetzt,
-                  f"{NICHT} (Datenträger schreibgeschützt)", braucht="root"),
+                  f"{NICHT} (Datenträger schreibgeschützt)", braucht=EINBINDEN),
         misslingt("Grenze für Dateigrößen, alle Formate", lambda w: w.alle_formate(grenzen={"RLIMIT_FSIZE": 65536}),
                   f"{NICHT} (Datei zu groß)"),
         misslingt("Ordner nur lesbar, alle Formate", ordner_gesperrt, f"{NICHT} (keine Berechtigung)"),
@@ -307,7 +308,7 @@ FAELLE = [
         misslingt("Zielordner in einem Ordner, den es nicht gibt", nach("gibts/nicht"), ORT_FEHLT),
         misslingt("Zielordner mit 4 000 Zeichen in einem Namen", nach(LANG), "Name zu lang"),
         misslingt("Einstellungen: Ordner nur lesbar", einstellungen_gesperrt, "nicht gespeichert"),
-        misslingt("Einstellungen: Datenträger voll", einstellungen_voll, "nicht gespeichert", braucht="root"),
+        misslingt("Einstellungen: Datenträger voll", einstellungen_voll, "nicht gespeichert", braucht=EINBINDEN),
     ]),
     ("Lesen", [
         misslingt("Steuerdatei fehlt", oeffne("fehlt.EIN"), f"{AUF} (nicht vorhanden)"),
@@ -390,6 +391,17 @@ FAELLE = [
 ]
 
 
+# The small file systems of the cases are seen by this process and its children only.
+EIGENER_RAUM = ("unshare", "-m", "--propagation", "private")
+
+
+def darf_einbinden():
+    """Ordinary containers and a bare chroot do not let even root mount anything."""
+    with tempfile.TemporaryDirectory(prefix="stoerung") as ort:
+        return WURZEL_RECHTE and subprocess.run([*EIGENER_RAUM, "mount", "-t", "tmpfs", "tmpfs", ort],
+                                                stderr=subprocess.DEVNULL, check=False).returncode == 0
+
+
 def kurz(meldungen, status):
     verschiedene = sorted({re.sub(r"^\S+: ", "", m.strip().splitlines()[0]) if m.strip() else "–"
                            for m in meldungen})
@@ -408,11 +420,12 @@ def main():
     p.add_argument("--schreiben", action="store_true")
     p.add_argument("--ohne-speichergrenze", action="store_true", help="for builds with sanitizers")
     o = p.parse_args()
-    if WURZEL_RECHTE and "STOERUNG_EIGENER_RAUM" not in os.environ:
-        # The small file systems of the cases are seen by this process and its children only.
+    eigener_raum = "STOERUNG_EIGENER_RAUM" in os.environ
+    if not eigener_raum and darf_einbinden():
         os.environ["STOERUNG_EIGENER_RAUM"] = "1"
-        os.execvp("unshare", ["unshare", "-m", "--propagation", "private", sys.executable, "-B", *sys.argv])
-    fehler = anzahl = ausgelassen = 0
+        os.execvp(EIGENER_RAUM[0], [*EIGENER_RAUM, sys.executable, "-B", *sys.argv])
+    fehler = anzahl = 0
+    ausgelassen = {}
     zeilen = []
     with tempfile.TemporaryDirectory(prefix="stoerung") as ort:
         os.chmod(ort, 0o755)
@@ -422,10 +435,9 @@ def main():
             zeilen += ["", f"### {gruppe}", "", "| Fall | Status | Meldung (ohne Dateiname) | Dateien danach |",
                        "|---|---|---|---|"]
             for name, tu, status, text, danach, braucht in faelle:
-                if (braucht == "root" and not WURZEL_RECHTE) or \
+                if (braucht == EINBINDEN and not eigener_raum) or \
                         (braucht == "Speichergrenze" and o.ohne_speichergrenze):
-                    print(f"ausgelassen (braucht {braucht}): {name}")
-                    ausgelassen += 1
+                    ausgelassen.setdefault(braucht, []).append(name)
                     continue
                 w = Welt(tempfile.mkdtemp(dir=ort), zarwik, sichern, os.path.abspath(o.wurzel))
                 os.chmod(w.ort, 0o755)
@@ -440,7 +452,9 @@ def main():
                 zahl = "0 oder 1" if isinstance(status, tuple) else status
                 ganz = {UNVERAENDERT: UNVERAENDERT, NEU: NEU, None: "neue Datei, ganz"}[danach]
                 zeilen.append(f"| {name} | {zahl} | {kurz(w.meldungen, status)} | {ganz} |")
-    print(f"{anzahl} Fälle, {fehler} mit Mangel, {ausgelassen} ausgelassen")
+    for braucht, namen in ausgelassen.items():
+        print(f"{len(namen)} ausgelassen, weil {braucht} fehlt: {'; '.join(namen)}")
+    print(f"{anzahl} Fälle, {fehler} mit Mangel")
     if o.schreiben:
         schreibe_tafel(os.path.join(o.wurzel, "docs/zuverlaessigkeit.md"), zeilen)
     return 1 if fehler else 0
