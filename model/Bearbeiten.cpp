@@ -1,5 +1,4 @@
 // Editing of the list: deleting, taking out and putting back, showing and hiding points, line styles.
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -9,26 +8,26 @@
 namespace zrw {
 namespace {
 
-/// Takes a node out of its list. Nothing where the list does not hold it; else the node before it, null for
-/// the head.
+/// Takes a node out of its list. @return whether the list held it
 template <class Knoten>
-std::optional<Knoten*> HaengeAus(Knoten*& kopf, const Knoten* knoten) {
-    Knoten* davor = nullptr;
+bool HaengeAus(Knoten*& kopf, const Knoten* knoten) {
     Knoten** zeiger = &kopf;
-    while (*zeiger != nullptr && *zeiger != knoten) {
-        davor = *zeiger;
-        zeiger = &davor->Next;
-    }
-    if (*zeiger == nullptr) return std::nullopt;
+    while (*zeiger != nullptr && *zeiger != knoten)
+        zeiger = &(*zeiger)->Next;
+    if (*zeiger == nullptr) return false;
     *zeiger = knoten->Next;
-    return davor;
+    return true;
 }
 
+/// Puts a node where it belongs, at `stelle` or behind it. @return the place behind it, where the next older
+/// one may go
 template <class Knoten>
-void HaengeEin(Knoten*& kopf, Knoten& knoten, Knoten* davor) {
-    Knoten*& stelle = davor != nullptr ? davor->Next : kopf;
-    knoten.Next = stelle;
-    stelle = &knoten;
+Knoten** HaengeEin(Knoten** stelle, Knoten& knoten) {
+    while (*stelle != nullptr && (*stelle)->Folge > knoten.Folge)
+        stelle = &(*stelle)->Next;
+    knoten.Next = *stelle;
+    *stelle = &knoten;
+    return &knoten.Next;
 }
 
 template <class Figur>
@@ -48,12 +47,11 @@ bool IstHilfspunkt(const PktText& text) {
 
 Herausnahme Liste::NimmHeraus(PunktKante& pk) {
     Herausnahme h;
-    const auto davor = HaengeAus(KanteKnoten, &pk);
-    if (!davor) return h;
+    if (!HaengeAus(KanteKnoten, &pk)) return h;
     index_.Ab(pk);
     suche_.kanten.Ab(pk.Folge);
     --MaxKant;
-    h.kanten.push_back({&pk, *davor, pk.Item->Visible});
+    h.kanten.push_back({&pk, pk.Item->Visible});
     return h;
 }
 
@@ -71,17 +69,18 @@ Herausnahme Liste::NimmHeraus(zrw::PunktKnoten& pp) {
         index_.Ab(*k);
         suche_.kanten.Ab(k->Folge);
         --MaxKant;
-        h.kanten.push_back({k, davor, k->Item->Visible});
+        h.kanten.push_back({k, k->Item->Visible});
     }
     if (PPunktString t = index_.FindeText(nr); t != nullptr) {
         index_.Ab(*t);
         suche_.texte.Ab(t->Folge);
-        h.text = {t, HaengeAus(PktTextKnoten, t).value_or(nullptr), t->Item->Visible};
+        HaengeAus(PktTextKnoten, t);
+        h.text = {t, t->Item->Visible};
     }
     index_.Ab(pp);
-    if (const auto vor = HaengeAus(PunktKnoten, &pp)) {
+    if (HaengeAus(PunktKnoten, &pp)) {
         --MaxPkte;
-        h.punkt = {&pp, *vor, pp.Item->Visible};
+        h.punkt = {&pp, pp.Item->Visible};
         suche_.punkte.Ab(pp.Folge);
     }
     MeldePunkt(pp);
@@ -90,25 +89,26 @@ Herausnahme Liste::NimmHeraus(zrw::PunktKnoten& pp) {
 
 void Liste::SetzeZurueck(const Herausnahme& h) {
     if (h.punkt.knoten != nullptr) {
-        HaengeEin(PunktKnoten, *h.punkt.knoten, h.punkt.davor);
+        HaengeEin(&PunktKnoten, *h.punkt.knoten);
         index_.Zurueck(*h.punkt.knoten, *PunktKnoten);
         suche_.punkte.Auf(h.punkt.knoten->Folge, suche_.gebaut);
         h.punkt.knoten->Item->Visible = h.punkt.sichtbar;
         ++MaxPkte;
     }
     if (h.text.knoten != nullptr) {
-        HaengeEin(PktTextKnoten, *h.text.knoten, h.text.davor);
+        HaengeEin(&PktTextKnoten, *h.text.knoten);
         VerdraengeText(h.text.knoten->TNr);
         index_.Zurueck(*h.text.knoten, *PktTextKnoten);
         suche_.texte.Auf(h.text.knoten->Folge, suche_.gebaut);
         h.text.knoten->Item->Visible = h.text.sichtbar;
     }
-    // The last that left had the fewest before it.
-    for (auto k = h.kanten.rbegin(); k != h.kanten.rend(); ++k) {
-        HaengeEin(KanteKnoten, *k->knoten, k->davor);
-        index_.Zurueck(*k->knoten, *KanteKnoten);
-        suche_.kanten.Auf(k->knoten->Folge, suche_.gebaut);
-        k->knoten->Item->Visible = k->sichtbar;
+    // One walk for all lines, as when they left.
+    PPunktKante* stelle = &KanteKnoten;
+    for (const auto& k : h.kanten) {
+        stelle = HaengeEin(stelle, *k.knoten);
+        index_.Zurueck(*k.knoten, *KanteKnoten);
+        suche_.kanten.Auf(k.knoten->Folge, suche_.gebaut);
+        k.knoten->Item->Visible = k.sichtbar;
         ++MaxKant;
     }
     suche_.lage.frisch = false;

@@ -155,8 +155,8 @@ class Liste {
     void Versetze(zrw::PunktKnoten& p, Welt ort);
     void Versetze(PunktString& t, Bildpunkt abstand);
     /// Takes a line, or a point with its lines and its label, out of the lists and counts down. Draws
-    /// nothing. The figures live on in the arena, so `SetzeZurueck` can put them back in their places as long
-    /// as the lists are then as they were left. A figure that is in no list is not taken.
+    /// nothing. The figures live on in the arena, so `SetzeZurueck` can put them back in their places. A
+    /// figure that is in no list is not taken.
     Herausnahme NimmHeraus(PunktKante& pk);
     Herausnahme NimmHeraus(zrw::PunktKnoten& pp);
     void SetzeZurueck(const Herausnahme& h);

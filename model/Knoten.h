@@ -68,19 +68,18 @@ struct Figurenmenge {
     [[nodiscard]] std::size_t Anzahl() const { return punkte.size() + kanten.size() + texte.size(); }
 };
 
-/// Where a figure stood that was taken out of its list.
+/// A figure that was taken out of its list. Its `Folge` tells where it belongs.
 template <class Knoten>
 struct Platz {
     Knoten* knoten = nullptr;
-    Knoten* davor = nullptr;  ///< null: it was the head
     bool sichtbar = false;
 };
 
-/// Figures that were taken out together, with their places.
+/// Figures that were taken out together.
 struct Herausnahme {
     Platz<PunktKnoten> punkt;
     Platz<PunktString> text;
-    std::vector<Platz<PunktKante>> kanten;  ///< in the order of leaving
+    std::vector<Platz<PunktKante>> kanten;  ///< newest first
 };
 
 }  // namespace zrw
