@@ -10,6 +10,7 @@
 #include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
 #include "output/Export.h"
+#include "output/Residuenbild.h"
 #include "ui/Einstellungsablage.h"
 #include "ui/Schalter.h"
 #include "ui/Umwandlung.h"
@@ -49,22 +50,27 @@ void SetzeGroesse(const Aufruf& aufruf, Liste& liste) {
     liste.Hoehe = g.hoehe;
 }
 
+/// @return whether none is about a table that could not be read
+bool Melde(const std::vector<Tabellenmeldung>& meldungen) {
+    bool lesbar = true;
+    for (const Tabellenmeldung& m : meldungen) {
+        Drucke(m.text);
+        lesbar = lesbar && !m.unlesbar;
+    }
+    return lesbar;
+}
+
 /// Tables beside the control file mark its observations; a picture file carries its marks.
-void WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Einstellungen& einstellungen) {
+/// @return whether all tables that are there could be read
+bool WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Einstellungen& einstellungen) {
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     std::error_code fehler;
     daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).parent_path());
-    if (IstBilddatei(datei)) {
-        const Einstellungsablage eigene;
-        if (const auto f = eigene.Lesefehler()) throw *f;
-        if (const auto alias = TavelinOrdner(eigene)) daten.SetzeOrdner(*alias);
-        return;
-    }
-    for (const std::string& text : MarkiereFehler(liste, daten, einstellungen))
-        Drucke(text);
+    return IstBilddatei(datei) || Melde(MarkiereFehler(liste, daten, einstellungen));
 }
 
-void Exportiere(const Aufruf& aufruf) {
+/// @return whether nothing was missing
+bool Exportiere(const Aufruf& aufruf) {
     const Einstellungen einstellungen = LadeEinstellungen(aufruf);
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     Systemdateien dateien;
@@ -75,7 +81,7 @@ void Exportiere(const Aufruf& aufruf) {
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, lesung, zustand);
     TDM daten(dateien);
-    WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
+    bool ganz = WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
     zustand.Ergebnisse = &daten;
     // The legend names the scale of the print, as in the window.
     lesung.liste->Legend->Masstab = aufruf.massstab;
@@ -103,7 +109,12 @@ void Exportiere(const Aufruf& aufruf) {
         if (ziel.empty()) (ziel = datei.stem()) += TextPfad(format.endung);
         format.schreibe(ausgabe, ordner / ziel);
     }
-    if (const std::string meldung = daten.NimmMeldung(); !meldung.empty()) Drucke(meldung);
+    if (ZeigtErgebnisse(*lesung.liste)) {
+        const std::string massstab = Massstabhinweis(einstellungen.ResMF);
+        if (!massstab.empty()) Drucke(massstab);
+    }
+    ganz = Melde(daten.NimmMeldungen()) && ganz;
+    return ganz;
 }
 
 }  // namespace
@@ -122,8 +133,7 @@ void Drucke(const std::string& text) {
 
 int FuehreStapelAus(const Aufruf& aufruf) {
     try {
-        Exportiere(aufruf);
-        return 0;
+        return Exportiere(aufruf) ? 0 : 1;
     } catch (const std::exception& f) {
         Drucke(Fehlertext(f));
         return 1;

@@ -80,7 +80,7 @@ void Pruefe(Tabelle tabelle, std::string_view bytes) {
         daten.Erneuere();
         for (const char* nummer : {"A", "B", "", "14 Zeichen lang"})
             (void)daten.Zu(nummer);
-        (void)daten.NimmMeldung();
+        (void)daten.NimmMeldungen();
     }
     fuzz::PruefeListe(liste);
     fuzz::PruefeNetz(liste);

@@ -94,6 +94,13 @@ Teilung WaehleTeilung(double pixel) {
 
 }  // namespace
 
+std::string Massstabhinweis(double resMF) {
+    if (resMF == 0.0) return "Mit dem Residuenmaßstab 0 lässt sich nichts zeichnen.";
+    return resMF < 0.0 ? "Der Residuenmaßstab ist kleiner als 0: Verbesserungen zeigen in die Gegenrichtung, "
+                         "der Maßstabsbalken fehlt."
+                       : "";
+}
+
 Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& einstellungen,
                            const Liste& liste)
     : flaeche_(*zustand.flaeche),
@@ -208,8 +215,7 @@ void Residuenbild::Schreibe(Bildpunkt ort, std::string_view text) const {
 }
 
 void Residuenbild::DrawResMasstab() const {
-    if (!liste_.ShowLgRes && !liste_.ShowHRes && !liste_.ShowLGGen && !liste_.LGGenOn && !liste_.ShowHGen)
-        return;
+    if (!ZeigtErgebnisse(liste_)) return;
     // On the screen, whatever the device: paper has the same numbers.
     const double pixel = kTeile * kMillimeter * einstellungen_.ResMF;
     if (!(pixel > 0.0) || !std::isfinite(pixel)) return;

@@ -17,6 +17,13 @@
 
 namespace zrw {
 
+/// Whether any of the overlays is on, with the scale bar that comes with them.
+[[nodiscard]] inline bool ZeigtErgebnisse(const Liste& l) {
+    return l.ShowLgRes || l.ShowHRes || l.ShowLGGen || l.LGGenOn || l.ShowHGen;
+}
+/// What the user should know of a residual scale, UTF-8; empty for a usual one.
+[[nodiscard]] std::string Massstabhinweis(double resMF);
+
 class Residuenbild {
   public:
     /// @param zustand its surface must be there

@@ -2,15 +2,13 @@
 
 #include <cstdlib>
 
+#include "output/Residuenbild.h"
+
 namespace zrw {
 namespace {
 
 /// More are drawn faster with all others.
 constexpr std::size_t kMeisteFiguren = 5000;
-
-bool ZeigtErgebnisse(const Liste& l) {
-    return l.ShowLgRes || l.ShowHRes || l.ShowLGGen || l.LGGenOn || l.ShowHGen;
-}
 
 }  // namespace
 

@@ -52,12 +52,11 @@ QString Angaben(const Liste& netz, const PunktKante& k) {
 
 }  // namespace
 
-Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, QWidget* eltern,
-                                 std::function<void(const std::exception&)> zeigeFehler)
-    : programm_(programm),
-      fenster_(new TFormData(programm.sitzung, eltern)),
-      zeigeFehler_(std::move(zeigeFehler)) {
+Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, QWidget* eltern)
+    : programm_(programm), fenster_(new TFormData(programm.sitzung, eltern)) {
     fenster_->reiterGewechselt = [this] { FuelleReiter(); };
+    // Until a file is opened, beside which they are looked for.
+    if (const auto alias = TavelinOrdner(programm_.ablage)) programm_.daten.SetzeOrdner(*alias);
 }
 
 Ergebnisanzeige::~Ergebnisanzeige() {
@@ -70,12 +69,14 @@ void Ergebnisanzeige::Vergiss() {
     zweiter_.reset();
 }
 
-void Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
+bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
     std::error_code fehler;
-    const std::filesystem::path eigener = std::filesystem::absolute(datei, fehler).parent_path();
-    const auto alias = TavelinOrdner(programm_.ablage);
-    programm_.daten.SetzeOrdner(IstBilddatei(datei) && alias ? *alias : eigener);
+    const std::filesystem::path vorher = programm_.daten.Ordner();
+    programm_.daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).lexically_normal().parent_path());
     programm_.zustand.Ergebnisse = &programm_.daten;
+    if (programm_.daten.Ordner() == vorher) return false;
+    if (fenster_->isVisible()) FuelleReiter();
+    return true;
 }
 
 bool Ergebnisanzeige::Vorhanden() const {
@@ -119,25 +120,30 @@ void Ergebnisanzeige::FuelleReiter() {
             b ? Abfragetext(reiter.kante, NachUtf8(a), NachUtf8(*b)) : Abfragetext(reiter.punkt, NachUtf8(a));
         fenster_->Fuelle(programm_.daten.Frage(reiter.tabelle, abfrage));
     } catch (const std::exception& f) {
-        fenster_->Leere(AusUtf8(reiter.datei) + QStringLiteral(" ist nicht lesbar"));
-        zeigeFehler_(f);
+        fenster_->Leere(AusUtf8(Fehlertext(f)));
     }
     MeldeTabellen();
 }
 
 void Ergebnisanzeige::MarkiereFehler(Liste& netz) {
+    Melde(zrw::MarkiereFehler(netz, programm_.daten, programm_.einstellungen));
+}
+
+/// Later, outside whatever goes on: a box would let the next drawing in.
+void Ergebnisanzeige::Melde(const std::vector<Tabellenmeldung>& meldungen) {
+    if (meldungen.empty()) return;
     QStringList texte;
-    for (const std::string& text : zrw::MarkiereFehler(netz, programm_.daten, programm_.einstellungen))
-        texte << AusUtf8(text);
-    if (!texte.isEmpty()) programm_.dialoge.Melde(texte.join(QLatin1Char('\n')));
+    for (const Tabellenmeldung& m : meldungen)
+        texte << AusUtf8(m.text);
+    // The dialog service outlives the window of the results, with which the call goes.
+    QMetaObject::invokeMethod(
+        fenster_,
+        [&dialoge = programm_.dialoge, text = texte.join(QLatin1Char('\n'))] { dialoge.Melde(text); },
+        Qt::QueuedConnection);
 }
 
 void Ergebnisanzeige::MeldeTabellen() {
-    const QString meldung = AusUtf8(programm_.daten.NimmMeldung());
-    if (meldung.isEmpty()) return;
-    // The dialog service outlives the window of the results, with which the call goes.
-    QMetaObject::invokeMethod(
-        fenster_, [&dialoge = programm_.dialoge, meldung] { dialoge.Melde(meldung); }, Qt::QueuedConnection);
+    Melde(programm_.daten.NimmMeldungen());
 }
 
 }  // namespace zrw

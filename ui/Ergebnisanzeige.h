@@ -3,10 +3,9 @@
 #pragma once
 
 #include <QString>
-#include <exception>
 #include <filesystem>
-#include <functional>
 #include <optional>
+#include <vector>
 
 #include "model/FigListe.h"
 #include "ui/Programm.h"
@@ -21,9 +20,7 @@ class Ergebnisanzeige {
   public:
     /// @param programm must outlive it
     /// @param eltern owns the window of the results
-    Ergebnisanzeige(const Programm& programm, QWidget* eltern,
-                    std::function<void(const std::exception&)> zeigeFehler);
-
+    Ergebnisanzeige(const Programm& programm, QWidget* eltern);
     ~Ergebnisanzeige();
     Ergebnisanzeige(const Ergebnisanzeige&) = delete;
     Ergebnisanzeige& operator=(const Ergebnisanzeige&) = delete;
@@ -31,25 +28,24 @@ class Ergebnisanzeige {
     [[nodiscard]] TFormData& Fenster() { return *fenster_; }
     /// The network is about to be replaced.
     void Vergiss();
-    /// Results lie beside the control file; for a picture file where the alias points to, if there is one.
-    void WaehleOrdner(const std::filesystem::path& datei);
+    /// Results lie beside the file that was opened or saved last. @return whether that is another folder now
+    bool WaehleOrdner(const std::filesystem::path& datei);
     /// Whether any table lies beside the network.
     [[nodiscard]] bool Vorhanden() const;
 
     void ListeAuf(const Liste& netz, const PunktKnoten& punkt);
     void ListeAuf(const Liste& netz, const PunktKante& kante);
-    /// Tells what the tables say about errors, and marks it in the network.
+    /// Marks in the network what the tables say about errors.
     void MarkiereFehler(Liste& netz);
-    /// What reading the tables had to say. Later, outside whatever goes on: a box would let the next drawing
-    /// in.
+    /// What reading the tables had to say.
     void MeldeTabellen();
 
   private:
     void FuelleReiter();
+    void Melde(const std::vector<Tabellenmeldung>& meldungen);
 
     const Programm& programm_;
     TFormData* fenster_;
-    std::function<void(const std::exception&)> zeigeFehler_;
     QString aufgelistet_;             ///< number of what the results are of, of a line its first point
     std::optional<QString> zweiter_;  ///< the second point of a line
 };

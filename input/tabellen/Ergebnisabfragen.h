@@ -54,22 +54,23 @@ struct Fehlersuche {
     std::string_view abfrage;
     std::string_view von;
     std::string_view nach;
+    std::string_view flag;
 };
 
 inline constexpr std::array<Fehlersuche, 6> kFehlersuchen{{
     {Tabelle::Strecken, "STRTable.DB", "SELECT * from STRTABLE WHERE (STRTABLE.FF = True) order by ID", "P1",
-     "P2"},
+     "P2", "FF"},
     // Directions are marked only beside distances: the guard is the distances' file.
     {Tabelle::Richtungen, "STRTable.DB", "SELECT * from RTGTABLE WHERE (RTGTABLE.FF = True) order by ID",
-     "PS", "PZ"},
+     "PS", "PZ", "FF"},
     {Tabelle::Hoehenunterschiede, "DHTable.DB", "SELECT * from DHTABLE WHERE (DHTABLE.FF = True) order by ID",
-     "P1", "P2"},
-    {Tabelle::Gps, "GPSTable.DB", "SELECT * from GPSTABLE WHERE (GPSTABLE.FF = True) order by ID", "P1",
-     "P2"},
+     "P1", "P2", "FF"},
+    {Tabelle::Gps, "GPSTable.DB", "SELECT * from GPSTABLE WHERE (GPSTABLE.FF = True) order by ID", "P1", "P2",
+     "FF"},
     {Tabelle::Streckenkontrollen, "STRKTRTable.DB",
-     "SELECT * from STRKTRTABLE WHERE (STRKTRTABLE.GF = True) order by ID", "P1", "P2"},
-    {Tabelle::Linien, "MLTable.DB", "SELECT * from MLTABLE WHERE (MLTABLE.GF = True) order by ID", "PA",
-     "PE"},
+     "SELECT * from STRKTRTABLE WHERE (STRKTRTABLE.GF = True) order by ID", "P1", "P2", "GF"},
+    {Tabelle::Linien, "MLTable.DB", "SELECT * from MLTABLE WHERE (MLTABLE.GF = True) order by ID", "PA", "PE",
+     "GF"},
 }};
 
 /// The query with the point numbers (UTF-8) in their places; quote marks in them are doubled, so that a

@@ -1,6 +1,7 @@
 #include "input/tabellen/MarkiereFehler.h"
 
 #include <algorithm>
+#include <array>
 
 #include "input/tabellen/Ergebnisabfragen.h"
 #include "model/Cp1252.h"
@@ -19,12 +20,19 @@ PunktIndex Punktnummer(const Liste& liste, const Antwort& antwort, const std::ve
 
 }  // namespace
 
-std::vector<std::string> MarkiereFehler(Liste& liste, TDM& daten, const Einstellungen& einstellungen) {
-    std::vector<std::string> meldungen;
+std::vector<Tabellenmeldung> MarkiereFehler(Liste& liste, TDM& daten, const Einstellungen& einstellungen) {
+    std::vector<Tabellenmeldung> meldungen;
     for (const Fehlersuche& s : kFehlersuchen) {
         const std::string eigene = std::string(Beschreibung(s.tabelle).name) + ".DB";
         if (!daten.Vorhanden(s.datei) || !daten.Vorhanden(eigene)) continue;
         try {
+            const TDM::Mangel mangel =
+                daten.Pruefe(s.tabelle, std::array<std::string_view, 4>{"ID", s.von, s.nach, s.flag});
+            const bool fehlt = !mangel.fehlende.empty();
+            if (!mangel.text.empty())
+                meldungen.push_back({mangel.text + (fehlt ? " Ihre groben Fehler bleiben unmarkiert."
+                                                          : " Grobe Fehler können unmarkiert bleiben.")});
+            if (fehlt) continue;
             const Antwort antwort = daten.Frage(s.tabelle, s.abfrage);
             for (const auto& zeile : antwort.zeilen) {
                 const PPunktKante kante = liste.FindKante(Punktnummer(liste, antwort, zeile, s.von),
@@ -32,7 +40,7 @@ std::vector<std::string> MarkiereFehler(Liste& liste, TDM& daten, const Einstell
                 if (kante != nullptr) kante->Item->Farbe = einstellungen.GFCol;
             }
         } catch (const Fehler& f) {
-            meldungen.emplace_back(f.what());
+            meldungen.push_back({f.what(), true});
         }
     }
     return meldungen;

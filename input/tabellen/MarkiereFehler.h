@@ -11,7 +11,7 @@ namespace zrw {
 
 /// Six passes over the flagged rows of the tables. Draws nothing. Rows whose points have no line between them
 /// change nothing.
-/// @return what went wrong, one text per table; the other tables are marked all the same
-std::vector<std::string> MarkiereFehler(Liste& liste, TDM& daten, const Einstellungen& einstellungen);
+/// @return what went wrong, one message per table; the other tables are marked all the same
+std::vector<Tabellenmeldung> MarkiereFehler(Liste& liste, TDM& daten, const Einstellungen& einstellungen);
 
 }  // namespace zrw

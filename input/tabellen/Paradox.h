@@ -40,7 +40,7 @@ struct Feld {
 
 /// Content of one field. monostate: null, and the fields whose content is skipped: blobs, BCD, raw bytes.
 /// Whole numbers, dates (day number, 1 January of year 1 is 1) and times (ms since midnight) are integers;
-/// time stamps are ms since day 0 as a real. Reals are finite. Text is UTF-8 with its trailing blanks, never
+/// time stamps are ms since day 0 as a real. Reals are finite. Text is UTF-8 without trailing blanks, never
 /// empty: that is null.
 using Wert = std::variant<std::monostate, std::int64_t, double, bool, std::string_view>;
 

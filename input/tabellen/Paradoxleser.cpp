@@ -267,14 +267,15 @@ void Leser::LiesSatz(const char* satz, std::vector<Wert>& zeile, std::string& pu
 }
 
 Wert Leser::LiesText(std::string_view bytes, std::string& puffer) const {
-    bool ascii = true;
-    std::size_t laenge = 0;
-    for (; laenge < bytes.size() && bytes[laenge] != 0; ++laenge)
-        ascii = ascii && static_cast<std::uint8_t>(bytes[laenge]) < 0x80;
-    if (laenge == 0) return {};
-    if (ascii) return bytes.substr(0, laenge);
+    bytes = bytes.substr(0, bytes.find('\0'));
+    // Programs that fill their fields with blanks mean the same numbers.
+    bytes = bytes.substr(0, bytes.find_last_not_of(' ') + 1);
+    if (bytes.empty()) return {};
+    const bool ascii =
+        std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<std::uint8_t>(c) < 0x80; });
+    if (ascii) return bytes;
     const std::size_t anfang = puffer.size();
-    codeseite_.HaengeAn(puffer, bytes.substr(0, laenge));
+    codeseite_.HaengeAn(puffer, bytes);
     return std::string_view(puffer).substr(anfang);
 }
 

@@ -65,6 +65,21 @@ void Nimm(const Zelle& zelle, double& zahl) {
     if (const auto* real = std::get_if<double>(&zelle)) zahl = *real;
 }
 
+/// What drawing results takes, and then the coordinates, which other programs are given.
+constexpr std::size_t kZuZeichnende = 9;
+constexpr std::array<std::string_view, 12> kPunktfelder{"PKT", "dY", "dX", "dH", "A", "B",
+                                                        "Phi", "mH", "mL", "X",  "Y", "H"};
+
+/// What a field holds, for the user; fields of one kind may stand for each other.
+std::string_view Feldart(paradox::Feldtyp typ) {
+    using T = paradox::Feldtyp;
+    constexpr std::array kZahlen{T::Kurz, T::Lang, T::Zaehler, T::Waehrung, T::Zahl};
+    if (typ == T::Alpha) return "Text";
+    if (typ == T::Logisch) return "Ja/Nein";
+    if (typ == T::Zeitpunkt) return "Zeitpunkt";
+    return std::find(kZahlen.begin(), kZahlen.end(), typ) != kZahlen.end() ? "Zahl" : "andere Art";
+}
+
 std::size_t Nummer(Tabelle t) {
     return static_cast<std::size_t>(t);
 }
@@ -82,6 +97,7 @@ void TDM::SetzeOrdner(std::filesystem::path ordner) {
     punkte_ = {};
     punktestand_.reset();
     gemeldet_.reset();
+    vergeblich_ = false;
 }
 
 bool TDM::Vorhanden(std::string_view datei) const {
@@ -106,7 +122,7 @@ bool TDM::Aktualisiere(Tabelle tabelle) {
         Importiere(tabelle, *datei, *jetzt);
     } catch (const Fehler& f) {
         if (!stand) throw;
-        meldung_ = std::string(f.what()) + " Es gelten die zuletzt gelesenen Werte.";
+        meldungen_.push_back({std::string(f.what()) + " Es gelten die zuletzt gelesenen Werte.", true});
         // What may only be locked is tried again.
         if (dynamic_cast<const Oeffnungsfehler*>(&f) == nullptr) stand->gescheitert = jetzt;
     }
@@ -120,13 +136,39 @@ void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const 
     if (dateien_.Stand(datei) != stand)
         throw Fehler("Die Tabelle wird gerade geschrieben. Bitte später noch einmal versuchen.", name);
     const paradox::Leser leser(inhalt, name);
-    if (!leser.Warnung().empty()) meldung_ = Fehler::Meldung(leser.Warnung(), name, 0);
+    if (!leser.Warnung().empty()) meldungen_.push_back({Fehler::Meldung(leser.Warnung(), name, 0)});
     std::vector<std::string> spalten;
     for (const paradox::Feld& f : leser.Felder())
         spalten.push_back(f.name);
     datenbank_.Ersetze(Beschreibung(tabelle).name, spalten, kSuchfelder,
                        [&](const Datenbank::Zeilenziel& ziel) { leser.FuerJedeZeile(ziel); });
-    staende_[Nummer(tabelle)] = Stand{datei, stand, std::move(spalten), {}};
+    staende_[Nummer(tabelle)] = Stand{datei, stand, leser.Felder(), {}};
+}
+
+TDM::Mangel TDM::Pruefe(Tabelle tabelle, std::span<const std::string_view> felder) {
+    const Ergebnistabelle& t = Beschreibung(tabelle);
+    if (!Aktualisiere(tabelle)) throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(t.name) + ".DB");
+    const Stand& stand = *staende_[Nummer(tabelle)];
+    Mangel mangel;
+    std::string fehlende;
+    std::string andere;
+    for (const std::string_view name : felder) {
+        const auto gleich = [&](const auto& f) { return GleichesFeld(f.name, name); };
+        const auto ist = std::find_if(stand.felder.begin(), stand.felder.end(), gleich);
+        const auto soll = std::find_if(t.felder.begin(), t.felder.end(), gleich);
+        if (ist == stand.felder.end()) {
+            mangel.fehlende.push_back(name);
+            fehlende += (fehlende.empty() ? "" : ", ") + std::string(name);
+        } else if (Feldart(ist->typ) != Feldart(soll->typ)) {
+            andere += (andere.empty() ? "" : ", ") + std::string(name) + " (" +
+                      std::string(Feldart(ist->typ)) + " statt " + std::string(Feldart(soll->typ)) + ")";
+        }
+    }
+    if (!fehlende.empty()) mangel.text = " Der Tabelle fehlt: " + fehlende + ".";
+    if (!andere.empty()) mangel.text += " Anders als erwartet ist: " + andere + ".";
+    if (!mangel.text.empty())
+        mangel.text = Fehler::Meldung(mangel.text.substr(1), PfadText(stand.datei.filename()), 0);
+    return mangel;
 }
 
 Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
@@ -143,7 +185,7 @@ Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
     return antwort;
 }
 
-TDM::Punkttafel TDM::LiesPunkte() const {
+TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) const {
     static constexpr std::array<std::pair<std::string_view, double Punktergebnis::*>, 11> kFelder{{
         {"dY", &Punktergebnis::dY},
         {"dX", &Punktergebnis::dX},
@@ -162,10 +204,13 @@ TDM::Punkttafel TDM::LiesPunkte() const {
     // One walk over the table in place of one query a point: the first row of a number is what that would
     // give.
     std::string abfrage = "SELECT KOOTABLE.PKT";
-    const auto& spalten = staende_[Nummer(Tabelle::Koordinaten)]->spalten;
-    for (const auto& [feld, ziel] : kFelder)
-        abfrage += Stelle(spalten, feld) < spalten.size() ? ",KOOTABLE." + std::string(feld) : ",NULL";
+    const auto fehlt = [&](std::string_view feld) {
+        return std::find(fehlende.begin(), fehlende.end(), feld) != fehlende.end();
+    };
     Punkttafel tafel;
+    if (fehlt("PKT")) return tafel;
+    for (const auto& [feld, ziel] : kFelder)
+        abfrage += fehlt(feld) ? ",NULL" : ",KOOTABLE." + std::string(feld);
     std::vector<PunktNummernTyp> nummern;
     datenbank_.FuerJedeZeile(abfrage + " from KOOTABLE order by rowid", [&](std::span<const Zelle> zeile) {
         const auto* text = std::get_if<std::string>(&zeile.front());
@@ -195,15 +240,19 @@ void TDM::Erneuere() {
         punktestand_.reset();
         return;
     }
-    if (punktestand_ == jetzt) return;
+    // What cannot be read is not read again at each drawing; what may only be locked is tried.
+    if (punktestand_ == jetzt || (gemeldet_ == jetzt && vergeblich_)) return;
     try {
-        Aktualisiere(Tabelle::Koordinaten);
-        punkte_ = LiesPunkte();
+        punkte_ = LiesPunkte(Pruefe(Tabelle::Koordinaten, kPunktfelder).fehlende);
+        const std::span zuZeichnende = std::span(kPunktfelder).first(kZuZeichnende);
+        if (const Mangel mangel = Pruefe(Tabelle::Koordinaten, zuZeichnende); !mangel.text.empty())
+            meldungen_.push_back({mangel.text + " Gezeichnet wird, was sich lesen lässt."});
         punktestand_ = jetzt;
         gemeldet_.reset();
     } catch (const Fehler& f) {
-        if (meldung_.empty() && gemeldet_ != jetzt) meldung_ = f.what();
+        if (gemeldet_ != jetzt) meldungen_.push_back({f.what(), true});
         gemeldet_ = jetzt;
+        vergeblich_ = dynamic_cast<const Oeffnungsfehler*>(&f) == nullptr;
     }
 }
 
@@ -211,8 +260,8 @@ const Punktergebnis* TDM::Zu(std::string_view nummer) const {
     return punkte_.zu.Finde(PunktNummernTyp(nummer));
 }
 
-std::string TDM::NimmMeldung() {
-    return std::exchange(meldung_, {});
+std::vector<Tabellenmeldung> TDM::NimmMeldungen() {
+    return std::exchange(meldungen_, {});
 }
 
 void ErzeugeTabelle(Dateien& dateien, const std::filesystem::path& ordner, Tabelle tabelle,

@@ -5,6 +5,7 @@
 #include <array>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,12 @@
 #include "model/Werte.h"
 
 namespace zrw {
+
+/// Something to tell the user about a table.
+struct Tabellenmeldung {
+    std::string text;
+    bool unlesbar = false;  ///< the table is there and was asked for, but could not be read
+};
 
 class TDM final : public Punktergebnisse {
   public:
@@ -31,23 +38,31 @@ class TDM final : public Punktergebnisse {
 
     /// Rows of a query over one table, its fields first and in their order, further ones of the file behind
     /// them; missing fields are null.
-    /// Where the table has become unreadable, what was read before answers, and `NimmMeldung` tells it.
+    /// Where the table has become unreadable, what was read before answers, and `NimmMeldungen` tells it.
     /// @throws Fehler where the table is missing, was never readable or lacks a field of the query
     [[nodiscard]] Antwort Frage(Tabelle tabelle, std::string_view abfrage);
 
-    /// Failures are kept for `NimmMeldung`, once for each state of the file; the old results then stay.
+    /// What is wrong with the fields that a purpose needs: those that are missing and those that hold
+    /// something other than their description says. Empty: nothing. @throws Fehler as `Frage`
+    struct Mangel {
+        std::vector<std::string_view> fehlende;
+        std::string text;
+    };
+    [[nodiscard]] Mangel Pruefe(Tabelle tabelle, std::span<const std::string_view> felder);
+
+    /// Failures are kept for `NimmMeldungen`, once for each state of the file; the old results then stay.
     void Erneuere() override;
     [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override;
-    /// What went wrong with a table that had been read before, or looked wrong in one, since the last call;
-    /// else empty.
-    [[nodiscard]] std::string NimmMeldung();
+    /// What there is to tell since the last call: tables that became unreadable, looked wrong or lack what
+    /// drawing needs.
+    [[nodiscard]] std::vector<Tabellenmeldung> NimmMeldungen();
 
   private:
     /// What has been imported of one table.
     struct Stand {
         std::filesystem::path datei;
         Dateistand stand;
-        std::vector<std::string> spalten;
+        std::vector<paradox::Feld> felder;
         std::optional<Dateistand> gescheitert;  ///< later state that could not be read
     };
     /// Results and the way to them: a picture asks once for every point.
@@ -68,7 +83,7 @@ class TDM final : public Punktergebnisse {
     /// Brings the database to the state of the file. @return whether there is one
     bool Aktualisiere(Tabelle tabelle);
     void Importiere(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand);
-    [[nodiscard]] Punkttafel LiesPunkte() const;
+    [[nodiscard]] Punkttafel LiesPunkte(const std::vector<std::string_view>& fehlende) const;
 
     const Dateien& dateien_;
     std::filesystem::path ordner_;
@@ -77,7 +92,8 @@ class TDM final : public Punktergebnisse {
     Punkttafel punkte_;
     std::optional<Dateistand> punktestand_;  ///< of the coordinates that `punkte_` came from
     std::optional<Dateistand> gemeldet_;     ///< state that failed and has been told
-    std::string meldung_;
+    bool vergeblich_ = false;                ///< that state would fail again
+    std::vector<Tabellenmeldung> meldungen_;
 };
 
 /// Makes one table with its index; what was there under its name is replaced. @param zeilen one value per

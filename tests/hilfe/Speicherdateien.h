@@ -19,9 +19,11 @@ class Speicherdateien final : public Dateien {
   public:
     std::map<std::string, std::string> dateien;  ///< normal UTF-8 path -> bytes
     std::size_t platz = SIZE_MAX;                ///< bytes that can be written before the disk is full
+    mutable int gelesen = 0;                     ///< how often a file was read
     bool eng = false;                            ///< no memory to read a file into
 
     [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
+        ++gelesen;
         if (eng) throw std::bad_alloc();
         const auto stelle = dateien.find(Schluessel(datei));
         if (stelle == dateien.end())

@@ -19,6 +19,7 @@
 namespace zrw {
 namespace {
 
+using paradox::Feldtyp;
 using paradox::Wert;
 using Namen = std::vector<std::pair<std::string, std::string>>;
 
@@ -51,6 +52,13 @@ class Ergebnisse : public testing::Test {
              daten.Frage(r.tabelle, Abfragetext(b.empty() ? r.punkt : r.kante, a, b)).zeilen)
             ids.push_back(std::get<std::int64_t>(zeile[0]));
         return ids;
+    }
+
+    std::string Meldungen() {
+        std::string texte;
+        for (const Tabellenmeldung& m : daten.NimmMeldungen())
+            texte += (m.unlesbar ? "unlesbar " : "") + m.text + "\n";
+        return texte;
     }
 
     Speicherdateien dateien;
@@ -121,7 +129,6 @@ TEST_F(Ergebnisse, AuflistungenAllerReiter) {
 
 TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
     // Other order, one field less (H), one more, one in another case.
-    using paradox::Feldtyp;
     const std::vector<paradox::Feld> felder{{"ID", Feldtyp::Lang, 4},
                                             {"x", Feldtyp::Zahl, 8},
                                             {"PKT", Feldtyp::Alpha, 14},
@@ -160,28 +167,35 @@ TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
     EXPECT_EQ(daten.Zu("A")->dY, 3.0) << "the first row of a number";
     EXPECT_EQ(daten.Zu("K\xDC")->A, 5.0) << "labels are code page 1252";
     EXPECT_EQ(daten.Zu("B"), nullptr);
-    EXPECT_EQ(daten.NimmMeldung(), "");
+    EXPECT_EQ(Meldungen(), "");
 
     std::string& db = dateien.dateien["netz/KooTABLE.DB"];
     const std::string heil = db;
     db[paradox::kCodeseite] = '\x62';  // 866, Cyrillic
     db[paradox::kCodeseite + 1] = '\x03';
     daten.Erneuere();
-    EXPECT_TRUE(daten.NimmMeldung().starts_with("KooTABLE.DB: ")) << "a warning about the whole table";
+    EXPECT_TRUE(Meldungen().starts_with("KooTABLE.DB: ")) << "a warning about the whole table";
     db = heil;
     daten.Erneuere();
     db.resize(2100);
     daten.Erneuere();
     EXPECT_EQ(daten.Zu("A")->dY, 3.0);
-    EXPECT_NE(daten.NimmMeldung().find("KooTABLE.DB"), std::string::npos);
+    EXPECT_NE(Meldungen().find("KooTABLE.DB"), std::string::npos);
     daten.Erneuere();
-    EXPECT_EQ(daten.NimmMeldung(), "") << "told once for each state of the file";
+    EXPECT_EQ(Meldungen(), "") << "told once for each state of the file";
     EXPECT_EQ(Ids(kErgebnisreiter[0], "A").size(), 2U) << "the rows that were read before";
-    EXPECT_EQ(daten.NimmMeldung(), "");
+    EXPECT_EQ(Meldungen(), "");
     TDM neu{dateien};
     neu.SetzeOrdner("netz");
     EXPECT_THROW(static_cast<void>(neu.Frage(Tabelle::Koordinaten, kErgebnistabellen[4].alles)), Fehler)
         << "nothing was read before";
+    neu.Erneuere();
+    const int gelesen = dateien.gelesen;
+    neu.Erneuere();
+    EXPECT_EQ(dateien.gelesen, gelesen) << "nor is it read again at each drawing";
+    const auto meldungen = neu.NimmMeldungen();
+    ASSERT_EQ(meldungen.size(), 1U);
+    EXPECT_TRUE(meldungen[0].unlesbar);
 
     Lege(Tabelle::Koordinaten, {{{"PKT", "A"}, {"dY", 9.0}}});
     daten.Erneuere();
@@ -236,8 +250,43 @@ TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
     neu.SetzeOrdner("netz");
     const auto meldungen = MarkiereFehler(n.l, neu, n.e);
     ASSERT_EQ(meldungen.size(), 1U);
-    EXPECT_NE(meldungen[0].find("DHTABLE.DB"), std::string::npos);
+    EXPECT_TRUE(meldungen[0].text.starts_with("DHTABLE.DB: ") && meldungen[0].unlesbar);
     EXPECT_EQ(marken(), (std::set{1, 4, 5, 6})) << "the other tables mark all the same";
+}
+
+// Silence would look like a network without gross errors.
+TEST_F(Ergebnisse, FelderDieFehlenOderAnderesEnthaltenWerdenGenannt) {
+    const auto lege = [&](const char* name, const std::vector<paradox::Feld>& felder) {
+        dateien.dateien[std::string("netz/") + name + ".DB"] = paradox::Schreibe(name, felder, {}, 0).db;
+    };
+    lege("STRTABLE", {{"ID", Feldtyp::Lang, 4}, {"P1", Feldtyp::Alpha, 14}, {"ST", Feldtyp::Zahl, 8}});
+    lege("DHTABLE", {{"ID", Feldtyp::Lang, 4},
+                     {"P1", Feldtyp::Zahl, 8},
+                     {"P2", Feldtyp::Alpha, 9},
+                     {"FF", Feldtyp::Lang, 4}});
+    lege("KooTABLE", {{"ID", Feldtyp::Lang, 4},
+                      {"PKT", Feldtyp::Alpha, 14},
+                      {"dy", Feldtyp::Lang, 4},
+                      {"dX", Feldtyp::Alpha, 8},
+                      {"dH", Feldtyp::Zahl, 8},
+                      {"A", Feldtyp::Zahl, 8},
+                      {"B", Feldtyp::Zahl, 8},
+                      {"Phi", Feldtyp::Zahl, 8},
+                      {"mH", Feldtyp::Waehrung, 8}});
+    Probenetz n;
+    const auto meldungen = MarkiereFehler(n.l, daten, n.e);
+    ASSERT_EQ(meldungen.size(), 2U);
+    EXPECT_EQ(meldungen[0].text,
+              "STRTABLE.DB: Der Tabelle fehlt: P2, FF. Ihre groben Fehler bleiben unmarkiert.");
+    EXPECT_EQ(meldungen[1].text,
+              "DHTABLE.DB: Anders als erwartet ist: P1 (Zahl statt Text), FF (Zahl statt Ja/Nein). Grobe "
+              "Fehler können unmarkiert bleiben.");
+    daten.Erneuere();
+    EXPECT_EQ(Meldungen(),
+              "KooTABLE.DB: Der Tabelle fehlt: mL. Anders als erwartet ist: dX (Text statt Zahl). Gezeichnet "
+              "wird, was sich lesen lässt.\n");
+    daten.Erneuere();
+    EXPECT_EQ(Meldungen(), "");
 }
 
 TEST_F(Ergebnisse, VeraenderteBeispieltabellenStuerzenNieAb) {
@@ -257,7 +306,7 @@ TEST_F(Ergebnisse, VeraenderteBeispieltabellenStuerzenNieAb) {
                 EXPECT_FALSE(std::string(f.what()).empty());
                 ++gemeldet;
             }
-            if (!daten.NimmMeldung().empty()) ++gemeldet;
+            if (!Meldungen().empty()) ++gemeldet;
             return zeilen;
         };
         EXPECT_GT(frage(heil), 0U) << name;

@@ -138,7 +138,8 @@ TEST(Paradox, WerteWieVonHandBerechnet) {
                   {"0901", "80", "falsch"},
                   {"0901", "81", "wahr"},
                   {"0104", "41424344", "'ABCD'"},  // full: no zero at the end
-                  {"0104", "41200044", "'A '"},
+                  {"0104", "41200044", "'A'"},
+                  {"0104", "20202020", "-"},
                   {"0104", "00424344", "-"},
                   {"0105", "FC44FCDF80", "'üDüß€'"},
                   {"0C0A", "41424344454647484950", "-"},
@@ -373,7 +374,7 @@ TEST(Paradoxschreiber, WerteByteFuerByte) {
         EXPECT_EQ(db.size(), 4096U);
         EXPECT_EQ(db.find_first_not_of('\0', 2048 + 96), std::string::npos);
         EXPECT_EQ(Gelesen(db),
-                  "-1 - R0 - falsch - - 1 32767 R-1 'a ' - -2147483647 R1 "
+                  "-1 - R0 - falsch - - 1 32767 R-1 'a' - -2147483647 R1 "
                   "65000 -40 R1234.5 'Öß€' wahr 719163 R62135722800000 ");
         EXPECT_EQ(px.substr(2048, 16), Hex("0000 0000 0000 7FFFFFFF 8001 8003 8000"));
     }

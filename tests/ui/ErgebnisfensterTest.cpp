@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 
@@ -110,6 +111,16 @@ TEST_F(Ergebnisfenster, SortiertKopiertUndZeigtDenAnderenEndpunkt) {
     Reiter(0);
     Reiter(2);
     EXPECT_EQ(Gitter().columnWidth(3), 222) << "widths are remembered";
+    // By field: the heading "vX" stands over two of them.
+    Tabelle(zrw::Tabelle::GpsPunkte3D, {});
+    Reiter(5);
+    Gitter().horizontalHeader()->resizeSection(7, 123);
+    Gitter().horizontalScrollBar()->setValue(20);
+    Reiter(2);
+    EXPECT_EQ(Gitter().horizontalScrollBar()->value(), 0) << "a tab begins at the left";
+    Reiter(5);
+    EXPECT_EQ(Gitter().columnWidth(7), 123);
+    EXPECT_NE(Gitter().columnWidth(34), 123);
 }
 
 TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
@@ -131,6 +142,8 @@ TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
     Lege("DHTABLE.DB", "halb");
     Reiter(3);
     EXPECT_EQ(Gitter().model()->rowCount(), 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialoge.meldungen.size(), 1) << "told below the grid";
     // More fields than the next table of this tab has, and a sorting that is not to come back.
     Reiter(0);
     Gitter().sortByColumn(1, Qt::DescendingOrder);
@@ -192,16 +205,19 @@ TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
     EXPECT_TRUE(dialoge.meldungen[0].contains("KooTABLE.DB"));
 }
 
-TEST_F(Ergebnisfenster, ZarwikdateiFragtDenAlias) {
-    Speichere("plan.ZRW");
+TEST_F(Ergebnisfenster, TabellenLiegenBeiDerDateiDieZuletztGeoeffnetOderGespeichertWurde) {
     QTemporaryDir anderswo;
-    ablage.werte["TAVELIN"] = anderswo.path().toStdString();
-    Oeffne("plan.ZRW");
-    EXPECT_FALSE(daten.Vorhanden("STRTable.DB"));
-    ablage.werte.erase("TAVELIN");
+    ablage.werte["TAVELIN"] = anderswo.path().toStdString();  // counts before anything is opened
+    Speichere("plan.ZRW");
+    EXPECT_TRUE(daten.Vorhanden("STRTable.DB"));
+    EXPECT_FALSE(Status().contains("gesucht")) << "the same folder";
     Oeffne("plan.ZRW");
     EXPECT_TRUE(daten.Vorhanden("STRTable.DB"));
     EXPECT_TRUE(Markiert("C", "E")) << "the picture carries its marks";
+    dialoge.datei = anderswo.filePath("plan.ZRW");
+    Knopf("SpeedButton9").click();
+    EXPECT_FALSE(daten.Vorhanden("STRTable.DB"));
+    EXPECT_TRUE(Status().contains("werden jetzt dort gesucht"));
 }
 
 }  // namespace

@@ -50,6 +50,10 @@ QString Ergebnismodell::Text(int zeile, std::string_view feld) const {
     return text != nullptr ? AusUtf8(*text) : QString();
 }
 
+QString Ergebnismodell::Feldname(int spalte) const {
+    return AusUtf8(antwort_.spalten[S(spalte)]);
+}
+
 int Ergebnismodell::rowCount(const QModelIndex& eltern) const {
     return eltern.isValid() ? 0 : static_cast<int>(antwort_.zeilen.size());
 }

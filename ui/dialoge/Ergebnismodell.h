@@ -17,6 +17,8 @@ class Ergebnismodell final : public QAbstractTableModel {
     void Leere();
     /// Raw text of a field, empty where it is none.
     [[nodiscard]] QString Text(int zeile, std::string_view feld) const;
+    /// As the table names it; the heading may be another.
+    [[nodiscard]] QString Feldname(int spalte) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& eltern = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& eltern = {}) const override;

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -15,10 +16,11 @@
 namespace zrw {
 namespace {
 
-const QString kFenster = QStringLiteral("Ergebnisse/Fenster");
+const QString kFenster = QStringLiteral("Ergebnisse/Fensterort");
 
+/// Widths by field: two columns of a table may have one title.
 QString Spalten(int reiter) {
-    return QStringLiteral("Ergebnisse/Breiten%1").arg(reiter);
+    return QStringLiteral("Ergebnisse/Feldbreiten%1").arg(reiter);
 }
 
 }  // namespace
@@ -44,6 +46,7 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
         reiter_->addTab(AusUtf8(r.titel));
     connect(reiter_, &QTabBar::currentChanged, this, [this] {
         if (reiterGewechselt) reiterGewechselt();
+        gitter_->horizontalScrollBar()->setValue(0);
     });
     auto* spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(6, 6, 6, 6);
@@ -57,7 +60,13 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
 }
 
 TFormData::~TFormData() {
-    sitzung_.MerkeStand(kFenster, saveGeometry());
+    // Before it is shown it stands nowhere.
+    if (gezeigt_) sitzung_.MerkeStand(kFenster, saveGeometry());
+}
+
+void TFormData::showEvent(QShowEvent* ereignis) {
+    gezeigt_ = true;
+    QDialog::showEvent(ereignis);
 }
 
 void TFormData::BaueGitter() {
@@ -112,7 +121,7 @@ void TFormData::StelleSpaltenEin() {
     stelltEin_ = true;
     gitter_->resizeColumnsToContents();
     for (int s = 0; s < modell_.columnCount(); ++s) {
-        const QString anfang = Spaltenname(s) + QLatin1Char('=');
+        const QString anfang = modell_.Feldname(s) + QLatin1Char('=');
         for (const QString& b : breiten) {
             if (const int weite = b.mid(anfang.size()).toInt(); b.startsWith(anfang) && weite > 0)
                 gitter_->setColumnWidth(s, weite);
@@ -123,16 +132,12 @@ void TFormData::StelleSpaltenEin() {
 
 void TFormData::MerkeBreite(int spalte, int weite) {
     if (stelltEin_ || spalte >= modell_.columnCount()) return;
-    const QString anfang = Spaltenname(spalte) + QLatin1Char('=');
+    const QString anfang = modell_.Feldname(spalte) + QLatin1Char('=');
     QStringList breiten =
         QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';', Qt::SkipEmptyParts);
     breiten.removeIf([&](const QString& b) { return b.startsWith(anfang); });
     breiten << anfang + QString::number(weite);
     sitzung_.MerkeStand(Spalten(reiter_->currentIndex()), breiten.join(u';').toUtf8());
-}
-
-QString TFormData::Spaltenname(int spalte) const {
-    return modell_.headerData(spalte, Qt::Horizontal, Qt::DisplayRole).toString();
 }
 
 void TFormData::Fuelle(Antwort antwort) {

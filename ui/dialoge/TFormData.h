@@ -35,13 +35,15 @@ class TFormData final : public QDialog {
     /// Shows the window without taking the keyboard.
     void Zeige();
 
+  protected:
+    void showEvent(QShowEvent* ereignis) override;
+
   private:
     void BaueGitter();
     void Kopiere(bool alles) const;
     void ZeigeEndpunkt(int zeile) const;
     void StelleSpaltenEin();
     void MerkeBreite(int spalte, int weite);
-    [[nodiscard]] QString Spaltenname(int spalte) const;
 
     Sitzung& sitzung_;
     Ergebnismodell modell_;
@@ -50,6 +52,7 @@ class TFormData final : public QDialog {
     QLabel* hinweis_;
     QTabBar* reiter_;
     QString nummer_;
+    bool gezeigt_ = false;
     bool stelltEin_ = false;  ///< columns change their width, but not by the user
 };
 

@@ -13,6 +13,7 @@
 
 #include "model/Fehler.h"
 #include "model/Zahlentext.h"
+#include "output/Residuenbild.h"
 #include "ui/Einstellungsablage.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/Farbfeld.h"
@@ -163,7 +164,7 @@ void TZRWParameter::BaueZahlen(QBoxLayout& spalte) {
 
     EditMFRes_ = new QLineEdit(QStringLiteral("1.0"), this);
     EditMFRes_->setObjectName(QStringLiteral("EditMFRes"));
-    EditMFRes_->setToolTip(QStringLiteral("Zahl größer als 0, mit Dezimalpunkt"));
+    EditMFRes_->setToolTip(QStringLiteral("Zahl mit Dezimalpunkt"));
     connect(EditMFRes_, &QLineEdit::editingFinished, this, [this] { UebernimmResiduenmassstab(); });
     auto* zeile = new QHBoxLayout;
     zeile->addWidget(EditMFRes_);
@@ -201,13 +202,15 @@ void TZRWParameter::UebernimmResiduenmassstab() {
     const QString vorher = AusUtf8(SchreibeReal(e_.ResMF));
     if (EditMFRes_->text() == vorher) return;
     const auto zahl = LiesReal(NachUtf8(EditMFRes_->text()));
-    if (zahl && *zahl > 0.0) {
+    if (zahl) {
         e_.ResMF = *zahl;
+        if (const std::string hinweis = Massstabhinweis(*zahl); !hinweis.empty())
+            dialoge_.Melde(AusUtf8(hinweis));
         return;
     }
     // Before the message: it takes the focus, and the field would be left a second time with the same text.
     EditMFRes_->setText(vorher);
-    dialoge_.Melde(QStringLiteral("Der Residuenmaßstab muss eine Zahl größer als 0 sein."));
+    dialoge_.Melde(QStringLiteral("Der Residuenmaßstab ist keine Zahl (Dezimaltrenner ist der Punkt)."));
 }
 
 void TZRWParameter::done(int ergebnis) {
