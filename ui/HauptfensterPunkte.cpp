@@ -1,6 +1,7 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
 #include <QScopedValueRollback>
 
+#include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
 #include "ui/Ergebnisanzeige.h"
 #include "ui/Hauptfenster.h"
@@ -11,6 +12,7 @@
 #include "ui/Umwandlung.h"
 #include "ui/Zentrierkasten.h"
 #include "ui/aenderungen/Aenderungen.h"
+#include "ui/aenderungen/Verwerfen.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/dialoge/TFormHidePunkte.h"
 
@@ -28,7 +30,7 @@ std::string AlsNummer(const QString& text) {
 // A drag under way ends first: its figures are out of the picture, and what is changed may be one of them.
 void TZrwMainDlg::Rueckgaengig() {
     BrichAb();
-    if (!aenderungen_.canUndo()) return;
+    if (!aenderungen_.canUndo()) return ZeigeStatus(QStringLiteral("Es gibt nichts zurückzunehmen."));
     const QString text = aenderungen_.undoText();
     Fuehre(Aenderung(aenderungen_.index() - 1), [this] { aenderungen_.undo(); });
     ZeigeStatus(QStringLiteral("Rückgängig: ") + text);
@@ -36,7 +38,7 @@ void TZrwMainDlg::Rueckgaengig() {
 
 void TZrwMainDlg::Wiederhole() {
     BrichAb();
-    if (!aenderungen_.canRedo()) return;
+    if (!aenderungen_.canRedo()) return ZeigeStatus(QStringLiteral("Es gibt nichts zu wiederholen."));
     const QString text = aenderungen_.redoText();
     Fuehre(Aenderung(aenderungen_.index()), [this] { aenderungen_.redo(); });
     ZeigeStatus(QStringLiteral("Wiederholt: ") + text);
@@ -56,15 +58,20 @@ void TZrwMainDlg::Tue(std::unique_ptr<Netzaenderung> aenderung) {
 template <class Tat>
 void TZrwMainDlg::Fuehre(const Netzaenderung& aenderung, Tat tat) {
     if (liste_ != nullptr) pflege_.Vorher(*liste_, aenderung.Betroffene());
-    const QScopedValueRollback laufend(laufende_, &aenderung);
-    tat();
+    {
+        const QScopedValueRollback laufend(laufende_, &aenderung);
+        tat();
+    }
+    const QScopedValueRollback still(raeumt_, true);
+    Raeume(aenderungen_);
 }
 
 /// A change was made, undone or made again.
 void TZrwMainDlg::NetzGeaendert() {
-    if (liste_ == nullptr) return;
+    if (liste_ == nullptr || raeumt_) return;
     ansicht_.NetzGeaendert();
     punktart_->NetzGeaendert();
+    versteck_->Versteckte().NetzGeaendert();
     if (ComboBox1_->Veraltet(*liste_)) FuelleNummern();
     if (laufende_ != nullptr) {
         pflege_.Nachher(*liste_, laufende_->Betroffene());
@@ -127,19 +134,36 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     }
     pflege_.Beschmutze();
     bild_->update();
-    ZeigeStatus(QStringLiteral("Punkt ") + gefunden);
+    ZeigeStatus(QStringLiteral("Punkt ") + gefunden +
+                (!punkt->Item->Visible
+                     ? QStringLiteral(" ist versteckt („Versteckte Punkte“ zeigt ihn wieder)")
+                 : !liste_->Dargestellt(*punkt->Item)
+                     ? QStringLiteral(" ist nicht zu sehen: Punkte seiner Art sind ausgeschaltet")
+                     : QString()));
     return punkt;
 }
 
 // --- Centring ---------------------------------------------------------------------------------------------
 
-/// Not undone by any command, so what came before cannot be undone either.
+/// Centring is not undone by any command, so what came before cannot be undone at these points either.
+void TZrwMainDlg::SindZentriert(const std::set<PunktIndex>& nummern) {
+    ungesichert_ = true;
+    {
+        const QScopedValueRollback still(raeumt_, true);
+        Verwirf(aenderungen_, nummern);
+    }
+    ansicht_.NetzGeaendert();
+    punktart_->NetzGeaendert();
+    ZeigeTitel();
+}
+
 void TZrwMainDlg::Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
     liste_->ZentrierPunkt(exzentrum, zentrum, zeichner_);
-    ungesichert_ = true;
-    aenderungen_.clear();
-    ZeigeTitel();
+    SindZentriert({exzentrum.PNr});
     ZeichneNeu();
+    ZeigeStatus(
+        QStringLiteral("%1 auf %2 zentriert")
+            .arg(AusNetz(liste_->GetPktText(exzentrum.PNr)), AusNetz(liste_->GetPktText(zentrum.PNr))));
 }
 
 void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren) {
@@ -149,14 +173,15 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
     if (ziel == nullptr || exzentren.isEmpty()) {
         ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
     } else {
+        std::set<PunktIndex> nummern;
         for (const QString& nummer : exzentren) {
-            if (PPunktKnoten p = liste_->FindPunkt(AlsNummer(nummer)); p != nullptr)
-                liste_->ZentrierPunkt(*p, *ziel, zeichner_);
+            PPunktKnoten p = liste_->FindPunkt(AlsNummer(nummer));
+            if (p == nullptr) continue;
+            liste_->ZentrierPunkt(*p, *ziel, zeichner_);
+            nummern.insert(p->PNr);
         }
         zentrierkasten_->MerkeZentrierte(exzentren);
-        ungesichert_ = true;
-        aenderungen_.clear();
-        ZeigeTitel();
+        SindZentriert(nummern);
         ZeigeStatus(
             QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
     }
@@ -192,6 +217,16 @@ void TZrwMainDlg::NummernZeigenClick() {
 
 void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
     punktart_->Waehle(punkt);
+}
+
+const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {
+    return punktart_->Gewaehlt();
+}
+
+Bildbereich TZrwMainDlg::Textrahmen(const PktText& text) const {
+    const Bildpunkt ort = text.Textort();
+    return {ort.x, ort.y, Summe(ort.x, flaeche_.Textbreite(programm_.zustand.Gezeigt(text))),
+            Summe(ort.y, flaeche_.Texthoehe())};
 }
 
 }  // namespace zrw

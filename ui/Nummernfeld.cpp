@@ -5,6 +5,7 @@
 #include <QStringListModel>
 #include <algorithm>
 
+#include "ui/Nummernordnung.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -36,7 +37,7 @@ void Nummernfeld::Fuelle(const Liste& liste) {
     for (const PunktString* t = liste.PktTextKnoten; t != nullptr; t = t->Next)
         nummern << AusNetz(t->Item->Aus.Text());
     std::reverse(nummern.begin(), nummern.end());
-    if (sortiert_) nummern.sort(Qt::CaseInsensitive);
+    if (sortiert_) OrdneNummern(nummern);
     nummern_->setStringList(nummern);
     setEditText(QStringLiteral("Punktnummern"));
     stand_ = liste.MaxPkte;

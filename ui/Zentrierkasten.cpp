@@ -1,6 +1,7 @@
 #include "ui/Zentrierkasten.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMouseEvent>
@@ -9,11 +10,35 @@
 #include <algorithm>
 #include <iterator>
 
+#include "ui/Nummernordnung.h"
+
 namespace zrw {
 namespace {
 
+/// A list whose keys are its own: the window's shortcuts without Ctrl would take "F", "+", "-" and "Home",
+/// with which entries are found.
+class Nummernliste final : public QListView {
+  public:
+    using QListView::QListView;
+
+  protected:
+    bool event(QEvent* ereignis) override {
+        if (ereignis->type() == QEvent::ShortcutOverride) {
+            const auto mehr = static_cast<QKeyEvent*>(ereignis)->modifiers();
+            if ((mehr & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier) ereignis->accept();
+        }
+        return QListView::event(ereignis);
+    }
+    /// Moving on with the keyboard is choosing, as clicking is.
+    void keyPressEvent(QKeyEvent* ereignis) override {
+        const QModelIndex vorher = currentIndex();
+        QListView::keyPressEvent(ereignis);
+        if (currentIndex() != vorher) emit clicked(currentIndex());
+    }
+};
+
 QListView* NeueListe(const char* name, const char* hinweis, QStringListModel* modell, QWidget* eltern) {
-    auto* liste = new QListView(eltern);
+    auto* liste = new Nummernliste(eltern);
     liste->setObjectName(QString::fromUtf8(name));
     liste->setToolTip(QString::fromUtf8(hinweis));
     liste->setAccessibleName(QString::fromUtf8(hinweis));
@@ -75,7 +100,7 @@ void Zentrierkasten::Fuelle(const QStringList& nummern) {
     QStringList sortiert;
     std::copy_if(nummern.begin(), nummern.end(), std::back_inserter(sortiert),
                  [this](const QString& nummer) { return !zentriert_.contains(nummer); });
-    sortiert.sort();
+    OrdneNummern(sortiert);
     exzentren_->setStringList(sortiert);
     zentren_->setStringList({});
 }
@@ -107,6 +132,8 @@ void Zentrierkasten::Zentriere() {
     const QModelIndexList gewaehlt = PZListBox_->selectionModel()->selectedIndexes();
     std::optional<QString> zentrum;
     if (!gewaehlt.isEmpty()) zentrum = gewaehlt.front().data().toString();
+    constexpr qsizetype kViele = 10;
+    if (zentrum && exzentren.size() > kViele && bestaetige && !bestaetige(exzentren.size(), *zentrum)) return;
     if (zentriere) zentriere(zentrum, exzentren);
     if (!zentrum) return;
     // From the end, so that the rows before stay where they are.

@@ -31,6 +31,8 @@ class Zentrierkasten final : public QGroupBox {
     /// "Zentrieren" with a centre and the selected eccentres, which leave both lists afterwards. Without a
     /// centre the first argument is empty.
     std::function<void(const std::optional<QString>& zentrum, const QStringList& exzentren)> zentriere;
+    /// Asked before that where many points are to be centred. @return false: nothing is done
+    std::function<bool(qsizetype anzahl, const QString& zentrum)> bestaetige;
     std::function<void(const QString& nummer)> zentrumGewaehlt;
     std::function<void()> beendet;
 
