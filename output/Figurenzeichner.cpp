@@ -15,9 +15,6 @@
 namespace zrw {
 namespace {
 
-/// Characters that short numbers leave out at the front.
-constexpr std::size_t kKurzeStelle = 4;
-
 // Sizes in the drawing are in metres of the world: it has no scale of its own.
 constexpr double kDxfRadius = 2.0;
 constexpr double kDxfTexthoehe = 2.0;
@@ -280,8 +277,7 @@ void Figurenzeichner::ZeigeText(const PktText& text, Farbe farbe) {
         };
         ort = {Summe(text.XO, dots(text.XBiO)), Summe(text.YO, dots(text.YBiO))};
     }
-    std::string_view zeichen = text.Aus.Text();
-    if (zustand_.KurzeNummern) zeichen.remove_prefix(std::min(zeichen.size(), kKurzeStelle));
+    const std::string_view zeichen = zustand_.Gezeigt(text);
     // No character is wider than twice the line height.
     const std::int64_t rand =
         std::int64_t{f.Texthoehe()} * 2 * static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
@@ -308,7 +304,7 @@ bool Figurenzeichner::ZeichneNetz(const Liste& liste) {
 
 void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
-    if (zustand_.flaeche == nullptr) return;
+    if (zustand_.flaeche == nullptr || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Legende);
     if (gang == Gang::Wischen) MerkeGewischt(zustand_.flaeche->Sichtbar());
     // Printing leaves a device factor behind that means nothing on the screen.
@@ -337,7 +333,7 @@ void Figurenzeichner::ZeichnePunktRes(const Liste& liste) {
 }
 
 void Figurenzeichner::DrawResMasstab(const Liste& liste) {
-    if (!ZeigtResiduen()) return;
+    if (!ZeigtResiduen() || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Ergebnisse);
     Residuenbild(zustand_, einstellungen_, liste).DrawResMasstab();
 }

@@ -2,7 +2,12 @@
 // writes. Made by `main`, handed on by reference; printing and export switch it for their duration.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
+
+#include "model/Figuren.h"
 
 namespace zrw {
 
@@ -19,6 +24,7 @@ struct Zeichenzustand {
     Zeichenmodus modus = Zeichenmodus::Bildschirm;
     double Geraetefaktor = 1.0;             ///< device dots per screen pixel [-]
     bool KurzeNummern = false;              ///< labels without their first four characters
+    bool OhneStehendes = false;             ///< without what stands still while the picture is dragged
     bool Abkuerzungen = true;               ///< quick ways to the same picture; off for comparing with them
     Punktergebnisse* Ergebnisse = nullptr;  ///< null: no results are known
 
@@ -27,6 +33,14 @@ struct Zeichenzustand {
     Plotdatei* PlotFile = nullptr;      ///< null: no plotter file is asked for
     DXFUnit* Dxf = nullptr;             ///< null: no drawing is asked for
     const Liste* Exportnetz = nullptr;  ///< whose view turns picture positions into world positions
+
+    /// What a label shows.
+    [[nodiscard]] std::string_view Gezeigt(const PktText& text) const {
+        constexpr std::size_t kKurzeStelle = 4;
+        std::string_view zeichen = text.Aus.Text();
+        if (KurzeNummern) zeichen.remove_prefix(std::min(zeichen.size(), kKurzeStelle));
+        return zeichen;
+    }
 };
 
 }  // namespace zrw

@@ -16,6 +16,15 @@ constexpr int kRand = 40;
 /// Scale for a single point [m/px].
 constexpr double kEinzelpunkt = 0.5;
 
+/// Whether fitting the extents would show all points. Those of a picture file may be anything.
+bool AusdehnungUmfasstAlles(const Liste& l) {
+    if (!(l.MaxXW > l.MinXW) || !(l.MaxYW > l.MinYW)) return false;
+    for (const PunktKnoten* p = l.PunktKnoten; p != nullptr; p = p->Next) {
+        if (p->XWPu < l.MinXW || p->XWPu > l.MaxXW || p->YWPu < l.MinYW || p->YWPu > l.MaxYW) return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 std::optional<Ansicht> Ansichtssteuerung::Eingepasst(const Liste& liste) {
@@ -95,7 +104,7 @@ void Ansichtssteuerung::NeuesNetz() {
 }
 
 void Ansichtssteuerung::ZeigeAlles(Liste& liste) {
-    if (std::exchange(ausdehnungAlt_, false)) liste.FindWorldMinMax();
+    if (std::exchange(ausdehnungAlt_, false) || !AusdehnungUmfasstAlles(liste)) liste.FindWorldMinMax();
     pflege_.Alles(liste);
 }
 

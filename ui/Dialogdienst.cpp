@@ -70,11 +70,13 @@ std::optional<bool> QtDialogdienst::FrageMitAbbruch(const QString& text) {
 }
 
 std::optional<QFont> QtDialogdienst::WaehleSchrift(const QFont& anfang) {
-    bool gewaehlt = false;
-    const QFont schrift =
-        QFontDialog::getFont(&gewaehlt, anfang, Eltern(), QStringLiteral("Zeichenfont wählen"));
-    if (!gewaehlt) return std::nullopt;
-    return schrift;
+    QFontDialog dialog(anfang, Eltern());
+    dialog.setWindowTitle(QStringLiteral("Zeichenfont wählen"));
+    dialog.setOption(QFontDialog::DontUseNativeDialog);
+    // The dialog knows only fonts that its lists can say: what it shows first may differ from what there was.
+    const QFont gezeigt = dialog.currentFont();
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFont() == gezeigt) return std::nullopt;
+    return dialog.selectedFont();
 }
 
 std::optional<QString> QtDialogdienst::WaehleAus(const QStringList& texte) {

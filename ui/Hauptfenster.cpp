@@ -14,6 +14,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "output/Residuenbild.h"
 #include "ui/Ergebnisanzeige.h"
 #include "ui/Fensterort.h"
 #include "ui/Hilfefenster.h"
@@ -113,7 +114,8 @@ QFrame* Trennstrich(QWidget* eltern) {
     return strich;
 }
 
-/// The panel whose free area releases every tool mode.
+/// The panel whose free area releases every tool mode. Keeps the height that its rows take: in a narrow
+/// window they would lie on each other.
 class Werkzeugleiste final : public QWidget {
   public:
     Werkzeugleiste(QWidget* eltern, std::function<void()> klick)
@@ -121,6 +123,10 @@ class Werkzeugleiste final : public QWidget {
 
   protected:
     void mousePressEvent(QMouseEvent* /*ereignis*/) override { klick_(); }
+    void resizeEvent(QResizeEvent* ereignis) override {
+        QWidget::resizeEvent(ereignis);
+        setMinimumHeight(layout()->totalHeightForWidth(width()));
+    }
 
   private:
     std::function<void()> klick_;
@@ -188,7 +194,9 @@ void TZrwMainDlg::BaueFenster() {
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(flaeche_, *this, mitte);
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
-        if (liste_ != nullptr) druck_.ZeichneRahmen(*liste_, flaeche);
+        if (liste_ == nullptr) return;
+        druck_.ZeichneRahmen(*liste_, flaeche);
+        ZeichneStehendes(flaeche);
     });
     druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
     spalte->addWidget(bild_, 1);
@@ -319,6 +327,12 @@ void TZrwMainDlg::BaueDialoge() {
     zentrierkasten_->zentriere = [this](const std::optional<QString>& zentrum, const QStringList& exzentren) {
         ZentriereListe(zentrum, exzentren);
     };
+    zentrierkasten_->bestaetige = [this](qsizetype anzahl, const QString& zentrum) {
+        return programm_.dialoge.Frage(
+            QStringLiteral("%1 Punkte auf %2 zentrieren?\nDas lässt sich nicht zurücknehmen.")
+                .arg(anzahl)
+                .arg(zentrum));
+    };
     zentrierkasten_->zentrumGewaehlt = [this](const QString& nummer) {
         ComboBox1_->setCurrentIndex(ComboBox1_->findText(nummer));
     };
@@ -330,8 +344,7 @@ void TZrwMainDlg::BaueDialoge() {
     versteck_ = std::make_unique<Punktversteck>(static_cast<Werkzeugumgebung&>(*this), this);
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { Knopf("SpeedButton14").setChecked(false); });
-    ergebnisse_ = std::make_unique<Ergebnisanzeige>(
-        programm_, this, [this](const std::exception& fehler) { ZeigeFehler(fehler); });
+    ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, this);
     ergebnisse_->Fenster().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
         if (liste_ != nullptr && liste_->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
@@ -401,6 +414,8 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
     const bool ausTabelle = schalter.inListe == &Liste::ShowLgRes || schalter.inListe == &Liste::ShowHRes ||
                             schalter.inListe == &Liste::ShowLGGen || schalter.inListe == &Liste::ShowHGen;
+    const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
+    if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
     if (ein && ausTabelle && liste_ != nullptr && !programm_.daten.Vorhanden("KooTABLE.DB"))
         ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
                     QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "input/Oeffnen.h"
@@ -113,6 +114,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
     [[nodiscard]] bool Speichere();
     [[nodiscard]] bool DarfVerwerfen();
+    [[nodiscard]] bool BereitZumEnde();
     void ZeigeTitel();
     [[nodiscard]] Netzbewahrung::Plan JetzigerPlan() const;
 
@@ -122,12 +124,14 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     bool SetzeAnsicht(const Ansicht& ansicht);
     void ZeichneNachRad();
     void ZeigeBild();
-    void ZeigeStatus(Bildpunkt ort);
+    void ZeigeStand();
     void ZeigeZeiger(Bildpunkt ort);
     [[nodiscard]] Werkzeug* Aktiv() const;
     [[nodiscard]] Werkzeug* Zustaendig(Bildpunkt ort) const;
     void BrichAb();
     void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) override;
+    void ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) override;
+    void ImageZarwikMouseLeave() override;
     void ImageZarwikMouseMove(Bildpunkt ort) override;
     void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikWheel(Bildpunkt ort, int schritte) override;
@@ -144,6 +148,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void BeginneZug() override { ansicht_.BeginneZug(*liste_); }
     void ZieheBild(Bildpunkt versatz) override;
     void BeendeZug() override;
+    void ZeichneStehendes(Zeichenflaeche& flaeche);
     void Verschiebe(Bildpunkt versatz);
     void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
     void ZoomeUm(Bildpunkt ort) override;
@@ -158,9 +163,12 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ZeigePunkt(const QString& nummer);
     const PunktKnoten* MarkierePunkt(const QString& nummer);
     void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
+    void SindZentriert(const std::set<PunktIndex>& nummern);
     void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
+    [[nodiscard]] const PunktKnoten* GewaehlterPunkt() const override;
+    [[nodiscard]] Bildbereich Textrahmen(const PktText& text) const override;
     void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
     void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
     [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }
@@ -168,17 +176,20 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     // HauptfensterAusgabe.cpp
     void ZeigeFehler(const std::exception& fehler);
     void ZeigeHilfe(int kontext);
+    void SchliesseEinstellungen();
 
     Programm programm_;
     std::unique_ptr<Liste> liste_;
     QUndoStack aenderungen_;
     bool ungesichert_ = false;  ///< changes that cannot be undone
     bool beendet_ = false;      ///< closing has been asked about
+    bool planBleibt_ = false;   ///< at the end the unsaved plot is kept for the next start
     Bildflaeche flaeche_;
     Figurenzeichner zeichner_;
     Bildpflege pflege_;
     Ansichtssteuerung ansicht_;
     const Netzaenderung* laufende_ = nullptr;           ///< the change that is being made or taken back
+    bool raeumt_ = false;                               ///< void steps leave the stack, nothing changes
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
     std::unique_ptr<LegendeVerschieben> legendenecke_;
@@ -186,7 +197,9 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     std::unique_ptr<RahmenVerschieben> rahmenrand_;
     Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
     Qt::MouseButton taste_ = Qt::NoButton;
-    Bildpunkt maus_;  ///< last mouse position over the picture [px]
+    std::optional<Bildpunkt> maus_;  ///< position of the mouse while it is over the picture [px]
+    bool stehendesLose_ = false;     ///< legend and scale bar lie over the picture that is being dragged
+    QString ortstext_;               ///< what the status line said about that
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
@@ -201,9 +214,9 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QString titel_;
-    QString ordner_;                     ///< of the last file
-    std::filesystem::path steuerdatei_;  ///< last control file, proposes the name for saving
-    Netzbewahrung bewahrung_;            ///< goes first: it asks the members above
+    QString ordner_;               ///< of the last file
+    std::filesystem::path datei_;  ///< opened last, proposes the name for saving
+    Netzbewahrung bewahrung_;      ///< goes first: it asks the members above
 };
 
 }  // namespace zrw

@@ -1,11 +1,14 @@
 // Main window: view, mouse and status line.
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <string>
 #include <utility>
 
+#include "model/Ganzzahl.h"
 #include "model/Zahlentext.h"
+#include "output/Residuenbild.h"
 #include "ui/Ergebnisanzeige.h"
 #include "ui/Hauptfenster.h"
 #include "ui/Umwandlung.h"
@@ -13,6 +16,9 @@
 
 namespace zrw {
 namespace {
+
+/// Away from every figure.
+constexpr Bildpunkt kNirgends{-kZeichengrenze, -kZeichengrenze};
 
 const QString kNichtWeiter = QStringLiteral("Weiter lässt sich das Bild nicht zoomen.");
 
@@ -29,7 +35,8 @@ void TZrwMainDlg::ZeichneNeu() {
 void TZrwMainDlg::ZeigeBild() {
     bild_->update();
     // What lies under the mouse now: the picture has moved below it.
-    if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr && gedrueckt_ == nullptr) werkzeug->Schweben(maus_);
+    if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr && gedrueckt_ == nullptr)
+        werkzeug->Schweben(maus_.value_or(kNirgends));
     ergebnisse_->MeldeTabellen();
 }
 
@@ -51,7 +58,7 @@ void TZrwMainDlg::SpeedButton3Click() {
     BrichAb();
     ansicht_.ZeigeAlles(*liste_);
     ZeigeBild();
-    ZeigeStatus(maus_);
+    ZeigeStand();
 }
 
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
@@ -82,7 +89,7 @@ bool TZrwMainDlg::SetzeAnsicht(const Ansicht& ansicht) {
     BrichAb();
     Ansichtssteuerung::Setze(*liste_, ansicht);
     ZeichneNeu();
-    ZeigeStatus(maus_);
+    ZeigeStand();
     return true;
 }
 
@@ -109,7 +116,7 @@ void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
     if (!ansicht_.Zoome(*liste_, x, y, groesser)) return ZeigeStatus(kNichtWeiter);
     ZeichneNeu();
-    ZeigeStatus(maus_);
+    ZeigeStand();
 }
 
 void TZrwMainDlg::ZeigeStatus(const QString& text) {
@@ -117,11 +124,15 @@ void TZrwMainDlg::ZeigeStatus(const QString& text) {
     statusBar()->showMessage(text);
 }
 
-void TZrwMainDlg::ZeigeStatus(Bildpunkt ort) {
-    const Welt w = liste_->BildinWelt(ort);
-    const std::string text = Festkomma(w.rechts, 12, 2) + " " + Festkomma(w.hoch, 12, 2) + " " +
-                             " M=1:" + Festkomma(liste_->Faktor * 1000, 5, 0);
-    ZeigeStatus(AusUtf8(text));
+/// Where the mouse is, if it is over the picture, and the scale.
+void TZrwMainDlg::ZeigeStand() {
+    std::string text;
+    if (maus_) {
+        const Welt w = liste_->BildinWelt(*maus_);
+        text = Festkomma(w.rechts, 12, 2) + " " + Festkomma(w.hoch, 12, 2) + " ";
+    }
+    ortstext_ = AusUtf8(text + " M=1:" + Festkomma(liste_->Faktor * 1000, 5, 0));
+    ZeigeStatus(ortstext_);
     // What the tool asks for stays legible while the mouse goes there.
     if (const Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) anleitung_->setText(werkzeug->Anleitung());
 }
@@ -172,10 +183,24 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
     werkzeug->Druecken(ort);
 }
 
+/// Where one click does all, the second of two quick ones would do it to what lies below.
+void TZrwMainDlg::ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) {
+    if (taste == Qt::LeftButton && Aktiv() != nullptr && Aktiv()->EinKlickGenuegt()) return;
+    ImageZarwikMouseDown(ort, taste);
+}
+
+void TZrwMainDlg::ImageZarwikMouseLeave() {
+    if (gedrueckt_ != nullptr) return;  // a drag goes on outside
+    maus_.reset();
+    if (liste_ == nullptr) return;
+    if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) werkzeug->Schweben(kNirgends);
+    if (statusBar()->currentMessage() == ortstext_) ZeigeStand();
+}
+
 void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
     maus_ = ort;
     if (liste_ == nullptr) return;
-    ZeigeStatus(ort);
+    ZeigeStand();
     if (gedrueckt_ != nullptr) {
         gedrueckt_->Ziehen(ort);
     } else {
@@ -231,8 +256,9 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
     if (liste_ == nullptr || gedrueckt_ != nullptr) return;
+    maus_ = ort;
     if (!ansicht_.Rolle(*liste_, ort, schritte)) return ZeigeStatus(kNichtWeiter);
-    ZeigeStatus(ort);
+    ZeigeStand();
     if (!ansicht_.OeffneRad()) QTimer::singleShot(0, this, [this] { ZeichneNachRad(); });
 }
 
@@ -253,7 +279,7 @@ void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
     BrichAb();
     ansicht_.Verschiebe(*liste_, versatz);
     ZeigeBild();
-    ZeigeStatus(maus_);
+    ZeigeStand();
 }
 
 void TZrwMainDlg::HeileBild() {
@@ -267,14 +293,31 @@ void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
     if (pflege_.Verschiebbar(*liste_)) {
         if (ansicht_.Folge(*liste_)) ZeigeBild();
     } else {
-        // What stands still or must be worked out anew is drawn when the mouse is let go.
+        // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
+        if (!stehendesLose_ && (liste_->ShowLegende || ZeigtErgebnisse(*liste_))) {
+            stehendesLose_ = true;
+            const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
+            pflege_.ZeichneNeu(*liste_);
+        }
         bild_->SetzeVerschiebung(ansicht_.Rueckstand());
     }
 }
 
 void TZrwMainDlg::BeendeZug() {
     bild_->SetzeVerschiebung({});
-    if (ansicht_.Folge(*liste_)) ZeigeBild();
+    const bool gefolgt = ansicht_.Folge(*liste_);
+    if (std::exchange(stehendesLose_, false) && !gefolgt) return ZeichneNeu();
+    if (gefolgt) ZeigeBild();
+}
+
+/// Legend and scale bar over a picture that is drawn without them.
+void TZrwMainDlg::ZeichneStehendes(Zeichenflaeche& flaeche) {
+    if (!stehendesLose_) return;
+    Zeichenzustand zustand = programm_.zustand;
+    zustand.flaeche = &flaeche;
+    Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+    if (liste_->ShowLegende) liste_->SetLegende(zeichner);
+    zeichner.DrawResMasstab(*liste_);
 }
 
 }  // namespace zrw

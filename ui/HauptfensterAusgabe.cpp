@@ -61,10 +61,14 @@ void TZrwMainDlg::SpeedButton16Click() {
 
 // --- Dialogs and help -------------------------------------------------------------------------------------
 
-void TZrwMainDlg::ColorButtonClick() {
-    // One at a time: two would not show each other's changes. Closing saves.
+void TZrwMainDlg::SchliesseEinstellungen() {
     for (auto* offen : findChildren<QDialog*>(QStringLiteral("TZRWParameter")))
         offen->close();
+}
+
+void TZrwMainDlg::ColorButtonClick() {
+    // One at a time: two would not show each other's changes. Closing saves.
+    SchliesseEinstellungen();
     auto* dialog = new TZRWParameter(programm_.einstellungen, programm_.ablage, programm_.dialoge, this);
     dialog->geschlossen = [this] { ZeichneNeu(); };
     dialog->show();

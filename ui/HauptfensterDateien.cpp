@@ -147,9 +147,18 @@ void TZrwMainDlg::SpeedButton9Click() {
 }
 
 void TZrwMainDlg::SpeedButton7Click() {
-    if (programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere()) return;
+    if (liste_ != nullptr && !BereitZumEnde()) return;
     beendet_ = true;  // has been asked
     close();
+}
+
+/// Asks whether the plot is to be saved before the program ends. Whoever wants that and then cancels the file
+/// dialog ends it all the same: the plot is kept for the next start. @return false where saving failed
+bool TZrwMainDlg::BereitZumEnde() {
+    const bool soll = programm_.dialoge.Frage(QStringLiteral("Zarwik speichern"));
+    if (soll && !Speichere()) return false;
+    planBleibt_ = soll && Ungesichert();
+    return true;
 }
 
 void TZrwMainDlg::LetzteDateienClick() {
@@ -174,7 +183,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         ereignis->ignore();
         return;
     }
-    bewahrung_.Beende();
+    bewahrung_.Beende(planBleibt_);
     LoeseWerkzeuge();
     // An open settings window keeps what was chosen in it; the help would keep the program running.
     for (QDialog* dialog : findChildren<QDialog*>())
@@ -184,16 +193,33 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
     ereignis->accept();
 }
 
+/// The files of this machine among what is dragged: addresses of the web cannot be opened. None where the other
+/// program would delete them afterwards.
+static QStringList Gezogene(const QDropEvent& ereignis) {
+    QStringList dateien;
+    if ((ereignis.possibleActions() & Qt::CopyAction) == 0) return dateien;
+    for (const QUrl& url : ereignis.mimeData()->urls()) {
+        if (url.isLocalFile()) dateien << url.toLocalFile();
+    }
+    return dateien;
+}
+
 void TZrwMainDlg::dragEnterEvent(QDragEnterEvent* ereignis) {
-    if (ereignis->mimeData()->hasUrls()) ereignis->acceptProposedAction();
+    if (Gezogene(*ereignis).isEmpty()) return;
+    ereignis->setDropAction(Qt::CopyAction);
+    ereignis->accept();
 }
 
 void TZrwMainDlg::dropEvent(QDropEvent* ereignis) {
-    for (const QUrl& url : ereignis->mimeData()->urls()) {
-        if (!url.isLocalFile()) continue;
-        ereignis->acceptProposedAction();
-        Oeffne(NachPfad(url.toLocalFile()));
-        return;
+    const QStringList dateien = Gezogene(*ereignis);
+    if (dateien.isEmpty()) return;
+    ereignis->setDropAction(Qt::CopyAction);
+    ereignis->accept();
+    if (dateien.size() > 1) {
+        ZeigeStatus(QStringLiteral("Es lässt sich nur eine Datei öffnen; auf dem Fenster lagen %1.")
+                        .arg(dateien.size()));
+    } else {
+        Oeffne(NachPfad(dateien.front()));
     }
 }
 
@@ -209,6 +235,8 @@ Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() const {
 void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     BrichAb();
     if (!DarfVerwerfen()) return;
+    // Closing saves what was chosen in it; reading starts from what is saved.
+    if (!IstBilddatei(datei)) SchliesseEinstellungen();
     Sammler meldungen;
     Lesung lesung;
     const Einstellungen vorher = programm_.einstellungen;
@@ -239,20 +267,26 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
         if (mitFenster) meldungen.Schliesse(fehler);
     }
     meldungen.Schliesse(AusUtf8(lesung.endetext));
-    if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
+    // A box lets other things happen, so it comes when the picture stands.
+    const auto melde = [&] {
+        if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
+    };
     if (lesung.ende == Leseende::Programmende) {
+        melde();
         // The plot on screen is not to be lost to somebody else's missing file.
-        if (liste_ != nullptr && programm_.dialoge.Frage(QStringLiteral("Zarwik speichern")) && !Speichere())
-            return;
+        if (liste_ != nullptr && !BereitZumEnde()) return;
         beendet_ = true;
         close();
-    } else if (lesung.liste != nullptr) {
+        return;
+    }
+    if (lesung.liste != nullptr) {
         try {
             Uebernimm(std::move(lesung), datei);
         } catch (const std::exception& f) {
             ZeigeFehler(f);
         }
     }
+    melde();
 }
 
 void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
@@ -273,8 +307,10 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     FuelleNummern();
     const QStringList verborgen = Verborgene(*liste_);
     if (IstBilddatei(datei) || !verborgen.isEmpty()) versteck_->Versteckte().Setze(verborgen);
+    versteck_->Versteckte().NetzGeaendert();
     programm_.netz = lesung.netz;
     ergebnisse_->WaehleOrdner(datei);
+    datei_ = datei;
     if (IstBilddatei(datei)) {
         // Reading a picture file switches these two on, whatever they were.
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
@@ -282,7 +318,6 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
                 schalterkaesten_[i]->setChecked(true);
         }
     } else {
-        steuerdatei_ = datei;
         // And from screen sizes and the usual font.
         programm_.zustand.Geraetefaktor = 1.0;
         programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
@@ -315,11 +350,9 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
 bool TZrwMainDlg::Speichere() {
     if (liste_ == nullptr) return true;
     BrichAb();  // figures that are being dragged are marked invisible
-    QString vorschlag;
-    if (!steuerdatei_.empty()) {
-        const QString name = QFileInfo(AusUtf8(PfadText(steuerdatei_))).fileName();
-        vorschlag = name.left(std::max<qsizetype>(name.size() - 4, 0));  // without the extension and its dot
-    }
+    QString vorschlag = QFileInfo(AusUtf8(PfadText(datei_))).fileName();
+    // Of a control file without the extension and its dot.
+    if (!IstBilddatei(datei_)) vorschlag.chop(std::min<qsizetype>(vorschlag.size(), 4));
     const auto name = programm_.dialoge.WaehleZumSpeichern(
         {QStringLiteral("Zarwik speichern"), kBildfilter, ordner_, vorschlag, QStringLiteral("ZRW")});
     if (!name) return true;
@@ -338,9 +371,13 @@ bool TZrwMainDlg::Speichere() {
     ordner_ = QFileInfo(*name).absolutePath();
     programm_.sitzung.MerkeOrdner(ordner_);
     programm_.sitzung.NimmDatei(QFileInfo(*name).absoluteFilePath());
-    QString text = QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name);
-    if (weggelassen > 0) text += QStringLiteral(". ") + AusUtf8(WeggelasseneNummern(weggelassen));
-    ZeigeStatus(text);
+    QStringList saetze{QStringLiteral("Gespeichert: ") + QDir::toNativeSeparators(*name)};
+    if (weggelassen > 0) saetze << AusUtf8(WeggelasseneNummern(weggelassen));
+    if (ergebnisse_->WaehleOrdner(NachPfad(*name))) {
+        saetze << QStringLiteral("Ergebnisse der Ausgleichung werden jetzt dort gesucht.");
+        ZeichneNeu();
+    }
+    ZeigeStatus(saetze.join(QStringLiteral("   ")));
     return true;
 }
 

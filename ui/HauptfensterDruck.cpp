@@ -13,8 +13,8 @@
 namespace zrw {
 
 /// Of the print job.
-static QString Titel(const std::filesystem::path& steuerdatei) {
-    return QStringLiteral("Zarwik ") + QFileInfo(AusUtf8(PfadText(steuerdatei))).fileName();
+static QString Titel(const std::filesystem::path& datei) {
+    return QStringLiteral("Zarwik ") + QFileInfo(AusUtf8(PfadText(datei))).fileName();
 }
 
 void TZrwMainDlg::SpeedButton5Click() {
@@ -28,7 +28,7 @@ void TZrwMainDlg::SpeedButton5Click() {
     if (!blaetter) return;
     try {
         const Sanduhr sanduhr;
-        druck_.Drucke(*liste_, std::move(*blaetter), *massstab, Titel(steuerdatei_));
+        druck_.Drucke(*liste_, std::move(*blaetter), *massstab, Titel(datei_));
         ZeigeStatus(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
     } catch (const std::exception& f) {
         ZeigeFehler(f);
@@ -44,7 +44,7 @@ void TZrwMainDlg::VorschauClick() {
     if (!massstab) return;
     bool drucken = false;
     try {
-        drucken = druck_.ZeigeVorschau(this, *liste_, *massstab, Titel(steuerdatei_));
+        drucken = druck_.ZeigeVorschau(this, *liste_, *massstab, Titel(datei_));
     } catch (const std::exception& f) {
         ZeigeFehler(f);
     }

@@ -56,6 +56,15 @@ void ImageZarwik::mousePressEvent(QMouseEvent* ereignis) {
     empfaenger_.ImageZarwikMouseDown(Ort(*ereignis), ereignis->button());
 }
 
+void ImageZarwik::mouseDoubleClickEvent(QMouseEvent* ereignis) {
+    empfaenger_.ImageZarwikDoubleClick(Ort(*ereignis), ereignis->button());
+}
+
+void ImageZarwik::leaveEvent(QEvent* ereignis) {
+    empfaenger_.ImageZarwikMouseLeave();
+    QWidget::leaveEvent(ereignis);
+}
+
 void ImageZarwik::mouseMoveEvent(QMouseEvent* ereignis) {
     empfaenger_.ImageZarwikMouseMove(Ort(*ereignis));
 }

@@ -14,6 +14,10 @@ class Bildempfaenger {
   public:
     virtual ~Bildempfaenger() = default;
     virtual void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    /// The second press of two quick ones, in place of `ImageZarwikMouseDown`.
+    virtual void ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    /// The mouse is no longer over the picture.
+    virtual void ImageZarwikMouseLeave() = 0;
     virtual void ImageZarwikMouseMove(Bildpunkt ort) = 0;
     virtual void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) = 0;
     /// @param schritte wheel steps, positive away from the user
@@ -40,7 +44,9 @@ class ImageZarwik final : public QWidget {
     void paintEvent(QPaintEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
     void mouseMoveEvent(QMouseEvent* ereignis) override;
+    void leaveEvent(QEvent* ereignis) override;
     void mouseReleaseEvent(QMouseEvent* ereignis) override;
     void wheelEvent(QWheelEvent* ereignis) override;
 

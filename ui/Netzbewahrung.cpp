@@ -42,9 +42,9 @@ void Netzbewahrung::Vergiss() {
     if (programm_.rettung != nullptr) programm_.rettung->Vergiss();
 }
 
-void Netzbewahrung::Beende() {
+void Netzbewahrung::Beende(bool planBleibt) {
     uhr_.stop();
-    Vergiss();
+    planBleibt ? Bewahre() : Vergiss();
 }
 
 bool Netzbewahrung::BieteAn() {
@@ -77,8 +77,8 @@ bool Netzbewahrung::Gewollt(const QString& name, const QString& datei) const {
     const QString zeit = QLocale(QLocale::German)
                              .toString(QFileInfo(datei).lastModified(), QStringLiteral("dd.MM.yyyy HH:mm"));
     return programm_.dialoge.Frage(
-        QStringLiteral("Zarwik wurde nicht ordentlich beendet. Der Netzplan\n%1\nwar nicht "
-                       "gespeichert und ist vom Stand %2 Uhr noch da.\n\nWiederherstellen?")
+        QStringLiteral("Beim letzten Ende von Zarwik war der Netzplan\n%1\nnicht gespeichert. Er ist "
+                       "vom Stand %2 Uhr noch da.\n\nWiederherstellen?")
             .arg(QFileInfo(name).fileName(), zeit));
 }
 

@@ -42,8 +42,8 @@ class Netzbewahrung {
     void Bewahre();
     /// What is kept is not needed any more.
     void Vergiss();
-    /// The same, and nothing is kept from now on.
-    void Beende();
+    /// The program ends. @param planBleibt the unsaved plot is offered at the next start
+    void Beende(bool planBleibt);
     /// Offers plots that an earlier run could not save. @return whether one is shown now
     [[nodiscard]] bool BieteAn();
 

@@ -24,18 +24,20 @@ Punktartwahl::~Punktartwahl() {
 void Punktartwahl::Waehle(PunktKnoten& punkt) {
     const Liste& liste = *umgebung_.AktuelleListe();
     gewaehlt_ = &punkt;
-    gewaehltOrt_ = {punkt.XWPu, punkt.YWPu};
+    gezeigt_ = StandVon(punkt);
     fenster_->Zeige({AusNetz(liste.GetPktText(punkt.PNr)),
                      ArtNachFarbe(punkt.Item->Farbe, umgebung_.Anzeige()), punkt.Item->PktTyp,
                      AusUtf8(Festkomma(punkt.XWPu, 0, 4)), AusUtf8(Festkomma(punkt.YWPu, 0, 4)), false});
 }
 
 void Punktartwahl::NetzGeaendert() {
-    if (gewaehlt_ != nullptr && !umgebung_.AktuelleListe()->Enthaelt(*gewaehlt_)) gewaehlt_ = nullptr;
-    // The window must not put the point back to where it was.
-    if (gewaehlt_ != nullptr &&
-        (gewaehlt_->XWPu != gewaehltOrt_.rechts || gewaehlt_->YWPu != gewaehltOrt_.hoch))
-        Waehle(*gewaehlt_);
+    if (gewaehlt_ == nullptr) return;
+    if (!umgebung_.AktuelleListe()->Enthaelt(*gewaehlt_)) {
+        gewaehlt_ = nullptr;
+        fenster_->Zeige({});
+    } else if (StandVon(*gewaehlt_) != gezeigt_) {
+        Waehle(*gewaehlt_);  // the window must not put back what was undone
+    }
 }
 
 /// "Zeichnen": changes the picked point, or inserts a new one.
@@ -78,6 +80,10 @@ void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
     Liste& liste = *umgebung_.AktuelleListe();
     const std::string nummer(OhneRand(Utf8NachCp1252(NachUtf8(eingabe.nummer))));
     const auto lehneAb = [&](const QString& grund) { dialoge_.Melde(grund); };
+    if (AusNetz(nummer) != AusUtf8(OhneRand(NachUtf8(eingabe.nummer))))
+        return lehneAb(QStringLiteral("Die Punktnummer %1 hat ein Zeichen, das sich nicht speichern lässt. "
+                                      "Möglich sind die Zeichen der Codeseite 1252.")
+                           .arg(eingabe.nummer));
     if (nummer.empty()) return lehneAb(QStringLiteral("Der neue Punkt braucht eine Nummer."));
     if (nummer.size() > PunktNummernTyp::kLaenge)
         return lehneAb(QStringLiteral("Die Punktnummer ist zu lang (höchstens 14 Zeichen)."));
@@ -93,6 +99,14 @@ void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
     punkt.PktArt = eingabe.art;
     umgebung_.Tue(std::make_unique<PunktEingefuegt>(
         liste, punkt, PktText::Create(nummer, farbe, umgebung_.Anzeige()), ort, static_cast<PunktIndex>(nr)));
+    const Bildpunkt b = liste.Bildort(ort);
+    QString text = QStringLiteral("Punkt %1 eingefügt").arg(AusNetz(nummer));
+    if (!liste.Dargestellt(punkt)) {
+        text += QStringLiteral("; Punkte dieser Art sind gerade ausgeschaltet");
+    } else if (b.x < 0 || b.y < 0 || b.x >= liste.Weite || b.y >= liste.Hoehe) {
+        text += QStringLiteral("; er liegt außerhalb des Bildes („F“ passt ein)");
+    }
+    umgebung_.ZeigeStatus(text);
 }
 
 }  // namespace zrw

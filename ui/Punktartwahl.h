@@ -23,19 +23,31 @@ class Punktartwahl {
 
     [[nodiscard]] TFormPunktart& Fenster() { return *fenster_; }
     void Waehle(PunktKnoten& punkt);
+    [[nodiscard]] const PunktKnoten* Gewaehlt() const { return gewaehlt_; }
     /// Nothing is picked any more.
     void Loese() { gewaehlt_ = nullptr; }
     /// The picked point may have moved or gone.
     void NetzGeaendert();
 
   private:
+    /// What the window shows of the picked point.
+    struct Stand {
+        double rechts = 0;
+        double hoch = 0;
+        PunktTyp symbol = PunktTyp::Pkt;
+        Farbe farbe;
+        bool operator==(const Stand&) const = default;
+    };
+    [[nodiscard]] static Stand StandVon(const PunktKnoten& p) {
+        return {p.XWPu, p.YWPu, p.Item->PktTyp, p.Item->Farbe};
+    }
     void Zeichne();
     void FuegeEin(const Punkteingabe& eingabe, Welt ort);
 
     Werkzeugumgebung& umgebung_;
     Dialogdienst& dialoge_;
     TFormPunktart* fenster_;
-    Welt gewaehltOrt_;  ///< as the window shows it
+    Stand gezeigt_;
     PunktKnoten* gewaehlt_ = nullptr;
 };
 

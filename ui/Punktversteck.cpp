@@ -27,6 +27,13 @@ Punktversteck::Punktversteck(Werkzeugumgebung& umgebung, QWidget* eltern)
     : umgebung_(umgebung), auswahl_(new TFormHidePunkte(eltern)), versteckte_(new TFormHiddenPkt(eltern)) {
     versteckte_->zeige = [this](const QString& nummer) { zuZeigen_ << nummer; };
     versteckte_->fertig = [this] { Zeige(std::exchange(zuZeigen_, {})); };
+    versteckte_->hindernis = [this](const QString& nummer) {
+        const Liste* netz = umgebung_.AktuelleListe();
+        if (netz == nullptr) return QString();
+        const PunktKnoten* p = netz->FindPunkt(Utf8NachCp1252(NachUtf8(nummer)));
+        if (p == nullptr) return QStringLiteral("nicht im geöffneten Netz");
+        return p->Item->Visible ? QStringLiteral("ist schon zu sehen") : QString();
+    };
     auswahl_->verstecken = [this](const QStringList& nummern) { Verberge(nummern); };
 }
 
@@ -34,6 +41,7 @@ Punktversteck::Punktversteck(Werkzeugumgebung& umgebung, QWidget* eltern)
 Punktversteck::~Punktversteck() {
     versteckte_->zeige = {};
     versteckte_->fertig = {};
+    versteckte_->hindernis = {};
     auswahl_->verstecken = {};
 }
 

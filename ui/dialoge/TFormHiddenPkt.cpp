@@ -6,17 +6,31 @@
 #include <QStringListModel>
 #include <algorithm>
 
+#include "ui/Nummernordnung.h"
+
 namespace zrw {
-namespace {
 
-bool Vor(const QString& a, const QString& b) {
-    return a.compare(b, Qt::CaseInsensitive) < 0;
-}
+/// The list outlives a network: what is of no use in the open one is greyed, not removed.
+class TFormHiddenPkt::Nummernmodell final : public QStringListModel {
+  public:
+    explicit Nummernmodell(TFormHiddenPkt& fenster) : QStringListModel(&fenster), fenster_(fenster) {}
 
-}  // namespace
+    [[nodiscard]] QVariant data(const QModelIndex& stelle, int rolle) const override {
+        if (rolle != Qt::ForegroundRole && rolle != Qt::ToolTipRole)
+            return QStringListModel::data(stelle, rolle);
+        const QString nummer = QStringListModel::data(stelle, Qt::DisplayRole).toString();
+        const QString grund = fenster_.hindernis ? fenster_.hindernis(nummer) : QString();
+        if (grund.isEmpty()) return {};
+        if (rolle == Qt::ToolTipRole) return grund;
+        return fenster_.palette().brush(QPalette::Disabled, QPalette::Text);
+    }
+
+  private:
+    const TFormHiddenPkt& fenster_;
+};
 
 TFormHiddenPkt::TFormHiddenPkt(QWidget* eltern)
-    : QDialog(eltern), ListBox1_(new QListView(this)), nummern_(new QStringListModel(this)) {
+    : QDialog(eltern), ListBox1_(new QListView(this)), nummern_(new Nummernmodell(*this)) {
     setObjectName(QStringLiteral("TFormHiddenPkt"));
     setWindowTitle(QStringLiteral("Versteckte Punkte"));
     ListBox1_->setObjectName(QStringLiteral("ListBox1"));
@@ -43,9 +57,14 @@ TFormHiddenPkt::TFormHiddenPkt(QWidget* eltern)
     connect(schliessen, &QPushButton::clicked, this, &QDialog::close);
 }
 
+void TFormHiddenPkt::NetzGeaendert() {
+    ListBox1_->viewport()->update();
+}
+
 void TFormHiddenPkt::Nimm(const QString& nummer) {
     const QStringList alle = nummern_->stringList();
-    const int ort = static_cast<int>(std::upper_bound(alle.begin(), alle.end(), nummer, Vor) - alle.begin());
+    const int ort =
+        static_cast<int>(std::upper_bound(alle.begin(), alle.end(), nummer, NummerVor) - alle.begin());
     // Inserted instead of set anew, so that the rows around it stay selected.
     nummern_->insertRow(ort);
     nummern_->setData(nummern_->index(ort), nummer);
@@ -53,7 +72,7 @@ void TFormHiddenPkt::Nimm(const QString& nummer) {
 
 void TFormHiddenPkt::Nimm(const QStringList& nummern) {
     QStringList alle = nummern_->stringList() + nummern;
-    std::stable_sort(alle.begin(), alle.end(), Vor);
+    OrdneNummern(alle);
     nummern_->setStringList(alle);
 }
 

@@ -6,7 +6,6 @@
 #include <functional>
 
 class QListView;
-class QStringListModel;
 
 namespace zrw {
 
@@ -23,6 +22,11 @@ class TFormHiddenPkt final : public QDialog {
     /// Removes one entry of this text, if there is one.
     void Entferne(const QString& nummer);
     [[nodiscard]] QStringList Nummern() const;
+    /// Why "Anzeigen" would change nothing for a number: it then is greyed, with this as its hint. Empty: it
+    /// would.
+    std::function<QString(const QString& nummer)> hindernis;
+    /// Points have come, gone, or been shown elsewhere.
+    void NetzGeaendert();
 
     /// "Anzeigen", unless the list is empty: once for each selected entry in the order of the list. The
     /// entries are gone by then.
@@ -30,10 +34,11 @@ class TFormHiddenPkt final : public QDialog {
     std::function<void()> fertig;  ///< once afterwards, even if none was selected
 
   private:
+    class Nummernmodell;
     void Zeige();
 
     QListView* ListBox1_;
-    QStringListModel* nummern_;
+    Nummernmodell* nummern_;
 };
 
 }  // namespace zrw

@@ -1,5 +1,8 @@
 #include "ui/werkzeuge/BeobachtungBearbeiten.h"
 
+#include <utility>
+
+#include "ui/Umwandlung.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/dialoge/TFormBeobTyp.h"
 #include "ui/werkzeuge/Markierung.h"
@@ -67,10 +70,13 @@ void BeobachtungBearbeiten::TypGewaehlt() {
 }
 
 void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
-    PunktKnoten& erster = *erster_;
-    Abbrechen();
-    umgebung_.ZeigeStatus(Anleitung());
-    if (&erster == &zweiter || erster.PNr == zweiter.PNr) return;
+    if (erster_->PNr == zweiter.PNr) return;  // a double click
+    const PunktKnoten& erster = *std::exchange(erster_, nullptr);
+    const auto melde = [&](const char* was) {
+        umgebung_.ZeigeStatus(QStringLiteral("Beobachtung %1 – %2 %3")
+                                  .arg(AusNetz(netz.GetPktText(erster.PNr)),
+                                       AusNetz(netz.GetPktText(zweiter.PNr)), QString::fromUtf8(was)));
+    };
     PunktKante* vorhanden = netz.FindKante(erster.PNr, zweiter.PNr);
     const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(),
                                        vorhanden != nullptr ? vorhanden->Item->KAttr : KanteAttr());
@@ -78,12 +84,14 @@ void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
         // What is one-sided points from the first point to the second.
         const Beobachtungswahl wahl = umgebung_.Beobachtungsdialog().Wahl();
         const bool drehen = vorhanden->ANr != erster.PNr && (wahl.richtung == 1 || wahl.hoehe == 1);
-        if (!drehen && typ == Beobachtungstyp{vorhanden->Item->LAttr, vorhanden->Item->KAttr}) return;
+        if (!drehen && typ == Beobachtungstyp{vorhanden->Item->LAttr, vorhanden->Item->KAttr})
+            return melde("ist schon so");
         umgebung_.Tue(std::make_unique<KanteGeaendert>(netz, *vorhanden, typ.richtung, typ.weitere, drehen));
-        return;
+        return melde("geändert");
     }
     const Kante neu = Kante::Create(umgebung_.Anzeige().GPSCol, typ.weitere, typ.richtung);
     umgebung_.Tue(std::make_unique<KanteEingefuegt>(netz, neu, erster.PNr, zweiter.PNr));
+    melde("eingefügt");
 }
 
 void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {
@@ -96,17 +104,14 @@ void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {
 }
 
 void BeobachtungBearbeiten::ZeigeGewaehltes(const Vorschau& dazu) {
-    const Vorschau gewaehlt = erster_ != nullptr ? MarkiereTreffer(erster_) : MarkiereTreffer(kante_);
-    umgebung_.ZeigeVorschau([=](Zeichner& z, Zeichenflaeche& f) {
-        if (gewaehlt) gewaehlt(z, f);
-        if (dazu) dazu(z, f);
-    });
+    umgebung_.ZeigeVorschau(
+        Zusammen(erster_ != nullptr ? MarkiereTreffer(erster_) : MarkiereTreffer(kante_), dazu));
 }
 
 void BeobachtungBearbeiten::Abbrechen() {
     kante_ = nullptr;
-    erster_ = nullptr;
     umgebung_.ZeigeVorschau({});
+    if (std::exchange(erster_, nullptr) != nullptr) umgebung_.ZeigeStatus(Anleitung());
 }
 
 void BeobachtungBearbeiten::NetzGeaendert() {

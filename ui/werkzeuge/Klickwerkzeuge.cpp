@@ -2,6 +2,7 @@
 
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/werkzeuge/Markierung.h"
+#include "ui/werkzeuge/Nummernfang.h"
 
 namespace zrw {
 
@@ -50,15 +51,21 @@ QString PunktartWaehlen::Anleitung() const {
     return QStringLiteral("Punktart ändern: Punkt anklicken, Angaben wählen, „Zeichnen“.");
 }
 
+/// The point that the window shows stays marked.
+Vorschau PunktartWaehlen::Treffer(Liste& netz, Bildpunkt ort) const {
+    return Zusammen(MarkiereTreffer(Umgebung().GewaehlterPunkt()), Punktwerkzeug::Treffer(netz, ort));
+}
+
 void PunktartWaehlen::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
     Umgebung().WaehlePunkt(punkt);
+    Umgebung().ZeigeVorschau(MarkiereTreffer(&punkt));
 }
 
 namespace {
 
-PPunktString Nummer(Liste& netz, Bildpunkt ort) {
+PPunktString Nummer(const Werkzeugumgebung& umgebung, Liste& netz, Bildpunkt ort) {
     if (!netz.ShowPktText || !netz.ShowHilfP) return nullptr;
-    if (PPunktString t = netz.ClickGezeigtenText(ort); t != nullptr) return t;
+    if (PPunktString t = NummerUnter(umgebung, netz, ort); t != nullptr) return t;
     const PunktKnoten* p = netz.ClickGezeigten(ort);
     PPunktString text = p != nullptr ? netz.FindText(p->PNr) : nullptr;
     return text != nullptr && text->Item->Visible ? text : nullptr;
@@ -71,12 +78,11 @@ QString NummerVerstecken::Anleitung() const {
 }
 
 Vorschau NummerVerstecken::Treffer(Liste& netz, Bildpunkt ort) const {
-    const PunktString* text = Nummer(netz, ort);
-    return text != nullptr ? MarkiereText(*text->Item) : Vorschau();
+    return MarkiereText(Umgebung(), Nummer(Umgebung(), netz, ort));
 }
 
 void NummerVerstecken::Klick(Liste& netz, Bildpunkt ort) {
-    PPunktString text = Nummer(netz, ort);
+    PPunktString text = Nummer(Umgebung(), netz, ort);
     if (text == nullptr) return;
     auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punktnummer verstecken"));
     aenderung->Nimm(*text, false);

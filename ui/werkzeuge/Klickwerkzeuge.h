@@ -12,6 +12,7 @@ class Klickwerkzeug : public Werkzeug {
     void Druecken(Bildpunkt ort) final;
     void Ziehen(Bildpunkt /*ort*/) final {}
     void Loslassen(Bildpunkt /*ort*/) final {}
+    [[nodiscard]] bool EinKlickGenuegt() const final { return true; }
     void Schweben(Bildpunkt ort) final;
     void Abbrechen() final { umgebung_.ZeigeVorschau({}); }
     [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::PointingHandCursor; }
@@ -62,6 +63,7 @@ class PunktartWaehlen final : public Punktwerkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   protected:
+    [[nodiscard]] Vorschau Treffer(Liste& netz, Bildpunkt ort) const override;
     void Nimm(Liste& netz, PunktKnoten& punkt) override;
 };
 

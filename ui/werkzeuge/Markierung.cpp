@@ -1,6 +1,7 @@
 #include "ui/werkzeuge/Markierung.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "output/Abschneiden.h"
 
@@ -35,13 +36,14 @@ Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende) {
     };
 }
 
-Vorschau MarkiereText(const PktText& text) {
-    return [text](Zeichner& /*z*/, Zeichenflaeche& f) {
-        const std::int32_t breite = f.Textbreite(text.Aus.Text());
-        if (!InReichweite(text.Textort(), breite + kRand, f.Sichtbar())) return;
-        const auto o = Aufflaeche(text.Textort());
+Vorschau MarkiereText(const Werkzeugumgebung& umgebung, const PunktString* text) {
+    if (text == nullptr) return {};
+    return [r = umgebung.Textrahmen(*text->Item)](Zeichner& /*z*/, Zeichenflaeche& f) {
+        if (!InReichweite({r.links, r.oben}, r.rechts - r.links + kRand, f.Sichtbar())) return;
+        const auto o = Aufflaeche({r.links, r.oben});
+        const auto u = Aufflaeche({r.rechts, r.unten});
         const auto stift = Markierstift(f, 1);
-        f.ZeichneRechteck({o.x - kRand, o.y - kRand, o.x + breite + kRand, o.y + f.Texthoehe() + kRand});
+        f.ZeichneRechteck({o.x - kRand, o.y - kRand, u.x + kRand, u.y + kRand});
     };
 }
 
@@ -60,16 +62,20 @@ Vorschau MarkiereRechteck(Bildpunkt a, Bildpunkt b) {
     };
 }
 
+Vorschau Zusammen(Vorschau unten, Vorschau oben) {
+    if (!unten || !oben) return unten ? unten : oben;
+    return [unten = std::move(unten), oben = std::move(oben)](Zeichner& z, Zeichenflaeche& f) {
+        unten(z, f);
+        oben(z, f);
+    };
+}
+
 Vorschau MarkiereTreffer(const PunktKnoten* punkt) {
     return punkt != nullptr ? MarkierePunkt(punkt->Item->Position()) : Vorschau();
 }
 
 Vorschau MarkiereTreffer(const PunktKante* kante) {
     return kante != nullptr ? MarkiereKante(kante->Item->Position(), kante->Item->Ende()) : Vorschau();
-}
-
-Vorschau MarkiereTreffer(const PunktString* text) {
-    return text != nullptr ? MarkiereText(*text->Item) : Vorschau();
 }
 
 }  // namespace zrw

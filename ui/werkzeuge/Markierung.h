@@ -7,13 +7,15 @@ namespace zrw {
 
 [[nodiscard]] Vorschau MarkierePunkt(Bildpunkt ort);
 [[nodiscard]] Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende);
-/// Frame round a label.
-[[nodiscard]] Vorschau MarkiereText(const PktText& text);
+/// Frame round a label; nothing for null.
+[[nodiscard]] Vorschau MarkiereText(const Werkzeugumgebung& umgebung, const PunktString* text);
 [[nodiscard]] Vorschau MarkiereRechteck(Bildpunkt a, Bildpunkt b);
+
+/// Both, the second above the first; either may be empty.
+[[nodiscard]] Vorschau Zusammen(Vorschau unten, Vorschau oben);
 
 // The same for what is under the mouse; nothing where there is nothing.
 [[nodiscard]] Vorschau MarkiereTreffer(const PunktKnoten* punkt);
 [[nodiscard]] Vorschau MarkiereTreffer(const PunktKante* kante);
-[[nodiscard]] Vorschau MarkiereTreffer(const PunktString* text);
 
 }  // namespace zrw

@@ -5,21 +5,23 @@
 #include "model/Ganzzahl.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/werkzeuge/Markierung.h"
+#include "ui/werkzeuge/Nummernfang.h"
 
 namespace zrw {
 
 QString NummerVerschieben::Anleitung() const {
-    return QStringLiteral("Punktnummer verschieben: Anfang der Nummer mit gedrückter Maustaste ziehen.");
+    return QStringLiteral("Punktnummer verschieben: Nummer mit gedrückter Maustaste ziehen.");
 }
 
 void NummerVerschieben::Schweben(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
-    umgebung_.ZeigeVorschau(MarkiereTreffer(netz != nullptr ? netz->ClickGezeigtenText(ort) : nullptr));
+    umgebung_.ZeigeVorschau(
+        MarkiereText(umgebung_, netz != nullptr ? NummerUnter(umgebung_, *netz, ort) : nullptr));
 }
 
 void NummerVerschieben::Druecken(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
-    text_ = netz != nullptr ? netz->ClickGezeigtenText(ort) : nullptr;
+    text_ = netz != nullptr ? NummerUnter(umgebung_, *netz, ort) : nullptr;
     if (text_ == nullptr) return;
     anfang_ = ort;
     text_->Item->Hide(umgebung_.Bildzeichner());

@@ -58,6 +58,10 @@ class Werkzeugumgebung {
     virtual void VerbergePunkt(PunktKnoten& punkt) = 0;
     /// Fills the dialog of the point kinds.
     virtual void WaehlePunkt(PunktKnoten& punkt) = 0;
+    /// The point that it shows, null without one.
+    [[nodiscard]] virtual const PunktKnoten* GewaehlterPunkt() const = 0;
+    /// How much of the picture a label takes [px].
+    [[nodiscard]] virtual Bildbereich Textrahmen(const PktText& text) const = 0;
     /// Lists the results of a point or a line; one of them is null.
     virtual void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) = 0;
     [[nodiscard]] virtual TFormBeobTyp& Beobachtungsdialog() = 0;
@@ -74,7 +78,9 @@ class Werkzeug {
     virtual void Druecken(Bildpunkt ort) = 0;
     virtual void Ziehen(Bildpunkt ort) = 0;
     virtual void Loslassen(Bildpunkt ort) = 0;
-    /// The mouse moves with no button down.
+    /// One press does all there is to do; the second of a double click is not meant.
+    [[nodiscard]] virtual bool EinKlickGenuegt() const { return false; }
+    /// The mouse moves with no button down, or has left the picture for a position far outside.
     virtual void Schweben(Bildpunkt /*ort*/) {}
     /// The right button without a drag under way.
     virtual void RechteTaste() { Abbrechen(); }

@@ -1,5 +1,7 @@
 #include "ui/werkzeuge/ZentrierenMaus.h"
 
+#include <utility>
+
 #include "ui/werkzeuge/Markierung.h"
 
 namespace zrw {
@@ -20,26 +22,21 @@ void ZentrierenMaus::Druecken(Bildpunkt ort) {
         return;
     }
     if (punkt == exzentrum_) return;  // a double click
-    PunktKnoten& exzentrum = *exzentrum_;
-    Abbrechen();
+    PunktKnoten& exzentrum = *std::exchange(exzentrum_, nullptr);
     umgebung_.Zentriere(exzentrum, *punkt);
 }
 
 void ZentrierenMaus::Schweben(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     if (netz == nullptr) return;
-    const Vorschau unterMaus = MarkiereTreffer(netz->ClickGezeigten(ort));
-    const Vorschau gewaehlt = MarkiereTreffer(exzentrum_);
-    umgebung_.ZeigeVorschau([=](Zeichner& z, Zeichenflaeche& f) {
-        if (gewaehlt) gewaehlt(z, f);
-        if (unterMaus) unterMaus(z, f);
-    });
+    umgebung_.ZeigeVorschau(
+        Zusammen(MarkiereTreffer(exzentrum_), MarkiereTreffer(netz->ClickGezeigten(ort))));
     if (exzentrum_ != nullptr) umgebung_.ZeigeStatus(Anleitung());
 }
 
 void ZentrierenMaus::Abbrechen() {
-    exzentrum_ = nullptr;
     umgebung_.ZeigeVorschau({});
+    if (std::exchange(exzentrum_, nullptr) != nullptr) umgebung_.ZeigeStatus(Anleitung());
 }
 
 void ZentrierenMaus::NetzGeaendert() {
