@@ -193,8 +193,8 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
     ereignis->accept();
 }
 
-/// The files of this machine among what is dragged: addresses of the web cannot be opened. None where the other
-/// program would delete them afterwards.
+/// The files of this machine among what is dragged: addresses of the web cannot be opened. None where the
+/// other program would delete them afterwards.
 static QStringList Gezogene(const QDropEvent& ereignis) {
     QStringList dateien;
     if ((ereignis.possibleActions() & Qt::CopyAction) == 0) return dateien;

@@ -21,7 +21,7 @@ bild mit mit
 for schalter in lageverb hoehenverb lagegen hoehengen; do bild "$schalter" mit --ein "$schalter"; done
 bild balken ohne --ein lageverb
 head -c 3000 "$ort/mit/KooTABLE.DB" >"$ort/mit/kurz" && mv "$ort/mit/kurz" "$ort/mit/KooTABLE.DB"
-bild kaputt mit --ein lagegen
+! bild kaputt mit --ein lagegen || { echo "Die unlesbare Tabelle blieb ohne Folge." && exit 1; }
 mv "$ort/mit/STRTABLE.DB" "$ort/mit/strtable.db"
 bild klein mit
 
