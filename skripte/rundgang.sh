@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
 # Drives the real window through a day's work, as a user would: skripte/rundgang.sh ZARWIK [FOLDER FOR SCREENSHOTS]
+# With --bilder in place of the folder the pictures of the documents (docs/bilder) are made anew.
 # Needs no display: it starts one of its own. The plot that everything was undone in must be the one from the start.
 set -euo pipefail
 zarwik=$(readlink -f "$1")
 wurzel=$(cd "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")/.." && pwd)
 . "$wurzel/skripte/pakete.sh"
 brauche xvfb xdotool openbox imagemagick
-bilder=$(readlink -f "${2:-$(mktemp -d)}")
+neu=
+[ "${2:-}" != --bilder ] || neu=$wurzel/docs/bilder
+bilder=$(readlink -f "$([ -n "$neu" ] && mktemp -d || echo "${2:-$(mktemp -d)}")")
 ordner=$(mktemp -d)
 mkdir -p "$bilder"
 cp "$wurzel"/beispiele/*.EIN "$wurzel"/beispiele/*.?F "$wurzel"/beispiele/*.DB "$ordner"
@@ -115,8 +118,26 @@ taste Return
 sleep 0.5
 xdotool getwindowname "$fenster" | grep -q 'zentriert.ZRW$' || { echo "Nicht wieder geöffnet." && exit 1; }
 bild 09_wieder_geoeffnet
+klick 275 80 # TK25
+taste ctrl+l # the legend: two lines of text, then its box
+xdotool type 'Netz Vogelsberg (frei erfunden)'
+taste Tab
+xdotool type 'Stand der Ausgleichung 3'
+taste Tab space Escape
+ziehe 2 118 940 600
+nach 1100 400
+bild 13_gitter
 xdotool key ctrl+q
 sleep 0.5
 xdotool key n
 wait $programm
+if [ -n "$neu" ]; then
+    for paar in 01_geoeffnet=fenster 02_vergroessert=vergroessert 03_punkt_verschoben=punkt_verschieben \
+        10_ergebnisse=ergebnisse 12_vorschau=vorschau 13_gitter=gitter; do
+        cp "$bilder/${paar%=*}.png" "$neu/${paar#*=}.png"
+    done
+    convert "$bilder/11_abriss.png" -crop 1182x822+0+0 +repage "$neu/abriss.png"
+    "$zarwik" --export png --ziel "$bilder" "$wurzel/beispiele/LINIEN.ZRW"
+    cp "$bilder/LINIEN.png" "$neu/linienstile.png"
+fi
 echo "Rundgang beendet, Bilder in $bilder"
