@@ -96,7 +96,11 @@ constexpr std::array<Option, 11> kOptionen{{
      }},
     {"--ziel", [](Aufruf& a, const std::string& w) { a.ziel = w; }},
     {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
-    {"--massstab", [](Aufruf& a, const std::string& w) { a.massstab = LiesMassstabtext(w); }},
+    {"--massstab",
+     [](Aufruf& a, const std::string& w) {
+         a.massstab = LiesMassstabtext(w);
+         a.passend = false;
+     }},
     {"--dpi", [](Aufruf& a, const std::string& w) { a.dpi = LiesAufloesung(w); }},
     {"--papier", [](Aufruf& a, const std::string& w) { a.papier = LiesPapier(w); }},
     {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
@@ -162,7 +166,8 @@ std::string Hilfetext() {
            "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner); er wird angelegt\n"
            "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x800,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
-           "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf, plt und pdf (sonst 25000)\n"
+           "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf, plt und pdf (sonst 25000; in der pdf\n"
+           "                         der größte runde, in dem der Plan auf ein Blatt passt)\n"
            "  --dpi ZAHL             Auflösung des Drucks in Punkten je Zoll (sonst 600)\n"
            "  --papier FORMAT        Papier für pdf: A4, A3, A2, A1 oder A0 (sonst A4)\n"
            "  --quer                 Papier im Querformat\n"

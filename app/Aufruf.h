@@ -26,7 +26,8 @@ struct Aufruf {
     std::vector<std::string> formate;  ///< names from the format table
     std::string ziel;                  ///< target folder; empty: the working folder
     std::optional<Bildgroesse> groesse;
-    std::string massstab = kUeblicherMassstab;   ///< denominator, readable by `LiesMassstab`
+    std::string massstab = kUeblicherMassstab;  ///< denominator, readable by `LiesMassstab`
+    bool passend = true;  ///< none was given: documents take the one at which the plan fits their sheet
     int dpi = kUeblicheAufloesung;               ///< resolution of the print [dots per inch]
     Papier papier = kPapierformate[0].hochkant;  ///< upright
     bool quer = false;                           ///< the paper lies on its long side

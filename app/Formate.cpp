@@ -4,10 +4,12 @@
 #include <QByteArray>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "model/Bilddatei.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
+#include "model/Zahlentext.h"
 #include "output/Blattschnitt.h"
 #include "output/Druck.h"
 #include "output/Export.h"
@@ -58,34 +60,59 @@ void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
     flaeche.Beende();
 }
 
-/// A sheet of paper at scale, as a printer would print it.
+/// Scale of a document: the one that was asked for, or else the largest at which the plan fits its sheet.
+struct Planmassstab {
+    double wert;
+    std::string text;
+};
+
+Planmassstab MassstabFuer(const Ausgabe& a, const Druckplan& plan, const Druckseite& seite) {
+    const auto passend = a.passend ? PassenderMassstab(plan, seite) : std::nullopt;
+    if (!passend) return {a.massstab, a.massstabtext};
+    return {*passend, *passend == std::floor(*passend) ? Festkomma(*passend, 0, 0) : SchreibeReal(*passend)};
+}
+
+/// The sheets to be written; tells where they do not hold all of the plan.
+std::vector<Blatt> WaehleBlaetter(const Ausgabe& a, const Druckplan& plan, double massstab,
+                                  const Druckseite& seite, const std::filesystem::path& datei) {
+    const auto sage = [&](const std::string& text) {
+        a.sage(Fehler::Meldung("Der Plan braucht in diesem Maßstab " + text + ".", PfadText(datei), 0));
+    };
+    std::vector<Blatt> blaetter;
+    try {
+        blaetter = Blattaufteilung(plan, massstab, seite);
+    } catch (const Fehler&) {
+        if (a.alleBlaetter) throw;
+        if (const auto erstes = ErstesBlatt(plan, massstab, seite)) blaetter = {*erstes};
+        sage("mehr als " + std::to_string(kMeisteBlaetter) +
+             " Blätter; geschrieben ist eines am oberen Rand");
+    }
+    if (blaetter.empty()) return {{0, 0, a.liste.BildinWelt({})}};  // frame, legend and grids alone
+    if (a.alleBlaetter || blaetter.size() == 1) return blaetter;
+    const Blatt& erstes = blaetter.front();
+    sage(std::to_string(blaetter.size()) + " Blätter; geschrieben ist das erste (Zeile " +
+         std::to_string(erstes.zeile + 1) + ", Spalte " + std::to_string(erstes.spalte + 1) +
+         "), --alle-blaetter schreibt alle");
+    return {erstes};
+}
+
+/// Sheets of paper at scale, as a printer would print them.
 void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
     Pdfflaeche flaeche(a.dateien.Beginne(datei), a.papier, a.dpi, {Titel(a), nullptr});
     Einstellungen groessen = a.einstellungen;  // printing scales them
     const Systemuhr uhr;
     Figurenzeichner zeichner(a.zustand, groessen, a.netz, uhr);
-    Druckauftrag auftrag{a.massstab, a.massstabtext, Bedruckbar(a.papier, a.dpi), {}};
-    const Welt ecke = a.liste.BildinWelt({});
-    std::vector<Blatt> blaetter;
-    try {
-        blaetter = Blattschnitt(a.liste, a.massstab, auftrag.seite, ecke);
-    } catch (const Fehler&) {
-        if (a.alleBlaetter) throw;
-    }
-    if (!a.alleBlaetter || blaetter.empty()) {
-        if (blaetter.size() > 1) {
-            a.sage(Fehler::Meldung(
-                "Der Plan braucht in diesem Maßstab " + std::to_string(blaetter.size()) +
-                    " Blätter; geschrieben ist das oben links (--alle-blaetter schreibt alle).",
-                PfadText(datei), 0));
-        }
-        blaetter = {{0, 0, ecke}};
-    }
+    const Druckplan plan{a.liste, zeichner, a.zustand, groessen, flaeche};
+    const Druckseite seite = Bedruckbar(a.papier, a.dpi);
+    const auto [massstab, text] = MassstabFuer(a, plan, seite);
+    const std::vector<Blatt> blaetter = WaehleBlaetter(a, plan, massstab, seite, datei);
+    // Pictures of the same call name the scale that holds for them.
+    const std::string vorher = a.liste.Legend->Masstab;
     for (std::size_t i = 0; i < blaetter.size(); ++i) {
         if (i > 0) flaeche.NeueSeite();
-        auftrag.ecke = blaetter[i].ecke;
-        Drucke(a.liste, zeichner, a.zustand, groessen, flaeche, auftrag);
+        Drucke(a.liste, zeichner, a.zustand, groessen, flaeche, {massstab, text, seite, blaetter[i].ecke});
     }
+    a.liste.Legend->Masstab = vorher;
     flaeche.Beende();
 }
 

@@ -21,10 +21,11 @@ struct Ausgabe {
     Dateien& dateien;
     double massstab;           ///< scale denominator of the print
     std::string massstabtext;  ///< the same as the legend names it
-    int dpi;                   ///< resolution of the print [dots per inch]
-    Papier papier;             ///< as it lies
-    bool alleBlaetter;         ///< every sheet of the print that holds something, not the first alone
-    bool ausBild;              ///< from a picture file
+    bool passend;       ///< no scale was asked for: a document takes the one at which the plan fits its sheet
+    int dpi;            ///< resolution of the print [dots per inch]
+    Papier papier;      ///< as it lies
+    bool alleBlaetter;  ///< every sheet of the print that holds something, not the first alone
+    bool ausBild;       ///< from a picture file
     void (*sage)(const std::string& text);  ///< what the user should know of, UTF-8
     std::string_view eingabe;               ///< name of the input without folder and extension, UTF-8
 };

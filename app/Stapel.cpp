@@ -97,6 +97,7 @@ bool Exportiere(const Aufruf& aufruf) {
                           .dateien = dateien,
                           .massstab = *LiesMassstab(aufruf.massstab),
                           .massstabtext = aufruf.massstab,
+                          .passend = aufruf.passend,
                           .dpi = aufruf.dpi,
                           .papier = aufruf.quer ? aufruf.papier.Gedreht() : aufruf.papier,
                           .alleBlaetter = aufruf.alleBlaetter,

@@ -146,7 +146,10 @@ void PruefeBlaetter(zrw::Liste& liste, zrw::Figurenzeichner& z, zrw::Zeichenzust
     pdf.Beende();
     zrw::fuzz::Verlange(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
     try {
-        (void)zrw::Blattschnitt(liste, 25000, seite, liste.BildinWelt({}));
+        const zrw::Druckplan plan{liste, z, zustand, einstellungen, pdf};
+        const bool leer = zrw::Blattschnitt(plan, 25000, seite, liste.BildinWelt({})).empty();
+        zrw::fuzz::Verlange(zrw::Blattaufteilung(plan, 25000, seite).empty() == leer, "beide finden etwas");
+        (void)zrw::PassenderMassstab(plan, seite);
     } catch (const zrw::Fehler&) {  // too many sheets
     }
     zrw::SchreibeGeojson(liste, netz, einstellungen, zustand.Ergebnisse, dateien, "a.geojson");

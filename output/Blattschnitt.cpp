@@ -1,105 +1,361 @@
 #include "output/Blattschnitt.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <set>
+#include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <utility>
 
 #include "model/Fehler.h"
+#include "model/Raumbaum.h"
+#include "model/Zahlentext.h"
+#include "output/Abschneiden.h"
 #include "output/Export.h"
+#include "output/Geraeteansicht.h"
+#include "output/Messflaeche.h"
 
 namespace zrw {
+
+void Bandmesser::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    if (von.y > nach.y) std::swap(von, nach);
+    if (von.y >= unten_) return;
+    links_ = std::min(links_, von.x);
+    if (nach.y < unten_) {
+        links_ = std::min(links_, nach.x);
+        return;
+    }
+    const double hoehe = nach.y - static_cast<double>(von.y);
+    const double teil = (unten_ - 1.0 - von.y) / hoehe;
+    const double x = von.x + teil * (nach.x - static_cast<double>(von.x));
+    links_ = std::min(links_, static_cast<std::int32_t>(std::floor(x)));
+}
+
 namespace {
 
-/// Sheets are counted from the first one; further away than this there is no paper.
-constexpr double kWeitestes = 1e6;
+/// Parts of a sheet, to each side, by which the origin is shifted to find the best one.
+constexpr int kFeinste = 16;
+/// No more of them along the plan: long lines would take too long.
+constexpr double kMeisteTeile = 256;
 
-class Schnitt {
+[[noreturn]] void ZuViele() {
+    throw Fehler("Der ganze Plan bräuchte in diesem Maßstab mehr als " + std::to_string(kMeisteBlaetter) +
+                 " Blätter. Bitte einen kleineren Maßstab oder größeres Papier wählen.");
+}
+
+struct Feld {
+    int zeile = 0;
+    int spalte = 0;
+};
+
+/// Ticks off the fields of a grid that something is drawn on.
+class Belegung final : public Messflaeche {
   public:
-    Schnitt(double breite, double hoehe, Welt ursprung)
-        : breite_(breite), hoehe_(hoehe), ursprung_(ursprung) {}
+    struct Raster {
+        double x0 = 0;  ///< top-left corner of the field of row and column 0 [dots]
+        double y0 = 0;
+        double weite = 1;  ///< of a field [dots]
+        double hoehe = 1;
+    };
+    /// @param hoechstens so many fields; with more than that it is `Voll` and listens no longer
+    Belegung(const Zeichenflaeche& geraet, const Raster& raster, std::size_t hoechstens)
+        : Messflaeche(geraet), raster_(raster), hoechstens_(hoechstens) {}
 
-    void Punkt(Welt w) {
-        if (!Endlich(w)) return;
-        const Lage l = LageVon(w);
-        Belege(Unten(l.zeile), Unten(l.spalte));
+    [[nodiscard]] bool Voll() const { return felder_.size() > hoechstens_; }
+    /// Row by row from the top left.
+    [[nodiscard]] std::vector<Feld> Felder() const {
+        std::vector<std::uint64_t> schluessel(felder_.begin(), felder_.end());
+        std::sort(schluessel.begin(), schluessel.end());
+        std::vector<Feld> felder;
+        felder.reserve(schluessel.size());
+        for (const std::uint64_t s : schluessel)
+            felder.push_back({Teil(s >> 32U), Teil(s & 0xFFFFFFFFU)});
+        return felder;
     }
 
-    /// Every sheet that the line crosses, column by column.
-    void Linie(Welt von, Welt nach) {
-        if (!Endlich(von) || !Endlich(nach)) return;
-        Lage a = LageVon(von);
-        Lage b = LageVon(nach);
-        if (a.spalte > b.spalte) std::swap(a, b);
-        const double steigung = b.spalte > a.spalte ? (b.zeile - a.zeile) / (b.spalte - a.spalte) : 0.0;
-        const auto zeileBei = [&](double spalte) {
-            return b.spalte > a.spalte ? a.zeile + (spalte - a.spalte) * steigung : b.zeile;
-        };
-        const int letzte = Unten(b.spalte);
-        for (int s = Unten(a.spalte); s <= letzte; ++s) {
-            const double links = s > a.spalte ? zeileBei(s) : a.zeile;
-            const double rechts = s + 1 < b.spalte ? zeileBei(s + 1) : b.zeile;
-            const int unten = Unten(std::max(links, rechts));
-            for (int z = Unten(std::min(links, rechts)); z <= unten; ++z)
-                Belege(z, s);
+    /// Every field that the line crosses, column by column.
+    void Linie(Flaechenpunkt von, Flaechenpunkt nach) override {
+        if (von.x > nach.x) std::swap(von, nach);
+        const double ax = Spalte(von.x);
+        const double ay = Zeile(von.y);
+        const double bx = Spalte(nach.x);
+        const double by = Zeile(nach.y);
+        const double steigung = bx > ax ? (by - ay) / (bx - ax) : 0.0;
+        const int letzte = Unten(bx);
+        for (int s = Unten(ax); s <= letzte && !Voll(); ++s) {
+            const double links = s > ax ? ay + (s - ax) * steigung : ay;
+            const double rechts = s + 1 < bx ? ay + (s + 1 - ax) * steigung : by;
+            Belege(Unten(std::min(links, rechts)), Unten(std::max(links, rechts)), s);
         }
     }
 
-    [[nodiscard]] std::vector<Blatt> Blaetter() const {
+  protected:
+    void Kasten(const Rechteck& r) override {
+        const int letzte = Unten(Spalte(r.rechts));
+        for (int s = Unten(Spalte(r.links)); s <= letzte && !Voll(); ++s)
+            Belege(Unten(Zeile(r.oben)), Unten(Zeile(r.unten)), s);
+    }
+
+  private:
+    // Far within 32 bits: fields are larger than dots or as large.
+    [[nodiscard]] double Spalte(std::int32_t x) const { return (x - raster_.x0) / raster_.weite; }
+    [[nodiscard]] double Zeile(std::int32_t y) const { return (y - raster_.y0) / raster_.hoehe; }
+    [[nodiscard]] static int Unten(double v) { return static_cast<int>(std::floor(v)); }
+
+    // Fields as keys that are in order as the fields are.
+    static constexpr std::int64_t kVersatz = std::int64_t{1} << 31U;
+    [[nodiscard]] static std::uint64_t Schluessel(int v) { return static_cast<std::uint64_t>(v + kVersatz); }
+    [[nodiscard]] static int Teil(std::uint64_t s) {
+        return static_cast<int>(static_cast<std::int64_t>(s) - kVersatz);
+    }
+    void Belege(int von, int bis, int spalte) {
+        for (int z = von; z <= bis && !Voll(); ++z) {
+            const std::uint64_t feld = Schluessel(z) << 32U | Schluessel(spalte);
+            if (feld == letztes_) continue;
+            felder_.insert(feld);
+            letztes_ = feld;
+        }
+    }
+
+    Raster raster_;
+    std::size_t hoechstens_;
+    std::unordered_set<std::uint64_t> felder_;
+    std::uint64_t letztes_ = ~std::uint64_t{0};
+};
+
+/// A place within the plan that positions are measured from: the digits of far ones end somewhere.
+std::optional<Welt> Bezug(const Liste& liste) {
+    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
+        const bool endlich = std::isfinite(p->XWPu) && std::isfinite(p->YWPu);
+        if (endlich && p->Item->Visible && liste.Dargestellt(*p->Item)) return Welt{p->XWPu, p->YWPu};
+    }
+    return std::nullopt;
+}
+
+/// Rectangle round a plan [dots]; its last row and column belong to it.
+struct Umfang {
+    double links, oben, rechts, unten;
+    [[nodiscard]] double Weite() const { return rechts - links + 1; }
+    [[nodiscard]] double Hoehe() const { return unten - oben + 1; }
+};
+
+/// A plan at the scale of its print, drawn onto surfaces that measure.
+class Messung {
+  public:
+    Messung(const Druckplan& plan, double massstab, const Druckseite& seite, Welt bezug)
+        : plan_(plan),
+          groessen_(plan.einstellungen),
+          bezug_(bezug),
+          dot_(Druckfaktor(massstab, seite.aufloesung)),
+          weite_(std::max(seite.weite, 1)),
+          hoehe_(std::max(seite.hoehe, 1)),
+          ansicht_(plan.liste, plan.zustand, dot_, bezug) {
+        const double geraetefaktor = seite.aufloesung / kBildaufloesung;
+        plan_.einstellungen.ScaleSizes(geraetefaktor);
+        plan_.zustand.modus = Zeichenmodus::Drucker;
+        plan_.zustand.Geraetefaktor = geraetefaktor;
+    }
+    /// From a copy: scaled back they could miss their value by one.
+    ~Messung() { plan_.einstellungen = groessen_; }
+    Messung(const Messung&) = delete;
+    Messung& operator=(const Messung&) = delete;
+
+    [[nodiscard]] double Weite() const { return weite_; }
+    [[nodiscard]] double Hoehe() const { return hoehe_; }
+    [[nodiscard]] const Zeichenflaeche& Geraet() const { return plan_.geraet; }
+
+    void Zeichne(Messflaeche& ziel) const {
+        Liste& l = plan_.liste;
+        plan_.zustand.flaeche = &ziel;
+        if (l.ShowBeob) l.DisplayKante(plan_.zeichner);
+        l.DisplayPunkte(plan_.zeichner);
+        if (l.ShowPktText) l.DisplayPktText(plan_.zeichner);
+        plan_.zeichner.ZeichnePunktRes(l);
+    }
+    /// None where nothing is drawn. @throws Fehler where points lie farther away than can be measured
+    [[nodiscard]] std::optional<Umfang> Miss() const {
+        constexpr std::int64_t kFern = Messflaeche::kReichweite;
+        for (const PunktKnoten* p = plan_.liste.PunktKnoten; p != nullptr; p = p->Next) {
+            const bool da = std::isfinite(p->XWPu) && std::isfinite(p->YWPu) && p->Item->Visible;
+            const Bildpunkt ort = p->Item->Position();
+            if (da && plan_.liste.Dargestellt(*p->Item) &&
+                !InReichweite(ort, 0, {-kFern, -kFern, kFern, kFern}))
+                ZuViele();
+        }
+        Umfangmesser messer(plan_.geraet);
+        Zeichne(messer);
+        const Rechteck r = messer.Umfang();
+        if (Leer(r)) return std::nullopt;
+        return Umfang{static_cast<double>(r.links), static_cast<double>(r.oben),
+                      static_cast<double>(r.rechts), static_cast<double>(r.unten)};
+    }
+    [[nodiscard]] bool PasstAufEines(const Umfang& u) const {
+        return u.Weite() <= weite_ && u.Hoehe() <= hoehe_;
+    }
+    [[nodiscard]] Welt Weltort(double x, double y) const {
+        return {bezug_.rechts + x * dot_, bezug_.hoch - y * dot_};
+    }
+    /// The sheets from an origin [dots]; none where they are too many.
+    [[nodiscard]] std::optional<std::vector<Blatt>> Blaetter(double x0, double y0,
+                                                             std::size_t hoechstens) const {
+        Belegung belegung(plan_.geraet, {x0, y0, weite_, hoehe_}, hoechstens);
+        Zeichne(belegung);
+        if (belegung.Voll()) return std::nullopt;
         std::vector<Blatt> blaetter;
-        for (const auto& [zeile, spalte] : belegt_) {
-            blaetter.push_back(
-                {zeile, spalte, {ursprung_.rechts + spalte * breite_, ursprung_.hoch - zeile * hoehe_}});
-        }
+        for (const Feld& f : belegung.Felder())
+            blaetter.push_back({f.zeile, f.spalte, Weltort(x0 + f.spalte * weite_, y0 + f.zeile * hoehe_)});
         return blaetter;
     }
 
   private:
-    struct Lage {
-        double zeile;
-        double spalte;
-    };
-    /// Positions that are no numbers lie nowhere.
-    [[nodiscard]] static bool Endlich(Welt w) { return std::isfinite(w.rechts) && std::isfinite(w.hoch); }
-    /// In sheets, downwards and to the right.
-    [[nodiscard]] Lage LageVon(Welt w) const {
-        const Lage l{(ursprung_.hoch - w.hoch) / hoehe_, (w.rechts - ursprung_.rechts) / breite_};
-        if (!(std::abs(l.zeile) < kWeitestes && std::abs(l.spalte) < kWeitestes)) ZuViele();
-        return l;
-    }
-    /// The next whole number below; far within its range by `kWeitestes`.
-    [[nodiscard]] static int Unten(double v) { return static_cast<int>(std::floor(v)); }
-    void Belege(int zeile, int spalte) {
-        belegt_.emplace(zeile, spalte);
-        if (belegt_.size() > kMeisteBlaetter) ZuViele();
-    }
-    [[noreturn]] static void ZuViele() {
-        throw Fehler("Der ganze Plan bräuchte in diesem Maßstab mehr als " + std::to_string(kMeisteBlaetter) +
-                     " Blätter. Bitte einen kleineren Maßstab oder größeres Papier wählen.");
-    }
-
-    double breite_;
+    const Druckplan& plan_;
+    Einstellungen groessen_;
+    Welt bezug_;
+    double dot_;
+    double weite_;
     double hoehe_;
-    Welt ursprung_;
-    std::set<std::pair<int, int>> belegt_;
+    Geraeteansicht ansicht_;
 };
+
+/// Quotient, rounded down.
+int Boden(int zahl, int teiler) {
+    return zahl / teiler - (zahl % teiler < 0 ? 1 : 0);
+}
+
+/// How many sheets it takes when they begin so many parts above and left of the plan, and which.
+struct Probe {
+    int oben = 0;
+    int links = 0;
+    std::vector<Feld> blaetter;  ///< row by row
+};
+
+/// Of all shifts by whole parts of a sheet, the first one with the fewest sheets.
+/// @param teile where something lies, in parts of a sheet @param k parts of a sheet to each side
+Probe BesteProbe(const std::vector<Feld>& teile, int k) {
+    Probe beste;
+    for (int links = 0; links < k; ++links) {
+        // Rows of parts, but columns of sheets: far fewer to look at for each shift downwards.
+        std::vector<std::pair<int, int>> streifen;
+        streifen.reserve(teile.size());
+        for (const Feld& f : teile)
+            streifen.emplace_back(f.zeile, Boden(f.spalte + links, k));
+        streifen.erase(std::unique(streifen.begin(), streifen.end()), streifen.end());
+        for (int oben = 0; oben < k; ++oben) {
+            std::vector<std::pair<int, int>> blaetter;
+            for (const auto& [zeile, spalte] : streifen)
+                blaetter.emplace_back(Boden(zeile + oben, k), spalte);
+            std::sort(blaetter.begin(), blaetter.end());
+            blaetter.erase(std::unique(blaetter.begin(), blaetter.end()), blaetter.end());
+            if (!beste.blaetter.empty() && blaetter.size() >= beste.blaetter.size()) continue;
+            beste = {oben, links, {}};
+            for (const auto& [zeile, spalte] : blaetter)
+                beste.blaetter.push_back({zeile, spalte});
+        }
+    }
+    return beste;
+}
+
+Probe SucheUrsprung(const Messung& m, const Umfang& umfang, int k) {
+    const auto felder = static_cast<std::size_t>(k) * static_cast<std::size_t>(k) * kMeisteBlaetter;
+    Belegung teile(m.Geraet(), {umfang.links, umfang.oben, m.Weite() / k, m.Hoehe() / k}, felder);
+    m.Zeichne(teile);
+    if (teile.Voll()) ZuViele();
+    Probe probe = BesteProbe(teile.Felder(), k);
+    if (probe.blaetter.size() > kMeisteBlaetter) ZuViele();
+    return probe;
+}
+
+/// Origin [dots] that puts the middle of a stretch into the middle of so many sheets.
+double Mittig(double von, double bis, double blaetter, double seite) {
+    return std::round((von + bis - blaetter * seite) / 2);
+}
 
 }  // namespace
 
-std::vector<Blatt> Blattschnitt(const Liste& liste, double massstab, const Druckseite& seite, Welt ursprung) {
-    const double faktor = Druckfaktor(massstab, seite.aufloesung);
-    Schnitt schnitt(std::max(seite.weite, 1) * faktor, std::max(seite.hoehe, 1) * faktor, ursprung);
-    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
-        if (p->Item->Visible && liste.Dargestellt(*p->Item)) schnitt.Punkt({p->XWPu, p->YWPu});
+std::vector<Blatt> Blattschnitt(const Druckplan& plan, double massstab, const Druckseite& seite,
+                                Welt ursprung) {
+    const auto bezug = Bezug(plan.liste);
+    if (!bezug) return {};
+    const Messung m(plan, massstab, seite, *bezug);
+    if (!m.Miss()) return {};
+    const double dot = Druckfaktor(massstab, seite.aufloesung);
+    const double x0 = (ursprung.rechts - bezug->rechts) / dot;
+    const double y0 = (bezug->hoch - ursprung.hoch) / dot;
+    constexpr double kFern = Messflaeche::kReichweite;
+    if (!(std::abs(x0) < kFern && std::abs(y0) < kFern)) ZuViele();
+    auto blaetter = m.Blaetter(x0, y0, kMeisteBlaetter);
+    if (!blaetter) ZuViele();
+    return std::move(*blaetter);
+}
+
+std::vector<Blatt> Blattaufteilung(const Druckplan& plan, double massstab, const Druckseite& seite) {
+    const auto bezug = Bezug(plan.liste);
+    if (!bezug) return {};
+    const Messung m(plan, massstab, seite, *bezug);
+    const auto umfang = m.Miss();
+    if (!umfang) return {};
+    const Umfang& u = *umfang;
+    if (m.PasstAufEines(u)) {
+        const double x = Mittig(u.links, u.rechts, 1, m.Weite());
+        return {{0, 0, m.Weltort(x, Mittig(u.oben, u.unten, 1, m.Hoehe()))}};
     }
-    for (const PunktKante* k = liste.KanteKnoten; liste.ShowBeob && k != nullptr; k = k->Next) {
-        const PunktKnoten* a = liste.SuchPkt(k->ANr);
-        const PunktKnoten* e = liste.SuchPkt(k->ENr);
-        if (a == nullptr || e == nullptr || !k->Item->Visible || !liste.Dargestellt(*k)) continue;
-        schnitt.Linie({a->XWPu, a->YWPu}, {e->XWPu, e->YWPu});
+    const double seiten = std::max(u.Weite() / m.Weite(), u.Hoehe() / m.Hoehe());
+    const int k = static_cast<int>(std::clamp(kMeisteTeile / seiten, 1.0, double{kFeinste}));
+    const Probe probe = SucheUrsprung(m, u, k);
+    const auto [links, rechts] = std::minmax_element(probe.blaetter.begin(), probe.blaetter.end(),
+                                                     [](Feld a, Feld b) { return a.spalte < b.spalte; });
+    const int oben = probe.blaetter.front().zeile;
+    const double x = u.links - std::round(probe.links * m.Weite() / k) + links->spalte * m.Weite();
+    const double y = u.oben - std::round(probe.oben * m.Hoehe() / k) + oben * m.Hoehe();
+    const double mx = Mittig(u.links, u.rechts, rechts->spalte - links->spalte + 1, m.Weite());
+    const double my = Mittig(u.oben, u.unten, probe.blaetter.back().zeile - oben + 1, m.Hoehe());
+    for (const auto& [x0, y0] : {std::pair{mx, my}, {mx, y}, {x, my}}) {
+        if (auto blaetter = m.Blaetter(x0, y0, probe.blaetter.size())) return std::move(*blaetter);
     }
-    return schnitt.Blaetter();
+    auto blaetter = m.Blaetter(x, y, kMeisteBlaetter);
+    if (!blaetter) ZuViele();
+    return std::move(*blaetter);
+}
+
+std::optional<Blatt> ErstesBlatt(const Druckplan& plan, double massstab, const Druckseite& seite) {
+    const auto bezug = Bezug(plan.liste);
+    if (!bezug) return std::nullopt;
+    const Messung m(plan, massstab, seite, *bezug);
+    const auto umfang = m.Miss();
+    if (!umfang) return std::nullopt;
+    const double unten = std::min(umfang->oben + m.Hoehe(), static_cast<double>(Messflaeche::kReichweite));
+    Bandmesser band(plan.geraet, static_cast<std::int32_t>(unten));
+    m.Zeichne(band);
+    return Blatt{0, 0, m.Weltort(band.Links(), umfang->oben)};
+}
+
+std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite& seite) {
+    const auto bezug = Bezug(plan.liste);
+    if (!bezug) return std::nullopt;
+    Weltkasten orte;
+    for (const PunktKnoten* p = plan.liste.PunktKnoten; p != nullptr; p = p->Next) {
+        const bool endlich = std::isfinite(p->XWPu) && std::isfinite(p->YWPu);
+        if (endlich && p->Item->Visible && plan.liste.Dargestellt(*p->Item)) orte.Nimm(p->XWPu, p->YWPu);
+    }
+    // The points alone need this one; whatever is drawn round them needs a little more.
+    const double dot = Druckfaktor(1, seite.aufloesung);
+    const double mindestens = std::max((orte.rechts - orte.links) / (std::max(seite.weite, 1) * dot),
+                                       (orte.oben - orte.unten) / (std::max(seite.hoehe, 1) * dot));
+    if (!(mindestens > 0.0)) return std::nullopt;
+    constexpr std::array<double, 4> kZiffern{1, 2, 2.5, 5};
+    constexpr int kStufen = 6;  // symbols that leave no room even then do so at every scale
+    const int exponent = std::max(0, static_cast<int>(std::floor(std::log10(mindestens))));
+    double zehner = std::pow(10.0, exponent);
+    for (int i = 0; i < kStufen; ++i, zehner *= 10) {
+        for (const double ziffer : kZiffern) {
+            const double massstab = ziffer * zehner;
+            if (massstab < mindestens || !LiesMassstab(SchreibeReal(massstab))) continue;
+            const Messung m(plan, massstab, seite, *bezug);
+            if (const auto u = m.Miss(); u && m.PasstAufEines(*u)) return massstab;
+        }
+    }
+    return std::nullopt;
 }
 
 }  // namespace zrw

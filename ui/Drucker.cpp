@@ -43,6 +43,14 @@ const QString kPapier = QStringLiteral("Papier");
 
 }  // namespace
 
+QFont Druckschrift(const QFont& schrift, double aufloesung) {
+    QFont aufPapier = schrift;
+    aufPapier.setPixelSize(
+        static_cast<int>(std::lround(QFontInfo(schrift).pixelSize() * aufloesung / kBildaufloesung)));
+    aufPapier.setHintingPreference(QFont::PreferNoHinting);
+    return aufPapier;
+}
+
 Systemdrucker::Systemdrucker(Dateien& dateien, Sitzung* sitzung) : dateien_(dateien), sitzung_(sitzung) {}
 Systemdrucker::~Systemdrucker() = default;
 
@@ -143,10 +151,7 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
                               : Fehler("Die Datei lässt sich nicht schreiben.", NachUtf8(ziel));
     };
     if (!maler.begin(&geraet)) throw misslungen();
-    QFont druckschrift = werk.schrift;
-    druckschrift.setPixelSize(static_cast<int>(
-        std::lround(QFontInfo(werk.schrift).pixelSize() * seite.aufloesung / kBildaufloesung)));
-    druckschrift.setHintingPreference(QFont::PreferNoHinting);
+    const QFont druckschrift = Druckschrift(werk.schrift, seite.aufloesung);
     try {
         for (int i = erstes; i < letztes; ++i) {
             if (i > erstes && !geraet.newPage()) throw misslungen();

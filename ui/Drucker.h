@@ -27,6 +27,9 @@ struct Druckwerk {
 
 class Sitzung;
 
+/// The font of the screen on paper of so many dots per inch: as large there, and drawn as outlines.
+[[nodiscard]] QFont Druckschrift(const QFont& schrift, double aufloesung);
+
 class Drucker {
   public:
     virtual ~Drucker() = default;

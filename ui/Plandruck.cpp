@@ -1,6 +1,7 @@
 #include "ui/Plandruck.h"
 
 #include <QCheckBox>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -48,24 +49,31 @@ void Plandruck::ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche) const
 
 // --- Sheets -----------------------------------------------------------------------------------------------
 
-/// Sheets of the plot at this scale; one without a place of its own where it fits, or would need too many.
-std::vector<Blatt> Plandruck::Blaetter(const Liste& liste, double massstab) const {
+/// Sheets of the plot at this scale: the one in the corner where it holds all of it, or where there would be
+/// too many; else those that take the fewest, wherever the picture stands.
+Plandruck::Wahl Plandruck::Blaetter(Liste& liste, double massstab) {
     const Welt ecke = rahmen_.Ecke(liste);
     const Druckseite seite = programm_.drucker.Seite();
+    // Texts are as wide as on paper only in the font of the print.
+    QImage nichts(1, 1, QImage::Format_RGB32);
+    QPainter maler(&nichts);
+    const Malerflaeche schrift(maler, {}, Druckschrift(flaeche_.Schrift(), seite.aufloesung));
+    const Druckplan plan{liste, zeichner_, programm_.zustand, programm_.einstellungen, schrift};
     try {
-        auto blaetter = Blattschnitt(liste, massstab, seite, ecke);
-        if (blaetter.size() > 1 || (blaetter.size() == 1 && blaetter[0] != Blatt{})) return blaetter;
+        const auto dort = Blattschnitt(plan, massstab, seite, ecke);
+        const bool leer = std::find(dort.begin(), dort.end(), Blatt{}) == dort.end();
+        if (dort.size() > 1 || (leer && !dort.empty()))
+            return {Blattaufteilung(plan, massstab, seite), false, leer};
     } catch (const Fehler&) {
         // One sheet can be printed at any scale.
     }
-    return {{0, 0, ecke}};
+    return {{{0, 0, ecke}}, true, false};
 }
 
-std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(const Liste& liste, double massstab) const {
-    auto blaetter = Blaetter(liste, massstab);
-    const bool leer = std::find(blaetter.begin(), blaetter.end(), Blatt{}) == blaetter.end();
+std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double massstab) {
+    auto [blaetter, inDerEcke, eckeLeer] = Blaetter(liste, massstab);
+    if (inDerEcke) return blaetter;
     // Also where the plan lies on one sheet, but beside the output area.
-    if (blaetter.size() == 1 && !leer) return blaetter;
     const auto alle = programm_.dialoge.FrageMitAbbruch(
         QStringLiteral("In diesem Maßstab liegt der Plan auf %1. Alles drucken?\n"
                        "Nein druckt nur eines: %2.%3")
@@ -73,7 +81,7 @@ std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(const Liste& liste, 
                                       : QStringLiteral("%1 Blättern").arg(blaetter.size()))
             .arg(rahmen_.Ecke() ? QStringLiteral("das des Ausgabebereichs")
                                 : QStringLiteral("das in der linken oberen Ecke des Bildes"),
-                 leer ? QStringLiteral("\nAuf diesem liegt nichts vom Plan.") : QString()));
+                 eckeLeer ? QStringLiteral("\nAuf diesem liegt nichts vom Plan.") : QString()));
     if (!alle) return std::nullopt;
     if (!*alle) blaetter = {{0, 0, rahmen_.Ecke(liste)}};
     return blaetter;
@@ -113,7 +121,7 @@ void Plandruck::Drucke(Liste& liste, std::vector<Blatt> blaetter, double masssta
 }
 
 bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel) {
-    auto blaetter = Blaetter(liste, massstab);
+    auto blaetter = Blaetter(liste, massstab).blaetter;
     const QImage uebersicht = Uebersicht(liste, blaetter, massstab);
     return programm_.drucker.ZeigeVorschau(eltern, Werk(liste, std::move(blaetter), massstab, titel),
                                            uebersicht);

@@ -48,14 +48,19 @@ class Plandruck {
 
     /// The sheets to be printed, by the user's choice where there is one. @return none: nothing is to be
     /// printed
-    [[nodiscard]] std::optional<std::vector<Blatt>> WaehleBlaetter(const Liste& liste, double massstab) const;
+    [[nodiscard]] std::optional<std::vector<Blatt>> WaehleBlaetter(Liste& liste, double massstab);
     /// @throws Fehler where the printer does not take it or breaks it off
     void Drucke(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel);
     /// @return whether the sheets are to be printed
     [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel);
 
   private:
-    [[nodiscard]] std::vector<Blatt> Blaetter(const Liste& liste, double massstab) const;
+    struct Wahl {
+        std::vector<Blatt> blaetter;
+        bool inDerEcke = false;  ///< the one sheet of the output area
+        bool eckeLeer = false;   ///< nothing would be on that one
+    };
+    [[nodiscard]] Wahl Blaetter(Liste& liste, double massstab);
     [[nodiscard]] Druckwerk Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab,
                                  const QString& titel);
     [[nodiscard]] std::optional<Bildpunkt> Legendenort(const Liste& liste, const Druckauftrag& auftrag) const;

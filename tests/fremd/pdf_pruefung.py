@@ -1,6 +1,7 @@
 """Sheets of the plot: paper, labels in their places, lines from end to end, as the picture file of the same view says."""
 import math
 import re
+import statistics
 import subprocess
 import sys
 from pathlib import Path
@@ -24,15 +25,21 @@ def rufe(*worte):
 
 
 def pruefe_nummern(ordner, bild, massstab, weite, hoehe):
-    """Every label that stands alone is found in its place, to 0.1 mm, and none that lies beyond the sheet."""
-    orte = {}
-    for rechts, hoch, nummer in bild.texte:
-        x, y = ((rechts - bild.links) * 1000 / massstab, (bild.oben - hoch) * 1000 / massstab)
-        orte[nummer] = (RAND + x + 10 * PIXEL, RAND + y - 5 * PIXEL + ANSTIEG * SCHRIFT * PT)
+    """Every label that stands alone is found in its place, to 0.1 mm, and none that lies beyond the sheet. The sheet lies
+    where most of them say that its corner is."""
     worte = {}
     for wort in re.finditer(r'<word xMin="([\d.]+)" yMin="[\d.]+" xMax="([\d.]+)" yMax="([\d.]+)">(.*?)</word>',
                             rufe("pdftotext", "-bbox", f"{ordner}/NETZ.pdf", "-")):
         worte.setdefault(wort[4], []).append((float(wort[1]) * PT, (float(wort[3]) - ABSTIEG * SCHRIFT) * PT))
+    orte = {}
+    for rechts, hoch, nummer in bild.texte:
+        x, y = ((rechts - bild.links) * 1000 / massstab, (bild.oben - hoch) * 1000 / massstab)
+        orte[nummer] = (RAND + x + 10 * PIXEL, RAND + y - 5 * PIXEL + ANSTIEG * SCHRIFT * PT)
+    da = [n for n in orte if n in worte]
+    dx, dy = (statistics.median(worte[n][0][i] - orte[n][i] for n in da) for i in (0, 1))
+    orte = {n: (x + dx, y + dy) for n, (x, y) in orte.items()}
+    bild.links -= dx * massstab / 1000
+    bild.oben += dy * massstab / 1000
     geprueft = 0
     for nummer, (x, y) in orte.items():
         if not (RAND < x < weite - RAND - 40 and RAND + 4 < y < hoehe - RAND - 4):
@@ -56,10 +63,31 @@ def pruefe_linien(ordner, bild, massstab, mindestens):
     fehler.extend(f"{ordner}: {f}" for f in z.pruefe_linien(bild, raster, ort, DPI / 96, mindestens, 0.95))
 
 
+def pruefe_inhalt():
+    """A sheet that the program chose by itself holds something: all of the plan, where one is enough."""
+    for datei, seiten, muss in (("ohne/NETZ", 1, {"REF1", "REF2", "REF3", "REF4", "REF5", "KÜHBG"}),
+                                ("klein/klein", 1, {"A", "B"}), ("klein2/klein", 1, {"B"})):
+        worte = set(rufe("pdftotext", f"{datei}.pdf", "-").split())
+        if not muss <= worte or f"Pages: {seiten}" not in re.sub(" +", " ", rufe("pdfinfo", f"{datei}.pdf")):
+            fehler.append(f"{datei}: {muss - worte} fehlt")
+    orte = [float(v) * PT for w in ("A", "B") for v in re.findall(rf'yMin="([\d.]+)"[^>]*>{w}<',
+                                                                  rufe("pdftotext", "-bbox", "klein/klein.pdf", "-"))]
+    if len(orte) != 2 or abs(sum(orte) / 2 - PAPIER["A4"][1] / 2) > 4:
+        fehler.append(f"klein: nicht in der Mitte: {orte} mm")
+    rufe("pdftoppm", "-r", "50", "-mono", "-singlefile", "netz3/NETZ.pdf", "netz3/blatt")
+    if not any(Path("netz3/blatt.pbm").read_bytes()[12:]):
+        fehler.append("netz3: leer")
+    meldungen = Path("meldung").read_text(encoding="utf-8")
+    for teil in ("2 Blätter; geschrieben ist das erste (Zeile 1, Spalte 1)", "mehr als 400 Blätter"):
+        if teil not in meldungen:
+            fehler.append(f"Meldung fehlt: {teil}: {meldungen}")
+
+
 def main():
+    pruefe_inhalt()
     # folder, paper, on its long side, scale denominator, labels that stand alone, lines
     for ordner, papier, quer, massstab, allein, linien in (
-            ("a0", "A0", True, 50000, 100, 0), ("a4", "A4", False, 50000, 1, 0), ("quer", "A4", True, 200000, 10, 180)):
+            ("a0", "A0", True, 50000, 100, 0), ("a4", "A4", False, 100000, 1, 0), ("quer", "A4", True, 200000, 10, 180)):
         weite, hoehe = PAPIER[papier][::-1 if quer else 1]
         seite = re.search(r"Page size: +([\d.]+) x ([\d.]+)", rufe("pdfinfo", f"{ordner}/NETZ.pdf"))
         if math.dist((weite, hoehe), [float(v) * PT for v in seite.groups()]) > 0.02:

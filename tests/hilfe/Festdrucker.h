@@ -40,7 +40,7 @@ class Festdrucker final : public Drucker {
             QImage blatt(1200, 900, QImage::Format_RGB32);
             blatt.fill(Qt::white);
             QPainter maler(&blatt);
-            Malerflaeche flaeche(maler, {0, 0, 1199, 899}, werk.schrift);
+            Malerflaeche flaeche(maler, {0, 0, 1199, 899}, Druckschrift(werk.schrift, 600));
             werk.zeichne(flaeche, i);
             maler.end();
             blaetter << blatt;

@@ -25,6 +25,9 @@ class Druckfenster : public Fensterprobe {
 
 TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
     fenster.Oeffne(kBeispiel);
+    Taste(Qt::Key_Left);  // the sheet begins in the picture's corner: symbols need room there
+    Taste(Qt::Key_Up);
+    einstellungen.ResMF = 0.1;
     for (const char* kasten : {"CheckBoxLgGen", "CheckBoxLGRes", "CheckBoxKMQ"})
         Kasten(kasten).click();
     const Stand vorher = Jetzt();
@@ -32,7 +35,7 @@ TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
     Drucke();
     EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled";
     drucker.angenommen = true;
-    Massstab(1000000);
+    Massstab(2000000);
     Drucke();
     ASSERT_EQ(drucker.titel, QStringList("Zarwik NETZ.EIN"));
     EXPECT_TRUE(dialoge.fragen.isEmpty()) << "it fits one sheet";
@@ -60,6 +63,12 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     ASSERT_LT(blaetter.size(), 60) << "corners of the plot hold nothing";
     for (const QImage& b : blaetter)
         EXPECT_FALSE(Leer(b));
+    for (int i = 0; i < 3; ++i)
+        Taste(Qt::Key_Right);
+    Drucke();
+    EXPECT_EQ(drucker.blaetter, blaetter) << "wherever the picture stands";
+    for (int i = 0; i < 3; ++i)
+        Taste(Qt::Key_Left);
     dialoge.antwort = false;
     Drucke();
     EXPECT_EQ(drucker.blaetter.size(), 1) << "the sheet of the output area";
