@@ -164,7 +164,7 @@ std::string Hilfetext() {
            Formatnamen() +
            "\n"
            "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner); er wird angelegt\n"
-           "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x800,\n"
+           "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x1200,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
            "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf, plt und pdf (sonst 25000; in der pdf\n"
            "                         der größte runde, in dem der Plan auf ein Blatt passt)\n"

@@ -18,7 +18,8 @@
 namespace zrw {
 namespace {
 
-constexpr Bildgroesse kUebliche{1200, 800};
+/// Square: fitting divides the height of a network by the picture's width and its width by the height.
+constexpr Bildgroesse kUebliche{1200, 1200};
 
 Einstellungen LadeEinstellungen(const Aufruf& aufruf) {
     const QString datei = AusUtf8(aufruf.einstellungen.value_or(std::string()));

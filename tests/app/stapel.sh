@@ -58,6 +58,7 @@ PY
 }
 pruefe "zweite umgekehrt" umgekehrt aus/NETZ.ZRW aus2/NETZ.ZRW
 
+pruefe "quadratisch, damit hohe Netze ganz darauf sind" test "$(od -An -tu4 -j64 -N8 aus/NETZ.ZRW | xargs)" = "1200 1200"
 erwarte 0 "Größe" --export=zrw,png --groesse 500x400 --ziel=aus2 "$wurzel/beispiele/NETZ.EIN"
 pruefe "Weite und Höhe" test "$(od -An -tu4 -j64 -N8 aus2/NETZ.ZRW | xargs)" = "500 400"
 erwarte 0 "Schalter" --export png --aus punktnummern,fp --ein kurznr --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
