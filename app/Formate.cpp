@@ -18,6 +18,8 @@
 #include "output/Pdfflaeche.h"
 #include "output/Svgflaeche.h"
 #include "ui/Bildflaeche.h"
+#include "ui/Malerflaeche.h"
+#include "ui/Schriftquelle.h"
 
 namespace zrw {
 namespace {
@@ -98,7 +100,13 @@ std::vector<Blatt> WaehleBlaetter(const Ausgabe& a, const Druckplan& plan, doubl
 
 /// Sheets of paper at scale, as a printer would print them.
 void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
-    Pdfflaeche flaeche(a.dateien.Beginne(datei), a.papier, a.dpi, {Titel(a), nullptr});
+    const auto schrift = Einbettschrift::Aus(LiesSchriftquelle(Zeichenschrift()));
+    if (!schrift) {
+        a.sage(Fehler::Meldung("Die Zeichenschrift lässt sich nicht einbetten; die Datei verlangt Helvetica.",
+                               PfadText(datei), 0));
+    }
+    Pdfflaeche flaeche(a.dateien.Beginne(datei), a.papier, a.dpi,
+                       {Titel(a), nullptr, schrift ? &*schrift : nullptr});
     Einstellungen groessen = a.einstellungen;  // printing scales them
     const Systemuhr uhr;
     Figurenzeichner zeichner(a.zustand, groessen, a.netz, uhr);

@@ -62,13 +62,16 @@ char NachByte(char32_t c) {
 
 }  // namespace
 
+char32_t Cp1252Zeichen(char byte) {
+    const auto b = static_cast<std::uint8_t>(byte);
+    return b >= 0x80 && b < 0xA0 ? kOben[b - 0x80U] : b;
+}
+
 std::string Cp1252NachUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
-    for (const char z : bytes) {
-        const auto b = static_cast<std::uint8_t>(z);
-        HaengeAn(text, b >= 0x80 && b < 0xA0 ? kOben[b - 0x80U] : b);
-    }
+    for (const char z : bytes)
+        HaengeAn(text, Cp1252Zeichen(z));
     return text;
 }
 

@@ -7,7 +7,10 @@
 
 namespace zrw {
 
-/// Every byte has a character: the five without one become the control character of the same number.
+/// The character of a byte. Those five without one have the control character of the same number.
+[[nodiscard]] char32_t Cp1252Zeichen(char byte);
+
+/// All of them.
 [[nodiscard]] std::string Cp1252NachUtf8(std::string_view bytes);
 
 /// Characters outside the code page and damaged UTF-8 become "?".

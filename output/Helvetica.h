@@ -2,25 +2,17 @@
 // in width. Kerning is left out, as on the screen.
 #pragma once
 
+#include <algorithm>
 #include <array>
-#include <cstddef>
 #include <cstdint>
-#include <string_view>
+
+#include "output/Schriftmasse.h"
 
 namespace zrw {
-
-/// Height of the drawing font at the screen's resolution [px], as ui/Malerflaeche.cpp has it: 8.25 pt.
-inline constexpr double kZeichenschrift = 11.0;
 
 // Of Arial, whose lines are the wider ones [em].
 inline constexpr double kSchriftanstieg = 0.905;
 inline constexpr double kSchriftabstieg = 0.212;
-
-/// Whether a byte of code page 1252 has no glyph: control characters and the five bytes without a character.
-[[nodiscard]] constexpr bool IstSteuerzeichen(char c) {
-    const auto b = static_cast<unsigned char>(c);
-    return b < 0x20 || b == 0x7F || b == 0x81 || b == 0x8D || b == 0x8F || b == 0x90 || b == 0x9D;
-}
 
 /// Advance widths by the bytes of code page 1252 [1/1000 em]; 0 where there is no glyph.
 /// Source: Adobe Font Metrics, Helvetica, version 002.000 (Adobe Core 14 AFM files).
@@ -45,12 +37,12 @@ inline constexpr std::array<std::uint16_t, 256> kHelveticabreiten{
     // clang-format on
 };
 
-/// Advance of a text in code page 1252 [em].
-[[nodiscard]] constexpr double Helveticabreite(std::string_view text) {
-    double summe = 0.0;
-    for (const char c : text)
-        summe += kHelveticabreiten[static_cast<unsigned char>(c)];
-    return summe / 1000;
-}
+inline constexpr Schriftmasse kHelvetica = [] {
+    Schriftmasse m;
+    std::copy(kHelveticabreiten.begin(), kHelveticabreiten.end(), m.breiten.begin());
+    m.anstieg = kSchriftanstieg;
+    m.abstieg = kSchriftabstieg;
+    return m;
+}();
 
 }  // namespace zrw

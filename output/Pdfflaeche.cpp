@@ -33,19 +33,9 @@ std::string Aufgefuellt(std::uint64_t zahl, std::size_t stellen) {
 std::string Unicodetext(std::string_view text) {
     constexpr std::string_view kZiffern = "0123456789ABCDEF";
     std::string hex = "<FEFF";
-    for (const char& z : text) {
+    for (const char z : text) {
         if (IstSteuerzeichen(z)) continue;
-        std::uint32_t zeichen = 0;
-        const std::string utf8 = Cp1252NachUtf8({&z, 1});
-        for (const char c : utf8) {
-            const auto b = static_cast<unsigned char>(c);
-            // The first byte of two carries five bits, that of three carries four.
-            const std::uint32_t anteil = b < 0x80   ? b
-                                         : b < 0xC0 ? b & 0x3FU
-                                         : b < 0xE0 ? b & 0x1FU
-                                                    : b & 0xFU;
-            zeichen = zeichen << 6U | anteil;
-        }
+        const std::uint32_t zeichen = Cp1252Zeichen(z);
         for (const unsigned schub : {12U, 8U, 4U, 0U})
             hex += kZiffern[zeichen >> schub & 15U];
     }
@@ -71,14 +61,13 @@ std::string Datumtext(const std::string& text) {
 Pdfflaeche::Pdfflaeche(std::unique_ptr<Dateischreiber> datei, const Papier& papier, double aufloesung,
                        const Pdfangaben& angaben)
     : Vektorflaeche(std::move(datei), Bedruckbar(papier, aufloesung),
-                    kStrichbreite / kMillimeterJeZoll * aufloesung),
-      papier_(papier) {
+                    kStrichbreite / kMillimeterJeZoll * aufloesung,
+                    angaben.schrift != nullptr ? angaben.schrift->Masse() : kHelvetica),
+      papier_(papier),
+      schrift_(angaben.schrift) {
     // The second line tells programs that move files that this one is not plain text.
     Schreibe("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n");
     orte_.resize(kAngaben);
-    BeginneObjekt(kSchriftobjekt);
-    Schreibe("<</Type/Font/Subtype/Type1/BaseFont/Helvetica/Encoding/WinAnsiEncoding>>\n");
-    BeendeObjekt();
     SchreibeAngaben(angaben);
     BeginneSeite();
 }
@@ -140,6 +129,74 @@ void Pdfflaeche::SchreibeBetriebsmittel() {
     BeendeObjekt();
 }
 
+/// Begins an object with a compressed stream; its length follows when it is known.
+/// @param eintraege further ones of its dictionary
+void Pdfflaeche::BeginneStromobjekt(Objekt objekt, std::string_view eintraege) {
+    laengenobjekt_ = NeuesObjekt();
+    BeginneObjekt(objekt);
+    Verweis("<</Filter/FlateDecode/Length", laengenobjekt_);
+    Schreibe(eintraege);
+    Schreibe(">>\nstream\n");
+    stromanfang_ = Geschrieben();
+    BeginneStrom();
+}
+
+void Pdfflaeche::BeendeStromobjekt() {
+    BeendeStrom();
+    const std::uint64_t laenge = Geschrieben() - stromanfang_;
+    Schreibe("\nendstream\n");
+    BeendeObjekt();
+    BeginneObjekt(laengenobjekt_);
+    Schreibe(static_cast<std::int64_t>(laenge));
+    Schreibe("\n");
+    BeendeObjekt();
+}
+
+/// At the end, when it is known which characters are needed.
+void Pdfflaeche::SchreibeSchrift() {
+    if (schrift_ == nullptr) {
+        BeginneObjekt(kSchriftobjekt);
+        Schreibe("<</Type/Font/Subtype/Type1/BaseFont/Helvetica/Encoding/WinAnsiEncoding>>\n");
+        return BeendeObjekt();
+    }
+    const std::string name = schrift_->Name(zeichen_);
+    const Schriftmasse& masse = schrift_->Masse();
+    const Objekt beschreibung = NeuesObjekt();
+    const Objekt datei = NeuesObjekt();
+    BeginneObjekt(kSchriftobjekt);
+    Schreibe("<</Type/Font/Subtype/TrueType/BaseFont/" + name + "/Encoding/WinAnsiEncoding");
+    Verweis("/FontDescriptor", beschreibung);
+    Schreibe("/FirstChar 0/LastChar 255/Widths[");
+    for (const double breite : masse.breiten) {
+        Schreibe(" ");
+        Schreibe(breite, kStellen);
+    }
+    Schreibe("]>>\n");
+    BeendeObjekt();
+    BeginneObjekt(beschreibung);
+    Schreibe("<</Type/FontDescriptor/FontName/" + name + "/Flags 32/ItalicAngle 0/StemV 80/FontBBox[");
+    for (const double kante : schrift_->Kasten()) {
+        Schreibe(" ");
+        Schreibe(kante, kStellen);
+    }
+    const auto hoehe = [this](std::string_view eintrag, double em) {
+        Schreibe(eintrag);
+        Schreibe(" ");
+        Schreibe(1000 * em, kStellen);
+    };
+    Schreibe("]");
+    hoehe("/Ascent", masse.anstieg);
+    hoehe("/Descent", -masse.abstieg);
+    hoehe("/CapHeight", masse.anstieg);  // Latin capitals reach nearly as high as a line
+    Verweis("/FontFile2", datei);
+    Schreibe(">>\n");
+    BeendeObjekt();
+    const std::string inhalt = schrift_->Datei(zeichen_);
+    BeginneStromobjekt(datei, "/Length1 " + std::to_string(inhalt.size()));
+    Schreibe(inhalt);
+    BeendeStromobjekt();
+}
+
 void Pdfflaeche::SchreibeVerzeichnis() {
     BeginneObjekt(kSeitenbaum);
     Schreibe("<</Type/Pages/Count ");
@@ -170,6 +227,7 @@ void Pdfflaeche::Beende() {
     BeendeSeite();
     SchreibeEbenen();
     SchreibeBetriebsmittel();
+    SchreibeSchrift();
     SchreibeVerzeichnis();
     const std::uint64_t tafel = Geschrieben();
     Schreibe("xref\n0 ");
@@ -194,7 +252,6 @@ void Pdfflaeche::Beende() {
 void Pdfflaeche::BeginneSeite() {
     const Objekt seite = NeuesObjekt();
     const Objekt strom = NeuesObjekt();
-    laengenobjekt_ = NeuesObjekt();
     seiten_.push_back(seite);
     BeginneObjekt(seite);
     Verweis("<</Type/Page/Parent", kSeitenbaum);
@@ -204,11 +261,7 @@ void Pdfflaeche::BeginneSeite() {
     Verweis("/Contents", strom);
     Schreibe(">>\n");
     BeendeObjekt();
-    BeginneObjekt(strom);
-    Verweis("<</Length", laengenobjekt_);
-    Schreibe(">>\nstream\n");
-    stromanfang_ = Geschrieben();
-
+    BeginneStromobjekt(strom);
     const double punkte = kPunkteJeZoll / Seite().aufloesung;
     Schreibe(punkte, kMatrixstellen);
     Schreibe(" 0 0 ");
@@ -226,13 +279,7 @@ void Pdfflaeche::BeginneSeite() {
 
 void Pdfflaeche::BeendeSeite() {
     SchliesseEbene();
-    const std::uint64_t laenge = Geschrieben() - stromanfang_;
-    Schreibe("\nendstream\n");
-    BeendeObjekt();
-    BeginneObjekt(laengenobjekt_);
-    Schreibe(static_cast<std::int64_t>(laenge));
-    Schreibe("\n");
-    BeendeObjekt();
+    BeendeStromobjekt();
 }
 
 void Pdfflaeche::NeueSeite() {
@@ -404,6 +451,7 @@ void Pdfflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     Schreibe("Tm(");
     for (const char& c : text) {
         if (IstSteuerzeichen(c)) continue;
+        zeichen_.set(static_cast<unsigned char>(c));
         if (c == '(' || c == ')' || c == '\\') Schreibe("\\");
         Schreibe({&c, 1});
     }

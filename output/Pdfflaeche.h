@@ -1,7 +1,7 @@
 // Writes what is drawn as a document (PDF 1.7, ISO 32000-1), piece by piece: sheets of paper at scale, the
-// layers as optional content that viewers list and switch, texts as searchable text in Helvetica, which every
-// viewer has. Streams are not compressed. Positions within the printable area are dots; a matrix takes them
-// to points.
+// layers as optional content that viewers list and switch, texts as searchable text in the font that the
+// document carries, or in Helvetica, which every viewer has. Streams are compressed. Positions within the
+// printable area are dots; a matrix takes them to points.
 #pragma once
 
 #include <array>
@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "output/Einbettschrift.h"
 #include "output/Papier.h"
 #include "output/Uhr.h"
 #include "output/Vektorflaeche.h"
@@ -20,8 +21,9 @@ namespace zrw {
 
 /// What viewers tell about a document.
 struct Pdfangaben {
-    std::string titel;         ///< code page 1252
-    const Uhr* uhr = nullptr;  ///< null: no date, and the same drawing gives the same bytes
+    std::string titel;                        ///< code page 1252
+    const Uhr* uhr = nullptr;                 ///< null: no date, and the same drawing gives the same bytes
+    const Einbettschrift* schrift = nullptr;  ///< outlives the document; null: Helvetica, not embedded
 };
 
 class Pdfflaeche final : public Vektorflaeche {
@@ -58,6 +60,9 @@ class Pdfflaeche final : public Vektorflaeche {
     void SchreibeEbenen();
     void SchreibeBetriebsmittel();
     void SchreibeVerzeichnis();
+    void SchreibeSchrift();
+    void BeginneStromobjekt(Objekt objekt, std::string_view eintraege = {});
+    void BeendeStromobjekt();
 
     void BeginneSeite();
     void BeendeSeite();
@@ -77,6 +82,8 @@ class Pdfflaeche final : public Vektorflaeche {
     std::array<Objekt, kEbenennamen.size()> ebenen_{};  ///< 0 for layers on which nothing was drawn
     Objekt laengenobjekt_ = 0;                          ///< of the page's stream
     std::uint64_t stromanfang_ = 0;
+    const Einbettschrift* schrift_;  ///< may be null
+    Zeichenmenge zeichen_;           ///< that were written
     // What the page's stream has set up.
     bool offeneEbene_ = false;
     std::optional<Stift> stift_;

@@ -23,7 +23,7 @@ bool Gestrichelt(const Stift& stift) {
 }  // namespace
 
 Svgflaeche::Svgflaeche(std::unique_ptr<Dateischreiber> datei, const Druckseite& seite, std::string_view titel)
-    : Vektorflaeche(std::move(datei), seite, Stiftmass(seite.aufloesung)) {
+    : Vektorflaeche(std::move(datei), seite, Stiftmass(seite.aufloesung), kHelvetica) {
     Kopf(titel);
 }
 

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "model/Ganzzahl.h"
-#include "output/Helvetica.h"
+#include "output/Verdichter.h"
 
 namespace zrw {
 namespace {
@@ -24,15 +24,15 @@ double Vektorflaeche::Schrift() const {
 }
 
 std::int32_t Vektorflaeche::Grundlinie() const {
-    return Ganze(kSchriftanstieg * Schrift());
+    return Ganze(masse_.anstieg * Schrift());
 }
 
 std::int32_t Vektorflaeche::Textbreite(std::string_view text) const {
-    return Ganze(Helveticabreite(text) * Schrift());
+    return Ganze(masse_.Breite(text) * Schrift());
 }
 
 std::int32_t Vektorflaeche::Texthoehe() const {
-    return Grundlinie() + Ganze(kSchriftabstieg * Schrift());
+    return Grundlinie() + Ganze(masse_.abstieg * Schrift());
 }
 
 /// Of the font as it would be on a screen with such dots: indents follow it, and they grow with the dots.
@@ -42,6 +42,18 @@ std::int32_t Vektorflaeche::Schriftgrad() const {
 
 std::int32_t Vektorflaeche::Schrifthoehe() const {
     return std::max(1, Ganze(Schrift()));
+}
+
+void Vektorflaeche::BeginneStrom() {
+    strom_.emplace(std::make_unique<Verdichter>([this](std::string_view stueck) {
+        geschrieben_ += stueck.size();
+        datei_.Nimm(stueck);
+    }));
+}
+
+void Vektorflaeche::BeendeStrom() {
+    strom_->Sichere();
+    strom_.reset();
 }
 
 void Vektorflaeche::Schreibe(std::int64_t zahl) {

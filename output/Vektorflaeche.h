@@ -4,11 +4,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
 
 #include "output/Druck.h"
+#include "output/Schriftmasse.h"
 #include "output/Textausgabe.h"
 #include "output/Zeichenflaeche.h"
 
@@ -26,13 +28,15 @@ class Vektorflaeche : public Zeichenflaeche {
     [[nodiscard]] std::int32_t Schrifthoehe() const override;
 
   protected:
-    /// @param strich width of a pen of width 1 [dots]
-    Vektorflaeche(std::unique_ptr<Dateischreiber> datei, const Druckseite& seite, double strich)
-        : seite_(seite), strich_(strich), datei_(std::move(datei)) {}
+    /// @param strich width of a pen of width 1 [dots] @param schrift outlives the surface
+    Vektorflaeche(std::unique_ptr<Dateischreiber> datei, const Druckseite& seite, double strich,
+                  const Schriftmasse& schrift)
+        : seite_(seite), strich_(strich), masse_(schrift), datei_(std::move(datei)) {}
     ~Vektorflaeche() override = default;
 
     // The file. All of these throw a Fehler where it cannot be written.
     void Schreibe(std::string_view text) {
+        if (strom_) return strom_->Nimm(text);
         geschrieben_ += text.size();
         datei_.Nimm(text);
     }
@@ -41,6 +45,9 @@ class Vektorflaeche : public Zeichenflaeche {
     /// @param wert at most 1e15 in amount @param stellen 1 to 15
     void Schreibe(double wert, int stellen);
     [[nodiscard]] std::uint64_t Geschrieben() const { return geschrieben_; }
+    /// What is written from now on is compressed, up to `BeendeStrom`.
+    void BeginneStrom();
+    void BeendeStrom();
     void UebernimmDatei() {
         datei_.Sichere();
         datei_.Uebernimm();
@@ -70,8 +77,10 @@ class Vektorflaeche : public Zeichenflaeche {
   private:
     Druckseite seite_;
     double strich_;
+    const Schriftmasse& masse_;
     std::uint64_t geschrieben_ = 0;
     Textausgabe datei_;
+    std::optional<Textausgabe> strom_;  ///< compresses on the way to the file
 };
 
 // Parts of a colour.

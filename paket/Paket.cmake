@@ -42,7 +42,7 @@ if(UNIX AND NOT APPLE)
   install(FILES paket/bilder/application-x-zarwik-steuerdatei.svg paket/bilder/application-x-zarwik-bild.svg
           DESTINATION ${symbole}/mimetypes)
 elseif(WIN32)
-  # Qt's libraries and plug-ins beside the program, where this Qt knows how to; SQLite in any case.
+  # Qt's libraries and plug-ins beside the program, where this Qt knows how to; SQLite and zlib in any case.
   install(FILES $<TARGET_RUNTIME_DLLS:zarwik> DESTINATION ${CMAKE_INSTALL_BINDIR})
   if(COMMAND qt_generate_deploy_app_script)
     qt_generate_deploy_app_script(TARGET zarwik OUTPUT_SCRIPT verteilung NO_UNSUPPORTED_PLATFORM_ERROR)

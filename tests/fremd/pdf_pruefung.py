@@ -78,7 +78,9 @@ def pruefe_inhalt():
     if not any(Path("netz3/blatt.pbm").read_bytes()[12:]):
         fehler.append("netz3: leer")
     meldungen = Path("meldung").read_text(encoding="utf-8")
-    for teil in ("2 Blätter; geschrieben ist das erste (Zeile 1, Spalte 1)", "mehr als 400 Blätter"):
+    if not re.search(r"^Helvetica +Type 1 +WinAnsi +no ", rufe("pdffonts", "leer/NETZ.pdf"), re.M):
+        fehler.append("leer: nicht Helvetica")
+    for teil in ("lässt sich nicht einbetten", "2 Blätter; geschrieben ist das erste (Zeile 1, Spalte 1)", "mehr als 400 Blätter"):
         if teil not in meldungen:
             fehler.append(f"Meldung fehlt: {teil}: {meldungen}")
 
@@ -101,6 +103,8 @@ def main():
             pruefe_linien(ordner, bild, massstab, linien)
         fehler.extend(f"{ordner}: {t} fehlt" for t in ("Maßstab", f"1:{massstab}", "Höhe") if t not in worte)
         rufe("pdftocairo", "-svg", f"{ordner}/NETZ.pdf", f"{ordner}/blatt.svg")
+        if not re.search(r"\+LiberationSans +TrueType +WinAnsi +yes yes ", rufe("pdffonts", f"{ordner}/NETZ.pdf")):
+            fehler.append(f"{ordner}: Schrift nicht eingebettet")
         ebenen = re.findall(rb"/Type/OCG/Name\((\w+)\)", Path(ordner, "NETZ.pdf").read_bytes())
         if ebenen != [b"PUNKTE", b"PUNKTNR", b"BEOB", b"GITTER", b"LEGENDE"]:
             fehler.append(f"{ordner}: Ebenen {ebenen}")

@@ -27,6 +27,8 @@ for ((i = 0; i < ${#raeume[@]}; ++i)); do
     esac
     # shellcheck disable=SC2086
     if [ "$raum" != input ] && grep -nE '#include [<"]sqlite3' $files; then melde "SQLite gehört nach input"; fi
+    # shellcheck disable=SC2086
+    if [ "$raum" != output ] && grep -nE '#include [<"]zlib' $files; then melde "zlib gehört nach output"; fi
 done
 # What a compiler does not see: a room that reaches into another with a relative path.
 if grep -rnE '#include "\.\./' "${raeume[@]}"; then melde "Einbindungen beginnen beim Raum"; fi

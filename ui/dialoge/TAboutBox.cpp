@@ -19,6 +19,7 @@ QString Lizenzen() {
         "Zarwik: MIT-Lizenz\n"
         "Qt 6: GNU LGPL, Version 3\n"
         "SQLite: gemeinfrei (Public Domain)\n"
+        "zlib: zlib-Lizenz\n"
         "Liberation-Schriften: SIL Open Font License (OFL)");
 }
 
