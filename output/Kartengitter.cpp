@@ -79,13 +79,16 @@ Welt Kartengitter::Ecke(bool rechtsUnten) const {
     return liste_.BildinWelt(rechtsUnten ? Bildpunkt{liste_.Weite, liste_.Hoehe} : Bildpunkt{});
 }
 
-void Kartengitter::Strich(Bildpunkt von, Bildpunkt nach) const {
-    if (ziel_.flaeche != nullptr) {
-        if (const auto teil = Abschneiden(von, nach, ziel_.flaeche->Grenzen())) {
-            const Stiftwechsel wechsel(*ziel_.flaeche, {ziel_.farbe, 1, Strichart::Voll}, {kWeiss, true});
-            ziel_.flaeche->Linie(teil->first, teil->second);
-        }
+void Kartengitter::Bildstrich(Bildpunkt von, Bildpunkt nach) const {
+    if (ziel_.flaeche == nullptr) return;
+    if (const auto teil = Abschneiden(von, nach, ziel_.flaeche->Grenzen())) {
+        const Stiftwechsel wechsel(*ziel_.flaeche, {ziel_.farbe, 1, Strichart::Voll}, {kWeiss, true});
+        ziel_.flaeche->Linie(teil->first, teil->second);
     }
+}
+
+void Kartengitter::Strich(Bildpunkt von, Bildpunkt nach) const {
+    Bildstrich(von, nach);
     if (ziel_.dxf != nullptr) {
         ziel_.dxf->DxfLine(kGitterart, {static_cast<double>(von.x), static_cast<double>(von.y)},
                            {static_cast<double>(nach.x), static_cast<double>(nach.y)});
@@ -172,6 +175,8 @@ void Kartengitter::Kilometerquadrate() {
     for (int s = 0; s < static_cast<int>(spalten); ++s) {
         const double x = x0 + s * kKilometer;
         if (x > unten.rechts) break;
+        // Lines begin at the topmost whole kilometre. Pictures have them up to their edge, drawings do not.
+        if (y0 < oben.hoch) Bildstrich(liste_.Bildort({x, y0 + kKilometer}), liste_.Bildort({x, y0}));
         for (int z = 0; z < static_cast<int>(zeilen); ++z) {
             const double y = y0 - (z + 1) * kKilometer;
             const Bildpunkt hier = liste_.Bildort({x, y});
@@ -182,6 +187,8 @@ void Kartengitter::Kilometerquadrate() {
     for (int z = 0; z < static_cast<int>(zeilen); ++z) {
         const double y = y0 - z * kKilometer;
         if (y < unten.hoch) break;
+        // West of the origin the first whole kilometre lies within the picture.
+        if (x0 > oben.rechts) Bildstrich(liste_.Bildort({x0 - kKilometer, y}), liste_.Bildort({x0, y}));
         for (int s = 0; s < static_cast<int>(spalten); ++s) {
             const double x = x0 + s * kKilometer;
             Strich(liste_.Bildort({x, y}), liste_.Bildort({x + kKilometer, y}));

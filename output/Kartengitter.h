@@ -37,6 +37,7 @@ class Kartengitter {
     void Kilometerquadrate();
 
   private:
+    void Bildstrich(Bildpunkt von, Bildpunkt nach) const;
     void Strich(Bildpunkt von, Bildpunkt nach) const;
     void Nummer(Bildpunkt ort, std::string_view text, std::int64_t feldbreite) const;
     [[nodiscard]] Welt Ecke(bool rechtsUnten) const;

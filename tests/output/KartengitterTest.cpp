@@ -105,7 +105,7 @@ TEST_F(Gitter, BeginntMitDemBlattDerEcke) {
 TEST_F(Gitter, KilometerquadrateMitNummern) {
     Schaue({3512400, 5679800}, 5);  // 4 km by 3 km
     const Zeilen zeilen = Quadrate();
-    // Vertical lines begin at the first whole kilometre below the top.
+    // Numbers begin at the first whole kilometre below the top, lines at the top.
     EXPECT_EQ(zeilen[0], "Text 0xFF0000 -64 338 35561278");
     EXPECT_TRUE(std::find(zeilen.begin(), zeilen.end(), "Linie 120 160 120 360") != zeilen.end());
     EXPECT_EQ(Nummern(zeilen),
@@ -113,6 +113,10 @@ TEST_F(Gitter, KilometerquadrateMitNummern) {
                                           "35561378", "35561476", "35561477", "35561478", "35561576",
                                           "35561577", "35561578", "35561676", "35561677", "35561678"}));
     EXPECT_TRUE(std::find(zeilen.begin(), zeilen.end(), "Linie -80 160 120 160") != zeilen.end());
+    EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Linie 120 -40 120 160"), 1);
+    Schaue({-1500, 1500}, 5);
+    const Zeilen westlich = Quadrate();
+    EXPECT_EQ(std::count(westlich.begin(), westlich.end(), "Linie -100 100 100 100"), 1);
     // Fewer digits give what there is.
     Schaue({-500, 1500}, 5);
     EXPECT_TRUE(Nummern(Quadrate()).contains("00") && Nummern(Quadrate()).contains("10"));
