@@ -342,9 +342,9 @@ void Pdfflaeche::WendeStiftAn() {
         Schreibe("1 J[]0 d\n");
     } else {
         Schreibe("0 J[");
-        Schreibe(kStrichlaenge * breite, kStellen);
+        Schreibe(kStrichlaenge * neu.breite * Pixel(), kStellen);
         Schreibe(" ");
-        Schreibe(kStrichluecke * breite, kStellen);
+        Schreibe(kStrichluecke * neu.breite * Pixel(), kStellen);
         Schreibe("]0 d\n");
     }
     stift_ = neu;

@@ -106,7 +106,6 @@ Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& e
     : flaeche_(*zustand.flaeche),
       einstellungen_(einstellungen),
       liste_(liste),
-      aufBildschirm_(zustand.modus == Zeichenmodus::Bildschirm),
       // Printing leaves a device factor behind that means nothing on the screen.
       geraetefaktor_(zustand.modus == Zeichenmodus::Drucker ? zustand.Geraetefaktor : 1.0),
       f_(geraetefaktor_ * einstellungen.ResMF) {}
@@ -257,12 +256,11 @@ void Residuenbild::Balken(double laenge, const Balkentexte& texte) const {
     const std::int64_t rechts =
         std::max(einheitort + flaeche_.Textbreite(einheit), links + flaeche_.Textbreite(titel)) + rand;
 
-    // The network would make it unreadable. Paper cannot be moved from below it: nothing may be hidden there.
-    if (aufBildschirm_)
-        flaeche_.Fuelle({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
-                         static_cast<std::int32_t>(std::min<std::int64_t>(rechts, s.rechts)),
-                         static_cast<std::int32_t>(grund + rand)},
-                        kWeiss);
+    // Network and grids would make it unreadable.
+    flaeche_.Fuelle({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
+                     static_cast<std::int32_t>(std::min<std::int64_t>(rechts, s.rechts)),
+                     static_cast<std::int32_t>(grund + rand)},
+                    kWeiss);
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
     Schreibe({links, oben}, titel);
     Schreibe({einheitort, oben + h}, einheit);

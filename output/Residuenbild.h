@@ -58,7 +58,6 @@ class Residuenbild {
     Zeichenflaeche& flaeche_;
     const Einstellungen& einstellungen_;
     const Liste& liste_;
-    bool aufBildschirm_;
     double geraetefaktor_;  ///< dots per screen pixel [-]
     double f_;              ///< dots per unit of the results [1/mm]
 };

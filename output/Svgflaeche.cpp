@@ -161,9 +161,9 @@ void Svgflaeche::Stiftattribute() {
     if (stift.breite != 1) Attribut("stroke-width", breite);
     if (!Gestrichelt(stift)) return;
     Schreibe(" stroke-linecap=\"butt\" stroke-dasharray=\"");
-    Schreibe(kStrichlaenge * breite, kStellen);
+    Schreibe(kStrichlaenge * stift.breite * Pixel(), kStellen);
     Schreibe(" ");
-    Schreibe(kStrichluecke * breite, kStellen);
+    Schreibe(kStrichluecke * stift.breite * Pixel(), kStellen);
     Schreibe("\"");
 }
 
@@ -227,8 +227,9 @@ void Svgflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (!SiehtText(ort, text)) return;
     BeginneElement();
     Schreibe("<text");
-    Attribut("x", std::int64_t{ort.x});
-    Attribut("y", std::int64_t{ort.y} + Grundlinie());
+    // Lines run through the middles of pixels, texts stand at their edges.
+    Attribut("x", ort.x - 0.5);
+    Attribut("y", static_cast<double>(ort.y) + Grundlinie() - 0.5);
     Farbattribut("fill", farbe);
     Schreibe(">");
     Zeichen(text);

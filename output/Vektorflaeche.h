@@ -71,6 +71,8 @@ class Vektorflaeche : public Zeichenflaeche {
 
     [[nodiscard]] const Druckseite& Seite() const { return seite_; }
     [[nodiscard]] double Strich() const { return strich_; }
+    /// A pixel of the screen, where pens of width 1 are one wide [dots].
+    [[nodiscard]] double Pixel() const { return seite_.aufloesung / kBildaufloesung; }
     [[nodiscard]] double Schrift() const;           ///< size of the font [dots]
     [[nodiscard]] std::int32_t Grundlinie() const;  ///< below the top of a line of text [dots]
 
@@ -93,10 +95,6 @@ class Vektorflaeche : public Zeichenflaeche {
 [[nodiscard]] constexpr std::uint8_t Blauanteil(Farbe f) {
     return static_cast<std::uint8_t>(f.wert >> 16U & 0xFFU);
 }
-
-/// Lengths of dash and gap of dashed lines, in widths of their pen, as the screen draws them.
-inline constexpr double kStrichlaenge = 4.0;
-inline constexpr double kStrichluecke = 2.0;
 
 /// Lines of one pen that are written as one path. More in a row begin another: viewers are slow with long
 /// ones.

@@ -14,6 +14,11 @@ namespace zrw {
 
 enum class Strichart : std::uint8_t { Voll, Gestrichelt };
 
+/// Lengths of dash and gap of dashed lines, in widths of their pen on the screen: paper has finer pens, but
+/// the same dashes, as it has the same symbols.
+inline constexpr double kStrichlaenge = 4.0;
+inline constexpr double kStrichluecke = 2.0;
+
 struct Stift {
     Farbe farbe = kSchwarz;
     std::int32_t breite = 1;  ///< [dots], at least 1

@@ -29,10 +29,14 @@ class Druckflaeche final : public Malerflaeche {
   public:
     Druckflaeche(QPainter& maler, const Druckseite& seite, const QFont& schrift)
         : Malerflaeche(maler, {0, 0, seite.weite - 1, seite.hoehe - 1}, schrift) {
-        SetzeStrichbreite(
-            std::max(1, static_cast<int>(std::lround(kStrichbreite / kMillimeterJeZoll * seite.aufloesung))));
-        // Lines that leave the sheet end at its edge, not somewhere in the margin.
-        maler.setClipRect(QRect(0, 0, seite.weite, seite.hoehe));
+        const int strich =
+            std::max(1, static_cast<int>(std::lround(kStrichbreite / kMillimeterJeZoll * seite.aufloesung)));
+        SetzeStrichbreite(strich, seite.aufloesung / kBildaufloesung);
+        // Lines that leave the sheet end at its edge, not somewhere in the margin; those along it keep their
+        // width.
+        maler.setClipRect(QRect(-strich, -strich, seite.weite + 2 * strich, seite.hoehe + 2 * strich));
+        // Printers have no pixels to keep free of grey, and a preview is unreadable without it.
+        maler.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     }
 };
 
@@ -48,6 +52,7 @@ QFont Druckschrift(const QFont& schrift, double aufloesung) {
     aufPapier.setPixelSize(
         static_cast<int>(std::lround(QFontInfo(schrift).pixelSize() * aufloesung / kBildaufloesung)));
     aufPapier.setHintingPreference(QFont::PreferNoHinting);
+    aufPapier.setStyleStrategy(QFont::PreferAntialias);
     return aufPapier;
 }
 

@@ -66,7 +66,15 @@ void Malerflaeche::WendeStiftAn(const Stift& stift) {
     const int breite = stift.breite * strichbreite_;
     pen.setWidth(breite > 1 ? breite : 0);
     pen.setCosmetic(breite <= 1);
-    pen.setStyle(stift.art == Strichart::Gestrichelt ? Qt::DashLine : Qt::SolidLine);
+    if (stift.art == Strichart::Gestrichelt) {
+        pen.setStyle(Qt::DashLine);
+        if (strichbreite_ > 1) {
+            // Counted in widths of the pen; blunt, or wide ends would close the gaps.
+            const double mass = pixel_ / strichbreite_;
+            pen.setDashPattern({kStrichlaenge * mass, kStrichluecke * mass});
+            pen.setCapStyle(Qt::FlatCap);
+        }
+    }
     maler_->setPen(pen);
     stift_ = stift;
 }

@@ -37,8 +37,12 @@ class Malerflaeche : public Zeichenflaeche {
   protected:
     /// For surfaces that own their painter and begin it later.
     Malerflaeche();
-    /// Width of a pen of width 1 [dots], for devices whose dots are too fine to be seen.
-    void SetzeStrichbreite(int dots) { strichbreite_ = dots; }
+    /// For devices whose dots are too fine to be seen.
+    /// @param dots width of a pen of width 1 @param pixel a pixel of the screen [dots]
+    void SetzeStrichbreite(int dots, double pixel) {
+        strichbreite_ = dots;
+        pixel_ = pixel;
+    }
     /// Restricts what the painter draws to a rectangle.
     void SetzeMalerausschnitt(const Rechteck& r);
     /// Takes a painter that has just begun.
@@ -53,6 +57,7 @@ class Malerflaeche : public Zeichenflaeche {
     QFont schrift_;
     QFontMetrics masse_;
     int strichbreite_ = 1;
+    double pixel_ = 1.0;
     // What the painter holds now; none after it began.
     std::optional<Stift> stift_;
     std::optional<Pinsel> pinsel_;

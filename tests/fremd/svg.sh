@@ -30,8 +30,8 @@ for name, ebenen, mindestens in (("NETZ", "GITTER BEOB PUNKTE PUNKTNR LEGENDE", 
     soll = {t.text: bild.dot(t.x, t.y, bild.faktor) for t in bild.texte}
     if texte.keys() != soll.keys():
         fehler.append(f"{name}: Nummern {texte.keys() ^ soll.keys()}")
-    for text, (x, y) in soll.items():  # ten pixels to the right, five up, and down to the baseline
-        if max(abs(texte[text][0] - x - 10), abs(texte[text][1] - y + 5 - 10)) > 0.6:
+    for text, (x, y) in soll.items():  # ten pixels to the right, five up, down to the baseline, from the pixel's corner
+        if max(abs(texte[text][0] - x - 9.5), abs(texte[text][1] - y + 5 - 9.5)) > 0.6:
             fehler.append(f"{name}: {text} bei {texte[text]}")
     # Four pixels to a dot, whole positions in its middle.
     fehler += z.pruefe_linien(bild, z.Raster.aus_pbm(f"{name}.pbm"),

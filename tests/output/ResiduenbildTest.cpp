@@ -272,6 +272,7 @@ TEST_F(Residuen, MassstabLaengeUndTeilung) {
         zustand.modus = f.geraet == 0 ? Zeichenmodus::Bildschirm : Zeichenmodus::Drucker;
         zustand.Geraetefaktor = f.geraet == 0 ? 7 : f.geraet;
         const Zeilen alle = Massstab();
+        EXPECT_EQ(!alle.empty() && alle[0].starts_with("Fuelle 0xFFFFFF"), *f.text != 0) << "clear ground";
         std::string text;
         if (const Zeilen linien = Linien(alle); !linien.empty()) {
             EXPECT_EQ(linien.size(), 7U);

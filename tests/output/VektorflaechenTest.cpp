@@ -141,7 +141,7 @@ TEST(Vektorflaechen, TexteSindZeichenUndNichtsBrichtAus) {
         };
         Enthaelt(Svg(zeichne, kBildaufloesung, f.text),
                  {"<title>" + f.svg + "</title>",
-                  "<text x=\"20\" y=\"40\" fill=\"#ff8000\">" + f.svg + "</text>"});
+                  "<text x=\"19.5\" y=\"39.5\" fill=\"#ff8000\">" + f.svg + "</text>"});
         Enthaelt(Pdf(zeichne), {"1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"});
     }
     const Festuhr uhr;
@@ -169,7 +169,7 @@ TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
     // 0.15 mm of 100 dots to the inch are 0.591 dots.
     Enthaelt(Pdf(zeichne),
              {"1.181 w\n1 J[]0 d\n0 0 m 10 0 l\n10 5 l\n1 2 m 3 4 l\nS\n",
-              "0.591 w\n0 J[2.362 1.181]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n", "S\n500 7 m 501 7 l\nS\n"});
+              "0.591 w\n0 J[4.167 2.083]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n", "S\n500 7 m 501 7 l\nS\n"});
 }
 
 TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {

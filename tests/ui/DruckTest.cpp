@@ -216,5 +216,37 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
     EXPECT_TRUE(voll.dateien.empty());
 }
 
+TEST_F(Druckfenster, StricheAufDemPapierSindGanzUndSoLangWieImBild) {
+    const QString pdf = ordner.filePath("striche.pdf");
+    Systemdrucker echter(dateien);
+    echter.DruckeInDatei(pdf, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {10, 10, 10, 10},
+                                          QPageLayout::Millimeter));
+    echter.Drucke({"Striche", Zeichenschrift(), 1, [](Zeichenflaeche& blatt, int /*nr*/) {
+                       blatt.SetzePinsel({kWeiss, true});
+                       blatt.ZeichneRechteck({0, 0, 1500, 400});
+                       blatt.SetzeStift({kSchwarz, 1, Strichart::Gestrichelt});
+                       blatt.Linie({50, 200}, {1450, 200});
+                   }});
+    if (QProcess::execute("pdftoppm", {"-r", "600", "-mono", "-W", "2000", "-H", "800", "-singlefile", pdf,
+                                       ordner.filePath("blatt")}) != 0)
+        GTEST_SKIP() << "pdftoppm is not installed";
+    const QImage blatt = QImage(ordner.filePath("blatt.pbm")).convertToFormat(QImage::Format_RGB32);
+    // Lengths of the black and white runs in a row of the sheet [dots].
+    const auto laeufe = [&](int zeile) {
+        std::vector<int> laengen{0};
+        for (int x = 1; x < blatt.width(); ++x) {
+            if (blatt.pixel(x, zeile) != blatt.pixel(x - 1, zeile)) laengen.push_back(0);
+            ++laengen.back();
+        }
+        return laengen;
+    };
+    constexpr int kRand = 233;  // Qt rounds margins to points
+    EXPECT_GE(laeufe(kRand + 100).at(1), 4) << "frame along the edge";
+    const auto striche = laeufe(kRand + 200);
+    ASSERT_GT(striche.size(), 60U);
+    EXPECT_NEAR(striche[9], 25, 2) << "4 px";
+    EXPECT_NEAR(striche[10], 12.5, 2) << "2 px";
+}
+
 }  // namespace
 }  // namespace zrw
