@@ -135,6 +135,7 @@ bool Endlich(const PunktKnoten& p) {
 
 void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const Punktergebnisse* ergebnisse) {
     const std::string nummer = liste.GetPktText(p.PNr);
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
     g.BeginneFigur();
     g.Feld("nummer", Cp1252NachUtf8(nummer));
     g.Feld("punktart", std::string(ZurArt(p.Item->PktArt).kuerzel));
@@ -151,7 +152,7 @@ void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const P
                                          {"ellipse_a", e->A},
                                          {"ellipse_b", e->B},
                                          {"ellipse_phi", e->Phi},
-                                         {"mL", e->mL},
+                                         {"mL", e->mLBekannt ? e->mL : kNan},
                                          {"mH", e->mH}})
             g.Feld(name, wert);
     }

@@ -7,7 +7,7 @@
 namespace zrw {
 
 /// Fields of the coordinate table, in the units of the adjustment (lengths [mm]); not a number where a field
-/// is null, but for `mL`, which then is 0.
+/// is null, but for `mL`, which then is 0 and not known.
 struct Punktergebnis {
     double dY = 0.0;   ///< residual of the easting
     double dX = 0.0;   ///< residual of the northing
@@ -17,6 +17,7 @@ struct Punktergebnis {
     double Phi = 0.0;  ///< direction of the ellipse [gon]
     double mH = 0.0;   ///< standard deviation of the height
     double mL = 0.0;   ///< standard deviation of the position
+    bool mLBekannt = true;
     // Adjusted coordinates [m], not a number where they are null.
     double X = std::numeric_limits<double>::quiet_NaN();  ///< northing
     double Y = std::numeric_limits<double>::quiet_NaN();  ///< easting

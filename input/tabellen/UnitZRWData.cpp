@@ -222,8 +222,8 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
         for (std::size_t i = 0; i < kFelder.size(); ++i)
             Nimm(zeile[i + 1], ergebnis.*kFelder[i].second);
         // A standard deviation that is not known makes no ellipse wide.
-        if (std::isnan(ergebnis.mL) && std::holds_alternative<std::monostate>(zeile[kStelleML]))
-            ergebnis.mL = 0.0;
+        ergebnis.mLBekannt = !std::holds_alternative<std::monostate>(zeile[kStelleML]);
+        if (!ergebnis.mLBekannt) ergebnis.mL = 0.0;
     });
     // From the last to the first: the first row of a number is the one that counts.
     tafel.zu.Erwarte(nummern.size());

@@ -148,6 +148,7 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
     EXPECT_EQ(daten.Zu("P")->dY, -2.0);
     EXPECT_TRUE(std::isnan(daten.Zu("P")->dX)) << "a missing field counts as null";
     EXPECT_EQ(daten.Zu("P")->mL, 0.0) << "and makes no ellipse wide";
+    EXPECT_FALSE(daten.Zu("P")->mLBekannt);
 
     // A field that the query needs.
     const std::vector<paradox::Feld> ohne{{"ID", Feldtyp::Lang, 4}, {"X", Feldtyp::Zahl, 8}};

@@ -19,7 +19,7 @@ class EinErgebnis final : public Punktergebnisse {
     }
 
   private:
-    Punktergebnis ergebnis_{.dY = 12.5, .A = 3.0, .X = 5600000.125};
+    Punktergebnis ergebnis_{.dY = 12.5, .A = 3.0, .mLBekannt = false, .X = 5600000.125};
 };
 
 TEST(Geojson, PunkteUndLinienMitAllemWasBekanntIst) {
@@ -40,7 +40,7 @@ TEST(Geojson, PunkteUndLinienMitAllemWasBekanntIst) {
               "[3500100,5600100]}},\n"
               "{\"type\":\"Feature\",\"properties\":{\"nummer\":\"A\\\"Ü\",\"punktart\":\"NP\",\"symbol\":"
               "\"Dreieck\",\"sichtbar\":true,\"x_ausgeglichen\":5600000.125,\"dY\":12.5,\"dX\":0,\"dH\":0,"
-              "\"ellipse_a\":3,\"ellipse_b\":0,\"ellipse_phi\":0,\"mL\":0,\"mH\":0},\"geometry\":{\"type\":"
+              "\"ellipse_a\":3,\"ellipse_b\":0,\"ellipse_phi\":0,\"mH\":0},\"geometry\":{\"type\":"
               "\"Point\",\"coordinates\":[3500000.5,5600000.25]}},\n"
               "{\"type\":\"Feature\",\"properties\":{\"von\":\"A\\\"Ü\",\"nach\":\"B \",\"beobachtungen\":"
               "\"AR2,ST\",\"grob\":true,\"sichtbar\":true},\"geometry\":{\"type\":\"LineString\","
