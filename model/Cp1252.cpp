@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <optional>
 
 namespace zrw {
 namespace {
@@ -54,10 +56,23 @@ char32_t Nimm(std::string_view& t) {
     return c;
 }
 
-char NachByte(char32_t c) {
+/// Nothing for a character that the code page lacks.
+std::optional<char> NachByte(char32_t c) {
     if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
     const auto* stelle = std::find(kOben.begin(), kOben.end(), c);
-    return stelle != kOben.end() ? static_cast<char>(0x80 + (stelle - kOben.begin())) : '?';
+    if (stelle == kOben.end()) return std::nullopt;
+    return static_cast<char>(0x80 + (stelle - kOben.begin()));
+}
+
+/// Length of the ASCII text at the front, in whole words of eight bytes: control files have megabytes of it.
+std::size_t AsciiVorn(std::string_view text) {
+    constexpr std::uint64_t kObersteBits = 0x8080808080808080U;
+    std::size_t i = 0;
+    for (std::uint64_t wort = 0; i + sizeof wort <= text.size(); i += sizeof wort) {
+        std::memcpy(&wort, text.data() + i, sizeof wort);
+        if ((wort & kObersteBits) != 0) break;
+    }
+    return i;
 }
 
 }  // namespace
@@ -76,11 +91,38 @@ std::string Cp1252NachUtf8(std::string_view bytes) {
 }
 
 std::string Utf8NachCp1252(std::string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size());
-    while (!text.empty())
-        bytes += NachByte(Nimm(text));
+    std::string bytes(text);
+    WandleInCp1252(bytes);
     return bytes;
+}
+
+bool IstUtf8(std::string_view text) {
+    bool hohe = false;
+    for (;;) {
+        text.remove_prefix(AsciiVorn(text));
+        if (text.empty()) return hohe;
+        const char32_t c = Nimm(text);
+        if (c == kKeins) return false;
+        hohe = hohe || c >= 0x80;
+    }
+}
+
+Zeichenverlust WandleInCp1252(std::string& text, std::size_t ab) {
+    Zeichenverlust verlust;
+    std::size_t ziel = 0;
+    // No character is longer in the code page than in UTF-8: writing stays behind reading.
+    for (std::string_view rest = std::string_view(text).substr(ab);;) {
+        const std::size_t ascii = AsciiVorn(rest);
+        std::memmove(text.data() + ziel, rest.data(), ascii);
+        ziel += ascii;
+        rest.remove_prefix(ascii);
+        if (rest.empty()) break;
+        const auto byte = NachByte(Nimm(rest));
+        if (!byte && verlust.anzahl++ == 0) verlust.erstes = ziel;
+        text[ziel++] = byte.value_or('?');
+    }
+    text.resize(ziel);
+    return verlust;
 }
 
 }  // namespace zrw

@@ -2,6 +2,7 @@
 // UTF-8.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -15,5 +16,16 @@ namespace zrw {
 
 /// Characters outside the code page and damaged UTF-8 become "?".
 [[nodiscard]] std::string Utf8NachCp1252(std::string_view text);
+
+/// Whether a text has bytes above 127 and is UTF-8 from end to end.
+[[nodiscard]] bool IstUtf8(std::string_view text);
+
+/// What a conversion could not keep.
+struct Zeichenverlust {
+    std::size_t anzahl = 0;  ///< characters that became "?"
+    std::size_t erstes = 0;  ///< place of the first of them in the new text [bytes]
+};
+/// `Utf8NachCp1252` in place, for large texts; from `ab` on, what stands before goes.
+Zeichenverlust WandleInCp1252(std::string& text, std::size_t ab = 0);
 
 }  // namespace zrw
