@@ -27,13 +27,14 @@ void Netzbauer::Erwarte(std::size_t punkte, std::size_t kanten) {
     kanten_.Erwarte(kanten);
 }
 
-void Netzbauer::Punkt(PunktArt art, std::string_view nummer, std::int64_t code, Welt ort) {
+void Netzbauer::Punkt(Zeilenort woher, PunktArt art, std::string_view nummer, std::int64_t code, Welt ort) {
     if (anzahl_ > 0) Trage();
     Wartender& p = punkte_[punktanzahl_++];
     p.nummer = Nummer(nummer);
     p.art = art;
     p.typ = code > 0 ? PunktTyp::Krei : PunktTyp::Pkt;
     p.ort = ort;
+    p.woher = woher;
     p.streuwert = nummern_.Kuendige(p.nummer);
     // A network that may be full is found to be so at this line.
     if (punktanzahl_ == punkte_.size() ||
@@ -48,7 +49,10 @@ void Netzbauer::TragePunkte() {
 }
 
 void Netzbauer::Fuege(const Wartender& p) {
-    if (nummern_.Finde(p.streuwert, p.nummer) != kKeinPunkt) return;
+    if (nummern_.Finde(p.streuwert, p.nummer) != kKeinPunkt) {
+        wiederholte_.Nimm(p.woher);
+        return;
+    }
     if (static_cast<std::size_t>(liste_.MaxPkte) >= kMaxPunkte) {
         throw Fehler(
             "Das Netz hat mehr als 65535 Punkte, mehr kann Zarwik nicht darstellen. Es wurde nichts "
@@ -76,10 +80,12 @@ void Netzbauer::Standpunkt(std::string_view nummer) {
     w.streuwertNach = nummern_.Kuendige(w.nach);
 }
 
-void Netzbauer::Beobachte(Art art, std::string_view von, std::string_view nach, Farbe farbe) {
+void Netzbauer::Beobachte(Zeilenort woher, Art art, std::string_view von, std::string_view nach,
+                          Farbe farbe) {
     Wartende& w = Reihe();
     w.standpunkt = false;
     w.art = art;
+    w.woher = woher;
     w.farbe = farbe;
     if (art != Art::Richtung) {
         w.von = Nummer(von);
@@ -112,7 +118,12 @@ void Netzbauer::Trage() {
 }
 
 void Netzbauer::Fasse(const Wartende& w) {
-    if (w.p1 == kKeinPunkt || w.p2 == kKeinPunkt || w.p1 == w.p2) return;
+    if (w.p1 == kKeinPunkt || w.p2 == kKeinPunkt) {
+        // A key alone on its line names no points, known or not.
+        if (!w.nach.Leer() || (w.art != Art::Richtung && !w.von.Leer())) unbekannte_.Nimm(w.woher);
+        return;
+    }
+    if (w.p1 == w.p2) return;
     switch (w.art) {
         case Art::Richtung:
             Richtung(w);

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "input/Netztafeln.h"
+#include "input/Zeilenquelle.h"
 #include "model/FigListe.h"
 
 namespace zrw {
@@ -24,16 +25,29 @@ class Netzbauer {
     /// Adds a point with its label, unless its number is in the network already. A positive code makes it a
     /// circle, zero or less a dot, both filled. What waits before it enters first.
     /// @throws Fehler (without place) where the network is full
-    void Punkt(PunktArt art, std::string_view nummer, std::int64_t code, Welt ort);
+    void Punkt(Zeilenort woher, PunktArt art, std::string_view nummer, std::int64_t code, Welt ort);
 
     enum class Art : std::uint8_t { Richtung, Strecke, Hoehenunterschied, GPSVektor };
     /// One observation between the points with these numbers; a direction starts at the last standpoint
     /// instead. Unknown points, later ones among them, and a point with itself are dropped.
-    void Beobachte(Art art, std::string_view von, std::string_view nach, Farbe farbe = {});
+    void Beobachte(Zeilenort woher, Art art, std::string_view von, std::string_view nach, Farbe farbe = {});
     /// Standpoint of the directions that follow.
     void Standpunkt(std::string_view nummer);
     /// The end of the reading: what waits and all the lines enter the list.
     void Vollende();
+
+    /// Records that changed nothing, and where the first of them stands.
+    struct Zahl {
+        std::size_t anzahl = 0;
+        Zeilenort erster;
+        void Nimm(Zeilenort ort) {
+            if (anzahl++ == 0) erster = ort;
+        }
+    };
+    /// Observations dropped for a point that is not there; complete after `Vollende`, as the other is.
+    [[nodiscard]] const Zahl& Unbekannte() const { return unbekannte_; }
+    /// Points with a number that was there already.
+    [[nodiscard]] const Zahl& Wiederholte() const { return wiederholte_; }
 
   private:
     // Points and observations wait in small queues: looking up many at once lets their memory accesses
@@ -44,6 +58,7 @@ class Netzbauer {
         PunktTyp typ = PunktTyp::Pkt;
         Welt ort;
         std::uint64_t streuwert = 0;
+        Zeilenort woher;
     };
     struct Wartende {
         Art art = Art::Richtung;
@@ -56,6 +71,7 @@ class Netzbauer {
         PunktIndex p1 = kKeinPunkt;
         PunktIndex p2 = kKeinPunkt;
         std::uint64_t streuwertPaar = 0;
+        Zeilenort woher;
     };
     Wartende& Reihe();
     /// Enter what waits.
@@ -76,6 +92,8 @@ class Netzbauer {
     std::array<Wartender, 32> punkte_;
     std::size_t punktanzahl_ = 0;
     PunktIndex standpunkt_ = kKeinPunkt;
+    Zahl unbekannte_;
+    Zahl wiederholte_;
     Nummerntafel nummern_;
     Kantentafel kanten_;
     Liste& liste_;

@@ -9,7 +9,7 @@ namespace zrw {
 namespace {
 
 void Melde(const Meldungsempfaenger& meldung, const std::string& text, const std::filesystem::path& datei) {
-    if (meldung) meldung({text, PfadText(datei.filename()), 0});
+    if (meldung) meldung({.text = text, .datei = PfadText(datei.filename())});
 }
 
 Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
@@ -24,6 +24,9 @@ Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateie
               datei);
         liste.Weite = bild.weite;
         liste.Hoehe = bild.hoehe;
+        liste.Faktor = 1.0;  // what fitting leaves as it is where there are no points
+        liste.XOffset = liste.YOffset = 0.0;
+        liste.MaxXW = liste.MinXW = liste.MaxYW = liste.MinYW = 0.0;
         liste.FindWorldMinMax();
         liste.PasseEin();
     }
@@ -44,11 +47,12 @@ Lesung OeffneNetz(const std::filesystem::path& datei, const Dateien& dateien,
                   const Meldungsempfaenger& meldung, const Lesefortschritt& fortschritt) {
     if (IstBilddatei(datei)) return OeffneBilddatei(datei, dateien, einstellungen, bisher, bild, meldung);
     Lesung lesung = LeseSteuerdatei(datei, dateien, einstellungen, meldung, fortschritt);
+    if (!lesung.bericht.schluessel) throw Fehler(Leertext(lesung.bericht), PfadText(datei.filename()));
     Liste& liste = *lesung.liste;
     liste.Weite = bild.weite;
     liste.Hoehe = bild.hoehe;
     if (liste.PunktKnoten == nullptr && lesung.ende == Leseende::Vollstaendig) {
-        Melde(meldung, "Die Datei enthält keine lesbaren Punkte (fehlt der Netztyp \"$NT\"?).", datei);
+        Melde(meldung, Leertext(lesung.bericht), datei);
     }
     liste.FindWorldMinMax();
     liste.PasseEin();

@@ -21,7 +21,8 @@ struct Bildgroesse {
 /// A network from a control file, fitted into a picture of the given size, or from a picture file with the
 /// view that it was saved with; a view that cannot show anything is fitted anew. `bisher` is what the last
 /// control file said: a picture file changes only the network type.
-/// @throws Fehler, Leseabbruch; nothing then has changed
+/// @throws Fehler, also where no line of a control file has a known key; Leseabbruch; nothing then has
+/// changed
 [[nodiscard]] Lesung OeffneNetz(const std::filesystem::path& datei, const Dateien& dateien,
                                 const Einstellungen& einstellungen, const Netzangaben& bisher,
                                 Bildgroesse bild, const Meldungsempfaenger& meldung,

@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "input/Lesebericht.h"
 #include "model/Dateien.h"
 #include "model/Fehler.h"
 #include "model/FigListe.h"
@@ -20,6 +21,19 @@ struct Meldung {
     std::string text;   ///< German, UTF-8
     std::string datei;  ///< name of the file without its folder
     long zeile = 0;
+    std::string grund{};   ///< why, for a line of its own; may be empty
+    bool hinweis = false;  ///< nothing is lost: it was read as described and may be meant otherwise
+
+    /// What stands below the text where there is room for two lines: "NETZ.EIN, Zeile 12: Rechtswert fehlt"
+    [[nodiscard]] std::string Stelle() const {
+        return grund.empty() ? Fehler::Ort(datei, zeile) : Fehler::Meldung(grund, datei, zeile);
+    }
+    /// All in one line: "NETZ.EIN, Zeile 12: Lesefehler bei Punkt7: Rechtswert fehlt"
+    [[nodiscard]] std::string Zeile() const {
+        const std::string mitGrund =
+            grund.empty() ? text : text + (grund.starts_with('(') ? " " : ": ") + grund;
+        return Fehler::Meldung(mitGrund, datei, zeile);
+    }
 };
 /// Takes the messages of one reading as they come; there may be very many.
 using Meldungsempfaenger = std::function<void(const Meldung&)>;
@@ -44,7 +58,9 @@ struct Lesung {
     std::unique_ptr<Liste> liste;
     Netzangaben netz;
     Leseende ende = Leseende::Vollstaendig;
-    std::string endetext;  ///< the message of an ending other than `Vollstaendig`
+    std::string endetext;   ///< the message of an ending other than `Vollstaendig`
+    std::string endegrund;  ///< its second line: "NETZ.EIN, Zeile 12: nicht vorhanden"
+    Lesebericht bericht;
 };
 
 /// @param einstellungen colours and label offsets; must outlive the network

@@ -23,6 +23,9 @@ constexpr std::size_t kNamenslaenge = 255;
 constexpr std::size_t kMeldungslaenge = 35;
 /// Place of the number in a point line, behind the key and one separator.
 constexpr std::size_t kTrenner = 1;
+constexpr const char* kVerschoben =
+    "Hinter den 14 Stellen der Punktnummer folgt ohne Leerzeichen Text, Nummer und Koordinaten können "
+    "verschoben sein: Punkt ";
 
 using Tafel = std::array<std::uint8_t, std::size_t{128} * 128>;
 
@@ -39,37 +42,6 @@ constexpr Tafel Schluesseltafel() {
 
 bool NurLeer(std::string_view text) {
     return OhneRand(text).empty();
-}
-
-/// How a network type gives its coordinates, and whether its GPS vectors belong to the plot.
-struct Netzart {
-    std::int32_t typ;
-    Koordinaten koordinaten;
-    bool mitGPS;
-};
-constexpr std::array<Netzart, 8> kNetzarten{{{1, Koordinaten::Gitter, false},
-                                             {2, Koordinaten::Gitter, false},
-                                             {3, Koordinaten::Gitter, true},
-                                             {4, Koordinaten::Winkel, false},
-                                             {6, Koordinaten::Kartesisch, true},
-                                             {7, Koordinaten::Kartesisch, true},
-                                             {50, Koordinaten::Winkel, true},
-                                             {51, Koordinaten::Gitter, true}}};
-constexpr Netzart kUnbekannt{0, Koordinaten::Keine, false};
-
-const Netzart& ZumTyp(std::int32_t typ) {
-    const auto* art =
-        std::find_if(kNetzarten.begin(), kNetzarten.end(), [&](const Netzart& n) { return n.typ == typ; });
-    return art != kNetzarten.end() ? *art : kUnbekannt;
-}
-
-/// A short, printable piece of a line for a message.
-std::string Auszug(std::string_view zeile, std::size_t laenge = 40) {
-    std::string text(zeile.substr(0, laenge));
-    for (char& c : text) {
-        if (static_cast<unsigned char>(c) < 0x20) c = ' ';
-    }
-    return Cp1252NachUtf8(text);
 }
 
 /// The file that an include record names, behind one separator.
@@ -115,7 +87,7 @@ Steuerleser::Steuerleser(const std::filesystem::path& datei, const Dateien& date
       meldung_(meldung),
       fortschritt_(fortschritt),
       quelle_(datei, dateien),
-      lesung_{std::make_unique<Liste>(einstellungen), {}, Leseende::Vollstaendig, {}},
+      lesung_{std::make_unique<Liste>(einstellungen), {}, Leseende::Vollstaendig, {}, {}, {}},
       bauer_(*lesung_.liste, einstellungen),
       ellipsoid_(EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite)) {}
 
@@ -124,6 +96,7 @@ Lesung Steuerleser::Lies() {
     bauer_.Erwarte(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
                    std::min<std::size_t>(quelle_.Groesse() / 64, 200'000));
     try {
+        BeginneText();
         constexpr unsigned kTakt = 8192;  // lines between two reports
         for (unsigned zeilen = 1; !fertig_ && quelle_.Naechste(zeile_); ++zeilen) {
             if (zeilen % kTakt == 0) Berichte();
@@ -136,19 +109,41 @@ Lesung Steuerleser::Lies() {
             if (satz == nullptr) {
                 if (letzter_ == nullptr || NurLeer(rest)) continue;
                 satz = letzter_;
-            } else if (!(IstPunktsatz(letzter_) && satz->imPunktblock)) {
-                letzter_ = satz;
+            } else {
+                schluesselSeitEinfuegung_ = true;
+                if (!(IstPunktsatz(letzter_) && satz->imPunktblock)) letzter_ = satz;
             }
             (this->*satz->lesen)(rest);
         }
         bauer_.Vollende();
+        Schliesse();
     } catch (const Leseabbruch&) {
         throw;
     } catch (const Fehler& f) {
         if (f.Zeile() > 0) throw;
-        throw Fehler(f.Text(), quelle_.Datei(), quelle_.Zeile());
+        throw Fehler(f.Text(), quelle_.Name(quelle_.Hier()), quelle_.Hier().zeile);
     }
     return std::move(lesung_);
+}
+
+/// What can be told only when everything has been read.
+void Steuerleser::Schliesse() {
+    if (vektorenOffen_ > 0 && meldung_) {
+        meldung_({"Der GPS-Block kündigt " + std::to_string(vektoren_) +
+                      " Vektoren ($SV) an, gefunden: " + std::to_string(vektoren_ - vektorenOffen_) +
+                      ". Alles Weitere bis zum Ende der Datei gilt als Teil des Blocks.",
+                  quelle_.Name(blockanfang_),
+                  blockanfang_.zeile,
+                  {},
+                  true});
+    }
+    lesung_.bericht.schluessel = letzter_ != nullptr;
+    lesung_.bericht.unbekannte = Befund(bauer_.Unbekannte());
+    lesung_.bericht.wiederholte = Befund(bauer_.Wiederholte());
+}
+
+Lesebericht::Befund Steuerleser::Befund(const Netzbauer::Zahl& zahl) const {
+    return {zahl.anzahl, quelle_.Name(zahl.erster), zahl.erster.zeile};
 }
 
 void Steuerleser::Uebergehe(std::string_view /*rest*/) {}
@@ -159,60 +154,78 @@ void Steuerleser::Ende(std::string_view /*rest*/) {
 
 // --- Single values ----------------------------------------------------------------------------------------
 
-void Steuerleser::FalscheZahl() const {
-    throw Fehler("Zahl fehlt oder ist nicht lesbar in \"" + Auszug(zeile_) + "\". Es wurde nichts geladen.",
-                 quelle_.Datei(), quelle_.Zeile());
+void Steuerleser::FalscheZahl(const char* name) const {
+    const std::string fremd = Fortsetzung();
+    throw Fehler("Zahl fehlt oder ist nicht lesbar in \"" + Auszug(zeile_) + "\", erwartet: " + name +
+                     (fremd.empty() ? "" : " " + fremd) + ". Es wurde nichts geladen.",
+                 quelle_.Name(quelle_.Hier()), quelle_.Hier().zeile);
 }
 
-std::int32_t Steuerleser::Ganzzahl(Feldleser& felder) const {
+std::int32_t Steuerleser::Ganzzahl(Feldleser& felder, const char* name) const {
     const auto wert = felder.Ganz();
     if (!wert || *wert < std::numeric_limits<std::int32_t>::min() ||
         *wert > std::numeric_limits<std::int32_t>::max()) {
-        FalscheZahl();
+        FalscheZahl(name);
     }
     return static_cast<std::int32_t>(*wert);
 }
 
-double Steuerleser::Realzahl(Feldleser& felder) const {
+double Steuerleser::Realzahl(Feldleser& felder, const char* name) const {
     const auto wert = felder.Real();
-    if (!wert) FalscheZahl();
+    if (!wert) FalscheZahl(name);
     return *wert;
 }
 
+/// Takes a value over. Where a line only continues the record, without looking like it, the change is told:
+/// it moves the whole network.
+template <class T>
+void Steuerleser::Setze(T& ziel, const T& wert, const char* name) const {
+    if (ziel != wert && !Fortsetzung().empty()) Melde("\"" + Auszug(zeile_) + "\" ändert: " + name, {}, true);
+    ziel = wert;
+}
+
 void Steuerleser::LiesXVersatz(std::string_view rest) {
+    constexpr const char* kName = "Zuschlag zum Hochwert";
     Feldleser felder(rest);
-    lesung_.netz.XVersatz = Realzahl(felder);
+    Setze(lesung_.netz.XVersatz, Realzahl(felder, kName), kName);
 }
 
 void Steuerleser::LiesYVersatz(std::string_view rest) {
+    constexpr const char* kName = "Zuschlag zum Rechtswert";
     Feldleser felder(rest);
-    lesung_.netz.YVersatz = Realzahl(felder);
+    Setze(lesung_.netz.YVersatz, Realzahl(felder, kName), kName);
 }
 
 void Steuerleser::LiesNetztyp(std::string_view rest) {
+    constexpr const char* kName = "Netztyp";
     Feldleser felder(rest);
-    lesung_.netz.Netztyp = Ganzzahl(felder);
+    Setze(lesung_.netz.Netztyp, Ganzzahl(felder, kName), kName);
+    lesung_.bericht.netztyp = true;
 }
 
 void Steuerleser::LiesPunktformat(std::string_view rest) {
+    constexpr const char* kName = "Punktformat";
     Feldleser felder(rest);
-    punktformat_ = Ganzzahl(felder);
+    Setze(punktformat_, Ganzzahl(felder, kName), kName);
 }
 
 void Steuerleser::LiesEllipsoid(std::string_view rest) {
+    constexpr const char* kName = "Ellipsoid";
     Feldleser felder(rest);
-    lesung_.netz.Ellipsoid = Ganzzahl(felder);
+    Setze(lesung_.netz.Ellipsoid, Ganzzahl(felder, kName), kName);
     if (!EllipsoidBekannt(lesung_.netz.Ellipsoid)) Melde(std::string(kUnbekanntesEllipsoid));
     ellipsoid_ = EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite);
 }
 
 void Steuerleser::LiesKoordinatensystem(std::string_view rest) {
+    constexpr const char* kMeridian = "Hauptmeridian";
+    constexpr const char* kModus = "Abbildung (0 bis 255)";
     Feldleser felder(rest);
-    const std::int32_t meridian = Ganzzahl(felder);
-    const std::int32_t modus = Ganzzahl(felder);
-    if (modus < 0 || modus > 255) FalscheZahl();
-    lesung_.netz.Hauptmeridian = meridian;
-    lesung_.netz.Abbildungsmodus = static_cast<std::uint8_t>(modus);
+    const std::int32_t meridian = Ganzzahl(felder, kMeridian);
+    const std::int32_t modus = Ganzzahl(felder, kModus);
+    if (modus < 0 || modus > 255) FalscheZahl(kModus);
+    Setze(lesung_.netz.Hauptmeridian, meridian, kMeridian);
+    Setze(lesung_.netz.Abbildungsmodus, static_cast<std::uint8_t>(modus), kModus);
 }
 
 void Steuerleser::LiesTitel(std::string_view rest) {
@@ -220,21 +233,54 @@ void Steuerleser::LiesTitel(std::string_view rest) {
     felder.Ueberspringe(kTrenner);
     if (lesung_.liste->Legend == nullptr)
         lesung_.liste->Legend = std::make_unique<Legende>(Legende::Create());
-    lesung_.liste->Legend->Bez1 = OhneRand(felder.Rest().substr(0, 255));
+    Setze(lesung_.liste->Legend->Bez1, std::string(OhneRand(felder.Rest().substr(0, 255))),
+          "Titel des Netzes");
 }
 
 // --- Include files ----------------------------------------------------------------------------------------
 
 void Steuerleser::FuegeEin(std::string_view rest) {
     if (quelle_.EinfuegungOffen()) {
-        Melde("Eine eingefügte Datei kann keine weitere einfügen; die Zeile wurde übergangen.");
+        if (schluesselSeitEinfuegung_) {
+            Melde("Eine eingefügte Datei kann keine weitere einfügen; die Zeile wurde übergangen.");
+        } else if (!std::exchange(schluessellosGemeldet_, true)) {
+            Melde(
+                "Die eingefügte Datei beginnt ohne Schlüssel: Ihre Zeilen werden bis zum ersten Schlüssel "
+                "übergangen. Bitte den Schlüssel der ersten Zeile ergänzen, zum Beispiel $ST.");
+        }
         return;
     }
     const std::string_view name = Dateiname(rest);
-    if (quelle_.OeffneEinfuegung(name)) return;
+    const Einfuegung e = quelle_.OeffneEinfuegung(name);
+    if (e.grund.empty()) {
+        if (!e.ersatz.empty()) {
+            Melde("Statt " + Auszug(name, kNamenslaenge) + " wurde " + e.ersatz +
+                      " aus dem Ordner der Steuerdatei gelesen.",
+                  {}, true);
+        }
+        BeginneText();
+        schluesselSeitEinfuegung_ = false;
+        schluessellosGemeldet_ = false;
+        return;
+    }
     lesung_.ende = Leseende::Abgebrochen;
     lesung_.endetext = "Kann Datei " + Auszug(name, kNamenslaenge) + " nicht öffenen!";
+    const std::string fremd = Fortsetzung();
+    lesung_.endegrund = Fehler::Meldung(e.grund + (fremd.empty() ? "" : "; erwartet: Dateiname " + fremd),
+                                        quelle_.Name(quelle_.Hier()), quelle_.Hier().zeile);
     fertig_ = true;
+}
+
+/// A file whose characters could not all be kept is told of once.
+void Steuerleser::BeginneText() {
+    const Ersetzung& e = quelle_.Ersetzt();
+    if (e.anzahl == 0 || !meldung_) return;
+    meldung_({"Zeichen, die es in der Codepage 1252 nicht gibt, gelten als \"?\": " +
+                  std::to_string(e.anzahl) + ", das erste in dieser Zeile.",
+              e.datei,
+              e.zeile,
+              {},
+              true});
 }
 
 void Steuerleser::FuegeKoordinatenEin(std::string_view rest) {
@@ -254,16 +300,29 @@ void Steuerleser::LesePunkt(PunktArt punktart, std::string_view rest) {
     felder.Ueberspringe(kTrenner);
     const std::string_view nummer = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
     const Koordinaten art = ZumTyp(lesung_.netz.Netztyp).koordinaten;
-    if (art == Koordinaten::Keine) return;
+    if (art == Koordinaten::Keine) {
+        if (lesung_.bericht.netztyp) lesung_.bericht.letzterFremder = lesung_.netz.Netztyp;
+        ++(lesung_.bericht.netztyp ? lesung_.bericht.fremderTyp : lesung_.bericht.ohneTyp);
+        return;
+    }
+    const std::string_view werte = felder.Rest();
     const auto code = felder.Ganz();
     Welt ort;
     if (!code || !LiesOrt(art, felder, ort) || !std::isfinite(ort.rechts) || !std::isfinite(ort.hoch)) {
-        std::string text = "Lesefehler bei Punkt" + std::string(nummer);
-        text.resize(std::min(text.size(), kMeldungslaenge));
-        Melde(Auszug(text));
+        MeldePunkt(nummer, werte);
         return;
     }
-    bauer_.Punkt(punktart, nummer, *code, ort);
+    if (!werte.empty() && !IstLeerzeichen(werte.front())) Melde(kVerschoben + Auszug(nummer), {}, true);
+    bauer_.Punkt(quelle_.Hier(), punktart, nummer, *code, ort);
+}
+
+void Steuerleser::MeldePunkt(std::string_view nummer, std::string_view werte) {
+    ++lesung_.bericht.unlesbare;
+    std::string text = "Lesefehler bei Punkt" + std::string(nummer);
+    text.resize(std::min(text.size(), kMeldungslaenge));
+    std::string grund = Lesegrund(werte, Punktfelder(ZumTyp(lesung_.netz.Netztyp).koordinaten, punktformat_));
+    if (!werte.empty() && !IstLeerzeichen(werte.front())) grund += "; Text hinter den 14 Stellen der Nummer";
+    Melde(Auszug(text), std::move(grund));
 }
 
 bool Steuerleser::LiesOrt(Koordinaten art, Feldleser& felder, Welt& ort) const {
@@ -326,7 +385,7 @@ void Steuerleser::LiesStandpunkt(std::string_view rest) {
 }
 
 void Steuerleser::Ziele(std::string_view rest, Farbe farbe) {
-    bauer_.Beobachte(Netzbauer::Art::Richtung, {}, NaechstesWort(rest), farbe);
+    bauer_.Beobachte(quelle_.Hier(), Netzbauer::Art::Richtung, {}, NaechstesWort(rest), farbe);
 }
 
 void Steuerleser::LiesRichtung(std::string_view rest) {
@@ -339,7 +398,7 @@ void Steuerleser::LiesAzimut(std::string_view rest) {
 
 void Steuerleser::Beobachte(std::string_view rest, Netzbauer::Art art) {
     const std::string_view von = NaechstesWort(rest);
-    bauer_.Beobachte(art, von, NaechstesWort(rest));
+    bauer_.Beobachte(quelle_.Hier(), art, von, NaechstesWort(rest));
 }
 
 void Steuerleser::LiesStrecke(std::string_view rest) {
@@ -354,8 +413,10 @@ void Steuerleser::LeseGPSVektoren(std::string_view rest) {
     if (!ZumTyp(lesung_.netz.Netztyp).mitGPS) return;
     Feldleser felder(rest);
     felder.Ueberspringe(kTrenner);
-    (void)Ganzzahl(felder);
-    vektorenOffen_ = static_cast<std::uint64_t>(std::abs(std::int64_t{Ganzzahl(felder)}));
+    (void)Ganzzahl(felder, "Zahl vor der Anzahl");
+    vektoren_ = static_cast<std::uint64_t>(std::abs(std::int64_t{Ganzzahl(felder, "Anzahl der Vektoren")}));
+    vektorenOffen_ = vektoren_;
+    blockanfang_ = quelle_.Hier();
 }
 
 void Steuerleser::LiesVektor(std::string_view rest) {
@@ -369,24 +430,33 @@ void Steuerleser::LiesVektor(std::string_view rest) {
     letzter_ = satz;  // what follows the block without a key belongs to its last vector
     --vektorenOffen_;
     Feldleser felder(rest);
-    (void)Ganzzahl(felder);
-    (void)Ganzzahl(felder);
+    (void)Ganzzahl(felder, "erste Zahl");
+    (void)Ganzzahl(felder, "zweite Zahl");
     felder.Ueberspringe(kTrenner);
     const std::string_view von = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
     felder.Ueberspringe(kTrenner);
     const std::string_view nach = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
-    bauer_.Beobachte(Netzbauer::Art::GPSVektor, von, nach);
+    bauer_.Beobachte(quelle_.Hier(), Netzbauer::Art::GPSVektor, von, nach);
 }
 
 // --- Messages ---------------------------------------------------------------------------------------------
 
 void Steuerleser::Berichte() const {
     if (fortschritt_ && !fortschritt_(quelle_.Anteil()))
-        throw Leseabbruch("Das Lesen wurde abgebrochen.", quelle_.Datei());
+        throw Leseabbruch("Das Lesen wurde abgebrochen.", quelle_.Name(quelle_.Hier()));
 }
 
-void Steuerleser::Melde(std::string text) const {
-    if (meldung_) meldung_({std::move(text), quelle_.Datei(), quelle_.Zeile()});
+std::string Steuerleser::Fortsetzung() const {
+    const bool fremd = !NurLeer(zeile_.substr(0, 3)) && LeseSchluessel(zeile_) == nullptr;
+    if (!fremd || letzter_ == nullptr) return {};
+    return "(unbekannter Schlüssel, gelesen als Fortsetzung von " + std::string(letzter_->schluessel) + ")";
+}
+
+void Steuerleser::Melde(std::string text, std::string grund, bool hinweis) const {
+    if (!meldung_) return;
+    if (const std::string fremd = Fortsetzung(); !fremd.empty()) grund += (grund.empty() ? "" : " ") + fremd;
+    const Zeilenort hier = quelle_.Hier();
+    meldung_({std::move(text), quelle_.Name(hier), hier.zeile, std::move(grund), hinweis});
 }
 
 }  // namespace zrw

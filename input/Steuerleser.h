@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "input/Feldleser.h"
+#include "input/Netzarten.h"
 #include "input/Netzbauer.h"
 #include "input/Steuerdatei.h"
 #include "input/Zeilenquelle.h"
@@ -16,9 +17,6 @@
 namespace zrw {
 
 struct Satz;
-
-/// Layout of the coordinates in a point line.
-enum class Koordinaten : std::uint8_t { Keine, Gitter, Winkel, Kartesisch };
 
 class Steuerleser {
   public:
@@ -58,14 +56,23 @@ class Steuerleser {
     [[nodiscard]] static bool LiesWinkel(Feldleser& felder, Welt& ort);
     [[nodiscard]] bool LiesGitter(Feldleser& felder, Welt& ort) const;
     [[nodiscard]] bool LiesKartesisch(Feldleser& felder, Welt& ort) const;
+    void MeldePunkt(std::string_view nummer, std::string_view felder);
+    void BeginneText();
     void LiesVektor(std::string_view rest);
     void Beobachte(std::string_view rest, Netzbauer::Art art);
     void Ziele(std::string_view rest, Farbe farbe);
-    [[nodiscard]] std::int32_t Ganzzahl(Feldleser& felder) const;
-    [[nodiscard]] double Realzahl(Feldleser& felder) const;
-    void Melde(std::string text) const;
+    /// The next number of a record. @param name what it is, for messages. @throws Fehler
+    [[nodiscard]] std::int32_t Ganzzahl(Feldleser& felder, const char* name) const;
+    [[nodiscard]] double Realzahl(Feldleser& felder, const char* name) const;
+    template <class T>
+    void Setze(T& ziel, const T& wert, const char* name) const;
+    /// What the line continues though it does not look like it; empty for every other line.
+    [[nodiscard]] std::string Fortsetzung() const;
+    void Melde(std::string text, std::string grund = {}, bool hinweis = false) const;
     void Berichte() const;
-    [[noreturn]] void FalscheZahl() const;
+    void Schliesse();
+    [[nodiscard]] Lesebericht::Befund Befund(const Netzbauer::Zahl& zahl) const;
+    [[noreturn]] void FalscheZahl(const char* name) const;
 
     const Einstellungen& einstellungen_;
     const Meldungsempfaenger& meldung_;
@@ -78,7 +85,11 @@ class Steuerleser {
     std::string_view zeile_;
     std::int32_t punktformat_ = 0;
     bool fertig_ = false;
-    std::uint64_t vektorenOffen_ = 0;  ///< GPS vectors still to come in the current block
+    bool schluesselSeitEinfuegung_ = true;  ///< a line with a key came since the last include file began
+    bool schluessellosGemeldet_ = false;    ///< the lines before that key have been told
+    std::uint64_t vektorenOffen_ = 0;       ///< GPS vectors still to come in the current block
+    std::uint64_t vektoren_ = 0;            ///< announced by it
+    Zeilenort blockanfang_;
 };
 
 }  // namespace zrw

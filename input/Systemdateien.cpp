@@ -59,7 +59,7 @@ std::string Grund(int nummer) {
 constexpr const char* kNichtSchreiben = "Kann Datei nicht schreiben";
 
 [[noreturn]] void NichtZuOeffnen(const fs::path& datei, const std::string& grund) {
-    throw Oeffnungsfehler("Kann Datei nicht öffnen (" + grund + ").", PfadText(datei));
+    throw Oeffnungsfehler(grund, PfadText(datei));
 }
 
 // The few calls that differ between the systems.

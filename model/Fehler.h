@@ -26,8 +26,11 @@ class Fehler : public std::runtime_error {
 
     /// One line: "NETZ.EIN, Zeile 12: Text".
     [[nodiscard]] static std::string Meldung(const std::string& text, const std::string& datei, long zeile) {
-        if (datei.empty()) return text;
-        return datei + (zeile > 0 ? ", Zeile " + std::to_string(zeile) : std::string()) + ": " + text;
+        return datei.empty() ? text : Ort(datei, zeile) + ": " + text;
+    }
+    /// "NETZ.EIN, Zeile 12"
+    [[nodiscard]] static std::string Ort(const std::string& datei, long zeile) {
+        return datei + (zeile > 0 ? ", Zeile " + std::to_string(zeile) : std::string());
     }
 
   private:
@@ -39,7 +42,13 @@ class Fehler : public std::runtime_error {
 /// The file cannot be opened at all.
 class Oeffnungsfehler : public Fehler {
   public:
-    using Fehler::Fehler;
+    /// @param grund why, as it stands behind other words, too: "nicht vorhanden"
+    Oeffnungsfehler(const std::string& grund, std::string datei)
+        : Fehler("Kann Datei nicht öffnen (" + grund + ").", std::move(datei)), grund_(grund) {}
+    [[nodiscard]] const std::string& Grund() const { return grund_; }
+
+  private:
+    std::string grund_;
 };
 
 /// What users are told of any fault. Beside ours there is only one to be expected: no more memory.

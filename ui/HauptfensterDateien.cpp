@@ -39,9 +39,7 @@ class Sammler {
   public:
     void Nimm(const Meldung& m) {
         if (++anzahl_ > kMeldungenInBox) return;
-        text_ += AusUtf8(m.text) + QStringLiteral("  (") + AusUtf8(m.datei) +
-                 (m.zeile > 0 ? QStringLiteral(", Zeile %1").arg(m.zeile) : QString()) +
-                 QStringLiteral(")\n");
+        text_ += AusUtf8(m.text + '\n' + m.Stelle() + '\n');
     }
     /// What ended the reading, below the rest.
     void Schliesse(const QString& text) {
@@ -126,6 +124,11 @@ QStringList Verborgene(const Liste& netz) {
         if (const QString nummer = AusNetz(netz.GetPktText(p->PNr)); !nummer.isEmpty()) nummern << nummer;
     }
     return nummern;
+}
+
+/// A control file from which nothing can be seen: somebody else's text, or one that needs mending.
+bool OhnePunkte(const Lesung& lesung, const std::filesystem::path& datei) {
+    return lesung.liste != nullptr && lesung.liste->PunktKnoten == nullptr && !IstBilddatei(datei);
 }
 
 }  // namespace
@@ -266,7 +269,7 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
         ZeigeStatus(fehler);
         if (mitFenster) meldungen.Schliesse(fehler);
     }
-    meldungen.Schliesse(AusUtf8(lesung.endetext));
+    if (!lesung.endetext.empty()) meldungen.Schliesse(AusUtf8(lesung.endetext + '\n' + lesung.endegrund));
     // A box lets other things happen, so it comes when the picture stands.
     const auto melde = [&] {
         if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
@@ -279,7 +282,11 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
         close();
         return;
     }
-    if (lesung.liste != nullptr) {
+    if (OhnePunkte(lesung, datei) && liste_ != nullptr && liste_->PunktKnoten != nullptr) {
+        programm_.einstellungen = vorher;
+        ZeigeStatus(QStringLiteral("%1: keine Punkte, das bisherige Netz bleibt.")
+                        .arg(AusUtf8(PfadText(datei.filename()))));
+    } else if (lesung.liste != nullptr) {
         try {
             Uebernimm(std::move(lesung), datei);
         } catch (const std::exception& f) {
@@ -334,12 +341,15 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     ordner_ = info.absolutePath();
     titel_ = QStringLiteral("Zarwik ") + QDir::toNativeSeparators(info.filePath());
     ZeigeTitel();
-    programm_.sitzung.NimmDatei(info.absoluteFilePath());
+    if (liste_->PunktKnoten != nullptr || IstBilddatei(datei))
+        programm_.sitzung.NimmDatei(info.absoluteFilePath());
     programm_.sitzung.MerkeOrdner(ordner_);
+    const QString ohneWirkung = AusUtf8(Statustext(lesung.bericht));
     ZeigeStatus(QStringLiteral("%1: %2 Punkte, %3 Linien")
                     .arg(info.fileName())
                     .arg(liste_->MaxPkte)
-                    .arg(liste_->MaxKant));
+                    .arg(liste_->MaxKant) +
+                (ohneWirkung.isEmpty() ? QString() : QStringLiteral("; ") + ohneWirkung));
     // A mode that was chosen before there was a network.
     if (Aktiv() != nullptr) Aktiv()->Beginne();
     // A picture file carries its marks.

@@ -26,8 +26,7 @@ class Speicherdateien final : public Dateien {
         ++gelesen;
         if (eng) throw std::bad_alloc();
         const auto stelle = dateien.find(Schluessel(datei));
-        if (stelle == dateien.end())
-            throw Oeffnungsfehler("Kann Datei nicht öffnen (nicht vorhanden).", PfadText(datei));
+        if (stelle == dateien.end()) throw Oeffnungsfehler("nicht vorhanden", PfadText(datei));
         if (stelle->second.size() > grenze) {
             throw Fehler("Die Datei ist mit " + std::to_string(stelle->second.size()) +
                              " Bytes zu groß (höchstens " + std::to_string(grenze) + ").",

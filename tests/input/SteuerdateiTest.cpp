@@ -8,6 +8,7 @@
 #include <chrono>
 
 #include "input/Oeffnen.h"
+#include "model/Cp1252.h"
 #include "model/Fehler.h"
 #include "tests/hilfe/Speicherdateien.h"
 
@@ -19,9 +20,8 @@ class Steuerdatei : public testing::Test {
     Lesung Lies(const std::string& inhalt) {
         dateien.dateien["netz/NETZ.EIN"] = inhalt;
         meldungen.clear();
-        return LeseSteuerdatei("netz/NETZ.EIN", dateien, einstellungen, [this](const Meldung& m) {
-            meldungen.push_back(Fehler::Meldung(m.text, m.datei, m.zeile));
-        });
+        return LeseSteuerdatei("netz/NETZ.EIN", dateien, einstellungen,
+                               [this](const Meldung& m) { meldungen.push_back(m.Zeile()); });
     }
     std::string FehlerBei(const std::string& inhalt) {
         try {
@@ -58,13 +58,71 @@ TEST_F(Steuerdatei, UnlesbareZahlNenntDateiUndZeile) {
     EXPECT_NE(FehlerBei("$SF RICHT.SF\n").find("kürzer"), std::string::npos) << "quoted in UTF-8";
 }
 
-TEST_F(Steuerdatei, UnlesbarePunktzeileWirdGemeldetUndUebergangen) {
-    const Lesung l = Lies(
-        "$NT 1\n$FP 12345678901234 1 x 2\n    A\xDC            1 1\n    B             1 1 2\n    B  1 y 2\n");
-    EXPECT_EQ(l.liste->MaxPkte, 1);
-    EXPECT_EQ(meldungen, (std::vector<std::string>{"NETZ.EIN, Zeile 2: Lesefehler bei Punkt12345678901234",
-                                                   "NETZ.EIN, Zeile 3: Lesefehler bei PunktAÜ",
-                                                   "NETZ.EIN, Zeile 5: Lesefehler bei PunktB  1 y 2"}));
+TEST_F(Steuerdatei, MeldungenNennenOrtUndGrund) {
+    dateien.dateien["netz/OHNE.SF"] = "   A B\n   B A\n$RF OHNE.SF\n";
+    dateien.dateien["netz/k.KF"] = "\xEF\xBB\xBF$FP \xC3\x84\xCE\xB1             1 1 2\r\xCE\xB1";
+    struct Fall {
+        std::string inhalt;
+        std::vector<std::string> meldungen;
+    };
+    for (
+        const Fall& f :
+        {Fall{"$NT 1\n$FP 12345678901234 1 x 2\n    A\xDC             1 1\n    B  1 y 2\n    C              "
+              "1.5 1 2\n    D              1 1,5 2\n$PF 1\n$FP E              1 1\n",
+              {"NETZ.EIN, Zeile 2: Lesefehler bei Punkt12345678901234: Rechtswert \"x\" ist keine Zahl",
+               "NETZ.EIN, Zeile 3: Lesefehler bei PunktAÜ: Hochwert fehlt",
+               "NETZ.EIN, Zeile 4: Lesefehler bei PunktB  1 y 2: Punktcode fehlt",
+               "NETZ.EIN, Zeile 5: Lesefehler bei PunktC: Punktcode \"1.5\" ist keine ganze Zahl",
+               "NETZ.EIN, Zeile 6: Lesefehler bei PunktD: Rechtswert \"1,5\": Komma statt Dezimalpunkt",
+               "NETZ.EIN, Zeile 8: Lesefehler bei PunktE: Rechtswert fehlt"}},
+         {"$NT 1\n$FP 123456789012345 1 2 3\n",
+          {"NETZ.EIN, Zeile 2: Hinter den 14 Stellen der Punktnummer folgt ohne Leerzeichen Text, Nummer und "
+           "Koordinaten können verschoben sein: Punkt 12345678901234"}},
+         {"$NT 1\n$FX 1\n$ZZ 1\n$EL 1\n$KS 9 0\n$KX 6 0\n$YO 5\n$YY 7\n   8\n",
+          {"NETZ.EIN, Zeile 6: \"$KX 6 0\" ändert: Hauptmeridian (unbekannter Schlüssel, gelesen als "
+           "Fortsetzung von $KS)",
+           "NETZ.EIN, Zeile 8: \"$YY 7\" ändert: Zuschlag zum Rechtswert (unbekannter Schlüssel, gelesen "
+           "als "
+           "Fortsetzung von $YO)"}},
+         {"$NT 3\n$SH 1 3\n$SV 1 1 A              B\n$ST A B\n",
+          {"NETZ.EIN, Zeile 2: Der GPS-Block kündigt 3 Vektoren ($SV) an, gefunden: 1. Alles Weitere bis zum "
+           "Ende der Datei gilt als Teil des Blocks."}},
+         {"$SF OHNE.SF\n",
+          {"OHNE.SF, Zeile 1: Die eingefügte Datei beginnt ohne Schlüssel: Ihre Zeilen werden bis zum ersten "
+           "Schlüssel übergangen. Bitte den Schlüssel der ersten Zeile ergänzen, zum Beispiel $ST.",
+           "OHNE.SF, Zeile 3: Eine eingefügte Datei kann keine weitere einfügen; die Zeile wurde "
+           "übergangen."}},
+         {"$KF D:\\alt\\K.KF\n",
+          {"NETZ.EIN, Zeile 1: Statt D:\\alt\\K.KF wurde k.KF aus dem Ordner der Steuerdatei gelesen.",
+           "k.KF, Zeile 1: Zeichen, die es in der Codepage 1252 nicht gibt, gelten als \"?\": 2, das erste "
+           "in "
+           "dieser Zeile."}}}) {
+        (void)Lies(f.inhalt);
+        EXPECT_EQ(meldungen, f.meldungen);
+    }
+}
+
+TEST_F(Steuerdatei, ZeichensaetzeUndZeilenendenSindGleich) {
+    const std::string cp1252 =
+        "$NT 1\n$FP A\xC4\xD6\xDC           1 1 2\n$FP B              1 5 2\n$SF H\xF6.SF\n";
+    const std::string utf8 = Cp1252NachUtf8(cp1252);
+    std::string cr = utf8;
+    std::replace(cr.begin(), cr.end(), '\n', '\r');
+    const std::string marke = "\xEF\xBB\xBF";
+    for (const std::string& haupt : {cp1252, utf8, marke + utf8, cr}) {
+        for (const std::string& einfuegung : {std::string("$ST A\xC4\xD6\xDC B"), marke + "$ST AÄÖÜ B\r"}) {
+            dateien.dateien["netz/hö.sf"] = einfuegung;
+            const Lesung l = Lies(haupt);
+            EXPECT_NE(l.liste->FindPunkt("A\xC4\xD6\xDC"), nullptr) << haupt;
+            EXPECT_EQ(l.liste->MaxKant, 1) << haupt << einfuegung;
+            EXPECT_TRUE(meldungen.empty());
+        }
+    }
+    for (const std::string& utf16 : {std::string("\xFF\xFE$\0N\0", 6), std::string("\0$\0N", 4)}) {
+        EXPECT_NE(FehlerBei(utf16).find("UTF-16"), std::string::npos);
+        dateien.dateien["netz/hö.sf"] = utf16;
+        EXPECT_NE(Lies(utf8).endegrund.find("Zeile 4: Die Datei ist in UTF-16"), std::string::npos);
+    }
 }
 
 TEST_F(Steuerdatei, FehlendeEinfuegungLaesstDasGelesene) {
@@ -73,15 +131,23 @@ TEST_F(Steuerdatei, FehlendeEinfuegungLaesstDasGelesene) {
         std::string inhalt;
         Leseende ende;
         const char* text;
+        const char* grund;
     };
     for (const Fall& f :
          {Fall{anfang + "$RS A\n$SF D:\\W\xE4lder.SF \n$FP B 1 1 1\n", Leseende::Abgebrochen,
-               "Kann Datei D:\\Wälder.SF nicht öffenen!"},
-          Fall{anfang + "$RS A\n$KF K.KF\n", Leseende::Abgebrochen, "Kann Datei K.KF nicht öffenen!"},
-          Fall{anfang + "$CC\n$KF K.KF\n", Leseende::Programmende, "Kann Datei K.KF nicht öffnen!"}}) {
+               "Kann Datei D:\\Wälder.SF nicht öffenen!", "NETZ.EIN, Zeile 4: nicht vorhanden"},
+          Fall{anfang + "$SF A.SF\n$XX B.SF\n", Leseende::Abgebrochen, "Kann Datei B.SF nicht öffenen!",
+               "NETZ.EIN, Zeile 4: nicht vorhanden; erwartet: Dateiname (unbekannter Schlüssel, gelesen als "
+               "Fortsetzung von $SF)"},
+          Fall{anfang + "$RS A\n$KF K.KF\n", Leseende::Abgebrochen, "Kann Datei K.KF nicht öffenen!",
+               "NETZ.EIN, Zeile 4: nicht vorhanden"},
+          Fall{anfang + "$CC\n$KF K.KF\n", Leseende::Programmende, "Kann Datei K.KF nicht öffnen!",
+               "NETZ.EIN, Zeile 4: nicht vorhanden"}}) {
+        dateien.dateien["netz/A.SF"] = "\n";
         const Lesung l = Lies(f.inhalt);
         EXPECT_EQ(l.ende, f.ende);
         EXPECT_EQ(l.endetext, f.text);
+        EXPECT_EQ(l.endegrund, f.grund);
         EXPECT_EQ(l.liste->MaxPkte, 1);
     }
 }
@@ -91,8 +157,18 @@ TEST_F(Steuerdatei, EinfuegungenSchachtelnNicht) {
     const Lesung l = Lies("$NT 1\n$SF A.SF\n$ST A B\n");
     EXPECT_EQ(l.liste->MaxPkte, 2);
     EXPECT_EQ(l.liste->MaxKant, 1);
-    ASSERT_EQ(meldungen.size(), 1U);
-    EXPECT_TRUE(meldungen[0].starts_with("A.SF, Zeile 2: "));
+}
+
+TEST_F(Steuerdatei, BerichtZaehltWasOhneWirkungBleibt) {
+    dateien.dateien["netz/A.SF"] = "$RS A\n$RZ\n$RZ X\n";
+    const Lesung l = Lies(
+        "$NT 3\n$FP A              1 1 1\n    A              1 2 2\n$SF A.SF\n$ST A A\n$DH Y Z\n"
+        "$SH 1 1\n$SV 1 1 A              W\n$RS V\n$RZ A\n");
+    EXPECT_EQ(Statustext(l.bericht),
+              "4 Beobachtungen nennen unbekannte Punkte (zuerst A.SF, Zeile 3); 1 Punktnummer kommt noch "
+              "einmal vor "
+              "(zuerst NETZ.EIN, Zeile 3)");
+    EXPECT_EQ(Statustext(Lies("$NT 3\n$FP A              1 1 1\n").bericht), "");
 }
 
 TEST_F(Steuerdatei, TitelStehtInDerLegende) {
@@ -134,19 +210,24 @@ TEST_F(Steuerdatei, OeffnenPasstEinUndSagtWasFehlt) {
     const auto oeffne = [&](const char* name) {
         meldungen.clear();
         return OeffneNetz(name, dateien, einstellungen, {.Netztyp = 9, .Hauptmeridian = 12}, {1000, 530},
-                          [this](const Meldung& m) {
-                              meldungen.push_back(m.text);
-                              EXPECT_EQ(m.zeile, 0) << "about the whole file";
-                          });
+                          [this](const Meldung& m) { meldungen.push_back(m.text); });
     };
     dateien.dateien["N.EIN"] =
         "$NT 1\n$FP A              1 3412345 5601000\n    B              1 3418765 5602000\n";
     EXPECT_DOUBLE_EQ(oeffne("N.EIN").liste->Faktor, 8000.0 / 500);
-    dateien.dateien["L.EIN"] = "$CC nichts\n";
-    dateien.dateien["B.EIN"] = "\xEF\xBB\xBF" + dateien.dateien["N.EIN"];
-    EXPECT_EQ(oeffne("B.EIN").liste->MaxPkte, 2) << "a byte order mark does not hide the first key";
-    EXPECT_EQ(oeffne("L.EIN").liste->Faktor, 1.0);
-    EXPECT_EQ(meldungen.size(), 1U) << "an empty network is told";
+    const std::string punkt = "$FP A              1 1 1\n";
+    for (const auto& [inhalt, text] : std::initializer_list<std::pair<std::string, const char*>>{
+             {"$CC nichts\n", "Es gibt keine Punktzeilen"},
+             {punkt, "Es fehlt der Netztyp"},
+             {"$NT 9\n" + punkt, "Den Netztyp 9 gibt es nicht"},
+             {punkt + "$NT 3\n", "stehen vor dem Netztyp"},
+             {"$NT 6\n" + punkt, "In keiner Punktzeile"}}) {
+        dateien.dateien["L.EIN"] = inhalt;
+        EXPECT_EQ(oeffne("L.EIN").liste->Faktor, 1.0);
+        EXPECT_NE(meldungen.back().find(text), std::string::npos) << meldungen.back();
+    }
+    dateien.dateien["L.EIN"] = "Ein Brief.\n";
+    EXPECT_THROW((void)oeffne("L.EIN"), Fehler);
     // A picture file changes the network type only; a view that shows nothing is fitted anew.
     std::string bild(84, '\0');
     bild[80] = 51;

@@ -109,7 +109,7 @@ TEST_F(Aenderungen, AlleGeloeschtUndZurueck) {
 }
 
 TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
-    Lege("leer.EIN", "$NT 3\n");
+    Lege("leer.ZRW", std::string(84, '\0'));
     Lege("ohne.EIN",
          "$NT 3\n$FP A              1         1000         1000\n    B              1 3000 2000\n");
     Probenetz n;  // labels that belong to no point
@@ -121,7 +121,7 @@ TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
     const QPoint nummer = Textort("A");
     dialoge.antwort = false;
     OeffneAlsBilddatei(n.l);
-    for (const char* datei : {"leer.EIN", "ohne.EIN", "o.ZRW"}) {
+    for (const char* datei : {"leer.ZRW", "ohne.EIN", "o.ZRW"}) {
         SCOPED_TRACE(datei);
         Oeffne(datei);
         const std::int32_t punkte = fenster.Netz()->MaxPkte;

@@ -108,9 +108,9 @@ TEST_F(Bedienfallen, ExportMittenImZiehen) {
 }
 
 TEST_F(Bedienfallen, NeuerPunktWeitWegIstZuZeigen) {
-    Lege("leer.EIN", "$NT 3\n");
+    Lege("leer.ZRW", std::string(84, '\0'));
     for (const auto& [datei, rechts, hoch] :
-         {std::tuple{"leer.EIN", "3500000", "5600000"}, {"n.EIN", "50000", "1500"}}) {
+         {std::tuple{"leer.ZRW", "3500000", "5600000"}, {"n.EIN", "50000", "1500"}}) {
         SCOPED_TRACE(datei);
         dialoge.antwort = false;
         Oeffne(datei);

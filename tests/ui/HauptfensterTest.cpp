@@ -63,7 +63,10 @@ TEST_F(Hauptfenster, FehlerLassenDasNetzStehen) {
     Lege("kurz.zrw", std::string(90, '\1'));
     Oeffne("kurz.zrw");
     Oeffne("fehlt.zrw");
-    EXPECT_EQ(dialoge.meldungen.size(), 3);
+    Lege("leer.EIN", "$NT 3\n");
+    Oeffne("leer.EIN");
+    EXPECT_EQ(dialoge.meldungen.size(), 4);
+    EXPECT_FALSE(sitzung.LetzteDateien().front().endsWith("leer.EIN"));
 
     EXPECT_EQ(fenster.Netz(), netzVorher);
     EXPECT_EQ(fenster.Bild(), bildVorher);
@@ -102,7 +105,8 @@ TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
     Oeffne("n.EIN");
     ASSERT_EQ(dialoge.meldungen.size(), 1);
     const QString& text = dialoge.meldungen[0];
-    EXPECT_TRUE(text.contains("Lesefehler bei PunktP0  (n.EIN, Zeile 2)")) << text.toStdString();
+    EXPECT_TRUE(text.contains("Lesefehler bei PunktP0\nn.EIN, Zeile 2: Punktcode \"x\" ist keine ganze Zahl"))
+        << text.toStdString();
     EXPECT_TRUE(text.contains("PunktP19") && !text.contains("PunktP20")) << text.toStdString();
     EXPECT_TRUE(text.contains("insgesamt 26")) << text.toStdString();  // and one that there are no points
 }
@@ -111,7 +115,8 @@ TEST_F(Hauptfenster, FehlendeKoordinatendateiBeendetDasProgrammNachDerFrage) {
     fenster.Oeffne(kBeispiel);
     Lege("k.EIN", "$NT 1\n$FP A              1 1 1\n$KF fehlt.KF\n");
     Oeffne("k.EIN");
-    EXPECT_EQ(dialoge.meldungen, QStringList{"Kann Datei fehlt.KF nicht öffnen!"});
+    EXPECT_EQ(dialoge.meldungen,
+              QStringList{"Kann Datei fehlt.KF nicht öffnen!\nk.EIN, Zeile 3: nicht vorhanden"});
     EXPECT_EQ(dialoge.fragen, QStringList{"Zarwik speichern"});
     EXPECT_FALSE(fenster.isVisible());
 }
@@ -357,7 +362,7 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
         EXPECT_EQ(fenster.Bild(), ohne) << name;
     }
     tk25.click();
-    Lege("n.EIN", "$NT 5\n$FP A              1 5600000 3500000\n");
+    Lege("n.EIN", "$NT 1\n$FP A              1 5600000 3500000\n");
     Oeffne("n.EIN");
     EXPECT_TRUE(tk25.isChecked()) << "the box stays";
     EXPECT_FALSE(fenster.Netz()->ShowGitter);
