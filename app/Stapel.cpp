@@ -70,19 +70,41 @@ bool WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Eins
     return IstBilddatei(datei) || Melde(MarkiereFehler(liste, daten, einstellungen));
 }
 
+/// All formats that are asked for. @return whether every one was written
+bool Schreibe(const Aufruf& aufruf, const Ausgabe& ausgabe) {
+    const std::filesystem::path datei = TextPfad(aufruf.datei);
+    bool alle = true;
+    for (const std::string& name : aufruf.formate) {
+        const Format& format = *FindeFormat(name);
+        std::filesystem::path ziel = TextPfad(format.dateiname);
+        if (ziel.empty()) (ziel = datei.stem()) += TextPfad(format.endung);
+        try {
+            format.schreibe(ausgabe, TextPfad(aufruf.ziel) / ziel);
+        } catch (const std::exception& f) {
+            // The formats do not hang on each other: the rest is written all the same.
+            ausgabe.zustand.flaeche = nullptr;
+            alle = false;
+            Drucke(Fehlertext(f));
+        }
+    }
+    return alle;
+}
+
 /// @return whether nothing was missing
 bool Exportiere(const Aufruf& aufruf) {
     const Einstellungen einstellungen = LadeEinstellungen(aufruf);
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     Systemdateien dateien;
     Lesung lesung = OeffneNetz(datei, dateien, einstellungen, {}, aufruf.groesse.value_or(kUebliche),
-                               [](const Meldung& m) { Drucke(Fehler::Meldung(m.text, m.datei, m.zeile)); });
-    if (lesung.ende != Leseende::Vollstaendig) throw Fehler(lesung.endetext);
+                               [](const Meldung& m) { Drucke(m.Zeile()); });
+    if (lesung.ende != Leseende::Vollstaendig) throw Fehler(lesung.endetext + '\n' + lesung.endegrund);
+    if (const std::string text = Statustext(lesung.bericht); !text.empty())
+        Drucke(Fehler::Meldung(text, PfadText(datei.filename()), 0));
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, lesung, zustand);
     TDM daten(dateien);
-    bool ganz = WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
+    const bool lesbar = WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
     zustand.Ergebnisse = &daten;
     // The legend names the scale of the print, as in the window.
     lesung.liste->Legend->Masstab = aufruf.massstab;
@@ -105,12 +127,7 @@ bool Exportiere(const Aufruf& aufruf) {
                           .ausBild = IstBilddatei(datei),
                           .sage = &Drucke,
                           .eingabe = eingabe};
-    for (const std::string& name : aufruf.formate) {
-        const Format& format = *FindeFormat(name);
-        std::filesystem::path ziel = TextPfad(format.dateiname);
-        if (ziel.empty()) (ziel = datei.stem()) += TextPfad(format.endung);
-        format.schreibe(ausgabe, ordner / ziel);
-    }
+    bool ganz = Schreibe(aufruf, ausgabe) && lesbar;
     if (ZeigtErgebnisse(*lesung.liste)) {
         const std::string massstab = Massstabhinweis(einstellungen.ResMF);
         if (!massstab.empty()) Drucke(massstab);

@@ -85,6 +85,10 @@ for dpi in 1 100000; do
 done
 rm -f aus2/NETZ.svg aus2/NETZ.pdf aus3/NETZ.svg aus3/NETZ.pdf
 
+mkdir -p aus4/NETZ.png
+erwarte 1 "ein Format geht nicht" --export png,zrw,bmp --ziel aus4 "$wurzel/beispiele/NETZ.EIN"
+pruefe "die anderen sind da" test -s aus4/NETZ.ZRW -a -s aus4/NETZ.bmp
+
 # Point lines that cannot be read are all printed, and the rest is written.
 { printf '$NT 1\n$FP A              1 1 1\n'; for i in $(seq 30); do printf '    P%-13s x\n' "$i"; done; } >punkte.EIN
 erwarte 0 "Lesefehler" --export zrw --ziel aus punkte.EIN
