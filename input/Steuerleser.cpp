@@ -213,6 +213,7 @@ void Steuerleser::LiesEllipsoid(std::string_view rest) {
     constexpr const char* kName = "Ellipsoid";
     Feldleser felder(rest);
     Setze(lesung_.netz.Ellipsoid, Ganzzahl(felder, kName), kName);
+    lesung_.netz.EllipsoidGenannt = true;
     if (!EllipsoidBekannt(lesung_.netz.Ellipsoid)) Melde(std::string(kUnbekanntesEllipsoid));
     ellipsoid_ = EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite);
 }
@@ -226,6 +227,7 @@ void Steuerleser::LiesKoordinatensystem(std::string_view rest) {
     if (modus < 0 || modus > 255) FalscheZahl(kModus);
     Setze(lesung_.netz.Hauptmeridian, meridian, kMeridian);
     Setze(lesung_.netz.Abbildungsmodus, static_cast<std::uint8_t>(modus), kModus);
+    lesung_.netz.AbbildungGenannt = true;
 }
 
 void Steuerleser::LiesTitel(std::string_view rest) {

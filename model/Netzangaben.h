@@ -15,7 +15,14 @@ struct Netzangaben {
     std::uint8_t Abbildungsmodus = 0;  ///< 0 Gauss-Krüger, 1 UTM, others plain transverse Mercator
     double XVersatz = 0.0;             ///< offset of every northing read [m]
     double YVersatz = 0.0;             ///< offset of every easting read [m]
+    bool AbbildungGenannt = false;     ///< meridian and mode stand in the file; else they are the usual ones
+    bool EllipsoidGenannt = false;     ///< so does the ellipsoid
 };
+
+/// Whether the points were projected while they were read, in Gauss-Krüger whatever the mode says.
+[[nodiscard]] constexpr bool PunkteInGaussKrueger(std::int32_t netztyp) {
+    return netztyp == 6 || netztyp == 7;
+}
 
 /// Whether the coordinates of a network type lie in the grid of the map sheets. Networks of other types have
 /// neither sheets nor kilometre squares.

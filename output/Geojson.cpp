@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "input/Netzarten.h"
 #include "input/Zrwgeo.h"
 #include "model/Cp1252.h"
 #include "model/Punktarten.h"
@@ -55,8 +56,8 @@ std::string Name(const std::array<const char*, N>& namen, std::size_t wert) {
 
 /// Cartesian networks come into the plane by Gauss-Krüger, whatever else their file says.
 Abbildung AbbildungVon(const Netzangaben& netz) {
-    const bool kartesisch = netz.Netztyp == 6 || netz.Netztyp == 7;
-    return kartesisch ? Abbildung::GaussKrueger : static_cast<Abbildung>(netz.Abbildungsmodus);
+    return PunkteInGaussKrueger(netz.Netztyp) ? Abbildung::GaussKrueger
+                                              : static_cast<Abbildung>(netz.Abbildungsmodus);
 }
 
 class Geojson {
@@ -163,6 +164,9 @@ void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const P
 
 std::optional<int> EpsgCode(const Netzangaben& netz, const Liste& liste) {
     if (!HatKartengitter(netz.Netztyp) || liste.PunktKnoten == nullptr) return std::nullopt;
+    // Angles are in no grid, and what the file does not say would be a guess.
+    if (ZumTyp(netz.Netztyp).koordinaten == Koordinaten::Winkel) return std::nullopt;
+    if (!netz.AbbildungGenannt || !netz.EllipsoidGenannt) return std::nullopt;
     double min = std::numeric_limits<double>::infinity();
     double max = -min;
     for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {

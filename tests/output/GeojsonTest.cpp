@@ -31,7 +31,8 @@ TEST(Geojson, PunkteUndLinienMitAllemWasBekanntIst) {
     n.K(1, 2, LinieAttr::AR2).Item->Farbe = n.e.GFCol;
     Speicherdateien dateien;
     EinErgebnis ergebnis;
-    SchreibeGeojson(n.l, {.Netztyp = 3}, n.e, &ergebnis, dateien, "aus/netz.geojson");
+    SchreibeGeojson(n.l, {.Netztyp = 3, .AbbildungGenannt = true, .EllipsoidGenannt = true}, n.e, &ergebnis,
+                    dateien, "aus/netz.geojson");
     EXPECT_EQ(dateien.dateien.at("aus/netz.geojson"),
               "{\"type\":\"FeatureCollection\",\"name\":\"netz\",\"crs\":{\"type\":\"name\",\"properties\":"
               "{\"name\":\"urn:ogc:def:crs:EPSG::31467\"}},\"features\":[\n"
@@ -86,14 +87,20 @@ TEST(Geojson, EpsgNurWoDasNetzEinenBestimmt) {
              {{3, 1, 10, 0}, 3512345, std::nullopt},
              {{3, 4, 9, 0}, 3512345, std::nullopt},
              {{3, 1, 9, 2}, 500000, std::nullopt},
+             {{4, 6, 9, 1}, 9.5, std::nullopt},  // angles
          }) {
         Probenetz n;
         n.P(1, f.rechts, 5600000);
-        EXPECT_EQ(EpsgCode(f.netz, n.l), f.epsg)
-            << f.rechts << " " << f.netz.Ellipsoid << " " << f.netz.Hauptmeridian;
+        for (const auto& [ks, el] : {std::pair{true, true}, {false, true}, {true, false}}) {
+            Netzangaben netz = f.netz;
+            netz.AbbildungGenannt = ks;
+            netz.EllipsoidGenannt = el;
+            EXPECT_EQ(EpsgCode(netz, n.l), ks && el ? f.epsg : std::nullopt)
+                << f.rechts << " " << f.netz.Ellipsoid << " " << f.netz.Hauptmeridian;
+        }
     }
     Probenetz leer;
-    EXPECT_EQ(EpsgCode({3, 1, 9, 0}, leer.l), std::nullopt);
+    EXPECT_EQ(EpsgCode({3, 1, 9, 0, 0, 0, true, true}, leer.l), std::nullopt);
 }
 
 }  // namespace
