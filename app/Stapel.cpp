@@ -103,6 +103,8 @@ bool Exportiere(const Aufruf& aufruf) {
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, lesung, zustand);
+    if (const auto text = Blattschnitthinweis(*lesung.liste, lesung.netz, zustand); !text.empty())
+        Drucke(Fehler::Meldung(std::string(text), PfadText(datei.filename()), 0));
     TDM daten(dateien);
     const bool lesbar = WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
     zustand.Ergebnisse = &daten;

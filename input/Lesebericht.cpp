@@ -60,7 +60,7 @@ std::string Lesegrund(std::string_view text, std::span<const char* const> felder
         const std::string gelesen = name + " \"" + Auszug(wort) + "\"";
         std::string mitPunkt(wort);
         std::replace(mitPunkt.begin(), mitPunkt.end(), ',', '.');
-        if (mitPunkt != wort && LiesReal(mitPunkt)) return gelesen + ": Komma statt Dezimalpunkt";
+        if (i > 0 && mitPunkt != wort && LiesReal(mitPunkt)) return gelesen + ": Komma statt Dezimalpunkt";
         return gelesen + (i == 0 ? " ist keine ganze Zahl" : " ist keine Zahl");
     }
     return "die Koordinaten liegen außerhalb des Zahlenbereichs";

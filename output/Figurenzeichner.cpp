@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "input/Zrwgeo.h"
 #include "model/FigListe.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
@@ -314,7 +315,10 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
 
 void Figurenzeichner::GitterShow(const Liste& liste) {
     SetzeEbene(Ebene::Gitter);
-    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kartenblaetter(netz_);
+    Netzangaben netz = netz_;
+    if (zustand_.BlattschnittWiePunkte && PunkteInGaussKrueger(netz.Netztyp))
+        netz.Abbildungsmodus = static_cast<std::uint8_t>(Abbildung::GaussKrueger);
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kartenblaetter(netz);
 }
 
 void Figurenzeichner::KMGitterShow(const Liste& liste) {

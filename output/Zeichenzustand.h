@@ -24,6 +24,7 @@ struct Zeichenzustand {
     Zeichenmodus modus = Zeichenmodus::Bildschirm;
     double Geraetefaktor = 1.0;             ///< device dots per screen pixel [-]
     bool KurzeNummern = false;              ///< labels without their first four characters
+    bool BlattschnittWiePunkte = false;     ///< map sheets in the projection of the points, not that of "$KS"
     bool OhneStehendes = false;             ///< without what stands still while the picture is dragged
     bool Abkuerzungen = true;               ///< quick ways to the same picture; off for comparing with them
     Punktergebnisse* Ergebnisse = nullptr;  ///< null: no results are known

@@ -289,6 +289,7 @@ void TZrwMainDlg::BaueSchalter(QLayout& reihe) {
         kasten->setObjectName(AusUtf8(s.komponente));
         kasten->setToolTip(AusUtf8(s.hinweis));
         kasten->setChecked(s.anfangs);
+        kasten->setHidden(s.nurBeiAbweichung);
         connect(kasten, &QCheckBox::toggled, this, [this, &s](bool ein) { SchalterGewaehlt(s, ein); });
         schalterkaesten_.push_back(kasten);
         reihe.addWidget(kasten);
@@ -412,6 +413,10 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         }
     }
     Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
+    if (schalter.imKartengitter && liste_ != nullptr) {
+        const auto text = Blattschnitthinweis(*liste_, programm_.netz, programm_.zustand);
+        if (!text.empty()) ZeigeStatus(AusUtf8(text));
+    }
     const bool ausTabelle = schalter.inListe == &Liste::ShowLgRes || schalter.inListe == &Liste::ShowHRes ||
                             schalter.inListe == &Liste::ShowLGGen || schalter.inListe == &Liste::ShowHGen;
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);

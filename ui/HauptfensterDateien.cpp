@@ -28,8 +28,8 @@
 namespace zrw {
 namespace {
 
-/// Messages of one reading that a box can show.
-constexpr int kMeldungenInBox = 20;
+/// Messages of one reading that a box can show on a small screen, with two or three lines each.
+constexpr int kMeldungenInBox = 12;
 
 const QString kBildfilter = QStringLiteral("Zarwikdatei (*.ZRW)");
 const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien (*.*)");
@@ -334,6 +334,8 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
         const bool ein =
             schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
         Schalte(kSchalter[i], ein, liste_.get(), programm_.netz, programm_.zustand);
+        if (kSchalter[i].nurBeiAbweichung)
+            schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
     liste_->Weite = bild_->width();
     liste_->Hoehe = bild_->height();
@@ -344,12 +346,14 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     if (liste_->PunktKnoten != nullptr || IstBilddatei(datei))
         programm_.sitzung.NimmDatei(info.absoluteFilePath());
     programm_.sitzung.MerkeOrdner(ordner_);
-    const QString ohneWirkung = AusUtf8(Statustext(lesung.bericht));
-    ZeigeStatus(QStringLiteral("%1: %2 Punkte, %3 Linien")
-                    .arg(info.fileName())
-                    .arg(liste_->MaxPkte)
-                    .arg(liste_->MaxKant) +
-                (ohneWirkung.isEmpty() ? QString() : QStringLiteral("; ") + ohneWirkung));
+    QStringList status(QStringLiteral("%1: %2 Punkte, %3 Linien")
+                           .arg(info.fileName())
+                           .arg(liste_->MaxPkte)
+                           .arg(liste_->MaxKant));
+    status << AusUtf8(Statustext(lesung.bericht))
+           << AusUtf8(Blattschnitthinweis(*liste_, programm_.netz, programm_.zustand));
+    status.removeAll(QString());
+    ZeigeStatus(status.join(QStringLiteral("; ")));
     // A mode that was chosen before there was a network.
     if (Aktiv() != nullptr) Aktiv()->Beginne();
     // A picture file carries its marks.

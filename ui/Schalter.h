@@ -21,9 +21,10 @@ struct Schalter {
     bool anfangs;
     bool imKartengitter = false;       ///< only for networks that have a map grid
     bool schliesstErgebnisse = false;  ///< the results window goes
+    bool nurBeiAbweichung = false;     ///< its box shows only where the map sheets would miss the points
 };
 
-inline constexpr std::array<Schalter, 16> kSchalter{{
+inline constexpr std::array<Schalter, 17> kSchalter{{
     {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Liste::ShowPktText, nullptr,
      true},
     {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Liste::ShowBeob, nullptr,
@@ -49,9 +50,26 @@ inline constexpr std::array<Schalter, 16> kSchalter{{
     {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Liste::ShowFL, nullptr, true, false, true},
     {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Liste::ShowHilfP,
      nullptr, true, false, true},
+    {"blattschnitt", "CheckBoxBlattschnitt", "Blattschnitt in der Abbildung der Punkte",
+     "TK25 in Gauß-Krüger wie die Punkte, nicht in der Abbildung aus $KS", nullptr,
+     &Zeichenzustand::BlattschnittWiePunkte, false, false, false, true},
     {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "Punktnummern ohne ihre ersten vier Zeichen", nullptr,
      &Zeichenzustand::KurzeNummern, false},
 }};
+
+/// Whether the map sheets follow a projection that the points are not in.
+[[nodiscard]] constexpr bool BlattschnittWeichtAb(const Netzangaben& netz) {
+    return PunkteInGaussKrueger(netz.Netztyp) && netz.Abbildungsmodus != 0;
+}
+
+/// What is said where map sheets are switched on and lie elsewhere, UTF-8; empty where all is well.
+[[nodiscard]] inline std::string_view Blattschnitthinweis(const Liste& liste, const Netzangaben& netz,
+                                                          const Zeichenzustand& zustand) {
+    if (!liste.ShowGitter || zustand.BlattschnittWiePunkte || !BlattschnittWeichtAb(netz)) return {};
+    return "TK25 folgt der Abbildung aus $KS, die Punkte liegen in Gauß-Krüger: Die Blätter erscheinen nicht "
+           "beim "
+           "Netz. Schalter „Blattschnitt in der Abbildung der Punkte“ legt sie darunter.";
+}
 
 /// Puts one switch into effect.
 inline void Schalte(const Schalter& s, bool ein, Liste* liste, const Netzangaben& netz,

@@ -107,7 +107,7 @@ TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
     const QString& text = dialoge.meldungen[0];
     EXPECT_TRUE(text.contains("Lesefehler bei PunktP0\nn.EIN, Zeile 2: Punktcode \"x\" ist keine ganze Zahl"))
         << text.toStdString();
-    EXPECT_TRUE(text.contains("PunktP19") && !text.contains("PunktP20")) << text.toStdString();
+    EXPECT_TRUE(text.contains("PunktP11") && !text.contains("PunktP12")) << text.toStdString();
     EXPECT_TRUE(text.contains("insgesamt 26")) << text.toStdString();  // and one that there are no points
 }
 
@@ -371,6 +371,19 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
     EXPECT_TRUE(Status().contains("kein Kartengitter"));
     fenster.Oeffne(kBeispiel);
     EXPECT_TRUE(fenster.Netz()->ShowGitter);
+    EXPECT_TRUE(Kasten("CheckBoxBlattschnitt").isHidden());
+    Lege("g.EIN",
+         "$NT 7\n$EL 5\n$KS 9 1\n$FP A              1 3951726.0582 650661.4740 4947789.9729\n"
+         "    B              1 3972637.1050 629203.9045 4933700.0494\n");
+    Oeffne("g.EIN");
+    EXPECT_TRUE(Status().contains("Blattschnitt in der Abbildung der Punkte")) << Status().toStdString();
+    ASSERT_FALSE(Kasten("CheckBoxBlattschnitt").isHidden());
+    const QImage daneben = fenster.Bild().copy();
+    tk25.click();
+    EXPECT_EQ(fenster.Bild(), daneben) << "no sheet lies under the network";
+    tk25.click();
+    Kasten("CheckBoxBlattschnitt").click();
+    EXPECT_NE(fenster.Bild(), daneben);
 }
 
 }  // namespace
