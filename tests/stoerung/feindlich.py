@@ -109,7 +109,7 @@ def saetze(wurzel):
 
 
 EINSTELLUNGEN = b"[ZRWPAR]\nFPCol=0\nNPCol=255\nPTSize=4\nHPSize=2\nFang=5\nPXOff=10\nPYOff=-5\nGFCol=128\nResMF=1.0\n"
-SCHALTER = "legende tk25 kmq lageverb hoehenverb lagegen hoehengen kurznr".split()
+SCHALTER = "legende tk25 kmq lageverb hoehenverb lagegen hoehengen kurznr blattschnitt".split()
 
 
 def optionen(zufall):
