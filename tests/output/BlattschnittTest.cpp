@@ -22,23 +22,15 @@ class Blattschnitt : public testing::Test {
     static constexpr double kMassstab = 1000 / 25.4 * 96;
     static constexpr Druckseite kSeite{1000, 500, 96};
 
-    template <class Schneide>
-    static Lagen LagenVon(const Schneide& schneide) {
-        Lagen lagen;
-        for (const Blatt& b : schneide())
-            lagen.emplace_back(b.zeile, b.spalte);
-        return lagen;
-    }
     /// From (0, 0) on, as (row, column).
     Lagen Schneide() {
-        return LagenVon([&] {
-            auto blaetter = zrw::Blattschnitt(plan, kMassstab, kSeite, {0, 0});
-            for (const Blatt& b : blaetter) {
-                EXPECT_NEAR(b.ecke.rechts, b.spalte * 1000.0, 1e-6);
-                EXPECT_NEAR(b.ecke.hoch, b.zeile * -500.0, 1e-6);
-            }
-            return blaetter;
-        });
+        Lagen lagen;
+        for (const Blatt& b : zrw::Blattschnitt(plan, kMassstab, kSeite, {0, 0})) {
+            EXPECT_NEAR(b.ecke.rechts, b.spalte * 1000.0, 1e-6);
+            EXPECT_NEAR(b.ecke.hoch, b.zeile * -500.0, 1e-6);
+            lagen.emplace_back(b.zeile, b.spalte);
+        }
+        return lagen;
     }
 
     Probenetz n;
