@@ -1,8 +1,5 @@
-// Undoing and redoing, unsaved changes and what is asked about them, networks with nothing in them, files
-// dropped and remembered.
-#include <QDropEvent>
-#include <QMimeData>
-#include <QUrl>
+// Undoing and redoing, unsaved changes and what is asked about them, networks with nothing in them, and
+// files remembered.
 #include <cmath>
 #include <random>
 #include <vector>
@@ -238,28 +235,7 @@ TEST_F(Aenderungen, FrageVorDemVerwerfen) {
     EXPECT_TRUE(dialoge.fragen.isEmpty()) << "nothing has been changed";
 }
 
-TEST_F(Aenderungen, AbgelegteUndLetzteDateien) {
-    const auto lege = [this](const QList<QUrl>& adressen) {
-        QMimeData inhalt;
-        adressen.isEmpty() ? inhalt.setText("n.EIN") : inhalt.setUrls(adressen);
-        QDragEnterEvent herein({50, 50}, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&fenster, &herein);
-        EXPECT_EQ(herein.isAccepted(), !adressen.isEmpty());
-        QDropEvent e(QPointF(50, 50), Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&fenster, &e);
-    };
-    lege({QUrl("https://example.org/a.EIN"), QUrl::fromLocalFile(ordner.filePath("a.EIN"))});
-    EXPECT_NE(Punkt("Z"), nullptr) << "the first file among what was dropped";
-    Modus("DelPunktButton");
-    Klick(E);
-    lege({QUrl::fromLocalFile(ordner.filePath("n.EIN"))});
-    EXPECT_EQ(Punkt("C"), nullptr) << "cancelled";
-    dialoge.antwort = false;
-    lege({});
-    EXPECT_EQ(Punkt("C"), nullptr);
-    lege({QUrl::fromLocalFile(ordner.filePath("n.EIN"))});
-    EXPECT_NE(Punkt("C"), nullptr);
-
+TEST_F(Aenderungen, LetzteDateien) {
     for (int i = 0; i < 12; ++i) {
         const QString name = QString("m%1.EIN").arg(i);
         Lege(name, kAnderes);
