@@ -243,6 +243,7 @@ Probe BesteProbe(const std::vector<Feld>& teile, int k) {
         streifen.erase(std::unique(streifen.begin(), streifen.end()), streifen.end());
         for (int oben = 0; oben < k; ++oben) {
             std::vector<std::pair<int, int>> blaetter;
+            blaetter.reserve(streifen.size());
             for (const auto& [zeile, spalte] : streifen)
                 blaetter.emplace_back(Boden(zeile + oben, k), spalte);
             std::sort(blaetter.begin(), blaetter.end());

@@ -35,10 +35,8 @@ void Ersetze(std::string& t, std::size_t ort, std::uint32_t wert, std::size_t la
 
 std::uint32_t Pruefsumme(std::string_view t) {
     std::uint32_t summe = 0;
-    for (std::size_t i = 0; i < t.size(); i += 4) {
-        const std::size_t rest = std::min<std::size_t>(4, t.size() - i);
-        summe += Zahl(t, i, rest) << 8 * (4 - rest);
-    }
+    for (std::size_t i = 0; i < t.size(); ++i)
+        summe += std::uint32_t{static_cast<unsigned char>(t[i])} << 8 * (3 - i % 4);
     return summe;
 }
 
