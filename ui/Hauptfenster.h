@@ -112,6 +112,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
 
     // HauptfensterDateien.cpp
     void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
+    void StelleSchalter(bool ausBild);
     [[nodiscard]] bool Speichere();
     [[nodiscard]] bool DarfVerwerfen();
     [[nodiscard]] bool BereitZumEnde();

@@ -296,6 +296,29 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     melde();
 }
 
+/// Puts the new network under the switches of the window.
+void TZrwMainDlg::StelleSchalter(bool ausBild) {
+    if (ausBild) {
+        // Reading a picture file switches these two on, whatever they were.
+        for (std::size_t i = 0; i < kSchalter.size(); ++i) {
+            if (kSchalter[i].inListe == &Liste::ShowPktText || kSchalter[i].inListe == &Liste::ShowBeob)
+                schalterkaesten_[i]->setChecked(true);
+        }
+    } else {
+        // A control file starts from screen sizes and the usual font.
+        programm_.zustand.Geraetefaktor = 1.0;
+        programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
+        flaeche_.SetzeSchrift(Zeichenschrift());
+    }
+    for (std::size_t i = 0; i < kSchalter.size(); ++i) {
+        const bool ein =
+            schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
+        Schalte(kSchalter[i], ein, liste_.get(), programm_.netz, programm_.zustand);
+        if (kSchalter[i].nurBeiAbweichung)
+            schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
+    }
+}
+
 void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
     const Sanduhr sanduhr;
     // Nothing may point into the network that goes now.
@@ -318,25 +341,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     programm_.netz = lesung.netz;
     ergebnisse_->WaehleOrdner(datei);
     datei_ = datei;
-    if (IstBilddatei(datei)) {
-        // Reading a picture file switches these two on, whatever they were.
-        for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-            if (kSchalter[i].inListe == &Liste::ShowPktText || kSchalter[i].inListe == &Liste::ShowBeob)
-                schalterkaesten_[i]->setChecked(true);
-        }
-    } else {
-        // And from screen sizes and the usual font.
-        programm_.zustand.Geraetefaktor = 1.0;
-        programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
-        flaeche_.SetzeSchrift(Zeichenschrift());
-    }
-    for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-        const bool ein =
-            schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
-        Schalte(kSchalter[i], ein, liste_.get(), programm_.netz, programm_.zustand);
-        if (kSchalter[i].nurBeiAbweichung)
-            schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
-    }
+    StelleSchalter(IstBilddatei(datei));
     liste_->Weite = bild_->width();
     liste_->Hoehe = bild_->height();
     const QFileInfo info(AusUtf8(PfadText(datei)));
