@@ -37,9 +37,8 @@ std::string Statustext(const Lesebericht& bericht) {
 
 std::string Leertext(const Lesebericht& bericht) {
     if (!bericht.schluessel)
-        return "Keine Zeile beginnt mit einem bekannten Schlüssel: Das ist keine Steuerdatei. Es wurde "
-               "nichts "
-               "geladen.";
+        return "Keine Zeile beginnt mit einem bekannten Schlüssel: Das ist keine Steuerdatei. "
+               "Es wurde nichts geladen.";
     const std::string anfang = "Die Datei enthält keine lesbaren Punkte: ";
     if (bericht.fremderTyp > 0) {
         return anfang + "Den Netztyp " + std::to_string(bericht.letzterFremder) +
