@@ -33,10 +33,8 @@ class Handgriffe {
         pflege_.ZeichneNeu(liste_);
         Lauf("schieben um (37, 11)", 5, [&](int i) {
             const zrw::Bildpunkt weg = i % 2 == 0 ? zrw::Bildpunkt{37, 11} : zrw::Bildpunkt{-37, -11};
-            pflege_.Verschiebe(liste_,
-                               {liste_.XOffset - static_cast<double>(weg.x) * liste_.Faktor,
-                                liste_.YOffset + static_cast<double>(weg.y) * liste_.Faktor},
-                               weg);
+            liste_.SetzeVersatz(liste_.Versatz(), weg);
+            pflege_.Verschiebe(liste_, weg);
         });
         // A point in the middle of the picture disappears with all that is at it, and comes again.
         zrw::PunktKnoten* punkt = Mitte();

@@ -94,7 +94,7 @@ class Wildergebnisse final : public zrw::Punktergebnisse {
 void PasseInsFenster(zrw::Liste& liste) {
     liste.Weite = kWeite;
     liste.Hoehe = kHoehe;
-    if (zrw::AnsichtBrauchbar(liste)) return;
+    if (liste.Brauchbar()) return;
     liste.FindWorldMinMax();
     liste.PasseEin();
 }

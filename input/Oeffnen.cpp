@@ -19,14 +19,12 @@ Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateie
     lesung.netz = bisher;
     lesung.liste = LiesBilddatei(datei, dateien, einstellungen, lesung.netz);
     Liste& liste = *lesung.liste;
-    if (!AnsichtBrauchbar(liste)) {
+    if (!liste.Brauchbar()) {
         Melde(meldung, "Der gespeicherte Ausschnitt ist nicht lesbar; das ganze Netz wird dargestellt.",
               datei);
         liste.Weite = bild.weite;
         liste.Hoehe = bild.hoehe;
-        liste.Faktor = 1.0;  // what fitting leaves as it is where there are no points
-        liste.XOffset = liste.YOffset = 0.0;
-        liste.MaxXW = liste.MinXW = liste.MaxYW = liste.MinYW = 0.0;
+        liste.Vergiss();  // fitting leaves a network without points as it is
         liste.FindWorldMinMax();
         liste.PasseEin();
     }

@@ -1,37 +1,107 @@
-// View arithmetic of the list: fitting, world to picture and back, zooming, panning, moving.
+#include "model/Ansicht.h"
+
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
-#include "model/FigListe.h"
 #include "model/Ganzzahl.h"
-#include "model/Ortstafel.h"
-#include "model/Zeichner.h"
 
 namespace zrw {
 namespace {
 
 /// Margin of the picture that fitting leaves free [px].
 constexpr double kBildrand = 30;
+/// Scales that zooming stays within [m/px]: from the hundredth of a millimetre to several earths in the
+/// picture. Beyond them positions lose their last digit, and nobody finds back.
+constexpr double kFeinster = 1e-5;
+constexpr double kGroebster = 1e6;
+/// Margin round fitted points, with room for their numbers [px].
+constexpr int kRand = 40;
+/// Scale for a single point [m/px].
+constexpr double kEinzelpunkt = 0.5;
+constexpr double kKilometer = 1000;
+
+/// A picture of this size at this scale with the world position in its middle.
+Bildlage UmMitte(double faktor, double rechts, double hoch, const Ansicht& a) {
+    return {faktor, {(rechts - a.Weite * faktor) / 2, (hoch + a.Hoehe * faktor) / 2}};
+}
 
 }  // namespace
 
-void Liste::FindWorldMinMax() {
-    if (PunktKnoten == nullptr) return;
-    MaxXW = MinXW = PunktKnoten->XWPu;
-    MaxYW = MinYW = PunktKnoten->YWPu;
-    for (const zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
-        MaxXW = std::max(MaxXW, p->XWPu);
-        MinXW = std::min(MinXW, p->XWPu);
-        MaxYW = std::max(MaxYW, p->YWPu);
-        MinYW = std::min(MinYW, p->YWPu);
-    }
-    MinXW = std::trunc(MinXW / 1000 - 1) * 1000;
-    MaxXW = std::trunc(MaxXW / 1000 + 1) * 1000;
-    MaxYW = std::trunc(MaxYW / 1000 + 1) * 1000;
-    MinYW = std::trunc(MinYW / 1000 - 1) * 1000;
+Welt Ansicht::BildinWelt(Bildpunkt b) const {
+    return {MinXW + XOffset + static_cast<double>(b.x) * Faktor,
+            MaxYW + YOffset - static_cast<double>(b.y) * Faktor};
 }
 
-void Liste::Findfaktor() {
+Bildpunkt Ansicht::Bildort(Welt w) const {
+    return {RundeZuInt64((w.rechts - (MinXW + XOffset)) / Faktor),
+            RundeZuInt64((MaxYW + YOffset - w.hoch) / Faktor)};
+}
+
+Welt Ansicht::Versetzt(Welt w, Bildpunkt weg) const {
+    return {w.rechts + static_cast<double>(weg.x) * Faktor, w.hoch - static_cast<double>(weg.y) * Faktor};
+}
+
+bool Ansicht::Brauchbar() const {
+    if (!(Faktor > 0.0) || !std::isfinite(Faktor)) return false;
+    for (const double v : {MaxXW, MinXW, MaxYW, MinYW, XOffset, YOffset}) {
+        if (!std::isfinite(v)) return false;
+    }
+    return true;
+}
+
+Ansicht Ansicht::FuerGeraet(double faktor, const std::optional<Welt>& ecke) const {
+    Ansicht a = *this;
+    a.Faktor = faktor;
+    if (ecke) {
+        a.XOffset = ecke->rechts - MinXW;
+        a.YOffset = ecke->hoch - MaxYW;
+    }
+    return a;
+}
+
+Bildlage Ansicht::Eingepasst(const Weltkasten& welt) const {
+    const double dx = welt.rechts - welt.links;
+    const double dy = welt.oben - welt.unten;
+    const double weite = std::max(Weite - 2 * kRand, 1);
+    const double hoehe = std::max(Hoehe - 2 * kRand, 1);
+    const double faktor = dx > 0 || dy > 0 ? std::max(dx / weite, dy / hoehe) : kEinzelpunkt;
+    return UmMitte(faktor, welt.links + welt.rechts, welt.unten + welt.oben, *this);
+}
+
+Bildlage Ansicht::Ausschnitt(Bildpunkt a, Bildpunkt b) const {
+    const auto weite = static_cast<double>(std::max<std::int64_t>(std::llabs(a.x - b.x), 1));
+    const auto hoehe = static_cast<double>(std::max<std::int64_t>(std::llabs(a.y - b.y), 1));
+    const Welt eckeA = BildinWelt(a);
+    const Welt eckeB = BildinWelt(b);
+    return UmMitte(Faktor * std::max(weite / Weite, hoehe / Hoehe), eckeA.rechts + eckeB.rechts,
+                   eckeA.hoch + eckeB.hoch, *this);
+}
+
+void Ansicht::SetzeLage(const Bildlage& lage) {
+    Faktor = lage.faktor;
+    XOffset = lage.ecke.rechts - MinXW;
+    YOffset = lage.ecke.hoch - MaxYW;
+}
+
+void Ansicht::SetzeMitte(Welt mitte) {
+    XOffset = mitte.rechts - MinXW - Weite / 2.0 * Faktor;
+    YOffset = mitte.hoch - MaxYW + Hoehe / 2.0 * Faktor;
+}
+
+void Ansicht::SetzeAusdehnung(const Weltkasten& welt) {
+    MinXW = std::trunc(welt.links / kKilometer - 1) * kKilometer;
+    MaxXW = std::trunc(welt.rechts / kKilometer + 1) * kKilometer;
+    MaxYW = std::trunc(welt.oben / kKilometer + 1) * kKilometer;
+    MinYW = std::trunc(welt.unten / kKilometer - 1) * kKilometer;
+}
+
+void Ansicht::Vergiss() {
+    const Ansicht leer;
+    *this = Ansicht{.Weite = Weite, .Hoehe = Hoehe, .Faktor = leer.Faktor};
+}
+
+void Ansicht::Findfaktor() {
     const double dx = MaxXW - MinXW;
     const double dy = MaxYW - MinYW;
     // The horizontal extent goes with the height and the vertical one with the width: plots that are in use
@@ -39,161 +109,36 @@ void Liste::Findfaktor() {
     Faktor = dy < dx ? dx / (Hoehe - kBildrand) : dy / Weite;
 }
 
-namespace {
-
-/// Sets picture positions and, where that is asked for, sees whether all of them moved alike.
-template <bool Prueft>
-class Versetzer {
-  public:
-    explicit Versetzer(Bildpunkt weg) : weg_(weg) {}
-    void Setze(std::int64_t& x, std::int64_t& y, Bildpunkt neu) {
-        if constexpr (Prueft) {
-            // Far outside, sums would leave 64 bits; pictures of such views are not moved.
-            constexpr std::uint64_t kWeit = 1ULL << 29U;
-            const auto fern = [](std::int64_t v) {
-                return static_cast<std::uint64_t>(v) + kWeit >= 2 * kWeit;
-            };
-            if (fern(x) || fern(y) || fern(neu.x) || fern(neu.y)) anders_ = true;
-            if (!anders_) anders_ = neu.x - x != weg_.x || neu.y - y != weg_.y;
-        }
-        x = neu.x;
-        y = neu.y;
-    }
-    void SetzeAnders() { anders_ = true; }
-    [[nodiscard]] bool Glatt() const { return !anders_; }
-
-  private:
-    Bildpunkt weg_;
-    bool anders_ = false;
-};
-
-}  // namespace
-
-/// @param weg how far all figures are expected to move [px] @return whether they did, if that is looked at
-template <bool Prueft>
-bool Liste::RechneBild(Bildpunkt weg) {
-    Versetzer<Prueft> v(weg);
-    Ortstafel orte;
-    // The detours of indirect lines are rounded with halves to the even neighbour, which an odd way swaps.
-    const bool ungerade = weg.x % 2 != 0 || weg.y % 2 != 0;
-    // By the order in memory: following the lists would wait for each node before it knows the next.
-    suche_.punkte.FuerAlle([&](std::uint32_t f) {
-        const zrw::PunktKnoten& p = punktArena_[f].knoten;
-        const Bildpunkt ort = Bildort({p.XWPu, p.YWPu});
-        v.Setze(p.Item->XO, p.Item->YO, ort);
-        orte.Nimm(p.PNr, ort);
-    });
-    suche_.kanten.FuerAlle([&](std::uint32_t f) {
-        const PunktKante& k = kanteArena_[f].knoten;
-        const auto a = orte.Finde(k.ANr);
-        const auto e = orte.Finde(k.ENr);
-        if (a) v.Setze(k.Item->XO, k.Item->YO, *a);
-        if (e) v.Setze(k.Item->XBiE, k.Item->YBiE, *e);
-        if (!a || !e || (ungerade && k.Item->LAttr > LinieAttr::AST)) v.SetzeAnders();
-    });
-    suche_.texte.FuerAlle([&](std::uint32_t f) {
-        const PunktString& t = textArena_[f].knoten;
-        const auto p = orte.Finde(t.TNr);
-        if (p) v.Setze(t.Item->XO, t.Item->YO, *p);
-        if (!p) v.SetzeAnders();
-    });
-    suche_.lage = {Faktor, MinXW + XOffset, MaxYW + YOffset, true};
-    return v.Glatt();
-}
-
-void Liste::WeltinBild() {
-    (void)RechneBild<false>({});
-}
-
-void Liste::WeltinBild(const Figurenmenge& figuren) {
-    for (zrw::PunktKnoten* p : figuren.punkte) {
-        const Bildpunkt ort = Bildort({p->XWPu, p->YWPu});
-        p->Item->XO = ort.x;
-        p->Item->YO = ort.y;
-    }
-    const auto folge = [this](PunktIndex nr, std::int64_t& x, std::int64_t& y) {
-        const zrw::PunktKnoten* p = SuchPkt(nr);
-        if (p == nullptr) return;
-        x = p->Item->XO;
-        y = p->Item->YO;
-    };
-    for (PPunktKante k : figuren.kanten) {
-        folge(k->ANr, k->Item->XO, k->Item->YO);
-        folge(k->ENr, k->Item->XBiE, k->Item->YBiE);
-    }
-    for (PPunktString t : figuren.texte)
-        folge(t->TNr, t->Item->XO, t->Item->YO);
-}
-
-bool Liste::PositionenAktuell() const {
-    const Bildlage& l = suche_.lage;
-    return l.faktor == Faktor && l.links == MinXW + XOffset && l.oben == MaxYW + YOffset;
-}
-
-Welt Liste::BildinWelt(Bildpunkt b) const {
-    return {MinXW + XOffset + static_cast<double>(b.x) * Faktor,
-            MaxYW + YOffset - static_cast<double>(b.y) * Faktor};
-}
-
-Bildpunkt Liste::Bildort(Welt w) const {
-    return {RundeZuInt64((w.rechts - (MinXW + XOffset)) / Faktor),
-            RundeZuInt64((MaxYW + YOffset - w.hoch) / Faktor)};
-}
-
-void Liste::PasseEin() {
-    if (PunktKnoten == nullptr) return;  // nothing to fit; a scale of 0 would help nobody
+void Ansicht::PasseEin() {
     XOffset = 0;
     YOffset = 0;
     Findfaktor();
-    WeltinBild();
 }
 
-void Liste::Alles(Zeichner& z) {
-    ClearPicture(z);
-    PasseEin();
-    ShowPicture(z);
-}
-
-void Liste::ZoomUp(Zeichner& z) {
-    ClearPicture(z);
-    Faktor *= einstellungen_.Zoomschritt;
-    WeltinBild();
-    ZeichneFiguren(z);
-}
-
-void Liste::ZoomDown(Zeichner& z) {
-    Faktor /= einstellungen_.Zoomschritt;
-    WeltinBild();
-    ZeichneFiguren(z);
-}
-
-void Liste::MoveMe(std::int64_t dx, std::int64_t dy) {
+void Ansicht::MoveMe(std::int64_t dx, std::int64_t dy) {
     XOffset += static_cast<double>(dx) * Faktor;
     YOffset += static_cast<double>(dy) * Faktor;
-    WeltinBild();
 }
 
-bool Liste::SetzeVersatz(Welt versatz, Bildpunkt weg) {
-    XOffset = versatz.rechts;
-    YOffset = versatz.hoch;
-    return RechneBild<true>(weg);
+void Ansicht::SetzeVersatz(Welt anfang, Bildpunkt weg) {
+    XOffset = anfang.rechts - static_cast<double>(weg.x) * Faktor;
+    YOffset = anfang.hoch + static_cast<double>(weg.y) * Faktor;
 }
 
-void Liste::MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy) {
-    Versetze(u, {u.XWPu + static_cast<double>(dx) * Faktor, u.YWPu - static_cast<double>(dy) * Faktor});
-    WeltinBild();
+bool Ansicht::Zoome(double x, double y, bool groesser, double schritt) {
+    const double vorher = Faktor;
+    const double danach = groesser ? vorher * schritt : vorher / schritt;
+    if (groesser ? danach < kFeinster : danach > kGroebster) return false;
+    XOffset += x * vorher;
+    YOffset -= y * vorher;
+    XOffset -= x * danach;
+    YOffset += y * danach;
+    Faktor = danach;
+    return true;
 }
 
-void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z) {
-    Versetze(p1, {p2.XWPu, p2.YWPu});
-    p1.Item->XO = p2.Item->XO;
-    p1.Item->YO = p2.Item->YO;
-    if (PktText* t = FindPktText(p1.PNr); t != nullptr) t->Hide(z);
-}
-
-void Liste::DragPktText(PunktString& u, Zeichner& z) {
-    const Bildpunkt weg = u.Item->Drag(z);
-    Versetze(u, {Summe(u.Item->XBiO, weg.x), Summe(u.Item->YBiO, weg.y)});
+bool ErlaubteLage(const Bildlage& lage) {
+    return lage.faktor >= kFeinster && lage.faktor <= kGroebster;
 }
 
 }  // namespace zrw

@@ -111,7 +111,7 @@ void Liste::SetzeZurueck(const Herausnahme& h) {
         k.knoten->Item->Visible = k.sichtbar;
         ++MaxKant;
     }
-    suche_.lage.frisch = false;
+    suche_.stand.frisch = false;
     if (h.punkt.knoten != nullptr) MeldePunkt(*h.punkt.knoten);
 }
 

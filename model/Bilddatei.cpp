@@ -1,7 +1,6 @@
 #include "model/Bilddatei.h"
 
 #include <algorithm>
-#include <cmath>
 #include <initializer_list>
 #include <string>
 
@@ -171,15 +170,6 @@ std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const D
     const std::string inhalt = dateien.Lies(datei, kGrenze);
     ByteLeser f(inhalt);
     return Liste::Load(f, einstellungen, netz, PfadText(datei));
-}
-
-bool AnsichtBrauchbar(const Liste& liste) {
-    if (!(liste.Faktor > 0.0) || !std::isfinite(liste.Faktor)) return false;
-    for (const double v :
-         {liste.MaxXW, liste.MinXW, liste.MaxYW, liste.MinYW, liste.XOffset, liste.YOffset}) {
-        if (!std::isfinite(v)) return false;
-    }
-    return true;
 }
 
 }  // namespace zrw

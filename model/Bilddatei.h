@@ -26,8 +26,4 @@ std::size_t SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const
 [[nodiscard]] std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
                                                    const Einstellungen& einstellungen, Netzangaben& netz);
 
-/// A view that shows something: finite extents and a positive, finite scale. Files of unknown origin may hold
-/// others.
-[[nodiscard]] bool AnsichtBrauchbar(const Liste& liste);
-
 }  // namespace zrw

@@ -30,17 +30,18 @@ void Suchmenge::VergissOrte() {
 }
 
 bool Bildsuche::Brauchbar() const {
-    return lage.faktor > 0.0 && std::isfinite(lage.faktor) && std::isfinite(lage.links) &&
-           std::isfinite(lage.oben);
+    const Bildlage& l = stand.lage;
+    return l.faktor > 0.0 && std::isfinite(l.faktor) && std::isfinite(l.ecke.rechts) &&
+           std::isfinite(l.ecke.hoch);
 }
 
 Weltkasten Bildsuche::Welt(const Bildbereich& b) const {
-    const double f = lage.faktor;
+    const double f = stand.lage.faktor;
     // Positions are rounded to whole pixels, and the digits of large coordinates end somewhere.
     const double rand = 2.0 * f;
     const auto ungenau = [](double v) { return std::fabs(v) * 1e-12; };
-    const double x = lage.links;
-    const double y = lage.oben;
+    const double x = stand.lage.ecke.rechts;
+    const double y = stand.lage.ecke.hoch;
     const double links = x + static_cast<double>(b.links) * f;
     const double rechts = x + static_cast<double>(b.rechts) * f;
     const double oben = y - static_cast<double>(b.oben) * f;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/Ansicht.h"
 #include "model/Raumbaum.h"
 #include "model/Werte.h"
 
@@ -22,11 +23,9 @@ struct Bildbereich {
     std::int64_t unten = 0;
 };
 
-/// How picture positions follow from the world.
-struct Bildlage {
-    double faktor = 0.0;  ///< [m/px]
-    double links = 0.0;   ///< easting of the left border [m]
-    double oben = 0.0;    ///< northing of the upper border [m]
+/// The view that picture positions were worked out with; none at first.
+struct Bildstand {
+    Bildlage lage{0.0, {}};
     bool frisch = false;  ///< no figure came or moved since the positions were worked out
 };
 
@@ -115,7 +114,7 @@ struct Bildsuche {
     Suchmenge kanten;
     Suchmenge texte;
     std::vector<Punktenden> enden;  ///< of the lines by `Folge`: quicker to ask than the lines
-    Bildlage lage;
+    Bildstand stand;
     bool gebaut = false;
     std::size_t bauten = 0;  ///< how often it was built
     Weltkasten alles;        ///< of all points, once built

@@ -86,7 +86,7 @@ PunktKante& Liste::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr)
     index_.Auf(k);
     suche_.kanten.Auf(k.Folge, suche_.gebaut);
     suche_.enden.push_back({iANr, iENr});
-    suche_.lage.frisch = false;
+    suche_.stand.frisch = false;
     return k;
 }
 
@@ -97,7 +97,7 @@ PunktString& Liste::AddPktText(const PktText& item, PunktIndex iNr) {
     VerdraengeText(iNr);
     index_.Auf(platz->knoten);
     suche_.texte.Auf(platz->knoten.Folge, suche_.gebaut);
-    suche_.lage.frisch = false;
+    suche_.stand.frisch = false;
     return platz->knoten;
 }
 

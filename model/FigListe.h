@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "model/Ansicht.h"
 #include "model/Arena.h"
 #include "model/Bildsuche.h"
 #include "model/Einstellungen.h"
@@ -20,19 +21,10 @@
 
 namespace zrw {
 
-class Liste {
+class Liste : public Ansicht {
   public:
-    // World extents [m] and pan offsets [m].
-    double MaxXW = 0.0;
-    double MinXW = 0.0;
-    double MaxYW = 0.0;
-    double MinYW = 0.0;
-    double XOffset = 0.0;
-    double YOffset = 0.0;
     std::int32_t MaxPkte = 0;  ///< number of points; every adder of points and labels keeps it
     std::int32_t MaxKant = 0;  ///< number of lines
-    std::int32_t Weite = 0;    ///< picture width [px]
-    std::int32_t Hoehe = 0;    ///< picture height [px]
     // Heads of the lists.
     PPunktKnoten PunktKnoten = nullptr;
     PPunktKante KanteKnoten = nullptr;
@@ -54,8 +46,6 @@ class Liste {
     bool ShowNP = true;
     bool ShowHilfP = true;
     std::unique_ptr<Legende> Legend;
-
-    double Faktor = 1.0;  ///< scale of the view [m/px]
 
     /// An empty list. The settings give the zoom step and the catch radius; they must outlive the list.
     explicit Liste(const Einstellungen& einstellungen);
@@ -80,7 +70,7 @@ class Liste {
     virtual PunktKante& AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr);
     virtual PunktString& AddPktText(const PktText& item, PunktIndex iNr);
 
-    // View: Ansicht.cpp
+    // View: Listenansicht.cpp, on the value in Ansicht.h
     /// World extents, widened to whole kilometres with one to spare. Needs at least one point.
     virtual void FindWorldMinMax();
     /// Picture positions of all figures from their world coordinates.
@@ -90,13 +80,13 @@ class Liste {
     /// The positions are those of the view as it is now.
     [[nodiscard]] bool PositionenAktuell() const;
     // For whoever puts all positions back by hand: the view that they came from goes with them.
-    [[nodiscard]] const Bildlage& Lage() const { return suche_.lage; }
-    void SetzeLage(const Bildlage& lage) { suche_.lage = lage; }
-    /// Sets the pan offsets. @param weg how far the figures should move by that [px] @return whether all did,
-    /// so that the picture can be moved as it is
-    bool SetzeVersatz(Welt versatz, Bildpunkt weg);
+    [[nodiscard]] const Bildstand& Positionen() const { return suche_.stand; }
+    void SetzePositionen(const Bildstand& stand) { suche_.stand = stand; }
+    /// `WeltinBild` after new pan offsets. @param weg how far the figures should move by that [px]
+    /// @return whether all did, so that the picture can be moved as it is
+    bool BewegeBild(Bildpunkt weg);
     /// Scale that fits the extents: horizontal extent / (`Hoehe` - 30), vertical extent / `Weite`.
-    virtual void Findfaktor();
+    virtual void Findfaktor() { Ansicht::Findfaktor(); }
 
     virtual void DisplayPunkte(Zeichner& z);
     virtual void DisplayKante(Zeichner& z);
@@ -214,7 +204,8 @@ class Liste {
     [[nodiscard]] bool Gefangen(Bildpunkt maus, Bildpunkt ort) const;
     /// Marks the legend as being dragged if its corner is caught.
     void MausLegende(Bildpunkt maus);
-    /// The part of `Alles` that draws nothing. Leaves the view of an empty list alone.
+    /// The part of `Alles` that draws nothing. Leaves the view of an empty list alone: there is nothing to
+    /// fit, and a scale of 0 would help nobody.
     void PasseEin();
     /// Puts `p1` onto `p2` and hides the label of `p1`.
     void ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z);
@@ -227,10 +218,6 @@ class Liste {
     [[nodiscard]] bool TexteEindeutig() const { return index_.TexteEindeutig(); }
     /// No two labels belong to one internal number.
     [[nodiscard]] bool NummernEindeutig() const { return index_.NummernEindeutig(); }
-    /// World position of a picture position.
-    [[nodiscard]] Welt BildinWelt(Bildpunkt b) const;
-    /// Picture position of a world position, rounded to whole pixels.
-    [[nodiscard]] Bildpunkt Bildort(Welt w) const;
     [[nodiscard]] const Einstellungen& Anzeige() const { return einstellungen_; }
 
   private:

@@ -8,31 +8,9 @@
 #include <span>
 #include <vector>
 
+#include "model/Weltkasten.h"
+
 namespace zrw {
-
-/// Rectangle in the world [m]; empty as it is made.
-struct Weltkasten {
-    double links = 1e300;
-    double unten = 1e300;
-    double rechts = -1e300;
-    double oben = -1e300;
-
-    void Nimm(double x, double y) {
-        links = std::min(links, x);
-        rechts = std::max(rechts, x);
-        unten = std::min(unten, y);
-        oben = std::max(oben, y);
-    }
-    void Nimm(const Weltkasten& k) {
-        links = std::min(links, k.links);
-        rechts = std::max(rechts, k.rechts);
-        unten = std::min(unten, k.unten);
-        oben = std::max(oben, k.oben);
-    }
-    [[nodiscard]] bool Beruehrt(const Weltkasten& k) const {
-        return links <= k.rechts && k.links <= rechts && unten <= k.oben && k.unten <= oben;
-    }
-};
 
 class Raumbaum {
   public:

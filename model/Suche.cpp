@@ -71,8 +71,8 @@ bool Liste::Suchbereit(const Bildbereich& b) const {
         kGuterTeil)
         return false;
     if (!suche_.Ueberholt()) return true;
-    if (suche_.lage.frisch) BaueSuche();
-    return suche_.lage.frisch;
+    if (suche_.stand.frisch) BaueSuche();
+    return suche_.stand.frisch;
 }
 
 void Liste::BaueSuche() const {
@@ -152,7 +152,7 @@ void Liste::SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) co
 
 /// A point came, left or moved: its lines and its label lie elsewhere.
 void Liste::MeldePunkt(const zrw::PunktKnoten& p) {
-    suche_.lage.frisch = false;
+    suche_.stand.frisch = false;
     if (!suche_.gebaut) return;
     if (suche_.punkte.Hat(p.Folge)) suche_.punkte.Verlegt(p.Folge);
     FuerKantenAm(p.PNr, [&](const PunktKante& k) { suche_.kanten.Verlegt(k.Folge); });

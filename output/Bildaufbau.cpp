@@ -129,7 +129,7 @@ void Bildaufbau::ZeichneKanten() {
 
 /// Most lines of a dense picture are covered: that shows from their points, without a look at the lines.
 void Bildaufbau::ZeichneKantenVonVorn() {
-    const bool amPunkt = liste_.Lage().frisch;
+    const bool amPunkt = liste_.Positionen().frisch;
     const auto hinten = [&](PunktIndex nr) { return amPunkt ? orte_.Finde(nr) : std::nullopt; };
     // In batches, so that the memory of the next ones is under way.
     std::array<PPunktKante, 4 * kVoraus> naechste;

@@ -29,7 +29,7 @@ Geraeteansicht::Geraeteansicht(Liste& liste, Zeichenzustand& zustand, double fak
       yOffset_(liste.YOffset),
       weite_(liste.Weite),
       hoehe_(liste.Hoehe),
-      lage_(liste.Lage()) {
+      stand_(liste.Positionen()) {
     std::size_t anzahl = 0;
     FuerJedePosition([&](std::int64_t& /*wert*/) { ++anzahl; });
     positionen_.reserve(anzahl);
@@ -51,7 +51,7 @@ Geraeteansicht::~Geraeteansicht() {
     zustand_ = vorher_;
     auto naechste = positionen_.begin();
     FuerJedePosition([&](std::int64_t& wert) { wert = *naechste++; });
-    liste_.SetzeLage(lage_);
+    liste_.SetzePositionen(stand_);
 }
 
 }  // namespace zrw

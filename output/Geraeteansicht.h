@@ -34,7 +34,7 @@ class Geraeteansicht {
     double yOffset_;
     std::int32_t weite_;
     std::int32_t hoehe_;
-    Bildlage lage_;
+    Bildstand stand_;
     std::vector<std::int64_t> positionen_;
 };
 

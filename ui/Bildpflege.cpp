@@ -42,11 +42,11 @@ bool Bildpflege::Verschiebbar(const Liste& liste) const {
            !ZeigtErgebnisse(liste) && Leer(zeichner_.Gewischt()) && zeichner_.NurPixel();
 }
 
-void Bildpflege::Verschiebe(Liste& liste, Welt versatz, Bildpunkt weg) {
+void Bildpflege::Verschiebe(Liste& liste, Bildpunkt weg) {
     const Rechteck bild = flaeche_.Sichtbar();
     const bool moeglich =
         Verschiebbar(liste) && std::llabs(weg.x) < bild.rechts / 2 && std::llabs(weg.y) < bild.unten / 2;
-    if (!liste.SetzeVersatz(versatz, weg) || !moeglich) {
+    if (!liste.BewegeBild(weg) || !moeglich) {
         return ZeichneAlles(liste);
     }
     const auto dx = static_cast<std::int32_t>(weg.x);

@@ -30,8 +30,8 @@ class Bildpflege {
 
     /// Whether panning can move the picture: nothing in it stands still or follows rules of its own.
     [[nodiscard]] bool Verschiebbar(const Liste& liste) const;
-    /// Sets the pan offsets. @param weg how far the network moves by that [px]
-    void Verschiebe(Liste& liste, Welt versatz, Bildpunkt weg);
+    /// The view has new pan offsets. @param weg how far the network moves by that [px]
+    void Verschiebe(Liste& liste, Bildpunkt weg);
 
     // A change of some figures: before it, and after it. The picture is then as if drawn anew.
     void Vorher(Liste& liste, const Figurenmenge& figuren);

@@ -121,8 +121,8 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
 
     // HauptfensterAnsicht.cpp
     void Zoome(double x, double y, bool groesser);
-    void ZoomeAuf(const Ansicht& ansicht);
-    bool SetzeAnsicht(const Ansicht& ansicht);
+    void ZoomeAuf(const Bildlage& lage);
+    bool SetzeLage(const Bildlage& lage);
     void ZeichneNachRad();
     void ZeigeBild();
     void ZeigeStand();

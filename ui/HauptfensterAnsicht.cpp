@@ -64,30 +64,30 @@ void TZrwMainDlg::SpeedButton3Click() {
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
 void TZrwMainDlg::EinpassenClick() {
     if (liste_ == nullptr) return;
-    if (const auto ansicht = Ansichtssteuerung::Eingepasst(*liste_)) {
-        ZoomeAuf(*ansicht);
+    if (const auto lage = Ansichtssteuerung::Eingepasst(*liste_)) {
+        ZoomeAuf(*lage);
     } else {
         ZeigeStatus(QStringLiteral("Es ist kein Punkt sichtbar."));
     }
 }
 
 void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
-    ZoomeAuf(Ansichtssteuerung::Ausschnitt(*liste_, a, b));
+    ZoomeAuf(liste_->Ausschnitt(a, b));
 }
 
 /// With a way back.
-void TZrwMainDlg::ZoomeAuf(const Ansicht& ansicht) {
-    const Ansicht vorher = Ansichtssteuerung::Jetzt(*liste_);
-    if (SetzeAnsicht(ansicht)) ansicht_.Merke(vorher);
+void TZrwMainDlg::ZoomeAuf(const Bildlage& lage) {
+    const Bildlage vorher = liste_->Lage();
+    if (SetzeLage(lage)) ansicht_.Merke(vorher);
 }
 
-bool TZrwMainDlg::SetzeAnsicht(const Ansicht& ansicht) {
-    if (!Ansichtssteuerung::Erlaubt(ansicht)) {
+bool TZrwMainDlg::SetzeLage(const Bildlage& lage) {
+    if (!ErlaubteLage(lage)) {
         ZeigeStatus(kNichtWeiter);
         return false;
     }
     BrichAb();
-    Ansichtssteuerung::Setze(*liste_, ansicht);
+    liste_->SetzeLage(lage);
     ZeichneNeu();
     ZeigeStand();
     return true;
@@ -95,11 +95,11 @@ bool TZrwMainDlg::SetzeAnsicht(const Ansicht& ansicht) {
 
 void TZrwMainDlg::AnsichtZurueck() {
     if (liste_ == nullptr) return;
-    if (const auto vorige = ansicht_.NimmLetzte()) SetzeAnsicht(*vorige);
+    if (const auto vorige = ansicht_.NimmLetzte()) SetzeLage(*vorige);
 }
 
 void TZrwMainDlg::ZoomeUm(Bildpunkt ort) {
-    const Ansicht vorher = Ansichtssteuerung::Jetzt(*liste_);
+    const Bildlage vorher = liste_->Lage();
     Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
     if (liste_->Faktor != vorher.faktor) ansicht_.Merke(vorher);
 }
@@ -114,7 +114,7 @@ void TZrwMainDlg::ButtonKleinerClick() {
 
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
-    if (!ansicht_.Zoome(*liste_, x, y, groesser)) return ZeigeStatus(kNichtWeiter);
+    if (!liste_->Zoome(x, y, groesser, programm_.einstellungen.Zoomschritt)) return ZeigeStatus(kNichtWeiter);
     ZeichneNeu();
     ZeigeStand();
 }

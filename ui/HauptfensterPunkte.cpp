@@ -122,7 +122,7 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     ComboBox1_->setEditText(gefunden);
     const Rechteck bild = flaeche_.Sichtbar();
     if (!InReichweite(punkt->Item->Position(), 0, bild)) {
-        Ansichtssteuerung::SetzeMitte(*liste_, {punkt->XWPu, punkt->YWPu});
+        liste_->SetzeMitte({punkt->XWPu, punkt->YWPu});
     }
     ZeichneNeu();
     if (!InReichweite(punkt->Item->Position(), 0, bild)) return punkt;

@@ -191,7 +191,9 @@ TEST(Ansicht, SagtObSichAllesGleichBewegt) {
         n.K(1, 2, f.stil);
         n.l.Faktor = 1.0;
         n.l.WeltinBild();
-        EXPECT_EQ(n.l.SetzeVersatz(f.versatz, f.weg), f.gleich)
+        n.l.XOffset = f.versatz.rechts;
+        n.l.YOffset = f.versatz.hoch;
+        EXPECT_EQ(n.l.BewegeBild(f.weg), f.gleich)
             << static_cast<int>(f.stil) << ": " << f.weg.x << ", " << f.weg.y;
     }
 }

@@ -143,7 +143,7 @@ TEST(Bilddatei, FremdeWerteBleibenErhaltenUndSchadenNicht) {
         std::string inhalt = kDatei;
         inhalt.replace(f.stelle, bytes.size(), bytes);
         const auto l = n.Lies(inhalt);
-        EXPECT_EQ(AnsichtBrauchbar(*l), f.stelle >= 56) << f.stelle << " " << f.bytes;
+        EXPECT_EQ(l->Brauchbar(), f.stelle >= 56) << f.stelle << " " << f.bytes;
         l->ShowPicture(n.z);
         l->Alles(n.z);
         const std::string dritte = n.Schreibe(*n.Lies(n.Schreibe(*n.Lies(inhalt))));

@@ -108,11 +108,8 @@ TEST(Bildaufbau, WasSichBewegenLaesstZeigtDasselbeBildWoanders) {
             n.liste.WeltinBild();
             n.liste.ShowPicture(vorher.zeichner);
             const Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
-            const double f = n.liste.Faktor;
-            if (!n.liste.SetzeVersatz({n.liste.XOffset - static_cast<double>(weg.x) * f,
-                                       n.liste.YOffset + static_cast<double>(weg.y) * f},
-                                      weg))
-                continue;
+            n.liste.SetzeVersatz(n.liste.Versatz(), weg);
+            if (!n.liste.BewegeBild(weg)) continue;
             ++bewegt;
             n.liste.ShowPicture(nachher.zeichner);
             ASSERT_EQ(Unterschied(vorher.flaeche, nachher.flaeche, weg), 0);

@@ -99,10 +99,8 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
             } else if (wahl < 4) {
                 const Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
                 verschoben += pflege.Verschiebbar(n.liste) ? 1 : 0;
-                pflege.Verschiebe(n.liste,
-                                  {n.liste.XOffset - static_cast<double>(weg.x) * n.liste.Faktor,
-                                   n.liste.YOffset + static_cast<double>(weg.y) * n.liste.Faktor},
-                                  weg);
+                n.liste.SetzeVersatz(n.liste.Versatz(), weg);
+                pflege.Verschiebe(n.liste, weg);
             } else if (wahl < 8 || !stapel.canUndo()) {
                 auto aenderung = NeueAenderung(n);
                 Netzaenderung* a = aenderung.release();

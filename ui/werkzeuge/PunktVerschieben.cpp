@@ -105,10 +105,8 @@ void PunktVerschieben::Loslassen(Bildpunkt ort) {
         return;
     }
     Liste& netz = *umgebung_.AktuelleListe();
-    const double faktor = netz.Faktor;
-    const Welt nach{punkt.XWPu + static_cast<double>(versatz.x) * faktor,
-                    punkt.YWPu - static_cast<double>(versatz.y) * faktor};
-    umgebung_.Tue(std::make_unique<PunktVersetzt>(netz, punkt, nach));
+    umgebung_.Tue(
+        std::make_unique<PunktVersetzt>(netz, punkt, netz.Versetzt({punkt.XWPu, punkt.YWPu}, versatz)));
 }
 
 void PunktVerschieben::Abbrechen() {
