@@ -20,7 +20,7 @@ import zrwdatei as z
 SVG = "{http://www.w3.org/2000/svg}"
 fehler = []
 for name, ebenen, mindestens in (("NETZ", "GITTER BEOB PUNKTE PUNKTNR LEGENDE", 180),
-                                 ("03_linienstile", "BEOB LEGENDE", 20)):
+                                 ("03_linienstile", "BEOB LEGENDE", 3)):
     bild, wurzel = z.Bild(f"{name}/{name}.ZRW"), ET.parse(f"{name}/{name}.svg").getroot()
     gruppen = [g.get("id") for g in wurzel.iter(SVG + "g")]
     if gruppen != ebenen.split():

@@ -43,22 +43,22 @@ def symbole():
 
 
 def linienstile():
+    """Every style with every marker. Where a gap for the GPS marker may be, one line has it and one has not."""
     b = Bild()
-    for menge in range(16):
-        for stil in range(7):
-            b.linie(100 + 150 * stil, 50 + 30 * menge, 100, 0, stil, menge)
+    for stil in range(7):
+        for i, menge in enumerate((5, 10) if stil < 4 else (15,)):
+            b.linie(100 + 150 * stil, 50 + 30 * i, 100, 0, stil, menge)
     return b
 
 
 def richtungen():
+    """Every octant, and lines so short that marker and detour have no room."""
     b = Bild()
-    for i in range(12):
-        w = math.pi * i / 6
-        for stil in range(7):
-            b.linie(1000 * stil, 0, round(90 * math.sin(w)), round(-90 * math.cos(w)), stil, (i * 5 + 3) % 16)
-    for laenge in (0, 1, 2, 7, 8, 9, 23):
-        for stil in range(7):
-            b.linie(50 * laenge, 500 + 20 * stil, laenge, 0, stil, 15)
+    for i, grad in enumerate((30, 60, 120, 150, 210, 240, 300, 330)):
+        w = math.radians(grad)
+        b.linie(200 * i, 0, round(90 * math.sin(w)), round(-90 * math.cos(w)), *((1, 3), (4, 4))[i % 2])
+    for i, (laenge, stil, menge) in enumerate(((0, 2, 15), (1, 2, 15), (2, 6, 8), (8, 2, 2), (9, 2, 2), (23, 5, 0))):
+        b.linie(100 * i, 500, laenge, 0, stil, menge)
     return b
 
 
