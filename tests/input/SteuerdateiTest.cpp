@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-#include <chrono>
-
 #include "input/Oeffnen.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
@@ -157,6 +155,12 @@ TEST_F(Steuerdatei, EinfuegungenSchachtelnNicht) {
     const Lesung l = Lies("$NT 1\n$SF A.SF\n$ST A B\n");
     EXPECT_EQ(l.liste->MaxPkte, 2);
     EXPECT_EQ(l.liste->MaxKant, 1);
+    // All that they bring together is bounded.
+    dateien.dateien["netz/A.SF"] = std::string(1U << 20U, 'x');
+    std::string viele;
+    for (int i = 0; i < 200; ++i)
+        viele += "$SF A.SF\n";
+    EXPECT_NE(FehlerBei(viele).find("zusammen zu groß"), std::string::npos);
 }
 
 TEST_F(Steuerdatei, BerichtZaehltWasOhneWirkungBleibt) {
@@ -186,24 +190,6 @@ TEST_F(Steuerdatei, HoechstensSovielePunkteWieNummern) {
         << "a repeated number is no new point";
     EXPECT_NE(FehlerBei(inhalt + "    X              0 5 5\n").find("mehr als 65535 Punkte"),
               std::string::npos);
-}
-
-TEST_F(Steuerdatei, FeindlicheInhalteEndenZuegig) {
-    std::string binaer = "$NT 6\n$FP";
-    for (unsigned i = 0; i < 1'000'000; ++i)
-        binaer += static_cast<char>((i * 2654435761U) >> 24U);
-    const std::string lang(10'000'000, '7');
-    dateien.dateien["netz/S.SF"] = std::string(1'000'000, '\n');
-    std::string endlos = "$SF S.SF\n";
-    for (int i = 0; i < 100'000; ++i)
-        endlos += "$SF S.SF\n";
-    const auto anfang = std::chrono::steady_clock::now();
-    (void)Lies(binaer);
-    (void)Lies("$NT 3\n$FP " + lang + "\n$RZ" + lang + "\n$AU" + lang + "\n$ST " + lang + " " + lang);
-    (void)Lies("$NT 3\n$SH 1 2147483647\n$SV 1 1\n" + std::string(1'000'000, '\n'));
-    (void)Lies("$NT 7\n$FP A              1 0 0 0\n    B              1 1e308 -1e308 1e308\n");
-    EXPECT_NE(FehlerBei(endlos).find("zusammen zu groß"), std::string::npos);
-    EXPECT_LT(std::chrono::steady_clock::now() - anfang, std::chrono::seconds(20));
 }
 
 TEST_F(Steuerdatei, OeffnenPasstEinUndSagtWasFehlt) {
