@@ -1,10 +1,7 @@
 // The figure under the mouse: catch box, distance from lines, overlaps and the ends of the number range.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
-#include <random>
 
 #include "tests/hilfe/Probenetz.h"
 
@@ -163,33 +160,6 @@ TEST(Treffer, LinienZaehlenGanzePixel) {
         EXPECT_EQ(n.l.PickKante(f.maus), soll) << f.e.x << " " << f.maus.x << " " << f.maus.y;
         EXPECT_EQ(Probenetz().l.PickKante(f.maus), nullptr);
     }
-}
-
-// The same question answered the long way, by the three distances.
-TEST(Treffer, LinienfangGleichtDerRechnungMitWurzeln) {
-    std::mt19937 zufall(42);
-    const auto wuerfle = [&] { return static_cast<std::int64_t>(zufall() % 61) - 30; };
-    const auto quadrat = [](Bildpunkt a, Bildpunkt b) {
-        return static_cast<long double>((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y));
-    };
-    int treffer = 0;
-    for (int i = 0; i < 20000; ++i) {
-        const Bildpunkt s{wuerfle(), wuerfle()};
-        const Bildpunkt e{wuerfle(), wuerfle()};
-        const Bildpunkt m{wuerfle(), wuerfle()};
-        const long double l2 = quadrat(s, e);
-        const long double pE = (l2 + quadrat(m, e) - quadrat(m, s)) / 2 / std::sqrt(l2);
-        const long double pS = (l2 + quadrat(m, s) - quadrat(m, e)) / 2 / std::sqrt(l2);
-        const long double h = std::sqrt(std::max(0.0L, quadrat(m, e) - pE * pE));
-        if (std::abs(h - 6) < 1e-9L) continue;  // on the edge the roots cannot tell
-        const bool soll = l2 > 0 && pE >= 0 && pS >= 0 && std::trunc(h) <= 5;
-        Probenetz n;
-        Linie(n, s, e);
-        ASSERT_EQ(n.l.PickKante(m) != nullptr, soll)
-            << s.x << " " << s.y << " " << e.x << " " << e.y << " " << m.x;
-        treffer += soll ? 1 : 0;
-    }
-    EXPECT_GT(treffer, 1000);
 }
 
 }  // namespace
