@@ -101,19 +101,6 @@ TEST_F(Zeichnen, LinienstilAufEinenBlick) {
     }
 }
 
-TEST_F(Zeichnen, SchraegeLinien) {
-    // 12 and 16 make 20: the detour shrinks to a sixth of it, less than its size of 4.
-    EXPECT_EQ(
-        Kantenstriche({}, LinieAttr::ARI1, {0, 0}, {12, 16}),
-        (Zeilen{"- 0 0 2 3", "- 2 3 1 7", "- 1 7 3 10", "~ 3 10 5 13", "~ 5 13 10 13", "~ 10 13 12 16"}));
-    EXPECT_EQ(Kantenstriche(KanteAttr::ST, LinieAttr::AR2, {0, 0}, {30, 40}),
-              (Zeilen{"- 0 0 30 40", "- 15 27 22 22"}));
-    EXPECT_EQ(Kantenstriche(KanteAttr::DH1, LinieAttr::AR2, {0, 0}, {30, 40}),
-              (Zeilen{"- 0 0 30 40", "- 2 9 4 12"}));
-    zustand.flaeche = nullptr;
-    EXPECT_EQ(Kantenstriche(KanteAttr::DH1, LinieAttr::AR2, {0, 0}, {30, 40}), Zeilen{}) << "nowhere to draw";
-}
-
 TEST_F(Zeichnen, LinieOhneRichtungUndGPSIstWeiss) {
     Kante k = Kante::Create(kRot, KanteAttr::ST, LinieAttr::Null);
     k.XBiE = 50;

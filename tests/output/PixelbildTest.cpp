@@ -1,5 +1,4 @@
-// Strokes and masks on bare pixels: where they lie, that no clip changes them, and that drawing from the
-// front to the back keeps what was there first.
+// Strokes on bare pixels: where they lie, and that no clip changes them.
 #include "output/Pixelbild.h"
 
 #include <gtest/gtest.h>
@@ -83,87 +82,6 @@ TEST_F(Striche, LaufenUeberallAnDerWahrenLinieEntlang) {
         }
     }
     EXPECT_GT(gesehen, 100000);
-}
-
-TEST(Strichelung, ZaehltVomAnfang) {
-    for (const bool rueckwaerts : {false, true}) {
-        Blatt blatt(20, 1);
-        const Flaechenpunkt links{1, 0};
-        const Flaechenpunkt rechts{14, 0};
-        blatt.bild.Linie(rueckwaerts ? rechts : links, rueckwaerts ? links : rechts, 1,
-                         Strichart::Gestrichelt);
-        std::string bild;
-        for (const std::uint32_t p : blatt.pixel)
-            bild += p == 1 ? '#' : '.';
-        EXPECT_EQ(bild, rueckwaerts ? ".##..####..####....." : ".####..####..##.....");
-    }
-}
-
-TEST(VonVorn, BehaeltWasZuerstDaWar) {
-    std::mt19937 zufall(5);
-    const auto w = [&](int von, int bis) { return std::uniform_int_distribution(von, bis)(zufall); };
-    for (int versuch = 0; versuch < 60; ++versuch) {
-        const Rechteck ausschnitt{w(0, 60), w(0, 20), w(61, 199), w(21, 99)};
-        Blatt hinten(200, 100);  // painted over, last first
-        Blatt vorn(200, 100);
-        std::vector<std::pair<Pixelmaske, Flaechenpunkt>> masken;
-        for (int i = 0; i < 120; ++i) {
-            Pixelmaske m(0, 0, w(1, 90), w(1, 40));
-            for (int y = 0; y < m.hoehe; ++y) {
-                for (int x = 0; x < m.weite; ++x) {
-                    if (w(0, 3) != 0) m.Setze(x, y);
-                }
-            }
-            masken.emplace_back(m, Flaechenpunkt{w(-60, 220), w(-30, 110)});
-        }
-        const auto zeichne = [&](Pixelbild& bild, std::size_t i) {
-            bild.Maske(masken[i].first, masken[i].second.x, masken[i].second.y,
-                       static_cast<std::uint32_t>(i + 1));
-            bild.Linie(masken[i].second, masken[(i + 1) % masken.size()].second,
-                       static_cast<std::uint32_t>(i + 1), Strichart::Voll);
-        };
-        hinten.bild.SetzeAusschnitt(ausschnitt);
-        vorn.bild.SetzeAusschnitt(ausschnitt);
-        for (std::size_t i = masken.size(); i-- > 0;)
-            zeichne(hinten.bild, i);
-        vorn.bild.BeginneVonVorn();
-        for (std::size_t i = 0; i < masken.size(); ++i) {
-            const Rechteck r{w(-20, 199), w(-20, 99), w(0, 230), w(0, 130)};
-            bool verdeckt = true;
-            for (int y = std::max(r.oben, ausschnitt.oben); y <= std::min(r.unten, ausschnitt.unten); ++y) {
-                for (int x = std::max(r.links, ausschnitt.links); x <= std::min(r.rechts, ausschnitt.rechts);
-                     ++x)
-                    verdeckt = verdeckt && vorn.pixel[static_cast<std::size_t>(y * 200 + x)] != 0;
-            }
-            ASSERT_TRUE(verdeckt || !vorn.bild.Verdeckt(r)) << "something could still be seen there";
-            zeichne(vorn.bild, i);
-        }
-        ASSERT_TRUE(vorn.bild.Verdeckt({0, 0, 199, 99}) ==
-                    (vorn.Gesetzt(0).size() ==
-                     20000U - static_cast<std::size_t>((ausschnitt.rechts - ausschnitt.links + 1) *
-                                                       (ausschnitt.unten - ausschnitt.oben + 1))));
-        vorn.bild.BeendeVonVorn();
-        ASSERT_FALSE(vorn.bild.Verdeckt({0, 0, 199, 99}));
-        ASSERT_TRUE(vorn.pixel == hinten.pixel);
-    }
-}
-
-TEST(Pixelbild, VerschobenesLiegtWoEsHingehoert) {
-    for (const auto& [dx, dy] : {std::pair{3, 2}, {-3, 2}, {3, -2}, {-3, -2}, {0, 5}, {7, 0}, {0, 0}}) {
-        Blatt blatt(11, 9);
-        for (std::size_t i = 0; i < blatt.pixel.size(); ++i)
-            blatt.pixel[i] = static_cast<std::uint32_t>(i);
-        const std::vector<std::uint32_t> vorher = blatt.pixel;
-        blatt.bild.Verschiebe(dx, dy);
-        for (int y = 0; y < 9; ++y) {
-            for (int x = 0; x < 11; ++x) {
-                if (x - dx < 0 || x - dx >= 11 || y - dy < 0 || y - dy >= 9) continue;
-                ASSERT_EQ(blatt.pixel[static_cast<std::size_t>(y * 11 + x)],
-                          vorher[static_cast<std::size_t>((y - dy) * 11 + x - dx)])
-                    << dx << "," << dy;
-            }
-        }
-    }
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 #include <gtest/gtest.h>
 #include <zlib.h>
 
-#include <cmath>
 #include <functional>
-#include <sstream>
 
 #include "model/Zahlentext.h"
 #include "output/Pdfflaeche.h"
@@ -85,15 +83,6 @@ std::vector<std::string> Alle(const std::string& datei, const std::string& vor, 
         treffer.push_back(datei.substr(i, ende - i));
     }
     return treffer;
-}
-
-/// The numbers of the first such text.
-std::vector<double> Zahlen(const std::string& datei, const std::string& vor, const std::string& nach) {
-    std::istringstream worte(Alle(datei, vor, nach).at(0));
-    std::vector<double> zahlen;
-    for (std::string wort; worte >> wort;)
-        zahlen.push_back(LiesReal(wort).value());
-    return zahlen;
 }
 
 TEST(Vektorflaechen, JedeFigurStehtAufIhrerEbene) {
@@ -241,41 +230,7 @@ TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
     EXPECT_EQ(Alle(pdf, "/Name(PUNKTE)", "\n").size(), 1U);
 }
 
-// 250 m at 1:25000 are 10 mm, a label is 8.25 pt high, whatever the dots; positions are rounded to them.
-TEST(Vektorflaechen, MasseAufDemPapierFuerJedeAufloesung) {
-    for (const double dpi : {72.0, 300.0, 600.0, 2400.0, 100000.0}) {
-        Probenetz n;
-        n.l.Weite = 800;
-        n.l.Hoehe = 600;
-        n.l.MaxYW = 1000;
-        n.P(1, 0, 1000);
-        n.P(2, 250, 500);
-        n.K(1, 2);
-        n.T(2, "B");
-        n.l.WeltinBild();
-        Zeichentafel<MerkFlaeche> tafel{n.e};
-        Speicherdateien dateien;
-        const Papier papier = FindePapier("A4")->Gedreht();
-        Pdfflaeche flaeche(dateien.Beginne("a"), papier, dpi, {});
-        Drucke(n.l, tafel.zeichner, tafel.zustand, n.e, flaeche,
-               {25000, "25000", Bedruckbar(papier, dpi), {}});
-        flaeche.Beende();
-        const std::string pdf = Ausgepackt(dateien.dateien["a"]);
-        const double mm = kMillimeterJeZoll / 72;
-        const double dot = kMillimeterJeZoll / dpi;
-        const auto m = Zahlen(pdf, "stream\n", "cm\n");
-        EXPECT_EQ(m.at(0), -m.at(3));
-        EXPECT_NEAR(m.at(4) * mm, 10, 1e-4);
-        EXPECT_NEAR(m.at(5) * mm, 200, 1e-4) << "from below";
-        const auto linie = Zahlen(pdf, "\n0 0 m ", "l\n");
-        EXPECT_NEAR(linie.at(0) * m[0] * mm, 10.0, dot / 2 + 1e-4) << dpi;
-        EXPECT_NEAR(linie.at(1) * m[0] * mm, 20.0, dot / 2 + 1e-4) << dpi;
-        EXPECT_NEAR(Zahlen(pdf, "BT/F ", " Tf").at(0) * m[0], 8.25, 1e-4) << dpi;
-        const auto ort = Zahlen(pdf, "Tf 1 0 0 -1 ", "Tm");
-        EXPECT_NEAR(ort.at(0) * m[0] * mm, 10.0 + 10 * kMillimeterJeZoll / 96, dot + 1e-4) << dpi;
-        EXPECT_NEAR(flaeche.Textbreite("0123456789"), 5.56 * 8.25 / 72 * dpi, 0.5);
-        EXPECT_NEAR(flaeche.Texthoehe(), 1.117 * 8.25 / 72 * dpi, 1);
-    }
+TEST(Vektorflaechen, DasBildHatDieGroesseSeinerAufloesung) {
     const Zeichnung nichts = [](Zeichenflaeche&) {};
     Enthaelt(Svg(nichts, 600), {"width=\"33.867mm\" height=\"25.4mm\""});
     Enthaelt(Svg(nichts), {"width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""});
