@@ -1,4 +1,4 @@
-// The kept picture: what is drawn and then wiped leaves no dot behind.
+// The font of the picture, names of files to save, the file of settings.
 #include "ui/Bildflaeche.h"
 
 #include <gtest/gtest.h>
@@ -7,58 +7,11 @@
 #include <QTemporaryDir>
 #include <fstream>
 
-#include "input/Oeffnen.h"
-#include "input/Systemdateien.h"
-#include "output/Figurenzeichner.h"
 #include "ui/Dialogdienst.h"
 #include "ui/Einstellungsablage.h"
 
 namespace zrw {
 namespace {
-
-QImage Weiss(int weite, int hoehe) {
-    QImage bild(weite, hoehe, QImage::Format_RGB32);
-    bild.fill(Qt::white);
-    return bild;
-}
-
-TEST(BildflaecheTest, ZeichnenUndWischenLaesstEinWeissesBild) {
-    const Einstellungen einstellungen;
-    const Systemdateien dateien;
-    const Lesung lesung =
-        OeffneNetz(ZRW_QUELLE "/beispiele/NETZ.EIN", dateien, einstellungen, {}, {900, 700}, {});
-    Liste& l = *lesung.liste;
-    l.ShowFL = true;
-    const Netzangaben netz;
-    const Systemuhr uhr;
-    // Every line style and symbol, and ends far outside.
-    int i = 0;
-    for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next, ++i) {
-        k->Item->LAttr = static_cast<LinieAttr>(i % 7);
-        k->Item->KAttr = KanteAttr::AusMaske(static_cast<std::uint8_t>(i % 16));
-    }
-    for (PPunktKnoten p = l.PunktKnoten; p != nullptr; p = p->Next, ++i)
-        p->Item->PktTyp = static_cast<PunktTyp>(i % 6);
-    for (const double naeher : {1.0, 20.0, 1e6}) {
-        l.PasseEin();
-        l.Faktor /= naeher;
-        l.XOffset = l.PunktKnoten->XWPu - l.MinXW - 450 * l.Faktor;
-        l.YOffset = l.PunktKnoten->YWPu - l.MaxYW + 350 * l.Faktor;
-        l.WeltinBild();
-        Bildflaeche flaeche(900, 700);
-        Zeichenzustand zustand{.flaeche = &flaeche};
-        Figurenzeichner zeichner(zustand, einstellungen, netz, uhr);
-        l.ShowPicture(zeichner);
-        EXPECT_NE(flaeche.Bild(), Weiss(900, 700));
-        for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next)
-            zeichner.ZeichneKante(*k->Item, Gang::Wischen);
-        for (PPunktKnoten p = l.PunktKnoten; p != nullptr; p = p->Next)
-            zeichner.ZeichnePunkt(*p->Item, Gang::Wischen);
-        for (PPunktString t = l.PktTextKnoten; t != nullptr; t = t->Next)
-            zeichner.ZeichneText(*t->Item, Gang::Wischen);
-        EXPECT_EQ(flaeche.Bild(), Weiss(900, 700)) << naeher;
-    }
-}
 
 TEST(BildflaecheTest, SchriftIstMetrischArial) {
     const QString familie = QFontInfo(Zeichenschrift()).family();

@@ -106,31 +106,5 @@ TEST_F(Pixel, ZehntausendTexteWieDerMaler) {
     }
 }
 
-TEST_F(Pixel, StricheHaengenNichtVomAusschnittAb) {
-    // What a larger picture shows of a stroke is what the cut of it shows, at its place.
-    Bildflaeche gross(kWeite * 3, kHoehe * 3);
-    for (int i = 0; i < 3000; ++i) {
-        const Flaechenpunkt a{Wuerfle(-kWeite, 2 * kWeite - 1), Wuerfle(-kHoehe, 2 * kHoehe - 1)};
-        const Flaechenpunkt b{Wuerfle(-kWeite, 2 * kWeite - 1), Wuerfle(-kHoehe, 2 * kHoehe - 1)};
-        const Stift stift{Farbwahl(), 1, i % 2 == 0 ? Strichart::Gestrichelt : Strichart::Voll};
-        gross.Fuelle({0, 0, kWeite * 3, kHoehe * 3}, kWeiss);
-        schnell_.Fuelle({0, 0, kWeite, kHoehe}, kWeiss);
-        gross.SetzeStift(stift);
-        schnell_.SetzeStift(stift);
-        gross.Linie({a.x + kWeite, a.y + kHoehe}, {b.x + kWeite, b.y + kHoehe});
-        schnell_.Linie(a, b);
-        ASSERT_EQ(gross.Bild().copy(kWeite, kHoehe, kWeite, kHoehe), schnell_.Bild())
-            << a.x << "," << a.y << " " << b.x << "," << b.y;
-    }
-    // The furthest ends that a surface can be given.
-    constexpr std::int32_t kFern = 2147483647;
-    for (const auto& [a, b] : {std::pair{Flaechenpunkt{-kFern, -kFern}, Flaechenpunkt{kFern, kFern}},
-                               {Flaechenpunkt{5, -kFern}, Flaechenpunkt{5, kFern}},
-                               {Flaechenpunkt{kFern, 7}, Flaechenpunkt{-kFern, 7}},
-                               {Flaechenpunkt{kFern, kFern}, Flaechenpunkt{kFern, kFern}}})
-        schnell_.Linie(a, b);
-    EXPECT_EQ(schnell_.Bild().pixelColor(5, 40), schnell_.Bild().pixelColor(30, 7));
-}
-
 }  // namespace
 }  // namespace zrw
