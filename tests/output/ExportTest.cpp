@@ -68,24 +68,6 @@ TEST_F(Export, RealzahlenMit23Zeichen) {
     }
 }
 
-TEST_F(Export, ZeichnungOeffnenUndSchliessen) {
-    DXFUnit d(dateien);
-    d.DxfFileName = "a";
-    EXPECT_FALSE(d.DxfIsOpen());
-    d.DxfClose();  // nothing is open
-    d.Uebernimm();
-    EXPECT_TRUE(dateien.dateien.empty());
-    d.DxfOpen();
-    d.DxfPoint({dxf::kPunkte}, {});
-    d.DxfOpen();  // begins anew
-    EXPECT_TRUE(d.DxfIsOpen());
-    d.DxfClose();
-    d.DxfClose();
-    EXPECT_FALSE(d.DxfIsOpen());
-    d.Uebernimm();
-    EXPECT_EQ(Zerlegt(dateien.dateien.at("a")).size(), 8U);
-}
-
 TEST_F(Export, LaesstNetzAnsichtUndZustandWieSieWaren) {
     for (PunktIndex i = 1; i <= 400; ++i) {
         n.P(i, 13.7 * i, 7.1 * i);
