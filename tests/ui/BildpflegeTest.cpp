@@ -1,5 +1,5 @@
 // The quick ways to a picture against the plain one, through long random sequences of panning, zooming and
-// editing: every pixel must be the same.
+// editing: every pixel must be the same, and every byte after undoing and redoing it all.
 #include "ui/Bildpflege.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +8,7 @@
 #include <memory>
 #include <random>
 
+#include "model/Bytes.h"
 #include "output/Uhr.h"
 #include "tests/hilfe/Zeichentafel.h"
 #include "tests/hilfe/Zufallsnetz.h"
@@ -89,6 +90,13 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
         Bildpflege pflege(tafel.zustand, tafel.flaeche, tafel.zeichner);
         pflege.Alles(n.liste);
         QUndoStack stapel;
+        const auto gespeichert = [&] {
+            ByteSchreiber f;
+            n.liste.PasseEin();
+            n.liste.Store(f, {});
+            return std::string(f.Inhalt());
+        };
+        const std::string anfang = gespeichert();
         for (int i = 0; i < 130; ++i) {
             SCOPED_TRACE(std::to_string(saat) + "/" + std::to_string(i));
             const int wahl = n.W(0, 9);
@@ -127,6 +135,12 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
             n.liste.ShowPicture(einfach.zeichner);
             ASSERT_EQ(Unterschied(einfach.flaeche.Bild(), tafel.flaeche.Bild()), 0);
         }
+        const std::string ende = gespeichert();
+        const int schritte = stapel.index();
+        stapel.setIndex(0);
+        EXPECT_EQ(gespeichert(), anfang);
+        stapel.setIndex(schritte);
+        EXPECT_EQ(gespeichert(), ende);
     }
     EXPECT_GT(verschoben, 100) << "too few pictures were moved to say anything";
 }
