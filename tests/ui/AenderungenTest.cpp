@@ -1,8 +1,6 @@
 // Undoing and redoing, unsaved changes and what is asked about them, networks with nothing in them, and
 // files remembered.
 #include <cmath>
-#include <random>
-#include <vector>
 
 #include "tests/hilfe/Probenetz.h"
 #include "tests/ui/Netzprobe.h"

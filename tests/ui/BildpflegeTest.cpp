@@ -6,7 +6,6 @@
 
 #include <QUndoStack>
 #include <memory>
-#include <random>
 
 #include "model/Bytes.h"
 #include "output/Uhr.h"
