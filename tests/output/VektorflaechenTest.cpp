@@ -236,19 +236,5 @@ TEST(Vektorflaechen, DasBildHatDieGroesseSeinerAufloesung) {
     Enthaelt(Svg(nichts), {"width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""});
 }
 
-TEST(Vektorflaechen, EinVollerDatentraegerHinterlaesstNichts) {
-    Speicherdateien dateien;
-    dateien.platz = 100000;
-    Svgflaeche flaeche(dateien.Beginne("a"), {800, 600, kBildaufloesung}, "T");
-    EXPECT_THROW(
-        {
-            for (int i = 0; i < 10000; ++i)
-                flaeche.Text({i % 700, 10}, "12345678901234", kSchwarz);
-            flaeche.Beende();
-        },
-        Fehler);
-    EXPECT_TRUE(dateien.dateien.empty());
-}
-
 }  // namespace
 }  // namespace zrw
