@@ -1,4 +1,5 @@
-// The list: looking up by number, deleting, showing and the order of drawing.
+// The list: what is shown and in which order it is drawn. Looking up, hiding and deleting are compared with
+// plain walks in FigurenindexTest.
 #include "model/FigListe.h"
 
 #include <gtest/gtest.h>
@@ -9,39 +10,6 @@
 
 namespace zrw {
 namespace {
-
-TEST(FigListe, PunktnummernGeltenGenauUndMitVierzehnZeichen) {
-    Probenetz n;
-    n.P(1);
-    n.T(1, "12345678901234");
-    n.T(1, "a1");
-    n.T(3, "ohne Punkt");
-    for (const char* text : {"12345678901234", "12345678901234567890", "a1"}) {
-        EXPECT_EQ(n.l.FindPunkt(text), n.l.PunktKnoten) << text;
-    }
-    for (const char* text : {"1234567890123", "A1", "a1 ", "", "ohne Punkt"}) {
-        EXPECT_EQ(n.l.FindPunkt(text), nullptr) << text;
-    }
-    EXPECT_EQ(n.l.GetPktText(1), "a1");
-    EXPECT_EQ(n.l.GetPktText(9), "");
-}
-
-// Hiding and deleting are compared with walks through the lists in FigurenindexTest.
-TEST(FigListe, WasNichtInDerListeIstWirdNichtGeloescht) {
-    Probenetz n;
-    PunktKnoten& p = n.P(1);
-    n.T(1, "1").Item->Visible = p.Item->Visible = false;
-    n.K(1, 2, LinieAttr::AR1).Item->Visible = false;
-    n.l.ShowPunkt(p, n.z);
-    EXPECT_EQ(n.z.Nimm(), (Zeilen{"Kante zeigen 0x000000 AR1 ST 0 0 0 0", "Text zeigen 0x000000 1 10 -5",
-                                  "Punkt zeigen 0x000000 Krei Em 0 0"}));
-    PunktKante& schleife = n.K(2, 2, LinieAttr::AR2);
-    for (PPunktKante k : {&schleife, &schleife, PPunktKante(nullptr)})
-        n.l.DeleteKante(k, n.z);
-    n.l.DeletePunkt(nullptr, n.z);
-    EXPECT_EQ(n.z.Nimm(), Zeilen{"Kante wischen AR2 ST 0 0 0 0"});
-    EXPECT_EQ(n.l.MaxKant, 1);
-}
 
 // A new list does not show points of kind FL, nor lines that end at one.
 TEST(FigListe, JedeArtHatIhrenSchalter) {
@@ -114,6 +82,9 @@ TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
     n.l.ShowGitter = n.l.ShowLegende = n.l.ShowBeob = n.l.ShowPktText = false;
     n.l.ShowPicture(n.z);
     EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[0], alles[2], alles[4], alles[5], alles[8], alles[9]}));
+    n.l.SuchPkt(1)->Item->Visible = false;
+    n.l.ShowPunkt(*n.l.SuchPkt(1), n.z);
+    EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[3], "Kante zeigen 0x000000 ASTI ST 0 0 0 0", alles[6], alles[5]}));
 
     n.l.Done(n.z);
     EXPECT_EQ(n.z.Nimm(), (Zeilen{"Text wischen 1 10 -5", "Text wischen verwaist 10 -5",
