@@ -29,14 +29,19 @@ void SchreibeZrw(const Ausgabe& a, const std::filesystem::path& datei) {
     if (!weg.empty()) a.sage(Fehler::Meldung(weg, PfadText(datei), 0));
 }
 
+/// Draws the picture as the window would show it.
+void ZeichneAuf(Zeichenflaeche& flaeche, const Ausgabe& a) {
+    Zeichenzustand zustand = a.zustand;
+    zustand.flaeche = &flaeche;
+    const Systemuhr uhr;
+    Figurenzeichner zeichner(zustand, a.einstellungen, a.netz, uhr);
+    a.liste.ShowPicture(zeichner);
+}
+
 /// Draws the picture as the window would show it and writes it in one of Qt's picture formats.
 void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const char* art) {
     Bildflaeche flaeche(a.liste.Weite, a.liste.Hoehe);
-    a.zustand.flaeche = &flaeche;
-    const Systemuhr uhr;
-    Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
-    a.liste.ShowPicture(zeichner);
-    a.zustand.flaeche = nullptr;
+    ZeichneAuf(flaeche, a);
     QByteArray bytes;
     QBuffer puffer(&bytes);
     puffer.open(QIODevice::WriteOnly);
@@ -54,11 +59,7 @@ std::string Titel(const Ausgabe& a) {
 /// The picture as the window would show it, to any size.
 void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
     Svgflaeche flaeche(a.dateien.Beginne(datei), {a.liste.Weite, a.liste.Hoehe, kBildaufloesung}, Titel(a));
-    a.zustand.flaeche = &flaeche;
-    const Systemuhr uhr;
-    Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
-    a.liste.ShowPicture(zeichner);
-    a.zustand.flaeche = nullptr;
+    ZeichneAuf(flaeche, a);
     flaeche.Beende();
 }
 
@@ -107,28 +108,26 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
     }
     Pdfflaeche flaeche(a.dateien.Beginne(datei), a.papier, a.dpi,
                        {Titel(a), nullptr, schrift ? &*schrift : nullptr});
-    Einstellungen groessen = a.einstellungen;  // printing scales them
+    Einstellungen groessen = a.einstellungen;  // scaled for every sheet
     const Systemuhr uhr;
-    Figurenzeichner zeichner(a.zustand, groessen, a.netz, uhr);
-    const Druckplan plan{a.liste, zeichner, a.zustand, groessen, flaeche};
+    const Zeichenmittel mittel{a.zustand, groessen, a.netz, uhr};
+    const Bildvorlage vorlage = a.liste.Vorlage();
+    const Druckplan plan{vorlage, mittel, flaeche};
     const Druckseite seite = Bedruckbar(a.papier, a.dpi);
     const auto [massstab, text] = MassstabFuer(a, plan, seite);
     const std::vector<Blatt> blaetter = WaehleBlaetter(a, plan, massstab, seite, datei);
-    // Pictures of the same call name the scale that holds for them.
-    const std::string vorher = a.liste.Legend->Masstab;
     for (std::size_t i = 0; i < blaetter.size(); ++i) {
         if (i > 0) flaeche.NeueSeite();
-        Drucke(a.liste, zeichner, a.zustand, groessen, flaeche, {massstab, text, seite, blaetter[i].ecke});
+        Drucke(vorlage, mittel, Geraetegroessen(groessen, Geraetefaktor(seite)), flaeche,
+               {massstab, text, seite, blaetter[i].ecke});
     }
-    a.liste.Legend->Masstab = vorher;
     flaeche.Beende();
 }
 
 void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
     const Systemuhr uhr;
-    Figurenzeichner zeichner(a.zustand, a.einstellungen, a.netz, uhr);
     auftrag.faktor = Druckfaktor(a.massstab, a.dpi);
-    Exportiere(a.liste, zeichner, a.zustand, a.dateien, auftrag);
+    Exportiere(a.liste.Vorlage(), {a.zustand, a.einstellungen, a.netz, uhr}, a.dateien, auftrag);
 }
 
 void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {

@@ -17,7 +17,7 @@ struct Ausgabe {
     Liste& liste;
     const Netzangaben& netz;
     const Einstellungen& einstellungen;
-    Zeichenzustand& zustand;
+    const Zeichenzustand& zustand;  ///< without a surface
     Dateien& dateien;
     double massstab;           ///< scale denominator of the print
     std::string massstabtext;  ///< the same as the legend names it

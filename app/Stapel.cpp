@@ -82,7 +82,6 @@ bool Schreibe(const Aufruf& aufruf, const Ausgabe& ausgabe) {
             format.schreibe(ausgabe, TextPfad(aufruf.ziel) / ziel);
         } catch (const std::exception& f) {
             // The formats do not hang on each other: the rest is written all the same.
-            ausgabe.zustand.flaeche = nullptr;
             alle = false;
             Drucke(Fehlertext(f));
         }
@@ -130,7 +129,7 @@ bool Exportiere(const Aufruf& aufruf) {
                           .sage = &Drucke,
                           .eingabe = eingabe};
     bool ganz = Schreibe(aufruf, ausgabe) && lesbar;
-    if (ZeigtErgebnisse(*lesung.liste)) {
+    if (lesung.liste->ZeigtErgebnisse()) {
         const std::string massstab = Massstabhinweis(einstellungen.ResMF);
         if (!massstab.empty()) Drucke(massstab);
     }

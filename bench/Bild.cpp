@@ -101,7 +101,6 @@ class Vergleich {
     double Zeichne(zrw::Zeichenflaeche& f) {
         return zrw::bench::Miss([&] {
             zustand_.flaeche = &f;
-            liste_.WeltinBild();
             liste_.ShowPicture(zeichner_);
             return 0;
         });

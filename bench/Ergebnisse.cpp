@@ -107,7 +107,7 @@ int Arbeite(Tabelle& tabelle) {
     schalte(true);
     Mitschrift mitschrift(flaeche);
     zustand.flaeche = &mitschrift;
-    zeichner.ZeichnePunktRes(liste);
+    zeichner.ZeichnePunktRes(liste.Vorlage());
     zustand.flaeche = &flaeche;
     std::printf("%zu Zeilen, %d Punkte, %zu Striche der Ergebnisse, %dx%d\n", kZeilen, liste.MaxPkte,
                 mitschrift.striche.size(), kWeite, kHoehe);
@@ -131,7 +131,7 @@ int Arbeite(Tabelle& tabelle) {
                  neu->SetzeOrdner(ordner.path().toStdString());
                  zustand.Ergebnisse = neu.get();
                  schalte(true);
-                 zeichner.ZeichnePunktRes(liste);
+                 zeichner.ZeichnePunktRes(liste.Vorlage());
                  zustand.Ergebnisse = &daten;
                  return neu;
              });

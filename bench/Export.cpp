@@ -42,7 +42,6 @@ int Arbeite(Tabelle& tabelle) {
 
     const zrw::Systemuhr uhr;
     zrw::Zeichenzustand zustand;
-    zrw::Figurenzeichner zeichner(zustand, e, netz.netz, uhr);
     const fs::path plotname = ordner.Pfad() / zrw::kPlotname;
     const fs::path dxfname = ordner.Pfad() / zrw::kDxfname;
     const auto exportiere = [&](bool plot, bool dxf) {
@@ -50,7 +49,7 @@ int Arbeite(Tabelle& tabelle) {
             zrw::Exportauftrag auftrag{zrw::Druckfaktor(25000, 600), {}, {}};
             if (plot) auftrag.plot = plotname;
             if (dxf) auftrag.dxf = dxfname;
-            zrw::Exportiere(*netz.liste, zeichner, zustand, system, auftrag);
+            zrw::Exportiere(netz.liste->Vorlage(), {zustand, e, netz.netz, uhr}, system, auftrag);
             return 0;
         });
     };

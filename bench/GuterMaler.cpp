@@ -131,7 +131,7 @@ const GuterMaler::Stempel& GuterMaler::Symbol(const Punkt& punkt) {
     const Netzangaben netz;
     Punkt mitten = punkt;
     mitten.XO = mitten.YO = kStempelmitte;
-    Figurenzeichner(zustand, einstellungen_, netz, uhr).ZeichnePunkt(mitten, Gang::Zeigen);
+    Figurenzeichner(zustand, einstellungen_, netz, uhr).ZeichnePunkt(mitten, mitten.Position(), Gang::Zeigen);
     maler.end();
     const QRect grenzen = Sichtbares(bild);
     platz->second = {bild.copy(grenzen), grenzen.topLeft() - QPoint(kStempelmitte, kStempelmitte)};

@@ -93,7 +93,7 @@ int Arbeite(Tabelle& tabelle) {
             liste.ShowLGGen = true;
             liste.ShowLgRes = liste.ShowHRes = liste.ShowHGen = alle;
             return Miss([&] {
-                zeichner.ZeichnePunktRes(liste);
+                zeichner.ZeichnePunktRes(liste.Vorlage());
                 return 0;
             });
         };

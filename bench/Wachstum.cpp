@@ -56,7 +56,6 @@ class Groesse {
     void WeltinBild() { netz_.liste->WeltinBild(); }
     void Zeichne() {
         zustand_.flaeche = &flaeche_;
-        netz_.liste->WeltinBild();
         netz_.liste->ShowPicture(zeichner_);
     }
     /// With one line a point: a picture file counts at most 65535.
@@ -67,7 +66,7 @@ class Groesse {
     }
     void Exportiere() {
         zustand_.flaeche = nullptr;
-        zrw::Exportiere(*netz_.liste, zeichner_, zustand_, dateien_,
+        zrw::Exportiere(netz_.liste->Vorlage(), {zustand_, e_, netz_.netz, uhr_}, dateien_,
                         {zrw::Druckfaktor(25000, 600), plot_, dxf_});
     }
 

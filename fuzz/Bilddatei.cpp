@@ -113,12 +113,12 @@ std::size_t PruefeZeilen(std::string_view datei, Pruefung pruefung) {
 }
 
 /// Whatever the network holds, both files keep their form, and the network stays as it is.
-void PruefeExport(zrw::Liste& liste, zrw::Zeichner& z, zrw::Zeichenzustand& zustand) {
+void PruefeExport(zrw::Liste& liste, const zrw::Zeichenmittel& mittel) {
     zrw::ByteSchreiber vorher;
     liste.Store(vorher, {});
     zrw::Speicherdateien dateien;
     const double faktor = zrw::Druckfaktor(25000, 600);
-    zrw::Exportiere(liste, z, zustand, dateien, {faktor, zrw::kPlotname, zrw::kDxfname});
+    zrw::Exportiere(liste.Vorlage(), mittel, dateien, {faktor, zrw::kPlotname, zrw::kDxfname});
     const std::size_t zeilen =
         PruefeZeilen(dateien.dateien[zrw::kDxfname], [](std::string_view zeile, std::size_t nummer) {
             zrw::fuzz::Verlange(nummer % 2 == 1 || (zeile.size() == 3 && zeile[2] >= '0' && zeile[2] <= '9'),
@@ -134,25 +134,25 @@ void PruefeExport(zrw::Liste& liste, zrw::Zeichner& z, zrw::Zeichenzustand& zust
 }
 
 /// The vector outputs end properly whatever they are given, and the print leaves the network as it was.
-void PruefeBlaetter(zrw::Liste& liste, zrw::Figurenzeichner& z, zrw::Zeichenzustand& zustand,
-                    zrw::Einstellungen& einstellungen, const zrw::Netzangaben& netz) {
+void PruefeBlaetter(zrw::Liste& liste, const zrw::Zeichenmittel& mittel, zrw::Einstellungen& einstellungen) {
     zrw::ByteSchreiber vorher;
     liste.Store(vorher, {});
     zrw::Speicherdateien dateien;
     const zrw::Papier papier = zrw::kPapierformate[0].hochkant;
     zrw::Pdfflaeche pdf(dateien.Beginne("a.pdf"), papier, 300, {});
     const zrw::Druckseite seite = zrw::Bedruckbar(papier, 300);
-    zrw::Drucke(liste, z, zustand, einstellungen, pdf, {25000, "25000", seite});
+    zrw::Drucke(liste.Vorlage(), mittel, zrw::Geraetegroessen(einstellungen, zrw::Geraetefaktor(seite)), pdf,
+                {25000, "25000", seite});
     pdf.Beende();
     zrw::fuzz::Verlange(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
     try {
-        const zrw::Druckplan plan{liste, z, zustand, einstellungen, pdf};
+        const zrw::Druckplan plan{liste.Vorlage(), mittel, pdf};
         const bool leer = zrw::Blattschnitt(plan, 25000, seite, liste.BildinWelt({})).empty();
         zrw::fuzz::Verlange(zrw::Blattaufteilung(plan, 25000, seite).empty() == leer, "beide finden etwas");
         (void)zrw::PassenderMassstab(plan, seite);
     } catch (const zrw::Fehler&) {  // too many sheets
     }
-    zrw::SchreibeGeojson(liste, netz, einstellungen, zustand.Ergebnisse, dateien, "a.geojson");
+    zrw::SchreibeGeojson(liste, mittel.netz, einstellungen, mittel.zustand.Ergebnisse, dateien, "a.geojson");
     zrw::fuzz::Verlange(dateien.dateien["a.geojson"].ends_with("]}\n"), "das Netz ist ganz");
     zrw::ByteSchreiber nachher;
     liste.Store(nachher, {});
@@ -188,8 +188,9 @@ void Pruefe(std::string_view eingabe) {
     zustand.Geraetefaktor = 6.25;
     zustand.KurzeNummern = true;
     liste->ShowPicture(z);
-    PruefeExport(*liste, z, zustand);
-    PruefeBlaetter(*liste, z, zustand, einstellungen, netz);
+    const zrw::Zeichenmittel mittel{zustand, einstellungen, netz, uhr};
+    PruefeExport(*liste, mittel);
+    PruefeBlaetter(*liste, mittel, einstellungen);
     zrw::fuzz::Bearbeite(*liste, z);
 }
 

@@ -17,9 +17,10 @@ namespace {
 class StummerZeichner final : public zrw::Zeichner {
   public:
     void ClearPicture(std::int32_t /*weite*/, std::int32_t /*hoehe*/) override {}
-    void ZeichnePunkt(const zrw::Punkt& /*punkt*/, zrw::Gang /*gang*/) override {}
-    void ZeichneKante(const zrw::Kante& /*kante*/, zrw::Gang /*gang*/) override {}
-    void ZeichneText(const zrw::PktText& /*text*/, zrw::Gang /*gang*/) override {}
+    void ZeichnePunkt(const zrw::Punkt& /*punkt*/, zrw::Bildpunkt /*ort*/, zrw::Gang /*gang*/) override {}
+    void ZeichneKante(const zrw::Kante& /*kante*/, zrw::Bildpunkt /*a*/, zrw::Bildpunkt /*e*/,
+                      zrw::Gang /*gang*/) override {}
+    void ZeichneText(const zrw::PktText& /*text*/, zrw::Bildpunkt /*ort*/, zrw::Gang /*gang*/) override {}
 };
 
 void Pruefe(std::string_view eingabe) {

@@ -233,8 +233,7 @@ void Steuerleser::LiesKoordinatensystem(std::string_view rest) {
 void Steuerleser::LiesTitel(std::string_view rest) {
     Feldleser felder(rest);
     felder.Ueberspringe(kTrenner);
-    if (lesung_.liste->Legend == nullptr)
-        lesung_.liste->Legend = std::make_unique<Legende>(Legende::Create());
+    if (!lesung_.liste->Legend) lesung_.liste->Legend = Legende::Create();
     Setze(lesung_.liste->Legend->Bez1, std::string(OhneRand(felder.Rest().substr(0, 255))),
           "Titel des Netzes");
 }

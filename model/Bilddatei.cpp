@@ -119,19 +119,19 @@ std::unique_ptr<Liste> Liste::Load(ByteLeser& f, const Einstellungen& einstellun
 
 // Files of unknown origin hold labels of no point, or several of one. When a point then goes, the one count
 // for points and labels would be wrong.
-Textmenge UeberzaehligeTexte(const Liste& liste) {
+Textmenge UeberzaehligeTexte(const Netz& netz) {
     Textmenge herrenlose;
-    std::size_t zuviel = Anzahl(liste.PktTextKnoten);
-    zuviel -= std::min(zuviel, Anzahl(liste.PunktKnoten));
-    for (const PunktString* t = liste.PktTextKnoten; t != nullptr && zuviel > 0; t = t->Next) {
-        if (liste.SuchPkt(t->TNr) != nullptr && liste.FindText(t->TNr) == t) continue;
+    std::size_t zuviel = Anzahl(netz.PktTextKnoten);
+    zuviel -= std::min(zuviel, Anzahl(netz.PunktKnoten));
+    for (const PunktString* t = netz.PktTextKnoten; t != nullptr && zuviel > 0; t = t->Next) {
+        if (netz.SuchPkt(t->TNr) != nullptr && netz.FindText(t->TNr) == t) continue;
         herrenlose.insert(t);
         --zuviel;
     }
     return herrenlose;
 }
 
-std::size_t SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
                               Dateien& dateien) {
     if (liste.MaxPkte > kMaxAnzahl || liste.MaxKant > kMaxAnzahl) {
         throw Fehler("Eine Zarwikdatei fasst höchstens 65535 Punkte und 65535 Linien; dieses Netz hat " +
@@ -150,6 +150,7 @@ std::size_t SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const
                          " Punktnummern; eine Zarwikdatei braucht gleich viele. Es wurde nichts gespeichert.",
                      PfadText(datei));
     }
+    liste.WeltinBild();  // the file holds positions, too
     ByteSchreiber f;
     f.Reserviere(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
                  static_cast<std::size_t>(liste.MaxKant) * kKantensatz);

@@ -14,11 +14,11 @@ namespace zrw {
 /// @return how many labels were left out, see `UeberzaehligeTexte`
 /// @throws Fehler where it cannot be written, holds more points or lines than the format can count, or its
 /// labels do not go with its points
-std::size_t SchreibeBilddatei(const Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
                               Dateien& dateien);
 /// The labels that must stay out of a file: as many of those that no point owns as there are more labels than
 /// points. A point owns the newest label of its number.
-[[nodiscard]] Textmenge UeberzaehligeTexte(const Liste& liste);
+[[nodiscard]] Textmenge UeberzaehligeTexte(const Netz& netz);
 /// What that number means, for the user; empty for 0. UTF-8.
 [[nodiscard]] std::string WeggelasseneNummern(std::size_t anzahl);
 

@@ -1,29 +1,34 @@
 #include "model/FigListe.h"
 
-#include "model/Gezeigt.h"
-#include "model/Punktarten.h"
+#include <string_view>
+#include <vector>
+
+#include "model/Bildorte.h"
+#include "model/Ganzzahl.h"
 #include "model/Zeichner.h"
 
 namespace zrw {
 namespace {
 
-/// Wipes every figure of a list from its head on and empties the list.
+/// Wipes every figure of a list from its head on.
 template <class Knoten>
-void Leere(Knoten*& kopf, Zeichner& z) {
-    while (kopf != nullptr) {
-        kopf->Item->Done(z);
-        kopf = kopf->Next;
-    }
+void Wische(const Knoten* kopf, Zeichner& z) {
+    for (const Knoten* k = kopf; k != nullptr; k = k->Next)
+        k->Item->Done(z);
 }
 
-std::uint32_t Auf32(std::size_t n) {
-    return static_cast<std::uint32_t>(n);
+template <class Figur>
+void Zeige(Figur& figur, Zeichner& z) {
+    figur.Visible = true;
+    figur.Show(z);
+}
+
+bool IstHilfspunkt(const PktText& text) {
+    const std::string_view nummer = text.Aus.Text();
+    return !nummer.empty() && std::string_view("WKH").find(nummer.back()) != std::string_view::npos;
 }
 
 }  // namespace
-
-Liste::Liste(const Einstellungen& einstellungen)
-    : Legend(std::make_unique<Legende>(Legende::Create())), einstellungen_(einstellungen) {}
 
 // --- Destroying -------------------------------------------------------------------------------------------
 
@@ -34,149 +39,170 @@ void Liste::Done(Zeichner& z) {
 }
 
 void Liste::PunktDone(Zeichner& z) {
-    Leere(PunktKnoten, z);
-    index_.LeerePunkte();
-    suche_.punkte.Leere();
-    suche_.Vergiss();
+    Wische(PunktKnoten, z);
+    LeerePunkte();
 }
 
 void Liste::KanteDone(Zeichner& z) {
-    Leere(KanteKnoten, z);
-    index_.LeereKanten();
-    suche_.kanten.Leere();
-    suche_.Vergiss();
+    Wische(KanteKnoten, z);
+    LeereKanten();
 }
 
 void Liste::PktTextDone(Zeichner& z) {
-    Leere(PktTextKnoten, z);
-    index_.LeereTexte();
-    suche_.texte.Leere();
-    suche_.Vergiss();
+    Wische(PktTextKnoten, z);
+    LeereTexte();
 }
 
-// --- Adding -----------------------------------------------------------------------------------------------
+// --- View -------------------------------------------------------------------------------------------------
 
-void Liste::Erwarte(std::size_t punkte, std::size_t kanten) {
-    punktArena_.Erwarte(punkte);
-    textArena_.Erwarte(punkte);
-    kanteArena_.Erwarte(kanten);
-    index_.Erwarte(punkte);
-    suche_.enden.reserve(kanten);
+void Liste::FindWorldMinMax() {
+    if (PunktKnoten != nullptr) SetzeAusdehnung(Ausdehnung());
 }
 
-PunktKnoten& Liste::AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr) {
-    PunktPlatz* platz = punktArena_.Neu(PunktPlatz{{}, item});
-    platz->knoten = {ort.rechts, ort.hoch, iNr, Auf32(punktArena_.Anzahl() - 1), &platz->figur, PunktKnoten};
-    PunktKnoten = &platz->knoten;
-    index_.Auf(platz->knoten);
-    suche_.punkte.Auf(platz->knoten.Folge, suche_.gebaut);
-    MeldePunkt(platz->knoten);
-    return platz->knoten;
+void Liste::WeltinBild() {
+    const auto setze = [](std::int64_t& x, std::int64_t& y, Bildpunkt ort) {
+        x = ort.x;
+        y = ort.y;
+    };
+    Bildorte orte(*this, *this);
+    FuerAllePunkte([&](const zrw::PunktKnoten& p) {
+        const Bildpunkt ort = BildortVon(p, *this);
+        if (SuchPkt(p.PNr) == &p) orte.Nimm(p.PNr, ort);
+        setze(p.Item->XO, p.Item->YO, ort);
+    });
+    FuerAlleKanten([&](const PunktKante& k) {
+        setze(k.Item->XO, k.Item->YO, orte.Anfang(k));
+        setze(k.Item->XBiE, k.Item->YBiE, orte.Ende(k));
+    });
+    FuerAlleTexte([&](const PunktString& t) { setze(t.Item->XO, t.Item->YO, orte.Text(t)); });
 }
 
-PunktKante& Liste::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr) {
-    KantePlatz* platz = kanteArena_.Neu(KantePlatz{{}, item});
-    PunktKante& k = platz->knoten;
-    k.ANr = iANr;
-    k.ENr = iENr;
-    k.Folge = Auf32(kanteArena_.Anzahl() - 1);
-    k.Item = &platz->figur;
-    k.Next = KanteKnoten;
-    KanteKnoten = &k;
-    index_.Auf(k);
-    suche_.kanten.Auf(k.Folge, suche_.gebaut);
-    suche_.enden.push_back({iANr, iENr});
-    suche_.stand.frisch = false;
-    return k;
+void Liste::PasseEin() {
+    if (PunktKnoten == nullptr) return;
+    Ansicht::PasseEin();
+    WeltinBild();
 }
 
-PunktString& Liste::AddPktText(const PktText& item, PunktIndex iNr) {
-    TextPlatz* platz = textArena_.Neu(TextPlatz{{}, item});
-    platz->knoten = {iNr, Auf32(textArena_.Anzahl() - 1), &platz->figur, PktTextKnoten};
-    PktTextKnoten = &platz->knoten;
-    VerdraengeText(iNr);
-    index_.Auf(platz->knoten);
-    suche_.texte.Auf(platz->knoten.Folge, suche_.gebaut);
-    suche_.stand.frisch = false;
-    return platz->knoten;
+void Liste::Alles(Zeichner& z) {
+    ClearPicture(z);
+    PasseEin();
+    ShowPicture(z);
 }
 
-// --- Looking up -------------------------------------------------------------------------------------------
-
-PktText* Liste::FindPktText(PunktIndex n) const {
-    const PunktString* knoten = index_.FindeText(n);
-    return knoten != nullptr ? knoten->Item : nullptr;
+void Liste::ZoomUp(Zeichner& z) {
+    ClearPicture(z);
+    VergroessereUmEcke(einstellungen_.Zoomschritt);
+    WeltinBild();
+    ZeichneFiguren(Vorlage(), z);
 }
 
-std::string Liste::GetPktText(PunktIndex n) const {
-    const PktText* text = FindPktText(n);
-    return text != nullptr ? std::string(text->Aus.Text()) : std::string();
+void Liste::ZoomDown(Zeichner& z) {
+    VerkleinereUmEcke(einstellungen_.Zoomschritt);
+    WeltinBild();
+    ZeichneFiguren(Vorlage(), z);
 }
 
-PPunktKnoten Liste::FindPunkt(std::string_view p) const {
-    const PunktString* knoten = index_.FindeText(PunktNummernTyp(p));
-    return knoten != nullptr ? SuchPkt(knoten->TNr) : nullptr;
+void Liste::MoveMe(std::int64_t dx, std::int64_t dy) {
+    Ansicht::MoveMe(dx, dy);
+    WeltinBild();
 }
-
-// --- Drawing ----------------------------------------------------------------------------------------------
 
 void Liste::ClearPicture(Zeichner& z) const {
     z.ClearPicture(Weite, Hoehe);
 }
 
-bool Liste::Dargestellt(const Punkt& p) const {
-    return this->*ZurArt(p.PktArt).schalter;
-}
-
-bool Liste::Dargestellt(const PunktKante& k) const {
-    const zrw::PunktKnoten* a = SuchPkt(k.ANr);
-    const zrw::PunktKnoten* e = SuchPkt(k.ENr);
-    return a != nullptr && e != nullptr && Dargestellt(*a->Item) && Dargestellt(*e->Item);
-}
-
-void Liste::DisplayPunkte(Zeichner& z) {
-    for (PPunktKnoten p = PunktKnoten; p != nullptr; p = p->Next) {
-        if (Dargestellt(*p->Item)) p->Item->Show(z);
-    }
-}
-
-void Liste::DisplayKante(Zeichner& z) {
-    Gezeigt gezeigt(*this);
-    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
-        if (gezeigt(*k)) k->Item->Show(z);
-    }
-}
-
-void Liste::DisplayPktText(Zeichner& z) {
-    // Switching the auxiliary points off hides every label, not only theirs. Users know it that way.
-    if (!ShowHilfP) return;
-    Gezeigt gezeigt(*this);
-    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
-        if (gezeigt(*t)) t->Item->Show(z);
-    }
-}
-
 void Liste::SetLegende(Zeichner& z) {
-    if (Legend == nullptr) Legend = std::make_unique<Legende>(Legende::Create());
+    if (!Legend) Legend = Legende::Create();
     Legend->Show(z);
 }
 
-void Liste::ShowPicture(Zeichner& z) {
-    ClearPicture(z);
-    ZeichneFiguren(z);
+// --- Moving and hitting -----------------------------------------------------------------------------------
+
+void Liste::MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy) {
+    Versetze(u, Versetzt({u.XWPu, u.YWPu}, {dx, dy}));
+    WeltinBild();
 }
 
-void Liste::ZeichneFiguren(Zeichner& z) {
-    if (ShowGitter) z.GitterShow(*this);
-    if (ShowKMQ) z.KMGitterShow(*this);
-    if (!z.ZeichneNetz(*this)) {
-        if (ShowBeob) DisplayKante(z);
-        DisplayPunkte(z);
-        if (ShowPktText) DisplayPktText(z);
+void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z) {
+    Versetze(p1, {p2.XWPu, p2.YWPu});
+    p1.Item->XO = p2.Item->XO;
+    p1.Item->YO = p2.Item->YO;
+    if (PktText* t = FindPktText(p1.PNr); t != nullptr) t->Hide(z);
+}
+
+void Liste::DragPktText(PunktString& u, Zeichner& z) {
+    const Bildpunkt weg = u.Item->Drag(z);
+    Versetze(u, {Summe(u.Item->XBiO, weg.x), Summe(u.Item->YBiO, weg.y)});
+}
+
+void Liste::LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z) {
+    // By position, not by number: what meets the point in the picture must not stay behind when it moves.
+    const Bildpunkt ort = BildortVon(punkt, *this);
+    const Bildbereich dort = Fangbereich(ort, 0);
+    std::vector<PPunktKante> kanten;
+    SammleKanten(*this, dort, kanten);
+    for (PPunktKante k : kanten) {
+        if (AnfangVon(*k, *this, *this) == ort || EndeVon(*k, *this, *this) == ort) k->Item->Hide(z);
     }
-    if (ShowLegende) SetLegende(z);
-    z.ZeichnePunktRes(*this);
-    z.DrawResMasstab(*this);
+    std::vector<PPunktString> texte;
+    SammleTexte(*this, dort, texte);
+    for (PPunktString t : texte) {
+        if (BildortVon(*t, *this, *this) == ort) t->Item->Hide(z);
+    }
+}
+
+bool Liste::MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z) {
+    const PPunktKnoten treffer = ClickPunkt(maus);
+    if (treffer == nullptr) return false;
+    LoesePunkt(*treffer, z);
+    u = treffer;
+    return true;
+}
+
+void Liste::MausLegende(Bildpunkt maus) {
+    if (Legend) Legend->Move = Gefangen(maus, Legend->Position());
+}
+
+// --- Editing ----------------------------------------------------------------------------------------------
+
+void Liste::DeleteKante(PPunktKante pk, Zeichner& z) {
+    if (pk != nullptr && !NimmHeraus(*pk).kanten.empty()) pk->Item->Done(z);
+}
+
+void Liste::DeletePunkt(PPunktKnoten pp, Zeichner& z) {
+    if (pp == nullptr) return;
+    const Herausnahme h = NimmHeraus(*pp);
+    for (const auto& k : h.kanten)
+        k.knoten->Item->Done(z);
+    if (h.text.knoten != nullptr) h.text.knoten->Item->Done(z);
+    if (h.punkt.knoten != nullptr) h.punkt.knoten->Item->Done(z);
+}
+
+void Liste::ShowPunkt(zrw::PunktKnoten& pp, Zeichner& z) {
+    FuerKantenAm(pp.PNr, [&](PunktKante& k) { Zeige(*k.Item, z); });
+    if (PktText* t = FindPktText(pp.PNr); t != nullptr) Zeige(*t, z);
+    Zeige(*pp.Item, z);
+}
+
+void Liste::HidePunkt(zrw::PunktKnoten& pp, Zeichner& z) {
+    FuerKantenAm(pp.PNr, [&](PunktKante& k) { k.Item->Hide(z); });
+    if (PktText* t = FindPktText(pp.PNr); t != nullptr) t->Hide(z);
+    pp.Item->Hide(z);
+}
+
+void Liste::ChKante(LinieAttr newAttr, Zeichner& z) {
+    for (PPunktKante k = KanteKnoten; k != nullptr; k = k->Next) {
+        k->Item->ChangeLAttr(newAttr, z);
+        SetzeBeobachtungen(*k, newAttr, k->Item->KAttr);
+    }
+}
+
+void Liste::DisplayHilfp(bool show) {
+    for (PPunktString t = PktTextKnoten; t != nullptr; t = t->Next) {
+        const bool sichtbar = show || !IstHilfspunkt(*t->Item);
+        if (PPunktKnoten p = FindPunkt(t->Item->Aus.Text()); p != nullptr) p->Item->Visible = sichtbar;
+        t->Item->Visible = sichtbar;
+    }
 }
 
 }  // namespace zrw

@@ -8,8 +8,8 @@
 namespace zrw {
 namespace {
 
-bool Zeichenbar(const Ort& o) {
-    return ImZeichenbereich(o.XO) && ImZeichenbereich(o.YO);
+bool Zeichenbar(Bildpunkt ort) {
+    return ImZeichenbereich(ort.x) && ImZeichenbereich(ort.y);
 }
 
 }  // namespace
@@ -59,11 +59,15 @@ void Punkt::Done(Zeichner& z) {
 }
 
 void Punkt::Show(Zeichner& z) {
-    if (Visible && Zeichenbar(*this)) z.ZeichnePunkt(*this, Gang::Zeigen);
+    if (Visible) Zeige(Position(), z);
+}
+
+void Punkt::Zeige(Bildpunkt ort, Zeichner& z) const {
+    if (Zeichenbar(ort)) z.ZeichnePunkt(*this, ort, Gang::Zeigen);
 }
 
 void Punkt::Hide(Zeichner& z) {
-    if (Zeichenbar(*this)) z.ZeichnePunkt(*this, Gang::Wischen);
+    if (Zeichenbar(Position())) z.ZeichnePunkt(*this, Position(), Gang::Wischen);
     Visible = false;
 }
 
@@ -107,7 +111,7 @@ void Kante::Store(ByteSchreiber& f) const {
 }
 
 void Kante::Show(Zeichner& z) {
-    if (Visible) z.ZeichneKante(*this, Gang::Zeigen);
+    if (Visible) z.ZeichneKante(*this, Position(), Ende(), Gang::Zeigen);
 }
 
 void Kante::Done(Zeichner& z) {
@@ -115,7 +119,7 @@ void Kante::Done(Zeichner& z) {
 }
 
 void Kante::Hide(Zeichner& z) {
-    z.ZeichneKante(*this, Gang::Wischen);
+    z.ZeichneKante(*this, Position(), Ende(), Gang::Wischen);
     Visible = false;
 }
 
@@ -158,8 +162,8 @@ PktText PktText::Load(ByteLeser& f) {
     return t;
 }
 
-Bildpunkt PktText::Textort() const {
-    return {Summe(XO, XBiO), Summe(YO, YBiO)};
+Bildpunkt PktText::Textort(Bildpunkt ort) const {
+    return {Summe(ort.x, XBiO), Summe(ort.y, YBiO)};
 }
 
 void PktText::Store(ByteSchreiber& f) const {
@@ -177,11 +181,11 @@ void PktText::Done(Zeichner& z) {
 }
 
 void PktText::Show(Zeichner& z) {
-    if (Visible) z.ZeichneText(*this, Gang::Zeigen);
+    if (Visible) z.ZeichneText(*this, Position(), Gang::Zeigen);
 }
 
 void PktText::Hide(Zeichner& z) {
-    z.ZeichneText(*this, Gang::Wischen);
+    z.ZeichneText(*this, Position(), Gang::Wischen);
     Visible = false;
 }
 
@@ -211,12 +215,12 @@ Legende Legende::Create() {
 }
 
 void Legende::Show(Zeichner& z) {
-    if (Zeichenbar(*this)) z.ZeichneLegende(*this, Gang::Zeigen);
+    if (Zeichenbar(Position())) z.ZeichneLegende(*this, Gang::Zeigen);
     Visible = true;
 }
 
 void Legende::Hide(Zeichner& z) {
-    if (Zeichenbar(*this)) z.ZeichneLegende(*this, Gang::Wischen);
+    if (Zeichenbar(Position())) z.ZeichneLegende(*this, Gang::Wischen);
     Visible = false;
 }
 

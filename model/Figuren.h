@@ -26,6 +26,11 @@ enum class PunktAttr : std::uint8_t { Em, Fu };
 /// Direction observations of a line: none, one-sided, two-sided, without direction; I = indirect.
 enum class LinieAttr : std::uint8_t { Null, AR1, AR2, AST, ARI1, ARI2, ASTI };
 
+/// The line makes a detour.
+[[nodiscard]] constexpr bool IstIndirekt(LinieAttr a) {
+    return a > LinieAttr::AST;
+}
+
 /// Set of the other observation kinds of a line: distance, GPS vector, height difference along and against
 /// the line. One byte, bit n for the n-th member; bits without a member survive loading and saving.
 class KanteAttr {
@@ -90,6 +95,8 @@ class Punkt final : public Ort {
     void Store(ByteSchreiber& f) const override;
     virtual void Done(Zeichner& z);  ///< wipes the point; the memory belongs to the list
     virtual void Show(Zeichner& z);
+    /// Draws the point at a place of the picture, unless that lies beyond the drawable range.
+    void Zeige(Bildpunkt ort, Zeichner& z) const;
     virtual void Hide(Zeichner& z);
     [[nodiscard]] virtual bool IsVisible() const { return Visible; }
     /// Moves and leaves the point invisible: `Hide` clears `Visible` and `Show` heeds it. The list relies on
@@ -134,8 +141,9 @@ class PktText final : public Ort {
     [[nodiscard]] static PktText Create(std::string_view iAus, Farbe iCol, const Einstellungen& e);
     [[nodiscard]] static PktText Load(ByteLeser& f);
 
-    /// Top-left corner of the text [px].
-    [[nodiscard]] Bildpunkt Textort() const;
+    /// Top-left corner of the text [px]. @param ort where its point lies
+    [[nodiscard]] Bildpunkt Textort(Bildpunkt ort) const;
+    [[nodiscard]] Bildpunkt Textort() const { return Textort(Position()); }
 
     void Store(ByteSchreiber& f) const override;
     virtual void Done(Zeichner& z);

@@ -5,14 +5,15 @@
 #include <cstdint>
 #include <memory>
 
-#include "model/FigListe.h"
+#include "model/Darstellung.h"
+#include "model/Netz.h"
 
 namespace zrw {
 
 class Gezeigt {
   public:
-    explicit Gezeigt(const Liste& liste)
-        : liste_(liste), antworten_(std::make_unique<Antwort[]>(kMaxPunkte + 1)) {}
+    Gezeigt(const Netz& netz, const Darstellung& darstellung)
+        : netz_(netz), darstellung_(darstellung), antworten_(std::make_unique<Antwort[]>(kMaxPunkte + 1)) {}
 
     /// What is known already, of the newest point of the number.
     void Nimm(PunktIndex nr, bool gezeigt) { antworten_[nr] = gezeigt ? Antwort::Ja : Antwort::Nein; }
@@ -20,23 +21,24 @@ class Gezeigt {
     [[nodiscard]] bool operator()(PunktIndex nr) {
         Antwort& a = antworten_[nr];
         if (a == Antwort::Offen) {
-            const PunktKnoten* p = liste_.SuchPkt(nr);
-            a = p != nullptr && liste_.Dargestellt(*p->Item) ? Antwort::Ja : Antwort::Nein;
+            const PunktKnoten* p = netz_.SuchPkt(nr);
+            a = p != nullptr && darstellung_.Dargestellt(*p->Item) ? Antwort::Ja : Antwort::Nein;
         }
         return a == Antwort::Ja;
     }
     [[nodiscard]] bool operator()(const PunktKante& k) { return (*this)(k.ANr) && (*this)(k.ENr); }
     /// A label belongs to the point that its text names.
     [[nodiscard]] bool operator()(const PunktString& t) {
-        if (liste_.TexteEindeutig()) return (*this)(t.TNr);
-        const PunktKnoten* p = liste_.FindPunkt(t.Item->Aus.Text());
-        return p != nullptr && liste_.Dargestellt(*p->Item);
+        if (netz_.TexteEindeutig()) return (*this)(t.TNr);
+        const PunktKnoten* p = netz_.FindPunkt(t.Item->Aus.Text());
+        return p != nullptr && darstellung_.Dargestellt(*p->Item);
     }
 
   private:
     enum class Antwort : std::uint8_t { Offen, Ja, Nein };
 
-    const Liste& liste_;
+    const Netz& netz_;
+    const Darstellung& darstellung_;
     std::unique_ptr<Antwort[]> antworten_;  ///< all of them open: plain zeros
 };
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "model/Darstellung.h"
 #include "model/Einstellungen.h"
-#include "model/FigListe.h"
 #include "model/Figuren.h"
 
 namespace zrw {
@@ -16,15 +16,15 @@ struct Punktart {
     std::string_view bezeichnung;  ///< German, UTF-8
     std::string_view legende;      ///< in the key of the legend, UTF-8
     Farbe Einstellungen::*farbe;
-    bool Liste::*schalter;
+    bool Darstellung::*schalter;
 };
 
 /// In the order of the enumeration.
 inline constexpr std::array<Punktart, 4> kPunktarten{{
-    {PunktArt::FP, "FP", "Festpunkt", "Anschlußpunkt 2D,3D", &Einstellungen::FPCol, &Liste::ShowFP},
-    {PunktArt::FL, "FL", "Lagefestpunkt", "Anschlußpunkt 2D", &Einstellungen::FLCol, &Liste::ShowFL},
-    {PunktArt::FH, "FH", "Höhenfestpunkt", "Anschlußpunkt Höhe", &Einstellungen::FHCol, &Liste::ShowFH},
-    {PunktArt::NP, "NP", "Neupunkt", "Neupunkt", &Einstellungen::NPCol, &Liste::ShowNP},
+    {PunktArt::FP, "FP", "Festpunkt", "Anschlußpunkt 2D,3D", &Einstellungen::FPCol, &Darstellung::ShowFP},
+    {PunktArt::FL, "FL", "Lagefestpunkt", "Anschlußpunkt 2D", &Einstellungen::FLCol, &Darstellung::ShowFL},
+    {PunktArt::FH, "FH", "Höhenfestpunkt", "Anschlußpunkt Höhe", &Einstellungen::FHCol, &Darstellung::ShowFH},
+    {PunktArt::NP, "NP", "Neupunkt", "Neupunkt", &Einstellungen::NPCol, &Darstellung::ShowNP},
 }};
 
 [[nodiscard]] constexpr const Punktart& ZurArt(PunktArt art) {

@@ -1,10 +1,10 @@
-// Hit-tests of the list: the figure under the mouse.
+#include "model/Treffer.h"
+
 #include <algorithm>
 #include <vector>
 
-#include "model/FigListe.h"
+#include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
-#include "model/Zeichner.h"
 
 namespace zrw {
 namespace {
@@ -33,29 +33,14 @@ bool Klein(std::int64_t v) {
 }
 
 /// Whether the segment of a line passes within `r` pixels of the mouse.
-bool Trifft(const Kante& k, Bildpunkt maus, std::int64_t r) {
-    const std::int64_t sx = Differenz(k.XO, maus.x);
-    const std::int64_t sy = Differenz(k.YO, maus.y);
-    const std::int64_t ex = Differenz(k.XBiE, maus.x);
-    const std::int64_t ey = Differenz(k.YBiE, maus.y);
+bool Trifft(Bildpunkt anfang, Bildpunkt ende, Bildpunkt maus, std::int64_t r) {
+    const std::int64_t sx = Differenz(anfang.x, maus.x);
+    const std::int64_t sy = Differenz(anfang.y, maus.y);
+    const std::int64_t ex = Differenz(ende.x, maus.x);
+    const std::int64_t ey = Differenz(ende.y, maus.y);
     if (Klein(sx) && Klein(sy) && Klein(ex) && Klein(ey)) return TrifftStrecke(sx, sy, ex, ey, r);
     return TrifftStrecke(static_cast<double>(sx), static_cast<double>(sy), static_cast<double>(ex),
                          static_cast<double>(ey), static_cast<double>(r));
-}
-
-}  // namespace
-
-bool Liste::Gefangen(Bildpunkt maus, Bildpunkt ort) const {
-    const std::int64_t r = einstellungen_.Fang;
-    return Differenz(maus.x, r) <= ort.x && ort.x <= Summe(maus.x, r) && Differenz(maus.y, r) <= ort.y &&
-           ort.y <= Summe(maus.y, r);
-}
-
-namespace {
-
-/// Where the position of a caught figure may lie.
-Bildbereich Fangbereich(Bildpunkt maus, std::int64_t r) {
-    return {Differenz(maus.x, r), Differenz(maus.y, r), Summe(maus.x, r), Summe(maus.y, r)};
 }
 
 /// The first that fits, or null.
@@ -67,79 +52,50 @@ Knoten* Erster(const std::vector<Knoten*>& knoten, Bedingung passt) {
 
 }  // namespace
 
-PPunktKnoten Liste::ClickPunkt(Bildpunkt maus) const {
-    std::vector<PPunktKnoten> nahe;
-    SammlePunkte(Fangbereich(maus, einstellungen_.Fang), nahe);
-    return Erster(nahe, [&](const zrw::PunktKnoten& p) { return Gefangen(maus, p.Item->Position()); });
+bool Gefangen(Bildpunkt maus, Bildpunkt ort, std::int64_t fang) {
+    const Bildbereich b = Fangbereich(maus, fang);
+    return b.links <= ort.x && ort.x <= b.rechts && b.oben <= ort.y && ort.y <= b.unten;
 }
 
-PPunktKnoten Liste::ClickGezeigten(Bildpunkt maus) const {
+Bildbereich Fangbereich(Bildpunkt maus, std::int64_t fang) {
+    return {Differenz(maus.x, fang), Differenz(maus.y, fang), Summe(maus.x, fang), Summe(maus.y, fang)};
+}
+
+/// The kind of the point is switched on, as far as that counts.
+bool Treffersuche::Gezeigt(PunktIndex nr) const {
+    if (gezeigt_ == nullptr) return true;
+    const PunktKnoten* p = netz_.SuchPkt(nr);
+    return p != nullptr && gezeigt_->Dargestellt(*p->Item);
+}
+
+PPunktKnoten Treffersuche::Punkt(Bildpunkt maus) const {
     std::vector<PPunktKnoten> nahe;
-    SammlePunkte(Fangbereich(maus, einstellungen_.Fang), nahe);
-    return Erster(nahe, [&](const zrw::PunktKnoten& p) {
-        return Gefangen(maus, p.Item->Position()) && p.Item->Visible && Dargestellt(*p.Item);
+    netz_.SammlePunkte(ansicht_, Fangbereich(maus, fang_), nahe);
+    return Erster(nahe, [&](const PunktKnoten& p) {
+        return Gefangen(maus, BildortVon(p, ansicht_), fang_) &&
+               (gezeigt_ == nullptr || (p.Item->Visible && gezeigt_->Dargestellt(*p.Item)));
     });
 }
 
-void Liste::LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z) {
-    // By position, not by number: what meets the point in the picture must not stay behind when it moves.
-    const Bildpunkt ort = punkt.Item->Position();
-    const Bildbereich dort = Fangbereich(ort, 0);
-    std::vector<PPunktKante> kanten;
-    SammleKanten(dort, kanten);
-    for (PPunktKante k : kanten) {
-        if (k->Item->Position() == ort || k->Item->Ende() == ort) k->Item->Hide(z);
-    }
-    std::vector<PPunktString> texte;
-    SammleTexte(dort, texte);
-    for (PPunktString t : texte) {
-        if (t->Item->Position() == ort) t->Item->Hide(z);
-    }
-}
-
-bool Liste::MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z) {
-    const PPunktKnoten treffer = ClickPunkt(maus);
-    if (treffer == nullptr) return false;
-    LoesePunkt(*treffer, z);
-    u = treffer;
-    return true;
-}
-
-PPunktString Liste::MausPktText(Bildpunkt maus) const {
+PPunktString Treffersuche::Text(Bildpunkt maus) const {
+    if (gezeigt_ != nullptr && !gezeigt_->ZeigtNummern()) return nullptr;
     std::vector<PPunktString> nahe;
-    SammleTexte(Fangbereich(maus, einstellungen_.Fang), nahe);
-    return Erster(nahe, [&](const PunktString& t) { return Gefangen(maus, t.Item->Textort()); });
-}
-
-PPunktString Liste::ClickGezeigtenText(Bildpunkt maus) const {
-    if (!ShowPktText || !ShowHilfP) return nullptr;
-    std::vector<PPunktString> nahe;
-    SammleTexte(Fangbereich(maus, einstellungen_.Fang), nahe);
+    netz_.SammleTexte(ansicht_, Fangbereich(maus, fang_), nahe);
     return Erster(nahe, [&](const PunktString& t) {
-        if (!t.Item->Visible || !Gefangen(maus, t.Item->Textort())) return false;
-        const zrw::PunktKnoten* p = SuchPkt(t.TNr);
-        return p != nullptr && Dargestellt(*p->Item);
+        return (gezeigt_ == nullptr || t.Item->Visible) &&
+               Gefangen(maus, t.Item->Textort(BildortVon(t, netz_, ansicht_)), fang_) && Gezeigt(t.TNr);
     });
 }
 
-void Liste::MausLegende(Bildpunkt maus) {
-    if (Legend != nullptr) Legend->Move = Gefangen(maus, Legend->Position());
-}
-
-// A line is caught up to a whole pixel farther off, and beside its ends.
-
-PPunktKante Liste::PickKante(Bildpunkt maus) const {
+PPunktKante Treffersuche::Kante(Bildpunkt maus) const {
+    if (gezeigt_ != nullptr && !gezeigt_->ShowBeob) return nullptr;
     std::vector<PPunktKante> nahe;
-    SammleKanten(Fangbereich(maus, std::int64_t{einstellungen_.Fang} + 1), nahe);
-    return Erster(nahe, [&](const PunktKante& k) { return Trifft(*k.Item, maus, einstellungen_.Fang); });
-}
-
-PPunktKante Liste::PickGezeigte(Bildpunkt maus) const {
-    if (!ShowBeob) return nullptr;
-    std::vector<PPunktKante> nahe;
-    SammleKanten(Fangbereich(maus, std::int64_t{einstellungen_.Fang} + 1), nahe);
+    // A line is caught up to a whole pixel farther off, and beside its ends.
+    netz_.SammleKanten(ansicht_, Fangbereich(maus, fang_ + 1), nahe);
     return Erster(nahe, [&](const PunktKante& k) {
-        return k.Item->Visible && Trifft(*k.Item, maus, einstellungen_.Fang) && Dargestellt(k);
+        return (gezeigt_ == nullptr || k.Item->Visible) &&
+               Trifft(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
+               Gezeigt(k.ANr) && Gezeigt(k.ENr);
     });
 }
 

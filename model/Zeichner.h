@@ -9,7 +9,7 @@
 
 namespace zrw {
 
-class Liste;
+struct Bildvorlage;
 
 /// A figure is drawn in its own colour, or wiped by drawing the same shape in white.
 enum class Gang : std::uint8_t { Zeigen, Wischen };
@@ -20,20 +20,22 @@ class Zeichner {
 
     /// Fills (0, 0) to (weite, hoehe) [px] with white.
     virtual void ClearPicture(std::int32_t weite, std::int32_t hoehe) = 0;
-    virtual void ZeichnePunkt(const Punkt& punkt, Gang gang) = 0;
-    virtual void ZeichneKante(const Kante& kante, Gang gang) = 0;
-    virtual void ZeichneText(const PktText& text, Gang gang) = 0;
+    // Figures at their places in the picture [px]; where they were drawn last does not count.
+    virtual void ZeichnePunkt(const Punkt& punkt, Bildpunkt ort, Gang gang) = 0;
+    virtual void ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpunkt ende, Gang gang) = 0;
+    /// @param ort position that the label's offset counts from
+    virtual void ZeichneText(const PktText& text, Bildpunkt ort, Gang gang) = 0;
 
     /// Draws all lines, points and labels, where the drawer has a quicker way to the same picture than being
     /// handed them one by one. @return false: it has none, nothing is drawn
-    virtual bool ZeichneNetz(const Liste& /*liste*/) { return false; }
+    virtual bool ZeichneNetz(const Bildvorlage& /*v*/) { return false; }
 
     // Overlays. A drawer that does not know one leaves it out of its picture.
     virtual void ZeichneLegende(Legende& /*legende*/, Gang /*gang*/) {}
-    virtual void GitterShow(const Liste& /*liste*/) {}
-    virtual void KMGitterShow(const Liste& /*liste*/) {}
-    virtual void ZeichnePunktRes(const Liste& /*liste*/) {}
-    virtual void DrawResMasstab(const Liste& /*liste*/) {}
+    virtual void GitterShow(const Bildvorlage& /*v*/) {}
+    virtual void KMGitterShow(const Bildvorlage& /*v*/) {}
+    virtual void ZeichnePunktRes(const Bildvorlage& /*v*/) {}
+    virtual void DrawResMasstab(const Bildvorlage& /*v*/) {}
 };
 
 }  // namespace zrw

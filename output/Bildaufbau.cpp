@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "model/FigListe.h"
-#include "model/Gezeigt.h"
 #include "output/Abschneiden.h"
 #include "output/Figurenzeichner.h"
 
@@ -23,26 +21,27 @@ void Hole(const Knoten* knoten) {
     __builtin_prefetch(anfang + kSpeicherzeile);
 }
 
-/// Calls `tun` for nodes, newest first or oldest first.
+/// Calls `tun(place)` for nodes, newest first or oldest first.
 template <class Knoten, class Tun>
 void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) {
     const std::size_t anzahl = knoten.size();
     const auto stelle = [&](std::size_t i) { return aeltesteZuerst ? anzahl - 1 - i : i; };
     for (std::size_t i = 0; i < anzahl; ++i) {
         if (i + kVoraus < anzahl) Hole(knoten[stelle(i + kVoraus)]);
-        tun(*knoten[stelle(i)]);
+        tun(stelle(i));
     }
 }
 
 }  // namespace
 
-Bildaufbau::Bildaufbau(const Liste& liste, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
+Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
                        const Reichweiten& reichweiten)
-    : liste_(liste),
+    : v_(v),
       flaeche_(flaeche),
       zeichner_(zeichner),
       r_(reichweiten),
-      gezeigt_(liste),
+      gezeigt_(v.netz, v.darstellung),
+      orte_(v.netz, v.ansicht),
       linien_(Bereich(r_.kante)),
       symbole_(Bereich(r_.symbol)),
       nummern_(Bereich(0)) {
@@ -64,21 +63,26 @@ bool Bildaufbau::Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r) {
 
 /// What may have to be drawn. Only the points are looked at: how dense they lie decides how to draw.
 void Bildaufbau::Sammle() {
-    if (liste_.ShowBeob) liste_.SammleKanten(linien_, kanten_);
-    liste_.SammlePunkte(symbole_, punkte_);
+    const Darstellung& d = v_.darstellung;
+    if (d.ShowBeob) v_.netz.SammleKanten(v_.ansicht, linien_, kanten_);
+    v_.netz.SammlePunkte(v_.ansicht, symbole_, punkte_);
+    punktorte_.reserve(punkte_.size());
     std::size_t anzahl = 0;
-    FuerAlle(punkte_, false, [&](PunktKnoten& p) {
-        const Bildpunkt ort = p.Item->Position();
-        const bool dargestellt = liste_.Dargestellt(*p.Item);
+    FuerAlle(punkte_, false, [&](std::size_t i) {
+        PunktKnoten& p = *punkte_[i];
+        const Bildpunkt ort = BildortVon(p, v_.ansicht);
+        const bool dargestellt = d.Dargestellt(*p.Item);
         // Of several points of a number, lines and labels follow the newest.
-        if (liste_.SuchPkt(p.PNr) == &p) {
+        if (v_.netz.SuchPkt(p.PNr) == &p) {
             orte_.Nimm(p.PNr, ort);
             gezeigt_.Nimm(p.PNr, dargestellt);
         }
-        if (p.Item->Visible && dargestellt && Beruehrt(ort, ort, symbole_)) punkte_[anzahl++] = &p;
+        if (!dargestellt || !v_.Gezeichnet(p) || !Beruehrt(ort, ort, symbole_)) return;
+        punkte_[anzahl++] = &p;
+        punktorte_.push_back(ort);
     });
     punkte_.resize(anzahl);
-    if (liste_.ShowPktText && liste_.ShowHilfP) liste_.SammleTexte(nummern_, texte_);
+    if (d.ZeigtNummern()) v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
 }
 
 /// Whether enough lies behind other things to pay for keeping track of it: what the figures would draw
@@ -93,8 +97,7 @@ bool Bildaufbau::Dicht() const {
     std::int64_t rechts = a.links;
     std::int64_t unten = a.oben;
     double punkte = 0;
-    for (const PunktKnoten* p : punkte_) {
-        const Bildpunkt m = p->Item->Position();
+    for (const Bildpunkt m : punktorte_) {
         if (m.x < a.links || m.x > a.rechts || m.y < a.oben || m.y > a.unten) continue;
         ++punkte;
         links = std::min(links, m.x);
@@ -110,42 +113,43 @@ bool Bildaufbau::Dicht() const {
 }
 
 void Bildaufbau::ZeichnePunkte(bool vonVorn) {
-    FuerAlle(punkte_, vonVorn, [&](PunktKnoten& p) {
-        if (!vonVorn || !Verdeckt(p.Item->Position(), p.Item->Position(), r_.symbol)) p.Item->Show(zeichner_);
+    FuerAlle(punkte_, vonVorn, [&](std::size_t i) {
+        const Bildpunkt ort = punktorte_[i];
+        if (!vonVorn || !Verdeckt(ort, ort, r_.symbol)) punkte_[i]->Item->Zeige(ort, zeichner_);
     });
 }
 
-void Bildaufbau::ZeichneKante(PunktKante& k) {
-    if (k.Item->Visible && gezeigt_(k) && Beruehrt(k.Item->Position(), k.Item->Ende(), linien_))
-        k.Item->Show(zeichner_);
+void Bildaufbau::ZeichneKante(const PunktKante& k) {
+    if (!v_.Gezeichnet(k) || !gezeigt_(k)) return;
+    const Bildpunkt anfang = orte_.Anfang(k);
+    const Bildpunkt ende = orte_.Ende(k);
+    if (Beruehrt(anfang, ende, linien_)) zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
 }
 
 void Bildaufbau::ZeichneKanten() {
     for (std::size_t i = 0; i < kanten_.size(); ++i) {
-        if (i + kVoraus < kanten_.size()) Hole(&liste_.KanteNach(kanten_[i + kVoraus]));
-        ZeichneKante(liste_.KanteNach(kanten_[i]));
+        if (i + kVoraus < kanten_.size()) Hole(&v_.netz.KanteNach(kanten_[i + kVoraus]));
+        ZeichneKante(v_.netz.KanteNach(kanten_[i]));
     }
 }
 
 /// Most lines of a dense picture are covered: that shows from their points, without a look at the lines.
 void Bildaufbau::ZeichneKantenVonVorn() {
-    const bool amPunkt = liste_.Positionen().frisch;
-    const auto hinten = [&](PunktIndex nr) { return amPunkt ? orte_.Finde(nr) : std::nullopt; };
     // In batches, so that the memory of the next ones is under way.
     std::array<PPunktKante, 4 * kVoraus> naechste;
     for (std::size_t i = kanten_.size(); i > 0;) {
         const std::size_t bis = i - std::min(i, naechste.size());
         for (std::size_t n = bis; n-- > bis - std::min(bis, naechste.size());) {
-            orte_.Hole(liste_.Enden(kanten_[n]).a);
-            orte_.Hole(liste_.Enden(kanten_[n]).e);
+            orte_.Hole(v_.netz.Enden(kanten_[n]).a);
+            orte_.Hole(v_.netz.Enden(kanten_[n]).e);
         }
         std::size_t anzahl = 0;
         while (i-- > bis) {
-            const Punktenden enden = liste_.Enden(kanten_[i]);
-            const auto a = hinten(enden.a);
-            const auto e = hinten(enden.e);
+            const Punktenden enden = v_.netz.Enden(kanten_[i]);
+            const auto a = orte_.Finde(enden.a);
+            const auto e = orte_.Finde(enden.e);
             if (a && e && Verdeckt(*a, *e, r_.kante)) continue;
-            naechste[anzahl] = &liste_.KanteNach(kanten_[i]);
+            naechste[anzahl] = &v_.netz.KanteNach(kanten_[i]);
             Hole(naechste[anzahl++]);
         }
         i = bis;
@@ -155,9 +159,12 @@ void Bildaufbau::ZeichneKantenVonVorn() {
 }
 
 void Bildaufbau::ZeichneTexte(bool vonVorn) {
-    FuerAlle(texte_, vonVorn, [&](PunktString& t) {
-        const Bildpunkt ort = t.Item->Textort();
-        if (t.Item->Visible && gezeigt_(t) && Beruehrt(ort, ort, nummern_)) t.Item->Show(zeichner_);
+    FuerAlle(texte_, vonVorn, [&](std::size_t i) {
+        const PunktString& t = *texte_[i];
+        if (!v_.Gezeichnet(t) || !gezeigt_(t)) return;
+        const Bildpunkt ort = orte_.Text(t);
+        const Bildpunkt ecke = t.Item->Textort(ort);
+        if (Beruehrt(ecke, ecke, nummern_)) zeichner_.ZeichneText(*t.Item, ort, Gang::Zeigen);
     });
 }
 

@@ -6,15 +6,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "model/Bildsuche.h"
+#include "model/Bildorte.h"
+#include "model/Bildvorlage.h"
 #include "model/Gezeigt.h"
-#include "model/Knoten.h"
-#include "model/Ortstafel.h"
 #include "output/Zeichenflaeche.h"
 
 namespace zrw {
 
-class Liste;
 class Figurenzeichner;
 
 class Bildaufbau {
@@ -27,7 +25,7 @@ class Bildaufbau {
         std::int64_t texthoehe = 0;
     };
 
-    Bildaufbau(const Liste& liste, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
+    Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
                const Reichweiten& reichweiten);
 
     void Zeichne();
@@ -35,7 +33,7 @@ class Bildaufbau {
   private:
     void Sammle();
     [[nodiscard]] bool Dicht() const;
-    void ZeichneKante(PunktKante& k);
+    void ZeichneKante(const PunktKante& k);
     void ZeichneKanten();
     void ZeichneKantenVonVorn();
     void ZeichnePunkte(bool vonVorn);
@@ -44,12 +42,12 @@ class Bildaufbau {
     [[nodiscard]] static bool Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r);
     [[nodiscard]] Bildbereich Bereich(std::int64_t rand) const;
 
-    const Liste& liste_;
+    const Bildvorlage& v_;
     Zeichenflaeche& flaeche_;
     Figurenzeichner& zeichner_;
     Reichweiten r_;
     Gezeigt gezeigt_;
-    Ortstafel orte_;  ///< of the points that were collected
+    Bildorte orte_;
     // Where positions lie whose figures may show.
     Bildbereich linien_;
     Bildbereich symbole_;
@@ -57,6 +55,7 @@ class Bildaufbau {
     // What may have to be drawn, newest first.
     std::vector<std::uint32_t> kanten_;  ///< by `Folge`
     std::vector<PPunktKnoten> punkte_;
+    std::vector<Bildpunkt> punktorte_;  ///< of those
     std::vector<PPunktString> texte_;
 };
 

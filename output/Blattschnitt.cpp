@@ -8,12 +8,13 @@
 #include <unordered_set>
 #include <utility>
 
+#include "model/Bildorte.h"
 #include "model/Fehler.h"
 #include "model/Raumbaum.h"
 #include "model/Zahlentext.h"
 #include "output/Abschneiden.h"
 #include "output/Export.h"
-#include "output/Geraeteansicht.h"
+#include "output/Figurenzeichner.h"
 #include "output/Messflaeche.h"
 
 namespace zrw {
@@ -124,11 +125,16 @@ class Belegung final : public Messflaeche {
     std::uint64_t letztes_ = ~std::uint64_t{0};
 };
 
+/// Whether the plan shows the point, at a place that there is.
+bool Zaehlt(const PunktKnoten& p, const Bildvorlage& v) {
+    return std::isfinite(p.XWPu) && std::isfinite(p.YWPu) && v.Gezeichnet(p) &&
+           v.darstellung.Dargestellt(*p.Item);
+}
+
 /// A place within the plan that positions are measured from: the digits of far ones end somewhere.
-std::optional<Welt> Bezug(const Liste& liste) {
-    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
-        const bool endlich = std::isfinite(p->XWPu) && std::isfinite(p->YWPu);
-        if (endlich && p->Item->Visible && liste.Dargestellt(*p->Item)) return Welt{p->XWPu, p->YWPu};
+std::optional<Welt> Bezug(const Bildvorlage& v) {
+    for (const PunktKnoten* p = v.netz.PunktKnoten; p != nullptr; p = p->Next) {
+        if (Zaehlt(*p, v)) return Welt{p->XWPu, p->YWPu};
     }
     return std::nullopt;
 }
@@ -145,19 +151,16 @@ class Messung {
   public:
     Messung(const Druckplan& plan, double massstab, const Druckseite& seite, Welt bezug)
         : plan_(plan),
-          groessen_(plan.einstellungen),
+          groessen_(plan.mittel.einstellungen),
+          geraetefaktor_(Geraetefaktor(seite)),
           bezug_(bezug),
           dot_(Druckfaktor(massstab, seite.aufloesung)),
           weite_(std::max(seite.weite, 1)),
           hoehe_(std::max(seite.hoehe, 1)),
-          ansicht_(plan.liste, plan.zustand, dot_, bezug) {
-        const double geraetefaktor = seite.aufloesung / kBildaufloesung;
-        plan_.einstellungen.ScaleSizes(geraetefaktor);
-        plan_.zustand.modus = Zeichenmodus::Drucker;
-        plan_.zustand.Geraetefaktor = geraetefaktor;
+          ansicht_(plan.vorlage.ansicht.FuerGeraet(dot_, bezug)),
+          vorlage_(plan.vorlage.In(ansicht_)) {
+        groessen_.ScaleSizes(geraetefaktor_);
     }
-    /// From a copy: scaled back they could miss their value by one.
-    ~Messung() { plan_.einstellungen = groessen_; }
     Messung(const Messung&) = delete;
     Messung& operator=(const Messung&) = delete;
 
@@ -166,22 +169,20 @@ class Messung {
     [[nodiscard]] const Zeichenflaeche& Geraet() const { return plan_.geraet; }
 
     void Zeichne(Messflaeche& ziel) const {
-        Liste& l = plan_.liste;
-        plan_.zustand.flaeche = &ziel;
-        if (l.ShowBeob) l.DisplayKante(plan_.zeichner);
-        l.DisplayPunkte(plan_.zeichner);
-        if (l.ShowPktText) l.DisplayPktText(plan_.zeichner);
-        plan_.zeichner.ZeichnePunktRes(l);
+        const Darstellung& d = vorlage_.darstellung;
+        Zeichenzustand zustand = Geraetezustand(plan_.mittel.zustand, ziel, geraetefaktor_);
+        Figurenzeichner zeichner(zustand, groessen_, plan_.mittel.netz, plan_.mittel.uhr);
+        if (d.ShowBeob) ZeichneKanten(vorlage_, zeichner);
+        ZeichnePunkte(vorlage_, zeichner);
+        if (d.ShowPktText) ZeichneTexte(vorlage_, zeichner);
+        zeichner.ZeichnePunktRes(vorlage_);
     }
     /// None where nothing is drawn. @throws Fehler where points lie farther away than can be measured
     [[nodiscard]] std::optional<Umfang> Miss() const {
         constexpr std::int64_t kFern = Messflaeche::kReichweite;
-        for (const PunktKnoten* p = plan_.liste.PunktKnoten; p != nullptr; p = p->Next) {
-            const bool da = std::isfinite(p->XWPu) && std::isfinite(p->YWPu) && p->Item->Visible;
-            const Bildpunkt ort = p->Item->Position();
-            if (da && plan_.liste.Dargestellt(*p->Item) &&
-                !InReichweite(ort, 0, {-kFern, -kFern, kFern, kFern}))
-                ZuViele();
+        for (const PunktKnoten* p = vorlage_.netz.PunktKnoten; p != nullptr; p = p->Next) {
+            const Bildpunkt ort = BildortVon(*p, ansicht_);
+            if (Zaehlt(*p, vorlage_) && !InReichweite(ort, 0, {-kFern, -kFern, kFern, kFern})) ZuViele();
         }
         Umfangmesser messer(plan_.geraet);
         Zeichne(messer);
@@ -210,12 +211,14 @@ class Messung {
 
   private:
     const Druckplan& plan_;
-    Einstellungen groessen_;
+    Einstellungen groessen_;  ///< of the device
+    double geraetefaktor_;
     Welt bezug_;
     double dot_;
     double weite_;
     double hoehe_;
-    Geraeteansicht ansicht_;
+    Ansicht ansicht_;
+    Bildvorlage vorlage_;
 };
 
 /// Quotient, rounded down.
@@ -276,7 +279,7 @@ double Mittig(double von, double bis, double blaetter, double seite) {
 
 std::vector<Blatt> Blattschnitt(const Druckplan& plan, double massstab, const Druckseite& seite,
                                 Welt ursprung) {
-    const auto bezug = Bezug(plan.liste);
+    const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return {};
     const Messung m(plan, massstab, seite, *bezug);
     if (!m.Miss()) return {};
@@ -291,7 +294,7 @@ std::vector<Blatt> Blattschnitt(const Druckplan& plan, double massstab, const Dr
 }
 
 std::vector<Blatt> Blattaufteilung(const Druckplan& plan, double massstab, const Druckseite& seite) {
-    const auto bezug = Bezug(plan.liste);
+    const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return {};
     const Messung m(plan, massstab, seite, *bezug);
     const auto umfang = m.Miss();
@@ -320,7 +323,7 @@ std::vector<Blatt> Blattaufteilung(const Druckplan& plan, double massstab, const
 }
 
 std::optional<Blatt> ErstesBlatt(const Druckplan& plan, double massstab, const Druckseite& seite) {
-    const auto bezug = Bezug(plan.liste);
+    const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return std::nullopt;
     const Messung m(plan, massstab, seite, *bezug);
     const auto umfang = m.Miss();
@@ -332,12 +335,11 @@ std::optional<Blatt> ErstesBlatt(const Druckplan& plan, double massstab, const D
 }
 
 std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite& seite) {
-    const auto bezug = Bezug(plan.liste);
+    const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return std::nullopt;
     Weltkasten orte;
-    for (const PunktKnoten* p = plan.liste.PunktKnoten; p != nullptr; p = p->Next) {
-        const bool endlich = std::isfinite(p->XWPu) && std::isfinite(p->YWPu);
-        if (endlich && p->Item->Visible && plan.liste.Dargestellt(*p->Item)) orte.Nimm(p->XWPu, p->YWPu);
+    for (const PunktKnoten* p = plan.vorlage.netz.PunktKnoten; p != nullptr; p = p->Next) {
+        if (Zaehlt(*p, plan.vorlage)) orte.Nimm(p->XWPu, p->YWPu);
     }
     // The points alone need this one; whatever is drawn round them needs a little more.
     const double dot = Druckfaktor(1, seite.aufloesung);

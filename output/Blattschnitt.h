@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "model/FigListe.h"
+#include "model/Bildvorlage.h"
 #include "output/Druck.h"
 
 namespace zrw {
@@ -22,12 +22,10 @@ struct Blatt {
     }
 };
 
-/// A plan and what it is printed with. Looking it over leaves all of it as it was.
+/// A plan and what it is printed with.
 struct Druckplan {
-    Liste& liste;
-    Zeichner& zeichner;  ///< draws by `zustand` and `einstellungen`
-    Zeichenzustand& zustand;
-    Einstellungen& einstellungen;
+    Bildvorlage vorlage;
+    Zeichenmittel mittel;
     const Zeichenflaeche& geraet;  ///< tells how large its texts are
 };
 

@@ -2,78 +2,57 @@
 
 #include "model/Ganzzahl.h"
 #include "output/Export.h"
-#include "output/Geraeteansicht.h"
+#include "output/Figurenzeichner.h"
 
 namespace zrw {
-namespace {
-
-/// The sizes of the printer, for the duration of a job: scaled forth and back, not kept.
-class Druckgroessen {
-  public:
-    Druckgroessen(Einstellungen& einstellungen, double geraetefaktor)
-        : einstellungen_(einstellungen), geraetefaktor_(geraetefaktor) {
-        einstellungen_.ScaleSizes(geraetefaktor_);
-    }
-    ~Druckgroessen() { einstellungen_.ScaleSizes(1 / geraetefaktor_); }
-    Druckgroessen(const Druckgroessen&) = delete;
-    Druckgroessen& operator=(const Druckgroessen&) = delete;
-
-  private:
-    Einstellungen& einstellungen_;
-    double geraetefaktor_;
-};
-
-/// The legend stands in the corner of the sheet where it stands in that of the picture.
-class Legendenort {
-  public:
-    Legendenort(Legende* legende, double geraetefaktor, const std::optional<Bildpunkt>& ort)
-        : legende_(legende) {
-        if (legende_ == nullptr) return;
-        vorher_ = legende_->Position();
-        legende_->XO = RundeZuInt64(static_cast<double>(vorher_.x) * geraetefaktor);
-        legende_->YO = RundeZuInt64(static_cast<double>(vorher_.y) * geraetefaktor);
-        if (ort) {
-            legende_->XO = ort->x;
-            legende_->YO = ort->y;
-        }
-    }
-    ~Legendenort() {
-        if (legende_ == nullptr) return;
-        legende_->XO = vorher_.x;
-        legende_->YO = vorher_.y;
-    }
-    Legendenort(const Legendenort&) = delete;
-    Legendenort& operator=(const Legendenort&) = delete;
-
-  private:
-    Legende* legende_;
-    Bildpunkt vorher_;
-};
-
-}  // namespace
-
-void Drucke(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Einstellungen& einstellungen,
-            Zeichenflaeche& drucker, const Druckauftrag& auftrag) {
-    const double geraetefaktor = auftrag.seite.aufloesung / kBildaufloesung;
-    if (liste.ShowLegende && liste.Legend != nullptr) liste.Legend->Masstab = auftrag.massstabtext;
-    {
-        const Geraeteansicht ansicht(liste, zustand, Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung),
-                                     auftrag.ecke);
-        const Druckgroessen groessen(einstellungen, geraetefaktor);
-        const Legendenort legendenort(liste.Legend.get(), geraetefaktor, auftrag.legende);
-        // The sheet is the picture: grids reach to its edges.
-        liste.Weite = auftrag.seite.weite;
-        liste.Hoehe = auftrag.seite.hoehe;
-        zustand.modus = Zeichenmodus::Drucker;
-        zustand.Geraetefaktor = geraetefaktor;
-        zustand.flaeche = &drucker;
-        liste.ShowPicture(zeichner);
-    }
-    zustand.Geraetefaktor = 1 / geraetefaktor;
+Einstellungen Geraetegroessen(Einstellungen& einstellungen, double geraetefaktor) {
+    einstellungen.ScaleSizes(geraetefaktor);
+    const Einstellungen groessen = einstellungen;
+    einstellungen.ScaleSizes(1 / geraetefaktor);
+    return groessen;
 }
 
-Bildpunkt Ausgabebereich(const Liste& liste, double massstab, const Druckseite& seite) {
-    const double pixel = Druckfaktor(massstab, seite.aufloesung) / liste.Faktor;
+Zeichenzustand Geraetezustand(const Zeichenzustand& bildschirm, Zeichenflaeche& geraet,
+                              double geraetefaktor) {
+    Zeichenzustand zustand = bildschirm;
+    zustand.modus = Zeichenmodus::Drucker;
+    zustand.Geraetefaktor = geraetefaktor;
+    zustand.flaeche = &geraet;
+    return zustand;
+}
+
+/// The legend stands in the corner of the sheet where it stands in that of the picture.
+static Legende LegendeAufBlatt(const Legende& legende, const Druckauftrag& auftrag, double geraetefaktor) {
+    Legende l = legende;
+    l.XO = RundeZuInt64(static_cast<double>(legende.XO) * geraetefaktor);
+    l.YO = RundeZuInt64(static_cast<double>(legende.YO) * geraetefaktor);
+    if (auftrag.legende) {
+        l.XO = auftrag.legende->x;
+        l.YO = auftrag.legende->y;
+    }
+    l.Masstab = auftrag.massstabtext;
+    return l;
+}
+
+void Drucke(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellungen& groessen,
+            Zeichenflaeche& drucker, const Druckauftrag& auftrag) {
+    const double geraetefaktor = Geraetefaktor(auftrag.seite);
+    Ansicht ansicht =
+        v.ansicht.FuerGeraet(Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung), auftrag.ecke);
+    // The sheet is the picture: grids reach to its edges.
+    ansicht.Weite = auftrag.seite.weite;
+    ansicht.Hoehe = auftrag.seite.hoehe;
+    std::optional<Legende> legende;
+    if (v.legende != nullptr) legende = LegendeAufBlatt(*v.legende, auftrag, geraetefaktor);
+    Bildvorlage blatt = v.In(ansicht);
+    blatt.legende = legende ? &*legende : nullptr;
+    Zeichenzustand zustand = Geraetezustand(mittel.zustand, drucker, geraetefaktor);
+    Figurenzeichner zeichner(zustand, groessen, mittel.netz, mittel.uhr);
+    ZeichneBild(blatt, zeichner);
+}
+
+Bildpunkt Ausgabebereich(const Ansicht& ansicht, double massstab, const Druckseite& seite) {
+    const double pixel = Druckfaktor(massstab, seite.aufloesung) / ansicht.Faktor;
     return {RundeZuInt64(seite.weite * pixel), RundeZuInt64(seite.hoehe * pixel)};
 }
 

@@ -1,16 +1,15 @@
-// Prints the plot at scale: the network draws itself once more, onto the printer, with the view set so that
-// one printer dot covers the ground that 1:M puts on it. Not in here: the printer itself (ui/Drucker.h).
+// Prints the plot at scale: it is drawn once more, onto the printer, in a view in which one printer dot
+// covers the ground that 1:M puts on it. Not in here: the printer itself (ui/Drucker.h).
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
 
+#include "model/Bildvorlage.h"
 #include "model/Einstellungen.h"
-#include "model/FigListe.h"
-#include "model/Zeichner.h"
 #include "output/Zeichenflaeche.h"
-#include "output/Zeichenzustand.h"
+#include "output/Zeichenmittel.h"
 
 namespace zrw {
 
@@ -36,13 +35,24 @@ struct Druckauftrag {
     std::optional<Bildpunkt> legende{};
 };
 
-/// Draws the network with its overlays onto a sheet. The legend keeps naming the print scale. View, drawing
-/// state and sizes afterwards are as before, whatever happens, but for the device factor: it stays at screen
-/// to printer.
-void Drucke(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Einstellungen& einstellungen,
+/// Device dots per screen pixel [-].
+[[nodiscard]] constexpr double Geraetefaktor(const Druckseite& seite) {
+    return seite.aufloesung / kBildaufloesung;
+}
+
+/// Drawing settings of a device: sizes in its dots. The given ones are scaled forth and back, as they have
+/// always been around a print: one of them may miss its value by one afterwards.
+[[nodiscard]] Einstellungen Geraetegroessen(Einstellungen& einstellungen, double geraetefaktor);
+/// Drawing state for a device of so many dots per screen pixel.
+[[nodiscard]] Zeichenzustand Geraetezustand(const Zeichenzustand& bildschirm, Zeichenflaeche& geraet,
+                                            double geraetefaktor);
+
+/// Draws the network with its overlays onto a sheet. @param groessen from `Geraetegroessen`, in place of the
+/// settings of `mittel`
+void Drucke(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellungen& groessen,
             Zeichenflaeche& drucker, const Druckauftrag& auftrag);
 
 /// The sheet in the picture, from its top-left corner [px].
-[[nodiscard]] Bildpunkt Ausgabebereich(const Liste& liste, double massstab, const Druckseite& seite);
+[[nodiscard]] Bildpunkt Ausgabebereich(const Ansicht& ansicht, double massstab, const Druckseite& seite);
 
 }  // namespace zrw

@@ -2,7 +2,7 @@
 
 #include "model/Zahlentext.h"
 #include "output/DXFUnit.h"
-#include "output/Geraeteansicht.h"
+#include "output/Figurenzeichner.h"
 #include "output/Plotdatei.h"
 
 namespace zrw {
@@ -20,14 +20,15 @@ std::optional<double> LiesMassstab(std::string_view text) {
     return wert;
 }
 
-void Exportiere(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Dateien& dateien,
+void Exportiere(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& dateien,
                 const Exportauftrag& auftrag) {
-    const Geraeteansicht ansicht(liste, zustand, auftrag.faktor);
-    // Nothing of this redraw stays on the screen, so it does not go there at all.
+    const Ansicht ansicht = v.ansicht.FuerGeraet(auftrag.faktor);
+    Zeichenzustand zustand = mittel.zustand;
+    // Nothing of this drawing stays on the screen, so it does not go there at all.
     zustand.flaeche = nullptr;
     zustand.modus = Zeichenmodus::Bildschirm;
     zustand.ExportActive = true;
-    zustand.Exportnetz = &liste;
+    zustand.Exportansicht = &ansicht;
     std::optional<Plotdatei> plot;
     if (auftrag.plot) zustand.PlotFile = &plot.emplace(dateien, *auftrag.plot);
     DXFUnit zeichnung(dateien);
@@ -36,7 +37,8 @@ void Exportiere(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Datei
         zeichnung.DxfOpen();
         zustand.Dxf = &zeichnung;
     }
-    liste.ShowPicture(zeichner);
+    Figurenzeichner zeichner(zustand, mittel.einstellungen, mittel.netz, mittel.uhr);
+    ZeichneBild(v.In(ansicht), zeichner);
     // Both files are whole on the disk before the first takes its place.
     zeichnung.DxfClose();
     if (plot) {

@@ -1,15 +1,14 @@
-// Writes the plot as exchange drawing (DXF) and plotter file (HPGL/2). There is no walk of its own: the view
-// goes to the scale of the print, the network draws itself once, and the drawing routines write.
+// Writes the plot as exchange drawing (DXF) and plotter file (HPGL/2). There is no walk of its own: the plan
+// is drawn once, in a view at the scale of the print, and the drawing routines write.
 #pragma once
 
 #include <filesystem>
 #include <optional>
 #include <string_view>
 
+#include "model/Bildvorlage.h"
 #include "model/Dateien.h"
-#include "model/FigListe.h"
-#include "model/Zeichner.h"
-#include "output/Zeichenzustand.h"
+#include "output/Zeichenmittel.h"
 
 namespace zrw {
 
@@ -33,9 +32,9 @@ struct Exportauftrag {
 [[nodiscard]] std::optional<double> LiesMassstab(std::string_view text);
 
 /// Writes the files of the order; each replaces the one of its name as a whole, and only when all are
-/// written. Network, view and drawing state afterwards are as before, whatever happens.
+/// written.
 /// @throws Fehler where a file cannot be written
-void Exportiere(Liste& liste, Zeichner& zeichner, Zeichenzustand& zustand, Dateien& dateien,
+void Exportiere(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& dateien,
                 const Exportauftrag& auftrag);
 
 }  // namespace zrw

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "input/Zrwgeo.h"
-#include "model/FigListe.h"
+#include "model/Bildvorlage.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
 #include "output/Bildaufbau.h"
@@ -47,25 +47,25 @@ DXFUnit* Figurenzeichner::Dxf(Gang gang) const {
 
 /// World position of a dot of the export. Rounded to dots, as the plot is: both files then agree.
 Dxfpunkt Figurenzeichner::Weltort(Bildpunkt b) const {
-    const Welt w = zustand_.Exportnetz->BildinWelt(b);
+    const Welt w = zustand_.Exportansicht->BildinWelt(b);
     return {w.rechts, w.hoch};
 }
 
-Rechteck Figurenzeichner::Umfang(const Punkt& punkt) const {
-    return Umgebung(punkt.Position(), punkt.Position(), Symbolreichweite());
+Rechteck Figurenzeichner::Punktumfang(Bildpunkt ort) const {
+    return Umgebung(ort, ort, Symbolreichweite());
 }
 
-Rechteck Figurenzeichner::Umfang(const Kante& kante) const {
-    return Umgebung(kante.Position(), kante.Ende(), Kantenreichweite());
+Rechteck Figurenzeichner::Kantenumfang(Bildpunkt anfang, Bildpunkt ende) const {
+    return Umgebung(anfang, ende, Kantenreichweite());
 }
 
-Rechteck Figurenzeichner::Umfang(const PktText& text) const {
+Rechteck Figurenzeichner::Textumfang(const PktText& text, Bildpunkt ort) const {
     if (zustand_.flaeche == nullptr) return kKeinRechteck;
-    const Bildpunkt ort = text.Textort();
-    const Bildpunkt ende{Summe(ort.x, zustand_.flaeche->Textbreite(text.Aus.Text())),
-                         Summe(ort.y, zustand_.flaeche->Texthoehe())};
+    const Bildpunkt ecke = text.Textort(ort);
+    const Bildpunkt ende{Summe(ecke.x, zustand_.flaeche->Textbreite(text.Aus.Text())),
+                         Summe(ecke.y, zustand_.flaeche->Texthoehe())};
     // Glyphs may stand out of their line.
-    return Umgebung(ort, ende, zustand_.flaeche->Texthoehe());
+    return Umgebung(ecke, ende, zustand_.flaeche->Texthoehe());
 }
 
 void Figurenzeichner::MerkeGewischt(const Rechteck& r) {
@@ -90,11 +90,10 @@ std::int64_t Figurenzeichner::Symbolreichweite() const {
            1;
 }
 
-void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Gang gang) {
+void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
     SetzeEbene(Ebene::Punkte);
-    if (gang == Gang::Wischen) MerkeGewischt(Umfang(punkt));
+    if (gang == Gang::Wischen) MerkeGewischt(Punktumfang(m));
     const Einstellungen& e = einstellungen_;
-    const Bildpunkt m = punkt.Position();
     Zeichenflaeche* f = zustand_.flaeche;
     if (f != nullptr && !InReichweite(m, Symbolreichweite(), f->Ausschnitt())) f = nullptr;
     const Symbolziel ziel{f, Plot(gang), Dxf(gang)};
@@ -172,12 +171,12 @@ void Figurenzeichner::Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt>
 
 // --- Lines ------------------------------------------------------------------------------------------------
 
-void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
+void Figurenzeichner::ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpunkt ende, Gang gang) {
     const bool nurBild = Plot(gang) == nullptr && Dxf(gang) == nullptr;
-    if (nurBild && !Beruehrt(kante)) return;
+    if (nurBild && !Beruehrt(anfang, ende)) return;
     SetzeEbene(Ebene::Beobachtungen);
-    if (gang == Gang::Wischen) MerkeGewischt(Umfang(kante));
-    const Kantenbild bild(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
+    if (gang == Gang::Wischen) MerkeGewischt(Kantenumfang(anfang, ende));
+    const Kantenbild bild(kante.KAttr, kante.LAttr, anfang, ende, einstellungen_);
     if (zustand_.flaeche != nullptr) {
         const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
         const Farbe farbe = gang == Gang::Wischen ? kWeiss : eigene;
@@ -188,7 +187,7 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Gang gang) {
     const DXFUnit* dxf = Dxf(gang);
     for (const Zug& zug : bild.Zuege()) {
         if (plot != nullptr) plot->Linienzug(zug);
-        if (dxf != nullptr) SchreibeZug(zug, kante);
+        if (dxf != nullptr) SchreibeZug(zug, anfang, ende);
     }
 }
 
@@ -201,9 +200,9 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
 }
 
 /// Whether a line with its marks may touch the surface.
-bool Figurenzeichner::Beruehrt(const Kante& kante) const {
+bool Figurenzeichner::Beruehrt(Bildpunkt anfang, Bildpunkt ende) const {
     if (zustand_.flaeche == nullptr) return false;
-    return InReichweite(kante.Position(), kante.Ende(), Kantenreichweite(), zustand_.flaeche->Ausschnitt());
+    return InReichweite(anfang, ende, Kantenreichweite(), zustand_.flaeche->Ausschnitt());
 }
 
 /// All strokes of a line, cut to what the surface can take.
@@ -232,7 +231,7 @@ void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe) {
     zustand_.flaeche->Linien({stuecke_.data(), anzahl}, farbe);
 }
 
-void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
+void Figurenzeichner::SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt ende) {
     if (zug.form != Zugform::Querstrich) {
         for (const Strich& s : Striche(zug.form)) {
             zustand_.Dxf->DxfLine(Kantenart(s.gestrichelt), Weltort(zug.punkte[s.von]),
@@ -241,8 +240,8 @@ void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
         return;
     }
     // The drawing has its tick in the middle of the line and in metres, wherever the plot has it.
-    const Dxfpunkt a = Weltort(kante.Position());
-    const Dxfpunkt e = Weltort(kante.Ende());
+    const Dxfpunkt a = Weltort(anfang);
+    const Dxfpunkt e = Weltort(ende);
     const double laenge = std::hypot(e.x - a.x, e.y - a.y);
     if (!(laenge > 0.0)) return;
     const double qx = -(e.y - a.y) / laenge * kDxfQuerstrich;
@@ -254,29 +253,28 @@ void Figurenzeichner::SchreibeZug(const Zug& zug, const Kante& kante) {
 
 // --- Labels -----------------------------------------------------------------------------------------------
 
-void Figurenzeichner::ZeichneText(const PktText& text, Gang gang) {
+void Figurenzeichner::ZeichneText(const PktText& text, Bildpunkt stelle, Gang gang) {
     SetzeEbene(Ebene::Punktnummern);
-    if (gang == Gang::Wischen) MerkeGewischt(Umfang(text));
-    if (zustand_.flaeche != nullptr) ZeigeText(text, gang == Gang::Wischen ? kWeiss : text.Col);
+    if (gang == Gang::Wischen) MerkeGewischt(Textumfang(text, stelle));
+    if (zustand_.flaeche != nullptr) ZeigeText(text, stelle, gang == Gang::Wischen ? kWeiss : text.Col);
     // The files always get the whole number. The plot shifts it by the horizontal offset in both directions;
     // plotted sheets have their numbers there.
-    if (Plotdatei* plot = Plot(gang); plot != nullptr)
-        plot->Text(text.Position(), text.XBiO, text.Aus.Text());
+    if (Plotdatei* plot = Plot(gang); plot != nullptr) plot->Text(stelle, text.XBiO, text.Aus.Text());
     if (DXFUnit* dxf = Dxf(gang); dxf != nullptr) {
-        Dxfpunkt ort = Weltort(text.Position());
+        Dxfpunkt ort = Weltort(stelle);
         ort.x += kDxfTextabstand;
         dxf->DxfText(text.Aus.Text(), kTextart, ort, 0.0, kDxfTexthoehe);
     }
 }
 
-void Figurenzeichner::ZeigeText(const PktText& text, Farbe farbe) {
+void Figurenzeichner::ZeigeText(const PktText& text, Bildpunkt stelle, Farbe farbe) {
     Zeichenflaeche& f = *zustand_.flaeche;
-    Bildpunkt ort = text.Textort();
+    Bildpunkt ort = text.Textort(stelle);
     if (zustand_.modus == Zeichenmodus::Drucker) {
         const auto dots = [&](std::int64_t v) {
             return RundeZuInt64(static_cast<double>(v) * zustand_.Geraetefaktor);
         };
-        ort = {Summe(text.XO, dots(text.XBiO)), Summe(text.YO, dots(text.YBiO))};
+        ort = {Summe(stelle.x, dots(text.XBiO)), Summe(stelle.y, dots(text.YBiO))};
     }
     const std::string_view zeichen = zustand_.Gezeigt(text);
     // No character is wider than twice the line height.
@@ -288,7 +286,7 @@ void Figurenzeichner::ZeigeText(const PktText& text, Farbe farbe) {
 
 // --- All of them ------------------------------------------------------------------------------------------
 
-bool Figurenzeichner::ZeichneNetz(const Liste& liste) {
+bool Figurenzeichner::ZeichneNetz(const Bildvorlage& v) {
     Zeichenflaeche* f = zustand_.flaeche;
     if (!zustand_.Abkuerzungen || f == nullptr || zustand_.modus != Zeichenmodus::Bildschirm ||
         zustand_.ExportActive || Dxf(Gang::Zeigen) != nullptr)
@@ -296,8 +294,7 @@ bool Figurenzeichner::ZeichneNetz(const Liste& liste) {
     // No character is wider than twice the line height.
     const std::int64_t hoehe = f->Texthoehe();
     const auto laenge = static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
-    Bildaufbau(liste, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe})
-        .Zeichne();
+    Bildaufbau(v, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe}).Zeichne();
     return true;
 }
 
@@ -313,33 +310,33 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).Zeichne(legende, gang);
 }
 
-void Figurenzeichner::GitterShow(const Liste& liste) {
+void Figurenzeichner::GitterShow(const Bildvorlage& v) {
     SetzeEbene(Ebene::Gitter);
     Netzangaben netz = netz_;
     if (zustand_.BlattschnittWiePunkte && PunkteInGaussKrueger(netz.Netztyp))
         netz.Abbildungsmodus = static_cast<std::uint8_t>(Abbildung::GaussKrueger);
-    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kartenblaetter(netz);
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, v.ansicht).Kartenblaetter(netz);
 }
 
-void Figurenzeichner::KMGitterShow(const Liste& liste) {
+void Figurenzeichner::KMGitterShow(const Bildvorlage& v) {
     SetzeEbene(Ebene::Gitter);
-    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, liste).Kilometerquadrate();
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, v.ansicht).Kilometerquadrate();
 }
 
 bool Figurenzeichner::ZeigtResiduen() const {
     return zustand_.flaeche != nullptr && !zustand_.ExportActive;
 }
 
-void Figurenzeichner::ZeichnePunktRes(const Liste& liste) {
+void Figurenzeichner::ZeichnePunktRes(const Bildvorlage& v) {
     if (!ZeigtResiduen() || zustand_.Ergebnisse == nullptr) return;
     SetzeEbene(Ebene::Ergebnisse);
-    Residuenbild(zustand_, einstellungen_, liste).ZeichnePunktRes(*zustand_.Ergebnisse);
+    Residuenbild(zustand_, einstellungen_, v).ZeichnePunktRes(*zustand_.Ergebnisse);
 }
 
-void Figurenzeichner::DrawResMasstab(const Liste& liste) {
+void Figurenzeichner::DrawResMasstab(const Bildvorlage& v) {
     if (!ZeigtResiduen() || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Ergebnisse);
-    Residuenbild(zustand_, einstellungen_, liste).DrawResMasstab();
+    Residuenbild(zustand_, einstellungen_, v).DrawResMasstab();
 }
 
 }  // namespace zrw

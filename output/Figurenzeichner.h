@@ -25,25 +25,25 @@ inline constexpr std::int64_t kGroesstesSymbol = 30;
 class Figurenzeichner final : public Zeichner {
   public:
     /// All must outlive the drawer. @param netz for the map sheets @param uhr for the legend
-    Figurenzeichner(Zeichenzustand& zustand, const Einstellungen& einstellungen, const Netzangaben& netz,
-                    const Uhr& uhr)
+    Figurenzeichner(const Zeichenzustand& zustand, const Einstellungen& einstellungen,
+                    const Netzangaben& netz, const Uhr& uhr)
         : zustand_(zustand), einstellungen_(einstellungen), netz_(netz), uhr_(uhr) {}
 
     void ClearPicture(std::int32_t weite, std::int32_t hoehe) override;
-    void ZeichnePunkt(const Punkt& punkt, Gang gang) override;
-    void ZeichneKante(const Kante& kante, Gang gang) override;
-    void ZeichneText(const PktText& text, Gang gang) override;
-    bool ZeichneNetz(const Liste& liste) override;
+    void ZeichnePunkt(const Punkt& punkt, Bildpunkt ort, Gang gang) override;
+    void ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpunkt ende, Gang gang) override;
+    void ZeichneText(const PktText& text, Bildpunkt ort, Gang gang) override;
+    bool ZeichneNetz(const Bildvorlage& v) override;
     void ZeichneLegende(Legende& legende, Gang gang) override;
-    void GitterShow(const Liste& liste) override;
-    void KMGitterShow(const Liste& liste) override;
-    void ZeichnePunktRes(const Liste& liste) override;
-    void DrawResMasstab(const Liste& liste) override;
+    void GitterShow(const Bildvorlage& v) override;
+    void KMGitterShow(const Bildvorlage& v) override;
+    void ZeichnePunktRes(const Bildvorlage& v) override;
+    void DrawResMasstab(const Bildvorlage& v) override;
 
     // Where a figure may show on the screen [px], with some room to spare.
-    [[nodiscard]] Rechteck Umfang(const Punkt& punkt) const;
-    [[nodiscard]] Rechteck Umfang(const Kante& kante) const;
-    [[nodiscard]] Rechteck Umfang(const PktText& text) const;
+    [[nodiscard]] Rechteck Punktumfang(Bildpunkt ort) const;
+    [[nodiscard]] Rechteck Kantenumfang(Bildpunkt anfang, Bildpunkt ende) const;
+    [[nodiscard]] Rechteck Textumfang(const PktText& text, Bildpunkt ort) const;
     /// Where figures were wiped, which leaves holes in what they crossed; empty where nothing was.
     [[nodiscard]] const Rechteck& Gewischt() const { return gewischt_; }
     void VergissGewischtes() { gewischt_ = kKeinRechteck; }
@@ -64,19 +64,19 @@ class Figurenzeichner final : public Zeichner {
 
     void SetzeEbene(Ebene ebene) const;
     void MerkeGewischt(const Rechteck& r);
-    [[nodiscard]] bool Beruehrt(const Kante& kante) const;
+    [[nodiscard]] bool Beruehrt(Bildpunkt anfang, Bildpunkt ende) const;
     /// How far a line's marks reach [px].
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;
     void ZeigeZuege(std::span<const Zug> zuege, Farbe farbe);
-    void SchreibeZug(const Zug& zug, const Kante& kante);
-    void ZeigeText(const PktText& text, Farbe farbe);
+    void SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt ende);
+    void ZeigeText(const PktText& text, Bildpunkt stelle, Farbe farbe);
     [[nodiscard]] Plotdatei* Plot(Gang gang) const;
     [[nodiscard]] DXFUnit* Dxf(Gang gang) const;
     [[nodiscard]] bool ZeigtResiduen() const;
     [[nodiscard]] Dxfpunkt Weltort(Bildpunkt b) const;
 
-    Zeichenzustand& zustand_;
+    const Zeichenzustand& zustand_;
     const Einstellungen& einstellungen_;
     const Netzangaben& netz_;
     const Uhr& uhr_;

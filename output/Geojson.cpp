@@ -55,9 +55,9 @@ std::string Name(const std::array<const char*, N>& namen, std::size_t wert) {
 }
 
 /// Cartesian networks come into the plane by Gauss-Krüger, whatever else their file says.
-Abbildung AbbildungVon(const Netzangaben& netz) {
-    return PunkteInGaussKrueger(netz.Netztyp) ? Abbildung::GaussKrueger
-                                              : static_cast<Abbildung>(netz.Abbildungsmodus);
+Abbildung AbbildungVon(const Netzangaben& angaben) {
+    return PunkteInGaussKrueger(angaben.Netztyp) ? Abbildung::GaussKrueger
+                                                 : static_cast<Abbildung>(angaben.Abbildungsmodus);
 }
 
 class Geojson {
@@ -134,8 +134,8 @@ bool Endlich(const PunktKnoten& p) {
     return std::isfinite(p.XWPu) && std::isfinite(p.YWPu);
 }
 
-void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const Punktergebnisse* ergebnisse) {
-    const std::string nummer = liste.GetPktText(p.PNr);
+void SchreibePunkt(Geojson& g, const Netz& netz, const PunktKnoten& p, const Punktergebnisse* ergebnisse) {
+    const std::string nummer = netz.GetPktText(p.PNr);
     constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
     g.BeginneFigur();
     g.Feld("nummer", Cp1252NachUtf8(nummer));
@@ -162,54 +162,54 @@ void SchreibePunkt(Geojson& g, const Liste& liste, const PunktKnoten& p, const P
 
 }  // namespace
 
-std::optional<int> EpsgCode(const Netzangaben& netz, const Liste& liste) {
-    if (!HatKartengitter(netz.Netztyp) || liste.PunktKnoten == nullptr) return std::nullopt;
+std::optional<int> EpsgCode(const Netzangaben& angaben, const Netz& netz) {
+    if (!HatKartengitter(angaben.Netztyp) || netz.PunktKnoten == nullptr) return std::nullopt;
     // Angles are in no grid, and what the file does not say would be a guess.
-    if (ZumTyp(netz.Netztyp).koordinaten == Koordinaten::Winkel) return std::nullopt;
-    if (!netz.AbbildungGenannt || !netz.EllipsoidGenannt) return std::nullopt;
+    if (ZumTyp(angaben.Netztyp).koordinaten == Koordinaten::Winkel) return std::nullopt;
+    if (!angaben.AbbildungGenannt || !angaben.EllipsoidGenannt) return std::nullopt;
     double min = std::numeric_limits<double>::infinity();
     double max = -min;
-    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
+    for (const PunktKnoten* p = netz.PunktKnoten; p != nullptr; p = p->Next) {
         if (!Endlich(*p)) return std::nullopt;
         min = std::min(min, p->XWPu);
         max = std::max(max, p->XWPu);
     }
-    if (netz.Hauptmeridian < -180 || netz.Hauptmeridian > 180) return std::nullopt;
-    const Abbildung abbildung = AbbildungVon(netz);
+    if (angaben.Hauptmeridian < -180 || angaben.Hauptmeridian > 180) return std::nullopt;
+    const Abbildung abbildung = AbbildungVon(angaben);
     const bool utm = abbildung == Abbildung::Utm;
     // Zones have their meridians every 3 or 6 degrees; others belong to no common grid.
-    const int versatz = utm ? netz.Hauptmeridian + 183 : netz.Hauptmeridian;
+    const int versatz = utm ? angaben.Hauptmeridian + 183 : angaben.Hauptmeridian;
     const int breite = utm ? 6 : 3;
     if (versatz % breite != 0) return std::nullopt;
     const int zone = versatz / breite;
     for (const Gitterfamilie& f : kGitter) {
         const double null = f.kennziffer ? zone * kZonenschritt : 0.0;
-        if (f.abbildung == abbildung && f.ellipsoid == netz.Ellipsoid && zone >= f.vonZone &&
+        if (f.abbildung == abbildung && f.ellipsoid == angaben.Ellipsoid && zone >= f.vonZone &&
             zone <= f.bisZone && min > null && max < null + kZonenschritt)
             return f.epsgNull + zone;
     }
     return std::nullopt;
 }
 
-void SchreibeGeojson(const Liste& liste, const Netzangaben& netz, const Einstellungen& einstellungen,
+void SchreibeGeojson(const Netz& netz, const Netzangaben& angaben, const Einstellungen& einstellungen,
                      Punktergebnisse* ergebnisse, Dateien& dateien, const std::filesystem::path& datei) {
     if (ergebnisse != nullptr) ergebnisse->Erneuere();
     Geojson g(dateien, datei);
-    g.Kopf(PfadText(datei.stem()), EpsgCode(netz, liste));
-    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
-        if (Endlich(*p)) SchreibePunkt(g, liste, *p, ergebnisse);
+    g.Kopf(PfadText(datei.stem()), EpsgCode(angaben, netz));
+    for (const PunktKnoten* p = netz.PunktKnoten; p != nullptr; p = p->Next) {
+        if (Endlich(*p)) SchreibePunkt(g, netz, *p, ergebnisse);
     }
-    for (const PunktKante* k = liste.KanteKnoten; k != nullptr; k = k->Next) {
-        const PunktKnoten* a = liste.SuchPkt(k->ANr);
-        const PunktKnoten* e = liste.SuchPkt(k->ENr);
+    for (const PunktKante* k = netz.KanteKnoten; k != nullptr; k = k->Next) {
+        const PunktKnoten* a = netz.SuchPkt(k->ANr);
+        const PunktKnoten* e = netz.SuchPkt(k->ENr);
         if (a == nullptr || e == nullptr || !Endlich(*a) || !Endlich(*e)) continue;
         std::string arten = Name(kRichtungen, static_cast<std::size_t>(k->Item->LAttr));
         for (const auto& [art, name] : kBeobachtungen) {
             if (k->Item->KAttr.Hat(art)) arten += (arten.empty() ? "" : ",") + std::string(name);
         }
         g.BeginneFigur();
-        g.Feld("von", Cp1252NachUtf8(liste.GetPktText(k->ANr)));
-        g.Feld("nach", Cp1252NachUtf8(liste.GetPktText(k->ENr)));
+        g.Feld("von", Cp1252NachUtf8(netz.GetPktText(k->ANr)));
+        g.Feld("nach", Cp1252NachUtf8(netz.GetPktText(k->ENr)));
         g.Feld("beobachtungen", arten);
         g.Feld("grob", k->Item->Farbe == einstellungen.GFCol);
         g.Feld("sichtbar", k->Item->Visible);

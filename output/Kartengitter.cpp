@@ -35,8 +35,8 @@ bool Zeichenbar(double spalten, double zeilen) {
 /// Geographic positions under a picture, in the mapping of one network.
 class Geonetz {
   public:
-    Geonetz(const Netzangaben& netz, const Liste& liste)
-        : liste_(liste),
+    Geonetz(const Netzangaben& netz, const Ansicht& ansicht)
+        : ansicht_(ansicht),
           modus_(static_cast<Abbildung>(netz.Abbildungsmodus)),
           hauptmeridian_(netz.Hauptmeridian),
           ellipsoid_(EllipsoidRadii(netz.Ellipsoid, Grad{50.0})) {}
@@ -47,11 +47,11 @@ class Geonetz {
     [[nodiscard]] Bildpunkt Bildort(double breite, double laenge) const {
         const Gitterpunkt g =
             GeoToGrid(modus_, hauptmeridian_, Grad{laenge}, Grad{breite}, ellipsoid_.f, ellipsoid_.a);
-        return liste_.Bildort({g.rechts, g.hoch});
+        return ansicht_.Bildort({g.rechts, g.hoch});
     }
 
   private:
-    const Liste& liste_;
+    const Ansicht& ansicht_;
     Abbildung modus_;
     int hauptmeridian_;
     Ellipsoid ellipsoid_;
@@ -76,7 +76,7 @@ std::string Quadratnummer(double x, double y) {
 }  // namespace
 
 Welt Kartengitter::Ecke(bool rechtsUnten) const {
-    return liste_.BildinWelt(rechtsUnten ? Bildpunkt{liste_.Weite, liste_.Hoehe} : Bildpunkt{});
+    return ansicht_.BildinWelt(rechtsUnten ? Bildpunkt{ansicht_.Weite, ansicht_.Hoehe} : Bildpunkt{});
 }
 
 void Kartengitter::Bildstrich(Bildpunkt von, Bildpunkt nach) const {
@@ -114,7 +114,7 @@ void Kartengitter::Nummer(Bildpunkt ort, std::string_view text, std::int64_t fel
 }
 
 void Kartengitter::Kartenblaetter(const Netzangaben& netz) {
-    const Geonetz geo(netz, liste_);
+    const Geonetz geo(netz, ansicht_);
     const Geograph unten = geo.Geographisch(Ecke(true));
     const Geograph oben = geo.Geographisch(Ecke(false));
     if (!AufErden(unten) || !AufErden(oben)) return;
@@ -170,17 +170,17 @@ void Kartengitter::Kilometerquadrate() {
     const double zeilen = Schritte(unten.hoch, y0, kKilometer);
     if (!Zeichenbar(spalten, zeilen)) return;
 
-    const std::int64_t breiteImBild = RundeZuInt64(kKilometer / liste_.Faktor);
+    const std::int64_t breiteImBild = RundeZuInt64(kKilometer / ansicht_.Faktor);
     // Counted, not compared: at the far end of the number range a kilometre more changes nothing.
     for (int s = 0; s < static_cast<int>(spalten); ++s) {
         const double x = x0 + s * kKilometer;
         if (x > unten.rechts) break;
         // Lines begin at the topmost whole kilometre. Pictures have them up to their edge, drawings do not.
-        if (y0 < oben.hoch) Bildstrich(liste_.Bildort({x, y0 + kKilometer}), liste_.Bildort({x, y0}));
+        if (y0 < oben.hoch) Bildstrich(ansicht_.Bildort({x, y0 + kKilometer}), ansicht_.Bildort({x, y0}));
         for (int z = 0; z < static_cast<int>(zeilen); ++z) {
             const double y = y0 - (z + 1) * kKilometer;
-            const Bildpunkt hier = liste_.Bildort({x, y});
-            Strich(liste_.Bildort({x, y + kKilometer}), hier);
+            const Bildpunkt hier = ansicht_.Bildort({x, y});
+            Strich(ansicht_.Bildort({x, y + kKilometer}), hier);
             Nummer(hier, Quadratnummer(x, y), breiteImBild);
         }
     }
@@ -188,10 +188,10 @@ void Kartengitter::Kilometerquadrate() {
         const double y = y0 - z * kKilometer;
         if (y < unten.hoch) break;
         // West of the origin the first whole kilometre lies within the picture.
-        if (x0 > oben.rechts) Bildstrich(liste_.Bildort({x0 - kKilometer, y}), liste_.Bildort({x0, y}));
+        if (x0 > oben.rechts) Bildstrich(ansicht_.Bildort({x0 - kKilometer, y}), ansicht_.Bildort({x0, y}));
         for (int s = 0; s < static_cast<int>(spalten); ++s) {
             const double x = x0 + s * kKilometer;
-            Strich(liste_.Bildort({x, y}), liste_.Bildort({x + kKilometer, y}));
+            Strich(ansicht_.Bildort({x, y}), ansicht_.Bildort({x + kKilometer, y}));
         }
     }
 }

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "model/FigListe.h"
+#include "model/Ansicht.h"
 #include "model/Netzangaben.h"
 #include "output/DXFUnit.h"
 #include "output/Zeichenflaeche.h"
@@ -26,8 +26,7 @@ class Kartengitter {
     /// Most sheets or squares of one picture: about ten pixels each on a screen.
     static constexpr double kHoechstensFelder = 20000;
 
-    /// @param liste gives the view and the picture size
-    Kartengitter(const Gitterziel& ziel, const Liste& liste) : ziel_(ziel), liste_(liste) {}
+    Kartengitter(const Gitterziel& ziel, const Ansicht& ansicht) : ziel_(ziel), ansicht_(ansicht) {}
 
     /// Sheets of 10' of longitude by 6' of latitude, rows counted southwards from 56° N, columns eastwards
     /// from 5°40' E; number: row * 100 + column. @param netz ellipsoid, mapping and central meridian
@@ -43,7 +42,7 @@ class Kartengitter {
     [[nodiscard]] Welt Ecke(bool rechtsUnten) const;
 
     Gitterziel ziel_;
-    const Liste& liste_;
+    const Ansicht& ansicht_;
 };
 
 }  // namespace zrw

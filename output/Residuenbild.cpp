@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "model/Bildorte.h"
 #include "model/Cp1252.h"
 #include "model/Ganzzahl.h"
 #include "model/Zahlentext.h"
@@ -102,10 +103,10 @@ std::string Massstabhinweis(double resMF) {
 }
 
 Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& einstellungen,
-                           const Liste& liste)
+                           const Bildvorlage& v)
     : flaeche_(*zustand.flaeche),
       einstellungen_(einstellungen),
-      liste_(liste),
+      v_(v),
       // Printing leaves a device factor behind that means nothing on the screen.
       geraetefaktor_(zustand.modus == Zeichenmodus::Drucker ? zustand.Geraetefaktor : 1.0),
       f_(geraetefaktor_ * einstellungen.ResMF) {}
@@ -119,14 +120,16 @@ void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
 // --- Points -----------------------------------------------------------------------------------------------
 
 void Residuenbild::ZeichnePunktRes(Punktergebnisse& ergebnisse) const {
-    if (!liste_.ShowLgRes && !liste_.ShowHRes && !liste_.ShowLGGen && !liste_.ShowHGen) return;
+    const Darstellung& d = v_.darstellung;
+    if (!d.ShowLgRes && !d.ShowHRes && !d.ShowLGGen && !d.ShowHGen) return;
     ergebnisse.Erneuere();
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
-    for (const PunktKnoten* p = liste_.PunktKnoten; p != nullptr; p = p->Next) {
-        if (!liste_.Dargestellt(*p->Item) || !p->Item->IsVisible()) continue;
-        const PktText* text = liste_.FindPktText(p->PNr);
+    for (const PunktKnoten* p = v_.netz.PunktKnoten; p != nullptr; p = p->Next) {
+        if (!d.Dargestellt(*p->Item) || !v_.Gezeichnet(*p)) continue;
+        const PktText* text = v_.netz.FindPktText(p->PNr);
         if (text == nullptr || text->Aus.Leer()) continue;
-        if (const Punktergebnis* e = ergebnisse.Zu(text->Aus.Text())) Punktbild(p->Item->Position(), *e);
+        if (const Punktergebnis* e = ergebnisse.Zu(text->Aus.Text()))
+            Punktbild(BildortVon(*p, v_.ansicht), *e);
     }
 }
 
@@ -137,22 +140,22 @@ void Residuenbild::Punktbild(Bildpunkt ort, const Punktergebnis& e) const {
     const double dY = e.dY * f_;
     const double dX = e.dX * f_;
     const double dH = e.dH * f_;
-    if (liste_.ShowLgRes && std::isfinite(dY) && std::isfinite(dX)) {
+    if (v_.darstellung.ShowLgRes && std::isfinite(dY) && std::isfinite(dX)) {
         stift(einstellungen_.LGRCol);
         Strich(ort, {Summe(ort.x, Ganze(dY)), Differenz(ort.y, Ganze(dX))});
     }
-    if (liste_.ShowHRes && std::isfinite(dH)) {
+    if (v_.darstellung.ShowHRes && std::isfinite(dH)) {
         stift(einstellungen_.HRCol);
         Strich(ort, {ort.x, Differenz(ort.y, Ganze(dH))});
     }
-    if (liste_.ShowLGGen) {
+    if (v_.darstellung.ShowLGGen) {
         const bool fein = e.mL <= kGrobeLage;  // not-a-number is not
         stift(einstellungen_.LGGCol, fein ? 1 : 2);
         // From an azimuth to the direction in the picture.
         DrawEllipse(Gon{-(e.Phi + 100)}, e.A * f_, e.B * f_, static_cast<double>(ort.x),
                     static_cast<double>(ort.y));
     }
-    if (liste_.ShowHGen) {
+    if (v_.darstellung.ShowHGen) {
         stift(einstellungen_.HGCol);
         Hoehengenauigkeit(ort, e.mH);
     }
@@ -214,7 +217,7 @@ void Residuenbild::Schreibe(Bildpunkt ort, std::string_view text) const {
 }
 
 void Residuenbild::DrawResMasstab() const {
-    if (!ZeigtErgebnisse(liste_)) return;
+    if (!v_.darstellung.ZeigtErgebnisse()) return;
     // On the screen, whatever the device: paper has the same numbers.
     const double pixel = kTeile * kMillimeter * einstellungen_.ResMF;
     if (!(pixel > 0.0) || !std::isfinite(pixel)) return;

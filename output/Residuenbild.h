@@ -9,26 +9,21 @@
 #include <string_view>
 
 #include "input/tabellen/Punktergebnisse.h"
+#include "model/Bildvorlage.h"
 #include "model/Einstellungen.h"
-#include "model/FigListe.h"
 #include "model/Winkel.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeichenzustand.h"
 
 namespace zrw {
 
-/// Whether any of the overlays is on, with the scale bar that comes with them.
-[[nodiscard]] inline bool ZeigtErgebnisse(const Liste& l) {
-    return l.ShowLgRes || l.ShowHRes || l.ShowLGGen || l.LGGenOn || l.ShowHGen;
-}
 /// What the user should know of a residual scale, UTF-8; empty for a usual one.
 [[nodiscard]] std::string Massstabhinweis(double resMF);
 
 class Residuenbild {
   public:
     /// @param zustand its surface must be there
-    /// @param liste gives the points, their picture positions and the switches
-    Residuenbild(const Zeichenzustand& zustand, const Einstellungen& einstellungen, const Liste& liste);
+    Residuenbild(const Zeichenzustand& zustand, const Einstellungen& einstellungen, const Bildvorlage& v);
 
     /// Draws the overlays that are switched on for every point that is shown and has results. Figures with a
     /// value that is no finite number are left out. Asks nothing as long as all overlays are off.
@@ -57,7 +52,7 @@ class Residuenbild {
 
     Zeichenflaeche& flaeche_;
     const Einstellungen& einstellungen_;
-    const Liste& liste_;
+    const Bildvorlage& v_;
     double geraetefaktor_;  ///< dots per screen pixel [-]
     double f_;              ///< dots per unit of the results [1/mm]
 };

@@ -1,5 +1,5 @@
-// What drawing depends on beside the figures: the current surface and its mode, and the files that an export
-// writes. Made by `main`, handed on by reference; printing and export switch it for their duration.
+// Onto what is drawn, and how: the current surface and its mode, and the files that an export writes. That of
+// the screen is made by `main` and handed on by reference; printing and export draw with one of their own.
 #pragma once
 
 #include <algorithm>
@@ -11,8 +11,8 @@
 
 namespace zrw {
 
+struct Ansicht;
 class DXFUnit;
-class Liste;
 class Plotdatei;
 class Punktergebnisse;
 class Zeichenflaeche;
@@ -31,9 +31,9 @@ struct Zeichenzustand {
 
     // Export: the drawing routines write to these files, too. Set by `Exportiere` only.
     bool ExportActive = false;
-    Plotdatei* PlotFile = nullptr;      ///< null: no plotter file is asked for
-    DXFUnit* Dxf = nullptr;             ///< null: no drawing is asked for
-    const Liste* Exportnetz = nullptr;  ///< whose view turns picture positions into world positions
+    Plotdatei* PlotFile = nullptr;           ///< null: no plotter file is asked for
+    DXFUnit* Dxf = nullptr;                  ///< null: no drawing is asked for
+    const Ansicht* Exportansicht = nullptr;  ///< turns picture positions into world positions
 
     /// What a label shows.
     [[nodiscard]] std::string_view Gezeigt(const PktText& text) const {

@@ -42,7 +42,8 @@ void Ansichtssteuerung::NeuesNetz() {
 
 void Ansichtssteuerung::ZeigeAlles(Liste& liste) {
     if (std::exchange(ausdehnungAlt_, false) || !AusdehnungUmfasstAlles(liste)) liste.FindWorldMinMax();
-    pflege_.Alles(liste);
+    if (liste.PunktKnoten != nullptr) static_cast<Ansicht&>(liste).PasseEin();
+    pflege_.ZeichneNeu(liste);
 }
 
 void Ansichtssteuerung::Merke(const Bildlage& lage) {

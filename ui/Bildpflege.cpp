@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "output/Residuenbild.h"
+#include "model/Bildorte.h"
 
 namespace zrw {
 namespace {
@@ -13,19 +13,10 @@ constexpr std::size_t kMeisteFiguren = 5000;
 }  // namespace
 
 void Bildpflege::ZeichneNeu(Liste& liste) {
-    liste.WeltinBild();
-    ZeichneAlles(liste);
-}
-
-void Bildpflege::ZeichneAlles(Liste& liste) {
     liste.ShowPicture(zeichner_);
     zeichner_.VergissGewischtes();
+    gezeichnet_ = liste;
     gueltig_ = true;
-}
-
-void Bildpflege::Alles(Liste& liste) {
-    liste.PasseEin();
-    ZeichneNeu(liste);
 }
 
 void Bildpflege::ZeichneAusschnitt(Liste& liste, const Rechteck& r) {
@@ -39,16 +30,15 @@ void Bildpflege::ZeichneAusschnitt(Liste& liste, const Rechteck& r) {
 
 bool Bildpflege::Verschiebbar(const Liste& liste) const {
     return zustand_.Abkuerzungen && gueltig_ && !liste.ShowLegende && !liste.ShowGitter && !liste.ShowKMQ &&
-           !ZeigtErgebnisse(liste) && Leer(zeichner_.Gewischt()) && zeichner_.NurPixel();
+           !liste.ZeigtErgebnisse() && Leer(zeichner_.Gewischt()) && zeichner_.NurPixel();
 }
 
 void Bildpflege::Verschiebe(Liste& liste, Bildpunkt weg) {
     const Rechteck bild = flaeche_.Sichtbar();
-    const bool moeglich =
-        Verschiebbar(liste) && std::llabs(weg.x) < bild.rechts / 2 && std::llabs(weg.y) < bild.unten / 2;
-    if (!liste.BewegeBild(weg) || !moeglich) {
-        return ZeichneAlles(liste);
-    }
+    if (!Verschiebbar(liste) || std::llabs(weg.x) >= bild.rechts / 2 || std::llabs(weg.y) >= bild.unten / 2 ||
+        !BewegtSichGleich(liste, gezeichnet_, liste, weg))
+        return ZeichneNeu(liste);
+    gezeichnet_ = liste;
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
     flaeche_.Verschiebe(dx, dy);
@@ -68,20 +58,21 @@ void Bildpflege::Verschiebe(Liste& liste, Bildpunkt weg) {
 /// Whether a change shows only at its figures. The legend tells the time of its last drawing, results stand
 /// beside their points, and labels of one text or one number speak for each other.
 bool Bildpflege::Oertlich(const Liste& liste) const {
-    return zustand_.Abkuerzungen && gueltig_ && !liste.ShowLegende && !ZeigtErgebnisse(liste) &&
-           liste.TexteEindeutig() && liste.NummernEindeutig() && liste.PositionenAktuell();
+    return zustand_.Abkuerzungen && gueltig_ && !liste.ShowLegende && !liste.ZeigtErgebnisse() &&
+           liste.TexteEindeutig() && liste.NummernEindeutig() && gezeichnet_.Lage() == liste.Lage();
 }
 
 Rechteck Bildpflege::Umfang(const Liste& liste, const Figurenmenge& figuren) const {
     Rechteck r = kKeinRechteck;
     for (const PunktKnoten* p : figuren.punkte) {
-        if (liste.Enthaelt(*p)) r = Vereint(r, zeichner_.Umfang(*p->Item));
+        if (liste.Enthaelt(*p)) r = Vereint(r, zeichner_.Punktumfang(BildortVon(*p, liste)));
     }
     for (const PunktKante* k : figuren.kanten) {
-        if (liste.Enthaelt(*k)) r = Vereint(r, zeichner_.Umfang(*k->Item));
+        if (liste.Enthaelt(*k))
+            r = Vereint(r, zeichner_.Kantenumfang(AnfangVon(*k, liste, liste), EndeVon(*k, liste, liste)));
     }
     for (const PunktString* t : figuren.texte)
-        r = Vereint(r, zeichner_.Umfang(*t->Item));
+        r = Vereint(r, zeichner_.Textumfang(*t->Item, BildortVon(*t, liste, liste)));
     return r;
 }
 
@@ -97,7 +88,6 @@ void Bildpflege::Vorher(Liste& liste, const Figurenmenge& figuren) {
 
 void Bildpflege::Nachher(Liste& liste, const Figurenmenge& figuren) {
     if (!oertlich_ || !Oertlich(liste) || figuren.Anzahl() > kMeisteFiguren) return ZeichneNeu(liste);
-    liste.WeltinBild(figuren);
     const Rechteck nachher = Geschnitten(Umfang(liste, figuren), flaeche_.Sichtbar());
     const Rechteck vorher = Geschnitten(vorher_, flaeche_.Sichtbar());
     if (Leer(Geschnitten(vorher, nachher))) {

@@ -19,10 +19,8 @@ class Bildpflege {
     Bildpflege(const Zeichenzustand& zustand, Bildflaeche& flaeche, Figurenzeichner& zeichner)
         : zustand_(zustand), flaeche_(flaeche), zeichner_(zeichner) {}
 
-    /// The plain way: all positions, the whole picture.
+    /// The plain way: the whole picture.
     void ZeichneNeu(Liste& liste);
-    /// Fits the extents into the picture.
-    void Alles(Liste& liste);
     /// Something was drawn over the picture that is not in the network.
     void Beschmutze() { gueltig_ = false; }
     /// Draws anew where figures were wiped.
@@ -38,7 +36,6 @@ class Bildpflege {
     void Nachher(Liste& liste, const Figurenmenge& figuren);
 
   private:
-    void ZeichneAlles(Liste& liste);
     void ZeichneAusschnitt(Liste& liste, const Rechteck& r);
     [[nodiscard]] Rechteck Umfang(const Liste& liste, const Figurenmenge& figuren) const;
     [[nodiscard]] bool Oertlich(const Liste& liste) const;
@@ -46,6 +43,7 @@ class Bildpflege {
     const Zeichenzustand& zustand_;
     Bildflaeche& flaeche_;
     Figurenzeichner& zeichner_;
+    Ansicht gezeichnet_;    ///< the view of the picture
     bool gueltig_ = false;  ///< the picture is what a plain redraw draws, but for what was wiped
     bool oertlich_ = false;
     Rechteck vorher_;

@@ -140,7 +140,7 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
       zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
       pflege_(programm.zustand, flaeche_, zeichner_),
       ansicht_(programm.einstellungen, pflege_),
-      druck_(programm_, zeichner_, flaeche_),
+      druck_(programm_, flaeche_),
       ordner_(programm.sitzung.Ordner()),
       bewahrung_(programm_,
                  {[this] { return JetzigerPlan(); }, [this](const QString& text) { ZeigeStatus(text); },
@@ -417,8 +417,9 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         const auto text = Blattschnitthinweis(*liste_, programm_.netz, programm_.zustand);
         if (!text.empty()) ZeigeStatus(AusUtf8(text));
     }
-    const bool ausTabelle = schalter.inListe == &Liste::ShowLgRes || schalter.inListe == &Liste::ShowHRes ||
-                            schalter.inListe == &Liste::ShowLGGen || schalter.inListe == &Liste::ShowHGen;
+    const bool ausTabelle =
+        schalter.inListe == &Darstellung::ShowLgRes || schalter.inListe == &Darstellung::ShowHRes ||
+        schalter.inListe == &Darstellung::ShowLGGen || schalter.inListe == &Darstellung::ShowHGen;
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
     if (ein && ausTabelle && liste_ != nullptr && !programm_.daten.Vorhanden("KooTABLE.DB"))

@@ -169,7 +169,8 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
     [[nodiscard]] const PunktKnoten* GewaehlterPunkt() const override;
-    [[nodiscard]] Bildbereich Textrahmen(const PktText& text) const override;
+    [[nodiscard]] Bildbereich Textrahmen(const PunktString& text) const override;
+    [[nodiscard]] Bildpunkt Textgroesse(std::string_view text) const override;
     void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
     void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
     [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }

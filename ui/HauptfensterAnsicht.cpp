@@ -294,7 +294,7 @@ void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
         if (ansicht_.Folge(*liste_)) ZeigeBild();
     } else {
         // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
-        if (!stehendesLose_ && (liste_->ShowLegende || ZeigtErgebnisse(*liste_))) {
+        if (!stehendesLose_ && (liste_->ShowLegende || liste_->ZeigtErgebnisse())) {
             stehendesLose_ = true;
             const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
             pflege_.ZeichneNeu(*liste_);
@@ -317,7 +317,7 @@ void TZrwMainDlg::ZeichneStehendes(Zeichenflaeche& flaeche) {
     zustand.flaeche = &flaeche;
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
     if (liste_->ShowLegende) liste_->SetLegende(zeichner);
-    zeichner.DrawResMasstab(*liste_);
+    zeichner.DrawResMasstab(liste_->Vorlage());
 }
 
 }  // namespace zrw

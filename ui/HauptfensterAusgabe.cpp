@@ -46,7 +46,9 @@ void TZrwMainDlg::SpeedButton16Click() {
     try {
         const Sanduhr sanduhr;
         const double faktor = Druckfaktor(*massstab, programm_.drucker.Aufloesung());
-        Exportiere(*liste_, zeichner_, programm_.zustand, programm_.dateien, {faktor, kPlotname, kDxfname});
+        Exportiere(liste_->Vorlage(),
+                   {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr},
+                   programm_.dateien, {faktor, kPlotname, kDxfname});
         if (liste_->ShowLegende) liste_->Legend->Masstab = druck_.Massstabtext();
         ZeichneNeu();
     } catch (const std::exception& f) {

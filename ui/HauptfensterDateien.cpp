@@ -301,7 +301,8 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
     if (ausBild) {
         // Reading a picture file switches these two on, whatever they were.
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-            if (kSchalter[i].inListe == &Liste::ShowPktText || kSchalter[i].inListe == &Liste::ShowBeob)
+            if (kSchalter[i].inListe == &Darstellung::ShowPktText ||
+                kSchalter[i].inListe == &Darstellung::ShowBeob)
                 schalterkaesten_[i]->setChecked(true);
         }
     } else {

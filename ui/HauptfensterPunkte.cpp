@@ -1,6 +1,7 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
 #include <QScopedValueRollback>
 
+#include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
 #include "ui/Ergebnisanzeige.h"
@@ -121,12 +122,12 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     const QString gefunden = AusNetz(liste_->GetPktText(punkt->PNr));
     ComboBox1_->setEditText(gefunden);
     const Rechteck bild = flaeche_.Sichtbar();
-    if (!InReichweite(punkt->Item->Position(), 0, bild)) {
+    if (!InReichweite(BildortVon(*punkt, *liste_), 0, bild)) {
         liste_->SetzeMitte({punkt->XWPu, punkt->YWPu});
     }
     ZeichneNeu();
-    if (!InReichweite(punkt->Item->Position(), 0, bild)) return punkt;
-    const Flaechenpunkt m = Aufflaeche(punkt->Item->Position());
+    if (!InReichweite(BildortVon(*punkt, *liste_), 0, bild)) return punkt;
+    const Flaechenpunkt m = Aufflaeche(BildortVon(*punkt, *liste_));
     {
         const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
         for (const std::int32_t r : {50, 25})
@@ -223,10 +224,14 @@ const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {
     return punktart_->Gewaehlt();
 }
 
-Bildbereich TZrwMainDlg::Textrahmen(const PktText& text) const {
-    const Bildpunkt ort = text.Textort();
-    return {ort.x, ort.y, Summe(ort.x, flaeche_.Textbreite(programm_.zustand.Gezeigt(text))),
-            Summe(ort.y, flaeche_.Texthoehe())};
+Bildbereich TZrwMainDlg::Textrahmen(const PunktString& text) const {
+    const Bildpunkt ort = text.Item->Textort(BildortVon(text, *liste_, *liste_));
+    const Bildpunkt groesse = Textgroesse(programm_.zustand.Gezeigt(*text.Item));
+    return {ort.x, ort.y, Summe(ort.x, groesse.x), Summe(ort.y, groesse.y)};
+}
+
+Bildpunkt TZrwMainDlg::Textgroesse(std::string_view text) const {
+    return {flaeche_.Textbreite(text), flaeche_.Texthoehe()};
 }
 
 }  // namespace zrw

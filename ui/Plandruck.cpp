@@ -9,7 +9,6 @@
 #include "model/Fehler.h"
 #include "model/Ganzzahl.h"
 #include "output/Export.h"
-#include "output/Geraeteansicht.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -58,7 +57,7 @@ Plandruck::Wahl Plandruck::Blaetter(Liste& liste, double massstab) {
     QImage nichts(1, 1, QImage::Format_RGB32);
     QPainter maler(&nichts);
     const Malerflaeche schrift(maler, {}, Druckschrift(flaeche_.Schrift(), seite.aufloesung));
-    const Druckplan plan{liste, zeichner_, programm_.zustand, programm_.einstellungen, schrift};
+    const Druckplan plan{liste.Vorlage(), Mittel(), schrift};
     try {
         const auto dort = Blattschnitt(plan, massstab, seite, ecke);
         const bool leer = std::find(dort.begin(), dort.end(), Blatt{}) == dort.end();
@@ -97,14 +96,20 @@ Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double mass
     werk.zeichne = [this, &liste, blaetter = std::move(blaetter), auftrag](Zeichenflaeche& flaeche,
                                                                            int nummer) mutable {
         auftrag.ecke = blaetter[static_cast<std::size_t>(nummer)].ecke;
-        zrw::Drucke(liste, zeichner_, programm_.zustand, programm_.einstellungen, flaeche, auftrag);
+        const double geraetefaktor = Geraetefaktor(auftrag.seite);
+        // What is seen of a print: the legend keeps naming its scale, and the device factor stays at screen
+        // to printer.
+        if (liste.ShowLegende && liste.Legend) liste.Legend->Masstab = auftrag.massstabtext;
+        zrw::Drucke(liste.Vorlage(), Mittel(), Geraetegroessen(programm_.einstellungen, geraetefaktor),
+                    flaeche, auftrag);
+        programm_.zustand.Geraetefaktor = 1 / geraetefaktor;
     };
     return werk;
 }
 
 /// A legend that stands within the frame of the output area stands there on the sheet.
 std::optional<Bildpunkt> Plandruck::Legendenort(const Liste& liste, const Druckauftrag& auftrag) const {
-    if (!felder_.rahmen->isChecked() || liste.Legend == nullptr) return std::nullopt;
+    if (!felder_.rahmen->isChecked() || !liste.Legend) return std::nullopt;
     const double dot = Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung);
     const Welt ecke = rahmen_.Ecke(liste);
     const Welt w = liste.BildinWelt(liste.Legend->Position());
@@ -144,12 +149,13 @@ QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, d
     const double jePixel = std::max((ru.rechts - lo.rechts) / kWeite, (lo.hoch - ru.hoch) / kHoehe);
     const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / jePixel)); };
     Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
-    const Geraeteansicht ansicht(liste, programm_.zustand, jePixel, lo);
+    const Ansicht ansicht = liste.FuerGeraet(jePixel, lo);
+    const Bildvorlage vorlage = liste.Vorlage().In(ansicht);
     Zeichenzustand zustand = programm_.zustand;
     zustand.flaeche = &bild;
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
-    if (liste.ShowBeob) liste.DisplayKante(zeichner);
-    liste.DisplayPunkte(zeichner);
+    if (liste.ShowBeob) ZeichneKanten(vorlage, zeichner);
+    ZeichnePunkte(vorlage, zeichner);
     bild.SetzeStift({programm_.einstellungen.PPCol, 1, Strichart::Voll});
     bild.SetzePinsel({kWeiss, true});
     for (std::size_t i = 0; i < blaetter.size(); ++i) {

@@ -30,8 +30,8 @@ class Plandruck {
         QWidget* bild = nullptr;
     };
     /// All must outlive it.
-    Plandruck(const Programm& programm, Figurenzeichner& zeichner, const Bildflaeche& flaeche)
-        : programm_(programm), zeichner_(zeichner), flaeche_(flaeche) {}
+    Plandruck(const Programm& programm, const Bildflaeche& flaeche)
+        : programm_(programm), flaeche_(flaeche) {}
     /// Before anything else but `Rahmen`.
     void SetzeFelder(const Felder& felder) { felder_ = felder; }
 
@@ -55,6 +55,9 @@ class Plandruck {
     [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel);
 
   private:
+    [[nodiscard]] Zeichenmittel Mittel() const {
+        return {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr};
+    }
     struct Wahl {
         std::vector<Blatt> blaetter;
         bool inDerEcke = false;  ///< the one sheet of the output area
@@ -67,7 +70,6 @@ class Plandruck {
     [[nodiscard]] QImage Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const;
 
     const Programm& programm_;
-    Figurenzeichner& zeichner_;
     const Bildflaeche& flaeche_;
     Felder felder_;
     Druckrahmen rahmen_;

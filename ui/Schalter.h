@@ -5,7 +5,7 @@
 #include <array>
 #include <string_view>
 
-#include "model/FigListe.h"
+#include "model/Darstellung.h"
 #include "model/Netzangaben.h"
 #include "output/Zeichenzustand.h"
 
@@ -16,7 +16,7 @@ struct Schalter {
     std::string_view komponente;      ///< object name of the check box; empty: no check box
     std::string_view beschriftung;    ///< caption, UTF-8
     std::string_view hinweis;         ///< hint, UTF-8
-    bool Liste::*inListe;             ///< switch of the network, or null
+    bool Darstellung::*inListe;       ///< display switch of the network, or null
     bool Zeichenzustand::*imZustand;  ///< switch of the whole program, or null
     bool anfangs;
     bool imKartengitter = false;       ///< only for networks that have a map grid
@@ -25,30 +25,30 @@ struct Schalter {
 };
 
 inline constexpr std::array<Schalter, 17> kSchalter{{
-    {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Liste::ShowPktText, nullptr,
+    {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Darstellung::ShowPktText, nullptr,
      true},
-    {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Liste::ShowBeob, nullptr,
+    {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Darstellung::ShowBeob, nullptr,
      true},
-    {"tk25", "CheckBoxGitter", "TK25", "TK25 Einteilung einblenden", &Liste::ShowGitter, nullptr, false,
+    {"tk25", "CheckBoxGitter", "TK25", "TK25 Einteilung einblenden", &Darstellung::ShowGitter, nullptr, false,
      true},
-    {"kmq", "CheckBoxKMQ", "Kilometerquadrat", "Kilometerquadrate einblenden", &Liste::ShowKMQ, nullptr,
+    {"kmq", "CheckBoxKMQ", "Kilometerquadrat", "Kilometerquadrate einblenden", &Darstellung::ShowKMQ, nullptr,
      false, true},
     {"", "CheckBoxPreview", "Ausgabebereich", "Ausgabebereich einblenden", nullptr, nullptr, false},
-    {"legende", "", "Legende", "", &Liste::ShowLegende, nullptr, false},
+    {"legende", "", "Legende", "", &Darstellung::ShowLegende, nullptr, false},
     {"lageverb", "CheckBoxLGRes", "Lageverbesserungen", "Verbesserungen dY und dX als Striche einblenden",
-     &Liste::ShowLgRes, nullptr, false, false, true},
+     &Darstellung::ShowLgRes, nullptr, false, false, true},
     {"hoehenverb", "CheckBoxHRes", "Höhenverbesserungen",
-     "Verbesserungen dH als senkrechte Striche einblenden", &Liste::ShowHRes, nullptr, false, false, true},
-    {"lagegen", "CheckBoxLgGen", "Lagegenauigkeit", "Fehlerellipsen einblenden", &Liste::ShowLGGen, nullptr,
+     "Verbesserungen dH als senkrechte Striche einblenden", &Darstellung::ShowHRes, nullptr, false, false, true},
+    {"lagegen", "CheckBoxLgGen", "Lagegenauigkeit", "Fehlerellipsen einblenden", &Darstellung::ShowLGGen, nullptr,
      false, false, true},
     {"hoehengen", "CheckBoxHGen", "Höhengenauigkeit",
-     "Standardabweichungen mH als senkrechte Balken einblenden", &Liste::ShowHGen, nullptr, false, false,
+     "Standardabweichungen mH als senkrechte Balken einblenden", &Darstellung::ShowHGen, nullptr, false, false,
      true},
-    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Liste::ShowFP, nullptr, true, false, true},
-    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Liste::ShowFH, nullptr, true, false, true},
-    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Liste::ShowNP, nullptr, true, false, true},
-    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Liste::ShowFL, nullptr, true, false, true},
-    {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Liste::ShowHilfP,
+    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Darstellung::ShowFP, nullptr, true, false, true},
+    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Darstellung::ShowFH, nullptr, true, false, true},
+    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Darstellung::ShowNP, nullptr, true, false, true},
+    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Darstellung::ShowFL, nullptr, true, false, true},
+    {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Darstellung::ShowHilfP,
      nullptr, true, false, true},
     {"blattschnitt", "CheckBoxBlattschnitt", "Blattschnitt in der Abbildung der Punkte",
      "TK25 in Gauß-Krüger wie die Punkte, nicht in der Abbildung aus $KS", nullptr,
@@ -63,19 +63,19 @@ inline constexpr std::array<Schalter, 17> kSchalter{{
 }
 
 /// What is said where map sheets are switched on and lie elsewhere, UTF-8; empty where all is well.
-[[nodiscard]] inline std::string_view Blattschnitthinweis(const Liste& liste, const Netzangaben& netz,
+[[nodiscard]] inline std::string_view Blattschnitthinweis(const Darstellung& darstellung, const Netzangaben& netz,
                                                           const Zeichenzustand& zustand) {
-    if (!liste.ShowGitter || zustand.BlattschnittWiePunkte || !BlattschnittWeichtAb(netz)) return {};
+    if (!darstellung.ShowGitter || zustand.BlattschnittWiePunkte || !BlattschnittWeichtAb(netz)) return {};
     return "TK25 folgt der Abbildung aus $KS, die Punkte liegen in Gauß-Krüger: Die Blätter erscheinen nicht "
            "beim "
            "Netz. Schalter „Blattschnitt in der Abbildung der Punkte“ legt sie darunter.";
 }
 
 /// Puts one switch into effect.
-inline void Schalte(const Schalter& s, bool ein, Liste* liste, const Netzangaben& netz,
+inline void Schalte(const Schalter& s, bool ein, Darstellung* darstellung, const Netzangaben& netz,
                     Zeichenzustand& zustand) {
     if (s.imKartengitter && !HatKartengitter(netz.Netztyp)) ein = false;
-    if (s.inListe != nullptr && liste != nullptr) liste->*s.inListe = ein;
+    if (s.inListe != nullptr && darstellung != nullptr) darstellung->*s.inListe = ein;
     if (s.imZustand != nullptr) zustand.*s.imZustand = ein;
 }
 

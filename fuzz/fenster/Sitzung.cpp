@@ -20,6 +20,7 @@
 #include <random>
 
 #include "bench/Netzgenerator.h"
+#include "model/Bildorte.h"
 #include "fuzz/Proben.h"
 #include "input/Systemdateien.h"
 #include "tests/hilfe/Antwortdienst.h"
@@ -106,7 +107,8 @@ class Sitzungslauf {
         const PunktKnoten* p = netz->PunktKnoten;
         for (std::size_t i = Wuerfle(static_cast<std::size_t>(netz->MaxPkte)); i > 0; --i)
             p = p->Next;
-        const QPoint ort(static_cast<int>(p->Item->XO % 100000), static_cast<int>(p->Item->YO % 100000));
+        const Bildpunkt b = BildortVon(*p, *netz);
+        const QPoint ort(static_cast<int>(b.x % 100000), static_cast<int>(b.y % 100000));
         const QPoint daneben(static_cast<int>(Wuerfle(3)) * 10, -static_cast<int>(Wuerfle(2)) * 5);
         return r.contains(ort) ? ort + daneben : irgendwo;
     }

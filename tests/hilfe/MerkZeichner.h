@@ -32,29 +32,29 @@ class MerkZeichner final : public Zeichner {
     void ClearPicture(std::int32_t weite, std::int32_t hoehe) override {
         zeilen.push_back("Leeren" + Zahlen({weite, hoehe}));
     }
-    void ZeichnePunkt(const Punkt& p, Gang gang) override {
+    void ZeichnePunkt(const Punkt& p, Bildpunkt ort, Gang gang) override {
         constexpr std::array kTyp{"Pkt", "Krei", "Kreu", "Qua", "Rau", "Drei"};
         constexpr std::array kAttr{"Em", "Fu"};
         zeilen.push_back("Punkt" + Art(gang, p.Farbe) + " " + Name(kTyp, p.PktTyp) + " " +
-                         Name(kAttr, p.PktAttr) + Zahlen({p.XO, p.YO}));
+                         Name(kAttr, p.PktAttr) + Zahlen({ort.x, ort.y}));
     }
-    void ZeichneKante(const Kante& k, Gang gang) override {
+    void ZeichneKante(const Kante& k, Bildpunkt a, Bildpunkt e, Gang gang) override {
         constexpr std::array kAttr{"Null", "AR1", "AR2", "AST", "ARI1", "ARI2", "ASTI"};
         zeilen.push_back("Kante" + Art(gang, k.Farbe) + " " + Name(kAttr, k.LAttr) + " " + Menge(k.KAttr) +
-                         Zahlen({k.XO, k.YO, k.XBiE, k.YBiE}));
+                         Zahlen({a.x, a.y, e.x, e.y}));
     }
-    void ZeichneText(const PktText& t, Gang gang) override {
+    void ZeichneText(const PktText& t, Bildpunkt ort, Gang gang) override {
         zeilen.push_back("Text" + Art(gang, t.Col) + " " + std::string(t.Aus.Text()) +
-                         Zahlen({t.Textort().x, t.Textort().y}));
+                         Zahlen({t.Textort(ort).x, t.Textort(ort).y}));
     }
     void ZeichneLegende(Legende& l, Gang gang) override {
         zeilen.push_back((gang == Gang::Zeigen ? "Legende zeigen" : "Legende wischen") +
                          Zahlen({l.XO, l.YO}));
     }
-    void GitterShow(const Liste& /*liste*/) override { zeilen.push_back("Gitter"); }
-    void KMGitterShow(const Liste& /*liste*/) override { zeilen.push_back("KMQ"); }
-    void ZeichnePunktRes(const Liste& /*liste*/) override { zeilen.push_back("Residuen"); }
-    void DrawResMasstab(const Liste& /*liste*/) override { zeilen.push_back("Residuenmassstab"); }
+    void GitterShow(const Bildvorlage& /*v*/) override { zeilen.push_back("Gitter"); }
+    void KMGitterShow(const Bildvorlage& /*v*/) override { zeilen.push_back("KMQ"); }
+    void ZeichnePunktRes(const Bildvorlage& /*v*/) override { zeilen.push_back("Residuen"); }
+    void DrawResMasstab(const Bildvorlage& /*v*/) override { zeilen.push_back("Residuenmassstab"); }
 
   private:
     static std::string Art(Gang gang, Farbe farbe) {

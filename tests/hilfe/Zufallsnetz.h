@@ -56,10 +56,10 @@ class Zufallsnetz {
         return liste.AddPunkt(p, ort, nr);
     }
     void WuerfleSchalter() {
-        for (bool Liste::*s : {&Liste::ShowPktText, &Liste::ShowBeob, &Liste::ShowFP, &Liste::ShowFL,
-                               &Liste::ShowFH, &Liste::ShowNP, &Liste::ShowHilfP})
+        for (bool Darstellung::*s : {&Liste::ShowPktText, &Liste::ShowBeob, &Liste::ShowFP, &Liste::ShowFL,
+                                     &Liste::ShowFH, &Liste::ShowNP, &Liste::ShowHilfP})
             liste.*s = W(0, 4) != 0;
-        for (bool Liste::*s : {&Liste::ShowKMQ, &Liste::ShowLegende})
+        for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende})
             liste.*s = W(0, 4) == 0;
     }
     /// From the whole network to a few metres in the picture.

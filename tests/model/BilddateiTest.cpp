@@ -85,7 +85,7 @@ struct Dateinetz : Probenetz {
         d.dateien[kName] = inhalt;
         return LiesBilddatei(kName, d, e, netz);
     }
-    std::string Schreibe(const Liste& liste) {
+    std::string Schreibe(Liste& liste) {
         SchreibeBilddatei(liste, netz, kName, d);
         return d.dateien[kName];
     }

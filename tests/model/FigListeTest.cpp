@@ -92,7 +92,7 @@ TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
                                   "Punkt wischen Drei Em 0 0", "Punkt wischen Krei Em 0 0"}));
     EXPECT_EQ(n.l.MaxPkte, 2);
     EXPECT_EQ(n.l.MaxKant, 2);
-    EXPECT_NE(n.l.Legend, nullptr);
+    EXPECT_TRUE(n.l.Legend.has_value());
     EXPECT_EQ(n.l.FindPktText(1), nullptr);
     n.P(1);
     EXPECT_EQ(n.l.FindPunkt("1"), nullptr);

@@ -38,10 +38,11 @@ void Vergleiche(Probenetz& n, PunktIndex nummern, int texte) {
             ASSERT_EQ(l.FindKante(nr, b), Linie(l, nr, b)) << nr;
         if (p == nullptr) continue;
         for (PPunktKante k = l.KanteKnoten; k != nullptr; k = k->Next) {
-            if (k->ANr == nr || k->ENr == nr) n.z.ZeichneKante(*k->Item, Gang::Wischen);
+            if (k->ANr == nr || k->ENr == nr)
+                n.z.ZeichneKante(*k->Item, k->Item->Position(), k->Item->Ende(), Gang::Wischen);
         }
-        if (t != nullptr) n.z.ZeichneText(*t->Item, Gang::Wischen);
-        n.z.ZeichnePunkt(*p->Item, Gang::Wischen);
+        if (t != nullptr) n.z.ZeichneText(*t->Item, t->Item->Position(), Gang::Wischen);
+        n.z.ZeichnePunkt(*p->Item, p->Item->Position(), Gang::Wischen);
         const Zeilen erwartet = n.z.Nimm();
         l.HidePunkt(*p, n.z);
         ASSERT_EQ(n.z.Nimm(), erwartet) << nr;

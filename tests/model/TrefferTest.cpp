@@ -11,8 +11,13 @@ namespace {
 constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 
+/// World coordinate of a picture position at a metre a pixel; beyond 64 bits positions stop at the ends.
+double W(std::int64_t v) {
+    return v == kMax ? 1e19 : v == kMin ? -1e19 : static_cast<double>(v);
+}
+
 PunktKante& Linie(Probenetz& n, Bildpunkt s, Bildpunkt e) {
-    PunktKante& k = n.K(1, 2);
+    PunktKante& k = n.K(98, 99);  // of no points: it stays where it was stored
     k.Item->XO = s.x;
     k.Item->YO = s.y;
     k.Item->XBiE = e.x;
@@ -39,13 +44,10 @@ TEST(Treffer, DerFangkastenZaehltSeinenRandMit) {
         n.e.Fang = f.fang;
         n.e.PXOff = 0;
         n.e.PYOff = 0;
-        PunktKnoten& p = n.P(1);
+        PunktKnoten& p = n.P(1, W(f.ort.x), -W(f.ort.y));
         PunktString& t = n.T(1, "1");
-        for (Ort* o :
-             {static_cast<Ort*>(p.Item), static_cast<Ort*>(t.Item), static_cast<Ort*>(n.l.Legend.get())}) {
-            o->XO = f.ort.x;
-            o->YO = f.ort.y;
-        }
+        n.l.Legend->XO = f.ort.x;
+        n.l.Legend->YO = f.ort.y;
         n.l.Legend->Move = !f.trifft;
         n.l.MausLegende(maus);
         EXPECT_EQ(n.l.ClickPunkt(maus), f.trifft ? &p : nullptr) << maus.x << " " << maus.y;
@@ -58,12 +60,14 @@ TEST(Treffer, DieNeuesteFigurGewinntUndDerTextLiegtNebenDemPunkt) {
     Probenetz n;
     n.l.Legend.reset();
     n.l.MausLegende({2, 2});
+    for (const auto& [nr, x, y] : {std::tuple{3, 0, 0}, {4, 100, 0}, {5, 0, -5}, {6, 100, -5}})
+        n.P(static_cast<PunktIndex>(nr), x, y);
     n.P(1);
-    n.P(2).Item->XO = 4;
+    n.P(2, 4);
     n.T(1, "1");
-    n.T(2, "2").Item->YO = 4;
-    Linie(n, {0, 0}, {100, 0});
-    Linie(n, {0, 5}, {100, 5});
+    n.T(2, "2");
+    n.K(3, 4);
+    n.K(5, 6);
     EXPECT_EQ(n.l.ClickPunkt({0, 0}), n.l.PunktKnoten);
     EXPECT_EQ(n.l.MausPktText({10, -5}), n.l.PktTextKnoten);
     EXPECT_EQ(n.l.MausPktText({0, 0}), nullptr);
@@ -73,7 +77,7 @@ TEST(Treffer, DieNeuesteFigurGewinntUndDerTextLiegtNebenDemPunkt) {
     EXPECT_EQ(n.l.PickGezeigte({50, 3}), n.l.KanteKnoten->Next) << "the one below is seen now";
     n.l.ShowBeob = false;
     EXPECT_EQ(n.l.PickGezeigte({50, 3}), nullptr);
-    for (bool Liste::*schalter : {&Liste::ShowPktText, &Liste::ShowHilfP}) {
+    for (bool Darstellung::*schalter : {&Liste::ShowPktText, &Liste::ShowHilfP}) {
         EXPECT_EQ(n.l.ClickGezeigtenText({10, -5}), n.l.PktTextKnoten);
         n.l.*schalter = false;
         EXPECT_EQ(n.l.ClickGezeigtenText({10, -5}), nullptr);
@@ -119,10 +123,10 @@ TEST(Treffer, DieBaeumeWerdenNurFuerZuwachsNeuGebaut) {
 
 TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {
     Probenetz n;
-    PunktKnoten& p = n.P(1);
-    p.Item->XO = 12;
+    PunktKnoten& p = n.P(1, 12);
     n.T(7, "fremd").Item->XO = 12;  // by position, not by number
-    n.T(1, "1");
+    n.P(2);
+    n.T(2, "2");
     Linie(n, {12, 0}, {50, 50});
     Linie(n, {60, 60}, {12, 0});
     Linie(n, {11, 0}, {50, 50});

@@ -35,7 +35,7 @@ class Blattschnitt : public testing::Test {
 
     Probenetz n;
     Zeichentafel<MerkFlaeche> tafel{n.e};
-    Druckplan plan{n.l, tafel.zeichner, tafel.zustand, n.e, tafel.flaeche};
+    Druckplan plan{n.l.Vorlage(), {tafel.zustand, n.e, tafel.netz, tafel.uhr}, tafel.flaeche};
 };
 
 TEST_F(Blattschnitt, BlaetterMitPunktenUndGequertenLinien) {

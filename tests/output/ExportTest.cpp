@@ -33,7 +33,7 @@ Zeilen Zerlegt(std::string_view datei) {
 class Export : public testing::Test {
   protected:
     void Exportiere() {
-        zrw::Exportiere(n.l, tafel.zeichner, zustand, dateien,
+        zrw::Exportiere(n.l.Vorlage(), {zustand, n.e, tafel.netz, tafel.uhr}, dateien,
                         {Druckfaktor(25000, 600), kPlotname, kDxfname});
     }
     std::string Gespeichert() {
@@ -88,7 +88,8 @@ TEST_F(Export, LaesstNetzAnsichtUndZustandWieSieWaren) {
         EXPECT_EQ(zustand.flaeche, &tafel.flaeche);
         EXPECT_EQ(zustand.modus, Zeichenmodus::Drucker);
         EXPECT_FALSE(zustand.ExportActive);
-        EXPECT_TRUE(zustand.PlotFile == nullptr && zustand.Dxf == nullptr && zustand.Exportnetz == nullptr);
+        EXPECT_TRUE(zustand.PlotFile == nullptr && zustand.Dxf == nullptr &&
+                    zustand.Exportansicht == nullptr);
         EXPECT_EQ(tafel.flaeche.Nimm(), Zeilen{}) << "the screen has seen nothing of it";
     };
     unveraendert(SIZE_MAX);

@@ -39,8 +39,7 @@ class Residuen : public testing::Test {
         Punkt(1, "12", PunktArt::FP);
     }
     zrw::Punkt& Punkt(PunktIndex nr, std::string_view nummer, PunktArt art) {
-        PunktKnoten& p = n.P(nr, 0, 0, art);
-        p.Item->XO = p.Item->YO = 100;
+        PunktKnoten& p = n.P(nr, 100, -100, art);
         n.T(nr, nummer);
         return *p.Item;
     }
@@ -49,11 +48,11 @@ class Residuen : public testing::Test {
         n.l.ShowLGGen = ellipse;
     }
     Zeilen Gezeichnet() {
-        zeichner.ZeichnePunktRes(n.l);
+        zeichner.ZeichnePunktRes(n.l.Vorlage());
         return flaeche.Nimm();
     }
     Zeilen Massstab() {
-        zeichner.DrawResMasstab(n.l);
+        zeichner.DrawResMasstab(n.l.Vorlage());
         return flaeche.Nimm();
     }
     /// Ends of the lines, without pens.
@@ -64,7 +63,8 @@ class Residuen : public testing::Test {
         return alle;
     }
     Zeilen Ellipse(double phi, double a, double b, double x = 400, double y = 300) {
-        Residuenbild(zustand, n.e, n.l).DrawEllipse(Gon{phi}, a, b, x, y);
+        const Bildvorlage vorlage = n.l.Vorlage();
+        Residuenbild(zustand, n.e, vorlage).DrawEllipse(Gon{phi}, a, b, x, y);
         return Linien(flaeche.Nimm());
     }
 
@@ -209,7 +209,7 @@ TEST_F(Residuen, Massstabsbalken) {
         erwartet.push_back("Text 0x000000 " + std::to_string(12 + 80 * i) + " 571 " + std::to_string(i));
     }
     EXPECT_EQ(Massstab(), Zeilen{});
-    for (bool Liste::*an :
+    for (bool Darstellung::*an :
          {&Liste::ShowLgRes, &Liste::ShowHRes, &Liste::ShowLGGen, &Liste::LGGenOn, &Liste::ShowHGen}) {
         n.l.*an = true;
         EXPECT_EQ(Massstab(), erwartet);

@@ -241,9 +241,9 @@ TEST_F(Bedienfallen, PunkteOhneUndMitGleicherNummerLassenSichVerstecken) {
         ASSERT_EQ(dialoge.meldungen, QStringList());
         Modus("HidePktButton");
         for (const PunktIndex nr : {PunktIndex{1}, PunktIndex{2}}) {
-            const zrw::Punkt& p = *fenster.Netz()->SuchPkt(nr)->Item;
-            Klick({static_cast<int>(p.XO), static_cast<int>(p.YO)});
-            EXPECT_FALSE(p.Visible) << nr;
+            const PunktKnoten& p = *fenster.Netz()->SuchPkt(nr);
+            Klick(Pixel(*fenster.Netz(), p));
+            EXPECT_FALSE(p.Item->Visible) << nr;
             fenster.Rueckgaengig();
         }
     }

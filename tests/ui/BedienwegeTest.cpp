@@ -238,9 +238,8 @@ TEST_F(Bedienwege, EinPlanUeberstehtDasEndeOhneSpeichern) {
         zweites.Oeffne(ordner.filePath("n.EIN").toStdString());
         dialoge.ja = true;
         zweites.findChild<QToolButton*>("DelPunktButton")->setChecked(true);
-        const Bildpunkt a = zweites.Netz()->FindPunkt("A")->Item->Position();
         QTest::mouseClick(zweites.findChild<QWidget*>("ImageZarwik"), Qt::LeftButton, {},
-                          {static_cast<int>(a.x), static_cast<int>(a.y)});
+                          Pixel(*zweites.Netz(), *zweites.Netz()->FindPunkt("A")));
         ASSERT_TRUE(zweites.Ungesichert());
         dialoge.ja = ja;
         dialoge.datei.reset();  // cancels

@@ -87,7 +87,7 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
         Tafel tafel(n.e);
         Tafel einfach(n.e, false);
         Bildpflege pflege(tafel.zustand, tafel.flaeche, tafel.zeichner);
-        pflege.Alles(n.liste);
+        pflege.ZeichneNeu(n.liste);
         QUndoStack stapel;
         const auto gespeichert = [&] {
             ByteSchreiber f;

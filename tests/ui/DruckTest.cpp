@@ -172,11 +172,11 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
     EXPECT_NEAR(seite.hoehe * 25.4 / seite.aufloesung, 277, 0.5);
     fenster.Oeffne(kBeispiel);
     Liste& liste = const_cast<Liste&>(*fenster.Netz());
-    Figurenzeichner zeichner(zustand, einstellungen, netz, uhr);
     const Welt ecke = liste.BildinWelt({});
     const auto drucke = [&](double massstab) {
         echter.Drucke({"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
-                           zrw::Drucke(liste, zeichner, zustand, einstellungen, blatt,
+                           zrw::Drucke(liste.Vorlage(), {zustand, einstellungen, netz, uhr},
+                                       Geraetegroessen(einstellungen, Geraetefaktor(seite)), blatt,
                                        {massstab, "100000", seite, ecke});
                        }});
     };

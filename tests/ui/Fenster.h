@@ -16,6 +16,7 @@
 #include <string>
 
 #include "input/Systemdateien.h"
+#include "model/Bildorte.h"
 #include "model/Bytes.h"
 #include "tests/hilfe/Antwortdienst.h"
 #include "tests/hilfe/Festdrucker.h"
@@ -24,6 +25,12 @@
 #include "ui/Hauptfenster.h"
 
 namespace zrw {
+
+/// Where a point lies in the picture.
+inline QPoint Pixel(const Liste& l, const PunktKnoten& p) {
+    const Bildpunkt b = BildortVon(p, l);
+    return {static_cast<int>(b.x), static_cast<int>(b.y)};
+}
 
 class Fensterprobe : public testing::Test {
   protected:

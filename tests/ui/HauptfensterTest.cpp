@@ -13,8 +13,7 @@ class Hauptfenster : public Fensterprobe {
   protected:
     /// Picture position of the first point.
     QPoint Punkt() const {
-        const zrw::Punkt& p = *fenster.Netz()->PunktKnoten->Item;
-        return {static_cast<int>(p.XO), static_cast<int>(p.YO)};
+        return Pixel(*fenster.Netz(), *fenster.Netz()->PunktKnoten);
     }
 };
 

@@ -59,8 +59,9 @@ KanteGeaendert::KanteGeaendert(Liste& liste, PunktKante& kante, LinieAttr richtu
 }
 
 void KanteGeaendert::redo() {
-    std::swap(kante_.Item->LAttr, andereRichtung_);
-    std::swap(kante_.Item->KAttr, andereWeitere_);
+    const LinieAttr richtung = std::exchange(andereRichtung_, kante_.Item->LAttr);
+    const KanteAttr weitere = std::exchange(andereWeitere_, kante_.Item->KAttr);
+    liste_.SetzeBeobachtungen(kante_, richtung, weitere);
     if (drehen_) liste_.DreheKante(kante_);
 }
 

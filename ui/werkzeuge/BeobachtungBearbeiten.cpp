@@ -98,14 +98,16 @@ void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     if (netz == nullptr) return;
     const bool neu = umgebung_.Beobachtungsdialog().NeueBeobachtung();
-    ZeigeGewaehltes(neu ? MarkiereTreffer(netz->ClickGezeigten(ort))
-                        : MarkiereTreffer(netz->PickGezeigte(ort)));
+    ZeigeGewaehltes(neu ? MarkiereTreffer(*netz, netz->ClickGezeigten(ort))
+                        : MarkiereTreffer(*netz, netz->PickGezeigte(ort)));
     if (erster_ != nullptr) umgebung_.ZeigeStatus(Anleitung());
 }
 
 void BeobachtungBearbeiten::ZeigeGewaehltes(const Vorschau& dazu) {
-    umgebung_.ZeigeVorschau(
-        Zusammen(erster_ != nullptr ? MarkiereTreffer(erster_) : MarkiereTreffer(kante_), dazu));
+    const Liste* netz = umgebung_.AktuelleListe();
+    if (netz == nullptr) return;
+    umgebung_.ZeigeVorschau(Zusammen(
+        erster_ != nullptr ? MarkiereTreffer(*netz, erster_) : MarkiereTreffer(*netz, kante_), dazu));
 }
 
 void BeobachtungBearbeiten::Abbrechen() {

@@ -19,7 +19,7 @@ void Klickwerkzeug::Schweben(Bildpunkt ort) {
 }
 
 Vorschau Punktwerkzeug::Treffer(Liste& netz, Bildpunkt ort) const {
-    return MarkiereTreffer(netz.ClickGezeigten(ort));
+    return MarkiereTreffer(netz, netz.ClickGezeigten(ort));
 }
 
 void Punktwerkzeug::Klick(Liste& netz, Bildpunkt ort) {
@@ -53,12 +53,12 @@ QString PunktartWaehlen::Anleitung() const {
 
 /// The point that the window shows stays marked.
 Vorschau PunktartWaehlen::Treffer(Liste& netz, Bildpunkt ort) const {
-    return Zusammen(MarkiereTreffer(Umgebung().GewaehlterPunkt()), Punktwerkzeug::Treffer(netz, ort));
+    return Zusammen(MarkiereTreffer(netz, Umgebung().GewaehlterPunkt()), Punktwerkzeug::Treffer(netz, ort));
 }
 
-void PunktartWaehlen::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
+void PunktartWaehlen::Nimm(Liste& netz, PunktKnoten& punkt) {
     Umgebung().WaehlePunkt(punkt);
-    Umgebung().ZeigeVorschau(MarkiereTreffer(&punkt));
+    Umgebung().ZeigeVorschau(MarkiereTreffer(netz, &punkt));
 }
 
 namespace {
@@ -94,7 +94,7 @@ QString BeobachtungLoeschen::Anleitung() const {
 }
 
 Vorschau BeobachtungLoeschen::Treffer(Liste& netz, Bildpunkt ort) const {
-    return MarkiereTreffer(netz.PickGezeigte(ort));
+    return MarkiereTreffer(netz, netz.PickGezeigte(ort));
 }
 
 void BeobachtungLoeschen::Klick(Liste& netz, Bildpunkt ort) {
@@ -113,7 +113,7 @@ QString ErgebnisZeigen::Anleitung() const {
 
 Vorschau ErgebnisZeigen::Treffer(Liste& netz, Bildpunkt ort) const {
     const PunktKnoten* p = netz.ClickGezeigten(ort);
-    return p != nullptr ? MarkiereTreffer(p) : MarkiereTreffer(netz.PickGezeigte(ort));
+    return p != nullptr ? MarkiereTreffer(netz, p) : MarkiereTreffer(netz, netz.PickGezeigte(ort));
 }
 
 void ErgebnisZeigen::Klick(Liste& netz, Bildpunkt ort) {

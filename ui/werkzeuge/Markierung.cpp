@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/Bildorte.h"
 #include "output/Abschneiden.h"
 
 namespace zrw {
@@ -38,7 +39,7 @@ Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende) {
 
 Vorschau MarkiereText(const Werkzeugumgebung& umgebung, const PunktString* text) {
     if (text == nullptr) return {};
-    return [r = umgebung.Textrahmen(*text->Item)](Zeichner& /*z*/, Zeichenflaeche& f) {
+    return [r = umgebung.Textrahmen(*text)](Zeichner& /*z*/, Zeichenflaeche& f) {
         if (!InReichweite({r.links, r.oben}, r.rechts - r.links + kRand, f.Sichtbar())) return;
         const auto o = Aufflaeche({r.links, r.oben});
         const auto u = Aufflaeche({r.rechts, r.unten});
@@ -70,12 +71,13 @@ Vorschau Zusammen(Vorschau unten, Vorschau oben) {
     };
 }
 
-Vorschau MarkiereTreffer(const PunktKnoten* punkt) {
-    return punkt != nullptr ? MarkierePunkt(punkt->Item->Position()) : Vorschau();
+Vorschau MarkiereTreffer(const Liste& netz, const PunktKnoten* punkt) {
+    return punkt != nullptr ? MarkierePunkt(BildortVon(*punkt, netz)) : Vorschau();
 }
 
-Vorschau MarkiereTreffer(const PunktKante* kante) {
-    return kante != nullptr ? MarkiereKante(kante->Item->Position(), kante->Item->Ende()) : Vorschau();
+Vorschau MarkiereTreffer(const Liste& netz, const PunktKante* kante) {
+    return kante != nullptr ? MarkiereKante(AnfangVon(*kante, netz, netz), EndeVon(*kante, netz, netz))
+                            : Vorschau();
 }
 
 }  // namespace zrw

@@ -15,7 +15,7 @@ namespace zrw {
 [[nodiscard]] Vorschau Zusammen(Vorschau unten, Vorschau oben);
 
 // The same for what is under the mouse; nothing where there is nothing.
-[[nodiscard]] Vorschau MarkiereTreffer(const PunktKnoten* punkt);
-[[nodiscard]] Vorschau MarkiereTreffer(const PunktKante* kante);
+[[nodiscard]] Vorschau MarkiereTreffer(const Liste& netz, const PunktKnoten* punkt);
+[[nodiscard]] Vorschau MarkiereTreffer(const Liste& netz, const PunktKante* kante);
 
 }  // namespace zrw

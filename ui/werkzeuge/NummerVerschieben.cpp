@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/werkzeuge/Markierung.h"
@@ -35,7 +36,11 @@ void NummerVerschieben::Ziehen(Bildpunkt ort) {
     text.Visible = true;
     text.XBiO = Summe(text.XBiO, ort.x - anfang_.x);
     text.YBiO = Summe(text.YBiO, ort.y - anfang_.y);
-    umgebung_.ZeigeVorschau([text](Zeichner& z, Zeichenflaeche& /*f*/) mutable { text.Show(z); });
+    const Liste& netz = *umgebung_.AktuelleListe();
+    umgebung_.ZeigeVorschau(
+        [text, stelle = BildortVon(*text_, netz, netz)](Zeichner& z, Zeichenflaeche& /*f*/) {
+            z.ZeichneText(text, stelle, Gang::Zeigen);
+        });
 }
 
 void NummerVerschieben::Loslassen(Bildpunkt ort) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "model/Ganzzahl.h"
@@ -15,16 +16,13 @@ namespace zrw {
     if (!netz.ShowPktText || !netz.ShowHilfP) return nullptr;
     if (PPunktString t = netz.ClickGezeigtenText(maus); t != nullptr) return t;
     // How far the beginning may lie from the mouse.
-    PktText breiteste;
-    breiteste.Aus = PunktNummernTyp(std::string(PunktNummernTyp::kLaenge, 'W'));
-    const Bildbereich b = umgebung.Textrahmen(breiteste);
+    const Bildpunkt weit = umgebung.Textgroesse(std::string(PunktNummernTyp::kLaenge, 'W'));
     std::vector<PPunktString> nahe;
-    netz.SammleTexte(
-        {Differenz(maus.x, b.rechts - b.links), Differenz(maus.y, b.unten - b.oben), maus.x, maus.y}, nahe);
+    netz.SammleTexte(netz, {Differenz(maus.x, weit.x), Differenz(maus.y, weit.y), maus.x, maus.y}, nahe);
     const auto trifft = [&](const PunktString* t) {
         const PunktKnoten* p = netz.SuchPkt(t->TNr);
         if (!t->Item->Visible || p == nullptr || !netz.Dargestellt(*p->Item)) return false;
-        const Bildbereich r = umgebung.Textrahmen(*t->Item);
+        const Bildbereich r = umgebung.Textrahmen(*t);
         return r.links <= maus.x && maus.x <= r.rechts && r.oben <= maus.y && maus.y <= r.unten;
     };
     const auto treffer = std::find_if(nahe.begin(), nahe.end(), trifft);

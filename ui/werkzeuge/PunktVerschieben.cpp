@@ -1,5 +1,6 @@
 #include "ui/werkzeuge/PunktVerschieben.h"
 
+#include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/werkzeuge/Markierung.h"
@@ -12,7 +13,7 @@ QString PunktVerschieben::Anleitung() const {
 
 void PunktVerschieben::Schweben(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
-    umgebung_.ZeigeVorschau(MarkiereTreffer(netz != nullptr ? netz->ClickGezeigten(ort) : nullptr));
+    umgebung_.ZeigeVorschau(netz != nullptr ? MarkiereTreffer(*netz, netz->ClickGezeigten(ort)) : Vorschau());
 }
 
 void PunktVerschieben::Druecken(Bildpunkt ort) {
@@ -26,20 +27,21 @@ void PunktVerschieben::Druecken(Bildpunkt ort) {
 
 /// Takes the figures at the point out of the picture and remembers which of them were in it.
 void PunktVerschieben::Loese(Liste& netz) {
-    const Bildpunkt ort = punkt_->Item->Position();
-    const Bildbereich dort{ort.x, ort.y, ort.x, ort.y};
+    ort_ = BildortVon(*punkt_, netz);
+    const Bildbereich dort = Fangbereich(ort_, 0);
     std::vector<PPunktKante> kanten;
-    netz.SammleKanten(dort, kanten);
+    netz.SammleKanten(netz, dort, kanten);
     for (PPunktKante k : kanten) {
-        Kante& kante = *k->Item;
-        if (!kante.Visible || (kante.Position() != ort && kante.Ende() != ort)) continue;
-        kanten_.push_back(
-            {&kante, k->ANr == punkt_->PNr, k->ENr == punkt_->PNr, netz.ShowBeob && netz.Dargestellt(*k)});
+        const Bildpunkt anfang = AnfangVon(*k, netz, netz);
+        const Bildpunkt ende = EndeVon(*k, netz, netz);
+        if (!k->Item->Visible || (anfang != ort_ && ende != ort_)) continue;
+        kanten_.push_back({k->Item, anfang, ende, k->ANr == punkt_->PNr, k->ENr == punkt_->PNr,
+                           netz.ShowBeob && Dargestellt(*k, netz, netz)});
     }
     std::vector<PPunktString> texte;
-    netz.SammleTexte(dort, texte);
+    netz.SammleTexte(netz, dort, texte);
     for (PPunktString t : texte) {
-        if (t->Item->Visible && t->Item->Position() == ort) texte_.push_back(t->Item);
+        if (t->Item->Visible && BildortVon(*t, netz, netz) == ort_) texte_.push_back(t);
     }
     sichtbar_ = punkt_->Item->Visible;
     netz.LoesePunkt(*punkt_, umgebung_.Bildzeichner());
@@ -50,8 +52,8 @@ void PunktVerschieben::Loese(Liste& netz) {
 void PunktVerschieben::StelleHer() {
     for (const Folger& f : kanten_)
         f.kante->Visible = true;
-    for (PktText* t : texte_)
-        t->Visible = true;
+    for (PunktString* t : texte_)
+        t->Item->Visible = true;
     punkt_->Item->Visible = sichtbar_;
     kanten_.clear();
     texte_.clear();
@@ -60,31 +62,17 @@ void PunktVerschieben::StelleHer() {
 }
 
 void PunktVerschieben::ZeigeVerschoben(Zeichner& z, Bildpunkt versatz) const {
-    const auto verschoben = [&](auto figur) {
-        figur.Visible = true;
-        figur.XO = Summe(figur.XO, versatz.x);
-        figur.YO = Summe(figur.YO, versatz.y);
-        return figur;
-    };
-    const Bildpunkt nach = verschoben(*punkt_->Item).Position();
+    const Bildpunkt nach{Summe(ort_.x, versatz.x), Summe(ort_.y, versatz.y)};
     for (const Folger& f : kanten_) {
-        if (!f.gezeigt) continue;
-        Kante k = *f.kante;
-        k.Visible = true;
-        if (f.mitAnfang) k.XO = nach.x;
-        if (f.mitAnfang) k.YO = nach.y;
-        if (f.mitEnde) k.XBiE = nach.x;
-        if (f.mitEnde) k.YBiE = nach.y;
-        k.Show(z);
+        if (f.gezeigt)
+            z.ZeichneKante(*f.kante, f.mitAnfang ? nach : f.anfang, f.mitEnde ? nach : f.ende, Gang::Zeigen);
     }
-    verschoben(*punkt_->Item).Show(z);
-    Liste& netz = *umgebung_.AktuelleListe();
-    if (!netz.ShowPktText || !netz.ShowHilfP) return;
-    for (const PktText* t : texte_) {
-        PktText text = t == netz.FindPktText(punkt_->PNr) ? verschoben(*t) : *t;
-        text.Visible = true;
-        text.Show(z);
-    }
+    punkt_->Item->Zeige(nach, z);
+    const Liste& netz = *umgebung_.AktuelleListe();
+    if (!netz.ZeigtNummern()) return;
+    const PunktString* eigener = netz.FindText(punkt_->PNr);
+    for (const PunktString* t : texte_)
+        z.ZeichneText(*t->Item, t == eigener ? nach : ort_, Gang::Zeigen);
 }
 
 void PunktVerschieben::Ziehen(Bildpunkt ort) {

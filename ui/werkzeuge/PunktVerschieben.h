@@ -31,13 +31,16 @@ class PunktVerschieben final : public Werkzeug {
     /// A line at the place of the point; its ends that belong to the point follow.
     struct Folger {
         Kante* kante;
+        Bildpunkt anfang;
+        Bildpunkt ende;
         bool mitAnfang;
         bool mitEnde;
         bool gezeigt;  ///< by the switches of the network
     };
     // What was visible at the place of the point.
     std::vector<Folger> kanten_;
-    std::vector<PktText*> texte_;
+    std::vector<PunktString*> texte_;
+    Bildpunkt ort_;  ///< that place [px]
     bool sichtbar_ = false;
 };
 

@@ -61,7 +61,9 @@ class Werkzeugumgebung {
     /// The point that it shows, null without one.
     [[nodiscard]] virtual const PunktKnoten* GewaehlterPunkt() const = 0;
     /// How much of the picture a label takes [px].
-    [[nodiscard]] virtual Bildbereich Textrahmen(const PktText& text) const = 0;
+    [[nodiscard]] virtual Bildbereich Textrahmen(const PunktString& text) const = 0;
+    /// Width and height of a text in the picture [px].
+    [[nodiscard]] virtual Bildpunkt Textgroesse(std::string_view text) const = 0;
     /// Lists the results of a point or a line; one of them is null.
     virtual void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) = 0;
     [[nodiscard]] virtual TFormBeobTyp& Beobachtungsdialog() = 0;

@@ -30,7 +30,7 @@ void ZentrierenMaus::Schweben(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     if (netz == nullptr) return;
     umgebung_.ZeigeVorschau(
-        Zusammen(MarkiereTreffer(exzentrum_), MarkiereTreffer(netz->ClickGezeigten(ort))));
+        Zusammen(MarkiereTreffer(*netz, exzentrum_), MarkiereTreffer(*netz, netz->ClickGezeigten(ort))));
     if (exzentrum_ != nullptr) umgebung_.ZeigeStatus(Anleitung());
 }
 

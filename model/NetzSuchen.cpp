@@ -1,11 +1,11 @@
-// Which figures may touch a part of the picture: keeps the trees of `Bildsuche` in step with the lists.
+// Which figures may touch a part of a picture: keeps the trees of `Netzsuche` in step with the lists.
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <utility>
 
-#include "model/FigListe.h"
 #include "model/Ganzzahl.h"
+#include "model/Netz.h"
 
 namespace zrw {
 namespace {
@@ -59,27 +59,26 @@ Bildbereich Erweitert(const Bildbereich& b, std::int64_t rand) {
 
 }  // namespace
 
-/// False where all figures may as well be asked: the view holds a good part of the network, or its positions
-/// do not follow from the world.
-bool Liste::Suchbereit(const Bildbereich& b) const {
+/// False where all figures may as well be asked: the view holds a good part of the network, or shows nothing.
+bool Netz::Suchbereit(const Bildlage& lage, const Bildbereich& b) const {
     constexpr double kGuterTeil = 0.25;
-    if (!suche_.Brauchbar()) return false;
-    const Weltkasten wo = suche_.Welt(b);
-    const Weltkasten& netz = suche_.gebaut ? suche_.alles : Weltkasten{MinXW, MinYW, MaxXW, MaxYW};
+    if (!Brauchbar(lage)) return false;
+    if (!suche_.alles) suche_.alles = PunktKnoten != nullptr ? Ausdehnung() : Weltkasten{};
+    const Weltkasten wo = WeltUnter(lage, b);
+    const Weltkasten& netz = *suche_.alles;
     if (Anteil(netz.links, netz.rechts, wo.links, wo.rechts) *
             Anteil(netz.unten, netz.oben, wo.unten, wo.oben) >
         kGuterTeil)
         return false;
-    if (!suche_.Ueberholt()) return true;
-    if (suche_.stand.frisch) BaueSuche();
-    return suche_.stand.frisch;
+    if (suche_.Ueberholt()) BaueSuche();
+    return true;
 }
 
-void Liste::BaueSuche() const {
+void Netz::BaueSuche() const {
     suche_.Vergiss();
     suche_.gebaut = true;
     ++suche_.bauten;
-    suche_.alles = {};
+    Weltkasten& alles = suche_.alles.emplace();
     const auto punkt = [this](std::uint32_t f) -> const zrw::PunktKnoten& { return punktArena_[f].knoten; };
     Folgen folgen;
     Folgen lose;
@@ -88,7 +87,7 @@ void Liste::BaueSuche() const {
         if (!Endlich(punkt(f))) return lose.push_back(f);
         folgen.push_back(f);
         orte.push_back({punkt(f).XWPu, punkt(f).YWPu});
-        suche_.alles.Nimm(punkt(f).XWPu, punkt(f).YWPu);
+        alles.Nimm(punkt(f).XWPu, punkt(f).YWPu);
     });
     Folgen sortiert = SortiereNachOrt(orte);
     Folgen rang(kMaxPunkte + 1);
@@ -129,30 +128,36 @@ void Liste::BaueSuche() const {
                       [&](std::uint32_t f) { return Kasten(*SuchPkt(textArena_[f].knoten.TNr)); });
 }
 
-void Liste::SammlePunkte(const Bildbereich& b, std::vector<PPunktKnoten>& aus) const {
+void Netz::SammlePunkte(const Ansicht& a, const Bildbereich& b, std::vector<PPunktKnoten>& aus) const {
     const auto nimm = [&](std::uint32_t f) { aus.push_back(&punktArena_[f].knoten); };
-    Suchbereit(b) ? suche_.punkte.Suche(suche_.Welt(b), nimm) : suche_.punkte.FuerAlle(nimm);
+    const Bildlage lage = a.Lage();
+    Suchbereit(lage, b) ? suche_.punkte.Suche(WeltUnter(lage, b), nimm) : suche_.punkte.FuerAlle(nimm);
 }
 
-void Liste::SammleKanten(const Bildbereich& b, std::vector<PPunktKante>& aus) const {
-    const auto nimm = [&](std::uint32_t f) { aus.push_back(&kanteArena_[f].knoten); };
-    Suchbereit(b) ? suche_.kanten.Suche(suche_.Welt(b), nimm) : suche_.kanten.FuerAlle(nimm);
+void Netz::SammleKanten(const Ansicht& a, const Bildbereich& b, std::vector<PPunktKante>& aus) const {
+    std::vector<std::uint32_t> folgen;
+    SammleKanten(a, b, folgen);
+    for (const std::uint32_t f : folgen)
+        aus.push_back(&KanteNach(f));
 }
 
-void Liste::SammleKanten(const Bildbereich& b, std::vector<std::uint32_t>& aus) const {
+void Netz::SammleKanten(const Ansicht& a, const Bildbereich& b, std::vector<std::uint32_t>& aus) const {
     const auto nimm = [&](std::uint32_t f) { aus.push_back(f); };
-    Suchbereit(b) ? suche_.kanten.Suche(suche_.Welt(b), nimm) : suche_.kanten.FuerAlle(nimm);
+    const Bildlage lage = a.Lage();
+    Suchbereit(lage, b) ? suche_.kanten.Suche(WeltUnter(lage, b), nimm) : suche_.kanten.FuerAlle(nimm);
 }
 
-void Liste::SammleTexte(const Bildbereich& b, std::vector<PPunktString>& aus) const {
+void Netz::SammleTexte(const Ansicht& a, const Bildbereich& b, std::vector<PPunktString>& aus) const {
     const Bildbereich weiter = Erweitert(b, kNah);
     const auto nimm = [&](std::uint32_t f) { aus.push_back(&textArena_[f].knoten); };
-    Suchbereit(weiter) ? suche_.texte.Suche(suche_.Welt(weiter), nimm) : suche_.texte.FuerAlle(nimm);
+    const Bildlage lage = a.Lage();
+    Suchbereit(lage, weiter) ? suche_.texte.Suche(WeltUnter(lage, weiter), nimm)
+                             : suche_.texte.FuerAlle(nimm);
 }
 
 /// A point came, left or moved: its lines and its label lie elsewhere.
-void Liste::MeldePunkt(const zrw::PunktKnoten& p) {
-    suche_.stand.frisch = false;
+void Netz::MeldePunkt(const zrw::PunktKnoten& p) {
+    lueckenlos_.reset();
     if (!suche_.gebaut) return;
     if (suche_.punkte.Hat(p.Folge)) suche_.punkte.Verlegt(p.Folge);
     FuerKantenAm(p.PNr, [&](const PunktKante& k) { suche_.kanten.Verlegt(k.Folge); });
@@ -160,21 +165,9 @@ void Liste::MeldePunkt(const zrw::PunktKnoten& p) {
 }
 
 /// Another label of the number comes: the one there is may no longer be told when its point moves.
-void Liste::VerdraengeText(PunktIndex nr) {
+void Netz::VerdraengeText(PunktIndex nr) {
     if (!suche_.gebaut) return;
     if (const PunktString* alt = index_.FindeText(nr); alt != nullptr) suche_.texte.Verlegt(alt->Folge);
-}
-
-void Liste::Versetze(zrw::PunktKnoten& p, Welt ort) {
-    p.XWPu = ort.rechts;
-    p.YWPu = ort.hoch;
-    MeldePunkt(p);
-}
-
-void Liste::Versetze(PunktString& t, Bildpunkt abstand) {
-    t.Item->XBiO = abstand.x;
-    t.Item->YBiO = abstand.y;
-    if (suche_.gebaut) suche_.texte.Verlegt(t.Folge);
 }
 
 }  // namespace zrw

@@ -7,6 +7,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "model/Ansicht.h"
@@ -23,11 +24,10 @@ struct Bildbereich {
     std::int64_t unten = 0;
 };
 
-/// The view that picture positions were worked out with; none at first.
-struct Bildstand {
-    Bildlage lage{0.0, {}};
-    bool frisch = false;  ///< no figure came or moved since the positions were worked out
-};
+/// World rectangle that holds every figure at a picture position in the rectangle.
+[[nodiscard]] Weltkasten WeltUnter(const Bildlage& lage, const Bildbereich& b);
+/// Picture positions follow from the world as they do on a map: positive scale, all finite.
+[[nodiscard]] bool Brauchbar(const Bildlage& lage);
 
 /// What is in one list: its figures by `Folge`, and where they are.
 class Suchmenge {
@@ -108,25 +108,20 @@ struct Punktenden {
     PunktIndex e = kKeinPunkt;
 };
 
-/// The three lists together, with the view that their picture positions were worked out with.
-struct Bildsuche {
+/// The three lists together.
+struct Netzsuche {
     Suchmenge punkte;
     Suchmenge kanten;
     Suchmenge texte;
     std::vector<Punktenden> enden;  ///< of the lines by `Folge`: quicker to ask than the lines
-    Bildstand stand;
     bool gebaut = false;
-    std::size_t bauten = 0;  ///< how often it was built
-    Weltkasten alles;        ///< of all points, once built
+    std::size_t bauten = 0;           ///< how often it was built
+    std::optional<Weltkasten> alles;  ///< round all points, as far as one knows: when it was built, or before
 
     /// What came or moved has grown too much to be asked every time.
     [[nodiscard]] bool Ueberholt() const {
         return !gebaut || punkte.Ueberholt() || kanten.Ueberholt() || texte.Ueberholt();
     }
-    /// World rectangle that holds every figure at a picture position in the rectangle.
-    [[nodiscard]] Weltkasten Welt(const Bildbereich& b) const;
-    /// The picture positions follow from the world as they do on a map.
-    [[nodiscard]] bool Brauchbar() const;
     void Vergiss();
 };
 

@@ -1,4 +1,4 @@
-#include "model/Bildsuche.h"
+#include "model/Netzsuche.h"
 
 #include <cmath>
 
@@ -29,19 +29,18 @@ void Suchmenge::VergissOrte() {
     loseBeimBau_ = 0;
 }
 
-bool Bildsuche::Brauchbar() const {
-    const Bildlage& l = stand.lage;
-    return l.faktor > 0.0 && std::isfinite(l.faktor) && std::isfinite(l.ecke.rechts) &&
-           std::isfinite(l.ecke.hoch);
+bool Brauchbar(const Bildlage& lage) {
+    return lage.faktor > 0.0 && std::isfinite(lage.faktor) && std::isfinite(lage.ecke.rechts) &&
+           std::isfinite(lage.ecke.hoch);
 }
 
-Weltkasten Bildsuche::Welt(const Bildbereich& b) const {
-    const double f = stand.lage.faktor;
+Weltkasten WeltUnter(const Bildlage& lage, const Bildbereich& b) {
+    const double f = lage.faktor;
     // Positions are rounded to whole pixels, and the digits of large coordinates end somewhere.
     const double rand = 2.0 * f;
     const auto ungenau = [](double v) { return std::fabs(v) * 1e-12; };
-    const double x = stand.lage.ecke.rechts;
-    const double y = stand.lage.ecke.hoch;
+    const double x = lage.ecke.rechts;
+    const double y = lage.ecke.hoch;
     const double links = x + static_cast<double>(b.links) * f;
     const double rechts = x + static_cast<double>(b.rechts) * f;
     const double oben = y - static_cast<double>(b.oben) * f;
@@ -50,8 +49,9 @@ Weltkasten Bildsuche::Welt(const Bildbereich& b) const {
             rechts + rand + ungenau(rechts) + ungenau(x), oben + rand + ungenau(oben) + ungenau(y)};
 }
 
-void Bildsuche::Vergiss() {
+void Netzsuche::Vergiss() {
     gebaut = false;
+    alles.reset();
     punkte.VergissOrte();
     kanten.VergissOrte();
     texte.VergissOrte();

@@ -1,0 +1,40 @@
+// What of a network is shown, and the texts that stand beside it: a value.
+#pragma once
+
+#include <optional>
+
+#include "model/Figuren.h"
+
+namespace zrw {
+
+struct Darstellung {
+    // Display switches. A new one does not show `FL` points: whoever opens a network sets what it needs.
+    bool ShowPktText = true;
+    bool ShowBeob = true;
+    bool ShowGitter = false;
+    bool ShowKMQ = false;
+    bool ShowLegende = false;
+    bool ShowLgRes = false;
+    bool ShowHRes = false;
+    bool ShowLGGen = false;
+    bool LGGenOn = false;
+    bool ShowHGen = false;
+    bool ShowFP = true;
+    bool ShowFL = false;
+    bool ShowFH = true;
+    bool ShowNP = true;
+    bool ShowHilfP = true;
+    std::optional<Legende> Legend{Legende::Create()};
+
+    /// The point's kind is switched on.
+    [[nodiscard]] bool Dargestellt(const Punkt& p) const;
+    /// Point numbers are. Switching the auxiliary points off hides every label, not only theirs: users know
+    /// it that way.
+    [[nodiscard]] bool ZeigtNummern() const { return ShowPktText && ShowHilfP; }
+    /// Whether any of the overlays with results is on, with the scale bar that comes with them.
+    [[nodiscard]] bool ZeigtErgebnisse() const {
+        return ShowLgRes || ShowHRes || ShowLGGen || LGGenOn || ShowHGen;
+    }
+};
+
+}  // namespace zrw
