@@ -11,6 +11,7 @@
 #include "bench/Netzgenerator.h"
 #include "bench/Tabelle.h"
 #include "input/Oeffnen.h"
+#include "model/Bildorte.h"
 #include "output/Uhr.h"
 #include "ui/Bildpflege.h"
 
@@ -30,30 +31,30 @@ class Handgriffe {
     void Miss(const Ansicht& a) {
         ansicht_ = std::string("Bild ") + a.name + ": ";
         SetzeAnsicht(liste_, a);
-        pflege_.ZeichneNeu(liste_);
+        pflege_.ZeichneNeu(liste_.Vorlage());
         Lauf("schieben um (37, 11)", 5, [&](int i) {
             const zrw::Bildpunkt weg = i % 2 == 0 ? zrw::Bildpunkt{37, 11} : zrw::Bildpunkt{-37, -11};
             liste_.SetzeVersatz(liste_.Versatz(), weg);
-            pflege_.Verschiebe(liste_, weg);
+            pflege_.Verschiebe(liste_.Vorlage(), weg);
         });
         // A point in the middle of the picture disappears with all that is at it, and comes again.
         zrw::PunktKnoten* punkt = Mitte();
         const zrw::Figurenmenge umfeld = liste_.Umfeld(*punkt);
         Lauf("einen Punkt verstecken", 2, [&](int i) {
-            pflege_.Vorher(liste_, umfeld);
+            pflege_.Vorher(liste_.Vorlage(), umfeld);
             for (zrw::PunktKante* k : umfeld.kanten)
                 k->Item->Visible = i % 2 != 0;
             for (zrw::PunktString* t : umfeld.texte)
                 t->Item->Visible = i % 2 != 0;
             punkt->Item->Visible = i % 2 != 0;
-            pflege_.Nachher(liste_, umfeld);
+            pflege_.Nachher(liste_.Vorlage(), umfeld);
         });
         Lauf("Radschritt", 25, [&](int i) {
             const double vorher = liste_.Faktor;
             liste_.Faktor = i % 2 == 0 ? vorher / 1.25 : vorher * 1.25;
             liste_.XOffset += kWeite / 2.0 * (vorher - liste_.Faktor);
             liste_.YOffset -= kHoehe / 2.0 * (vorher - liste_.Faktor);
-            pflege_.ZeichneNeu(liste_);
+            pflege_.ZeichneNeu(liste_.Vorlage());
         });
         MissTreffer();
     }
@@ -71,7 +72,6 @@ class Handgriffe {
                 return 0;
             });
             if (i >= 2) zeiten.push_back(ms);
-            liste_.WeltinBild();
             liste_.ShowPicture(einfacher_);
             anders += bild_.Bild() == vergleich_.Bild() ? 0 : 1;
         }
@@ -104,7 +104,7 @@ class Handgriffe {
 
     zrw::PunktKnoten* Mitte() {
         zrw::PunktKnoten* p = liste_.PunktKnoten;
-        while (p->Next != nullptr && !InDerMitte(p->Item->Position()))
+        while (p->Next != nullptr && !InDerMitte(BildortVon(*p, liste_)))
             p = p->Next;
         return p;
     }

@@ -6,6 +6,13 @@
 
 namespace zrw {
 
+void Auslassung::SetzeFiguren(const Figurenmenge& m) {
+    figuren.clear();
+    figuren.insert(m.punkte.begin(), m.punkte.end());
+    figuren.insert(m.kanten.begin(), m.kanten.end());
+    figuren.insert(m.texte.begin(), m.texte.end());
+}
+
 bool Dargestellt(const PunktKante& k, const Netz& netz, const Darstellung& d) {
     const PunktKnoten* a = netz.SuchPkt(k.ANr);
     const PunktKnoten* e = netz.SuchPkt(k.ENr);

@@ -19,6 +19,8 @@ struct Auslassung {
     std::unordered_set<const void*> figuren;  ///< nodes
     bool legende = false;
 
+    void SetzeFiguren(const Figurenmenge& m);
+
     template <class Knoten>
     [[nodiscard]] bool Hat(const Knoten& k) const {
         return !figuren.empty() && figuren.count(&k) != 0;

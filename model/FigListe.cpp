@@ -124,7 +124,7 @@ void Liste::MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy) {
 }
 
 void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z) {
-    Versetze(p1, {p2.XWPu, p2.YWPu});
+    Zentriere(p1, p2);
     p1.Item->XO = p2.Item->XO;
     p1.Item->YO = p2.Item->YO;
     if (PktText* t = FindPktText(p1.PNr); t != nullptr) t->Hide(z);

@@ -66,6 +66,11 @@ struct Figurenmenge {
     std::vector<PunktString*> texte;
 
     [[nodiscard]] std::size_t Anzahl() const { return punkte.size() + kanten.size() + texte.size(); }
+    void Nimm(const Figurenmenge& m) {
+        punkte.insert(punkte.end(), m.punkte.begin(), m.punkte.end());
+        kanten.insert(kanten.end(), m.kanten.begin(), m.kanten.end());
+        texte.insert(texte.end(), m.texte.begin(), m.texte.end());
+    }
 };
 
 /// A figure that was taken out of its list. Its `Folge` tells where it belongs.

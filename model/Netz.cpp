@@ -166,6 +166,11 @@ void Netz::Versetze(PunktString& t, Bildpunkt abstand) {
     if (suche_.gebaut) suche_.texte.Verlegt(t.Folge);
 }
 
+void Netz::Zentriere(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum) {
+    Versetze(p, {zentrum.XWPu, zentrum.YWPu});
+    if (PktText* t = FindPktText(p.PNr); t != nullptr) t->Visible = false;
+}
+
 void Netz::SetzeBeobachtungen(PunktKante& k, LinieAttr richtung, KanteAttr weitere) {
     k.Item->LAttr = richtung;
     k.Item->KAttr = weitere;

@@ -89,6 +89,8 @@ class Netz {
     /// Moves a point in the world, or a label [px].
     void Versetze(zrw::PunktKnoten& p, Welt ort);
     void Versetze(PunktString& t, Bildpunkt abstand);
+    /// Puts a point onto another one and hides its label.
+    void Zentriere(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum);
     /// Gives a line other observations.
     void SetzeBeobachtungen(PunktKante& k, LinieAttr richtung, KanteAttr weitere);
     /// Swaps start and end of a line.

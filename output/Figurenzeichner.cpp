@@ -68,10 +68,6 @@ Rechteck Figurenzeichner::Textumfang(const PktText& text, Bildpunkt ort) const {
     return Umgebung(ecke, ende, zustand_.flaeche->Texthoehe());
 }
 
-void Figurenzeichner::MerkeGewischt(const Rechteck& r) {
-    gewischt_ = Vereint(gewischt_, r);
-}
-
 void Figurenzeichner::SetzeEbene(Ebene ebene) const {
     if (zustand_.flaeche != nullptr) zustand_.flaeche->SetzeEbene(ebene);
 }
@@ -92,7 +88,6 @@ std::int64_t Figurenzeichner::Symbolreichweite() const {
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
     SetzeEbene(Ebene::Punkte);
-    if (gang == Gang::Wischen) MerkeGewischt(Punktumfang(m));
     const Einstellungen& e = einstellungen_;
     Zeichenflaeche* f = zustand_.flaeche;
     if (f != nullptr && !InReichweite(m, Symbolreichweite(), f->Ausschnitt())) f = nullptr;
@@ -175,7 +170,6 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpun
     const bool nurBild = Plot(gang) == nullptr && Dxf(gang) == nullptr;
     if (nurBild && !Beruehrt(anfang, ende)) return;
     SetzeEbene(Ebene::Beobachtungen);
-    if (gang == Gang::Wischen) MerkeGewischt(Kantenumfang(anfang, ende));
     const Kantenbild bild(kante.KAttr, kante.LAttr, anfang, ende, einstellungen_);
     if (zustand_.flaeche != nullptr) {
         const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
@@ -255,7 +249,6 @@ void Figurenzeichner::SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt en
 
 void Figurenzeichner::ZeichneText(const PktText& text, Bildpunkt stelle, Gang gang) {
     SetzeEbene(Ebene::Punktnummern);
-    if (gang == Gang::Wischen) MerkeGewischt(Textumfang(text, stelle));
     if (zustand_.flaeche != nullptr) ZeigeText(text, stelle, gang == Gang::Wischen ? kWeiss : text.Col);
     // The files always get the whole number. The plot shifts it by the horizontal offset in both directions;
     // plotted sheets have their numbers there.
@@ -304,7 +297,6 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
     if (zustand_.flaeche == nullptr || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Legende);
-    if (gang == Gang::Wischen) MerkeGewischt(zustand_.flaeche->Sichtbar());
     // Printing leaves a device factor behind that means nothing on the screen.
     const double geraetefaktor = zustand_.modus == Zeichenmodus::Drucker ? zustand_.Geraetefaktor : 1.0;
     Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).Zeichne(legende, gang);

@@ -44,9 +44,6 @@ class Figurenzeichner final : public Zeichner {
     [[nodiscard]] Rechteck Punktumfang(Bildpunkt ort) const;
     [[nodiscard]] Rechteck Kantenumfang(Bildpunkt anfang, Bildpunkt ende) const;
     [[nodiscard]] Rechteck Textumfang(const PktText& text, Bildpunkt ort) const;
-    /// Where figures were wiped, which leaves holes in what they crossed; empty where nothing was.
-    [[nodiscard]] const Rechteck& Gewischt() const { return gewischt_; }
-    void VergissGewischtes() { gewischt_ = kKeinRechteck; }
     /// Symbols are small enough for the surface to set their pixels itself.
     [[nodiscard]] bool NurPixel() const { return Symbolreichweite() <= kGroesstesSymbol; }
 
@@ -63,7 +60,6 @@ class Figurenzeichner final : public Zeichner {
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 
     void SetzeEbene(Ebene ebene) const;
-    void MerkeGewischt(const Rechteck& r);
     [[nodiscard]] bool Beruehrt(Bildpunkt anfang, Bildpunkt ende) const;
     /// How far a line's marks reach [px].
     [[nodiscard]] std::int64_t Kantenreichweite() const;
@@ -80,7 +76,6 @@ class Figurenzeichner final : public Zeichner {
     const Einstellungen& einstellungen_;
     const Netzangaben& netz_;
     const Uhr& uhr_;
-    Rechteck gewischt_ = kKeinRechteck;
     std::array<Linienstueck, kMeisteStriche> stuecke_;  ///< of the line that is being drawn
 };
 

@@ -7,31 +7,33 @@ namespace zrw {
 namespace {
 
 /// Whether fitting the extents would show all points. Those of a picture file may be anything.
-bool AusdehnungUmfasstAlles(const Liste& l) {
-    if (!(l.MaxXW > l.MinXW) || !(l.MaxYW > l.MinYW)) return false;
-    for (const PunktKnoten* p = l.PunktKnoten; p != nullptr; p = p->Next) {
-        if (p->XWPu < l.MinXW || p->XWPu > l.MaxXW || p->YWPu < l.MinYW || p->YWPu > l.MaxYW) return false;
-    }
-    return true;
+bool AusdehnungUmfasstAlles(const Ansicht& a, const Netz& netz) {
+    if (!(a.MaxXW > a.MinXW) || !(a.MaxYW > a.MinYW)) return false;
+    bool alle = true;
+    netz.FuerAllePunkte([&](const PunktKnoten& p) {
+        alle = alle && !(p.XWPu < a.MinXW || p.XWPu > a.MaxXW || p.YWPu < a.MinYW || p.YWPu > a.MaxYW);
+    });
+    return alle;
 }
 
 }  // namespace
 
-std::optional<Bildlage> Ansichtssteuerung::Eingepasst(const Liste& liste) {
+std::optional<Bildlage> Ansichtssteuerung::Eingepasst(const Netz& netz, const Ansicht& ansicht,
+                                                      const Darstellung& darstellung) {
     Weltkasten gezeigt;
-    for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
-        if (p->Item->Visible && liste.Dargestellt(*p->Item)) gezeigt.Nimm(p->XWPu, p->YWPu);
-    }
+    netz.FuerAllePunkte([&](const PunktKnoten& p) {
+        if (p.Item->Visible && darstellung.Dargestellt(*p.Item)) gezeigt.Nimm(p.XWPu, p.YWPu);
+    });
     if (gezeigt.Leer()) return std::nullopt;
-    return liste.Eingepasst(gezeigt);
+    return ansicht.Eingepasst(gezeigt);
 }
 
-bool Ansichtssteuerung::Rolle(Ansicht& ansicht, Bildpunkt ort, int schritte) const {
+bool Ansichtssteuerung::Rolle(Ansicht& ansicht, Bildpunkt ort, int schritte, double zoomschritt) {
     const int anzahl = std::min(std::abs(schritte), 10);
     bool gezoomt = false;
     for (int i = 0; i < anzahl; ++i)
-        gezoomt |= ansicht.Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0,
-                                 einstellungen_.Zoomschritt);
+        gezoomt |=
+            ansicht.Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0, zoomschritt);
     return gezoomt;
 }
 
@@ -40,10 +42,11 @@ void Ansichtssteuerung::NeuesNetz() {
     ausdehnungAlt_ = false;
 }
 
-void Ansichtssteuerung::ZeigeAlles(Liste& liste) {
-    if (std::exchange(ausdehnungAlt_, false) || !AusdehnungUmfasstAlles(liste)) liste.FindWorldMinMax();
-    if (liste.PunktKnoten != nullptr) static_cast<Ansicht&>(liste).PasseEin();
-    pflege_.ZeichneNeu(liste);
+void Ansichtssteuerung::PasseEin(const Netz& netz, Ansicht& ansicht) {
+    if (netz.PunktKnoten == nullptr) return;
+    if (std::exchange(ausdehnungAlt_, false) || !AusdehnungUmfasstAlles(ansicht, netz))
+        ansicht.SetzeAusdehnung(netz.Ausdehnung());
+    ansicht.PasseEin();
 }
 
 void Ansichtssteuerung::Merke(const Bildlage& lage) {
@@ -59,11 +62,6 @@ std::optional<Bildlage> Ansichtssteuerung::NimmLetzte() {
     return letzte;
 }
 
-void Ansichtssteuerung::Verschiebe(Liste& liste, Bildpunkt weg) {
-    liste.SetzeVersatz(liste.Versatz(), weg);
-    pflege_.Verschiebe(liste, weg);
-}
-
 void Ansichtssteuerung::BeginneZug(const Ansicht& ansicht) {
     zuganfang_ = ansicht.Versatz();
     gezogen_ = {};
@@ -71,12 +69,12 @@ void Ansichtssteuerung::BeginneZug(const Ansicht& ansicht) {
 }
 
 /// From where dragging began, so that many small moves do not add up their rounding.
-bool Ansichtssteuerung::Folge(Liste& liste) {
-    if (zugziel_ == gezogen_) return false;
-    liste.SetzeVersatz(zuganfang_, zugziel_);
-    pflege_.Verschiebe(liste, Rueckstand());
+std::optional<Bildpunkt> Ansichtssteuerung::Folge(Ansicht& ansicht) {
+    if (zugziel_ == gezogen_) return std::nullopt;
+    const Bildpunkt weg = Rueckstand();
+    ansicht.SetzeVersatz(zuganfang_, zugziel_);
     gezogen_ = zugziel_;
-    return true;
+    return weg;
 }
 
 }  // namespace zrw

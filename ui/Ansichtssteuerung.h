@@ -1,35 +1,33 @@
 // How the user moves the view (model/Ansicht.h): steps of the wheel, dragging, and the views to go back to.
-// Where only the pan offsets change the picture follows (Bildpflege.h); after a change of scale whoever calls
-// draws anew.
+// Changes views only; whoever calls lets the picture follow.
 #pragma once
 
 #include <optional>
 #include <utility>
 #include <vector>
 
-#include "model/FigListe.h"
-#include "ui/Bildpflege.h"
+#include "model/Ansicht.h"
+#include "model/Darstellung.h"
+#include "model/Netz.h"
 
 namespace zrw {
 
 class Ansichtssteuerung {
   public:
-    /// Both must outlive it.
-    Ansichtssteuerung(const Einstellungen& einstellungen, Bildpflege& pflege)
-        : einstellungen_(einstellungen), pflege_(pflege) {}
-
     /// Exactly what is shown; none: no point is.
-    [[nodiscard]] static std::optional<Bildlage> Eingepasst(const Liste& liste);
-    /// Zoom steps of the wheel: down enlarges, up shrinks. @return false: zooming ends here, nothing has
-    /// changed
-    [[nodiscard]] bool Rolle(Ansicht& ansicht, Bildpunkt ort, int schritte) const;
+    [[nodiscard]] static std::optional<Bildlage> Eingepasst(const Netz& netz, const Ansicht& ansicht,
+                                                            const Darstellung& darstellung);
+    /// Zoom steps of the wheel about a position: down enlarges, up shrinks. @param zoomschritt scale after
+    /// one step / before it [-] @return false: zooming ends here, nothing has changed
+    [[nodiscard]] static bool Rolle(Ansicht& ansicht, Bildpunkt ort, int schritte, double zoomschritt);
 
     /// Views belong to a network, and its extents are known when it comes.
     void NeuesNetz();
     /// Points may lie beyond the extents now.
     void NetzGeaendert() { ausdehnungAlt_ = true; }
-    /// Fits the extents into the picture and draws it.
-    void ZeigeAlles(Liste& liste);
+    /// Fits the extents into the picture, new ones where those that are known do not hold all points. Leaves
+    /// the view of an empty network alone.
+    void PasseEin(const Netz& netz, Ansicht& ansicht);
 
     /// A view to go back to.
     void Merke(const Bildlage& lage);
@@ -42,21 +40,17 @@ class Ansichtssteuerung {
     /// The picture is drawn, or need not be. @return whether it was outstanding
     bool SchliesseRad() { return std::exchange(radOffen_, false); }
 
-    /// Moves the network in the picture.
-    void Verschiebe(Liste& liste, Bildpunkt weg);
-
     // Dragging.
     void BeginneZug(const Ansicht& ansicht);
     /// @param ziel where the network is to lie, from where it was at the beginning [px]
     void Ziehe(Bildpunkt ziel) { zugziel_ = ziel; }
     /// How far the picture lies behind [px].
     [[nodiscard]] Bildpunkt Rueckstand() const { return {zugziel_.x - gezogen_.x, zugziel_.y - gezogen_.y}; }
-    /// Brings the network where it is to lie. @return false: it lies there already
-    bool Folge(Liste& liste);
+    /// Brings the network where it is to lie. @return how far it went by that [px]; nothing: it lay there
+    /// already
+    [[nodiscard]] std::optional<Bildpunkt> Folge(Ansicht& ansicht);
 
   private:
-    const Einstellungen& einstellungen_;
-    Bildpflege& pflege_;
     std::vector<Bildlage> ansichten_;
     bool ausdehnungAlt_ = false;
     bool radOffen_ = false;

@@ -4,9 +4,7 @@
 // together.
 #pragma once
 
-#include <vector>
-
-#include "model/FigListe.h"
+#include "model/Bildvorlage.h"
 #include "output/Figurenzeichner.h"
 #include "output/Zeichenzustand.h"
 #include "ui/Bildflaeche.h"
@@ -20,31 +18,30 @@ class Bildpflege {
         : zustand_(zustand), flaeche_(flaeche), zeichner_(zeichner) {}
 
     /// The plain way: the whole picture.
-    void ZeichneNeu(Liste& liste);
-    /// Something was drawn over the picture that is not in the network.
+    void ZeichneNeu(const Bildvorlage& v);
+    /// Something was drawn over the picture that is not in the plan.
     void Beschmutze() { gueltig_ = false; }
-    /// Draws anew where figures were wiped.
-    void Heile(Liste& liste);
 
     /// Whether panning can move the picture: nothing in it stands still or follows rules of its own.
-    [[nodiscard]] bool Verschiebbar(const Liste& liste) const;
+    [[nodiscard]] bool Verschiebbar(const Bildvorlage& v) const;
     /// The view has new pan offsets. @param weg how far the network moves by that [px]
-    void Verschiebe(Liste& liste, Bildpunkt weg);
+    void Verschiebe(const Bildvorlage& v, Bildpunkt weg);
 
-    // A change of some figures: before it, and after it. The picture is then as if drawn anew.
-    void Vorher(Liste& liste, const Figurenmenge& figuren);
-    void Nachher(Liste& liste, const Figurenmenge& figuren);
+    // A change of some figures, or of what is left out: before it, and after it. The picture is then as if
+    // drawn anew.
+    void Vorher(const Bildvorlage& v, const Figurenmenge& figuren);
+    void Nachher(const Bildvorlage& v, const Figurenmenge& figuren);
 
   private:
-    void ZeichneAusschnitt(Liste& liste, const Rechteck& r);
-    [[nodiscard]] Rechteck Umfang(const Liste& liste, const Figurenmenge& figuren) const;
-    [[nodiscard]] bool Oertlich(const Liste& liste) const;
+    void ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r);
+    [[nodiscard]] Rechteck Umfang(const Bildvorlage& v, const Figurenmenge& figuren) const;
+    [[nodiscard]] bool Oertlich(const Bildvorlage& v) const;
 
     const Zeichenzustand& zustand_;
     Bildflaeche& flaeche_;
     Figurenzeichner& zeichner_;
     Ansicht gezeichnet_;    ///< the view of the picture
-    bool gueltig_ = false;  ///< the picture is what a plain redraw draws, but for what was wiped
+    bool gueltig_ = false;  ///< the picture is what a plain redraw draws
     bool oertlich_ = false;
     Rechteck vorher_;
 };

@@ -136,10 +136,10 @@ class Werkzeugleiste final : public QWidget {
 
 TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     : programm_(programm),
+      plan_(programm.netz, programm.dateien, *this),
       flaeche_(1, 1),
       zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
       pflege_(programm.zustand, flaeche_, zeichner_),
-      ansicht_(programm.einstellungen, pflege_),
       druck_(programm_, flaeche_),
       ordner_(programm.sitzung.Ordner()),
       bewahrung_(programm_,
@@ -147,22 +147,15 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
                   [this](const std::exception& fehler) { ZeigeFehler(fehler); },
                   [this](Lesung&& lesung, const std::filesystem::path& datei) {
                       Uebernimm(std::move(lesung), datei);
-                      ungesichert_ = true;
-                      ZeigeTitel();
+                      plan_.MerkeUngesichert();
                   }}) {
-    constexpr int kSchritte = 500;
-    aenderungen_.setUndoLimit(kSchritte);
     programm_.zustand.flaeche = &flaeche_;
     BaueFenster();
     BaueDialoge();
     qApp->installEventFilter(this);
-    connect(&aenderungen_, &QUndoStack::indexChanged, this, [this] { NetzGeaendert(); });
-    connect(&aenderungen_, &QUndoStack::cleanChanged, this, [this] { ZeigeTitel(); });
 }
 
 TZrwMainDlg::~TZrwMainDlg() {
-    // Its signals would reach a window that is half gone.
-    aenderungen_.disconnect(this);
     programm_.zustand.flaeche = nullptr;
 }
 
@@ -194,8 +187,8 @@ void TZrwMainDlg::BaueFenster() {
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(flaeche_, *this, mitte);
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
-        if (liste_ == nullptr) return;
-        druck_.ZeichneRahmen(*liste_, flaeche);
+        if (!plan_.Offen()) return;
+        druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
         ZeichneStehendes(flaeche);
     });
     druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
@@ -229,7 +222,7 @@ static QString Tastenname(const QKeySequence& taste) {
 void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
     for (const Befehl& b : kBefehle) {
         const auto tue = [this, &b] {
-            if ((b.merkmale & kBrauchtNetz) != 0 && liste_ == nullptr) {
+            if ((b.merkmale & kBrauchtNetz) != 0 && !plan_.Offen()) {
                 ZeigeStatus(kOhneNetz);
             } else {
                 (this->*b.klick)();
@@ -257,8 +250,8 @@ void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
          {std::tuple{"RueckgaengigButton", &QUndoStack::canUndo, &QUndoStack::canUndoChanged},
           {"WiederholenButton", &QUndoStack::canRedo, &QUndoStack::canRedoChanged}}) {
         QToolButton& knopf = Knopf(name);
-        knopf.setEnabled((aenderungen_.*geht)());
-        connect(&aenderungen_, ereignis, &knopf, &QToolButton::setEnabled);
+        knopf.setEnabled((plan_.Schritte().*geht)());
+        connect(&plan_.Schritte(), ereignis, &knopf, &QToolButton::setEnabled);
     }
 }
 
@@ -348,7 +341,7 @@ void TZrwMainDlg::BaueDialoge() {
     ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, this);
     ergebnisse_->Fenster().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
-        if (liste_ != nullptr && liste_->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
+        if (plan_.Offen() && plan_.Daten()->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
             ZeigeStatus(QStringLiteral("Punkt %1 ist nicht im Plan.").arg(nummer));
         } else {
             MarkierePunkt(nummer);
@@ -392,7 +385,7 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     }
     werkzeuge_[nummer]->Beginne();
     bild_->setCursor(werkzeuge_[nummer]->Zeiger());
-    ZeigeStatus(liste_ != nullptr ? werkzeuge_[nummer]->Anleitung() : kOhneNetz);
+    ZeigeStatus(plan_.Offen() ? werkzeuge_[nummer]->Anleitung() : kOhneNetz);
 }
 
 void TZrwMainDlg::LoeseWerkzeuge() {
@@ -404,7 +397,7 @@ void TZrwMainDlg::LoeseWerkzeuge() {
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
     if (schalter.imKartengitter && ein) {
-        if (liste_ == nullptr) {
+        if (!plan_.Offen()) {
             schalterkaesten_[static_cast<std::size_t>(&schalter - kSchalter.data())]->setChecked(false);
             return;
         }
@@ -412,9 +405,9 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
             ZeigeStatus(QStringLiteral("Zum Koordinatensystem dieses Netzes gibt es kein Kartengitter."));
         }
     }
-    Schalte(schalter, ein, liste_.get(), programm_.netz, programm_.zustand);
-    if (schalter.imKartengitter && liste_ != nullptr) {
-        const auto text = Blattschnitthinweis(*liste_, programm_.netz, programm_.zustand);
+    Schalte(schalter, ein, plan_.Daten(), programm_.netz, programm_.zustand);
+    if (schalter.imKartengitter && plan_.Offen()) {
+        const auto text = Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand);
         if (!text.empty()) ZeigeStatus(AusUtf8(text));
     }
     const bool ausTabelle =
@@ -422,12 +415,12 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         schalter.inListe == &Darstellung::ShowLGGen || schalter.inListe == &Darstellung::ShowHGen;
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
-    if (ein && ausTabelle && liste_ != nullptr && !programm_.daten.Vorhanden("KooTABLE.DB"))
+    if (ein && ausTabelle && plan_.Offen() && !programm_.daten.Vorhanden("KooTABLE.DB"))
         ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
                     QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));
     if (schalter.schliesstErgebnisse) ergebnisse_->Fenster().hide();
     if (schalter.inListe == nullptr && schalter.imZustand == nullptr) druck_.AktualisiereRahmen();
-    if (liste_ != nullptr) ZeichneNeu();
+    if (plan_.Offen()) ZeichneNeu();
 }
 
 }  // namespace zrw

@@ -8,15 +8,11 @@
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QToolButton>
-#include <QUndoStack>
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <set>
 #include <vector>
 
-#include "input/Oeffnen.h"
-#include "model/FigListe.h"
 #include "output/Figurenzeichner.h"
 #include "ui/Ansichtssteuerung.h"
 #include "ui/Bildflaeche.h"
@@ -24,6 +20,7 @@
 #include "ui/ImageZarwik.h"
 #include "ui/Massstabfeld.h"
 #include "ui/Netzbewahrung.h"
+#include "ui/Plan.h"
 #include "ui/Plandruck.h"
 #include "ui/Programm.h"
 #include "ui/Schalter.h"
@@ -46,7 +43,10 @@ class TFormBeobTyp;
 class TZRWLBLForm;
 class Zentrierkasten;
 
-class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private Werkzeugumgebung {
+class TZrwMainDlg final : public QMainWindow,
+                          private Bildempfaenger,
+                          private Werkzeugumgebung,
+                          private Plan::Beobachter {
   public:
     explicit TZrwMainDlg(const Programm& programm);
     ~TZrwMainDlg() override;
@@ -55,11 +55,11 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     /// previous network stays where the new one cannot be read, and where the user would lose changes.
     void Oeffne(const std::filesystem::path& datei);
     /// The current network, or null before one is opened.
-    [[nodiscard]] const Liste* Netz() const { return liste_.get(); }
+    [[nodiscard]] const Liste* Netz() const { return plan_.Daten(); }
     [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
     /// Offers plots that an earlier run could not save. @return whether one is shown now
     bool BieteRettungAn() { return bewahrung_.BieteAn(); }
-    [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !aenderungen_.isClean(); }
+    [[nodiscard]] bool Ungesichert() const { return plan_.Ungesichert(); }
 
     // Click handlers, by component.
     void SpeedButton1Click();        ///< open a control file
@@ -92,6 +92,7 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
 
   protected:
+    bool event(QEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
     void dragEnterEvent(QDragEnterEvent* ereignis) override;
@@ -137,18 +138,20 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikWheel(Bildpunkt ort, int schritte) override;
     void ImageZarwikResize(int weite, int hoehe) override;
-    [[nodiscard]] Liste* AktuelleListe() override { return liste_.get(); }
+    [[nodiscard]] Liste* AktuelleListe() override { return plan_.Daten(); }
     [[nodiscard]] const Einstellungen& Anzeige() const override { return programm_.einstellungen; }
-    [[nodiscard]] Zeichner& Bildzeichner() override { return zeichner_; }
-    void BildGeaendert() override { bild_->update(); }
+    [[nodiscard]] Bildvorlage Vorlage();
+    void UeberlagerungGeaendert() override { bild_->update(); }
     void ZeichneNeu() override;
+    void LasseAus(Figurenmenge figuren) override;
+    void LasseLegendeAus(bool aus) override;
     void ZeigeVorschau(Vorschau vorschau) override;
     void ZeigeStatus(const QString& text) override;
-    void Tue(std::unique_ptr<Netzaenderung> aenderung) override;
-    void HeileBild() override;
-    void BeginneZug() override { ansicht_.BeginneZug(*liste_); }
+    void Tue(std::unique_ptr<Netzaenderung> aenderung) override { plan_.Tue(std::move(aenderung)); }
+    void BeginneZug() override { ansicht_.BeginneZug(*plan_.Daten()); }
     void ZieheBild(Bildpunkt versatz) override;
     void BeendeZug() override;
+    [[nodiscard]] bool FolgeZug();
     void ZeichneStehendes(Zeichenflaeche& flaeche);
     void Verschiebe(Bildpunkt versatz);
     void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
@@ -156,15 +159,13 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void AnsichtZurueck() override;
 
     // HauptfensterPunkte.cpp
-    template <class Tat>
-    void Fuehre(const Netzaenderung& aenderung, Tat tat);
-    [[nodiscard]] const Netzaenderung& Aenderung(int i) const;
-    void NetzGeaendert();
+    void VorAenderung(const Figurenmenge& figuren) override;
+    void NachAenderung(const Figurenmenge& figuren) override;
+    void StandGeaendert() override { ZeigeTitel(); }
     void FuelleNummern();
     void ZeigePunkt(const QString& nummer);
     const PunktKnoten* MarkierePunkt(const QString& nummer);
     void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
-    void SindZentriert(const std::set<PunktIndex>& nummern);
     void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
@@ -181,17 +182,15 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     void SchliesseEinstellungen();
 
     Programm programm_;
-    std::unique_ptr<Liste> liste_;
-    QUndoStack aenderungen_;
-    bool ungesichert_ = false;  ///< changes that cannot be undone
-    bool beendet_ = false;      ///< closing has been asked about
-    bool planBleibt_ = false;   ///< at the end the unsaved plot is kept for the next start
+    Plan plan_;
+    bool beendet_ = false;     ///< closing has been asked about
+    bool planBleibt_ = false;  ///< at the end the unsaved plot is kept for the next start
     Bildflaeche flaeche_;
     Figurenzeichner zeichner_;
     Bildpflege pflege_;
     Ansichtssteuerung ansicht_;
-    const Netzaenderung* laufende_ = nullptr;           ///< the change that is being made or taken back
-    bool raeumt_ = false;                               ///< void steps leave the stack, nothing changes
+    Figurenmenge ausgelassene_;                         ///< what a tool has in hand
+    Auslassung ohne_;                                   ///< the same for drawing
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
     std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
     std::unique_ptr<LegendeVerschieben> legendenecke_;
@@ -216,9 +215,8 @@ class TZrwMainDlg final : public QMainWindow, private Bildempfaenger, private We
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QString titel_;
-    QString ordner_;               ///< of the last file
-    std::filesystem::path datei_;  ///< opened last, proposes the name for saving
-    Netzbewahrung bewahrung_;      ///< goes first: it asks the members above
+    QString ordner_;           ///< of the last file
+    Netzbewahrung bewahrung_;  ///< goes first: it asks the members above
 };
 
 }  // namespace zrw

@@ -25,9 +25,9 @@ const QString kNichtWeiter = QStringLiteral("Weiter lässt sich das Bild nicht z
 }  // namespace
 
 void TZrwMainDlg::ZeichneNeu() {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     ansicht_.SchliesseRad();
-    pflege_.ZeichneNeu(*liste_);
+    pflege_.ZeichneNeu(Vorlage());
     ZeigeBild();
 }
 
@@ -54,17 +54,18 @@ void TZrwMainDlg::ZeigeVorschau(Vorschau vorschau) {
 }
 
 void TZrwMainDlg::SpeedButton3Click() {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     BrichAb();
-    ansicht_.ZeigeAlles(*liste_);
-    ZeigeBild();
+    ansicht_.PasseEin(*plan_.Daten(), *plan_.Daten());
+    ZeichneNeu();
     ZeigeStand();
 }
 
 /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
 void TZrwMainDlg::EinpassenClick() {
-    if (liste_ == nullptr) return;
-    if (const auto lage = Ansichtssteuerung::Eingepasst(*liste_)) {
+    if (!plan_.Offen()) return;
+    const Liste& netz = *plan_.Daten();
+    if (const auto lage = Ansichtssteuerung::Eingepasst(netz, netz, netz)) {
         ZoomeAuf(*lage);
     } else {
         ZeigeStatus(QStringLiteral("Es ist kein Punkt sichtbar."));
@@ -72,12 +73,12 @@ void TZrwMainDlg::EinpassenClick() {
 }
 
 void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
-    ZoomeAuf(liste_->Ausschnitt(a, b));
+    ZoomeAuf(plan_.Daten()->Ausschnitt(a, b));
 }
 
 /// With a way back.
 void TZrwMainDlg::ZoomeAuf(const Bildlage& lage) {
-    const Bildlage vorher = liste_->Lage();
+    const Bildlage vorher = plan_.Daten()->Lage();
     if (SetzeLage(lage)) ansicht_.Merke(vorher);
 }
 
@@ -87,34 +88,35 @@ bool TZrwMainDlg::SetzeLage(const Bildlage& lage) {
         return false;
     }
     BrichAb();
-    liste_->SetzeLage(lage);
+    plan_.Daten()->SetzeLage(lage);
     ZeichneNeu();
     ZeigeStand();
     return true;
 }
 
 void TZrwMainDlg::AnsichtZurueck() {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     if (const auto vorige = ansicht_.NimmLetzte()) SetzeLage(*vorige);
 }
 
 void TZrwMainDlg::ZoomeUm(Bildpunkt ort) {
-    const Bildlage vorher = liste_->Lage();
+    const Bildlage vorher = plan_.Daten()->Lage();
     Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
-    if (liste_->Faktor != vorher.faktor) ansicht_.Merke(vorher);
+    if (plan_.Daten()->Faktor != vorher.faktor) ansicht_.Merke(vorher);
 }
 
 void TZrwMainDlg::ButtonGroesserClick() {
-    if (liste_ != nullptr) Zoome(liste_->Weite / 2.0, liste_->Hoehe / 2.0, true);
+    if (plan_.Offen()) Zoome(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, true);
 }
 
 void TZrwMainDlg::ButtonKleinerClick() {
-    if (liste_ != nullptr) Zoome(liste_->Weite / 2.0, liste_->Hoehe / 2.0, false);
+    if (plan_.Offen()) Zoome(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, false);
 }
 
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
-    if (!liste_->Zoome(x, y, groesser, programm_.einstellungen.Zoomschritt)) return ZeigeStatus(kNichtWeiter);
+    if (!plan_.Daten()->Zoome(x, y, groesser, programm_.einstellungen.Zoomschritt))
+        return ZeigeStatus(kNichtWeiter);
     ZeichneNeu();
     ZeigeStand();
 }
@@ -128,10 +130,10 @@ void TZrwMainDlg::ZeigeStatus(const QString& text) {
 void TZrwMainDlg::ZeigeStand() {
     std::string text;
     if (maus_) {
-        const Welt w = liste_->BildinWelt(*maus_);
+        const Welt w = plan_.Daten()->BildinWelt(*maus_);
         text = Festkomma(w.rechts, 12, 2) + " " + Festkomma(w.hoch, 12, 2) + " ";
     }
-    ortstext_ = AusUtf8(text + " M=1:" + Festkomma(liste_->Faktor * 1000, 5, 0));
+    ortstext_ = AusUtf8(text + " M=1:" + Festkomma(plan_.Daten()->Faktor * 1000, 5, 0));
     ZeigeStatus(ortstext_);
     // What the tool asks for stays legible while the mouse goes there.
     if (const Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) anleitung_->setText(werkzeug->Anleitung());
@@ -144,7 +146,13 @@ Werkzeug* TZrwMainDlg::Aktiv() const {
     return nullptr;
 }
 
-/// Ends the drag that is under way.
+/// A dialog that opens during a drag gets the release of its button.
+bool TZrwMainDlg::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::WindowBlocked) BrichAb();
+    return QMainWindow::event(ereignis);
+}
+
+/// Ends the drag that is under way: its positions would mean something else afterwards.
 void TZrwMainDlg::BrichAb() {
     if (gedrueckt_ != nullptr) std::exchange(gedrueckt_, nullptr)->Abbrechen();
 }
@@ -165,7 +173,7 @@ void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
         BrichAb();
         if (taste != taste_) return;
     }
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     ZeichneNachRad();
     if (taste == Qt::RightButton && Aktiv() != nullptr) {
         Aktiv()->RechteTaste();
@@ -192,14 +200,14 @@ void TZrwMainDlg::ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) {
 void TZrwMainDlg::ImageZarwikMouseLeave() {
     if (gedrueckt_ != nullptr) return;  // a drag goes on outside
     maus_.reset();
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     if (Werkzeug* werkzeug = Aktiv(); werkzeug != nullptr) werkzeug->Schweben(kNirgends);
     if (statusBar()->currentMessage() == ortstext_) ZeigeStand();
 }
 
 void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
     maus_ = ort;
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     ZeigeStand();
     if (gedrueckt_ != nullptr) {
         gedrueckt_->Ziehen(ort);
@@ -235,9 +243,9 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
     }
     // A tenth of the picture at a time.
     constexpr int kTeile = 10;
-    if (nurTaste && liste_ != nullptr) {
-        const std::int64_t x = liste_->Weite / kTeile;
-        const std::int64_t y = liste_->Hoehe / kTeile;
+    if (nurTaste && plan_.Offen()) {
+        const std::int64_t x = plan_.Daten()->Weite / kTeile;
+        const std::int64_t y = plan_.Daten()->Hoehe / kTeile;
         switch (ereignis->key()) {
             case Qt::Key_Left:
                 return Verschiebe({x, 0});
@@ -255,9 +263,10 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
 }
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
-    if (liste_ == nullptr || gedrueckt_ != nullptr) return;
+    if (!plan_.Offen() || gedrueckt_ != nullptr) return;
     maus_ = ort;
-    if (!ansicht_.Rolle(*liste_, ort, schritte)) return ZeigeStatus(kNichtWeiter);
+    if (!Ansichtssteuerung::Rolle(*plan_.Daten(), ort, schritte, programm_.einstellungen.Zoomschritt))
+        return ZeigeStatus(kNichtWeiter);
     ZeigeStand();
     if (!ansicht_.OeffneRad()) QTimer::singleShot(0, this, [this] { ZeichneNachRad(); });
 }
@@ -269,45 +278,71 @@ void TZrwMainDlg::ZeichneNachRad() {
 void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
     BrichAb();
     flaeche_.SetzeGroesse(weite, hoehe);
-    if (liste_ == nullptr) return;
-    liste_->Weite = weite;
-    liste_->Hoehe = hoehe;
+    if (!plan_.Offen()) return;
+    plan_.Daten()->Weite = weite;
+    plan_.Daten()->Hoehe = hoehe;
     ZeichneNeu();
 }
 
 void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
     BrichAb();
-    ansicht_.Verschiebe(*liste_, versatz);
+    Ansicht& ansicht = *plan_.Daten();
+    ansicht.SetzeVersatz(ansicht.Versatz(), versatz);
+    pflege_.Verschiebe(Vorlage(), versatz);
     ZeigeBild();
     ZeigeStand();
 }
 
-void TZrwMainDlg::HeileBild() {
-    if (liste_ == nullptr) return;
-    pflege_.Heile(*liste_);
+Bildvorlage TZrwMainDlg::Vorlage() {
+    Bildvorlage v = plan_.Daten()->Vorlage();
+    v.ohne = &ohne_;
+    return v;
+}
+
+void TZrwMainDlg::LasseAus(Figurenmenge figuren) {
+    if (!plan_.Offen()) return;
+    Figurenmenge beide = figuren;
+    beide.Nimm(ausgelassene_);
+    pflege_.Vorher(Vorlage(), beide);
+    ausgelassene_ = std::move(figuren);
+    ohne_.SetzeFiguren(ausgelassene_);
+    pflege_.Nachher(Vorlage(), beide);
     ZeigeBild();
+}
+
+void TZrwMainDlg::LasseLegendeAus(bool aus) {
+    ohne_.legende = aus;
+    ZeichneNeu();
 }
 
 void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
     ansicht_.Ziehe(versatz);
-    if (pflege_.Verschiebbar(*liste_)) {
-        if (ansicht_.Folge(*liste_)) ZeigeBild();
+    if (pflege_.Verschiebbar(Vorlage())) {
+        (void)FolgeZug();
     } else {
         // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
-        if (!stehendesLose_ && (liste_->ShowLegende || liste_->ZeigtErgebnisse())) {
+        if (!stehendesLose_ && (plan_.Daten()->ShowLegende || plan_.Daten()->ZeigtErgebnisse())) {
             stehendesLose_ = true;
             const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
-            pflege_.ZeichneNeu(*liste_);
+            pflege_.ZeichneNeu(Vorlage());
         }
         bild_->SetzeVerschiebung(ansicht_.Rueckstand());
     }
 }
 
+/// The picture goes where it is dragged. @return whether it was not there
+bool TZrwMainDlg::FolgeZug() {
+    const auto weg = ansicht_.Folge(*plan_.Daten());
+    if (!weg) return false;
+    pflege_.Verschiebe(Vorlage(), *weg);
+    ZeigeBild();
+    return true;
+}
+
 void TZrwMainDlg::BeendeZug() {
     bild_->SetzeVerschiebung({});
-    const bool gefolgt = ansicht_.Folge(*liste_);
-    if (std::exchange(stehendesLose_, false) && !gefolgt) return ZeichneNeu();
-    if (gefolgt) ZeigeBild();
+    const bool stand = std::exchange(stehendesLose_, false);
+    if (!FolgeZug() && stand) ZeichneNeu();
 }
 
 /// Legend and scale bar over a picture that is drawn without them.
@@ -316,8 +351,8 @@ void TZrwMainDlg::ZeichneStehendes(Zeichenflaeche& flaeche) {
     Zeichenzustand zustand = programm_.zustand;
     zustand.flaeche = &flaeche;
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
-    if (liste_->ShowLegende) liste_->SetLegende(zeichner);
-    zeichner.DrawResMasstab(liste_->Vorlage());
+    if (plan_.Daten()->ShowLegende) plan_.Daten()->SetLegende(zeichner);
+    zeichner.DrawResMasstab(plan_.Daten()->Vorlage());
 }
 
 }  // namespace zrw

@@ -30,26 +30,24 @@ void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
 }
 
 void TZrwMainDlg::SpeedButton12Click() {
-    if (liste_ == nullptr) return;
-    BrichAb();
-    legendentexte_->Bearbeite(*liste_);
-    liste_->Legend->Masstab = druck_.Massstabtext();
+    if (!plan_.Offen()) return;
+    legendentexte_->Bearbeite(*plan_.Daten());
+    plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
     ZeichneNeu();
 }
 
 void TZrwMainDlg::SpeedButton16Click() {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     bewahrung_.Bewahre();
-    BrichAb();  // figures that are being dragged are out of the picture
     const auto massstab = druck_.Massstab();
     if (!massstab) return;
     try {
         const Sanduhr sanduhr;
         const double faktor = Druckfaktor(*massstab, programm_.drucker.Aufloesung());
-        Exportiere(liste_->Vorlage(),
+        Exportiere(plan_.Daten()->Vorlage(),
                    {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr},
                    programm_.dateien, {faktor, kPlotname, kDxfname});
-        if (liste_->ShowLegende) liste_->Legend->Masstab = druck_.Massstabtext();
+        if (plan_.Daten()->ShowLegende) plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
         ZeichneNeu();
     } catch (const std::exception& f) {
         ZeigeFehler(f);
@@ -125,14 +123,14 @@ bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
 
 void TZrwMainDlg::ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) {
     if (punkt != nullptr) {
-        ergebnisse_->ListeAuf(*liste_, *punkt);
+        ergebnisse_->ListeAuf(*plan_.Daten(), *punkt);
     } else if (kante != nullptr) {
-        ergebnisse_->ListeAuf(*liste_, *kante);
+        ergebnisse_->ListeAuf(*plan_.Daten(), *kante);
     }
 }
 
 void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
-    const bool zeigen = sichtbar && liste_ != nullptr;
+    const bool zeigen = sichtbar && plan_.Offen();
     switch (welches) {
         case Nebenfenster::Zentrierung:
             zeigen ? zentrierkasten_->Zeige() : zentrierkasten_->hide();

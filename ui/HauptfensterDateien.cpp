@@ -150,7 +150,7 @@ void TZrwMainDlg::SpeedButton9Click() {
 }
 
 void TZrwMainDlg::SpeedButton7Click() {
-    if (liste_ != nullptr && !BereitZumEnde()) return;
+    if (plan_.Offen() && !BereitZumEnde()) return;
     beendet_ = true;  // has been asked
     close();
 }
@@ -175,13 +175,12 @@ void TZrwMainDlg::LetzteDateienClick() {
 
 /// Asks what is to become of changes that are not saved. False where the user wants to stay.
 bool TZrwMainDlg::DarfVerwerfen() {
-    if (liste_ == nullptr || !Ungesichert()) return true;
+    if (!plan_.Offen() || !Ungesichert()) return true;
     const auto antwort = programm_.dialoge.FrageMitAbbruch(QStringLiteral("Zarwik speichern"));
     return antwort && (!*antwort || (Speichere() && !Ungesichert()));
 }
 
 void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
-    BrichAb();
     if (!beendet_ && !DarfVerwerfen()) {
         ereignis->ignore();
         return;
@@ -232,11 +231,10 @@ void TZrwMainDlg::ZeigeTitel() {
 }
 
 Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() const {
-    return {liste_.get(), titel_.mid(QStringLiteral("Zarwik ").size()), Ungesichert(), gedrueckt_ != nullptr};
+    return {plan_.Daten(), titel_.mid(QStringLiteral("Zarwik ").size()), Ungesichert()};
 }
 
 void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
-    BrichAb();
     if (!DarfVerwerfen()) return;
     // Closing saves what was chosen in it; reading starts from what is saved.
     if (!IstBilddatei(datei)) SchliesseEinstellungen();
@@ -277,12 +275,12 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     if (lesung.ende == Leseende::Programmende) {
         melde();
         // The plot on screen is not to be lost to somebody else's missing file.
-        if (liste_ != nullptr && !BereitZumEnde()) return;
+        if (plan_.Offen() && !BereitZumEnde()) return;
         beendet_ = true;
         close();
         return;
     }
-    if (OhnePunkte(lesung, datei) && liste_ != nullptr && liste_->PunktKnoten != nullptr) {
+    if (OhnePunkte(lesung, datei) && plan_.Offen() && plan_.Daten()->PunktKnoten != nullptr) {
         programm_.einstellungen = vorher;
         ZeigeStatus(QStringLiteral("%1: keine Punkte, das bisherige Netz bleibt.")
                         .arg(AusUtf8(PfadText(datei.filename()))));
@@ -314,7 +312,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         const bool ein =
             schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
-        Schalte(kSchalter[i], ein, liste_.get(), programm_.netz, programm_.zustand);
+        Schalte(kSchalter[i], ein, plan_.Daten(), programm_.netz, programm_.zustand);
         if (kSchalter[i].nurBeiAbweichung)
             schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
@@ -323,71 +321,64 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
 void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
     const Sanduhr sanduhr;
     // Nothing may point into the network that goes now.
+    BrichAb();
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->Abbrechen();
     ergebnisse_->Vergiss();
     druck_.Rahmen().Loese();
     punktart_->Loese();
     ansicht_.NeuesNetz();
-    aenderungen_.clear();
-    ungesichert_ = false;
     bewahrung_.Vergiss();
     zentrierkasten_->Beginne();
-    liste_ = std::move(lesung.liste);
+    plan_.Uebernimm(std::move(lesung.liste), lesung.netz, datei);
     ComboBox1_->Sortiere(IstBilddatei(datei));
     FuelleNummern();
-    const QStringList verborgen = Verborgene(*liste_);
+    const QStringList verborgen = Verborgene(*plan_.Daten());
     if (IstBilddatei(datei) || !verborgen.isEmpty()) versteck_->Versteckte().Setze(verborgen);
     versteck_->Versteckte().NetzGeaendert();
-    programm_.netz = lesung.netz;
     ergebnisse_->WaehleOrdner(datei);
-    datei_ = datei;
     StelleSchalter(IstBilddatei(datei));
-    liste_->Weite = bild_->width();
-    liste_->Hoehe = bild_->height();
+    plan_.Daten()->Weite = bild_->width();
+    plan_.Daten()->Hoehe = bild_->height();
     const QFileInfo info(AusUtf8(PfadText(datei)));
     ordner_ = info.absolutePath();
     titel_ = QStringLiteral("Zarwik ") + QDir::toNativeSeparators(info.filePath());
     ZeigeTitel();
-    if (liste_->PunktKnoten != nullptr || IstBilddatei(datei))
+    if (plan_.Daten()->PunktKnoten != nullptr || IstBilddatei(datei))
         programm_.sitzung.NimmDatei(info.absoluteFilePath());
     programm_.sitzung.MerkeOrdner(ordner_);
     QStringList status(QStringLiteral("%1: %2 Punkte, %3 Linien")
                            .arg(info.fileName())
-                           .arg(liste_->MaxPkte)
-                           .arg(liste_->MaxKant));
+                           .arg(plan_.Daten()->MaxPkte)
+                           .arg(plan_.Daten()->MaxKant));
     status << AusUtf8(Statustext(lesung.bericht))
-           << AusUtf8(Blattschnitthinweis(*liste_, programm_.netz, programm_.zustand));
+           << AusUtf8(Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand));
     status.removeAll(QString());
     ZeigeStatus(status.join(QStringLiteral("; ")));
     // A mode that was chosen before there was a network.
     if (Aktiv() != nullptr) Aktiv()->Beginne();
     // A picture file carries its marks.
-    if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*liste_);
+    if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
     ZeichneNeu();
 }
 
 bool TZrwMainDlg::Speichere() {
-    if (liste_ == nullptr) return true;
-    BrichAb();  // figures that are being dragged are marked invisible
-    QString vorschlag = QFileInfo(AusUtf8(PfadText(datei_))).fileName();
+    if (!plan_.Offen()) return true;
+    QString vorschlag = QFileInfo(AusUtf8(PfadText(plan_.Datei()))).fileName();
     // Of a control file without the extension and its dot.
-    if (!IstBilddatei(datei_)) vorschlag.chop(std::min<qsizetype>(vorschlag.size(), 4));
+    if (!IstBilddatei(plan_.Datei())) vorschlag.chop(std::min<qsizetype>(vorschlag.size(), 4));
     const auto name = programm_.dialoge.WaehleZumSpeichern(
         {QStringLiteral("Zarwik speichern"), kBildfilter, ordner_, vorschlag, QStringLiteral("ZRW")});
     if (!name) return true;
     std::size_t weggelassen = 0;
     try {
         const Sanduhr sanduhr;
-        weggelassen = SchreibeBilddatei(*liste_, programm_.netz, NachPfad(*name), programm_.dateien);
+        weggelassen = plan_.Speichere(NachPfad(*name));
     } catch (const std::exception& f) {
         ZeigeFehler(f);
         return false;
     }
-    ungesichert_ = false;
     bewahrung_.Vergiss();
-    aenderungen_.setClean();
-    ZeigeTitel();
     ordner_ = QFileInfo(*name).absolutePath();
     programm_.sitzung.MerkeOrdner(ordner_);
     programm_.sitzung.NimmDatei(QFileInfo(*name).absoluteFilePath());

@@ -18,17 +18,16 @@ static QString Titel(const std::filesystem::path& datei) {
 }
 
 void TZrwMainDlg::SpeedButton5Click() {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     bewahrung_.Bewahre();
-    BrichAb();
     const auto massstab = druck_.Massstab();
     if (!massstab || !programm_.drucker.Waehle(this)) return;
     druck_.AktualisiereRahmen();  // other paper may have been chosen
-    auto blaetter = druck_.WaehleBlaetter(*liste_, *massstab);
+    auto blaetter = druck_.WaehleBlaetter(*plan_.Daten(), *massstab);
     if (!blaetter) return;
     try {
         const Sanduhr sanduhr;
-        druck_.Drucke(*liste_, std::move(*blaetter), *massstab, Titel(datei_));
+        druck_.Drucke(*plan_.Daten(), std::move(*blaetter), *massstab, Titel(plan_.Datei()));
         ZeigeStatus(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
     } catch (const std::exception& f) {
         ZeigeFehler(f);
@@ -37,14 +36,13 @@ void TZrwMainDlg::SpeedButton5Click() {
 }
 
 void TZrwMainDlg::VorschauClick() {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     bewahrung_.Bewahre();
-    BrichAb();
     const auto massstab = druck_.Massstab();
     if (!massstab) return;
     bool drucken = false;
     try {
-        drucken = druck_.ZeigeVorschau(this, *liste_, *massstab, Titel(datei_));
+        drucken = druck_.ZeigeVorschau(this, *plan_.Daten(), *massstab, Titel(plan_.Datei()));
     } catch (const std::exception& f) {
         ZeigeFehler(f);
     }
@@ -53,15 +51,13 @@ void TZrwMainDlg::VorschauClick() {
 }
 
 void TZrwMainDlg::SpeedButton11Click() {
-    BrichAb();
     programm_.drucker.RichteEin(this);
     druck_.AktualisiereRahmen();
     ZeichneNeu();
 }
 
 void TZrwMainDlg::SpeedButtonClipbrdClick() {
-    if (liste_ == nullptr) return;
-    BrichAb();
+    if (!plan_.Offen()) return;
     const auto name =
         programm_.dialoge.WaehleZumSpeichern({QStringLiteral("Grafik als Bitmap speichern"),
                                               QStringLiteral("Bitmap (*.bmp *.BMP);;PNG-Bild (*.png *.PNG)"),
@@ -73,7 +69,7 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
     {
         QPainter maler(&bild);
         Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1}, flaeche_.Schrift());
-        druck_.ZeichneRahmen(*liste_, flaeche);
+        druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
     }
     // Other programs place the picture in the size that it has on the screen.
     const int jeMeter = static_cast<int>(std::lround(kBildaufloesung * 1000 / kMillimeterJeZoll));

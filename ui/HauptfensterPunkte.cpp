@@ -1,6 +1,4 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
-#include <QScopedValueRollback>
-
 #include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
@@ -12,8 +10,6 @@
 #include "ui/Sanduhr.h"
 #include "ui/Umwandlung.h"
 #include "ui/Zentrierkasten.h"
-#include "ui/aenderungen/Aenderungen.h"
-#include "ui/aenderungen/Verwerfen.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/dialoge/TFormHidePunkte.h"
 
@@ -28,65 +24,39 @@ std::string AlsNummer(const QString& text) {
 
 }  // namespace
 
-// A drag under way ends first: its figures are out of the picture, and what is changed may be one of them.
+// A drag under way ends first: what is changed may be what it has in hand.
 void TZrwMainDlg::Rueckgaengig() {
     BrichAb();
-    if (!aenderungen_.canUndo()) return ZeigeStatus(QStringLiteral("Es gibt nichts zurückzunehmen."));
-    const QString text = aenderungen_.undoText();
-    Fuehre(Aenderung(aenderungen_.index() - 1), [this] { aenderungen_.undo(); });
-    ZeigeStatus(QStringLiteral("Rückgängig: ") + text);
+    const auto text = plan_.Rueckgaengig();
+    ZeigeStatus(text ? QStringLiteral("Rückgängig: ") + *text
+                     : QStringLiteral("Es gibt nichts zurückzunehmen."));
 }
 
 void TZrwMainDlg::Wiederhole() {
     BrichAb();
-    if (!aenderungen_.canRedo()) return ZeigeStatus(QStringLiteral("Es gibt nichts zu wiederholen."));
-    const QString text = aenderungen_.redoText();
-    Fuehre(Aenderung(aenderungen_.index()), [this] { aenderungen_.redo(); });
-    ZeigeStatus(QStringLiteral("Wiederholt: ") + text);
+    const auto text = plan_.Wiederhole();
+    ZeigeStatus(text ? QStringLiteral("Wiederholt: ") + *text
+                     : QStringLiteral("Es gibt nichts zu wiederholen."));
 }
 
-/// All that is on the stack came through `Tue`.
-const Netzaenderung& TZrwMainDlg::Aenderung(int i) const {
-    return static_cast<const Netzaenderung&>(*aenderungen_.command(i));
+void TZrwMainDlg::VorAenderung(const Figurenmenge& figuren) {
+    pflege_.Vorher(Vorlage(), figuren);
 }
 
-void TZrwMainDlg::Tue(std::unique_ptr<Netzaenderung> aenderung) {
-    const Netzaenderung& neu = *aenderung;
-    Fuehre(neu, [&] { aenderungen_.push(aenderung.release()); });
-}
-
-/// Makes a change or takes it back, and draws the picture where it shows.
-template <class Tat>
-void TZrwMainDlg::Fuehre(const Netzaenderung& aenderung, Tat tat) {
-    if (liste_ != nullptr) pflege_.Vorher(*liste_, aenderung.Betroffene());
-    {
-        const QScopedValueRollback laufend(laufende_, &aenderung);
-        tat();
-    }
-    const QScopedValueRollback still(raeumt_, true);
-    Raeume(aenderungen_);
-}
-
-/// A change was made, undone or made again.
-void TZrwMainDlg::NetzGeaendert() {
-    if (liste_ == nullptr || raeumt_) return;
+void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
     ansicht_.NetzGeaendert();
     punktart_->NetzGeaendert();
     versteck_->Versteckte().NetzGeaendert();
-    if (ComboBox1_->Veraltet(*liste_)) FuelleNummern();
-    if (laufende_ != nullptr) {
-        pflege_.Nachher(*liste_, laufende_->Betroffene());
-        ZeigeBild();
-    } else {
-        ZeichneNeu();
-    }
+    if (ComboBox1_->Veraltet(*plan_.Daten())) FuelleNummern();
+    pflege_.Nachher(Vorlage(), figuren);
+    ZeigeBild();
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->NetzGeaendert();
 }
 
 /// In all the lists.
 void TZrwMainDlg::FuelleNummern() {
-    ComboBox1_->Fuelle(*liste_);
+    ComboBox1_->Fuelle(*plan_.Daten());
     const QStringList nummern = ComboBox1_->Nummern();
     zentrierkasten_->Fuelle(nummern);
     if (zentrierkasten_->isVisible()) zentrierkasten_->Zeige();
@@ -104,30 +74,32 @@ void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
     const PunktKnoten* punkt = MarkierePunkt(nummer);
     if (punkt == nullptr) return;
     // A window without any results would only be in the way.
-    if (Knopf("DataButton").isChecked() || ergebnisse_->Vorhanden()) ergebnisse_->ListeAuf(*liste_, *punkt);
+    if (Knopf("DataButton").isChecked() || ergebnisse_->Vorhanden())
+        ergebnisse_->ListeAuf(*plan_.Daten(), *punkt);
 }
 
 /// Brings the point into view and marks it. @return null where there is none of this number
 const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
-    if (liste_ == nullptr || nummer.isEmpty()) return nullptr;
-    PPunktKnoten punkt = liste_->FindPunkt(AlsNummer(nummer));
+    if (!plan_.Offen() || nummer.isEmpty()) return nullptr;
+    PPunktKnoten punkt = plan_.Daten()->FindPunkt(AlsNummer(nummer));
     if (punkt == nullptr) {
-        if (const auto treffer = ComboBox1_->Finde(nummer)) punkt = liste_->FindPunkt(AlsNummer(*treffer));
+        if (const auto treffer = ComboBox1_->Finde(nummer))
+            punkt = plan_.Daten()->FindPunkt(AlsNummer(*treffer));
     }
     if (punkt == nullptr) {
         ZeigeStatus(QStringLiteral("Einen Punkt %1 gibt es nicht.").arg(nummer));
         return nullptr;
     }
     BrichAb();
-    const QString gefunden = AusNetz(liste_->GetPktText(punkt->PNr));
+    const QString gefunden = AusNetz(plan_.Daten()->GetPktText(punkt->PNr));
     ComboBox1_->setEditText(gefunden);
     const Rechteck bild = flaeche_.Sichtbar();
-    if (!InReichweite(BildortVon(*punkt, *liste_), 0, bild)) {
-        liste_->SetzeMitte({punkt->XWPu, punkt->YWPu});
+    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, bild)) {
+        plan_.Daten()->SetzeMitte({punkt->XWPu, punkt->YWPu});
     }
     ZeichneNeu();
-    if (!InReichweite(BildortVon(*punkt, *liste_), 0, bild)) return punkt;
-    const Flaechenpunkt m = Aufflaeche(BildortVon(*punkt, *liste_));
+    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, bild)) return punkt;
+    const Flaechenpunkt m = Aufflaeche(BildortVon(*punkt, *plan_.Daten()));
     {
         const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
         for (const std::int32_t r : {50, 25})
@@ -138,7 +110,7 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     ZeigeStatus(QStringLiteral("Punkt ") + gefunden +
                 (!punkt->Item->Visible
                      ? QStringLiteral(" ist versteckt („Versteckte Punkte“ zeigt ihn wieder)")
-                 : !liste_->Dargestellt(*punkt->Item)
+                 : !plan_.Daten()->Dargestellt(*punkt->Item)
                      ? QStringLiteral(" ist nicht zu sehen: Punkte seiner Art sind ausgeschaltet")
                      : QString()));
     return punkt;
@@ -146,47 +118,27 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
 
 // --- Centring ---------------------------------------------------------------------------------------------
 
-/// Centring is not undone by any command, so what came before cannot be undone at these points either.
-void TZrwMainDlg::SindZentriert(const std::set<PunktIndex>& nummern) {
-    ungesichert_ = true;
-    {
-        const QScopedValueRollback still(raeumt_, true);
-        Verwirf(aenderungen_, nummern);
-    }
-    ansicht_.NetzGeaendert();
-    punktart_->NetzGeaendert();
-    ZeigeTitel();
-}
-
 void TZrwMainDlg::Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
-    liste_->ZentrierPunkt(exzentrum, zentrum, zeichner_);
-    SindZentriert({exzentrum.PNr});
-    ZeichneNeu();
-    ZeigeStatus(
-        QStringLiteral("%1 auf %2 zentriert")
-            .arg(AusNetz(liste_->GetPktText(exzentrum.PNr)), AusNetz(liste_->GetPktText(zentrum.PNr))));
+    plan_.Zentriere({&exzentrum}, zentrum);
+    const Liste& netz = *plan_.Daten();
+    ZeigeStatus(QStringLiteral("%1 auf %2 zentriert")
+                    .arg(AusNetz(netz.GetPktText(exzentrum.PNr)), AusNetz(netz.GetPktText(zentrum.PNr))));
 }
 
 void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren) {
-    if (liste_ == nullptr) return;
+    if (!plan_.Offen()) return;
     const Sanduhr sanduhr;
-    PPunktKnoten ziel = zentrum ? liste_->FindPunkt(AlsNummer(*zentrum)) : nullptr;
-    if (ziel == nullptr || exzentren.isEmpty()) {
-        ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
-    } else {
-        std::set<PunktIndex> nummern;
-        for (const QString& nummer : exzentren) {
-            PPunktKnoten p = liste_->FindPunkt(AlsNummer(nummer));
-            if (p == nullptr) continue;
-            liste_->ZentrierPunkt(*p, *ziel, zeichner_);
-            nummern.insert(p->PNr);
-        }
-        zentrierkasten_->MerkeZentrierte(exzentren);
-        SindZentriert(nummern);
-        ZeigeStatus(
-            QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
+    const Liste& netz = *plan_.Daten();
+    const PunktKnoten* ziel = zentrum ? netz.FindPunkt(AlsNummer(*zentrum)) : nullptr;
+    if (ziel == nullptr || exzentren.isEmpty())
+        return ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
+    std::vector<PPunktKnoten> punkte;
+    for (const QString& nummer : exzentren) {
+        if (PunktKnoten* p = netz.FindPunkt(AlsNummer(nummer)); p != nullptr) punkte.push_back(p);
     }
-    ZeichneNeu();
+    zentrierkasten_->MerkeZentrierte(exzentren);
+    plan_.Zentriere(punkte, *ziel);
+    ZeigeStatus(QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
 }
 
 // --- Hiding -----------------------------------------------------------------------------------------------
@@ -211,9 +163,7 @@ void TZrwMainDlg::VerbergePunkt(PunktKnoten& punkt) {
 }
 
 void TZrwMainDlg::NummernZeigenClick() {
-    if (liste_ == nullptr) return;
-    BrichAb();
-    versteck_->ZeigeNummern();
+    if (plan_.Offen()) versteck_->ZeigeNummern();
 }
 
 void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
@@ -225,7 +175,7 @@ const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {
 }
 
 Bildbereich TZrwMainDlg::Textrahmen(const PunktString& text) const {
-    const Bildpunkt ort = text.Item->Textort(BildortVon(text, *liste_, *liste_));
+    const Bildpunkt ort = text.Item->Textort(BildortVon(text, *plan_.Daten(), *plan_.Daten()));
     const Bildpunkt groesse = Textgroesse(programm_.zustand.Gezeigt(*text.Item));
     return {ort.x, ort.y, Summe(ort.x, groesse.x), Summe(ort.y, groesse.y)};
 }

@@ -24,7 +24,6 @@ void Netzbewahrung::Bewahre() {
     const Plan plan = fenster_.plan();
     if (plan.liste == nullptr) return;
     if (!plan.ungesichert) return Vergiss();
-    if (plan.inBewegung) return;
     try {
         // The next run may start in another folder.
         const QString name = QFileInfo(plan.datei).absoluteFilePath();

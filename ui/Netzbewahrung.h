@@ -24,7 +24,6 @@ class Netzbewahrung {
         const Liste* liste = nullptr;  ///< null before one is opened
         QString datei;                 ///< that it came from
         bool ungesichert = false;
-        bool inBewegung = false;  ///< figures that are being dragged are marked invisible
     };
     /// What it asks of the window, from the event loop and from its own calls only.
     struct Fenster {

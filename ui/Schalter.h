@@ -25,10 +25,10 @@ struct Schalter {
 };
 
 inline constexpr std::array<Schalter, 17> kSchalter{{
-    {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Darstellung::ShowPktText, nullptr,
-     true},
-    {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Darstellung::ShowBeob, nullptr,
-     true},
+    {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Darstellung::ShowPktText,
+     nullptr, true},
+    {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Darstellung::ShowBeob,
+     nullptr, true},
     {"tk25", "CheckBoxGitter", "TK25", "TK25 Einteilung einblenden", &Darstellung::ShowGitter, nullptr, false,
      true},
     {"kmq", "CheckBoxKMQ", "Kilometerquadrat", "Kilometerquadrate einblenden", &Darstellung::ShowKMQ, nullptr,
@@ -38,16 +38,19 @@ inline constexpr std::array<Schalter, 17> kSchalter{{
     {"lageverb", "CheckBoxLGRes", "Lageverbesserungen", "Verbesserungen dY und dX als Striche einblenden",
      &Darstellung::ShowLgRes, nullptr, false, false, true},
     {"hoehenverb", "CheckBoxHRes", "Höhenverbesserungen",
-     "Verbesserungen dH als senkrechte Striche einblenden", &Darstellung::ShowHRes, nullptr, false, false, true},
-    {"lagegen", "CheckBoxLgGen", "Lagegenauigkeit", "Fehlerellipsen einblenden", &Darstellung::ShowLGGen, nullptr,
-     false, false, true},
-    {"hoehengen", "CheckBoxHGen", "Höhengenauigkeit",
-     "Standardabweichungen mH als senkrechte Balken einblenden", &Darstellung::ShowHGen, nullptr, false, false,
+     "Verbesserungen dH als senkrechte Striche einblenden", &Darstellung::ShowHRes, nullptr, false, false,
      true},
+    {"lagegen", "CheckBoxLgGen", "Lagegenauigkeit", "Fehlerellipsen einblenden", &Darstellung::ShowLGGen,
+     nullptr, false, false, true},
+    {"hoehengen", "CheckBoxHGen", "Höhengenauigkeit",
+     "Standardabweichungen mH als senkrechte Balken einblenden", &Darstellung::ShowHGen, nullptr, false,
+     false, true},
     {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Darstellung::ShowFP, nullptr, true, false, true},
-    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Darstellung::ShowFH, nullptr, true, false, true},
+    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Darstellung::ShowFH, nullptr, true, false,
+     true},
     {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Darstellung::ShowNP, nullptr, true, false, true},
-    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Darstellung::ShowFL, nullptr, true, false, true},
+    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Darstellung::ShowFL, nullptr, true, false,
+     true},
     {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Darstellung::ShowHilfP,
      nullptr, true, false, true},
     {"blattschnitt", "CheckBoxBlattschnitt", "Blattschnitt in der Abbildung der Punkte",
@@ -63,7 +66,8 @@ inline constexpr std::array<Schalter, 17> kSchalter{{
 }
 
 /// What is said where map sheets are switched on and lie elsewhere, UTF-8; empty where all is well.
-[[nodiscard]] inline std::string_view Blattschnitthinweis(const Darstellung& darstellung, const Netzangaben& netz,
+[[nodiscard]] inline std::string_view Blattschnitthinweis(const Darstellung& darstellung,
+                                                          const Netzangaben& netz,
                                                           const Zeichenzustand& zustand) {
     if (!darstellung.ShowGitter || zustand.BlattschnittWiePunkte || !BlattschnittWeichtAb(netz)) return {};
     return "TK25 folgt der Abbildung aus $KS, die Punkte liegen in Gauß-Krüger: Die Blätter erscheinen nicht "

@@ -87,7 +87,7 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
         Tafel tafel(n.e);
         Tafel einfach(n.e, false);
         Bildpflege pflege(tafel.zustand, tafel.flaeche, tafel.zeichner);
-        pflege.ZeichneNeu(n.liste);
+        pflege.ZeichneNeu(n.liste.Vorlage());
         QUndoStack stapel;
         const auto gespeichert = [&] {
             ByteSchreiber f;
@@ -102,35 +102,40 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
             if (wahl == 0) {
                 n.WuerfleAnsicht();
                 n.WuerfleSchalter();
-                pflege.ZeichneNeu(n.liste);
+                pflege.ZeichneNeu(n.liste.Vorlage());
             } else if (wahl < 4) {
                 const Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
-                verschoben += pflege.Verschiebbar(n.liste) ? 1 : 0;
+                verschoben += pflege.Verschiebbar(n.liste.Vorlage()) ? 1 : 0;
                 n.liste.SetzeVersatz(n.liste.Versatz(), weg);
-                pflege.Verschiebe(n.liste, weg);
+                pflege.Verschiebe(n.liste.Vorlage(), weg);
             } else if (wahl < 8 || !stapel.canUndo()) {
                 auto aenderung = NeueAenderung(n);
                 Netzaenderung* a = aenderung.release();
-                pflege.Vorher(n.liste, a->Betroffene());
+                pflege.Vorher(n.liste.Vorlage(), a->Betroffene());
                 stapel.push(a);
-                pflege.Nachher(n.liste, a->Betroffene());
+                pflege.Nachher(n.liste.Vorlage(), a->Betroffene());
             } else {
                 const bool zurueck = !stapel.canRedo() || n.W(0, 1) == 0;
                 const auto* a = static_cast<const Netzaenderung*>(
                     stapel.command(zurueck ? stapel.index() - 1 : stapel.index()));
-                pflege.Vorher(n.liste, a->Betroffene());
+                pflege.Vorher(n.liste.Vorlage(), a->Betroffene());
                 zurueck ? stapel.undo() : stapel.redo();
-                pflege.Nachher(n.liste, a->Betroffene());
+                pflege.Nachher(n.liste.Vorlage(), a->Betroffene());
             }
-            // What wiping leaves behind is healed.
+            // What a tool has in hand is left out, and comes back.
             if (n.W(0, 9) == 0) {
-                Punkt& p = *n.Punkt1().Item;
-                const bool sichtbar = p.Visible;
-                p.Hide(tafel.zeichner);
-                p.Visible = sichtbar;
-                pflege.Heile(n.liste);
+                const Figurenmenge figuren = n.liste.Umfeld(n.Punkt1());
+                Auslassung ohne;
+                ohne.SetzeFiguren(figuren);
+                Bildvorlage v = n.liste.Vorlage();
+                for (const Auslassung* aus : {&ohne, static_cast<Auslassung*>(nullptr)}) {
+                    pflege.Vorher(v, figuren);
+                    v.ohne = aus;
+                    pflege.Nachher(v, figuren);
+                    ZeichneBild(v, einfach.zeichner);
+                    ASSERT_EQ(Unterschied(einfach.flaeche.Bild(), tafel.flaeche.Bild()), 0);
+                }
             }
-            n.liste.WeltinBild();
             n.liste.ShowPicture(einfach.zeichner);
             ASSERT_EQ(Unterschied(einfach.flaeche.Bild(), tafel.flaeche.Bild()), 0);
         }

@@ -19,13 +19,9 @@ bool LegendeVerschieben::UeberEcke(Bildpunkt ort) const {
 }
 
 void LegendeVerschieben::Druecken(Bildpunkt ort) {
-    Liste& netz = *umgebung_.AktuelleListe();
-    netz.MausLegende(ort);
+    umgebung_.AktuelleListe()->MausLegende(ort);
     anfang_ = ort;
-    // The network without its legend: wiping it on the way would wipe what lies below.
-    netz.ShowLegende = false;
-    umgebung_.ZeichneNeu();
-    netz.ShowLegende = true;
+    umgebung_.LasseLegendeAus(true);
     Ziehen(ort);
 }
 
@@ -45,8 +41,10 @@ void LegendeVerschieben::Ziehen(Bildpunkt ort) {
 
 void LegendeVerschieben::Loslassen(Bildpunkt ort) {
     if (!anfang_) return;
+    Legende& legende = *umgebung_.AktuelleListe()->Legend;
     const Bildpunkt ziel = Ziel(ort);
-    umgebung_.AktuelleListe()->Legend->Drag(Auf32(ziel.x), Auf32(ziel.y), umgebung_.Bildzeichner());
+    legende.XO = ziel.x;
+    legende.YO = ziel.y;
     Abbrechen();
 }
 
@@ -55,7 +53,7 @@ void LegendeVerschieben::Abbrechen() {
     anfang_.reset();
     umgebung_.AktuelleListe()->Legend->Move = false;
     umgebung_.ZeigeVorschau({});
-    umgebung_.ZeichneNeu();
+    umgebung_.LasseLegendeAus(false);
 }
 
 }  // namespace zrw

@@ -25,15 +25,13 @@ void NummerVerschieben::Druecken(Bildpunkt ort) {
     text_ = netz != nullptr ? NummerUnter(umgebung_, *netz, ort) : nullptr;
     if (text_ == nullptr) return;
     anfang_ = ort;
-    text_->Item->Hide(umgebung_.Bildzeichner());
-    umgebung_.BildGeaendert();
+    umgebung_.LasseAus({{}, {}, {text_}});
     Ziehen(ort);
 }
 
 void NummerVerschieben::Ziehen(Bildpunkt ort) {
     if (text_ == nullptr) return;
     PktText text = *text_->Item;
-    text.Visible = true;
     text.XBiO = Summe(text.XBiO, ort.x - anfang_.x);
     text.YBiO = Summe(text.YBiO, ort.y - anfang_.y);
     const Liste& netz = *umgebung_.AktuelleListe();
@@ -48,24 +46,20 @@ void NummerVerschieben::Loslassen(Bildpunkt ort) {
     PunktString& text = *text_;
     const Bildpunkt alt{text.Item->XBiO, text.Item->YBiO};
     const Bildpunkt abstand{Summe(alt.x, ort.x - anfang_.x), Summe(alt.y, ort.y - anfang_.y)};
-    StelleHer();
-    if (abstand == alt) {
-        umgebung_.HeileBild();
-    } else {
+    LasseLos();
+    if (abstand != alt)
         umgebung_.Tue(std::make_unique<NummerVersetzt>(*umgebung_.AktuelleListe(), text, abstand));
-    }
 }
 
-void NummerVerschieben::StelleHer() {
+void NummerVerschieben::LasseLos() {
+    text_ = nullptr;
     umgebung_.ZeigeVorschau({});
-    std::exchange(text_, nullptr)->Item->Visible = true;
+    umgebung_.LasseAus({});
 }
 
 void NummerVerschieben::Abbrechen() {
     umgebung_.ZeigeVorschau({});
-    if (text_ == nullptr) return;
-    StelleHer();
-    umgebung_.HeileBild();
+    if (text_ != nullptr) LasseLos();
 }
 
 }  // namespace zrw

@@ -18,7 +18,7 @@ class NummerVerschieben final : public Werkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   private:
-    void StelleHer();
+    void LasseLos();
 
     Werkzeugumgebung& umgebung_;
     PPunktString text_ = nullptr;  ///< under the mouse while it is dragged

@@ -1,5 +1,7 @@
 #include "ui/werkzeuge/PunktVerschieben.h"
 
+#include <utility>
+
 #include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
 #include "ui/aenderungen/Aenderungen.h"
@@ -12,7 +14,7 @@ QString PunktVerschieben::Anleitung() const {
 }
 
 void PunktVerschieben::Schweben(Bildpunkt ort) {
-    Liste* netz = umgebung_.AktuelleListe();
+    const Liste* netz = umgebung_.AktuelleListe();
     umgebung_.ZeigeVorschau(netz != nullptr ? MarkiereTreffer(*netz, netz->ClickGezeigten(ort)) : Vorschau());
 }
 
@@ -21,44 +23,40 @@ void PunktVerschieben::Druecken(Bildpunkt ort) {
     punkt_ = netz != nullptr ? netz->ClickGezeigten(ort) : nullptr;
     if (punkt_ == nullptr) return;
     anfang_ = ort;
-    Loese(*netz);
+    Fasse(*netz);
     Ziehen(ort);
 }
 
-/// Takes the figures at the point out of the picture and remembers which of them were in it.
-void PunktVerschieben::Loese(Liste& netz) {
+/// What lies at the place of the point, by position and not by number: it must not stay behind when the point
+/// moves.
+void PunktVerschieben::Fasse(Liste& netz) {
     ort_ = BildortVon(*punkt_, netz);
     const Bildbereich dort = Fangbereich(ort_, 0);
+    Figurenmenge figuren{{punkt_}, {}, {}};
     std::vector<PPunktKante> kanten;
     netz.SammleKanten(netz, dort, kanten);
     for (PPunktKante k : kanten) {
         const Bildpunkt anfang = AnfangVon(*k, netz, netz);
         const Bildpunkt ende = EndeVon(*k, netz, netz);
         if (!k->Item->Visible || (anfang != ort_ && ende != ort_)) continue;
+        figuren.kanten.push_back(k);
         kanten_.push_back({k->Item, anfang, ende, k->ANr == punkt_->PNr, k->ENr == punkt_->PNr,
                            netz.ShowBeob && Dargestellt(*k, netz, netz)});
     }
-    std::vector<PPunktString> texte;
-    netz.SammleTexte(netz, dort, texte);
-    for (PPunktString t : texte) {
-        if (t->Item->Visible && BildortVon(*t, netz, netz) == ort_) texte_.push_back(t);
-    }
-    sichtbar_ = punkt_->Item->Visible;
-    netz.LoesePunkt(*punkt_, umgebung_.Bildzeichner());
-    punkt_->Item->Hide(umgebung_.Bildzeichner());
-    umgebung_.BildGeaendert();
+    netz.SammleTexte(netz, dort, texte_);
+    std::erase_if(texte_, [&](const PunktString* t) {
+        return !t->Item->Visible || BildortVon(*t, netz, netz) != ort_;
+    });
+    figuren.texte = texte_;
+    umgebung_.LasseAus(std::move(figuren));
 }
 
-void PunktVerschieben::StelleHer() {
-    for (const Folger& f : kanten_)
-        f.kante->Visible = true;
-    for (PunktString* t : texte_)
-        t->Item->Visible = true;
-    punkt_->Item->Visible = sichtbar_;
+void PunktVerschieben::LasseLos() {
     kanten_.clear();
     texte_.clear();
     punkt_ = nullptr;
     umgebung_.ZeigeVorschau({});
+    umgebung_.LasseAus({});
 }
 
 void PunktVerschieben::ZeigeVerschoben(Zeichner& z, Bildpunkt versatz) const {
@@ -87,11 +85,8 @@ void PunktVerschieben::Loslassen(Bildpunkt ort) {
     if (punkt_ == nullptr) return;
     PunktKnoten& punkt = *punkt_;
     const Bildpunkt versatz{ort.x - anfang_.x, ort.y - anfang_.y};
-    StelleHer();
-    if (versatz == Bildpunkt{}) {
-        umgebung_.HeileBild();
-        return;
-    }
+    LasseLos();
+    if (versatz == Bildpunkt{}) return;
     Liste& netz = *umgebung_.AktuelleListe();
     umgebung_.Tue(
         std::make_unique<PunktVersetzt>(netz, punkt, netz.Versetzt({punkt.XWPu, punkt.YWPu}, versatz)));
@@ -99,9 +94,7 @@ void PunktVerschieben::Loslassen(Bildpunkt ort) {
 
 void PunktVerschieben::Abbrechen() {
     umgebung_.ZeigeVorschau({});
-    if (punkt_ == nullptr) return;
-    StelleHer();
-    umgebung_.HeileBild();
+    if (punkt_ != nullptr) LasseLos();
 }
 
 }  // namespace zrw

@@ -1,7 +1,6 @@
 // Moving a point: its symbol, its lines and its label follow the mouse, the release moves it.
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "ui/werkzeuge/Werkzeug.h"
@@ -21,8 +20,8 @@ class PunktVerschieben final : public Werkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   private:
-    void Loese(Liste& netz);
-    void StelleHer();
+    void Fasse(Liste& netz);
+    void LasseLos();
     void ZeigeVerschoben(Zeichner& z, Bildpunkt versatz) const;
 
     Werkzeugumgebung& umgebung_;
@@ -30,7 +29,7 @@ class PunktVerschieben final : public Werkzeug {
     Bildpunkt anfang_;
     /// A line at the place of the point; its ends that belong to the point follow.
     struct Folger {
-        Kante* kante;
+        const Kante* kante;
         Bildpunkt anfang;
         Bildpunkt ende;
         bool mitAnfang;
@@ -41,7 +40,6 @@ class PunktVerschieben final : public Werkzeug {
     std::vector<Folger> kanten_;
     std::vector<PunktString*> texte_;
     Bildpunkt ort_;  ///< that place [px]
-    bool sichtbar_ = false;
 };
 
 }  // namespace zrw

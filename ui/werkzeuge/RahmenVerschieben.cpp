@@ -18,7 +18,7 @@ void RahmenVerschieben::Ziehen(Bildpunkt ort) {
     if (!anfang_) return;
     const Welt jetzt = umgebung_.AktuelleListe()->BildinWelt(ort);
     rahmen_.Verlege({ecke_.rechts + jetzt.rechts - anfang_->rechts, ecke_.hoch + jetzt.hoch - anfang_->hoch});
-    umgebung_.BildGeaendert();
+    umgebung_.UeberlagerungGeaendert();
 }
 
 void RahmenVerschieben::Loslassen(Bildpunkt ort) {
@@ -34,7 +34,7 @@ void RahmenVerschieben::Abbrechen() {
     if (!anfang_) return;
     anfang_.reset();
     vorher_ ? rahmen_.Verlege(*vorher_) : rahmen_.Loese();
-    umgebung_.BildGeaendert();
+    umgebung_.UeberlagerungGeaendert();
 }
 
 }  // namespace zrw

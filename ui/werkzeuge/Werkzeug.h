@@ -29,13 +29,13 @@ class Werkzeugumgebung {
     /// The current network, or null before one is opened.
     [[nodiscard]] virtual Liste* AktuelleListe() = 0;
     [[nodiscard]] virtual const Einstellungen& Anzeige() const = 0;
-    /// Draws into the picture itself; `BildGeaendert` then shows it.
-    [[nodiscard]] virtual Zeichner& Bildzeichner() = 0;
-    virtual void BildGeaendert() = 0;
-    /// Draws the whole picture anew from the world coordinates.
+    /// Something that lies over the picture has changed.
+    virtual void UeberlagerungGeaendert() = 0;
+    /// Draws the whole picture anew.
     virtual void ZeichneNeu() = 0;
-    /// Draws anew where something was wiped with `Bildzeichner`.
-    virtual void HeileBild() = 0;
+    /// Leaves figures that the tool has in hand out of the picture, and draws those left out before again.
+    virtual void LasseAus(Figurenmenge figuren) = 0;
+    virtual void LasseLegendeAus(bool aus) = 0;
     virtual void ZeigeVorschau(Vorschau vorschau) = 0;
     virtual void ZeigeStatus(const QString& text) = 0;
     /// Does the change, remembers it for undoing and redraws.

@@ -1,0 +1,100 @@
+#include "ui/Plan.h"
+
+#include <cassert>
+#include <set>
+#include <utility>
+
+#include "model/Bilddatei.h"
+#include "ui/aenderungen/Verwerfen.h"
+
+namespace zrw {
+
+Plan::Plan(Netzangaben& angaben, Dateien& dateien, Beobachter& beobachter)
+    : angaben_(angaben), dateien_(dateien), beobachter_(beobachter) {
+    constexpr int kSchritte = 500;
+    schritte_.setUndoLimit(kSchritte);
+    QObject::connect(&schritte_, &QUndoStack::cleanChanged, &schritte_,
+                     [this] { beobachter_.StandGeaendert(); });
+}
+
+Plan::~Plan() {
+    // Its signals would reach a window that is half gone.
+    schritte_.disconnect();
+}
+
+void Plan::Uebernimm(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
+                     const std::filesystem::path& datei) {
+    assert(liste != nullptr);
+    schritte_.clear();
+    ungesichert_ = false;
+    liste_ = std::move(liste);
+    angaben_ = angaben;
+    datei_ = datei;
+    beobachter_.StandGeaendert();
+}
+
+void Plan::MerkeUngesichert() {
+    ungesichert_ = true;
+    beobachter_.StandGeaendert();
+}
+
+std::size_t Plan::Speichere(const std::filesystem::path& datei) {
+    assert(Offen());
+    const std::size_t weggelassen = SchreibeBilddatei(*liste_, angaben_, datei, dateien_);
+    ungesichert_ = false;
+    schritte_.setClean();
+    beobachter_.StandGeaendert();
+    return weggelassen;
+}
+
+/// All steps came through `Tue`.
+const Netzaenderung& Plan::Schritt(int i) const {
+    return static_cast<const Netzaenderung&>(*schritte_.command(i));
+}
+
+template <class Tat>
+void Plan::Fuehre(const Netzaenderung& aenderung, Tat tat) {
+    beobachter_.VorAenderung(aenderung.Betroffene());
+    tat();
+    beobachter_.NachAenderung(aenderung.Betroffene());
+    Raeume(schritte_);
+}
+
+void Plan::Tue(std::unique_ptr<Netzaenderung> aenderung) {
+    assert(Offen() && aenderung != nullptr);
+    const Netzaenderung& neu = *aenderung;
+    Fuehre(neu, [&] { schritte_.push(aenderung.release()); });
+}
+
+std::optional<QString> Plan::Rueckgaengig() {
+    if (!schritte_.canUndo()) return std::nullopt;
+    const QString text = schritte_.undoText();
+    Fuehre(Schritt(schritte_.index() - 1), [this] { schritte_.undo(); });
+    return text;
+}
+
+std::optional<QString> Plan::Wiederhole() {
+    if (!schritte_.canRedo()) return std::nullopt;
+    const QString text = schritte_.redoText();
+    Fuehre(Schritt(schritte_.index()), [this] { schritte_.redo(); });
+    return text;
+}
+
+void Plan::Zentriere(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum) {
+    assert(Offen());
+    Figurenmenge figuren;
+    std::set<PunktIndex> nummern;
+    for (PunktKnoten* p : exzentren) {
+        figuren.Nimm(liste_->Umfeld(*p));
+        nummern.insert(p->PNr);
+    }
+    beobachter_.VorAenderung(figuren);
+    for (PunktKnoten* p : exzentren)
+        liste_->Zentriere(*p, zentrum);
+    // What came before cannot be undone at these points either.
+    Verwirf(schritte_, nummern);
+    MerkeUngesichert();
+    beobachter_.NachAenderung(figuren);
+}
+
+}  // namespace zrw

@@ -1,0 +1,79 @@
+// The document: network, view and switches, what its control file says about it, the stack of changes, the
+// file that it came from, and whether something of it is unsaved. Every change takes one path: before, do,
+// after.
+#pragma once
+
+#include <QString>
+#include <QUndoStack>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "model/Dateien.h"
+#include "model/FigListe.h"
+#include "ui/aenderungen/Aenderungen.h"
+
+namespace zrw {
+
+class Plan {
+  public:
+    /// Hears of every change of the network: done, taken back or done again.
+    class Beobachter {
+      public:
+        virtual ~Beobachter() = default;
+        /// These figures are about to change. They are as they were.
+        virtual void VorAenderung(const Figurenmenge& figuren) = 0;
+        /// They have changed; others may have come.
+        virtual void NachAenderung(const Figurenmenge& figuren) = 0;
+        /// `Ungesichert` may say something else now.
+        virtual void StandGeaendert() = 0;
+    };
+
+    /// @param angaben what is said about the network as a whole outlives it; all must outlive the plan
+    Plan(Netzangaben& angaben, Dateien& dateien, Beobachter& beobachter);
+    ~Plan();
+    Plan(const Plan&) = delete;
+    Plan& operator=(const Plan&) = delete;
+
+    /// Network, view and switches; null before a file is opened.
+    [[nodiscard]] Liste* Daten() { return liste_.get(); }
+    [[nodiscard]] const Liste* Daten() const { return liste_.get(); }
+    [[nodiscard]] bool Offen() const { return liste_ != nullptr; }
+    /// The file that was opened last.
+    [[nodiscard]] const std::filesystem::path& Datei() const { return datei_; }
+    [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !schritte_.isClean(); }
+    /// For buttons that follow it.
+    [[nodiscard]] const QUndoStack& Schritte() const { return schritte_; }
+
+    /// Takes over what was read; nothing of the plan before is left.
+    void Uebernimm(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
+                   const std::filesystem::path& datei);
+    /// There is something to save that no step tells of.
+    void MerkeUngesichert();
+    /// Saves it as picture file. @return how many labels were left out @throws Fehler: nothing is saved
+    std::size_t Speichere(const std::filesystem::path& datei);
+
+    /// Does the change and remembers it for undoing.
+    void Tue(std::unique_ptr<Netzaenderung> aenderung);
+    // @return what was undone or done again; nothing: there was nothing
+    std::optional<QString> Rueckgaengig();
+    std::optional<QString> Wiederhole();
+    /// Puts points onto another one, for good: that is no step, and steps about these points become void.
+    void Zentriere(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum);
+
+  private:
+    template <class Tat>
+    void Fuehre(const Netzaenderung& aenderung, Tat tat);
+    [[nodiscard]] const Netzaenderung& Schritt(int i) const;
+
+    Netzangaben& angaben_;
+    Dateien& dateien_;
+    Beobachter& beobachter_;
+    std::unique_ptr<Liste> liste_;
+    QUndoStack schritte_;
+    bool ungesichert_ = false;  ///< changes that cannot be undone
+    std::filesystem::path datei_;
+};
+
+}  // namespace zrw
