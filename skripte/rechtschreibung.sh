@@ -46,12 +46,17 @@ def quelltext(zeilen, nur_meldungen):
 
 
 def geschrieben(zeilen, _):
-    """(line, text) of a document without its code, addresses and marks."""
-    code = False
+    """(line, text) of a document without its code, addresses, marks and the paragraph in English."""
+    code = englisch = False
     for nummer, zeile in enumerate(zeilen, 1):
         if zeile.lstrip().startswith("```"):
             code = not code
         elif not code and not zeile.startswith("    "):
+            if zeile.startswith("*In English:"):
+                englisch = True
+            if englisch:
+                englisch = not zeile.rstrip().endswith("*")
+                continue
             zeile = re.sub(r"`[^`]*`|\]\([^)]*\)|<!--.*?-->|<[^>]*>|https?://\S+|&\w+;", " ", zeile)
             # The manual page: remarks, requests, names in bold.
             zeile = re.sub(r"^['.]\\\".*|^\.(TH|B|BR)\b.*|^\.[A-Z]+|\\f[BI].*?\\f[RP]|\\\(\w\w|\\", " ", zeile)
@@ -63,7 +68,8 @@ def worte():
     stellen = {}
     quellen = sorted(f for raum in ("ui", "app", "model", "input", "output")
                      for f in glob.glob(raum + "/**/*", recursive=True) if f.endswith((".cpp", ".h")))
-    texte = sorted([*glob.glob("hilfe/*.md"), *glob.glob("docs/*.md"), *glob.glob("*.md"), "beispiele/README.md",
+    deutsche = [f for f in glob.glob("*.md") if f != "CONTRIBUTING.md"]
+    texte = sorted([*glob.glob("hilfe/*.md"), *glob.glob("docs/*.md"), *deutsche, "beispiele/README.md",
                     "paket/zarwik.1.in"])
     for datei in quellen + texte:
         with open(datei, encoding="utf-8") as f:
