@@ -93,26 +93,6 @@ TEST(Zrwgeo, AmHauptmeridianStehenNurZoneUndNullpunkt) {
     }
 }
 
-TEST(Zrwgeo, DieZoneImRechtswertNenntDenHauptmeridian) {
-    const struct {
-        Abbildung modus;
-        double rechts, hauptmeridian;
-    } faelle[] = {
-        {kGk, 3500000.0, 9.0},
-        {kGk, 4500000.0, 12.0},
-        {kUtm, 32500000.0, 9.0},
-        {kUtm, 29500000.0, -9.0},
-        {kSchlicht, 0.0, 9.0},
-        {Abbildung{255}, 0.0, 9.0},
-        {kGk, 1000000000000500000.0, 3000000000000.0},  // a zone number no integer type of 32 bits holds
-    };
-    const Ellipsoid ell = EllipsoidRadii(1, {50.0});
-    for (const auto& f : faelle) {
-        SCOPED_TRACE(testing::Message() << f.rechts);
-        EXPECT_EQ(GridToGeo(f.modus, 5540000.0, f.rechts, ell.f, ell.a).laenge.wert, f.hauptmeridian);
-    }
-}
-
 // The plain inverse leaves the false easting in, which callers rely on: only without it the way back is
 // right.
 TEST(Zrwgeo, SchlichtNimmtDenNullpunktNichtAb) {

@@ -1,4 +1,4 @@
-// The view: extents, scale, rounding to pixels, zooming, panning and moving points.
+// The view: rounding to pixels, zooming, panning and moving points.
 #include <gtest/gtest.h>
 
 #include <cmath>
