@@ -16,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from collections import Counter
 
 from gemeinsam import DATEINAMEN, bilddatei, dateiname, halbe_dateien, umgebung
 
@@ -169,25 +170,17 @@ def main():
     zufall = random.Random(o.saat)
     with tempfile.TemporaryDirectory() as ort:
         alle = auftraege(os.path.abspath(o.zarwik), os.path.abspath(o.sichern), ort)
-        zahl = {a.name: dict.fromkeys(("Abbrüche", "mitten", "alt", "neu", "nichts", "HALB"), 0) for a in alle}
+        summe = Counter()
         for i in range(o.anzahl):
             a = alle[i % len(alle)]
             mitten, befund = a.toete(zufall, gezielt=i // len(alle) % 2 == 0)
-            z = zahl[a.name]
-            z["Abbrüche"] += 1
-            z["mitten"] += mitten
-            for name, was in befund.items():
-                z[was] += 1
-                if was in ("nichts", "HALB"):
-                    print(f"{a.name}, Abbruch {i}: {name}: {was}")
-    spalten = list(next(iter(zahl.values())))
-    print(f"{'':14}" + "".join(f"{s:>10}" for s in spalten) + "   Dauer, davon Schreiben [ms]")
-    for a in alle:
-        print(f"{a.name:14}" + "".join(f"{zahl[a.name][s]:10}" for s in spalten) +
-              f"   {a.dauer * 1000:.0f}, {a.fenster * 1000:.0f}")
-    summe = {s: sum(z[s] for z in zahl.values()) for s in spalten}
-    print(f"{'zusammen':14}" + "".join(f"{summe[s]:10}" for s in spalten) + f"   Saat {o.saat}")
-    getroffen = summe["alt"] and summe["neu"] and summe["mitten"]
+            summe["mitten im Schreiben"] += mitten
+            summe.update(befund.values())
+            schlecht = {n: was for n, was in befund.items() if was in ("nichts", "HALB")}
+            if schlecht:
+                print(f"{a.name}, Abbruch {i}: {schlecht}")
+    print(f"{o.anzahl} Abbrüche, Saat {o.saat}: " + ", ".join(f"{n}-mal {was}" for was, n in sorted(summe.items())))
+    getroffen = summe["alt"] and summe["neu"] and summe["mitten im Schreiben"]
     return 0 if getroffen and not summe["nichts"] and not summe["HALB"] else 1
 
 
