@@ -428,12 +428,6 @@ TEST(Paradoxschreiber, LehntAbWasNichtHineinpasst) {
     EXPECT_EQ(Gelesen(Schreibe("T", breit, satz, 0).db), "1 - - - - - 'z' ");
     ++breit.back().groesse;
     EXPECT_THROW((void)Schreibe("T", breit, satz, 0), Fehler);
-    // Three in a block, and one more than 65535 blocks hold.
-    breit.resize(3);
-    std::vector<std::vector<Wert>> viele(3 * 65535 + 1, {{}, {}, {}});
-    for (std::size_t i = 0; i < viele.size(); ++i)
-        viele[i].front() = static_cast<std::int64_t>(i + 1);
-    EXPECT_THROW((void)Schreibe("T", breit, viele, 0), Fehler);
 }
 
 }  // namespace
