@@ -29,7 +29,10 @@ class Rasterflaeche final : public Zeichenflaeche {
         return true;
     }
     void BeendeVonVorn() override { bild_.BeendeVonVorn(); }
-    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return bild_.Verdeckt(r); }
+    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
+        verdeckt += bild_.Verdeckt(r) ? 1 : 0;
+        return bild_.Verdeckt(r);
+    }
 
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override {
         bild_.Linie(von, nach, AktuellerStift().farbe.wert, AktuellerStift().art);
@@ -78,7 +81,8 @@ class Rasterflaeche final : public Zeichenflaeche {
     [[nodiscard]] std::int32_t Schriftgrad() const override { return 8; }
     [[nodiscard]] std::int32_t Schrifthoehe() const override { return kSchrift; }
 
-    int vonVorn = 0;  ///< how often drawing went from the front to the back
+    int vonVorn = 0;           ///< how often drawing went from the front to the back
+    mutable int verdeckt = 0;  ///< how often it found nothing left to draw on
 
   private:
     static constexpr std::int32_t kWeit = 1 << 29;

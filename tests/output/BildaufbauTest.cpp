@@ -46,6 +46,7 @@ void PruefeTreffer(Zufallsnetz& n) {
 
 TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
     int vonVorn = 0;
+    int verdeckt = 0;
     for (unsigned saat = 1; saat <= 24; ++saat) {
         Zufallsnetz n(saat, kWeite, kHoehe);
         Tafel schnell(n.e);
@@ -75,8 +76,10 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
             PruefeTreffer(n);
         }
         vonVorn += schnell.flaeche.vonVorn;
+        verdeckt += schnell.flaeche.verdeckt;
     }
     EXPECT_GT(vonVorn, 10) << "too few dense pictures to say anything";
+    EXPECT_GT(verdeckt, 15000) << "what is covered must be known, else the quick way is none";
 }
 
 }  // namespace
