@@ -100,6 +100,31 @@ TEST_F(Systemdatei, ErsetztAlsGanzes) {
     EXPECT_TRUE(fs::is_symlink(ordner / "erster") && fs::is_symlink(ordner / "Unter\xC3\x84" / "zweiter"));
 }
 
+TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
+    Lege("alt", "vorher");
+    for (const fs::path& ziel : {ordner / "Unter\xC3\x84", ordner / "fehlt" / "x", ordner / "alt" / "x"}) {
+        EXPECT_THROW(dateien.Ersetze(ziel, "neu"), Fehler) << ziel;
+    }
+    // A file that somebody has protected; root may write it all the same.
+    if (::geteuid() != 0) {
+        fs::permissions(ordner / "alt", fs::perms::owner_read);
+        EXPECT_THROW(dateien.Ersetze(ordner / "alt", "neu"), Fehler);
+    }
+    // A pipe stays a pipe, by its own name and by a link to it.
+    ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
+    fs::create_symlink("rohr", ordner / "verweis");
+    for (const char* ziel : {"rohr", "verweis"}) {
+        EXPECT_THROW(dateien.Ersetze(ordner / ziel, "neu"), Fehler) << ziel;
+        EXPECT_TRUE(fs::is_fifo(ordner / ziel)) << ziel;
+    }
+    fs::create_symlink("kreis", ordner / "kreis");
+    EXPECT_THROW(dateien.Ersetze(ordner / "kreis", "neu"), Fehler);
+    EXPECT_TRUE(fs::is_symlink(ordner / "kreis"));
+    EXPECT_EQ(Inhalt("alt"), "vorher");
+    // Nothing is left beside.
+    EXPECT_EQ(std::distance(fs::directory_iterator(ordner), fs::directory_iterator()), 5);
+}
+
 TEST_F(Systemdatei, FindetInJederSchreibweise) {
     Lege("Unter\xC3\x84/Tief/Daten.SF", "");
     Lege("GENAU", "");
