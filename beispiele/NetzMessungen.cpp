@@ -10,7 +10,7 @@
 #include "beispiele/Dreiecke.h"
 #include "beispiele/Netz.h"
 #include "beispiele/Zufall.h"
-#include "input/Zrwgeo.h"
+#include "geo/Zrwgeo.h"
 
 namespace zrw::beispiel {
 namespace {

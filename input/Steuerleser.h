@@ -7,12 +7,12 @@
 #include <string>
 #include <string_view>
 
+#include "geo/Zrwgeo.h"
 #include "input/Feldleser.h"
 #include "input/Netzarten.h"
 #include "input/Netzbauer.h"
 #include "input/Steuerdatei.h"
 #include "input/Zeilenquelle.h"
-#include "input/Zrwgeo.h"
 
 namespace zrw {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "input/Zrwgeo.h"
+#include "geo/Zrwgeo.h"
 #include "model/Bildvorlage.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"

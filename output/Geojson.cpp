@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "geo/Zrwgeo.h"
 #include "input/Netzarten.h"
-#include "input/Zrwgeo.h"
 #include "model/Cp1252.h"
 #include "model/Punktarten.h"
 #include "model/Zahlentext.h"

@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "geo/Winkel.h"
 #include "input/tabellen/Punktergebnisse.h"
 #include "model/Bildvorlage.h"
 #include "model/Einstellungen.h"
-#include "model/Winkel.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeichenzustand.h"
 

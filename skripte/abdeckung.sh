@@ -17,8 +17,8 @@ find "$bau" -name '*.gcda' -delete
 "$bau/tests/kern_test" --gtest_brief=1
 
 bericht=$bau/abdeckung.json
-gcovr --root "$wurzel" --filter 'model/' --filter 'input/' --filter 'output/' --exclude-unreachable-branches \
-    --exclude-throw-branches --json-summary "$bericht" "$bau"
+gcovr --root "$wurzel" --filter 'geo/' --filter 'model/' --filter 'input/' --filter 'output/' \
+    --exclude-unreachable-branches --exclude-throw-branches --json-summary "$bericht" "$bau"
 python3 - "$bericht" "$mindestens" <<'PYTHON'
 import json
 import sys
@@ -42,7 +42,7 @@ print("Am wenigsten:")
 for d in sorted(dateien, key=lambda d: anteil(d["line_covered"], d["line_total"]))[:12]:
     print(zeile(d["filename"], d))
 print()
-for raum in ("model", "input", "output"):
+for raum in ("geo", "model", "input", "output"):
     hier = [d for d in dateien if d["filename"].startswith(raum + "/")]
     print(zeile(raum, {k: sum(d[k] for d in hier) for k in
                        ("line_covered", "line_total", "branch_covered", "branch_total")}))

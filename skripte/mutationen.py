@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Small seeded changes to model/, input/ and output/, one at a time: do the tests of the core notice?
+"""Small seeded changes to geo/, model/, input/ and output/, one at a time: do the tests of the core notice?
 
 usage: skripte/mutationen.py [--anzahl N] [--saat S] [--ort ORDNER] [--auch REGEX] [--zeit SEKUNDEN] [--nochmal]
 
@@ -26,7 +26,7 @@ import time
 from pathlib import Path
 
 WURZEL = Path(__file__).resolve().parent.parent
-RAEUME = ("model", "input", "output")
+RAEUME = ("geo", "model", "input", "output")
 ERGEBNISSE = ("getötet", "getötet vom Programmtest", "überlebt", "baut nicht")
 PROGRAMMTESTS = "^(ergebnisse|golden_export|geojson|hp2xx|pdf|svg|fenster_test)$"
 PROGRAMMZEIT = 400  # seconds

@@ -66,7 +66,7 @@ def geschrieben(zeilen, _):
 def worte():
     """Each word with the places where it stands."""
     stellen = {}
-    quellen = sorted(f for raum in ("ui", "app", "model", "input", "output")
+    quellen = sorted(f for raum in ("ui", "app", "geo", "model", "input", "output")
                      for f in glob.glob(raum + "/**/*", recursive=True) if f.endswith((".cpp", ".h")))
     deutsche = [f for f in glob.glob("*.md") if f != "CONTRIBUTING.md"]
     texte = sorted([*glob.glob("hilfe/*.md"), *glob.glob("docs/*.md"), *deutsche, "beispiele/README.md",

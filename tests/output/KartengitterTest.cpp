@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <set>
 
-#include "input/Zrwgeo.h"
+#include "geo/Zrwgeo.h"
 #include "tests/hilfe/MerkFlaeche.h"
 #include "tests/hilfe/Probenetz.h"
 #include "tests/hilfe/Speicherdateien.h"

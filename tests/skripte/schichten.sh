@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# The rooms may include downwards only (app -> ui -> output -> input -> model), Qt lives in ui/ and app/, SQLite in
+# The rooms may include downwards only (app -> ui -> output -> input -> model -> geo), Qt lives in ui/ and app/, SQLite in
 # input/. A room is named by the first part of the include path.
 # usage: schichten.sh PROGRAMM WURZEL
 set -euo pipefail
 cd "$2"
-raeume=(model input output ui app)
+raeume=(geo model input output ui app)
 fehler=0
 melde() {
     echo "$1"

@@ -1,6 +1,6 @@
 // The mappings against an independent transverse Mercator, the ellipsoid table, the limits of the arithmetic
 // and the behaviours that look like mistakes but are meant.
-#include "input/Zrwgeo.h"
+#include "geo/Zrwgeo.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "model/Winkel.h"
+#include "geo/Winkel.h"
 
 namespace zrw {
 

@@ -1,4 +1,4 @@
-#include "input/Zrwgeo.h"
+#include "geo/Zrwgeo.h"
 
 #include <array>
 #include <cmath>
