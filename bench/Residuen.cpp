@@ -9,7 +9,7 @@
 #include "bench/Messung.h"
 #include "bench/Netzgenerator.h"
 #include "bench/Tabelle.h"
-#include "input/tabellen/Punktergebnisse.h"
+#include "model/Punktergebnisse.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "input/Feldleser.h"
-#include "input/Netzarten.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
+#include "model/Netzarten.h"
 
 namespace zrw {
 namespace {

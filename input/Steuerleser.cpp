@@ -7,6 +7,7 @@
 #include <limits>
 #include <utility>
 
+#include "input/Punktfelder.h"
 #include "input/Steuerleser.h"
 #include "input/Steuersaetze.h"
 #include "model/Cp1252.h"

@@ -9,10 +9,10 @@
 
 #include "geo/Zrwgeo.h"
 #include "input/Feldleser.h"
-#include "input/Netzarten.h"
 #include "input/Netzbauer.h"
 #include "input/Steuerdatei.h"
 #include "input/Zeilenquelle.h"
+#include "model/Netzarten.h"
 
 namespace zrw {
 

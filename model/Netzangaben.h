@@ -2,9 +2,9 @@
 // needs it after a picture file was opened.
 #pragma once
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
+
+#include "model/Netzarten.h"
 
 namespace zrw {
 
@@ -18,17 +18,5 @@ struct Netzangaben {
     bool AbbildungGenannt = false;     ///< meridian and mode stand in the file; else they are the usual ones
     bool EllipsoidGenannt = false;     ///< so does the ellipsoid
 };
-
-/// Whether the points were projected while they were read, in Gauss-Krüger whatever the mode says.
-[[nodiscard]] constexpr bool PunkteInGaussKrueger(std::int32_t netztyp) {
-    return netztyp == 6 || netztyp == 7;
-}
-
-/// Whether the coordinates of a network type lie in the grid of the map sheets. Networks of other types have
-/// neither sheets nor kilometre squares.
-[[nodiscard]] constexpr bool HatKartengitter(std::int32_t netztyp) {
-    constexpr std::array<std::int32_t, 6> kMitGitter{2, 3, 4, 6, 7, 51};
-    return std::find(kMitGitter.begin(), kMitGitter.end(), netztyp) != kMitGitter.end();
-}
 
 }  // namespace zrw

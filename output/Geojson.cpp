@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "geo/Zrwgeo.h"
-#include "input/Netzarten.h"
 #include "model/Cp1252.h"
+#include "model/Netzarten.h"
 #include "model/Punktarten.h"
 #include "model/Zahlentext.h"
 #include "output/Textausgabe.h"

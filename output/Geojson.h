@@ -5,10 +5,10 @@
 #include <filesystem>
 #include <optional>
 
-#include "input/tabellen/Punktergebnisse.h"
 #include "model/Dateien.h"
 #include "model/Netz.h"
 #include "model/Netzangaben.h"
+#include "model/Punktergebnisse.h"
 
 namespace zrw {
 

@@ -9,9 +9,9 @@
 #include <string_view>
 
 #include "geo/Winkel.h"
-#include "input/tabellen/Punktergebnisse.h"
 #include "model/Bildvorlage.h"
 #include "model/Einstellungen.h"
+#include "model/Punktergebnisse.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeichenzustand.h"
 

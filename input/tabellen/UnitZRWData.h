@@ -12,8 +12,8 @@
 
 #include "input/tabellen/Datenbank.h"
 #include "input/tabellen/Ergebnistabellen.h"
-#include "input/tabellen/Punktergebnisse.h"
 #include "model/Dateien.h"
+#include "model/Punktergebnisse.h"
 #include "model/Streutafel.h"
 #include "model/Werte.h"
 

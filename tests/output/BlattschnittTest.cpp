@@ -4,9 +4,9 @@
 
 #include <limits>
 
-#include "input/tabellen/Punktergebnisse.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
+#include "model/Punktergebnisse.h"
 #include "tests/hilfe/MerkFlaeche.h"
 #include "tests/hilfe/Probenetz.h"
 #include "tests/hilfe/Zeichentafel.h"
