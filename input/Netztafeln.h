@@ -13,6 +13,7 @@
 #include "model/GrosserSpeicher.h"
 #include "model/Markentafel.h"
 #include "model/Saat.h"
+#include "model/Vorabruf.h"
 #include "model/Werte.h"
 
 namespace zrw {

@@ -11,6 +11,7 @@
 #include "model/Ansicht.h"
 #include "model/Knoten.h"
 #include "model/Netz.h"
+#include "model/Vorabruf.h"
 #include "model/Werte.h"
 
 namespace zrw {

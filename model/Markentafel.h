@@ -11,15 +11,9 @@
 #include <vector>
 
 #include "model/GrosserSpeicher.h"
+#include "model/Vorabruf.h"
 
 namespace zrw {
-
-/// Begins to fetch memory that will be read soon.
-inline void HoleVor([[maybe_unused]] const void* platz) {
-#ifdef __GNUC__
-    __builtin_prefetch(platz);
-#endif
-}
 
 /// Callers hand over the hash of the key they mean, and tell it of a thing, `streuwert(nr)`, or whether a
 /// thing has that key, `gleich(nr)`. Everything but `Erwarte`, `Anzahl` and `Leere` needs room.

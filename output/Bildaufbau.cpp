@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "model/Vorabruf.h"
 #include "output/Abschneiden.h"
 #include "output/Figurenzeichner.h"
 
@@ -17,8 +18,8 @@ template <class Knoten>
 void Hole(const Knoten* knoten) {
     constexpr std::size_t kSpeicherzeile = 64;
     const auto* anfang = reinterpret_cast<const char*>(knoten);
-    __builtin_prefetch(anfang);
-    __builtin_prefetch(anfang + kSpeicherzeile);
+    HoleVor(anfang);
+    HoleVor(anfang + kSpeicherzeile);
 }
 
 /// Calls `tun(place)` for nodes, newest first or oldest first.
