@@ -16,8 +16,8 @@ class ByteLeser;
 class Zeichner;
 struct Einstellungen;
 
-/// Point symbol: dot, circle, cross, square, rhombus, triangle. Bytes of a picture file may hold other
-/// values; they are kept and draw nothing.
+/// Point symbol: dot, circle, cross, square, rhombus, triangle; see Punktsymbole.h. Bytes of a picture file
+/// may hold other values; they are kept and draw nothing.
 enum class PunktTyp : std::uint8_t { Pkt, Krei, Kreu, Qua, Rau, Drei };
 /// Point kind: fixed point (position and height), horizontal-control, height-control and new point.
 enum class PunktArt : std::uint8_t { FP, FL, FH, NP };

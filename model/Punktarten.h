@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "model/Aufzaehltafel.h"
 #include "model/Darstellung.h"
 #include "model/Einstellungen.h"
 #include "model/Figuren.h"
@@ -19,13 +20,13 @@ struct Punktart {
     bool Darstellung::*schalter;
 };
 
-/// In the order of the enumeration.
-inline constexpr std::array<Punktart, 4> kPunktarten{{
+inline constexpr auto kPunktarten = std::to_array<Punktart>({
     {PunktArt::FP, "FP", "Festpunkt", "Anschlußpunkt 2D,3D", &Einstellungen::FPCol, &Darstellung::ShowFP},
     {PunktArt::FL, "FL", "Lagefestpunkt", "Anschlußpunkt 2D", &Einstellungen::FLCol, &Darstellung::ShowFL},
     {PunktArt::FH, "FH", "Höhenfestpunkt", "Anschlußpunkt Höhe", &Einstellungen::FHCol, &Darstellung::ShowFH},
     {PunktArt::NP, "NP", "Neupunkt", "Neupunkt", &Einstellungen::NPCol, &Darstellung::ShowNP},
-}};
+});
+static_assert(InReihe(kPunktarten, &Punktart::art, PunktArt::NP));
 
 [[nodiscard]] constexpr const Punktart& ZurArt(PunktArt art) {
     return kPunktarten[static_cast<std::size_t>(art)];

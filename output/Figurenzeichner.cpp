@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <tuple>
 
 #include "geo/Zrwgeo.h"
 #include "model/Bildvorlage.h"
 #include "model/Ganzzahl.h"
+#include "model/Punktsymbole.h"
 #include "output/Abschneiden.h"
 #include "output/Bildaufbau.h"
 #include "output/Kartengitter.h"
@@ -81,14 +83,15 @@ void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
 
 std::int64_t Figurenzeichner::Symbolreichweite() const {
     const Einstellungen& e = einstellungen_;
-    return std::max({e.PTSize, e.HPSize, e.Kreuzgroesse, e.Quadratgroesse, e.RauteQuer, e.RauteLaengs,
-                     e.Dreieckgroesse}) +
-           1;
+    return std::apply(
+        [&e](const auto&... s) {
+            return std::max({e.*s.quer..., e.*s.laengs...}) + 1;
+        },
+        kPunktsymbole);
 }
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
     SetzeEbene(Ebene::Punkte);
-    const Einstellungen& e = einstellungen_;
     Zeichenflaeche* f = zustand_.flaeche;
     if (f != nullptr && !InReichweite(m, Symbolreichweite(), f->Ausschnitt())) f = nullptr;
     const Symbolziel ziel{f, Plot(gang), Dxf(gang)};
@@ -98,41 +101,32 @@ void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
         wechsel.emplace(*f, Stift{farbe, 1, Strichart::Voll},
                         Pinsel{punkt.PktAttr == PunktAttr::Fu ? farbe : kWeiss, false});
     }
-    switch (punkt.PktTyp) {
-        case PunktTyp::Pkt:
-            Scheibe(ziel, m, e.HPSize, punkt.PktTyp);
+    if (const Punktsymbol* symbol = ZumSymbol(punkt.PktTyp); symbol != nullptr)
+        ZeichneSymbol(ziel, m, *symbol);
+}
+
+void Figurenzeichner::ZeichneSymbol(const Symbolziel& ziel, Bildpunkt m, const Punktsymbol& symbol) const {
+    const std::int64_t quer = einstellungen_.*symbol.quer;
+    const std::int64_t laengs = einstellungen_.*symbol.laengs;
+    std::array<Bildpunkt, kMeisteEcken> ecken;
+    std::transform(symbol.ecken.begin(), symbol.ecken.end(), ecken.begin(), [&](Symbolecke e) {
+        return Bildpunkt{m.x + e.x * quer, m.y + e.y * laengs};
+    });
+    switch (symbol.form) {
+        case Symbolform::Scheibe:
+        case Symbolform::Kreis:
+            Scheibe(ziel, m, einstellungen_.*symbol.quer, symbol.form == Symbolform::Kreis);
             break;
-        case PunktTyp::Krei:
-            Scheibe(ziel, m, e.PTSize, punkt.PktTyp);
+        case Symbolform::Kreuz:
+            Kreuz(ziel, ecken);
             break;
-        case PunktTyp::Kreu: {
-            const std::int64_t r = e.Kreuzgroesse;
-            Kreuz(ziel, {{{m.x - r, m.y}, {m.x + r, m.y}, {m.x, m.y - r}, {m.x, m.y + r}}});
+        case Symbolform::Vieleck:
+            Vieleck(ziel, {ecken.data(), symbol.ecken.size()});
             break;
-        }
-        case PunktTyp::Qua: {
-            const std::int64_t r = e.Quadratgroesse;
-            Vieleck(ziel,
-                    std::array<Bildpunkt, 4>{
-                        {{m.x - r, m.y - r}, {m.x + r, m.y - r}, {m.x + r, m.y + r}, {m.x - r, m.y + r}}});
-            break;
-        }
-        case PunktTyp::Rau:
-            Vieleck(ziel, std::array<Bildpunkt, 4>{{{m.x, m.y - e.RauteLaengs},
-                                                    {m.x + e.RauteQuer, m.y},
-                                                    {m.x, m.y + e.RauteLaengs},
-                                                    {m.x - e.RauteQuer, m.y}}});
-            break;
-        case PunktTyp::Drei: {
-            const std::int64_t r = e.Dreieckgroesse;
-            Vieleck(ziel, std::array<Bildpunkt, 3>{{{m.x, m.y - r}, {m.x + r, m.y + r}, {m.x - r, m.y + r}}});
-            break;
-        }
     }
 }
 
-void Figurenzeichner::Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, PunktTyp typ) const {
-    const bool kreis = typ == PunktTyp::Krei;
+void Figurenzeichner::Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, bool kreis) const {
     if (ziel.flaeche != nullptr) ziel.flaeche->Ellipse(Umkreis(Aufflaeche(m), radius));
     if (ziel.plot != nullptr && kreis) ziel.plot->Kreis(m, radius);
     if (ziel.plot != nullptr && !kreis) ziel.plot->Punkt(m);

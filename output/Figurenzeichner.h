@@ -19,6 +19,8 @@
 
 namespace zrw {
 
+struct Punktsymbol;
+
 /// The largest symbols that the screen's surface draws itself [px].
 inline constexpr std::int64_t kGroesstesSymbol = 30;
 
@@ -54,8 +56,9 @@ class Figurenzeichner final : public Zeichner {
         Plotdatei* plot;
         DXFUnit* dxf;
     };
+    void ZeichneSymbol(const Symbolziel& ziel, Bildpunkt m, const Punktsymbol& symbol) const;
     // Symbols, by shape family; corners in picture coordinates.
-    void Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, PunktTyp typ) const;
+    void Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, bool kreis) const;
     void Kreuz(const Symbolziel& ziel, const std::array<Bildpunkt, 4>& enden) const;
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 

@@ -10,6 +10,7 @@
 #include "model/Cp1252.h"
 #include "model/Netzarten.h"
 #include "model/Punktarten.h"
+#include "model/Punktsymbole.h"
 #include "model/Zahlentext.h"
 #include "output/Textausgabe.h"
 
@@ -43,10 +44,15 @@ constexpr std::array<Gitterfamilie, 8> kGitter{{
     {Abbildung::Utm, kGrs80, true, 33, 33, 5650 - 33},
 }};
 
-constexpr std::array<const char*, 6> kSymbole{"Punkt", "Kreis", "Kreuz", "Quadrat", "Raute", "Dreieck"};
 constexpr std::array<const char*, 7> kRichtungen{"", "AR1", "AR2", "AST", "ARI1", "ARI2", "ASTI"};
 constexpr std::array<std::pair<KanteAttr::Art, const char*>, 4> kBeobachtungen{
     {{KanteAttr::ST, "ST"}, {KanteAttr::GPS, "GPS"}, {KanteAttr::DH1, "DH1"}, {KanteAttr::DH2, "DH2"}}};
+
+/// Picture files may hold values without a name; they stay as they are and say nothing here.
+std::string Symbolname(PunktTyp typ) {
+    const Punktsymbol* symbol = ZumSymbol(typ);
+    return symbol != nullptr ? std::string(symbol->name) : std::string();
+}
 
 /// Picture files may hold values without a name; they stay as they are and say nothing here.
 template <std::size_t N>
@@ -140,7 +146,7 @@ void SchreibePunkt(Geojson& g, const Netz& netz, const PunktKnoten& p, const Pun
     g.BeginneFigur();
     g.Feld("nummer", Cp1252NachUtf8(nummer));
     g.Feld("punktart", std::string(ZurArt(p.Item->PktArt).kuerzel));
-    g.Feld("symbol", Name(kSymbole, static_cast<std::size_t>(p.Item->PktTyp)));
+    g.Feld("symbol", Symbolname(p.Item->PktTyp));
     g.Feld("sichtbar", p.Item->Visible);
     if (const Punktergebnis* e =
             ergebnisse != nullptr && !nummer.empty() ? ergebnisse->Zu(nummer) : nullptr) {

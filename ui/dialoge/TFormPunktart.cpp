@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "model/Punktarten.h"
+#include "model/Punktsymbole.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/Auswahlgruppe.h"
 
@@ -29,6 +30,13 @@ QStringList Kuerzel() {
     return texte;
 }
 
+QStringList Symbole() {
+    QStringList texte;
+    for (const Punktsymbol& s : kPunktsymbole)
+        texte << AusUtf8(s.bezeichnung);
+    return texte;
+}
+
 }  // namespace
 
 PunktArt ArtNachFarbe(Farbe farbe, const Einstellungen& e) {
@@ -42,11 +50,8 @@ TFormPunktart::TFormPunktart(QWidget* eltern)
       PktNummer_(NeuesFeld(QStringLiteral("PktNummer"), this)),
       RadioGroupPktArt_(new Auswahlgruppe(QStringLiteral("RadioGroupPktArt"), QStringLiteral("Punktart"),
                                           Kuerzel(), static_cast<int>(kPunktarten.size()), this)),
-      RadioGroupSymb_(
-          new Auswahlgruppe(QStringLiteral("RadioGroupSymb"), QStringLiteral("Punktsymbol"),
-                            {QStringLiteral("Punkt"), QStringLiteral("Kreis"), QStringLiteral("Kreuz"),
-                             QStringLiteral("Quadrat"), QStringLiteral("Raute"), QStringLiteral("Dreieck")},
-                            3, this)),
+      RadioGroupSymb_(new Auswahlgruppe(QStringLiteral("RadioGroupSymb"), QStringLiteral("Punktsymbol"),
+                                        Symbole(), 3, this)),
       PktY_(NeuesFeld(QStringLiteral("PktY"), this)),
       PktX_(NeuesFeld(QStringLiteral("PktX"), this)),
       CheckBoxNeuPkt_(new QCheckBox(QStringLiteral("Neupunkt"), this)) {

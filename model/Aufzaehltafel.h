@@ -1,0 +1,25 @@
+// Tables with one row for each member of an enumeration, in its order.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace zrw {
+
+/// For assertions: row n is the row of member n, and there is one for every member up to the last.
+template <class Zeile, std::size_t N, class Glied>
+[[nodiscard]] consteval bool InReihe(const std::array<Zeile, N>& tafel, Glied Zeile::*glied, Glied letztes) {
+    for (std::size_t i = 0; i < N; ++i) {
+        if (static_cast<std::size_t>(tafel[i].*glied) != i) return false;
+    }
+    return N == static_cast<std::size_t>(letztes) + 1;
+}
+
+/// Null for a value that is no member: bytes of picture files may be anything.
+template <class Zeile, std::size_t N, class Glied>
+[[nodiscard]] constexpr const Zeile* Nachschlagen(const std::array<Zeile, N>& tafel, Glied wert) {
+    const auto i = static_cast<std::size_t>(wert);
+    return i < N ? &tafel[i] : nullptr;
+}
+
+}  // namespace zrw
