@@ -23,13 +23,9 @@ enum class PunktTyp : std::uint8_t { Pkt, Krei, Kreu, Qua, Rau, Drei };
 enum class PunktArt : std::uint8_t { FP, FL, FH, NP };
 /// Outline only, or filled.
 enum class PunktAttr : std::uint8_t { Em, Fu };
-/// Direction observations of a line: none, one-sided, two-sided, without direction; I = indirect.
+/// Direction observations of a line: none, one-sided, two-sided, without direction; I = indirect. What is
+/// known of them: Linienarten.h.
 enum class LinieAttr : std::uint8_t { Null, AR1, AR2, AST, ARI1, ARI2, ASTI };
-
-/// The line makes a detour.
-[[nodiscard]] constexpr bool IstIndirekt(LinieAttr a) {
-    return a > LinieAttr::AST;
-}
 
 /// Set of the other observation kinds of a line: distance, GPS vector, height difference along and against
 /// the line. One byte, bit n for the n-th member; bits without a member survive loading and saving.

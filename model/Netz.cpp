@@ -3,6 +3,8 @@
 #include <string_view>
 #include <utility>
 
+#include "model/Linienarten.h"
+
 namespace zrw {
 namespace {
 
@@ -67,7 +69,7 @@ PunktKante& Netz::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr) 
     index_.Auf(k);
     suche_.kanten.Auf(k.Folge, suche_.gebaut);
     suche_.enden.push_back({iANr, iENr});
-    mitUmwegen_ = mitUmwegen_ || IstIndirekt(item.LAttr);
+    mitUmwegen_ = mitUmwegen_ || ZurLinie(item.LAttr).indirekt;
     lueckenlos_.reset();
     return k;
 }
@@ -174,7 +176,7 @@ void Netz::Zentriere(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum) {
 void Netz::SetzeBeobachtungen(PunktKante& k, LinieAttr richtung, KanteAttr weitere) {
     k.Item->LAttr = richtung;
     k.Item->KAttr = weitere;
-    mitUmwegen_ = mitUmwegen_ || IstIndirekt(richtung);
+    mitUmwegen_ = mitUmwegen_ || ZurLinie(richtung).indirekt;
 }
 
 void Netz::DreheKante(PunktKante& pk) {

@@ -8,6 +8,7 @@
 
 #include "geo/Zrwgeo.h"
 #include "model/Cp1252.h"
+#include "model/Linienarten.h"
 #include "model/Netzarten.h"
 #include "model/Punktarten.h"
 #include "model/Punktsymbole.h"
@@ -33,7 +34,7 @@ struct Gitterfamilie {
     int epsgNull;  ///< code of zone 0
 };
 
-constexpr std::array<Gitterfamilie, 8> kGitter{{
+constexpr auto kGitter = std::to_array<Gitterfamilie>({
     {Abbildung::GaussKrueger, kBessel, true, 2, 5, 31464},     // DHDN, 3 degree zones
     {Abbildung::GaussKrueger, kKrassowsky, true, 3, 5, 2394},  // Pulkovo 1942(83), 3 degree zones
     {Abbildung::Utm, kGrs80, false, 28, 38, 25800},            // ETRS89
@@ -42,11 +43,7 @@ constexpr std::array<Gitterfamilie, 8> kGitter{{
     {Abbildung::Utm, kGrs80, true, 31, 31, 5649 - 31},         // ETRS89 with the zone in the easting
     {Abbildung::Utm, kGrs80, true, 32, 32, 4647 - 32},
     {Abbildung::Utm, kGrs80, true, 33, 33, 5650 - 33},
-}};
-
-constexpr std::array<const char*, 7> kRichtungen{"", "AR1", "AR2", "AST", "ARI1", "ARI2", "ASTI"};
-constexpr std::array<std::pair<KanteAttr::Art, const char*>, 4> kBeobachtungen{
-    {{KanteAttr::ST, "ST"}, {KanteAttr::GPS, "GPS"}, {KanteAttr::DH1, "DH1"}, {KanteAttr::DH2, "DH2"}}};
+});
 
 /// Picture files may hold values without a name; they stay as they are and say nothing here.
 std::string Symbolname(PunktTyp typ) {
@@ -54,10 +51,13 @@ std::string Symbolname(PunktTyp typ) {
     return symbol != nullptr ? std::string(symbol->name) : std::string();
 }
 
-/// Picture files may hold values without a name; they stay as they are and say nothing here.
-template <std::size_t N>
-std::string Name(const std::array<const char*, N>& namen, std::size_t wert) {
-    return wert < N ? namen[wert] : "";
+/// "AR1,ST,DH1".
+std::string Beobachtungen(const Kante& k) {
+    std::string arten(ZurLinie(k.LAttr).name);
+    for (const Beobachtungsart& b : kBeobachtungsarten) {
+        if (k.KAttr.Hat(b.art)) arten += (arten.empty() ? "" : ",") + std::string(b.name);
+    }
+    return arten;
 }
 
 /// Cartesian networks come into the plane by Gauss-Krüger, whatever else their file says.
@@ -209,14 +209,10 @@ void SchreibeGeojson(const Netz& netz, const Netzangaben& angaben, const Einstel
         const PunktKnoten* a = netz.SuchPkt(k->ANr);
         const PunktKnoten* e = netz.SuchPkt(k->ENr);
         if (a == nullptr || e == nullptr || !Endlich(*a) || !Endlich(*e)) continue;
-        std::string arten = Name(kRichtungen, static_cast<std::size_t>(k->Item->LAttr));
-        for (const auto& [art, name] : kBeobachtungen) {
-            if (k->Item->KAttr.Hat(art)) arten += (arten.empty() ? "" : ",") + std::string(name);
-        }
         g.BeginneFigur();
         g.Feld("von", Cp1252NachUtf8(netz.GetPktText(k->ANr)));
         g.Feld("nach", Cp1252NachUtf8(netz.GetPktText(k->ENr)));
-        g.Feld("beobachtungen", arten);
+        g.Feld("beobachtungen", Beobachtungen(*k->Item));
         g.Feld("grob", k->Item->Farbe == einstellungen.GFCol);
         g.Feld("sichtbar", k->Item->Visible);
         g.Linie({a->XWPu, a->YWPu}, {e->XWPu, e->YWPu});

@@ -4,25 +4,77 @@
 #include <cmath>
 #include <memory>
 
+#include "model/Aufzaehltafel.h"
 #include "model/Ganzzahl.h"
+#include "model/Linienarten.h"
 
 namespace zrw {
 namespace {
 
-constexpr std::array<Strich, 1> kVoll{{{0, 1, false}}};
-constexpr std::array<Strich, 1> kDash{{{0, 1, true}}};
-constexpr std::array<Strich, 4> kMarke{{{0, 1, false}, {1, 2, false}, {2, 3, false}, {3, 4, false}}};
-constexpr std::array<Strich, 6> kSieben{
-    {{0, 1, false}, {1, 2, false}, {2, 3, false}, {3, 4, false}, {4, 5, false}, {5, 6, false}}};
-constexpr std::array<Strich, 6> kSiebenHalb{
-    {{0, 1, false}, {1, 2, false}, {2, 3, false}, {3, 4, true}, {4, 5, true}, {5, 6, true}}};
-constexpr std::array<Strich, 2> kZweiVoll{{{0, 1, false}, {2, 3, false}}};
-constexpr std::array<Strich, 2> kZweiDash{{{0, 1, true}, {2, 3, true}}};
-constexpr std::array<Strich, 2> kVollDash{{{0, 1, false}, {2, 3, true}}};
+constexpr auto kVoll = std::to_array<Strich>({{0, 1, false}});
+constexpr auto kDash = std::to_array<Strich>({{0, 1, true}});
+constexpr auto kMarke = std::to_array<Strich>({{0, 1, false}, {1, 2, false}, {2, 3, false}, {3, 4, false}});
+constexpr auto kSieben = std::to_array<Strich>(
+    {{0, 1, false}, {1, 2, false}, {2, 3, false}, {3, 4, false}, {4, 5, false}, {5, 6, false}});
+constexpr auto kSiebenHalb = std::to_array<Strich>(
+    {{0, 1, false}, {1, 2, false}, {2, 3, false}, {3, 4, true}, {4, 5, true}, {5, 6, true}});
+constexpr auto kZweiVoll = std::to_array<Strich>({{0, 1, false}, {2, 3, false}});
+constexpr auto kZweiDash = std::to_array<Strich>({{0, 1, true}, {2, 3, true}});
+constexpr auto kVollDash = std::to_array<Strich>({{0, 1, false}, {2, 3, true}});
 
 /// In the order of `Zugform`.
-constexpr std::array<std::span<const Strich>, 11> kStriche{
-    kVoll, kMarke, kSieben, kSiebenHalb, kZweiVoll, kZweiDash, kVollDash, kVollDash, kDash, kVoll, kVoll};
+constexpr auto kStriche = std::to_array<std::span<const Strich>>(
+    {kVoll, kMarke, kSieben, kSiebenHalb, kZweiVoll, kZweiDash, kVollDash, kVollDash, kDash, kVoll, kVoll});
+static_assert(kStriche.size() == kZugformen);
+
+constexpr std::size_t Punktzahl(Zugform form) {
+    return kStriche[static_cast<std::size_t>(form)].back().nach + std::size_t{1};
+}
+
+/// Places along an indirect line, in its direction.
+enum Stelle : std::uint8_t { Start, Ab, Links, Hoehe, Rechts, An, Drittel, ZweiDrittel, Ziel };
+constexpr std::size_t kStellen = Ziel + 1;
+
+}  // namespace
+
+/// A form between such places.
+struct Umwegzug {
+    Zugform form;
+    std::array<Stelle, kMeistePunkte> stellen;
+};
+
+namespace {
+
+constexpr auto kHalberUmweg =
+    std::to_array<Umwegzug>({{Zugform::SiebenpunktHalb, {Start, Ab, Links, Hoehe, Rechts, An, Ziel}}});
+constexpr auto kGanzerUmweg = std::to_array<Umwegzug>(
+    {{Zugform::Siebenpunkt, {Start, Ab, Links, Hoehe, Rechts, An, Ziel}}, {Zugform::Gestrichelt, {Ab, An}}});
+// The form has three dashed strokes: they share the way to the end.
+constexpr auto kGestrichelterUmweg = std::to_array<Umwegzug>(
+    {{Zugform::Gestrichelt, {Start, Ab}},
+     {Zugform::SiebenpunktHalb, {Ab, Links, Rechts, An, Drittel, ZweiDrittel, Ziel}}});
+
+/// How a kind of line is drawn.
+struct Linienbild {
+    LinieAttr attr;
+    Zugform ganz;                     ///< from end to end, or with a corner in the middle
+    Zugform offen;                    ///< where a GPS marker is to stay open
+    std::span<const Umwegzug> umweg;  ///< instead of both, if there is any
+};
+constexpr auto kLinienbilder = std::to_array<Linienbild>({
+    {LinieAttr::Null, Zugform::Strecke, Zugform::Strecke, {}},
+    {LinieAttr::AR1, Zugform::VollGestrichelt, Zugform::VollLueckeGestrichelt, {}},
+    {LinieAttr::AR2, Zugform::Strecke, Zugform::ZweiVoll, {}},
+    {LinieAttr::AST, Zugform::Gestrichelt, Zugform::ZweiGestrichelt, {}},
+    {LinieAttr::ARI1, {}, {}, kHalberUmweg},
+    {LinieAttr::ARI2, {}, {}, kGanzerUmweg},
+    {LinieAttr::ASTI, {}, {}, kGestrichelterUmweg},
+});
+static_assert(InReihe(kLinienbilder, &Linienbild::attr, LinieAttr::ASTI));
+static_assert(std::equal(kLinienbilder.begin(), kLinienbilder.end(), kLinienarten.begin(), kLinienarten.end(),
+                         [](const Linienbild& b, const Linienart& a) {
+                             return b.umweg.empty() != a.indirekt;
+                         }));
 
 Bildpunkt Runde(double x, double y) {
     return {RundeZuInt64(x), RundeZuInt64(y)};
@@ -60,7 +112,7 @@ struct Kantenbild::Lage {
         const std::int64_t dx = Differenz(e.x, s.x);
         const std::int64_t dy = Differenz(e.y, s.y);
         m = {Summe(s.x, dx / 2), Summe(s.y, dy / 2)};
-        const bool indirekt = lAttr > LinieAttr::AST;
+        const bool indirekt = ZurLinie(lAttr).indirekt;
         if (!indirekt && kAttr == KanteAttr()) return;  // strokes from end to end need nothing more
         laenge = Laenge(dx, dy, indirekt);
         ux = static_cast<double>(dx) / laenge;
@@ -107,58 +159,42 @@ Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang
 }
 
 void Kantenbild::Linie(LinieAttr lAttr, bool mitMarke, const Lage& l) {
-    const Bildpunkt vor{Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)};
-    const Bildpunkt nach{Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)};
-    switch (lAttr) {
-        case LinieAttr::Null:
-            Nimm(Zugform::Strecke, {l.s, l.e});
-            break;
-        case LinieAttr::AR1:
-            if (mitMarke) {
-                Nimm(Zugform::VollLueckeGestrichelt, {l.s, vor, nach, l.e});
-            } else {
-                Nimm(Zugform::VollGestrichelt, {l.s, l.m, l.m, l.e});
-            }
-            break;
-        case LinieAttr::AR2:
-            if (mitMarke) {
-                Nimm(Zugform::ZweiVoll, {l.s, vor, nach, l.e});
-            } else {
-                Nimm(Zugform::Strecke, {l.s, l.e});
-            }
-            break;
-        case LinieAttr::AST:
-            if (mitMarke) {
-                Nimm(Zugform::ZweiGestrichelt, {l.s, vor, nach, l.e});
-            } else {
-                Nimm(Zugform::Gestrichelt, {l.s, l.e});
-            }
-            break;
-        case LinieAttr::ARI1:
-        case LinieAttr::ARI2:
-        case LinieAttr::ASTI:
-            Umweg(lAttr, l);
-            break;
+    const Linienbild* bild = Nachschlagen(kLinienbilder, lAttr);
+    if (bild == nullptr) return;
+    if (!bild->umweg.empty()) return Umweg(bild->umweg, l);
+    const Zugform form = mitMarke ? bild->offen : bild->ganz;
+    if (Punktzahl(form) == 2) {
+        Nimm(form, {l.s, l.e});
+    } else if (mitMarke) {
+        Nimm(form, {l.s,
+                    {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
+                    {Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)},
+                    l.e});
+    } else {
+        Nimm(form, {l.s, l.m, l.m, l.e});
     }
 }
 
-void Kantenbild::Umweg(LinieAttr lAttr, const Lage& l) {
+void Kantenbild::Umweg(std::span<const Umwegzug> zuege, const Lage& l) {
     const double w = l.umweg;
-    const Bildpunkt ab = l.AbMitte(-2 * w, 0);
-    const Bildpunkt an = l.AbMitte(2 * w, 0);
-    const Bildpunkt links = l.AbMitte(-w, w);
-    const Bildpunkt rechts = l.AbMitte(w, w);
-    if (lAttr == LinieAttr::ARI1) {
-        Nimm(Zugform::SiebenpunktHalb, {l.s, ab, links, l.AbMitte(0, w), rechts, an, l.e});
-    } else if (lAttr == LinieAttr::ARI2) {
-        Nimm(Zugform::Siebenpunkt, {l.s, ab, links, l.AbMitte(0, w), rechts, an, l.e});
-        Nimm(Zugform::Gestrichelt, {ab, an});
-    } else {
-        // The form has three dashed strokes: they share the way to the end.
-        const double rest = (l.laenge / 2 - 2 * w) / 3;
-        Nimm(Zugform::Gestrichelt, {l.s, ab});
-        Nimm(Zugform::SiebenpunktHalb,
-             {ab, links, rechts, an, l.AbMitte(2 * w + rest, 0), l.AbMitte(2 * w + 2 * rest, 0), l.e});
+    const double rest = (l.laenge / 2 - 2 * w) / 3;
+    // In the order of `Stelle`.
+    const std::array<Bildpunkt, kStellen> orte{
+        l.s,
+        l.AbMitte(-2 * w, 0),
+        l.AbMitte(-w, w),
+        l.AbMitte(0, w),
+        l.AbMitte(w, w),
+        l.AbMitte(2 * w, 0),
+        l.AbMitte(2 * w + rest, 0),
+        l.AbMitte(2 * w + 2 * rest, 0),
+        l.e,
+    };
+    for (const Umwegzug& zug : zuege) {
+        std::array<Bildpunkt, kMeistePunkte> punkte;
+        std::transform(zug.stellen.begin(), zug.stellen.end(), punkte.begin(),
+                       [&](Stelle s) { return orte[s]; });
+        Nimm(zug.form, std::span<const Bildpunkt>(punkte).first(Punktzahl(zug.form)));
     }
 }
 
@@ -172,7 +208,7 @@ void Kantenbild::Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einste
     Nimm(Zugform::Hoehenmarke, {punkt(a + t), punkt(a + 2 * t)});
 }
 
-void Kantenbild::Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte) {
+void Kantenbild::Nimm(Zugform form, std::span<const Bildpunkt> punkte) {
     Bildpunkt* ziel = punkte_.data() + punktzahl_;
     std::uninitialized_copy(punkte.begin(), punkte.end(), ziel);
     std::construct_at(&zuege_[anzahl_++], Zug{form, {ziel, punkte.size()}});

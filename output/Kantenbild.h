@@ -39,6 +39,8 @@ enum class Zugform : std::uint8_t {
     Hoehenmarke,            ///< height-difference mark beside the line
 };
 
+inline constexpr std::size_t kZugformen = static_cast<std::size_t>(Zugform::Hoehenmarke) + 1;
+
 /// One stroke of a form, between two of its points.
 struct Strich {
     std::uint8_t von;
@@ -60,6 +62,8 @@ inline constexpr std::size_t kMeistePunkte = 7;
 /// Most strokes of a line: a detour of two forms, marker, tick and height marks.
 inline constexpr std::size_t kMeisteStriche = 24;
 
+struct Umwegzug;
+
 class Kantenbild {
   public:
     /// @param a, e ends of the line [px]; equal ends give nothing
@@ -76,9 +80,12 @@ class Kantenbild {
   private:
     struct Lage;
     void Linie(LinieAttr lAttr, bool mitMarke, const Lage& l);
-    void Umweg(LinieAttr lAttr, const Lage& l);
+    void Umweg(std::span<const Umwegzug> zuege, const Lage& l);
     void Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einstellungen& groessen);
-    void Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte);
+    void Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte) {
+        Nimm(form, std::span(punkte.begin(), punkte.size()));
+    }
+    void Nimm(Zugform form, std::span<const Bildpunkt> punkte);
 
     // Most: two for an indirect line, marker, tick and three height marks. In unions, so that only those in
     // use are set up: clearing all of them would take longer than the line.

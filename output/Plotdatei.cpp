@@ -8,7 +8,7 @@ namespace zrw {
 namespace {
 
 /// In the order of `Zugform`.
-constexpr std::array<std::string_view, 11> kLinien{
+constexpr auto kLinien = std::to_array<std::string_view>({
     " PA %d,%d; PD %d,%d;PU;",
     " PA %d,%d; PD %d,%d; PD %d,%d; PD %d,%d; PD %d,%d; PU;",
     " PA %d,%d; PD %d,%d; PD %d,%d;PD %d,%d;PD %d,%d; PD %d,%d; PD %d,%d; PU;",
@@ -20,7 +20,8 @@ constexpr std::array<std::string_view, 11> kLinien{
     " PA %d,%d; LT; LT-2; PD %d,%d; PU;LT;PU;",
     " PA %d,%d;PD %d,%d; PU;",
     " PA %d,%d; PD %d,%d; PU;",
-};
+});
+static_assert(kLinien.size() == kZugformen);
 
 constexpr std::string_view kPunkt = " PA %d,%d; PD;PU;";
 constexpr std::string_view kKreis = " PA %d,%d;CI %d;PU;";

@@ -1,7 +1,6 @@
 #include "ui/Ergebnisanzeige.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <system_error>
 #include <utility>
@@ -9,6 +8,7 @@
 #include "input/Oeffnen.h"
 #include "input/tabellen/MarkiereFehler.h"
 #include "model/Fehler.h"
+#include "model/Linienarten.h"
 #include "model/Punktarten.h"
 #include "model/Zahlentext.h"
 #include "ui/Einstellungsablage.h"
@@ -21,15 +21,15 @@ namespace {
 
 /// "Richtung zweiseitig, Strecke, Höhenunterschied einseitig".
 QString Beobachtungen(const Kante& k) {
-    constexpr std::array kSeiten{"", " einseitig", " zweiseitig"};
-    const auto seitig = [&](int n) { return QString::fromUtf8(kSeiten[static_cast<std::size_t>(n)]); };
-    const Beobachtungswahl w = AlsWahl({k.LAttr, k.KAttr});
+    const Linienart& linie = ZurLinie(k.LAttr);
+    // As the dialog sees it: what was measured from both ends is not named for one of them again.
+    const KanteAttr weitere = AlsTyp(AlsWahl({k.LAttr, k.KAttr})).weitere;
     QStringList teile;
-    if (w.richtung > 0) teile << QStringLiteral("Richtung") + seitig(w.richtung);
-    if (w.strecke) teile << QStringLiteral("Strecke");
-    if (w.gps) teile << QStringLiteral("GPS-Vektor");
-    if (w.hoehe > 0) teile << QStringLiteral("Höhenunterschied") + seitig(w.hoehe);
-    if (w.indirekt) teile << QStringLiteral("indirekt");
+    if (!linie.bezeichnung.empty()) teile << AusUtf8(linie.bezeichnung);
+    for (const Beobachtungsart& art : kBeobachtungsarten) {
+        if (weitere.Hat(art.art)) teile << AusUtf8(art.bezeichnung);
+    }
+    if (linie.indirekt) teile << QStringLiteral("indirekt");
     return teile.isEmpty() ? QStringLiteral("keine Beobachtung") : teile.join(QStringLiteral(", "));
 }
 

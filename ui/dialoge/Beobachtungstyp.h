@@ -1,9 +1,8 @@
 // The type of an observation as the network keeps it, and as the dialog offers it.
 #pragma once
 
-#include <cstdint>
-
 #include "model/Figuren.h"
+#include "model/Linienarten.h"
 
 namespace zrw {
 
@@ -24,24 +23,19 @@ struct Beobachtungswahl {
 
 /// @param vorher bits without a member are taken over from here: a picture file keeps them
 [[nodiscard]] constexpr Beobachtungstyp AlsTyp(const Beobachtungswahl& w, KanteAttr vorher = {}) {
-    constexpr std::uint8_t kUnbekannt = 0xF0;
     Beobachtungstyp t;
-    t.weitere = KanteAttr::AusMaske(vorher.Maske() & kUnbekannt);
+    t.weitere = KanteAttr::AusMaske(vorher.Maske() & kUnbenannteBits);
     if (w.strecke) t.weitere.Setze(KanteAttr::ST);
     if (w.gps) t.weitere.Setze(KanteAttr::GPS);
     if (w.hoehe == 1) t.weitere.Setze(KanteAttr::DH1);
     if (w.hoehe == 2) t.weitere.Setze(KanteAttr::DH2);
 
-    if (w.richtung == 1) {
-        t.richtung = w.indirekt ? LinieAttr::ARI1 : LinieAttr::AR1;
-    } else if (w.richtung == 2) {
-        t.richtung = w.indirekt ? LinieAttr::ARI2 : LinieAttr::AR2;
-    } else if (w.indirekt) {
-        t.richtung = LinieAttr::ASTI;
-    } else {
-        // A GPS vector is drawn by its own symbol and has no line of sight.
-        const bool nurGps = w.gps && !w.strecke && w.hoehe == 0;
-        t.richtung = nurGps ? LinieAttr::Null : LinieAttr::AST;
+    // A GPS vector is drawn by its own symbol and has no line of sight.
+    const bool nurGps = w.gps && !w.strecke && w.hoehe == 0 && w.richtung == 0 && !w.indirekt;
+    for (const Linienart& art : kLinienarten) {
+        if (art.richtungen == w.richtung && art.indirekt == w.indirekt &&
+            nurGps == (art.attr == LinieAttr::Null))
+            t.richtung = art.attr;
     }
     return t;
 }
@@ -49,10 +43,8 @@ struct Beobachtungswahl {
 /// Bytes of a picture file that name no kind of direction count as none.
 [[nodiscard]] constexpr Beobachtungswahl AlsWahl(const Beobachtungstyp& t) {
     Beobachtungswahl w;
-    if (t.richtung == LinieAttr::AR1 || t.richtung == LinieAttr::ARI1) w.richtung = 1;
-    if (t.richtung == LinieAttr::AR2 || t.richtung == LinieAttr::ARI2) w.richtung = 2;
-    w.indirekt =
-        t.richtung == LinieAttr::ARI1 || t.richtung == LinieAttr::ARI2 || t.richtung == LinieAttr::ASTI;
+    w.richtung = ZurLinie(t.richtung).richtungen;
+    w.indirekt = ZurLinie(t.richtung).indirekt;
     w.strecke = t.weitere.Hat(KanteAttr::ST);
     w.gps = t.weitere.Hat(KanteAttr::GPS);
     if (t.weitere.Hat(KanteAttr::DH2)) {

@@ -5,6 +5,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "model/Linienarten.h"
+#include "ui/Umwandlung.h"
 #include "ui/dialoge/Auswahlgruppe.h"
 
 namespace zrw {
@@ -14,6 +16,10 @@ QCheckBox* NeuerKasten(const QString& name, const QString& beschriftung, QWidget
     auto* kasten = new QCheckBox(beschriftung, eltern);
     kasten->setObjectName(name);
     return kasten;
+}
+
+QString Knopf(KanteAttr::Art art) {
+    return AusUtf8(ZurBeobachtung(art).knopf);
 }
 
 void SchalteStill(QCheckBox& kasten, bool ein) {
@@ -29,12 +35,11 @@ TFormBeobTyp::TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern)
       RadioGroupRichtg_(new Auswahlgruppe(
           QStringLiteral("RadioGroupRichtg"), QStringLiteral("Richtungsmessung"),
           {QStringLiteral("Keine"), QStringLiteral("Einseitig"), QStringLiteral("Zweiseitig")}, 3, this)),
-      CheckBoxStrecke_(
-          NeuerKasten(QStringLiteral("CheckBoxStrecke"), QStringLiteral("Streckenmessung"), this)),
-      CheckBoxGps_(NeuerKasten(QStringLiteral("CheckBoxGps"), QStringLiteral("GPS-Messung"), this)),
-      RadioGroupZenit_(new Auswahlgruppe(
-          QStringLiteral("RadioGroupZenit"), QStringLiteral("Höhenunterschied"),
-          {QStringLiteral("Kein"), QStringLiteral("Einseitig"), QStringLiteral("Zweiseitig")}, 3, this)),
+      CheckBoxStrecke_(NeuerKasten(QStringLiteral("CheckBoxStrecke"), Knopf(KanteAttr::ST), this)),
+      CheckBoxGps_(NeuerKasten(QStringLiteral("CheckBoxGps"), Knopf(KanteAttr::GPS), this)),
+      RadioGroupZenit_(
+          new Auswahlgruppe(QStringLiteral("RadioGroupZenit"), QStringLiteral("Höhenunterschied"),
+                            {QStringLiteral("Kein"), Knopf(KanteAttr::DH1), Knopf(KanteAttr::DH2)}, 3, this)),
       CheckBoxInd_(NeuerKasten(QStringLiteral("CheckBoxInd"), QStringLiteral("Indirekt"), this)),
       CheckBoxNeuBeob_(
           NeuerKasten(QStringLiteral("CheckBoxNeuBeob"), QStringLiteral("Neue Beobachtung"), this)) {
