@@ -6,7 +6,7 @@
 
 #include "app/Formate.h"
 #include "model/Zahlentext.h"
-#include "ui/Schalter.h"
+#include "ui/fenster/Schalter.h"
 
 namespace zrw {
 namespace {

@@ -17,9 +17,9 @@
 #include "output/Geojson.h"
 #include "output/Pdfflaeche.h"
 #include "output/Svgflaeche.h"
-#include "ui/Bildflaeche.h"
-#include "ui/Malerflaeche.h"
-#include "ui/Schriftquelle.h"
+#include "ui/bild/Bildflaeche.h"
+#include "ui/bild/Malerflaeche.h"
+#include "ui/bild/Schriftquelle.h"
 
 namespace zrw {
 namespace {

@@ -11,9 +11,9 @@
 #include "model/Fehler.h"
 #include "output/Export.h"
 #include "output/Residuenbild.h"
-#include "ui/Einstellungsablage.h"
-#include "ui/Schalter.h"
 #include "ui/Umwandlung.h"
+#include "ui/ablage/Einstellungsablage.h"
+#include "ui/fenster/Schalter.h"
 
 namespace zrw {
 namespace {

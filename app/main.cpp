@@ -8,9 +8,9 @@
 #include "app/Aufruf.h"
 #include "app/Stapel.h"
 #include "input/Systemdateien.h"
-#include "ui/Einstellungsablage.h"
-#include "ui/Hauptfenster.h"
 #include "ui/Umwandlung.h"
+#include "ui/ablage/Einstellungsablage.h"
+#include "ui/fenster/Hauptfenster.h"
 
 namespace {
 

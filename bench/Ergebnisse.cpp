@@ -14,7 +14,7 @@
 #include "input/tabellen/UnitZRWData.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
-#include "ui/Bildflaeche.h"
+#include "ui/bild/Bildflaeche.h"
 
 namespace {
 

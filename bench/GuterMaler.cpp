@@ -6,8 +6,8 @@
 #include "output/Figurenzeichner.h"
 #include "output/Kantenbild.h"
 #include "output/Uhr.h"
-#include "ui/Malerflaeche.h"
 #include "ui/Umwandlung.h"
+#include "ui/bild/Malerflaeche.h"
 
 namespace zrw::bench {
 namespace {

@@ -13,7 +13,7 @@
 #include "input/Oeffnen.h"
 #include "model/Bildorte.h"
 #include "output/Uhr.h"
-#include "ui/Bildpflege.h"
+#include "ui/bild/Bildpflege.h"
 
 namespace {
 

@@ -16,8 +16,8 @@
 #include "tests/hilfe/Antwortdienst.h"
 #include "tests/hilfe/Festdrucker.h"
 #include "tests/hilfe/Speicherdateien.h"
-#include "ui/Bildflaeche.h"
-#include "ui/Hauptfenster.h"
+#include "ui/bild/Bildflaeche.h"
+#include "ui/fenster/Hauptfenster.h"
 
 namespace {
 

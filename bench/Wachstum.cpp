@@ -15,7 +15,7 @@
 #include "output/Export.h"
 #include "output/Figurenzeichner.h"
 #include "output/Uhr.h"
-#include "ui/Bildflaeche.h"
+#include "ui/bild/Bildflaeche.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Prints the plot at scale: it is drawn once more, onto the printer, in a view in which one printer dot
-// covers the ground that 1:M puts on it. Not in here: the printer itself (ui/Drucker.h).
+// covers the ground that 1:M puts on it. Not in here: the printer itself (ui/druck/Drucker.h).
 #pragma once
 
 #include <cstdint>

@@ -6,7 +6,7 @@
 
 namespace zrw {
 
-/// Height of the drawing font at the screen's resolution [px], as ui/Malerflaeche.cpp has it: 8.25 pt.
+/// Height of the drawing font at the screen's resolution [px], as ui/bild/Malerflaeche.cpp has it: 8.25 pt.
 inline constexpr double kZeichenschrift = 11.0;
 
 /// Whether a byte of code page 1252 has no glyph: control characters and the five bytes without a character.

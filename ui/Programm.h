@@ -10,9 +10,9 @@
 #include "output/Uhr.h"
 #include "output/Zeichenzustand.h"
 #include "ui/Dialogdienst.h"
-#include "ui/Drucker.h"
-#include "ui/Rettung.h"
-#include "ui/Sitzung.h"
+#include "ui/ablage/Rettung.h"
+#include "ui/ablage/Sitzung.h"
+#include "ui/druck/Drucker.h"
 
 namespace zrw {
 

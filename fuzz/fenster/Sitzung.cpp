@@ -20,14 +20,14 @@
 #include <random>
 
 #include "bench/Netzgenerator.h"
-#include "model/Bildorte.h"
 #include "fuzz/Proben.h"
 #include "input/Systemdateien.h"
+#include "model/Bildorte.h"
 #include "tests/hilfe/Antwortdienst.h"
 #include "tests/hilfe/Festdrucker.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
-#include "ui/Hauptfenster.h"
+#include "ui/fenster/Hauptfenster.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "app/Aufruf.h"
 #include "app/Formate.h"
 #include "fuzz/Proben.h"
-#include "ui/Schalter.h"
+#include "ui/fenster/Schalter.h"
 
 namespace {
 

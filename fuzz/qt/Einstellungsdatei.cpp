@@ -9,9 +9,9 @@
 
 #include "fuzz/Proben.h"
 #include "model/Fehler.h"
-#include "ui/Einstellungsablage.h"
-#include "ui/Inidatei.h"
-#include "ui/Sitzung.h"
+#include "ui/ablage/Einstellungsablage.h"
+#include "ui/ablage/Inidatei.h"
+#include "ui/ablage/Sitzung.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <QStringList>
 
 #include "model/Fehler.h"
-#include "ui/Drucker.h"
-#include "ui/Malerflaeche.h"
+#include "ui/bild/Malerflaeche.h"
+#include "ui/druck/Drucker.h"
 
 namespace zrw {
 

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "model/Einstellungen.h"
-#include "ui/Einstellungsablage.h"
+#include "ui/ablage/Einstellungsablage.h"
 
 namespace {
 

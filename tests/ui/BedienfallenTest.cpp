@@ -10,8 +10,8 @@
 #include "input/tabellen/Ergebnisabfragen.h"
 #include "tests/hilfe/Probenetz.h"
 #include "tests/ui/Netzprobe.h"
-#include "ui/dialoge/Spaltenhinweise.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
+#include "ui/ergebnisse/Spaltenhinweise.h"
 
 namespace zrw {
 namespace {

@@ -8,7 +8,7 @@
 #include <QSpinBox>
 
 #include "tests/ui/Netzprobe.h"
-#include "ui/Rettung.h"
+#include "ui/ablage/Rettung.h"
 
 namespace zrw {
 namespace {

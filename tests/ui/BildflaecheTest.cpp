@@ -1,5 +1,5 @@
 // The font of the picture, names of files to save, the file of settings.
-#include "ui/Bildflaeche.h"
+#include "ui/bild/Bildflaeche.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <fstream>
 
 #include "ui/Dialogdienst.h"
-#include "ui/Einstellungsablage.h"
+#include "ui/ablage/Einstellungsablage.h"
 
 namespace zrw {
 namespace {

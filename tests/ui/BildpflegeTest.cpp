@@ -1,6 +1,6 @@
 // The quick ways to a picture against the plain one, through long random sequences of panning, zooming and
 // editing: every pixel must be the same, and every byte after undoing and redoing it all.
-#include "ui/Bildpflege.h"
+#include "ui/bild/Bildpflege.h"
 
 #include <gtest/gtest.h>
 

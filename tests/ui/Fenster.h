@@ -22,7 +22,7 @@
 #include "tests/hilfe/Festdrucker.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
-#include "ui/Hauptfenster.h"
+#include "ui/fenster/Hauptfenster.h"
 
 namespace zrw {
 

@@ -12,9 +12,7 @@ namespace {
 class Hauptfenster : public Fensterprobe {
   protected:
     /// Picture position of the first point.
-    QPoint Punkt() const {
-        return Pixel(*fenster.Netz(), *fenster.Netz()->PunktKnoten);
-    }
+    QPoint Punkt() const { return Pixel(*fenster.Netz(), *fenster.Netz()->PunktKnoten); }
 };
 
 TEST_F(Hauptfenster, OhneNetzTutKeinHandlerEtwas) {

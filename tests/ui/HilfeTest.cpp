@@ -12,9 +12,9 @@
 #include <QTreeWidget>
 #include <set>
 
-#include "ui/Hilfefenster.h"
-#include "ui/Umbruchleiste.h"
 #include "ui/Umwandlung.h"
+#include "ui/fenster/Umbruchleiste.h"
+#include "ui/hilfe/Hilfefenster.h"
 
 namespace zrw {
 namespace {

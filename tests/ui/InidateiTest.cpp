@@ -1,6 +1,6 @@
 // What the program keeps for itself: read and written like Qt's INI files, but never at the mercy of the
 // file.
-#include "ui/Inidatei.h"
+#include "ui/ablage/Inidatei.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -12,9 +12,9 @@
 #include <fstream>
 
 #include "tests/hilfe/Antwortdienst.h"
-#include "ui/Einstellungsablage.h"
-#include "ui/Sitzung.h"
 #include "ui/Umwandlung.h"
+#include "ui/ablage/Einstellungsablage.h"
+#include "ui/ablage/Sitzung.h"
 #include "ui/dialoge/TZRWParameter.h"
 
 namespace zrw {

@@ -50,9 +50,7 @@ class Netzprobe : public Fensterprobe {
     [[nodiscard]] const PunktKnoten* Punkt(std::string_view nummer) const {
         return fenster.Netz()->FindPunkt(nummer);
     }
-    [[nodiscard]] QPoint Ort(std::string_view nummer) const {
-        return Pixel(*fenster.Netz(), *Punkt(nummer));
-    }
+    [[nodiscard]] QPoint Ort(std::string_view nummer) const { return Pixel(*fenster.Netz(), *Punkt(nummer)); }
     /// Where the number of a point begins.
     [[nodiscard]] QPoint Textort(std::string_view nummer) const {
         const Bildpunkt b = fenster.Netz()->FindPktText(Punkt(nummer)->PNr)->Textort();

@@ -1,12 +1,12 @@
 // The pixel surface against Qt's painter: inside the picture every stroke, shape and text is the same to the
 // pixel.
-#include "ui/Pixelflaeche.h"
+#include "ui/bild/Pixelflaeche.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "ui/Bildflaeche.h"
+#include "ui/bild/Bildflaeche.h"
 
 namespace zrw {
 namespace {

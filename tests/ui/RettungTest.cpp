@@ -1,5 +1,5 @@
 // A kept plot survives the end of its program, and programs leave each other's plots alone.
-#include "ui/Rettung.h"
+#include "ui/ablage/Rettung.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 #include <QStringListModel>
 #include <algorithm>
 
-#include "ui/Nummernordnung.h"
+#include "ui/fenster/Nummernordnung.h"
 
 namespace zrw {
 

@@ -14,8 +14,8 @@
 #include "model/Fehler.h"
 #include "model/Zahlentext.h"
 #include "output/Residuenbild.h"
-#include "ui/Einstellungsablage.h"
 #include "ui/Umwandlung.h"
+#include "ui/ablage/Einstellungsablage.h"
 #include "ui/dialoge/Farbfeld.h"
 
 namespace zrw {

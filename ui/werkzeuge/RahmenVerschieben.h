@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "ui/Druckrahmen.h"
+#include "ui/druck/Druckrahmen.h"
 #include "ui/werkzeuge/Werkzeug.h"
 
 namespace zrw {

@@ -1,0 +1,84 @@
+#include "ui/bild/ImageZarwik.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace zrw {
+namespace {
+
+/// One step of a mouse wheel in the units that Qt reports.
+constexpr int kRadschritt = 120;
+
+Bildpunkt Ort(const QSinglePointEvent& e) {
+    const QPoint p = e.position().toPoint();
+    return {p.x(), p.y()};
+}
+
+}  // namespace
+
+ImageZarwik::ImageZarwik(Bildflaeche& flaeche, Bildempfaenger& empfaenger, QWidget* eltern)
+    : QWidget(eltern), flaeche_(flaeche), empfaenger_(empfaenger) {
+    setObjectName(QStringLiteral("ImageZarwik"));
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    // Smaller pictures leave no room beside the margin that fitting keeps.
+    setMinimumSize(200, 150);
+    setAccessibleName(QStringLiteral("Netzbild"));
+}
+
+void ImageZarwik::SetzeVorschau(std::function<void(Zeichenflaeche&)> vorschau) {
+    if (!vorschau_ && !vorschau) return;
+    vorschau_ = std::move(vorschau);
+    update();
+}
+
+void ImageZarwik::SetzeVerschiebung(Bildpunkt versatz) {
+    versatz_ = QPoint(static_cast<int>(versatz.x), static_cast<int>(versatz.y));
+    update();
+}
+
+void ImageZarwik::paintEvent(QPaintEvent* /*ereignis*/) {
+    QPainter maler(this);
+    if (!versatz_.isNull()) maler.fillRect(rect(), Qt::white);
+    maler.drawImage(versatz_, flaeche_.Bild());
+    Malerflaeche flaeche(maler, {0, 0, width() - 1, height() - 1}, flaeche_.Schrift());
+    if (ueberlagerung_) ueberlagerung_(flaeche);
+    if (vorschau_ && versatz_.isNull()) vorschau_(flaeche);
+}
+
+void ImageZarwik::resizeEvent(QResizeEvent* ereignis) {
+    empfaenger_.ImageZarwikResize(ereignis->size().width(), ereignis->size().height());
+}
+
+void ImageZarwik::mousePressEvent(QMouseEvent* ereignis) {
+    empfaenger_.ImageZarwikMouseDown(Ort(*ereignis), ereignis->button());
+}
+
+void ImageZarwik::mouseDoubleClickEvent(QMouseEvent* ereignis) {
+    empfaenger_.ImageZarwikDoubleClick(Ort(*ereignis), ereignis->button());
+}
+
+void ImageZarwik::leaveEvent(QEvent* ereignis) {
+    empfaenger_.ImageZarwikMouseLeave();
+    QWidget::leaveEvent(ereignis);
+}
+
+void ImageZarwik::mouseMoveEvent(QMouseEvent* ereignis) {
+    empfaenger_.ImageZarwikMouseMove(Ort(*ereignis));
+}
+
+void ImageZarwik::mouseReleaseEvent(QMouseEvent* ereignis) {
+    empfaenger_.ImageZarwikMouseUp(Ort(*ereignis), ereignis->button());
+}
+
+void ImageZarwik::wheelEvent(QWheelEvent* ereignis) {
+    radrest_ += ereignis->angleDelta().y();
+    const int schritte = radrest_ / kRadschritt;
+    radrest_ -= schritte * kRadschritt;
+    if (schritte != 0) empfaenger_.ImageZarwikWheel(Ort(*ereignis), schritte);
+    ereignis->accept();
+}
+
+}  // namespace zrw

@@ -1,0 +1,62 @@
+// The picture in the window. Copies the kept picture onto the screen and passes mouse events on; it draws
+// nothing of its own and knows no network.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "ui/bild/Bildflaeche.h"
+
+namespace zrw {
+
+/// What the picture tells its window. Positions in picture coordinates [px].
+class Bildempfaenger {
+  public:
+    virtual ~Bildempfaenger() = default;
+    virtual void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    /// The second press of two quick ones, in place of `ImageZarwikMouseDown`.
+    virtual void ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    /// The mouse is no longer over the picture.
+    virtual void ImageZarwikMouseLeave() = 0;
+    virtual void ImageZarwikMouseMove(Bildpunkt ort) = 0;
+    virtual void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) = 0;
+    /// @param schritte wheel steps, positive away from the user
+    virtual void ImageZarwikWheel(Bildpunkt ort, int schritte) = 0;
+    virtual void ImageZarwikResize(int weite, int hoehe) = 0;
+};
+
+class ImageZarwik final : public QWidget {
+  public:
+    ImageZarwik(Bildflaeche& flaeche, Bildempfaenger& empfaenger, QWidget* eltern);
+
+    /// Draws over the picture until the next call; an empty one draws nothing. Left out while the picture is
+    /// shifted.
+    void SetzeVorschau(std::function<void(Zeichenflaeche&)> vorschau);
+    /// Draws what always lies over the picture, below the preview.
+    void SetzeUeberlagerung(std::function<void(Zeichenflaeche&)> ueberlagerung) {
+        ueberlagerung_ = std::move(ueberlagerung);
+    }
+    /// Shows the picture shifted, while it is being dragged.
+    void SetzeVerschiebung(Bildpunkt versatz);
+    [[nodiscard]] QSize sizeHint() const override { return {900, 600}; }
+
+  protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
+    void leaveEvent(QEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void wheelEvent(QWheelEvent* ereignis) override;
+
+  private:
+    Bildflaeche& flaeche_;
+    Bildempfaenger& empfaenger_;
+    QPoint versatz_;
+    std::function<void(Zeichenflaeche&)> vorschau_;
+    std::function<void(Zeichenflaeche&)> ueberlagerung_;
+    int radrest_ = 0;  ///< fine wheels report parts of a step
+};
+
+}  // namespace zrw

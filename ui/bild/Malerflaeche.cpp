@@ -1,0 +1,140 @@
+#include "ui/bild/Malerflaeche.h"
+
+#include <QFontInfo>
+#include <QPen>
+#include <QPolygon>
+#include <algorithm>
+
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+/// 8 pt on a screen of 96 dots per inch. In pixels, so that every screen and the batch mode give one picture.
+constexpr int kSchrifthoehe = 11;
+/// Screens are taken as 96 dots per inch, as printers' dots are scaled from them.
+constexpr int kPunkteJeZoll = 72;
+constexpr int kPixelJeZoll = 96;
+
+QRect AlsQRect(const Rechteck& r) {
+    return {QPoint(r.links, r.oben), QPoint(r.rechts, r.unten)};
+}
+
+}  // namespace
+
+QFont Zeichenschrift() {
+    QFont schrift(QStringLiteral("Arial"));
+    schrift.setPixelSize(kSchrifthoehe);
+    schrift.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::NoAntialias | QFont::NoSubpixelAntialias));
+    // Whole-pixel advances without kerning: a label's pixels then do not depend on its neighbours.
+    schrift.setHintingPreference(QFont::PreferFullHinting);
+    schrift.setKerning(false);
+    return schrift;
+}
+
+Malerflaeche::Malerflaeche() : schrift_(Zeichenschrift()), masse_(schrift_) {}
+
+Malerflaeche::Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift)
+    : schrift_(schrift), masse_(schrift_) {
+    BindeAn(maler, sichtbar);
+}
+
+void Malerflaeche::BindeAn(QPainter& maler, const Rechteck& sichtbar) {
+    maler_ = &maler;
+    sichtbar_ = sichtbar;
+    maler_->setRenderHint(QPainter::Antialiasing, false);
+    maler_->setRenderHint(QPainter::TextAntialiasing, false);
+    maler_->setFont(schrift_);
+    stift_.reset();
+    pinsel_.reset();
+}
+
+void Malerflaeche::SetzeSchrift(const QFont& schrift) {
+    schrift_ = schrift;
+    masse_ = QFontMetrics(schrift_);
+    maler_->setFont(schrift_);
+}
+
+void Malerflaeche::SetzeMalerausschnitt(const Rechteck& r) {
+    maler_->setClipRect(AlsQRect(r));
+}
+
+void Malerflaeche::WendeStiftAn(const Stift& stift) {
+    if (stift_ == stift) return;
+    QPen pen(AlsQColor(stift.farbe));
+    const int breite = stift.breite * strichbreite_;
+    pen.setWidth(breite > 1 ? breite : 0);
+    pen.setCosmetic(breite <= 1);
+    if (stift.art == Strichart::Gestrichelt) {
+        pen.setStyle(Qt::DashLine);
+        if (strichbreite_ > 1) {
+            // Counted in widths of the pen; blunt, or wide ends would close the gaps.
+            const double mass = pixel_ / strichbreite_;
+            pen.setDashPattern({kStrichlaenge * mass, kStrichluecke * mass});
+            pen.setCapStyle(Qt::FlatCap);
+        }
+    }
+    maler_->setPen(pen);
+    stift_ = stift;
+}
+
+void Malerflaeche::WendePinselAn(const Pinsel& pinsel) {
+    if (pinsel_ == pinsel) return;
+    maler_->setBrush(pinsel.leer ? QBrush(Qt::NoBrush) : QBrush(AlsQColor(pinsel.farbe)));
+    pinsel_ = pinsel;
+}
+
+void Malerflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    WendeStiftAn(AktuellerStift());
+    maler_->drawLine(von.x, von.y, nach.x, nach.y);
+}
+
+void Malerflaeche::ZeichneRechteck(const Rechteck& r) {
+    WendeStiftAn(AktuellerStift());
+    WendePinselAn(AktuellerPinsel());
+    maler_->drawRect(QRect(r.links, r.oben, r.rechts - r.links, r.unten - r.oben));
+}
+
+void Malerflaeche::Ellipse(const Rechteck& u) {
+    WendeStiftAn(AktuellerStift());
+    WendePinselAn(AktuellerPinsel());
+    maler_->drawEllipse(QRect(u.links, u.oben, u.rechts - u.links, u.unten - u.oben));
+}
+
+void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    WendeStiftAn(AktuellerStift());
+    WendePinselAn(AktuellerPinsel());
+    QPolygon vieleck;
+    for (const Flaechenpunkt& p : ecken)
+        vieleck << QPoint(p.x, p.y);
+    maler_->drawPolygon(vieleck);
+}
+
+void Malerflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+    // Cut to the picture first: a size from a file may be anything.
+    maler_->fillRect(AlsQRect(Geschnitten(r, Sichtbar())), AlsQColor(farbe));
+}
+
+void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    WendeStiftAn({farbe, 1, Strichart::Voll});
+    maler_->drawText(ort.x, ort.y + masse_.ascent(), AusNetz(text));
+}
+
+std::int32_t Malerflaeche::Textbreite(std::string_view text) const {
+    return masse_.horizontalAdvance(AusNetz(text));
+}
+
+std::int32_t Malerflaeche::Texthoehe() const {
+    return masse_.height();
+}
+
+std::int32_t Malerflaeche::Schriftgrad() const {
+    return Schrifthoehe() * kPunkteJeZoll / kPixelJeZoll;
+}
+
+std::int32_t Malerflaeche::Schrifthoehe() const {
+    return QFontInfo(schrift_).pixelSize();
+}
+
+}  // namespace zrw

@@ -1,0 +1,318 @@
+#include "ui/bild/Pixelflaeche.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "output/Abschneiden.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+namespace {
+
+/// Larger shapes are rare: the painter draws them.
+constexpr int kGroessterStempel = 64;
+constexpr int kGroessteSchrift = 40;  ///< [px]
+constexpr std::size_t kMeisteStempel = 64;
+constexpr int kRand = 4;  ///< round a shape that is made into a mask
+
+std::uint32_t Pixelfarbe(Farbe f) {
+    return 0xFF000000U | (f.wert & 0xFFU) << 16U | (f.wert & 0xFF00U) | (f.wert >> 16U & 0xFFU);
+}
+
+/// The pixels of one colour.
+Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
+    QRect grenzen;
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x) {
+            if (bild.pixel(x, y) == farbe) grenzen |= QRect(x, y, 1, 1);
+        }
+    }
+    Pixelmaske maske(grenzen.x() - null.x(), grenzen.y() - null.y(), grenzen.width(), grenzen.height());
+    for (int y = 0; y < grenzen.height(); ++y) {
+        for (int x = 0; x < grenzen.width(); ++x) {
+            if (bild.pixel(grenzen.topLeft() + QPoint(x, y)) == farbe) maske.Setze(x, y);
+        }
+    }
+    return maske;
+}
+
+/// A short text: its glyphs with their places, gathered into the rows of one mask, so that each row is set at
+/// once.
+class Textzeile {
+  public:
+    static constexpr std::size_t kMeisteZeichen = 24;
+
+    /// @return false: it does not fit in here
+    [[nodiscard]] bool Nimm(const Pixelglyphe& g) {
+        const Pixelmaske& m = g.maske;
+        const int links = stelle_ + m.links;
+        stelle_ += g.vorschub;
+        if (m.worte.empty()) return true;
+        if (anzahl_ == kMeisteZeichen || m.weite > 64) return false;
+        glyphen_[anzahl_++] = {&m, links};
+        links_ = std::min(links_, links);
+        rechts_ = std::max(rechts_, links + m.weite - 1);
+        oben_ = std::min(oben_, m.oben);
+        unten_ = std::max(unten_, m.oben + m.hoehe - 1);
+        return true;
+    }
+    [[nodiscard]] bool Passt() const { return rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe; }
+    [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
+    [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
+        return {ort.x + links_, ort.y + oben_, ort.x + rechts_, ort.y + unten_};
+    }
+    void Setze(Pixelbild& bild, Flaechenpunkt ort, std::uint32_t farbe) const {
+        constexpr std::size_t kMeisteWorte = std::size_t{kWeite / 64} * kHoehe;
+        const std::size_t worte = static_cast<std::size_t>(rechts_ - links_) / 64 + 1;
+        std::array<std::uint64_t, kMeisteWorte> bits;
+        const std::size_t hoehe = static_cast<std::size_t>(unten_ - oben_) + 1;
+        std::fill_n(bits.begin(), worte * hoehe, 0);
+        for (std::size_t n = 0; n < anzahl_; ++n) {
+            const Pixelmaske& m = *glyphen_[n].maske;
+            const auto x = static_cast<std::size_t>(glyphen_[n].links - links_);
+            const auto bit = static_cast<unsigned>(x % 64);
+            std::size_t ziel = static_cast<std::size_t>(m.oben - oben_) * worte + x / 64;
+            if (worte == 1) {
+                for (std::size_t i = 0; i < m.worte.size(); ++i)
+                    bits[ziel + i] |= m.worte[i] << bit;
+                continue;
+            }
+            for (const std::uint64_t zeile : m.worte) {
+                bits[ziel] |= zeile << bit;
+                if (bit != 0 && x / 64 + 1 < worte) bits[ziel + 1] |= zeile >> (64U - bit);
+                ziel += worte;
+            }
+        }
+        bild.Block({bits.data(), worte * hoehe}, worte, std::int64_t{ort.x} + links_,
+                   std::int64_t{ort.y} + oben_, farbe);
+    }
+
+  private:
+    static constexpr int kWeite = 192;
+    static constexpr int kHoehe = 64;
+    struct Platz {
+        const Pixelmaske* maske;
+        int links;
+    };
+
+    std::array<Platz, kMeisteZeichen> glyphen_;
+    std::size_t anzahl_ = 0;
+    int stelle_ = 0;
+    int links_ = std::numeric_limits<int>::max();
+    int oben_ = std::numeric_limits<int>::max();
+    int rechts_ = std::numeric_limits<int>::min();
+    int unten_ = std::numeric_limits<int>::min();
+};
+
+}  // namespace
+
+void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
+    // The rows belong to the picture alone here, so that asking for them copies nothing.
+    pixel_ = Pixelbild(reinterpret_cast<std::uint32_t*>(bild.bits()), bild.width(), bild.height(),
+                       static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t));
+    schrifthoehe_ = Schrifthoehe();
+    maler.begin(&bild);
+    BindeAn(maler, {0, 0, bild.width() - 1, bild.height() - 1});
+}
+
+void Pixelflaeche::SetzeAusschnitt(const Rechteck& r) {
+    pixel_.SetzeAusschnitt(r);
+    SetzeMalerausschnitt(pixel_.Ausschnitt());
+}
+
+Rechteck Pixelflaeche::Grenzen() const {
+    constexpr std::int32_t kWeit = (1 << 30) - 2 * kGrosszuegig;
+    return {-kWeit, -kWeit, kWeit, kWeit};
+}
+
+bool Pixelflaeche::BeginneVonVorn() {
+    if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift) return false;
+    pixel_.BeginneVonVorn();
+    return true;
+}
+
+void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
+    glyphen_.fill({});
+    zeichenweise_ = !schrift.kerning() && schrift.hintingPreference() == QFont::PreferFullHinting;
+    Malerflaeche::SetzeSchrift(schrift);
+    schrifthoehe_ = Schrifthoehe();
+}
+
+void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    const Stift& stift = AktuellerStift();
+    if (!schnell_) return MaleLinie(von, nach);
+    if (stift.breite <= 1) {
+        pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
+    } else if (const Pixelmaske* maske = BreiterStrich(von, nach)) {
+        pixel_.Maske(*maske, von.x, von.y, Pixelfarbe(stift.farbe));
+    } else {
+        MaleLinie(von, nach);
+    }
+}
+
+void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
+    if (!schnell_) return Malerflaeche::Linien(stuecke, farbe);
+    pixel_.Linien(stuecke, Pixelfarbe(farbe));
+}
+
+/// The painter computes exactly only near its picture.
+void Pixelflaeche::MaleLinie(Flaechenpunkt von, Flaechenpunkt nach) {
+    const auto teil = Abschneiden({von.x, von.y}, {nach.x, nach.y}, Sichtbar());
+    if (teil) Malerflaeche::Linie(teil->first, teil->second);
+}
+
+/// Short strokes of double width, of which large ellipses consist; null for others.
+const Pixelmaske* Pixelflaeche::BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach) {
+    constexpr int kReichweite = 8;
+    constexpr std::size_t kSeite = 2 * kReichweite + 1;
+    const std::int64_t dx = std::int64_t{nach.x} - von.x;
+    const std::int64_t dy = std::int64_t{nach.y} - von.y;
+    if (AktuellerStift() != Stift{AktuellerStift().farbe, 2, Strichart::Voll} || std::abs(dx) > kReichweite ||
+        std::abs(dy) > kReichweite)
+        return nullptr;
+    breite_.resize(kSeite * kSeite);
+    auto& maske = breite_[static_cast<std::size_t>(dy + kReichweite) * kSeite +
+                          static_cast<std::size_t>(dx + kReichweite)];
+    if (!maske) {
+        constexpr int kMitte = kReichweite + kRand;
+        QImage bild(2 * kMitte + 1, 2 * kMitte + 1, QImage::Format_RGB32);
+        bild.fill(Qt::white);
+        QPainter maler(&bild);
+        Malerflaeche flaeche(maler, {0, 0, 2 * kMitte, 2 * kMitte});
+        flaeche.SetzeStift({kSchwarz, 2, Strichart::Voll});
+        flaeche.Linie({kMitte, kMitte}, {kMitte + static_cast<int>(dx), kMitte + static_cast<int>(dy)});
+        maler.end();
+        maske = MaskeVon(bild, qRgb(0, 0, 0), {kMitte, kMitte});
+    }
+    return &*maske;
+}
+
+Pixelflaeche::Stempel Pixelflaeche::Praege(Form form, std::span<const Flaechenpunkt> ecken) const {
+    int links = 0;
+    int oben = 0;
+    int rechts = 0;
+    int unten = 0;
+    for (const Flaechenpunkt& p : ecken) {
+        links = std::min(links, p.x - ecken[0].x);
+        oben = std::min(oben, p.y - ecken[0].y);
+        rechts = std::max(rechts, p.x - ecken[0].x);
+        unten = std::max(unten, p.y - ecken[0].y);
+    }
+    const QPoint null(kRand - links, kRand - oben);
+    QImage bild(rechts - links + 2 * kRand + 1, unten - oben + 2 * kRand + 1, QImage::Format_RGB32);
+    bild.fill(Qt::white);
+    QPainter maler(&bild);
+    Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1});
+    const bool leer = AktuellerPinsel().leer;
+    flaeche.SetzeStift({Farbe{0x0000FF}, 1, Strichart::Voll});
+    flaeche.SetzePinsel({Farbe{0xFF0000}, leer});
+    Stempel stempel{form, leer, {}, {}, {}};
+    std::vector<Flaechenpunkt> verlegt;
+    for (const Flaechenpunkt& p : ecken) {
+        stempel.ecken.push_back({p.x - ecken[0].x, p.y - ecken[0].y});
+        verlegt.push_back({p.x - ecken[0].x + null.x(), p.y - ecken[0].y + null.y()});
+    }
+    const Rechteck r{verlegt[0].x, verlegt[0].y, verlegt.back().x, verlegt.back().y};
+    switch (form) {
+        case Form::Rechteck:
+            flaeche.ZeichneRechteck(r);
+            break;
+        case Form::Ellipse:
+            flaeche.Ellipse(r);
+            break;
+        case Form::Vieleck:
+            flaeche.Vieleck(verlegt);
+            break;
+    }
+    maler.end();
+    stempel.rand = MaskeVon(bild, qRgb(255, 0, 0), null);
+    if (!leer) stempel.fuellung = MaskeVon(bild, qRgb(0, 0, 255), null);
+    return stempel;
+}
+
+const Pixelflaeche::Stempel& Pixelflaeche::Suche(Form form, std::span<const Flaechenpunkt> ecken) {
+    const bool leer = AktuellerPinsel().leer;
+    for (const Stempel& s : stempel_) {
+        if (s.form != form || s.leer != leer || s.ecken.size() != ecken.size()) continue;
+        const bool gleich = std::equal(ecken.begin(), ecken.end(), s.ecken.begin(), [&](auto a, auto b) {
+            return a.x - ecken[0].x == b.x && a.y - ecken[0].y == b.y;
+        });
+        if (gleich) return s;
+    }
+    if (stempel_.size() == kMeisteStempel) stempel_.clear();
+    return stempel_.emplace_back(Praege(form, ecken));
+}
+
+/// @return false: too large, or not of width 1
+bool Pixelflaeche::Stempele(Form form, std::span<const Flaechenpunkt> ecken) {
+    if (!schnell_ || ecken.empty() || AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
+        return false;
+    for (const Flaechenpunkt& p : ecken) {
+        if (std::abs(std::int64_t{p.x} - ecken[0].x) > kGroessterStempel ||
+            std::abs(std::int64_t{p.y} - ecken[0].y) > kGroessterStempel)
+            return false;
+    }
+    const Stempel& s = Suche(form, ecken);
+    const auto fuelle = [&] {
+        if (!s.leer) pixel_.Maske(s.fuellung, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerPinsel().farbe));
+    };
+    const bool vonVorn = pixel_.VonVorn();
+    if (!vonVorn) fuelle();
+    pixel_.Maske(s.rand, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerStift().farbe));
+    if (vonVorn) fuelle();
+    return true;
+}
+
+void Pixelflaeche::ZeichneRechteck(const Rechteck& r) {
+    const std::array<Flaechenpunkt, 2> ecken{{{r.links, r.oben}, {r.rechts, r.unten}}};
+    if (!Stempele(Form::Rechteck, ecken)) Malerflaeche::ZeichneRechteck(r);
+}
+
+void Pixelflaeche::Ellipse(const Rechteck& u) {
+    const std::array<Flaechenpunkt, 2> ecken{{{u.links, u.oben}, {u.rechts, u.unten}}};
+    if (!Stempele(Form::Ellipse, ecken)) Malerflaeche::Ellipse(u);
+}
+
+void Pixelflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    if (!Stempele(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
+}
+
+const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
+    auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
+    glyphe.emplace();
+    const std::string_view text(&c, 1);
+    glyphe->vorschub = Malerflaeche::Textbreite(text);
+    const int hoehe = Texthoehe() + 2 * kRand;
+    const QPoint null(kRand + hoehe, kRand);  // italics reach far beside their advance
+    QImage bild(glyphe->vorschub + 2 * null.x(), hoehe, QImage::Format_RGB32);
+    bild.fill(Qt::white);
+    QPainter maler(&bild);
+    Malerflaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1}, Schrift())
+        .Text({null.x(), null.y()}, text, kSchwarz);
+    maler.end();
+    glyphe->maske = MaskeVon(bild, qRgb(0, 0, 0), null);
+    return *glyphe;
+}
+
+void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift)
+        return Malerflaeche::Text(ort, text, farbe);
+    Textzeile zeile;
+    for (const char c : text) {
+        if (!zeile.Nimm(Zeichen(c))) return LangerText(ort, text, farbe);
+    }
+    if (zeile.Leer()) return;
+    if (!zeile.Passt()) return LangerText(ort, text, farbe);
+    if (pixel_.Verdeckt(zeile.Umfang(ort))) return;
+    zeile.Setze(pixel_, ort, Pixelfarbe(farbe));
+}
+
+void Pixelflaeche::LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    for (const char c : text) {
+        const Pixelglyphe& g = Zeichen(c);
+        pixel_.Maske(g.maske, ort.x, ort.y, Pixelfarbe(farbe));
+        ort.x += g.vorschub;
+    }
+}
+
+}  // namespace zrw

@@ -1,0 +1,81 @@
+// The painter's surface with the common small figures set pixel by pixel: thin lines, symbols and texts.
+// Shapes and glyphs are drawn once by the painter and kept as masks, so that both give the same picture;
+// everything else still goes to the painter.
+#pragma once
+
+#include <QImage>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "output/Pixelbild.h"
+#include "ui/bild/Malerflaeche.h"
+
+namespace zrw {
+
+/// A character as it is set.
+struct Pixelglyphe {
+    Pixelmaske maske;
+    int vorschub = 0;  ///< to the next character [px]
+};
+
+class Pixelflaeche : public Malerflaeche {
+  public:
+    /// Leaves everything to the painter, for comparison.
+    void SetzeSchnell(bool schnell) { schnell_ = schnell; }
+    /// Restricts drawing to a part of the picture.
+    void SetzeAusschnitt(const Rechteck& r);
+    [[nodiscard]] Rechteck Ausschnitt() const override { return pixel_.Ausschnitt(); }
+    /// Thin lines are clipped pixel by pixel, so that they look the same whatever part of them is seen.
+    [[nodiscard]] Rechteck Grenzen() const override;
+    bool BeginneVonVorn() override;
+    void BeendeVonVorn() override { pixel_.BeendeVonVorn(); }
+    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return pixel_.Verdeckt(r); }
+
+    void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
+    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override;
+    void ZeichneRechteck(const Rechteck& r) override;
+    void Ellipse(const Rechteck& umschrieben) override;
+    void Vieleck(std::span<const Flaechenpunkt> ecken) override;
+    void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    void SetzeSchrift(const QFont& schrift) override;
+
+  protected:
+    /// Takes a painter that has just begun on the picture.
+    void BindeAnBild(QPainter& maler, QImage& bild);
+    [[nodiscard]] Pixelbild& Pixel() { return pixel_; }
+
+  private:
+    enum class Form : std::uint8_t { Rechteck, Ellipse, Vieleck };
+    /// A shape at the place of its first corner.
+    struct Stempel {
+        Form form;
+        bool leer;
+        std::vector<Flaechenpunkt> ecken;  ///< from the first one
+        Pixelmaske rand;
+        Pixelmaske fuellung;
+    };
+
+    void MaleLinie(Flaechenpunkt von, Flaechenpunkt nach);
+    [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
+    bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
+    [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
+    [[nodiscard]] Stempel Praege(Form form, std::span<const Flaechenpunkt> ecken) const;
+    void LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
+    [[nodiscard]] const Pixelglyphe& Zeichen(char c) const {
+        const auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
+        return glyphe ? *glyphe : NeuesZeichen(c);
+    }
+    [[nodiscard]] const Pixelglyphe& NeuesZeichen(char c) const;
+
+    bool schnell_ = true;
+    bool zeichenweise_ = true;  ///< characters of the font stand whole pixels apart, whatever is beside them
+    int schrifthoehe_ = 0;      ///< [px]
+    Pixelbild pixel_;
+    std::vector<Stempel> stempel_;
+    std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
+    mutable std::array<std::optional<Pixelglyphe>, 256>
+        glyphen_;  ///< of the current font, made when first drawn
+};
+
+}  // namespace zrw

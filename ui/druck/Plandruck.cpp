@@ -1,0 +1,170 @@
+#include "ui/druck/Plandruck.h"
+
+#include <QCheckBox>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "model/Fehler.h"
+#include "model/Ganzzahl.h"
+#include "output/Export.h"
+#include "ui/Umwandlung.h"
+
+namespace zrw {
+
+// --- Scale and output area --------------------------------------------------------------------------------
+
+std::optional<double> Plandruck::Massstab() {
+    Massstabfeld& feld = *felder_.massstab;
+    auto massstab = feld.Massstab();
+    if (!massstab) {
+        programm_.dialoge.Melde(QStringLiteral("Der Druckmaßstab muss eine Zahl größer als 0 sein."));
+        feld.setFocus();
+        feld.selectAll();
+    }
+    return massstab;
+}
+
+std::string Plandruck::Massstabtext() const {
+    return Utf8NachCp1252(NachUtf8(felder_.massstab->text()));
+}
+
+void Plandruck::AktualisiereRahmen() {
+    const bool ein = felder_.rahmen->isChecked();
+    if (!ein) rahmen_.Loese();
+    const auto massstab = felder_.massstab->Massstab();
+    if (ein && massstab) {
+        rahmen_.Setze(Druckrahmen::Stand{*massstab, programm_.drucker.Seite()});
+    } else {
+        rahmen_.Setze({});
+    }
+    felder_.bild->update();
+}
+
+void Plandruck::ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche) const {
+    rahmen_.Zeichne(liste, flaeche, programm_.einstellungen.PPCol);
+}
+
+// --- Sheets -----------------------------------------------------------------------------------------------
+
+/// Sheets of the plot at this scale: the one in the corner where it holds all of it, or where there would be
+/// too many; else those that take the fewest, wherever the picture stands.
+Plandruck::Wahl Plandruck::Blaetter(Liste& liste, double massstab) {
+    const Welt ecke = rahmen_.Ecke(liste);
+    const Druckseite seite = programm_.drucker.Seite();
+    // Texts are as wide as on paper only in the font of the print.
+    QImage nichts(1, 1, QImage::Format_RGB32);
+    QPainter maler(&nichts);
+    const Malerflaeche schrift(maler, {}, Druckschrift(flaeche_.Schrift(), seite.aufloesung));
+    const Druckplan plan{liste.Vorlage(), Mittel(), schrift};
+    try {
+        const auto dort = Blattschnitt(plan, massstab, seite, ecke);
+        const bool leer = std::find(dort.begin(), dort.end(), Blatt{}) == dort.end();
+        if (dort.size() > 1 || (leer && !dort.empty()))
+            return {Blattaufteilung(plan, massstab, seite), false, leer};
+    } catch (const Fehler&) {
+        // One sheet can be printed at any scale.
+    }
+    return {{{0, 0, ecke}}, true, false};
+}
+
+std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double massstab) {
+    auto [blaetter, inDerEcke, eckeLeer] = Blaetter(liste, massstab);
+    if (inDerEcke) return blaetter;
+    // Also where the plan lies on one sheet, but beside the output area.
+    const auto alle = programm_.dialoge.FrageMitAbbruch(
+        QStringLiteral("In diesem Maßstab liegt der Plan auf %1. Alles drucken?\n"
+                       "Nein druckt nur eines: %2.%3")
+            .arg(blaetter.size() == 1 ? QStringLiteral("einem anderen Blatt")
+                                      : QStringLiteral("%1 Blättern").arg(blaetter.size()))
+            .arg(rahmen_.Ecke() ? QStringLiteral("das des Ausgabebereichs")
+                                : QStringLiteral("das in der linken oberen Ecke des Bildes"),
+                 eckeLeer ? QStringLiteral("\nAuf diesem liegt nichts vom Plan.") : QString()));
+    if (!alle) return std::nullopt;
+    if (!*alle) blaetter = {{0, 0, rahmen_.Ecke(liste)}};
+    return blaetter;
+}
+
+Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
+    Druckwerk werk;
+    werk.titel = titel;
+    werk.schrift = flaeche_.Schrift();
+    werk.blaetter = static_cast<int>(blaetter.size());
+    Druckauftrag auftrag{massstab, Massstabtext(), programm_.drucker.Seite()};
+    auftrag.legende = Legendenort(liste, auftrag);
+    werk.zeichne = [this, &liste, blaetter = std::move(blaetter), auftrag](Zeichenflaeche& flaeche,
+                                                                           int nummer) mutable {
+        auftrag.ecke = blaetter[static_cast<std::size_t>(nummer)].ecke;
+        const double geraetefaktor = Geraetefaktor(auftrag.seite);
+        // What is seen of a print: the legend keeps naming its scale, and the device factor stays at screen
+        // to printer.
+        if (liste.ShowLegende && liste.Legend) liste.Legend->Masstab = auftrag.massstabtext;
+        zrw::Drucke(liste.Vorlage(), Mittel(), Geraetegroessen(programm_.einstellungen, geraetefaktor),
+                    flaeche, auftrag);
+        programm_.zustand.Geraetefaktor = 1 / geraetefaktor;
+    };
+    return werk;
+}
+
+/// A legend that stands within the frame of the output area stands there on the sheet.
+std::optional<Bildpunkt> Plandruck::Legendenort(const Liste& liste, const Druckauftrag& auftrag) const {
+    if (!felder_.rahmen->isChecked() || !liste.Legend) return std::nullopt;
+    const double dot = Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung);
+    const Welt ecke = rahmen_.Ecke(liste);
+    const Welt w = liste.BildinWelt(liste.Legend->Position());
+    const Bildpunkt ort{RundeZuInt64((w.rechts - ecke.rechts) / dot),
+                        RundeZuInt64((ecke.hoch - w.hoch) / dot)};
+    const bool darin = ort.x >= 0 && ort.y >= 0 && ort.x < auftrag.seite.weite && ort.y < auftrag.seite.hoehe;
+    return darin ? std::optional(ort) : std::nullopt;
+}
+
+// --- Printing ---------------------------------------------------------------------------------------------
+
+void Plandruck::Drucke(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
+    programm_.drucker.Drucke(Werk(liste, std::move(blaetter), massstab, titel));
+}
+
+bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel) {
+    auto blaetter = Blaetter(liste, massstab).blaetter;
+    const QImage uebersicht = Uebersicht(liste, blaetter, massstab);
+    return programm_.drucker.ZeigeVorschau(eltern, Werk(liste, std::move(blaetter), massstab, titel),
+                                           uebersicht);
+}
+
+/// The network without its texts, and over it the sheets with their numbers.
+QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const {
+    constexpr double kWeite = 320;
+    constexpr double kHoehe = 480;
+    const Druckseite seite = programm_.drucker.Seite();
+    const double faktor = Druckfaktor(massstab, seite.aufloesung);
+    const double breite = seite.weite * faktor;
+    const double hoehe = seite.hoehe * faktor;
+    Welt lo = blaetter.front().ecke;
+    Welt ru = lo;
+    for (const Blatt& b : blaetter) {
+        lo = {std::min(lo.rechts, b.ecke.rechts), std::max(lo.hoch, b.ecke.hoch)};
+        ru = {std::max(ru.rechts, b.ecke.rechts + breite), std::min(ru.hoch, b.ecke.hoch - hoehe)};
+    }
+    const double jePixel = std::max((ru.rechts - lo.rechts) / kWeite, (lo.hoch - ru.hoch) / kHoehe);
+    const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / jePixel)); };
+    Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
+    const Ansicht ansicht = liste.FuerGeraet(jePixel, lo);
+    const Bildvorlage vorlage = liste.Vorlage().In(ansicht);
+    Zeichenzustand zustand = programm_.zustand;
+    zustand.flaeche = &bild;
+    Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+    if (liste.ShowBeob) ZeichneKanten(vorlage, zeichner);
+    ZeichnePunkte(vorlage, zeichner);
+    bild.SetzeStift({programm_.einstellungen.PPCol, 1, Strichart::Voll});
+    bild.SetzePinsel({kWeiss, true});
+    for (std::size_t i = 0; i < blaetter.size(); ++i) {
+        const int x = pixel(blaetter[i].ecke.rechts - lo.rechts);
+        const int y = pixel(lo.hoch - blaetter[i].ecke.hoch);
+        bild.ZeichneRechteck({x, y, x + pixel(breite), y + pixel(hoehe)});
+        bild.Text({x + 3, y + 1}, std::to_string(i + 1), programm_.einstellungen.PPCol);
+    }
+    return bild.Bild();
+}
+
+}  // namespace zrw

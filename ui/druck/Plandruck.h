@@ -1,0 +1,78 @@
+// Printing the plot at the scale of its field: sheets, preview and the output area in the picture. Not in
+// here: the printer (Drucker.h) and drawing at scale (output/Druck.h).
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/FigListe.h"
+#include "output/Blattschnitt.h"
+#include "output/Druck.h"
+#include "output/Figurenzeichner.h"
+#include "ui/Programm.h"
+#include "ui/bild/Bildflaeche.h"
+#include "ui/druck/Druckrahmen.h"
+#include "ui/fenster/Massstabfeld.h"
+
+class QCheckBox;
+
+namespace zrw {
+
+class Plandruck {
+  public:
+    /// What the user sets it with, and the picture that shows the output area.
+    struct Felder {
+        Massstabfeld* massstab = nullptr;
+        const QCheckBox* rahmen = nullptr;
+        QWidget* bild = nullptr;
+    };
+    /// All must outlive it.
+    Plandruck(const Programm& programm, const Bildflaeche& flaeche)
+        : programm_(programm), flaeche_(flaeche) {}
+    /// Before anything else but `Rahmen`.
+    void SetzeFelder(const Felder& felder) { felder_ = felder; }
+
+    [[nodiscard]] Druckrahmen& Rahmen() { return rahmen_; }
+    /// The output area follows the scale, the paper and its box; switching it off puts it back into the
+    /// corner.
+    void AktualisiereRahmen();
+    void ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche) const;
+
+    /// The scale denominator of the field; tells where it is none.
+    [[nodiscard]] std::optional<double> Massstab();
+    /// The same as the legend names it, code page 1252.
+    [[nodiscard]] std::string Massstabtext() const;
+
+    /// The sheets to be printed, by the user's choice where there is one. @return none: nothing is to be
+    /// printed
+    [[nodiscard]] std::optional<std::vector<Blatt>> WaehleBlaetter(Liste& liste, double massstab);
+    /// @throws Fehler where the printer does not take it or breaks it off
+    void Drucke(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel);
+    /// @return whether the sheets are to be printed
+    [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel);
+
+  private:
+    [[nodiscard]] Zeichenmittel Mittel() const {
+        return {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr};
+    }
+    struct Wahl {
+        std::vector<Blatt> blaetter;
+        bool inDerEcke = false;  ///< the one sheet of the output area
+        bool eckeLeer = false;   ///< nothing would be on that one
+    };
+    [[nodiscard]] Wahl Blaetter(Liste& liste, double massstab);
+    [[nodiscard]] Druckwerk Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab,
+                                 const QString& titel);
+    [[nodiscard]] std::optional<Bildpunkt> Legendenort(const Liste& liste, const Druckauftrag& auftrag) const;
+    [[nodiscard]] QImage Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const;
+
+    const Programm& programm_;
+    const Bildflaeche& flaeche_;
+    Felder felder_;
+    Druckrahmen rahmen_;
+};
+
+}  // namespace zrw

@@ -1,0 +1,149 @@
+#include "ui/ergebnisse/Ergebnisanzeige.h"
+
+#include <algorithm>
+#include <cmath>
+#include <system_error>
+#include <utility>
+
+#include "input/Oeffnen.h"
+#include "input/tabellen/MarkiereFehler.h"
+#include "model/Fehler.h"
+#include "model/Linienarten.h"
+#include "model/Punktarten.h"
+#include "model/Zahlentext.h"
+#include "ui/Umwandlung.h"
+#include "ui/ablage/Einstellungsablage.h"
+#include "ui/dialoge/Beobachtungstyp.h"
+#include "ui/ergebnisse/TFormData.h"
+
+namespace zrw {
+namespace {
+
+/// "Richtung zweiseitig, Strecke, Höhenunterschied einseitig".
+QString Beobachtungen(const Kante& k) {
+    const Linienart& linie = ZurLinie(k.LAttr);
+    // As the dialog sees it: what was measured from both ends is not named for one of them again.
+    const KanteAttr weitere = AlsTyp(AlsWahl({k.LAttr, k.KAttr})).weitere;
+    QStringList teile;
+    if (!linie.bezeichnung.empty()) teile << AusUtf8(linie.bezeichnung);
+    for (const Beobachtungsart& art : kBeobachtungsarten) {
+        if (weitere.Hat(art.art)) teile << AusUtf8(art.bezeichnung);
+    }
+    if (linie.indirekt) teile << QStringLiteral("indirekt");
+    return teile.isEmpty() ? QStringLiteral("keine Beobachtung") : teile.join(QStringLiteral(", "));
+}
+
+QString Angaben(const PunktKnoten& p) {
+    return QStringLiteral("%1   Rechtswert %2   Hochwert %3")
+        .arg(AusUtf8(ZurArt(p.Item->PktArt).bezeichnung), AusUtf8(Festkomma(p.XWPu, 0, 3)),
+             AusUtf8(Festkomma(p.YWPu, 0, 3)));
+}
+
+QString Angaben(const Liste& netz, const PunktKante& k) {
+    const PunktKnoten* a = netz.SuchPkt(k.ANr);
+    const PunktKnoten* e = netz.SuchPkt(k.ENr);
+    QString text = Beobachtungen(*k.Item);
+    if (a != nullptr && e != nullptr) {
+        const double laenge = std::hypot(e->XWPu - a->XWPu, e->YWPu - a->YWPu);
+        text += QStringLiteral("   Länge in der Ebene %1 m").arg(AusUtf8(Festkomma(laenge, 0, 3)));
+    }
+    return text;
+}
+
+}  // namespace
+
+Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, QWidget* eltern)
+    : programm_(programm), fenster_(new TFormData(programm.sitzung, eltern)) {
+    fenster_->reiterGewechselt = [this] { FuelleReiter(); };
+    // Until a file is opened, beside which they are looked for.
+    if (const auto alias = TavelinOrdner(programm_.ablage)) programm_.daten.SetzeOrdner(*alias);
+}
+
+Ergebnisanzeige::~Ergebnisanzeige() {
+    fenster_->reiterGewechselt = {};  // its parent deletes it later
+}
+
+void Ergebnisanzeige::Vergiss() {
+    fenster_->hide();
+    aufgelistet_.clear();
+    zweiter_.reset();
+}
+
+bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
+    std::error_code fehler;
+    const std::filesystem::path vorher = programm_.daten.Ordner();
+    programm_.daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).lexically_normal().parent_path());
+    programm_.zustand.Ergebnisse = &programm_.daten;
+    if (programm_.daten.Ordner() == vorher) return false;
+    if (fenster_->isVisible()) FuelleReiter();
+    return true;
+}
+
+bool Ergebnisanzeige::Vorhanden() const {
+    const auto liegtBei = [this](const Ergebnisreiter& r) { return programm_.daten.Vorhanden(r.datei); };
+    return std::any_of(kErgebnisreiter.begin(), kErgebnisreiter.end(), liegtBei);
+}
+
+void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKnoten& punkt) {
+    const QString n = AusNetz(netz.GetPktText(punkt.PNr));
+    fenster_->Betitle(QStringLiteral("Abriss nach der Ausgleichung Punkt ") + n, Angaben(punkt), n);
+    aufgelistet_ = n;
+    zweiter_.reset();
+    FuelleReiter();
+    fenster_->Zeige();
+}
+
+void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKante& kante) {
+    const QString a = AusNetz(netz.GetPktText(kante.ANr));
+    const QString b = AusNetz(netz.GetPktText(kante.ENr));
+    fenster_->Betitle(QStringLiteral("Abriss nach der Ausgleichung P1= %1  P2= %2").arg(a, b),
+                      Angaben(netz, kante), a);
+    aufgelistet_ = a;
+    zweiter_ = b;
+    FuelleReiter();
+    fenster_->Zeige();
+}
+
+/// The results of what was listed last on the tab that is open now.
+void Ergebnisanzeige::FuelleReiter() {
+    const QString& a = aufgelistet_;
+    const auto& b = zweiter_;
+    if (a.isEmpty() || (b && b->isEmpty()))
+        return fenster_->Leere(QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse"));
+    const Ergebnisreiter& reiter = fenster_->Reiter();
+    if (!programm_.daten.Vorhanden(reiter.datei)) {
+        fenster_->Leere(AusUtf8(reiter.datei) + QStringLiteral(" liegt nicht beim Netz"));
+        return;
+    }
+    try {
+        const std::string abfrage =
+            b ? Abfragetext(reiter.kante, NachUtf8(a), NachUtf8(*b)) : Abfragetext(reiter.punkt, NachUtf8(a));
+        fenster_->Fuelle(programm_.daten.Frage(reiter.tabelle, abfrage));
+    } catch (const std::exception& f) {
+        fenster_->Leere(AusUtf8(Fehlertext(f)));
+    }
+    MeldeTabellen();
+}
+
+void Ergebnisanzeige::MarkiereFehler(Liste& netz) {
+    Melde(zrw::MarkiereFehler(netz, programm_.daten, programm_.einstellungen));
+}
+
+/// Later, outside whatever goes on: a box would let the next drawing in.
+void Ergebnisanzeige::Melde(const std::vector<Tabellenmeldung>& meldungen) {
+    if (meldungen.empty()) return;
+    QStringList texte;
+    for (const Tabellenmeldung& m : meldungen)
+        texte << AusUtf8(m.text);
+    // The dialog service outlives the window of the results, with which the call goes.
+    QMetaObject::invokeMethod(
+        fenster_,
+        [&dialoge = programm_.dialoge, text = texte.join(QLatin1Char('\n'))] { dialoge.Melde(text); },
+        Qt::QueuedConnection);
+}
+
+void Ergebnisanzeige::MeldeTabellen() {
+    Melde(programm_.daten.NimmMeldungen());
+}
+
+}  // namespace zrw

@@ -1,0 +1,222 @@
+// The main window: tool panel, picture and status line. Owns the current network and the classes that do the
+// work, and forwards to them. By topic: building and switches in Hauptfenster.cpp, files in
+// HauptfensterDateien.cpp, view, mouse and keys in HauptfensterAnsicht.cpp, points and what follows a
+// change in HauptfensterPunkte.cpp, legend, export and dialogs in HauptfensterAusgabe.cpp, printing and
+// bitmaps in HauptfensterDruck.cpp.
+#pragma once
+
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QToolButton>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "output/Figurenzeichner.h"
+#include "ui/Plan.h"
+#include "ui/Programm.h"
+#include "ui/ablage/Netzbewahrung.h"
+#include "ui/bild/Bildflaeche.h"
+#include "ui/bild/Bildpflege.h"
+#include "ui/bild/ImageZarwik.h"
+#include "ui/druck/Plandruck.h"
+#include "ui/fenster/Ansichtssteuerung.h"
+#include "ui/fenster/Massstabfeld.h"
+#include "ui/fenster/Schalter.h"
+#include "ui/werkzeuge/LegendeVerschieben.h"
+#include "ui/werkzeuge/RahmenVerschieben.h"
+#include "ui/werkzeuge/Werkzeug.h"
+
+class QCheckBox;
+class QLabel;
+class QLayout;
+
+namespace zrw {
+
+class Ergebnisanzeige;
+class Hilfefenster;
+class Nummernfeld;
+class Punktartwahl;
+class Punktversteck;
+class TFormBeobTyp;
+class TZRWLBLForm;
+class Zentrierkasten;
+
+class TZrwMainDlg final : public QMainWindow,
+                          private Bildempfaenger,
+                          private Werkzeugumgebung,
+                          private Plan::Beobachter {
+  public:
+    explicit TZrwMainDlg(const Programm& programm);
+    ~TZrwMainDlg() override;
+
+    /// Opens a control file or, by its extension, a picture file. Messages go to the dialog service; the
+    /// previous network stays where the new one cannot be read, and where the user would lose changes.
+    void Oeffne(const std::filesystem::path& datei);
+    /// The current network, or null before one is opened.
+    [[nodiscard]] const Liste* Netz() const { return plan_.Daten(); }
+    [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
+    /// Offers plots that an earlier run could not save. @return whether one is shown now
+    bool BieteRettungAn() { return bewahrung_.BieteAn(); }
+    [[nodiscard]] bool Ungesichert() const { return plan_.Ungesichert(); }
+
+    // Click handlers, by component.
+    void SpeedButton1Click();        ///< open a control file
+    void SpeedButton2Click();        ///< "Zarwik lesen"
+    void SpeedButton9Click();        ///< "Zarwik speichern"
+    void SpeedButton7Click();        ///< "Zarwik beenden"
+    void SpeedButton3Click();        ///< "Alles darstellen"
+    void SpeedButton4Click();        ///< "Programminfo"
+    void SpeedButton5Click();        ///< "Zarwik drucken"
+    void SpeedButton6Click();        ///< "Hilfe"
+    void SpeedButton8Click();        ///< "Zeichenfont wählen"
+    void SpeedButton10Click();       ///< "Punkt anzeigen"
+    void SpeedButton11Click();       ///< "Druckereinstellungen"
+    void SpeedButton12Click();       ///< "Legendentexte"
+    void SpeedButton14Click();       ///< "Punkte verstecken"
+    void SpeedButton15Click();       ///< "Versteckte Punkte"
+    void SpeedButton16Click();       ///< "DXF und HPGL Format ausgeben"
+    void VorschauClick();            ///< "Druckvorschau"
+    void SpeedButtonClipbrdClick();  ///< "Grafik als Bitmap speichern"
+    void ColorButtonClick();
+    void ButtonGroesserClick();
+    void ButtonKleinerClick();
+    void EinpassenClick();      ///< fits the visible points
+    void NummernZeigenClick();  ///< shows all hidden numbers
+    void LetzteDateienClick();
+    void Rueckgaengig();
+    void Wiederhole();
+
+    /// Help keys work in every window of the program.
+    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
+
+  protected:
+    bool event(QEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
+    void closeEvent(QCloseEvent* ereignis) override;
+    void dragEnterEvent(QDragEnterEvent* ereignis) override;
+    void dropEvent(QDropEvent* ereignis) override;
+
+  private:
+    // Hauptfenster.cpp
+    void BaueFenster();
+    void BaueBefehle(QLayout& reihe);
+    void BaueWerkzeuge(QLayout& reihe);
+    void BaueSchalter(QLayout& reihe);
+    void BaueFelder(QLayout& reihe);
+    void BaueDialoge();
+    void WerkzeugGewaehlt(std::size_t nummer, bool unten);
+    void SchalterGewaehlt(const Schalter& schalter, bool ein);
+    void LoeseWerkzeuge();
+    [[nodiscard]] QToolButton& Knopf(const char* komponente) const;
+
+    // HauptfensterDateien.cpp
+    void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
+    void StelleSchalter(bool ausBild);
+    [[nodiscard]] bool Speichere();
+    [[nodiscard]] bool DarfVerwerfen();
+    [[nodiscard]] bool BereitZumEnde();
+    void ZeigeTitel();
+    [[nodiscard]] Netzbewahrung::Plan JetzigerPlan() const;
+
+    // HauptfensterAnsicht.cpp
+    void Zoome(double x, double y, bool groesser);
+    void ZoomeAuf(const Bildlage& lage);
+    bool SetzeLage(const Bildlage& lage);
+    void ZeichneNachRad();
+    void ZeigeBild();
+    void ZeigeStand();
+    void ZeigeZeiger(Bildpunkt ort);
+    [[nodiscard]] Werkzeug* Aktiv() const;
+    [[nodiscard]] Werkzeug* Zustaendig(Bildpunkt ort) const;
+    void BrichAb();
+    void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) override;
+    void ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) override;
+    void ImageZarwikMouseLeave() override;
+    void ImageZarwikMouseMove(Bildpunkt ort) override;
+    void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
+    void ImageZarwikWheel(Bildpunkt ort, int schritte) override;
+    void ImageZarwikResize(int weite, int hoehe) override;
+    [[nodiscard]] Liste* AktuelleListe() override { return plan_.Daten(); }
+    [[nodiscard]] const Einstellungen& Anzeige() const override { return programm_.einstellungen; }
+    [[nodiscard]] Bildvorlage Vorlage();
+    void UeberlagerungGeaendert() override { bild_->update(); }
+    void ZeichneNeu() override;
+    void LasseAus(Figurenmenge figuren) override;
+    void LasseLegendeAus(bool aus) override;
+    void ZeigeVorschau(Vorschau vorschau) override;
+    void ZeigeStatus(const QString& text) override;
+    void Tue(std::unique_ptr<Netzaenderung> aenderung) override { plan_.Tue(std::move(aenderung)); }
+    void BeginneZug() override { ansicht_.BeginneZug(*plan_.Daten()); }
+    void ZieheBild(Bildpunkt versatz) override;
+    void BeendeZug() override;
+    [[nodiscard]] bool FolgeZug();
+    void ZeichneStehendes(Zeichenflaeche& flaeche);
+    void Verschiebe(Bildpunkt versatz);
+    void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
+    void ZoomeUm(Bildpunkt ort) override;
+    void AnsichtZurueck() override;
+
+    // HauptfensterPunkte.cpp
+    void VorAenderung(const Figurenmenge& figuren) override;
+    void NachAenderung(const Figurenmenge& figuren) override;
+    void StandGeaendert() override { ZeigeTitel(); }
+    void FuelleNummern();
+    void ZeigePunkt(const QString& nummer);
+    const PunktKnoten* MarkierePunkt(const QString& nummer);
+    void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
+    void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
+    void VerbergePunkt(PunktKnoten& punkt) override;
+    void WaehlePunkt(PunktKnoten& punkt) override;
+    [[nodiscard]] const PunktKnoten* GewaehlterPunkt() const override;
+    [[nodiscard]] Bildbereich Textrahmen(const PunktString& text) const override;
+    [[nodiscard]] Bildpunkt Textgroesse(std::string_view text) const override;
+    void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
+    void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
+    [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }
+
+    // HauptfensterAusgabe.cpp
+    void ZeigeFehler(const std::exception& fehler);
+    void ZeigeHilfe(int kontext);
+    void SchliesseEinstellungen();
+
+    Programm programm_;
+    Plan plan_;
+    bool beendet_ = false;     ///< closing has been asked about
+    bool planBleibt_ = false;  ///< at the end the unsaved plot is kept for the next start
+    Bildflaeche flaeche_;
+    Figurenzeichner zeichner_;
+    Bildpflege pflege_;
+    Ansichtssteuerung ansicht_;
+    Figurenmenge ausgelassene_;                         ///< what a tool has in hand
+    Auslassung ohne_;                                   ///< the same for drawing
+    std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
+    std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
+    std::unique_ptr<LegendeVerschieben> legendenecke_;
+    Plandruck druck_;
+    std::unique_ptr<RahmenVerschieben> rahmenrand_;
+    Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
+    Qt::MouseButton taste_ = Qt::NoButton;
+    std::optional<Bildpunkt> maus_;  ///< position of the mouse while it is over the picture [px]
+    bool stehendesLose_ = false;     ///< legend and scale bar lie over the picture that is being dragged
+    QString ortstext_;               ///< what the status line said about that
+    std::vector<QToolButton*> werkzeugknoepfe_;
+    std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
+    ImageZarwik* bild_ = nullptr;
+    QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
+    Massstabfeld* EditMasstab_ = nullptr;
+    Nummernfeld* ComboBox1_ = nullptr;
+    Zentrierkasten* zentrierkasten_ = nullptr;
+    TZRWLBLForm* legendentexte_ = nullptr;
+    TFormBeobTyp* beobachtungstyp_ = nullptr;
+    std::unique_ptr<Punktartwahl> punktart_;
+    std::unique_ptr<Punktversteck> versteck_;
+    std::unique_ptr<Ergebnisanzeige> ergebnisse_;
+    std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
+    QString titel_;
+    QString ordner_;           ///< of the last file
+    Netzbewahrung bewahrung_;  ///< goes first: it asks the members above
+};
+
+}  // namespace zrw

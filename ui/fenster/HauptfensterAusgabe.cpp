@@ -1,0 +1,148 @@
+// Main window: legend, export, dialogs and help.
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QUrl>
+
+#include "model/Fehler.h"
+#include "output/Export.h"
+#include "ui/Umwandlung.h"
+#include "ui/aenderungen/Punktartwahl.h"
+#include "ui/dialoge/TAboutBox.h"
+#include "ui/dialoge/TFormPunktart.h"
+#include "ui/dialoge/TZRWLBLForm.h"
+#include "ui/dialoge/TZRWParameter.h"
+#include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/ergebnisse/TFormData.h"
+#include "ui/fenster/Hauptfenster.h"
+#include "ui/fenster/Sanduhr.h"
+#include "ui/fenster/Zentrierkasten.h"
+#include "ui/hilfe/Hilfefenster.h"
+
+namespace zrw {
+
+/// The one place that tells what an action could not do; its scopes have put everything back by then.
+void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
+    programm_.dialoge.Melde(AusUtf8(Fehlertext(fehler)));
+}
+
+void TZrwMainDlg::SpeedButton12Click() {
+    if (!plan_.Offen()) return;
+    legendentexte_->Bearbeite(*plan_.Daten());
+    plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
+    ZeichneNeu();
+}
+
+void TZrwMainDlg::SpeedButton16Click() {
+    if (!plan_.Offen()) return;
+    bewahrung_.Bewahre();
+    const auto massstab = druck_.Massstab();
+    if (!massstab) return;
+    try {
+        const Sanduhr sanduhr;
+        const double faktor = Druckfaktor(*massstab, programm_.drucker.Aufloesung());
+        Exportiere(plan_.Daten()->Vorlage(),
+                   {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr},
+                   programm_.dateien, {faktor, kPlotname, kDxfname});
+        if (plan_.Daten()->ShowLegende) plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
+        ZeichneNeu();
+    } catch (const std::exception& f) {
+        ZeigeFehler(f);
+        return;
+    }
+    ZeigeStatus(QStringLiteral("Geschrieben nach ") + QDir::toNativeSeparators(QDir::currentPath()));
+    // "ZRP.PLT" is not the file's name, but what users have always read here.
+    programm_.dialoge.Sage(
+        QStringLiteral("Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."));
+}
+
+// --- Dialogs and help -------------------------------------------------------------------------------------
+
+void TZrwMainDlg::SchliesseEinstellungen() {
+    for (auto* offen : findChildren<QDialog*>(QStringLiteral("TZRWParameter")))
+        offen->close();
+}
+
+void TZrwMainDlg::ColorButtonClick() {
+    // One at a time: two would not show each other's changes. Closing saves.
+    SchliesseEinstellungen();
+    auto* dialog = new TZRWParameter(programm_.einstellungen, programm_.ablage, programm_.dialoge, this);
+    dialog->geschlossen = [this] { ZeichneNeu(); };
+    dialog->show();
+}
+
+void TZrwMainDlg::SpeedButton8Click() {
+    if (const auto schrift = programm_.dialoge.WaehleSchrift(flaeche_.Schrift())) {
+        // Drawing in white must wipe every pixel of a text.
+        QFont ohneGlaettung = *schrift;
+        ohneGlaettung.setStyleStrategy(Zeichenschrift().styleStrategy());
+        flaeche_.SetzeSchrift(ohneGlaettung);
+        ZeichneNeu();
+    }
+}
+
+void TZrwMainDlg::SpeedButton4Click() {
+    auto* info = findChild<QDialog*>(QStringLiteral("TAboutBox"));
+    if (info == nullptr) info = new TAboutBox(programm_.version, this);
+    info->open();
+}
+
+void TZrwMainDlg::SpeedButton6Click() {
+#ifdef Q_OS_WIN
+    // Offices that have a help file of their own put it where they work.
+    const QString eigene = QStringLiteral("ZRWHELP.HLP");
+    if (QFileInfo::exists(eigene) && programm_.dialoge.Frage(eigene + QStringLiteral(" öffnen?"))) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(eigene).absoluteFilePath()));
+        return;
+    }
+#endif
+    ZeigeHilfe(kErsteSeite);
+}
+
+void TZrwMainDlg::ZeigeHilfe(int kontext) {
+    if (hilfe_ == nullptr) hilfe_ = std::make_unique<Hilfefenster>();
+    hilfe_->Zeige(kontext);
+}
+
+bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
+    if (ereignis->type() == QEvent::KeyPress && empfaenger->isWidgetType()) {
+        const auto* taste = static_cast<QKeyEvent*>(ereignis);
+        // In a dialog there is nothing that plain help could be about but the dialog.
+        const bool dialog = static_cast<QWidget*>(empfaenger)->window() != this;
+        if (taste->key() == Qt::Key_F1 &&
+            (taste->modifiers() == Qt::ControlModifier || (dialog && taste->modifiers() == Qt::NoModifier))) {
+            ZeigeHilfe(ThemaZu(QApplication::focusWidget()));
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(empfaenger, ereignis);
+}
+
+void TZrwMainDlg::ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) {
+    if (punkt != nullptr) {
+        ergebnisse_->ListeAuf(*plan_.Daten(), *punkt);
+    } else if (kante != nullptr) {
+        ergebnisse_->ListeAuf(*plan_.Daten(), *kante);
+    }
+}
+
+void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
+    const bool zeigen = sichtbar && plan_.Offen();
+    switch (welches) {
+        case Nebenfenster::Zentrierung:
+            zeigen ? zentrierkasten_->Zeige() : zentrierkasten_->hide();
+            break;
+        case Nebenfenster::Punktart:
+            punktart_->Loese();
+            punktart_->Fenster().setVisible(zeigen);
+            break;
+        case Nebenfenster::Ergebnisse:
+            ergebnisse_->Fenster().setVisible(zeigen);
+            break;
+    }
+}
+
+}  // namespace zrw

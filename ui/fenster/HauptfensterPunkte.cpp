@@ -1,0 +1,187 @@
+// Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
+#include "model/Bildorte.h"
+#include "model/Ganzzahl.h"
+#include "output/Abschneiden.h"
+#include "ui/Umwandlung.h"
+#include "ui/aenderungen/Punktartwahl.h"
+#include "ui/aenderungen/Punktversteck.h"
+#include "ui/dialoge/TFormHiddenPkt.h"
+#include "ui/dialoge/TFormHidePunkte.h"
+#include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/fenster/Hauptfenster.h"
+#include "ui/fenster/Nummernfeld.h"
+#include "ui/fenster/Sanduhr.h"
+#include "ui/fenster/Zentrierkasten.h"
+
+namespace zrw {
+namespace {
+
+constexpr Farbe kSuchfarbe{0xFF0000};
+
+std::string AlsNummer(const QString& text) {
+    return Utf8NachCp1252(NachUtf8(text));
+}
+
+}  // namespace
+
+// A drag under way ends first: what is changed may be what it has in hand.
+void TZrwMainDlg::Rueckgaengig() {
+    BrichAb();
+    const auto text = plan_.Rueckgaengig();
+    ZeigeStatus(text ? QStringLiteral("Rückgängig: ") + *text
+                     : QStringLiteral("Es gibt nichts zurückzunehmen."));
+}
+
+void TZrwMainDlg::Wiederhole() {
+    BrichAb();
+    const auto text = plan_.Wiederhole();
+    ZeigeStatus(text ? QStringLiteral("Wiederholt: ") + *text
+                     : QStringLiteral("Es gibt nichts zu wiederholen."));
+}
+
+void TZrwMainDlg::VorAenderung(const Figurenmenge& figuren) {
+    pflege_.Vorher(Vorlage(), figuren);
+}
+
+void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
+    ansicht_.NetzGeaendert();
+    punktart_->NetzGeaendert();
+    versteck_->Versteckte().NetzGeaendert();
+    if (ComboBox1_->Veraltet(*plan_.Daten())) FuelleNummern();
+    pflege_.Nachher(Vorlage(), figuren);
+    ZeigeBild();
+    for (const auto& werkzeug : werkzeuge_)
+        werkzeug->NetzGeaendert();
+}
+
+/// In all the lists.
+void TZrwMainDlg::FuelleNummern() {
+    ComboBox1_->Fuelle(*plan_.Daten());
+    const QStringList nummern = ComboBox1_->Nummern();
+    zentrierkasten_->Fuelle(nummern);
+    if (zentrierkasten_->isVisible()) zentrierkasten_->Zeige();
+    if (versteck_->Auswahl().isVisible()) versteck_->Auswahl().Fuelle(nummern);
+}
+
+// --- Finding a point --------------------------------------------------------------------------------------
+
+void TZrwMainDlg::SpeedButton10Click() {
+    ZeigePunkt(ComboBox1_->currentText());
+}
+
+/// Brings a point into view and marks it. A part of a number finds the first that holds it.
+void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
+    const PunktKnoten* punkt = MarkierePunkt(nummer);
+    if (punkt == nullptr) return;
+    // A window without any results would only be in the way.
+    if (Knopf("DataButton").isChecked() || ergebnisse_->Vorhanden())
+        ergebnisse_->ListeAuf(*plan_.Daten(), *punkt);
+}
+
+/// Brings the point into view and marks it. @return null where there is none of this number
+const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
+    if (!plan_.Offen() || nummer.isEmpty()) return nullptr;
+    PPunktKnoten punkt = plan_.Daten()->FindPunkt(AlsNummer(nummer));
+    if (punkt == nullptr) {
+        if (const auto treffer = ComboBox1_->Finde(nummer))
+            punkt = plan_.Daten()->FindPunkt(AlsNummer(*treffer));
+    }
+    if (punkt == nullptr) {
+        ZeigeStatus(QStringLiteral("Einen Punkt %1 gibt es nicht.").arg(nummer));
+        return nullptr;
+    }
+    BrichAb();
+    const QString gefunden = AusNetz(plan_.Daten()->GetPktText(punkt->PNr));
+    ComboBox1_->setEditText(gefunden);
+    const Rechteck bild = flaeche_.Sichtbar();
+    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, bild)) {
+        plan_.Daten()->SetzeMitte({punkt->XWPu, punkt->YWPu});
+    }
+    ZeichneNeu();
+    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, bild)) return punkt;
+    const Flaechenpunkt m = Aufflaeche(BildortVon(*punkt, *plan_.Daten()));
+    {
+        const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
+        for (const std::int32_t r : {50, 25})
+            flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
+    }
+    pflege_.Beschmutze();
+    bild_->update();
+    ZeigeStatus(QStringLiteral("Punkt ") + gefunden +
+                (!punkt->Item->Visible
+                     ? QStringLiteral(" ist versteckt („Versteckte Punkte“ zeigt ihn wieder)")
+                 : !plan_.Daten()->Dargestellt(*punkt->Item)
+                     ? QStringLiteral(" ist nicht zu sehen: Punkte seiner Art sind ausgeschaltet")
+                     : QString()));
+    return punkt;
+}
+
+// --- Centring ---------------------------------------------------------------------------------------------
+
+void TZrwMainDlg::Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
+    plan_.Zentriere({&exzentrum}, zentrum);
+    const Liste& netz = *plan_.Daten();
+    ZeigeStatus(QStringLiteral("%1 auf %2 zentriert")
+                    .arg(AusNetz(netz.GetPktText(exzentrum.PNr)), AusNetz(netz.GetPktText(zentrum.PNr))));
+}
+
+void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren) {
+    if (!plan_.Offen()) return;
+    const Sanduhr sanduhr;
+    const Liste& netz = *plan_.Daten();
+    const PunktKnoten* ziel = zentrum ? netz.FindPunkt(AlsNummer(*zentrum)) : nullptr;
+    if (ziel == nullptr || exzentren.isEmpty())
+        return ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
+    std::vector<PPunktKnoten> punkte;
+    for (const QString& nummer : exzentren) {
+        if (PunktKnoten* p = netz.FindPunkt(AlsNummer(nummer)); p != nullptr) punkte.push_back(p);
+    }
+    zentrierkasten_->MerkeZentrierte(exzentren);
+    plan_.Zentriere(punkte, *ziel);
+    ZeigeStatus(QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
+}
+
+// --- Hiding -----------------------------------------------------------------------------------------------
+
+void TZrwMainDlg::SpeedButton14Click() {
+    if (!Knopf("SpeedButton14").isChecked()) {
+        versteck_->Auswahl().hide();
+        return;
+    }
+    versteck_->Auswahl().Fuelle(ComboBox1_->Nummern());
+    versteck_->Auswahl().show();
+}
+
+void TZrwMainDlg::SpeedButton15Click() {
+    versteck_->Versteckte().show();
+    versteck_->Versteckte().raise();
+}
+
+void TZrwMainDlg::VerbergePunkt(PunktKnoten& punkt) {
+    const Sanduhr sanduhr;
+    versteck_->Verberge(punkt);
+}
+
+void TZrwMainDlg::NummernZeigenClick() {
+    if (plan_.Offen()) versteck_->ZeigeNummern();
+}
+
+void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
+    punktart_->Waehle(punkt);
+}
+
+const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {
+    return punktart_->Gewaehlt();
+}
+
+Bildbereich TZrwMainDlg::Textrahmen(const PunktString& text) const {
+    const Bildpunkt ort = text.Item->Textort(BildortVon(text, *plan_.Daten(), *plan_.Daten()));
+    const Bildpunkt groesse = Textgroesse(programm_.zustand.Gezeigt(*text.Item));
+    return {ort.x, ort.y, Summe(ort.x, groesse.x), Summe(ort.y, groesse.y)};
+}
+
+Bildpunkt TZrwMainDlg::Textgroesse(std::string_view text) const {
+    return {flaeche_.Textbreite(text), flaeche_.Texthoehe()};
+}
+
+}  // namespace zrw
