@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "model/Bildorte.h"
+#include "ui/fenster/Schalter.h"
 
 namespace zrw {
 namespace {
@@ -29,8 +30,8 @@ void Bildpflege::ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r) {
 
 bool Bildpflege::Verschiebbar(const Bildvorlage& v) const {
     const Darstellung& d = v.darstellung;
-    return zustand_.Abkuerzungen && gueltig_ && !d.ShowLegende && !d.ShowGitter && !d.ShowKMQ &&
-           !d.ZeigtErgebnisse() && zeichner_.NurPixel();
+    return zustand_.Abkuerzungen && gueltig_ && !EinerAn(d, kBewegtSichNicht) && !d.LGGenOn &&
+           zeichner_.NurPixel();
 }
 
 void Bildpflege::Verschiebe(const Bildvorlage& v, Bildpunkt weg) {

@@ -55,7 +55,7 @@ struct Befehl {
     unsigned merkmale = 0;
 };
 
-constexpr std::array<Befehl, 25> kBefehle{{
+constexpr auto kBefehle = std::to_array<Befehl>({
     {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
      &TZrwMainDlg::SpeedButton1Click},
     {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
@@ -89,7 +89,7 @@ constexpr std::array<Befehl, 25> kBefehle{{
     {"SpeedButton4", "Programminfo", "info", "", &TZrwMainDlg::SpeedButton4Click},
     {"SpeedButton6", "Hilfe", "hilfe", "F1", &TZrwMainDlg::SpeedButton6Click, kGruppenende},
     {"SpeedButton10", "Punkt anzeigen", "punkt_anzeigen", "", nullptr},
-}};
+});
 
 const QString kOhneNetz = QStringLiteral(
     "Dazu muss ein Netz geöffnet sein: Steuerdatei mit Strg+O, Zarwikdatei mit Strg+Umschalt+O");
@@ -282,7 +282,7 @@ void TZrwMainDlg::BaueSchalter(QLayout& reihe) {
         kasten->setObjectName(AusUtf8(s.komponente));
         kasten->setToolTip(AusUtf8(s.hinweis));
         kasten->setChecked(s.anfangs);
-        kasten->setHidden(s.nurBeiAbweichung);
+        kasten->setHidden(s.Hat(kNurBeiAbweichung));
         connect(kasten, &QCheckBox::toggled, this, [this, &s](bool ein) { SchalterGewaehlt(s, ein); });
         schalterkaesten_.push_back(kasten);
         reihe.addWidget(kasten);
@@ -396,7 +396,7 @@ void TZrwMainDlg::LoeseWerkzeuge() {
 }
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
-    if (schalter.imKartengitter && ein) {
+    if (schalter.Hat(kImKartengitter) && ein) {
         if (!plan_.Offen()) {
             schalterkaesten_[static_cast<std::size_t>(&schalter - kSchalter.data())]->setChecked(false);
             return;
@@ -406,20 +406,18 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         }
     }
     Schalte(schalter, ein, plan_.Daten(), programm_.netz, programm_.zustand);
-    if (schalter.imKartengitter && plan_.Offen()) {
+    if (schalter.Hat(kImKartengitter) && plan_.Offen()) {
         const auto text = Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand);
         if (!text.empty()) ZeigeStatus(AusUtf8(text));
     }
-    const bool ausTabelle =
-        schalter.inListe == &Darstellung::ShowLgRes || schalter.inListe == &Darstellung::ShowHRes ||
-        schalter.inListe == &Darstellung::ShowLGGen || schalter.inListe == &Darstellung::ShowHGen;
+    const bool ausTabelle = schalter.Hat(kAusErgebnissen);
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
     if (ein && ausTabelle && plan_.Offen() && !programm_.daten.Vorhanden("KooTABLE.DB"))
         ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
                     QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));
-    if (schalter.schliesstErgebnisse) ergebnisse_->Fenster().hide();
-    if (schalter.inListe == nullptr && schalter.imZustand == nullptr) druck_.AktualisiereRahmen();
+    if (schalter.Hat(kSchliesstErgebnisse)) ergebnisse_->Fenster().hide();
+    if (schalter.inDarstellung == nullptr && schalter.imZustand == nullptr) druck_.AktualisiereRahmen();
     if (plan_.Offen()) ZeichneNeu();
 }
 

@@ -299,8 +299,8 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
     if (ausBild) {
         // Reading a picture file switches these two on, whatever they were.
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-            if (kSchalter[i].inListe == &Darstellung::ShowPktText ||
-                kSchalter[i].inListe == &Darstellung::ShowBeob)
+            if (kSchalter[i].inDarstellung == &Darstellung::ShowPktText ||
+                kSchalter[i].inDarstellung == &Darstellung::ShowBeob)
                 schalterkaesten_[i]->setChecked(true);
         }
     } else {
@@ -313,7 +313,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         const bool ein =
             schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
         Schalte(kSchalter[i], ein, plan_.Daten(), programm_.netz, programm_.zustand);
-        if (kSchalter[i].nurBeiAbweichung)
+        if (kSchalter[i].Hat(kNurBeiAbweichung))
             schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
 }

@@ -2,7 +2,9 @@
 // network, and how it starts.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 #include "model/Darstellung.h"
@@ -11,54 +13,82 @@
 
 namespace zrw {
 
+// What a switch is besides.
+inline constexpr unsigned kImKartengitter = 1;       ///< only for networks that have a map grid
+inline constexpr unsigned kSchliesstErgebnisse = 2;  ///< the results window goes
+inline constexpr unsigned kNurBeiAbweichung =
+    4;  ///< its box shows only where the map sheets would miss the points
+inline constexpr unsigned kAusErgebnissen = 8;  ///< shows what the adjustment's tables hold
+inline constexpr unsigned kBewegtSichNicht =
+    16;  ///< while the picture is panned it stands still or is drawn anew
+
 struct Schalter {
-    std::string_view name;            ///< on the command line; empty: not there
-    std::string_view komponente;      ///< object name of the check box; empty: no check box
-    std::string_view beschriftung;    ///< caption, UTF-8
-    std::string_view hinweis;         ///< hint, UTF-8
-    bool Darstellung::*inListe;       ///< display switch of the network, or null
-    bool Zeichenzustand::*imZustand;  ///< switch of the whole program, or null
+    std::string_view name;             ///< on the command line; empty: not there
+    std::string_view komponente;       ///< object name of the check box; empty: no check box
+    std::string_view beschriftung;     ///< caption, UTF-8
+    std::string_view hinweis;          ///< hint, UTF-8
+    bool Darstellung::*inDarstellung;  ///< switch of the plan, or null
+    bool Zeichenzustand::*imZustand;   ///< switch of the whole program, or null
     bool anfangs;
-    bool imKartengitter = false;       ///< only for networks that have a map grid
-    bool schliesstErgebnisse = false;  ///< the results window goes
-    bool nurBeiAbweichung = false;     ///< its box shows only where the map sheets would miss the points
+    unsigned merkmale = 0;
+
+    [[nodiscard]] constexpr bool Hat(unsigned merkmal) const { return (merkmale & merkmal) != 0; }
 };
 
-inline constexpr std::array<Schalter, 17> kSchalter{{
+inline constexpr auto kSchalter = std::to_array<Schalter>({
     {"punktnummern", "CheckBoxPktNr", "Punktnummern", "Punktnummern EIN/AUS", &Darstellung::ShowPktText,
      nullptr, true},
     {"beobachtungen", "CheckBoxBeob", "Beobachtungen", "Beobachtungen EIN/AUS", &Darstellung::ShowBeob,
      nullptr, true},
     {"tk25", "CheckBoxGitter", "TK25", "TK25 Einteilung einblenden", &Darstellung::ShowGitter, nullptr, false,
-     true},
+     kImKartengitter | kBewegtSichNicht},
     {"kmq", "CheckBoxKMQ", "Kilometerquadrat", "Kilometerquadrate einblenden", &Darstellung::ShowKMQ, nullptr,
-     false, true},
+     false, kImKartengitter | kBewegtSichNicht},
     {"", "CheckBoxPreview", "Ausgabebereich", "Ausgabebereich einblenden", nullptr, nullptr, false},
-    {"legende", "", "Legende", "", &Darstellung::ShowLegende, nullptr, false},
+    {"legende", "", "Legende", "", &Darstellung::ShowLegende, nullptr, false, kBewegtSichNicht},
     {"lageverb", "CheckBoxLGRes", "Lageverbesserungen", "Verbesserungen dY und dX als Striche einblenden",
-     &Darstellung::ShowLgRes, nullptr, false, false, true},
+     &Darstellung::ShowLgRes, nullptr, false, kSchliesstErgebnisse | kAusErgebnissen | kBewegtSichNicht},
     {"hoehenverb", "CheckBoxHRes", "Höhenverbesserungen",
-     "Verbesserungen dH als senkrechte Striche einblenden", &Darstellung::ShowHRes, nullptr, false, false,
-     true},
+     "Verbesserungen dH als senkrechte Striche einblenden", &Darstellung::ShowHRes, nullptr, false,
+     kSchliesstErgebnisse | kAusErgebnissen | kBewegtSichNicht},
     {"lagegen", "CheckBoxLgGen", "Lagegenauigkeit", "Fehlerellipsen einblenden", &Darstellung::ShowLGGen,
-     nullptr, false, false, true},
+     nullptr, false, kSchliesstErgebnisse | kAusErgebnissen | kBewegtSichNicht},
     {"hoehengen", "CheckBoxHGen", "Höhengenauigkeit",
      "Standardabweichungen mH als senkrechte Balken einblenden", &Darstellung::ShowHGen, nullptr, false,
-     false, true},
-    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Darstellung::ShowFP, nullptr, true, false, true},
-    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Darstellung::ShowFH, nullptr, true, false,
-     true},
-    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Darstellung::ShowNP, nullptr, true, false, true},
-    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Darstellung::ShowFL, nullptr, true, false,
-     true},
+     kSchliesstErgebnisse | kAusErgebnissen | kBewegtSichNicht},
+    {"fp", "CheckBoxFP", "FP", "Festpunkte darstellen", &Darstellung::ShowFP, nullptr, true,
+     kSchliesstErgebnisse},
+    {"fh", "CheckBoxFH", "FH", "Höhenanschlusspunkte darstellen", &Darstellung::ShowFH, nullptr, true,
+     kSchliesstErgebnisse},
+    {"np", "CheckBoxNP", "NP", "Neupunkte  darstellen", &Darstellung::ShowNP, nullptr, true,
+     kSchliesstErgebnisse},
+    {"fl", "CheckBoxFL", "FL", "Lageanschlußpunkte darstellen", &Darstellung::ShowFL, nullptr, true,
+     kSchliesstErgebnisse},
     {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Darstellung::ShowHilfP,
-     nullptr, true, false, true},
+     nullptr, true, kSchliesstErgebnisse},
     {"blattschnitt", "CheckBoxBlattschnitt", "Blattschnitt in der Abbildung der Punkte",
      "TK25 in Gauß-Krüger wie die Punkte, nicht in der Abbildung aus $KS", nullptr,
-     &Zeichenzustand::BlattschnittWiePunkte, false, false, false, true},
+     &Zeichenzustand::BlattschnittWiePunkte, false, kNurBeiAbweichung},
     {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "Punktnummern ohne ihre ersten vier Zeichen", nullptr,
      &Zeichenzustand::KurzeNummern, false},
-}};
+});
+/// No two switches of one name, and each switches one thing at most.
+static_assert([] {
+    for (std::size_t i = 0; i < kSchalter.size(); ++i) {
+        if (kSchalter[i].inDarstellung != nullptr && kSchalter[i].imZustand != nullptr) return false;
+        for (std::size_t k = 0; k < i; ++k) {
+            if (!kSchalter[i].name.empty() && kSchalter[i].name == kSchalter[k].name) return false;
+        }
+    }
+    return true;
+}());
+
+/// Whether one of the switches with this mark is on in the plan.
+[[nodiscard]] inline bool EinerAn(const Darstellung& d, unsigned merkmal) {
+    return std::any_of(kSchalter.begin(), kSchalter.end(), [&](const Schalter& s) {
+        return s.Hat(merkmal) && s.inDarstellung != nullptr && d.*s.inDarstellung;
+    });
+}
 
 /// Whether the map sheets follow a projection that the points are not in.
 [[nodiscard]] constexpr bool BlattschnittWeichtAb(const Netzangaben& netz) {
@@ -78,8 +108,8 @@ inline constexpr std::array<Schalter, 17> kSchalter{{
 /// Puts one switch into effect.
 inline void Schalte(const Schalter& s, bool ein, Darstellung* darstellung, const Netzangaben& netz,
                     Zeichenzustand& zustand) {
-    if (s.imKartengitter && !HatKartengitter(netz.Netztyp)) ein = false;
-    if (s.inListe != nullptr && darstellung != nullptr) darstellung->*s.inListe = ein;
+    if (s.Hat(kImKartengitter) && !HatKartengitter(netz.Netztyp)) ein = false;
+    if (s.inDarstellung != nullptr && darstellung != nullptr) darstellung->*s.inDarstellung = ein;
     if (s.imZustand != nullptr) zustand.*s.imZustand = ein;
 }
 

@@ -28,7 +28,7 @@ std::unique_ptr<Werkzeug> NeuesWerkzeug(Werkzeugumgebung& umgebung) {
     return std::make_unique<W>(umgebung);
 }
 
-inline constexpr std::array<Werkzeugzeile, 13> kWerkzeuge{{
+inline constexpr auto kWerkzeuge = std::to_array<Werkzeugzeile>({
     {"PanButton", "Bild verschieben", "verschieben", &NeuesWerkzeug<BildVerschieben>},
     {"ZoomInButton", "Zoomen mit der Maus", "zoom_rechteck", &NeuesWerkzeug<ZoomRechteck>},
     {"MovePktButton", "Punkt verschieben", "punkt_verschieben", &NeuesWerkzeug<PunktVerschieben>},
@@ -42,6 +42,6 @@ inline constexpr std::array<Werkzeugzeile, 13> kWerkzeuge{{
     {"HidePktNrButton", "Punktnummer verstecken", "nummer_verstecken", &NeuesWerkzeug<NummerVerstecken>},
     {"HidePktButton", "Punkt verstecken", "punkt_verstecken", &NeuesWerkzeug<PunktVerstecken>},
     {"DataButton", "Ausgleichungsergebnisse zeigen", "ergebnisse", &NeuesWerkzeug<ErgebnisZeigen>},
-}};
+});
 
 }  // namespace zrw
