@@ -1,6 +1,7 @@
 #include "model/Ansicht.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstdlib>
 
@@ -61,6 +62,7 @@ Ansicht Ansicht::FuerGeraet(double faktor, const std::optional<Welt>& ecke) cons
 }
 
 Bildlage Ansicht::Eingepasst(const Weltkasten& welt) const {
+    assert(!welt.Leer());
     const double dx = welt.rechts - welt.links;
     const double dy = welt.oben - welt.unten;
     const double weite = std::max(Weite - 2 * kRand, 1);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 #include <cstddef>
 #include <memory>
 #include <type_traits>
@@ -31,6 +32,7 @@ class Arena {
     [[nodiscard]] std::size_t Anzahl() const { return anzahl_; }
     /// In the order of making.
     [[nodiscard]] T& operator[](std::size_t i) const {
+        assert(i < anzahl_);
         const Block& block = bloecke_[static_cast<std::size_t>(std::bit_width(i >> erste_))];
         return block.speicher.get()[i - block.anfang];
     }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <utility>
@@ -55,6 +56,7 @@ class Markentafel {
     }
     /// Enters a thing whose key is not yet there.
     void Trage(std::uint64_t streuwert, std::uint32_t nr) {
+        assert(nr != kKeins && nr <= nummer_ && anzahl_ < faecher_.size() / 2 + 1);
         std::size_t i = streuwert & Rest();
         while (faecher_[i] != kKeins)
             i = Weiter(i);
@@ -97,6 +99,7 @@ class Markentafel {
     /// The place of the thing, or the free one where it belongs.
     template <class Gleich>
     [[nodiscard]] std::size_t Suche(std::uint64_t streuwert, Gleich gleich) const {
+        assert(!faecher_.empty());
         for (std::size_t i = streuwert & Rest();; i = Weiter(i)) {
             const std::uint32_t fach = faecher_[i];
             if (fach == kKeins) return i;

@@ -1,5 +1,6 @@
 #include "model/Netz.h"
 
+#include <cassert>
 #include <string_view>
 #include <utility>
 
@@ -174,6 +175,7 @@ void Netz::Zentriere(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum) {
 }
 
 void Netz::SetzeBeobachtungen(PunktKante& k, LinieAttr richtung, KanteAttr weitere) {
+    assert(k.Item != nullptr);
     k.Item->LAttr = richtung;
     k.Item->KAttr = weitere;
     mitUmwegen_ = mitUmwegen_ || ZurLinie(richtung).indirekt;
@@ -233,6 +235,7 @@ Herausnahme Netz::NimmHeraus(zrw::PunktKnoten& pp) {
 
 void Netz::SetzeZurueck(const Herausnahme& h) {
     if (h.punkt.knoten != nullptr) {
+        assert(!Enthaelt(*h.punkt.knoten));  // else the list would run in a circle
         HaengeEin(&PunktKnoten, *h.punkt.knoten);
         index_.Zurueck(*h.punkt.knoten, *PunktKnoten);
         suche_.punkte.Auf(h.punkt.knoten->Folge, suche_.gebaut);
@@ -249,6 +252,7 @@ void Netz::SetzeZurueck(const Herausnahme& h) {
     // One walk for all lines, as when they left.
     PPunktKante* stelle = &KanteKnoten;
     for (const auto& k : h.kanten) {
+        assert(!Enthaelt(*k.knoten));
         stelle = HaengeEin(stelle, *k.knoten);
         index_.Zurueck(*k.knoten, *KanteKnoten);
         suche_.kanten.Auf(k.knoten->Folge, suche_.gebaut);

@@ -113,7 +113,10 @@ class Netz {
     /// Labels whose corner or whose point may lie in it.
     void SammleTexte(const Ansicht& a, const Bildbereich& b, std::vector<PPunktString>& aus) const;
     [[nodiscard]] PunktKante& KanteNach(std::uint32_t folge) const { return kanteArena_[folge].knoten; }
-    [[nodiscard]] Punktenden Enden(std::uint32_t folge) const { return suche_.enden[folge]; }
+    [[nodiscard]] Punktenden Enden(std::uint32_t folge) const {
+        assert(folge < suche_.enden.size());
+        return suche_.enden[folge];
+    }
     /// How often the trees behind these answers were built; a question that builds them takes long.
     [[nodiscard]] std::size_t Suchbauten() const { return suche_.bauten; }
     /// Calls `tun(const PunktKnoten&)` for all points by their order in memory, newest first: following the

@@ -1,5 +1,6 @@
 #include "model/Netzsuche.h"
 
+#include <cassert>
 #include <cmath>
 
 namespace zrw {
@@ -35,6 +36,7 @@ bool Brauchbar(const Bildlage& lage) {
 }
 
 Weltkasten WeltUnter(const Bildlage& lage, const Bildbereich& b) {
+    assert(Brauchbar(lage));
     const double f = lage.faktor;
     // Positions are rounded to whole pixels, and the digits of large coordinates end somewhere.
     const double rand = 2.0 * f;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <bit>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -35,7 +36,10 @@ class Suchmenge {
     void Auf(std::uint32_t folge, bool gebaut);
     void Ab(std::uint32_t folge);
     /// The figure has moved, or does not lie where its point does.
-    void Verlegt(std::uint32_t folge) { lose_.push_back(folge); }
+    void Verlegt(std::uint32_t folge) {
+        assert(folge / 64 < da_.size());
+        lose_.push_back(folge);
+    }
     [[nodiscard]] bool Hat(std::uint32_t folge) const {
         return folge / 64 < da_.size() && (da_[folge / 64] >> (folge % 64) & 1U) != 0;
     }

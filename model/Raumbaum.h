@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -20,8 +21,11 @@ class Raumbaum {
         eintraege_ = std::move(eintraege);
         ebenen_.clear();
         std::vector<Weltkasten> blaetter((eintraege_.size() + kFach - 1) / kFach);
-        for (std::size_t i = 0; i < eintraege_.size(); ++i)
-            blaetter[i / kFach].Nimm(kasten(eintraege_[i]));
+        for (std::size_t i = 0; i < eintraege_.size(); ++i) {
+            const Weltkasten k = kasten(eintraege_[i]);
+            assert(!k.Leer() && k.unten <= k.oben);
+            blaetter[i / kFach].Nimm(k);
+        }
         ebenen_.push_back(std::move(blaetter));
         Stapele();
     }

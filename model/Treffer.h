@@ -2,6 +2,7 @@
 // wins.
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 
 #include "model/Ansicht.h"
@@ -21,7 +22,9 @@ class Treffersuche {
     /// @param fang catch radius [px]
     /// @param gezeigt what the picture shows; null: hidden figures and kinds that are off are found, too
     Treffersuche(const Netz& netz, const Ansicht& ansicht, std::int64_t fang, const Darstellung* gezeigt)
-        : netz_(netz), ansicht_(ansicht), gezeigt_(gezeigt), fang_(fang) {}
+        : netz_(netz), ansicht_(ansicht), gezeigt_(gezeigt), fang_(fang) {
+        assert(fang >= 0);
+    }
 
     [[nodiscard]] PPunktKnoten Punkt(Bildpunkt maus) const;
     /// By the place where its text begins.

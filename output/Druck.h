@@ -2,6 +2,7 @@
 // covers the ground that 1:M puts on it. Not in here: the printer itself (ui/druck/Drucker.h).
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -37,6 +38,7 @@ struct Druckauftrag {
 
 /// Device dots per screen pixel [-].
 [[nodiscard]] constexpr double Geraetefaktor(const Druckseite& seite) {
+    assert(seite.aufloesung > 0.0);
     return seite.aufloesung / kBildaufloesung;
 }
 

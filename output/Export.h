@@ -2,6 +2,7 @@
 // is drawn once, in a view at the scale of the print, and the drawing routines write.
 #pragma once
 
+#include <cassert>
 #include <filesystem>
 #include <optional>
 #include <string_view>
@@ -25,6 +26,7 @@ struct Exportauftrag {
 
 /// Metres of ground that one dot covers at 1:`massstab` and `aufloesung` dots per inch.
 [[nodiscard]] constexpr double Druckfaktor(double massstab, double aufloesung) {
+    assert(massstab > 0.0 && aufloesung > 0.0);
     return massstab / 1000 * 25.4 / aufloesung;
 }
 

@@ -1,6 +1,7 @@
 #include "output/Kantenbild.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <memory>
 
@@ -209,6 +210,7 @@ void Kantenbild::Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einste
 }
 
 void Kantenbild::Nimm(Zugform form, std::span<const Bildpunkt> punkte) {
+    assert(anzahl_ < kMeisteZuege && punkte.size() <= kMeistePunkte);
     Bildpunkt* ziel = punkte_.data() + punktzahl_;
     std::uninitialized_copy(punkte.begin(), punkte.end(), ziel);
     std::construct_at(&zuege_[anzahl_++], Zug{form, {ziel, punkte.size()}});

@@ -1,6 +1,7 @@
 // A text file on its way to the disk, in large pieces: whatever its size, it takes the memory of one piece.
 #pragma once
 
+#include <cassert>
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -43,7 +44,10 @@ class Textausgabe {
         datei_->Sichere();
     }
     /// Puts the file in its place, after `Sichere`. @throws Fehler
-    void Uebernimm() { datei_->Uebernimm(); }
+    void Uebernimm() {
+        assert(laenge_ == 0);
+        datei_->Uebernimm();
+    }
 
   private:
     static constexpr std::size_t kStueck = std::size_t{1} << 16U;

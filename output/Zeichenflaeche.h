@@ -2,6 +2,7 @@
 // printer could not do. Positions are device dots; whoever draws clips first (Abschneiden.h).
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -66,7 +67,10 @@ class Zeichenflaeche {
 
     // Pen and brush of what is drawn next. Surfaces apply a change when they draw, so setting back costs
     // nothing.
-    void SetzeStift(const Stift& stift) { stift_ = stift; }
+    void SetzeStift(const Stift& stift) {
+        assert(stift.breite >= 1);
+        stift_ = stift;
+    }
     void SetzePinsel(const Pinsel& pinsel) { pinsel_ = pinsel; }
     [[nodiscard]] const Stift& AktuellerStift() const { return stift_; }
     [[nodiscard]] const Pinsel& AktuellerPinsel() const { return pinsel_; }

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QPainter>
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <utility>
 
@@ -16,6 +17,7 @@ namespace zrw {
 // --- Scale and output area --------------------------------------------------------------------------------
 
 std::optional<double> Plandruck::Massstab() {
+    assert(felder_.massstab != nullptr);
     Massstabfeld& feld = *felder_.massstab;
     auto massstab = feld.Massstab();
     if (!massstab) {

@@ -1,6 +1,7 @@
 #include "ui/werkzeuge/LegendeVerschieben.h"
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
 
 namespace zrw {
@@ -19,6 +20,7 @@ bool LegendeVerschieben::UeberEcke(Bildpunkt ort) const {
 }
 
 void LegendeVerschieben::Druecken(Bildpunkt ort) {
+    assert(UeberEcke(ort));
     umgebung_.AktuelleListe()->MausLegende(ort);
     anfang_ = ort;
     umgebung_.LasseLegendeAus(true);

@@ -1,5 +1,7 @@
 #include "ui/werkzeuge/RahmenVerschieben.h"
 
+#include <cassert>
+
 namespace zrw {
 
 bool RahmenVerschieben::UeberRand(Bildpunkt ort) const {
@@ -8,6 +10,7 @@ bool RahmenVerschieben::UeberRand(Bildpunkt ort) const {
 }
 
 void RahmenVerschieben::Druecken(Bildpunkt ort) {
+    assert(UeberRand(ort));
     const Liste& netz = *umgebung_.AktuelleListe();
     vorher_ = rahmen_.Ecke();
     ecke_ = rahmen_.Ecke(netz);
