@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "app/Formate.h"
+#include "model/Aufzaehltafel.h"
 #include "model/Zahlentext.h"
 #include "ui/fenster/Schalter.h"
 
@@ -88,7 +89,7 @@ struct Option {
     bool mitWert = true;
 };
 
-constexpr std::array<Option, 11> kOptionen{{
+constexpr auto kOptionen = std::to_array<Option>({
     {"--export",
      [](Aufruf& a, const std::string& w) {
          a.auftrag = Auftrag::Stapel;
@@ -108,7 +109,9 @@ constexpr std::array<Option, 11> kOptionen{{
     {"--ein", [](Aufruf& a, const std::string& w) { Haenge(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { Haenge(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
-}};
+});
+
+static_assert(Verschieden(kOptionen, &Option::name));
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 
+#include "model/Aufzaehltafel.h"
 #include "model/Bilddatei.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
@@ -137,7 +138,7 @@ void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {
     SchreibeGeojson(a.liste, netz, a.einstellungen, a.zustand.Ergebnisse, a.dateien, datei);
 }
 
-constexpr std::array<Format, 8> kFormate{{
+constexpr auto kFormate = std::to_array<Format>({
     {"zrw", ".ZRW", {}, &SchreibeZrw},
     {"png", ".png", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "PNG"); }},
     {"bmp", ".bmp", {}, [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "BMP"); }},
@@ -152,7 +153,9 @@ constexpr std::array<Format, 8> kFormate{{
      {},
      kPlotname,
      [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeExport(a, {.plot = d, .dxf = {}}); }},
-}};
+});
+
+static_assert(Verschieden(kFormate, &Format::name));
 
 }  // namespace
 

@@ -19,14 +19,14 @@ struct EllipsoidZeile {
 };
 
 // Row n - 1 is ellipsoid number n. Row 0 also serves unknown numbers.
-constexpr std::array<EllipsoidZeile, 6> kEllipsoide{{
+constexpr auto kEllipsoide = std::to_array<EllipsoidZeile>({
     {6377397.155, 299.15281},    // Bessel 1841
     {6378388.0, 297.0},          // International (Hayford) 1924
     {6378245.0, 298.3},          // Krassowsky 1940
     {6378135.0, 298.26},         // WGS 72
     {6378137.0, 298.257223563},  // WGS 84
     {6378137.0, 298.257222101},  // GRS 80
-}};
+});
 
 // Ends the iteration where it would alternate or creep for ever, which needs a position within some ten
 // kilometres of the earth's centre. Near the earth's surface it comes to rest after at most ten rounds.

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "input/Steuerleser.h"
+#include "model/Aufzaehltafel.h"
 
 namespace zrw {
 
@@ -18,7 +19,7 @@ struct Satz {
     bool imPunktblock = false;  ///< may stand between the lines of a point block without ending it
 };
 
-inline constexpr std::array<Satz, 51> kSaetze{{
+inline constexpr auto kSaetze = std::to_array<Satz>({
     {"$$$", 1, &Steuerleser::Ende},
     {"$CC", 2, &Steuerleser::Uebergehe, true},
     {"$MS", 3, &Steuerleser::Uebergehe},
@@ -70,7 +71,8 @@ inline constexpr std::array<Satz, 51> kSaetze{{
     {"$KS", 49, &Steuerleser::LiesKoordinatensystem},
     {"$LA", 50, &Steuerleser::Uebergehe},
     {"$KV", 51, &Steuerleser::Uebergehe},
-}};
+});
+static_assert(Verschieden(kSaetze, &Satz::schluessel) && Verschieden(kSaetze, &Satz::code));
 
 /// Row of the key that the first three characters of a line are, or null.
 [[nodiscard]] const Satz* LeseSchluessel(std::string_view zeile);

@@ -33,7 +33,7 @@ using Strom = std::unique_ptr<std::FILE, Schliesser>;
 
 /// The system's own texts come in the language of the system; these are the ones that users meet.
 std::string Grund(int nummer) {
-    static constexpr std::array<std::pair<int, const char*>, 12> kGruende{{
+    static constexpr auto kGruende = std::to_array<std::pair<int, const char*>>({
         {ENOENT, "nicht vorhanden"},
         {EACCES, "keine Berechtigung"},
         {EPERM, "keine Berechtigung"},
@@ -46,7 +46,7 @@ std::string Grund(int nummer) {
         {EIO, "Ein-/Ausgabefehler"},
         {ELOOP, "Verweise im Kreis"},
         {EMFILE, "zu viele offene Dateien"},
-    }};
+    });
     const auto* grund =
         std::find_if(kGruende.begin(), kGruende.end(), [&](const auto& g) { return g.first == nummer; });
     return grund != kGruende.end() ? grund->second : "Systemfehler " + std::to_string(nummer);

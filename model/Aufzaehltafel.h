@@ -1,4 +1,5 @@
-// Tables with one row for each member of an enumeration, in its order.
+// What must hold of tables, checked while compiling: rows in the order of an enumeration, keys that are there
+// only once.
 #pragma once
 
 #include <array>
@@ -13,6 +14,17 @@ template <class Zeile, std::size_t N, class Glied>
         if (static_cast<std::size_t>(tafel[i].*glied) != i) return false;
     }
     return N == static_cast<std::size_t>(letztes) + 1;
+}
+
+/// For assertions: no two rows have the same key.
+template <class Zeile, std::size_t N, class Schluessel>
+[[nodiscard]] consteval bool Verschieden(const std::array<Zeile, N>& tafel, Schluessel Zeile::*schluessel) {
+    for (std::size_t i = 0; i < N; ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (tafel[i].*schluessel == tafel[j].*schluessel) return false;
+        }
+    }
+    return true;
 }
 
 /// Null for a value that is no member: bytes of picture files may be anything.

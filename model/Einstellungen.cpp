@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <span>
 #include <variant>
 
 #include "model/Ganzzahl.h"
@@ -20,14 +21,14 @@ struct Schluessel {
 };
 
 /// The integer settings in the order in which they are read and written.
-const std::array<Schluessel, 20>& Ganzzahlen() {
+std::span<const Schluessel> Ganzzahlen() {
     using E = Einstellungen;
-    static const std::array<Schluessel, 20> kTabelle{
+    static const auto kTabelle = std::to_array<Schluessel>(
         {{"TXCol", &E::TXCol},   {"FPCol", &E::FPCol}, {"FLCol", &E::FLCol},   {"FHCol", &E::FHCol},
          {"NPCol", &E::NPCol},   {"RICol", &E::RICol}, {"AZCol", &E::AZCol},   {"GPSCol", &E::GPSCol},
          {"TKCol", &E::TKCol},   {"PPCol", &E::PPCol}, {"PTSize", &E::PTSize}, {"HPSize", &E::HPSize},
          {"Fang", &E::Fang},     {"PXOff", &E::PXOff}, {"PYOff", &E::PYOff},   {"LGRCol", &E::LGRCol},
-         {"LGGCol", &E::LGGCol}, {"HRCol", &E::HRCol}, {"HGCol", &E::HGCol},   {"GFCol", &E::GFCol}}};
+         {"LGGCol", &E::LGGCol}, {"HRCol", &E::HRCol}, {"HGCol", &E::HGCol},   {"GFCol", &E::GFCol}});
     return kTabelle;
 }
 

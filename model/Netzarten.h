@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 
+#include "model/Aufzaehltafel.h"
+
 namespace zrw {
 
 /// Layout of the coordinates in a point line.
@@ -27,6 +29,7 @@ inline constexpr auto kNetzarten = std::to_array<Netzart>({
     {50, Koordinaten::Winkel, true, false, false},
     {51, Koordinaten::Gitter, true, false, true},
 });
+static_assert(Verschieden(kNetzarten, &Netzart::typ));
 inline constexpr Netzart kUnbekannteNetzart{0, Koordinaten::Keine, false, false, false};
 
 [[nodiscard]] constexpr const Netzart& ZumTyp(std::int32_t typ) {

@@ -20,8 +20,10 @@ enum class Ebene : std::uint8_t {
 };
 
 /// In the order of `Ebene`. Letters and digits only: they are names in drawings, identifiers in vector files.
-inline constexpr std::array<std::string_view, 7> kEbenennamen{"",       "PUNKTE",  "PUNKTNR",   "BEOB",
-                                                              "GITTER", "LEGENDE", "ERGEBNISSE"};
+inline constexpr auto kEbenennamen =
+    std::to_array<std::string_view>({"", "PUNKTE", "PUNKTNR", "BEOB", "GITTER", "LEGENDE", "ERGEBNISSE"});
+
+static_assert(kEbenennamen.size() == static_cast<std::size_t>(Ebene::Ergebnisse) + 1);
 
 [[nodiscard]] constexpr std::string_view Ebenenname(Ebene ebene) {
     return kEbenennamen[static_cast<std::size_t>(ebene)];

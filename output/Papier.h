@@ -24,13 +24,13 @@ struct Papierformat {
 };
 
 /// ISO 216.
-inline constexpr std::array<Papierformat, 5> kPapierformate{{
+inline constexpr auto kPapierformate = std::to_array<Papierformat>({
     {"A4", {210, 297}},
     {"A3", {297, 420}},
     {"A2", {420, 594}},
     {"A1", {594, 841}},
     {"A0", {841, 1189}},
-}};
+});
 
 /// Left free at every edge of the paper [mm].
 inline constexpr double kPapierrand = 10.0;

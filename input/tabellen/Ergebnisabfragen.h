@@ -19,7 +19,7 @@ struct Ergebnisreiter {
     std::string_view kante;  ///< results of the line from {a} to {b}
 };
 
-inline constexpr std::array<Ergebnisreiter, 7> kErgebnisreiter{{
+inline constexpr auto kErgebnisreiter = std::to_array<Ergebnisreiter>({
     {"Koordinaten", Tabelle::Koordinaten, "KooTable.DB",
      "SELECT * from KOOTABLE WHERE (KOOTABLE.PKT = '{a}')",
      "SELECT * from KOOTABLE WHERE ((KOOTABLE.PKT = '{a}') OR (KOOTABLE.PKT = '{b}'))"},
@@ -45,7 +45,7 @@ inline constexpr std::array<Ergebnisreiter, 7> kErgebnisreiter{{
     {"GPS Punkte 2D", Tabelle::GpsPunkte2D, "WGSYXTable.DB",
      "SELECT * from WGSYXTABLE WHERE (WGSYXTABLE.PKT = '{a}') order by ID ASC",
      "SELECT * from WGSYXTABLE WHERE ((WGSYXTABLE.PKT = '{a}') or (WGSYXTABLE.PKT = '{b}')) order by ID ASC"},
-}};
+});
 
 /// One pass over the flagged rows of a table.
 struct Fehlersuche {
@@ -57,7 +57,7 @@ struct Fehlersuche {
     std::string_view flag;
 };
 
-inline constexpr std::array<Fehlersuche, 6> kFehlersuchen{{
+inline constexpr auto kFehlersuchen = std::to_array<Fehlersuche>({
     {Tabelle::Strecken, "STRTable.DB", "SELECT * from STRTABLE WHERE (STRTABLE.FF = True) order by ID", "P1",
      "P2", "FF"},
     // Directions are marked only beside distances: the guard is the distances' file.
@@ -71,7 +71,7 @@ inline constexpr std::array<Fehlersuche, 6> kFehlersuchen{{
      "SELECT * from STRKTRTABLE WHERE (STRKTRTABLE.GF = True) order by ID", "P1", "P2", "GF"},
     {Tabelle::Linien, "MLTable.DB", "SELECT * from MLTABLE WHERE (MLTABLE.GF = True) order by ID", "PA", "PE",
      "GF"},
-}};
+});
 
 /// The query with the point numbers (UTF-8) in their places; quote marks in them are doubled, so that a
 /// number stays one text.

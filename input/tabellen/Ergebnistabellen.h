@@ -124,7 +124,7 @@ inline constexpr F kWeitereKoordinaten[]{
 }  // namespace tabellen
 
 /// In the order in which they are created; a table's file is its name with ".DB".
-inline constexpr std::array<Ergebnistabelle, 10> kErgebnistabellen{{
+inline constexpr auto kErgebnistabellen = std::to_array<Ergebnistabelle>({
     {"GPSTABLE", tabellen::kGps, "Select * from GPSTable order by ID"},
     {"STRTABLE", tabellen::kStrecken, "SELECT * from STRTABLE ORDER BY ID"},
     {"DHTABLE", tabellen::kHoehenunterschiede, "select * from DHTable order by ID"},
@@ -135,7 +135,7 @@ inline constexpr std::array<Ergebnistabelle, 10> kErgebnistabellen{{
     {"MLTABLE", tabellen::kLinien, "SELECT * FROM MLTABLE ORDER BY ID"},
     {"STRKTRTable", tabellen::kStreckenkontrollen, "SELECT * FROM STRKTRTABLE ORDER BY ID"},
     {"PostKooTABLE", tabellen::kWeitereKoordinaten, "SELECT * FROM POSTKOOTABLE ORDER BY ID"},
-}};
+});
 
 /// Index into `kErgebnistabellen`.
 enum class Tabelle : std::uint8_t {
@@ -150,6 +150,7 @@ enum class Tabelle : std::uint8_t {
     Streckenkontrollen,
     WeitereKoordinaten
 };
+static_assert(kErgebnistabellen.size() == static_cast<std::size_t>(Tabelle::WeitereKoordinaten) + 1);
 
 [[nodiscard]] constexpr const Ergebnistabelle& Beschreibung(Tabelle t) {
     return kErgebnistabellen[static_cast<std::size_t>(t)];

@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "input/tabellen/Paradox.h"
+#include "model/Aufzaehltafel.h"
 
 namespace zrw::paradox {
 
@@ -82,7 +83,7 @@ struct Typ {
     std::uint8_t groesste;  ///< largest size byte
 };
 
-inline constexpr std::array<Typ, 17> kTypen{{
+inline constexpr auto kTypen = std::to_array<Typ>({
     {Feldtyp::Alpha, 0, 1, 255},
     {Feldtyp::Datum, 4, 4, 4},
     {Feldtyp::Kurz, 2, 2, 2},
@@ -100,7 +101,9 @@ inline constexpr std::array<Typ, 17> kTypen{{
     {Feldtyp::Zaehler, 4, 4, 4},
     {Feldtyp::Bcd, 17, 0, 255},
     {Feldtyp::Bytes, 0, 1, 255},
-}};
+});
+
+static_assert(Verschieden(kTypen, &Typ::typ));
 
 /// Null for a code without type.
 [[nodiscard]] constexpr const Typ* FindeTyp(std::uint8_t code) {

@@ -18,7 +18,7 @@ namespace {
 /// Largest table that is read: several million rows.
 constexpr std::size_t kGroessteTabelle = std::size_t{512} << 20U;
 /// Fields that queries look rows up by.
-constexpr std::array<std::string_view, 7> kSuchfelder{"PKT", "P1", "P2", "PS", "PZ", "PA", "PE"};
+constexpr auto kSuchfelder = std::to_array<std::string_view>({"PKT", "P1", "P2", "PS", "PZ", "PA", "PE"});
 
 bool GleichesFeld(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
@@ -67,8 +67,8 @@ void Nimm(const Zelle& zelle, double& zahl) {
 
 /// What drawing results takes, and then the coordinates, which other programs are given.
 constexpr std::size_t kZuZeichnende = 9;
-constexpr std::array<std::string_view, 12> kPunktfelder{"PKT", "dY", "dX", "dH", "A", "B",
-                                                        "Phi", "mH", "mL", "X",  "Y", "H"};
+constexpr auto kPunktfelder =
+    std::to_array<std::string_view>({"PKT", "dY", "dX", "dH", "A", "B", "Phi", "mH", "mL", "X", "Y", "H"});
 
 /// What a field holds, for the user; fields of one kind may stand for each other.
 std::string_view Feldart(paradox::Feldtyp typ) {
@@ -186,7 +186,7 @@ Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
 }
 
 TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) const {
-    static constexpr std::array<std::pair<std::string_view, double Punktergebnis::*>, 11> kFelder{{
+    static constexpr auto kFelder = std::to_array<std::pair<std::string_view, double Punktergebnis::*>>({
         {"dY", &Punktergebnis::dY},
         {"dX", &Punktergebnis::dX},
         {"dH", &Punktergebnis::dH},
@@ -198,7 +198,7 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
         {"X", &Punktergebnis::X},
         {"Y", &Punktergebnis::Y},
         {"H", &Punktergebnis::H},
-    }};
+    });
     constexpr std::size_t kStelleML = 8;
     static_assert(kFelder[kStelleML - 1].first == "mL");
     // One walk over the table in place of one query a point: the first row of a number is what that would

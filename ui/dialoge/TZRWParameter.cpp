@@ -29,7 +29,7 @@ struct Farbzeile {
 };
 
 /// In the order of the groups; the first `kLinks` lines stand in the left column.
-constexpr std::array<Farbzeile, 15> kFarben{{
+constexpr auto kFarben = std::to_array<Farbzeile>({
     {"TXPanel", "Punktnummer", &Einstellungen::TXCol, "Punkte"},
     {"FPPanel", "Festpunkt", &Einstellungen::FPCol, "Punkte"},
     {"FLPanel", "Lagefestpunkt", &Einstellungen::FLCol, "Punkte"},
@@ -45,7 +45,7 @@ constexpr std::array<Farbzeile, 15> kFarben{{
     {"LGGenPanel", "Fehlerellipsen", &Einstellungen::LGGCol, "Ergebnisse"},
     {"HgenPanel", "Höhengenauigkeit", &Einstellungen::HGCol, "Ergebnisse"},
     {"GFPanel", "Grober Fehler", &Einstellungen::GFCol, "Ergebnisse"},
-}};
+});
 constexpr std::size_t kLinks = 8;
 
 constexpr double kMinZoom = 1.01;

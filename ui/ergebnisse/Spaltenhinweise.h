@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Aufzaehltafel.h"
+
 namespace zrw {
 
 struct Spaltenhinweis {
@@ -14,7 +16,7 @@ struct Spaltenhinweis {
 };
 
 /// Case matters: "dX" corrects a coordinate, "DX" is part of a vector.
-inline constexpr std::array<Spaltenhinweis, 59> kSpaltenhinweise{{
+inline constexpr auto kSpaltenhinweise = std::to_array<Spaltenhinweis>({
     {"ID", "laufende Nummer"},
     {"PKT", "Punktnummer"},
     {"P1", "Nummer des ersten Punktes"},
@@ -74,7 +76,9 @@ inline constexpr std::array<Spaltenhinweis, 59> kSpaltenhinweise{{
     {"Phi", "in der Regel Richtung der großen Halbachse [gon]"},
     {"LS", "in der Regel Lagestatus"},
     {"Zeit", "Zeit der Messung"},
-}};
+});
+
+static_assert(Verschieden(kSpaltenhinweise, &Spaltenhinweis::feld));
 
 /// The row of the field or, where it has none, that of the part that it is: "VMFX" is "VMF" along X.
 /// @return empty for fields that nobody knows

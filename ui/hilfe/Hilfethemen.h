@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Aufzaehltafel.h"
+
 namespace zrw {
 
 /// A page of the manual, ":/hilfe/" + `datei`.
@@ -27,7 +29,7 @@ inline constexpr std::string_view kNachschlagen = "Nachschlagen";
 /// Page that help opens with, and for everything that has none of its own.
 inline constexpr int kErsteSeite = 1;
 
-inline constexpr std::array<Hilfethema, 36> kHilfethemen{{
+inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {kErsteSeite, "01_erste_schritte.md", "Erste Schritte", kErsteSchritte},
     {5, "05_dateien.md", "Öffnen, speichern, beenden", kErsteSchritte},
     {26, "26_rueckgaengig.md", "Änderungen zurücknehmen", kErsteSchritte},
@@ -68,7 +70,9 @@ inline constexpr std::array<Hilfethema, 36> kHilfethemen{{
     {27, "27_dateiformate.md", "Dateien und Formate", kNachschlagen},
     {29, "29_stapelbetrieb.md", "Stapelbetrieb", kNachschlagen},
     {31, "31_meldungen.md", "Meldungen", kNachschlagen},
-}};
+});
+
+static_assert(Verschieden(kHilfethemen, &Hilfethema::kontext));
 
 /// A component by its object name, and the page about it.
 struct Hilfekomponente {
@@ -76,7 +80,7 @@ struct Hilfekomponente {
     int kontext;
 };
 
-inline constexpr std::array<Hilfekomponente, 69> kHilfekomponenten{{
+inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     // Files
     {"SpeedButton1", 5},
     {"SpeedButton2", 5},
@@ -153,7 +157,9 @@ inline constexpr std::array<Hilfekomponente, 69> kHilfekomponenten{{
     {"TZRWParameter", 30},
     {"TAboutBox", 33},
     {"Hilfefenster", 33},
-}};
+});
+
+static_assert(Verschieden(kHilfekomponenten, &Hilfekomponente::komponente));
 
 /// Row of a help context, or null.
 [[nodiscard]] constexpr const Hilfethema* FindeThema(int kontext) {
