@@ -63,8 +63,10 @@ inline constexpr auto kPunktsymbole = std::to_array<Punktsymbol>({
      &Einstellungen::Dreieckgroesse, kDreiecksecken},
 });
 static_assert(InReihe(kPunktsymbole, &Punktsymbol::typ, PunktTyp::Drei));
-static_assert(std::all_of(kPunktsymbole.begin(), kPunktsymbole.end(),
-                          [](const Punktsymbol& s) { return s.ecken.size() <= kMeisteEcken; }));
+static_assert(std::all_of(kPunktsymbole.begin(), kPunktsymbole.end(), [](const Punktsymbol& s) {
+    const bool rund = s.form == Symbolform::Scheibe || s.form == Symbolform::Kreis;
+    return s.ecken.empty() == rund && s.ecken.size() <= kMeisteEcken;
+}));
 
 /// Null for bytes that name no symbol: they draw nothing and have no name.
 [[nodiscard]] constexpr const Punktsymbol* ZumSymbol(PunktTyp typ) {

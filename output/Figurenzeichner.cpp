@@ -81,13 +81,14 @@ void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
 
 // --- Points -----------------------------------------------------------------------------------------------
 
+/// Asked for every point: in registers, row by row.
 std::int64_t Figurenzeichner::Symbolreichweite() const {
     const Einstellungen& e = einstellungen_;
-    return std::apply(
-        [&e](const auto&... s) {
-            return std::max({e.*s.quer..., e.*s.laengs...}) + 1;
-        },
+    std::uint16_t groesste = 0;
+    std::apply(
+        [&](const auto&... s) { ((groesste = std::max(groesste, std::max(e.*s.quer, e.*s.laengs))), ...); },
         kPunktsymbole);
+    return groesste + 1;
 }
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
@@ -108,22 +109,14 @@ void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
 void Figurenzeichner::ZeichneSymbol(const Symbolziel& ziel, Bildpunkt m, const Punktsymbol& symbol) const {
     const std::int64_t quer = einstellungen_.*symbol.quer;
     const std::int64_t laengs = einstellungen_.*symbol.laengs;
+    if (symbol.ecken.empty())
+        return Scheibe(ziel, m, einstellungen_.*symbol.quer, symbol.form == Symbolform::Kreis);
     std::array<Bildpunkt, kMeisteEcken> ecken;
     std::transform(symbol.ecken.begin(), symbol.ecken.end(), ecken.begin(), [&](Symbolecke e) {
         return Bildpunkt{m.x + e.x * quer, m.y + e.y * laengs};
     });
-    switch (symbol.form) {
-        case Symbolform::Scheibe:
-        case Symbolform::Kreis:
-            Scheibe(ziel, m, einstellungen_.*symbol.quer, symbol.form == Symbolform::Kreis);
-            break;
-        case Symbolform::Kreuz:
-            Kreuz(ziel, ecken);
-            break;
-        case Symbolform::Vieleck:
-            Vieleck(ziel, {ecken.data(), symbol.ecken.size()});
-            break;
-    }
+    if (symbol.form == Symbolform::Kreuz) return Kreuz(ziel, ecken);
+    Vieleck(ziel, {ecken.data(), symbol.ecken.size()});
 }
 
 void Figurenzeichner::Scheibe(const Symbolziel& ziel, Bildpunkt m, std::int32_t radius, bool kreis) const {
