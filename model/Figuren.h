@@ -77,11 +77,12 @@ class Ort {
 
 class Punkt final : public Ort {
   public:
+    // Small members beside each other: large networks are full of figures.
     bool Visible = true;
-    zrw::Farbe Farbe;
     PunktAttr PktAttr = PunktAttr::Em;
     PunktTyp PktTyp = PunktTyp::Pkt;
     PunktArt PktArt = PunktArt::FP;
+    zrw::Farbe Farbe;
 
     /// A visible point at (0, 0) of kind `FP`; whoever knows the kind sets it afterwards.
     [[nodiscard]] static Punkt Create(PunktTyp iPTyp, zrw::Farbe iCol, PunktAttr iPAttr);
@@ -103,11 +104,11 @@ class Punkt final : public Ort {
 class Kante final : public Ort {
   public:
     bool Visible = true;
+    KanteAttr KAttr;
+    LinieAttr LAttr = LinieAttr::Null;
     zrw::Farbe Farbe;
     std::int64_t XBiE = 0;  ///< end point [px]
     std::int64_t YBiE = 0;
-    KanteAttr KAttr;
-    LinieAttr LAttr = LinieAttr::Null;
 
     [[nodiscard]] static Kante Create(zrw::Farbe iCol, KanteAttr iKAttr, LinieAttr iLAttr);
     [[nodiscard]] static Kante Load(ByteLeser& f);
