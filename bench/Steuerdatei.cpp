@@ -64,7 +64,7 @@ zrw::Lesung Lade(const std::filesystem::path& datei, const zrw::Dateien& dateien
     lesung.liste->Weite = 1200;
     lesung.liste->Hoehe = 800;
     lesung.liste->FindWorldMinMax();
-    lesung.liste->PasseEin();
+    lesung.liste->Ansicht::PasseEin();
     return lesung;
 }
 

@@ -12,6 +12,13 @@ void Melde(const Meldungsempfaenger& meldung, const std::string& text, const std
     if (meldung) meldung({.text = text, .datei = PfadText(datei.filename())});
 }
 
+/// Shows all of the network. A view of nothing stays as it is: a scale of 0 would help nobody.
+void PasseEin(Liste& liste) {
+    if (liste.PunktKnoten == nullptr) return;
+    liste.SetzeAusdehnung(liste.Ausdehnung());
+    static_cast<Ansicht&>(liste).PasseEin();
+}
+
 Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
                        const Einstellungen& einstellungen, const Netzangaben& bisher, Bildgroesse bild,
                        const Meldungsempfaenger& meldung) {
@@ -24,9 +31,8 @@ Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateie
               datei);
         liste.Weite = bild.weite;
         liste.Hoehe = bild.hoehe;
-        liste.Vergiss();  // fitting leaves a network without points as it is
-        liste.FindWorldMinMax();
-        liste.PasseEin();
+        liste.Vergiss();
+        PasseEin(liste);
     }
     return lesung;
 }
@@ -52,8 +58,7 @@ Lesung OeffneNetz(const std::filesystem::path& datei, const Dateien& dateien,
     if (liste.PunktKnoten == nullptr && lesung.ende == Leseende::Vollstaendig) {
         Melde(meldung, Leertext(lesung.bericht), datei);
     }
-    liste.FindWorldMinMax();
-    liste.PasseEin();
+    PasseEin(liste);
     return lesung;
 }
 

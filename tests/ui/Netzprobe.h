@@ -53,7 +53,8 @@ class Netzprobe : public Fensterprobe {
     [[nodiscard]] QPoint Ort(std::string_view nummer) const { return Pixel(*fenster.Netz(), *Punkt(nummer)); }
     /// Where the number of a point begins.
     [[nodiscard]] QPoint Textort(std::string_view nummer) const {
-        const Bildpunkt b = fenster.Netz()->FindPktText(Punkt(nummer)->PNr)->Textort();
+        const Liste& l = *fenster.Netz();
+        const Bildpunkt b = l.FindPktText(Punkt(nummer)->PNr)->Textort(BildortVon(*Punkt(nummer), l));
         return {static_cast<int>(b.x), static_cast<int>(b.y)};
     }
 
