@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -39,6 +40,15 @@ void Pixelbild::Verschiebe(int dx, int dy) {
         std::memmove(bild_ + static_cast<std::size_t>(nach) * zeile_ + std::max(dx, 0),
                      bild_ + static_cast<std::size_t>(nach - dy) * zeile_ + std::max(-dx, 0), breite);
     }
+}
+
+void Pixelbild::Fuelle(const Rechteck& r, std::uint32_t farbe) {
+    assert(!VonVorn());
+    const Rechteck teil = Geschnitten(r, ausschnitt_);
+    if (Leer(teil)) return;
+    for (std::int32_t y = teil.oben; y <= teil.unten; ++y)
+        std::fill_n(bild_ + static_cast<std::size_t>(y) * zeile_ + teil.links, teil.rechts - teil.links + 1,
+                    farbe);
 }
 
 template <bool Senkrecht, bool Innen>

@@ -54,6 +54,8 @@ class Pixelbild {
     [[nodiscard]] bool VonVorn() const { return deckung_.Aktiv(); }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const { return VonVorn() && deckung_.Verdeckt(r); }
 
+    /// Covers a rectangle, whatever lies in it. Not while drawing from the front.
+    void Fuelle(const Rechteck& r, std::uint32_t farbe);
     /// Line of width 1 with both ends, in the steps of Qt's raster painter: along the longer axis from its
     /// smaller end, 16.16 fixed point, rounded down. Dashes (4 on, 2 off) count from `von`. Lines too long
     /// for that are stepped with exact remainders. Ends lie within 2^30.

@@ -138,6 +138,11 @@ void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
     schrifthoehe_ = Schrifthoehe();
 }
 
+void Pixelflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+    if (!schnell_) return Malerflaeche::Fuelle(r, farbe);
+    pixel_.Fuelle(r, Pixelfarbe(farbe));
+}
+
 void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     const Stift& stift = AktuellerStift();
     if (!schnell_) return MaleLinie(von, nach);

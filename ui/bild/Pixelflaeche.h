@@ -32,6 +32,7 @@ class Pixelflaeche : public Malerflaeche {
     void BeendeVonVorn() override { pixel_.BeendeVonVorn(); }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return pixel_.Verdeckt(r); }
 
+    void Fuelle(const Rechteck& r, Farbe farbe) override;
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
     void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override;
     void ZeichneRechteck(const Rechteck& r) override;
