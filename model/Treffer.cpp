@@ -1,6 +1,8 @@
 #include "model/Treffer.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <vector>
 
 #include "model/Bildorte.h"
@@ -61,6 +63,15 @@ Bildbereich Fangbereich(Bildpunkt maus, std::int64_t fang) {
     return {Differenz(maus.x, fang), Differenz(maus.y, fang), Summe(maus.x, fang), Summe(maus.y, fang)};
 }
 
+/// Where in the world a figure lies whose position may be caught: far fewer have to be placed in the picture.
+static Weltkasten Fangkasten(const Ansicht& a, const Bildbereich& b) {
+    constexpr std::int64_t kFern = std::int64_t{1}
+                                   << 40U;  // beyond, positions stop at the ends of their range
+    const bool nah = b.links > -kFern && b.oben > -kFern && b.rechts < kFern && b.unten < kFern;
+    const double alles = std::numeric_limits<double>::infinity();
+    return nah && Brauchbar(a.Lage()) ? WeltUnter(a.Lage(), b) : Weltkasten{-alles, -alles, alles, alles};
+}
+
 /// The kind of the point is switched on, as far as that counts.
 bool Treffersuche::Gezeigt(PunktIndex nr) const {
     if (gezeigt_ == nullptr) return true;
@@ -70,9 +81,12 @@ bool Treffersuche::Gezeigt(PunktIndex nr) const {
 
 PPunktKnoten Treffersuche::Punkt(Bildpunkt maus) const {
     std::vector<PPunktKnoten> nahe;
-    netz_.SammlePunkte(ansicht_, Fangbereich(maus, fang_), nahe);
+    const Bildbereich bereich = Fangbereich(maus, fang_);
+    const Weltkasten dort = Fangkasten(ansicht_, bereich);
+    netz_.SammlePunkte(ansicht_, bereich, nahe);
     return Erster(nahe, [&](const PunktKnoten& p) {
-        return Gefangen(maus, BildortVon(p, ansicht_), fang_) &&
+        return dort.Beruehrt({p.XWPu, p.YWPu, p.XWPu, p.YWPu}) &&
+               Gefangen(maus, BildortVon(p, ansicht_), fang_) &&
                (gezeigt_ == nullptr || (p.Item->Visible && gezeigt_->Dargestellt(*p.Item)));
     });
 }
@@ -91,9 +105,22 @@ PPunktKante Treffersuche::Kante(Bildpunkt maus) const {
     if (gezeigt_ != nullptr && !gezeigt_->ShowBeob) return nullptr;
     std::vector<PPunktKante> nahe;
     // A line is caught up to a whole pixel farther off, and beside its ends.
-    netz_.SammleKanten(ansicht_, Fangbereich(maus, fang_ + 1), nahe);
+    const Bildbereich bereich = Fangbereich(maus, fang_ + 1);
+    const Weltkasten dort = Fangkasten(ansicht_, bereich);
+    netz_.SammleKanten(ansicht_, bereich, nahe);
+    const auto fern = [&](const PunktKante& k) {
+        const PunktKnoten* a = netz_.SuchPkt(k.ANr);
+        const PunktKnoten* e = netz_.SuchPkt(k.ENr);
+        if (a == nullptr || e == nullptr) return false;
+        for (const double v : {a->XWPu, a->YWPu, e->XWPu, e->YWPu}) {
+            if (!std::isfinite(v)) return false;
+        }
+        Weltkasten kasten{a->XWPu, a->YWPu, a->XWPu, a->YWPu};
+        kasten.Nimm(e->XWPu, e->YWPu);
+        return !dort.Beruehrt(kasten);
+    };
     return Erster(nahe, [&](const PunktKante& k) {
-        return (gezeigt_ == nullptr || k.Item->Visible) &&
+        return !fern(k) && (gezeigt_ == nullptr || k.Item->Visible) &&
                Trifft(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
                Gezeigt(k.ANr) && Gezeigt(k.ENr);
     });
