@@ -42,19 +42,37 @@ namespace zrw {
 /// The points of a network by internal number. Both arguments stay as they are while it is in use.
 class Bildorte {
   public:
-    Bildorte(const Netz& netz, const Ansicht& ansicht) : netz_(netz), ansicht_(ansicht) {}
+    /// @param anzahl how many questions will come, about. A few are answered one by one: fresh memory for the
+    /// table would take longer.
+    Bildorte(const Netz& netz, const Ansicht& ansicht, std::size_t anzahl = kMaxPunkte)
+        : netz_(netz), ansicht_(ansicht) {
+        Erwarte(anzahl);
+    }
+    void Erwarte(std::size_t anzahl) {
+        constexpr std::size_t kWenige = 2048;
+        if (orte_ != nullptr || anzahl <= kWenige) return;
+        orte_ = std::make_unique_for_overwrite<Platz[]>(kMaxPunkte + 1);
+        bekannt_.resize(kMaxPunkte + 1);
+    }
 
     /// What is known already, of the newest point of the number.
     void Nimm(PunktIndex nr, Bildpunkt ort) {
+        if (orte_ == nullptr) return;
         bekannt_[nr] = true;
         const bool nah = Nah(ort.x) && Nah(ort.y);
         orte_[nr] =
             nah ? Platz{static_cast<std::int32_t>(ort.x), static_cast<std::int32_t>(ort.y)} : Platz{kFern, 0};
     }
     /// Asks for the memory of a number ahead of time.
-    void Hole(PunktIndex nr) const { HoleVor(&orte_[nr]); }
+    void Hole(PunktIndex nr) const {
+        if (orte_ != nullptr) HoleVor(&orte_[nr]);
+    }
     /// Of the newest point of the number, nothing where there is none.
     [[nodiscard]] std::optional<Bildpunkt> Finde(PunktIndex nr) {
+        if (orte_ == nullptr) {
+            const PunktKnoten* p = netz_.SuchPkt(nr);
+            return p != nullptr ? std::optional(BildortVon(*p, ansicht_)) : std::nullopt;
+        }
         if (!bekannt_[nr]) Suche(nr);
         const Platz ort = orte_[nr];
         if (ort.x > kFern) return Bildpunkt{ort.x, ort.y};
@@ -89,8 +107,8 @@ class Bildorte {
 
     const Netz& netz_;
     const Ansicht& ansicht_;
-    std::unique_ptr<Platz[]> orte_ = std::make_unique_for_overwrite<Platz[]>(kMaxPunkte + 1);
-    std::vector<bool> bekannt_ = std::vector<bool>(kMaxPunkte + 1);
+    std::unique_ptr<Platz[]> orte_;  ///< null: nothing is remembered
+    std::vector<bool> bekannt_;
 };
 
 /// Whether everything in the network lies `weg` [px] farther in the view `nachher` than in `vorher`, so that

@@ -42,7 +42,7 @@ Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzei
       zeichner_(zeichner),
       r_(reichweiten),
       gezeigt_(v.netz, v.darstellung),
-      orte_(v.netz, v.ansicht),
+      orte_(v.netz, v.ansicht, 0),
       linien_(Bereich(r_.kante)),
       symbole_(Bereich(r_.symbol)),
       nummern_(Bereich(0)) {
@@ -67,6 +67,8 @@ void Bildaufbau::Sammle() {
     const Darstellung& d = v_.darstellung;
     if (d.ShowBeob) v_.netz.SammleKanten(v_.ansicht, linien_, kanten_);
     v_.netz.SammlePunkte(v_.ansicht, symbole_, punkte_);
+    if (d.ZeigtNummern()) v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
+    orte_.Erwarte(kanten_.size() + texte_.size());
     punktorte_.reserve(punkte_.size());
     std::size_t anzahl = 0;
     FuerAlle(punkte_, false, [&](std::size_t i) {
@@ -83,7 +85,6 @@ void Bildaufbau::Sammle() {
         punktorte_.push_back(ort);
     });
     punkte_.resize(anzahl);
-    if (d.ZeigtNummern()) v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
 }
 
 /// Whether enough lies behind other things to pay for keeping track of it: what the figures would draw
@@ -127,9 +128,19 @@ void Bildaufbau::ZeichneKante(const PunktKante& k) {
     if (Beruehrt(anfang, ende, linien_)) zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
 }
 
+/// Asks for the memory of both points of a line ahead of time.
+void Bildaufbau::HoleOrte(std::uint32_t folge) const {
+    const Punktenden enden = v_.netz.Enden(folge);
+    orte_.Hole(enden.a);
+    orte_.Hole(enden.e);
+}
+
 void Bildaufbau::ZeichneKanten() {
     for (std::size_t i = 0; i < kanten_.size(); ++i) {
-        if (i + kVoraus < kanten_.size()) Hole(&v_.netz.KanteNach(kanten_[i + kVoraus]));
+        if (i + kVoraus < kanten_.size()) {
+            Hole(&v_.netz.KanteNach(kanten_[i + kVoraus]));
+            HoleOrte(kanten_[i + kVoraus]);
+        }
         ZeichneKante(v_.netz.KanteNach(kanten_[i]));
     }
 }
@@ -141,8 +152,7 @@ void Bildaufbau::ZeichneKantenVonVorn() {
     for (std::size_t i = kanten_.size(); i > 0;) {
         const std::size_t bis = i - std::min(i, naechste.size());
         for (std::size_t n = bis; n-- > bis - std::min(bis, naechste.size());) {
-            orte_.Hole(v_.netz.Enden(kanten_[n]).a);
-            orte_.Hole(v_.netz.Enden(kanten_[n]).e);
+            HoleOrte(kanten_[n]);
         }
         std::size_t anzahl = 0;
         while (i-- > bis) {

@@ -34,6 +34,7 @@ class Bildaufbau {
     void Sammle();
     [[nodiscard]] bool Dicht() const;
     void ZeichneKante(const PunktKante& k);
+    void HoleOrte(std::uint32_t folge) const;
     void ZeichneKanten();
     void ZeichneKantenVonVorn();
     void ZeichnePunkte(bool vonVorn);
