@@ -23,8 +23,8 @@ namespace zrw {
 /// Of the newest point of a number; `sonst` where there is none.
 [[nodiscard]] inline Bildpunkt BildortVon(const Netz& netz, const Ansicht& a, PunktIndex nr,
                                           Bildpunkt sonst) {
-    const PunktKnoten* p = netz.SuchPkt(nr);
-    return p != nullptr ? BildortVon(*p, a) : sonst;
+    const auto w = netz.Weltort(nr);
+    return w ? a.Bildort(*w) : sonst;
 }
 // Lines and labels follow their points. Where one is missing they stay where they were stored.
 [[nodiscard]] inline Bildpunkt AnfangVon(const PunktKante& k, const Netz& netz, const Ansicht& a) {
@@ -67,17 +67,19 @@ class Bildorte {
     void Hole(PunktIndex nr) const {
         if (orte_ != nullptr) HoleVor(&orte_[nr]);
     }
+    /// Positions are remembered: a table is worth its memory.
+    [[nodiscard]] bool Merkt() const { return orte_ != nullptr; }
     /// Of the newest point of the number, nothing where there is none.
     [[nodiscard]] std::optional<Bildpunkt> Finde(PunktIndex nr) {
         if (orte_ == nullptr) {
-            const PunktKnoten* p = netz_.SuchPkt(nr);
-            return p != nullptr ? std::optional(BildortVon(*p, ansicht_)) : std::nullopt;
+            const auto w = netz_.Weltort(nr);
+            return w ? std::optional(ansicht_.Bildort(*w)) : std::nullopt;
         }
         if (!bekannt_[nr]) Suche(nr);
         const Platz ort = orte_[nr];
         if (ort.x > kFern) return Bildpunkt{ort.x, ort.y};
         if (ort.x == kKeiner) return std::nullopt;
-        return BildortVon(*netz_.SuchPkt(nr), ansicht_);
+        return ansicht_.Bildort(*netz_.Weltort(nr));
     }
     [[nodiscard]] Bildpunkt Anfang(const PunktKante& k) { return Finde(k.ANr).value_or(k.Item->Position()); }
     [[nodiscard]] Bildpunkt Ende(const PunktKante& k) { return Finde(k.ENr).value_or(k.Item->Ende()); }
@@ -97,8 +99,8 @@ class Bildorte {
         return v > kFern && v <= std::numeric_limits<std::int32_t>::max();
     }
     void Suche(PunktIndex nr) {
-        if (const PunktKnoten* p = netz_.SuchPkt(nr); p != nullptr) {
-            Nimm(nr, BildortVon(*p, ansicht_));
+        if (const auto w = netz_.Weltort(nr)) {
+            Nimm(nr, ansicht_.Bildort(*w));
         } else {
             bekannt_[nr] = true;
             orte_[nr] = {kKeiner, 0};

@@ -40,13 +40,19 @@ std::uint64_t Streuwert(PunktIndex a, PunktIndex e, std::uint64_t saat) {
 
 void Figurenindex::Erwarte(std::size_t punkte) {
     punkte_.reserve(punkte + 1);
+    orte_.reserve(punkte + 1);
     texte_.reserve(punkte + 1);
 }
 
 // --- Points -----------------------------------------------------------------------------------------------
 
+void Figurenindex::SetzePunkt(PunktIndex nr, PunktKnoten* p) {
+    Lege(punkte_, nr, p);
+    if (p != nullptr) Lege(orte_, nr, Welt{p->XWPu, p->YWPu});
+}
+
 void Figurenindex::Auf(PunktKnoten& p) {
-    Lege(punkte_, p.PNr, &p);
+    SetzePunkt(p.PNr, &p);
 }
 
 void Figurenindex::Ab(PunktKnoten& p) {
@@ -54,19 +60,19 @@ void Figurenindex::Ab(PunktKnoten& p) {
     PunktKnoten* ersatz = p.Next;
     while (ersatz != nullptr && ersatz->PNr != p.PNr)
         ersatz = ersatz->Next;
-    punkte_[p.PNr] = ersatz;
+    SetzePunkt(p.PNr, ersatz);
 }
 
 void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
     // A point of the same number nearer the head keeps answering.
-    Lege(punkte_, p.PNr,
-         Erster(
-             kopf, [&](const PunktKnoten& k) { return k.PNr == p.PNr; },
-             FindePunkt(p.PNr) == nullptr ? &p : nullptr));
+    SetzePunkt(p.PNr, Erster(
+                          kopf, [&](const PunktKnoten& k) { return k.PNr == p.PNr; },
+                          FindePunkt(p.PNr) == nullptr ? &p : nullptr));
 }
 
 void Figurenindex::LeerePunkte() {
     punkte_.clear();
+    orte_.clear();
 }
 
 // --- Labels -----------------------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -48,6 +49,16 @@ class Figurenindex {
     [[nodiscard]] PunktKnoten* FindePunkt(PunktIndex nr) const {
         return nr < punkte_.size() ? punkte_[nr] : nullptr;
     }
+    /// Where that point lies in the world; it must be there. All of them stand in one row: lines ask in any
+    /// order, and would wait for the memory of each node.
+    [[nodiscard]] Welt OrtVon(PunktIndex nr) const {
+        assert(FindePunkt(nr) != nullptr);
+        return orte_[nr];
+    }
+    /// The point has other world coordinates.
+    void Verlege(const PunktKnoten& p) {
+        if (FindePunkt(p.PNr) == &p) orte_[p.PNr] = {p.XWPu, p.YWPu};
+    }
     [[nodiscard]] PunktString* FindeText(PunktIndex nr) const;
     [[nodiscard]] PunktString* FindeText(const PunktNummernTyp& nummer) const;
     /// Internal number of the point with that label, 0 if there is none.
@@ -89,7 +100,10 @@ class Figurenindex {
 
     const Arena<KantePlatz>& kantenarena_;
     const Arena<TextPlatz>& textarena_;
+    void SetzePunkt(PunktIndex nr, PunktKnoten* p);
+
     std::vector<PunktKnoten*> punkte_;
+    std::vector<Welt> orte_;  ///< of those
     std::vector<PunktString*> texte_;
     std::size_t textanzahl_ = 0;
     std::size_t textnummern_ = 0;  ///< numbers that have a label

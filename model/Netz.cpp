@@ -1,5 +1,6 @@
 #include "model/Netz.h"
 
+#include <algorithm>
 #include <cassert>
 #include <string_view>
 #include <utility>
@@ -135,6 +136,15 @@ Figurenmenge Netz::Umfeld(zrw::PunktKnoten& p) {
     return m;
 }
 
+bool Netz::BeruehrtVielleicht(const PunktKante& k, const Weltkasten& dort) const {
+    const auto a = Weltort(k.ANr);
+    const auto e = Weltort(k.ENr);
+    if (!a || !e) return true;
+    // Each of the comparisons is false for not-a-number.
+    return !(std::max(a->rechts, e->rechts) < dort.links || std::min(a->rechts, e->rechts) > dort.rechts ||
+             std::max(a->hoch, e->hoch) < dort.unten || std::min(a->hoch, e->hoch) > dort.oben);
+}
+
 bool Netz::Lueckenlos() const {
     if (!lueckenlos_) {
         bool alle = true;
@@ -160,6 +170,7 @@ Weltkasten Netz::Ausdehnung() const {
 void Netz::Versetze(zrw::PunktKnoten& p, Welt ort) {
     p.XWPu = ort.rechts;
     p.YWPu = ort.hoch;
+    index_.Verlege(p);
     MeldePunkt(p);
 }
 

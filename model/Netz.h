@@ -47,6 +47,13 @@ class Netz {
 
     // --- Looking up
     [[nodiscard]] PPunktKnoten SuchPkt(PunktIndex nr) const { return index_.FindePunkt(nr); }
+    /// Where the newest point of a number lies; nothing where there is none.
+    [[nodiscard]] std::optional<Welt> Weltort(PunktIndex nr) const {
+        return SuchPkt(nr) != nullptr ? std::optional(index_.OrtVon(nr)) : std::nullopt;
+    }
+    /// Whether a line may run through a part of the world; also one without its points, or with points
+    /// nowhere.
+    [[nodiscard]] bool BeruehrtVielleicht(const PunktKante& k, const Weltkasten& dort) const;
     /// Whether the node is in its list: figures that were taken out are not.
     [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const {
         return suche_.punkte.Hat(p.Folge) && &punktArena_[p.Folge].knoten == &p;

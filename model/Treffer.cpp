@@ -1,8 +1,6 @@
 #include "model/Treffer.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 #include <vector>
 
 #include "model/Bildorte.h"
@@ -68,8 +66,7 @@ static Weltkasten Fangkasten(const Ansicht& a, const Bildbereich& b) {
     constexpr std::int64_t kFern = std::int64_t{1}
                                    << 40U;  // beyond, positions stop at the ends of their range
     const bool nah = b.links > -kFern && b.oben > -kFern && b.rechts < kFern && b.unten < kFern;
-    const double alles = std::numeric_limits<double>::infinity();
-    return nah && Brauchbar(a.Lage()) ? WeltUnter(a.Lage(), b) : Weltkasten{-alles, -alles, alles, alles};
+    return nah && Brauchbar(a.Lage()) ? WeltUnter(a.Lage(), b) : kGanzeWelt;
 }
 
 /// The kind of the point is switched on, as far as that counts.
@@ -108,19 +105,8 @@ PPunktKante Treffersuche::Kante(Bildpunkt maus) const {
     const Bildbereich bereich = Fangbereich(maus, fang_ + 1);
     const Weltkasten dort = Fangkasten(ansicht_, bereich);
     netz_.SammleKanten(ansicht_, bereich, nahe);
-    const auto fern = [&](const PunktKante& k) {
-        const PunktKnoten* a = netz_.SuchPkt(k.ANr);
-        const PunktKnoten* e = netz_.SuchPkt(k.ENr);
-        if (a == nullptr || e == nullptr) return false;
-        for (const double v : {a->XWPu, a->YWPu, e->XWPu, e->YWPu}) {
-            if (!std::isfinite(v)) return false;
-        }
-        Weltkasten kasten{a->XWPu, a->YWPu, a->XWPu, a->YWPu};
-        kasten.Nimm(e->XWPu, e->YWPu);
-        return !dort.Beruehrt(kasten);
-    };
     return Erster(nahe, [&](const PunktKante& k) {
-        return !fern(k) && (gezeigt_ == nullptr || k.Item->Visible) &&
+        return netz_.BeruehrtVielleicht(k, dort) && (gezeigt_ == nullptr || k.Item->Visible) &&
                Trifft(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
                Gezeigt(k.ANr) && Gezeigt(k.ENr);
     });

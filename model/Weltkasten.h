@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <limits>
 
 namespace zrw {
 
@@ -29,5 +30,10 @@ struct Weltkasten {
         return links <= k.rechts && k.links <= rechts && unten <= k.oben && k.unten <= oben;
     }
 };
+
+/// Touches everything.
+inline constexpr Weltkasten kGanzeWelt{
+    -std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+    std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
 
 }  // namespace zrw

@@ -45,7 +45,8 @@ Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzei
       orte_(v.netz, v.ansicht, 0),
       linien_(Bereich(r_.kante)),
       symbole_(Bereich(r_.symbol)),
-      nummern_(Bereich(0)) {
+      nummern_(Bereich(0)),
+      weltlinien_(Brauchbar(v.ansicht.Lage()) ? WeltUnter(v.ansicht.Lage(), linien_) : kGanzeWelt) {
     // A text stands right of its corner and below it.
     nummern_.links -= r_.textweite;
     nummern_.oben -= r_.texthoehe;
@@ -122,6 +123,8 @@ void Bildaufbau::ZeichnePunkte(bool vonVorn) {
 }
 
 void Bildaufbau::ZeichneKante(const PunktKante& k) {
+    // Of a few figures most lie beside what is drawn: the world tells that without a division.
+    if (!orte_.Merkt() && !v_.netz.BeruehrtVielleicht(k, weltlinien_)) return;
     if (!v_.Gezeichnet(k) || !gezeigt_(k)) return;
     const Bildpunkt anfang = orte_.Anfang(k);
     const Bildpunkt ende = orte_.Ende(k);

@@ -53,6 +53,7 @@ class Bildaufbau {
     Bildbereich linien_;
     Bildbereich symbole_;
     Bildbereich nummern_;
+    Weltkasten weltlinien_;  ///< under `linien_`
     // What may have to be drawn, newest first.
     std::vector<std::uint32_t> kanten_;  ///< by `Folge`
     std::vector<PPunktKnoten> punkte_;
