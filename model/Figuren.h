@@ -1,5 +1,6 @@
 // The drawable pieces of the plot: point symbol, observation line, point-number label and legend.
-// Figures know picture positions only; world coordinates live in the nodes of the list (FigListe.h).
+// Figures know the picture positions that the face of the plan (FigListe.h) and picture files keep; world
+// coordinates live in their nodes (Knoten.h).
 // How a figure looks is the business of the `Zeichner` it is shown with.
 #pragma once
 

@@ -1,4 +1,4 @@
-// Look-ups beside the lists of a `Liste`, each in constant time: internal number -> point and label, point
+// Look-ups beside the lists of a `Netz`, each in constant time: internal number -> point and label, point
 // number text -> label, point pair -> line, internal number -> its lines. Every look-up answers what a walk
 // from the head of the list would find first: the newest figure.
 #pragma once

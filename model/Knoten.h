@@ -1,5 +1,5 @@
 // The nodes of the three lists of a network. A node ties a figure to world coordinates or to the internal
-// numbers of its points; node and figure live in the arena of their `Liste`. `Folge` counts the nodes of one
+// numbers of its points; node and figure live in the arena of their `Netz`. `Folge` counts the nodes of one
 // list in the order of adding: every list runs from the highest to the lowest.
 #pragma once
 

@@ -1,14 +1,16 @@
-// Which figures of a list may touch a part of the picture, without a walk through all of them. The trees lie
-// in the world, so that panning and zooming leave them as they are; figures that came or moved since they
+// Which figures of a network may touch a part of the picture, without a walk through all of them. The trees
+// lie in the world, so that panning and zooming leave them as they are; figures that came or moved since they
 // were built are kept beside them and always among the answers. An answer may hold too much, never too
 // little: whoever asks looks at the figures themselves.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "model/Ansicht.h"

@@ -23,7 +23,7 @@ class Raumbaum {
         std::vector<Weltkasten> blaetter((eintraege_.size() + kFach - 1) / kFach);
         for (std::size_t i = 0; i < eintraege_.size(); ++i) {
             const Weltkasten k = kasten(eintraege_[i]);
-            assert(!k.Leer() && k.unten <= k.oben);
+            assert(!k.Leer());
             blaetter[i / kFach].Nimm(k);
         }
         ebenen_.push_back(std::move(blaetter));

@@ -37,7 +37,7 @@ std::unique_ptr<Liste> LadeGanz(ByteLeser& f, const Einstellungen& einstellungen
 
 }  // namespace
 
-std::string SchreibeRettung(const Liste& liste, const Netzangaben& netz, const std::string& name) {
+std::string SchreibeRettung(Liste& liste, const Netzangaben& netz, const std::string& name) {
     ByteSchreiber f;
     f.Text(kKennung, kKennung.size());
     f.U32(static_cast<std::uint32_t>(name.size()));
@@ -46,6 +46,7 @@ std::string SchreibeRettung(const Liste& liste, const Netzangaben& netz, const s
     f.U32(static_cast<std::uint32_t>(punkte.size()));
     for (const PunktKnoten* p : punkte)
         f.U8(static_cast<std::uint8_t>(p->Item->PktArt));
+    liste.WeltinBild();  // the picture file holds positions, too
     liste.StoreOhne(UeberzaehligeTexte(liste), f, netz);
     return std::string(f.Inhalt());
 }

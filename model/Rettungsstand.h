@@ -24,8 +24,7 @@ struct Rettungsstand {
     Netzangaben netz;
 };
 
-[[nodiscard]] std::string SchreibeRettung(const Liste& liste, const Netzangaben& netz,
-                                          const std::string& name);
+[[nodiscard]] std::string SchreibeRettung(Liste& liste, const Netzangaben& netz, const std::string& name);
 /// The plot as it was, figures in the same order. @param datei name for messages
 /// @throws Fehler where the bytes are no such plot
 [[nodiscard]] Rettungsstand LiesRettung(std::string_view bytes, const Einstellungen& einstellungen,

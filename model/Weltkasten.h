@@ -25,7 +25,7 @@ struct Weltkasten {
         unten = std::min(unten, k.unten);
         oben = std::max(oben, k.oben);
     }
-    [[nodiscard]] bool Leer() const { return !(links <= rechts); }
+    [[nodiscard]] bool Leer() const { return !(links <= rechts && unten <= oben); }
     [[nodiscard]] bool Beruehrt(const Weltkasten& k) const {
         return links <= k.rechts && k.links <= rechts && unten <= k.oben && k.unten <= oben;
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <cmath>
 #include <numbers>
 #include <optional>
@@ -110,9 +109,7 @@ Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& e
       v_(v),
       // Printing leaves a device factor behind that means nothing on the screen.
       geraetefaktor_(zustand.modus == Zeichenmodus::Drucker ? zustand.Geraetefaktor : 1.0),
-      f_(geraetefaktor_ * einstellungen.ResMF) {
-    assert(zustand.flaeche != nullptr);
-}
+      f_(geraetefaktor_ * einstellungen.ResMF) {}
 
 void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
     if (const auto teil = Abschneiden(von, nach, flaeche_.Grenzen())) {

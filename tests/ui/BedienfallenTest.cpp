@@ -35,6 +35,22 @@ class Bedienfallen : public Netzprobe {
     }
 };
 
+// Its window gets the release of the button.
+TEST_F(Bedienfallen, EinDialogBeendetDasZiehen) {
+    Modus("MovePktButton");
+    const QStringList vorher = Figuren();
+    const QImage bildVorher = fenster.Bild().copy();
+    Druecke(A);
+    Bewege(A + QPoint(40, 20));
+    QDialog dialog(&fenster);
+    dialog.setModal(true);
+    dialog.show();
+    EXPECT_EQ(fenster.Bild(), bildVorher) << "the point is back";
+    dialog.close();
+    Lass(A + QPoint(60, 30));
+    EXPECT_EQ(Aenderung(vorher), QStringList());
+}
+
 TEST_F(Bedienfallen, WiederholenMittenImZiehen) {
     const struct {
         const char* modus;  // whose click is undone, and done again while something else is dragged

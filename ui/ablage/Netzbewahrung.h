@@ -21,8 +21,8 @@ class Netzbewahrung {
   public:
     /// The plot as it stands in the window.
     struct Plan {
-        const Liste* liste = nullptr;  ///< null before one is opened
-        QString datei;                 ///< that it came from
+        Liste* liste = nullptr;  ///< null before one is opened
+        QString datei;           ///< that it came from
         bool ungesichert = false;
     };
     /// What it asks of the window, from the event loop and from its own calls only.

@@ -1,6 +1,6 @@
-// Every change of the network that can be undone, one small class each. They change the list and draw
-// nothing: the window redraws when its stack of changes moves. Nodes stay where they are in memory as long as
-// their list lives, so a change keeps pointers to them; the stack is emptied with the list.
+// Every change of the network that can be undone, one small class each. They change the network and draw
+// nothing: the plan tells the window before and after. Nodes stay where they are in memory as long as their
+// network lives, so a change keeps pointers to them; the stack is emptied with the network.
 #pragma once
 
 #include <QUndoCommand>

@@ -118,7 +118,7 @@ class TZrwMainDlg final : public QMainWindow,
     [[nodiscard]] bool DarfVerwerfen();
     [[nodiscard]] bool BereitZumEnde();
     void ZeigeTitel();
-    [[nodiscard]] Netzbewahrung::Plan JetzigerPlan() const;
+    [[nodiscard]] Netzbewahrung::Plan JetzigerPlan();
 
     // HauptfensterAnsicht.cpp
     void Zoome(double x, double y, bool groesser);

@@ -230,7 +230,7 @@ void TZrwMainDlg::ZeigeTitel() {
     setWindowTitle(titel_ + (Ungesichert() ? QStringLiteral("*") : QString()));
 }
 
-Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() const {
+Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() {
     return {plan_.Daten(), titel_.mid(QStringLiteral("Zarwik ").size()), Ungesichert()};
 }
 

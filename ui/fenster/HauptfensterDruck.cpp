@@ -38,6 +38,7 @@ void TZrwMainDlg::SpeedButton5Click() {
 void TZrwMainDlg::VorschauClick() {
     if (!plan_.Offen()) return;
     bewahrung_.Bewahre();
+    BrichAb();
     const auto massstab = druck_.Massstab();
     if (!massstab) return;
     bool drucken = false;

@@ -130,8 +130,10 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
     const Sanduhr sanduhr;
     const Liste& netz = *plan_.Daten();
     const PunktKnoten* ziel = zentrum ? netz.FindPunkt(AlsNummer(*zentrum)) : nullptr;
-    if (ziel == nullptr || exzentren.isEmpty())
-        return ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
+    if (ziel == nullptr || exzentren.isEmpty()) {
+        ZeigeStatus(QStringLiteral("Nichts zentriert: links Exzentren wählen, rechts ein Zentrum."));
+        return ZeichneNeu();
+    }
     std::vector<PPunktKnoten> punkte;
     for (const QString& nummer : exzentren) {
         if (PunktKnoten* p = netz.FindPunkt(AlsNummer(nummer)); p != nullptr) punkte.push_back(p);

@@ -110,13 +110,6 @@ void Zentrierkasten::MerkeZentrierte(const QStringList& exzentren) {
         zentriert_ << nummer;
 }
 
-void Zentrierkasten::Entferne(const QString& nummer) {
-    for (QStringListModel* modell : {exzentren_, zentren_}) {
-        const auto stelle = modell->stringList().indexOf(nummer);
-        if (stelle >= 0) modell->removeRow(static_cast<int>(stelle));
-    }
-}
-
 void Zentrierkasten::Zeige() {
     zentren_->setStringList(exzentren_->stringList());
     show();

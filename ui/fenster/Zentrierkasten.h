@@ -23,8 +23,6 @@ class Zentrierkasten final : public QGroupBox {
     void MerkeZentrierte(const QStringList& exzentren);
     /// The points of the network; the list of centres is empty until the box is shown.
     void Fuelle(const QStringList& nummern);
-    /// Points that are no longer in the network, or new in it.
-    void Entferne(const QString& nummer);
     /// Every eccentre may be a centre.
     void Zeige();
 

@@ -6,6 +6,7 @@
 #include <Qt>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "model/FigListe.h"
 #include "model/Zeichner.h"
