@@ -39,44 +39,44 @@ namespace zrw {
 }
 
 // --- Many of them
+/// Memory for the positions of one picture, to be used again by the next: fresh pages cost more than a redraw
+/// of a few figures.
+struct Ortsspeicher {
+    /// Half the memory of a `Bildpunkt`; without initial values: what is not known is not read.
+    struct Platz {
+        std::int32_t x;
+        std::int32_t y;
+    };
+    std::unique_ptr<Platz[]> orte;
+    std::vector<bool> bekannt;
+};
+
 /// The points of a network by internal number. Both arguments stay as they are while it is in use.
 class Bildorte {
   public:
-    /// @param anzahl how many questions will come, about. A few are answered one by one: fresh memory for the
-    /// table would take longer.
-    Bildorte(const Netz& netz, const Ansicht& ansicht, std::size_t anzahl = kMaxPunkte)
-        : netz_(netz), ansicht_(ansicht) {
-        Erwarte(anzahl);
+    /// @param speicher used while it is in use; null: memory of its own
+    Bildorte(const Netz& netz, const Ansicht& ansicht, Ortsspeicher* speicher = nullptr)
+        : netz_(netz), ansicht_(ansicht), s_(speicher != nullptr ? *speicher : eigener_) {
+        if (s_.orte == nullptr)
+            s_.orte = std::make_unique_for_overwrite<Ortsspeicher::Platz[]>(kMaxPunkte + 1);
+        s_.bekannt.assign(kMaxPunkte + 1, false);
     }
-    void Erwarte(std::size_t anzahl) {
-        constexpr std::size_t kWenige = 2048;
-        if (orte_ != nullptr || anzahl <= kWenige) return;
-        orte_ = std::make_unique_for_overwrite<Platz[]>(kMaxPunkte + 1);
-        bekannt_.resize(kMaxPunkte + 1);
-    }
+    Bildorte(const Bildorte&) = delete;
+    Bildorte& operator=(const Bildorte&) = delete;
 
     /// What is known already, of the newest point of the number.
     void Nimm(PunktIndex nr, Bildpunkt ort) {
-        if (orte_ == nullptr) return;
-        bekannt_[nr] = true;
+        s_.bekannt[nr] = true;
         const bool nah = Nah(ort.x) && Nah(ort.y);
-        orte_[nr] =
+        s_.orte[nr] =
             nah ? Platz{static_cast<std::int32_t>(ort.x), static_cast<std::int32_t>(ort.y)} : Platz{kFern, 0};
     }
     /// Asks for the memory of a number ahead of time.
-    void Hole(PunktIndex nr) const {
-        if (orte_ != nullptr) HoleVor(&orte_[nr]);
-    }
-    /// Positions are remembered: a table is worth its memory.
-    [[nodiscard]] bool Merkt() const { return orte_ != nullptr; }
+    void Hole(PunktIndex nr) const { HoleVor(&s_.orte[nr]); }
     /// Of the newest point of the number, nothing where there is none.
     [[nodiscard]] std::optional<Bildpunkt> Finde(PunktIndex nr) {
-        if (orte_ == nullptr) {
-            const auto w = netz_.Weltort(nr);
-            return w ? std::optional(ansicht_.Bildort(*w)) : std::nullopt;
-        }
-        if (!bekannt_[nr]) Suche(nr);
-        const Platz ort = orte_[nr];
+        if (!s_.bekannt[nr]) Suche(nr);
+        const Platz ort = s_.orte[nr];
         if (ort.x > kFern) return Bildpunkt{ort.x, ort.y};
         if (ort.x == kKeiner) return std::nullopt;
         return ansicht_.Bildort(*netz_.Weltort(nr));
@@ -86,11 +86,7 @@ class Bildorte {
     [[nodiscard]] Bildpunkt Text(const PunktString& t) { return Finde(t.TNr).value_or(t.Item->Position()); }
 
   private:
-    /// Half the memory of a `Bildpunkt`; without initial values: what is not known is not read.
-    struct Platz {
-        std::int32_t x;
-        std::int32_t y;
-    };
+    using Platz = Ortsspeicher::Platz;
     // In place of a position: there is no such point; it lies beyond 32 bits.
     static constexpr std::int32_t kKeiner = std::numeric_limits<std::int32_t>::min();
     static constexpr std::int32_t kFern = kKeiner + 1;
@@ -102,15 +98,15 @@ class Bildorte {
         if (const auto w = netz_.Weltort(nr)) {
             Nimm(nr, ansicht_.Bildort(*w));
         } else {
-            bekannt_[nr] = true;
-            orte_[nr] = {kKeiner, 0};
+            s_.bekannt[nr] = true;
+            s_.orte[nr] = {kKeiner, 0};
         }
     }
 
     const Netz& netz_;
     const Ansicht& ansicht_;
-    std::unique_ptr<Platz[]> orte_;  ///< null: nothing is remembered
-    std::vector<bool> bekannt_;
+    Ortsspeicher eigener_;
+    Ortsspeicher& s_;
 };
 
 /// Whether everything in the network lies `weg` [px] farther in the view `nachher` than in `vorher`, so that

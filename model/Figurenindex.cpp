@@ -48,7 +48,8 @@ void Figurenindex::Erwarte(std::size_t punkte) {
 
 void Figurenindex::SetzePunkt(PunktIndex nr, PunktKnoten* p) {
     Lege(punkte_, nr, p);
-    if (p != nullptr) Lege(orte_, nr, Welt{p->XWPu, p->YWPu});
+    if (nr >= orte_.size()) orte_.resize(std::size_t{nr} + 1, kNirgends);
+    orte_[nr] = p != nullptr ? Welt{p->XWPu, p->YWPu} : kNirgends;
 }
 
 void Figurenindex::Auf(PunktKnoten& p) {

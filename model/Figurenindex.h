@@ -5,9 +5,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "model/Arena.h"
@@ -49,12 +49,9 @@ class Figurenindex {
     [[nodiscard]] PunktKnoten* FindePunkt(PunktIndex nr) const {
         return nr < punkte_.size() ? punkte_[nr] : nullptr;
     }
-    /// Where that point lies in the world; it must be there. All of them stand in one row: lines ask in any
-    /// order, and would wait for the memory of each node.
-    [[nodiscard]] Welt OrtVon(PunktIndex nr) const {
-        assert(FindePunkt(nr) != nullptr);
-        return orte_[nr];
-    }
+    /// Where that point lies in the world; not-a-number where there is none. All of them stand in one row:
+    /// lines ask in any order, and would wait for the memory of each node.
+    [[nodiscard]] Welt OrtVon(PunktIndex nr) const { return nr < orte_.size() ? orte_[nr] : kNirgends; }
     /// The point has other world coordinates.
     void Verlege(const PunktKnoten& p) {
         if (FindePunkt(p.PNr) == &p) orte_[p.PNr] = {p.XWPu, p.YWPu};
@@ -100,6 +97,8 @@ class Figurenindex {
 
     const Arena<KantePlatz>& kantenarena_;
     const Arena<TextPlatz>& textarena_;
+    static constexpr Welt kNirgends{std::numeric_limits<double>::quiet_NaN(),
+                                    std::numeric_limits<double>::quiet_NaN()};
     void SetzePunkt(PunktIndex nr, PunktKnoten* p);
 
     std::vector<PunktKnoten*> punkte_;

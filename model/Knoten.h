@@ -15,6 +15,7 @@ namespace zrw {
 
 /// Node of a point.
 struct PunktKnoten {
+    // `Netz::Versetze` changes the two.
     double XWPu = 0.0;  ///< easting [m], maps to the picture's horizontal axis
     double YWPu = 0.0;  ///< northing [m], grows upwards
     PunktIndex PNr = kKeinPunkt;

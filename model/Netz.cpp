@@ -1,6 +1,5 @@
 #include "model/Netz.h"
 
-#include <algorithm>
 #include <cassert>
 #include <string_view>
 #include <utility>
@@ -134,15 +133,6 @@ Figurenmenge Netz::Umfeld(zrw::PunktKnoten& p) {
     FuerKantenAm(p.PNr, [&](PunktKante& k) { m.kanten.push_back(&k); });
     if (PPunktString t = FindText(p.PNr); t != nullptr) m.texte.push_back(t);
     return m;
-}
-
-bool Netz::BeruehrtVielleicht(const PunktKante& k, const Weltkasten& dort) const {
-    const auto a = Weltort(k.ANr);
-    const auto e = Weltort(k.ENr);
-    if (!a || !e) return true;
-    // Each of the comparisons is false for not-a-number.
-    return !(std::max(a->rechts, e->rechts) < dort.links || std::min(a->rechts, e->rechts) > dort.rechts ||
-             std::max(a->hoch, e->hoch) < dort.unten || std::min(a->hoch, e->hoch) > dort.oben);
 }
 
 bool Netz::Lueckenlos() const {

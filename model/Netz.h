@@ -3,6 +3,7 @@
 // (Ansicht.h, Bildorte.h), what is shown (Darstellung.h), how it is drawn.
 #pragma once
 
+#include <algorithm>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
@@ -54,7 +55,13 @@ class Netz {
     }
     /// Whether a line may run through a part of the world; also one without its points, or with points
     /// nowhere.
-    [[nodiscard]] bool BeruehrtVielleicht(const PunktKante& k, const Weltkasten& dort) const;
+    [[nodiscard]] bool BeruehrtVielleicht(Punktenden enden, const Weltkasten& dort) const {
+        const Welt a = index_.OrtVon(enden.a);
+        const Welt e = index_.OrtVon(enden.e);
+        // Each of the comparisons is false for not-a-number.
+        return !(std::max(a.rechts, e.rechts) < dort.links || std::min(a.rechts, e.rechts) > dort.rechts ||
+                 std::max(a.hoch, e.hoch) < dort.unten || std::min(a.hoch, e.hoch) > dort.oben);
+    }
     /// Whether the node is in its list: figures that were taken out are not.
     [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const {
         return suche_.punkte.Hat(p.Folge) && &punktArena_[p.Folge].knoten == &p;

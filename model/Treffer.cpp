@@ -100,16 +100,20 @@ PPunktString Treffersuche::Text(Bildpunkt maus) const {
 
 PPunktKante Treffersuche::Kante(Bildpunkt maus) const {
     if (gezeigt_ != nullptr && !gezeigt_->ShowBeob) return nullptr;
-    std::vector<PPunktKante> nahe;
+    std::vector<std::uint32_t> nahe;
     // A line is caught up to a whole pixel farther off, and beside its ends.
     const Bildbereich bereich = Fangbereich(maus, fang_ + 1);
     const Weltkasten dort = Fangkasten(ansicht_, bereich);
     netz_.SammleKanten(ansicht_, bereich, nahe);
-    return Erster(nahe, [&](const PunktKante& k) {
-        return netz_.BeruehrtVielleicht(k, dort) && (gezeigt_ == nullptr || k.Item->Visible) &&
-               Trifft(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
-               Gezeigt(k.ANr) && Gezeigt(k.ENr);
-    });
+    for (const std::uint32_t folge : nahe) {
+        if (!netz_.BeruehrtVielleicht(netz_.Enden(folge), dort)) continue;
+        PunktKante& k = netz_.KanteNach(folge);
+        if ((gezeigt_ == nullptr || k.Item->Visible) &&
+            Trifft(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
+            Gezeigt(k.ANr) && Gezeigt(k.ENr))
+            return &k;
+    }
+    return nullptr;
 }
 
 }  // namespace zrw

@@ -36,17 +36,16 @@ void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) 
 }  // namespace
 
 Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
-                       const Reichweiten& reichweiten)
+                       const Reichweiten& reichweiten, Ortsspeicher& speicher)
     : v_(v),
       flaeche_(flaeche),
       zeichner_(zeichner),
       r_(reichweiten),
       gezeigt_(v.netz, v.darstellung),
-      orte_(v.netz, v.ansicht, 0),
+      orte_(v.netz, v.ansicht, &speicher),
       linien_(Bereich(r_.kante)),
       symbole_(Bereich(r_.symbol)),
-      nummern_(Bereich(0)),
-      weltlinien_(Brauchbar(v.ansicht.Lage()) ? WeltUnter(v.ansicht.Lage(), linien_) : kGanzeWelt) {
+      nummern_(Bereich(0)) {
     // A text stands right of its corner and below it.
     nummern_.links -= r_.textweite;
     nummern_.oben -= r_.texthoehe;
@@ -67,9 +66,15 @@ bool Bildaufbau::Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r) {
 void Bildaufbau::Sammle() {
     const Darstellung& d = v_.darstellung;
     if (d.ShowBeob) v_.netz.SammleKanten(v_.ansicht, linien_, kanten_);
+    // Most of a few lie beside what is drawn: the world tells that without a look at them.
+    constexpr std::size_t kWenige = 4096;
+    if (kanten_.size() < kWenige && Brauchbar(v_.ansicht.Lage())) {
+        const Weltkasten dort = WeltUnter(v_.ansicht.Lage(), linien_);
+        std::erase_if(kanten_,
+                      [&](std::uint32_t f) { return !v_.netz.BeruehrtVielleicht(v_.netz.Enden(f), dort); });
+    }
     v_.netz.SammlePunkte(v_.ansicht, symbole_, punkte_);
     if (d.ZeigtNummern()) v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
-    orte_.Erwarte(kanten_.size() + texte_.size());
     punktorte_.reserve(punkte_.size());
     std::size_t anzahl = 0;
     FuerAlle(punkte_, false, [&](std::size_t i) {
@@ -123,8 +128,6 @@ void Bildaufbau::ZeichnePunkte(bool vonVorn) {
 }
 
 void Bildaufbau::ZeichneKante(const PunktKante& k) {
-    // Of a few figures most lie beside what is drawn: the world tells that without a division.
-    if (!orte_.Merkt() && !v_.netz.BeruehrtVielleicht(k, weltlinien_)) return;
     if (!v_.Gezeichnet(k) || !gezeigt_(k)) return;
     const Bildpunkt anfang = orte_.Anfang(k);
     const Bildpunkt ende = orte_.Ende(k);

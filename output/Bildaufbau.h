@@ -25,8 +25,9 @@ class Bildaufbau {
         std::int64_t texthoehe = 0;
     };
 
+    /// @param speicher kept from one picture to the next
     Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
-               const Reichweiten& reichweiten);
+               const Reichweiten& reichweiten, Ortsspeicher& speicher);
 
     void Zeichne();
 
@@ -53,7 +54,6 @@ class Bildaufbau {
     Bildbereich linien_;
     Bildbereich symbole_;
     Bildbereich nummern_;
-    Weltkasten weltlinien_;  ///< under `linien_`
     // What may have to be drawn, newest first.
     std::vector<std::uint32_t> kanten_;  ///< by `Folge`
     std::vector<PPunktKnoten> punkte_;

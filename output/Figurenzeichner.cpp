@@ -274,7 +274,8 @@ bool Figurenzeichner::ZeichneNetz(const Bildvorlage& v) {
     // No character is wider than twice the line height.
     const std::int64_t hoehe = f->Texthoehe();
     const auto laenge = static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
-    Bildaufbau(v, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe}).Zeichne();
+    Bildaufbau(v, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe}, speicher_)
+        .Zeichne();
     return true;
 }
 

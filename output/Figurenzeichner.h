@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 
+#include "model/Bildorte.h"
 #include "model/Einstellungen.h"
 #include "model/Netzangaben.h"
 #include "model/Zeichner.h"
@@ -79,6 +80,7 @@ class Figurenzeichner final : public Zeichner {
     const Einstellungen& einstellungen_;
     const Netzangaben& netz_;
     const Uhr& uhr_;
+    Ortsspeicher speicher_;
     std::array<Linienstueck, kMeisteStriche> stuecke_;  ///< of the line that is being drawn
 };
 
