@@ -62,6 +62,13 @@ class Netz {
         return !(std::max(a.rechts, e.rechts) < dort.links || std::min(a.rechts, e.rechts) > dort.rechts ||
                  std::max(a.hoch, e.hoch) < dort.unten || std::min(a.hoch, e.hoch) > dort.oben);
     }
+    /// The same for the place where a label begins, in a view of this scale [m/px].
+    [[nodiscard]] bool BeruehrtVielleicht(const PunktString& t, const Weltkasten& dort, double faktor) const {
+        const Welt ort = index_.OrtVon(t.TNr);
+        const double rechts = ort.rechts + static_cast<double>(t.Item->XBiO) * faktor;
+        const double hoch = ort.hoch - static_cast<double>(t.Item->YBiO) * faktor;
+        return !(rechts < dort.links || rechts > dort.rechts || hoch < dort.unten || hoch > dort.oben);
+    }
     /// Whether the node is in its list: figures that were taken out are not.
     [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const {
         return suche_.punkte.Hat(p.Folge) && &punktArena_[p.Folge].knoten == &p;

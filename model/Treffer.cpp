@@ -91,9 +91,12 @@ PPunktKnoten Treffersuche::Punkt(Bildpunkt maus) const {
 PPunktString Treffersuche::Text(Bildpunkt maus) const {
     if (gezeigt_ != nullptr && !gezeigt_->ZeigtNummern()) return nullptr;
     std::vector<PPunktString> nahe;
-    netz_.SammleTexte(ansicht_, Fangbereich(maus, fang_), nahe);
+    const Bildbereich bereich = Fangbereich(maus, fang_);
+    const Weltkasten dort = Fangkasten(ansicht_, bereich);
+    netz_.SammleTexte(ansicht_, bereich, nahe);
     return Erster(nahe, [&](const PunktString& t) {
-        return (gezeigt_ == nullptr || t.Item->Visible) &&
+        return netz_.BeruehrtVielleicht(t, dort, ansicht_.Faktor) &&
+               (gezeigt_ == nullptr || t.Item->Visible) &&
                Gefangen(maus, t.Item->Textort(BildortVon(t, netz_, ansicht_)), fang_) && Gezeigt(t.TNr);
     });
 }

@@ -13,6 +13,8 @@ namespace {
 /// How many figures ahead memory is asked for. Nodes lie all over it: what comes next is on its way while the
 /// ones before are being drawn.
 constexpr std::size_t kVoraus = 12;
+/// So many lines or labels are looked over before they are drawn; more lie in the picture for the most part.
+constexpr std::size_t kWenige = 16384;
 
 template <class Knoten>
 void Hole(const Knoten* knoten) {
@@ -62,19 +64,32 @@ bool Bildaufbau::Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r) {
            std::min(a.y, b.y) <= r.unten;
 }
 
+// Most of a few lines and labels lie beside what is drawn: the world tells that without working out
+// positions.
+
+void Bildaufbau::LasseFerneKantenWeg() {
+    const Bildlage lage = v_.ansicht.Lage();
+    if (kanten_.size() > kWenige || !Brauchbar(lage)) return;
+    const Weltkasten dort = WeltUnter(lage, linien_);
+    std::erase_if(kanten_,
+                  [&](std::uint32_t f) { return !v_.netz.BeruehrtVielleicht(v_.netz.Enden(f), dort); });
+}
+
+void Bildaufbau::LasseFerneTexteWeg() {
+    const Bildlage lage = v_.ansicht.Lage();
+    if (texte_.size() > kWenige || !Brauchbar(lage)) return;
+    const Weltkasten dort = WeltUnter(lage, nummern_);
+    std::erase_if(texte_,
+                  [&](const PunktString* t) { return !v_.netz.BeruehrtVielleicht(*t, dort, lage.faktor); });
+}
+
 /// What may have to be drawn. Only the points are looked at: how dense they lie decides how to draw.
 void Bildaufbau::Sammle() {
     const Darstellung& d = v_.darstellung;
     if (d.ShowBeob) v_.netz.SammleKanten(v_.ansicht, linien_, kanten_);
-    // Most of a few lie beside what is drawn: the world tells that without a look at them.
-    constexpr std::size_t kWenige = 4096;
-    if (kanten_.size() < kWenige && Brauchbar(v_.ansicht.Lage())) {
-        const Weltkasten dort = WeltUnter(v_.ansicht.Lage(), linien_);
-        std::erase_if(kanten_,
-                      [&](std::uint32_t f) { return !v_.netz.BeruehrtVielleicht(v_.netz.Enden(f), dort); });
-    }
     v_.netz.SammlePunkte(v_.ansicht, symbole_, punkte_);
     if (d.ZeigtNummern()) v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
+    LasseFerneTexteWeg();
     punktorte_.reserve(punkte_.size());
     std::size_t anzahl = 0;
     FuerAlle(punkte_, false, [&](std::size_t i) {
@@ -198,6 +213,7 @@ void Bildaufbau::Zeichne() {
         ZeichneKantenVonVorn();
         flaeche_.BeendeVonVorn();
     } else {
+        LasseFerneKantenWeg();
         ZeichneKanten();
         ZeichnePunkte(false);
         ZeichneTexte(false);

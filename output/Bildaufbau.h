@@ -33,6 +33,8 @@ class Bildaufbau {
 
   private:
     void Sammle();
+    void LasseFerneKantenWeg();
+    void LasseFerneTexteWeg();
     [[nodiscard]] bool Dicht() const;
     void ZeichneKante(const PunktKante& k);
     void HoleOrte(std::uint32_t folge) const;
