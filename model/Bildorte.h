@@ -81,6 +81,11 @@ class Bildorte {
         if (ort.x == kKeiner) return std::nullopt;
         return ansicht_.Bildort(*netz_.Weltort(nr));
     }
+    /// The same where it is known already and near; nothing else.
+    [[nodiscard]] std::optional<Bildpunkt> Bekannt(PunktIndex nr) const {
+        if (!s_.bekannt[nr] || s_.orte[nr].x <= kFern) return std::nullopt;
+        return Bildpunkt{s_.orte[nr].x, s_.orte[nr].y};
+    }
     [[nodiscard]] Bildpunkt Anfang(const PunktKante& k) { return Finde(k.ANr).value_or(k.Item->Position()); }
     [[nodiscard]] Bildpunkt Ende(const PunktKante& k) { return Finde(k.ENr).value_or(k.Item->Ende()); }
     [[nodiscard]] Bildpunkt Text(const PunktString& t) { return Finde(t.TNr).value_or(t.Item->Position()); }

@@ -168,6 +168,8 @@ void Bildaufbau::ZeichneKanten() {
 
 /// Most lines of a dense picture are covered: that shows from their points, without a look at the lines.
 void Bildaufbau::ZeichneKantenVonVorn() {
+    const Bildlage lage = v_.ansicht.Lage();
+    const Weltkasten dort = Brauchbar(lage) ? WeltUnter(lage, linien_) : kGanzeWelt;
     // In batches, so that the memory of the next ones is under way.
     std::array<PPunktKante, 4 * kVoraus> naechste;
     for (std::size_t i = kanten_.size(); i > 0;) {
@@ -178,9 +180,11 @@ void Bildaufbau::ZeichneKantenVonVorn() {
         std::size_t anzahl = 0;
         while (i-- > bis) {
             const Punktenden enden = v_.netz.Enden(kanten_[i]);
-            const auto a = orte_.Finde(enden.a);
-            const auto e = orte_.Finde(enden.e);
-            if (a && e && Verdeckt(*a, *e, r_.kante)) continue;
+            const auto a = orte_.Bekannt(enden.a);
+            const auto e = orte_.Bekannt(enden.e);
+            const bool unsichtbar =
+                a && e ? Verdeckt(*a, *e, r_.kante) : !v_.netz.BeruehrtVielleicht(enden, dort);
+            if (unsichtbar) continue;
             naechste[anzahl] = &v_.netz.KanteNach(kanten_[i]);
             Hole(naechste[anzahl++]);
         }
