@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -58,7 +59,8 @@ class Netz {
     [[nodiscard]] bool BeruehrtVielleicht(Punktenden enden, const Weltkasten& dort) const {
         const Welt a = index_.OrtVon(enden.a);
         const Welt e = index_.OrtVon(enden.e);
-        // Each of the comparisons is false for not-a-number.
+        // A missing point is nowhere, and its line stays where it was stored.
+        if (std::isnan(a.rechts + e.rechts + a.hoch + e.hoch)) return true;
         return !(std::max(a.rechts, e.rechts) < dort.links || std::min(a.rechts, e.rechts) > dort.rechts ||
                  std::max(a.hoch, e.hoch) < dort.unten || std::min(a.hoch, e.hoch) > dort.oben);
     }

@@ -121,6 +121,18 @@ TEST(Treffer, DieBaeumeWerdenNurFuerZuwachsNeuGebaut) {
     EXPECT_NE(n.l.MausPktText({100 + 5000, 100 - 5}), nullptr);
 }
 
+// Such a line stays where it was stored.
+TEST(Treffer, EineLinieOhneEndpunktWirdGetroffen) {
+    for (const bool vorn : {true, false}) {
+        Probenetz n;
+        n.P(1, 0, 0);
+        PunktKante& k = vorn ? n.K(99, 1) : n.K(1, 99);
+        (vorn ? k.Item->XO : k.Item->XBiE) = 100;
+        EXPECT_EQ(n.l.PickKante({90, 0}), &k);
+        EXPECT_EQ(n.l.PickKante({90, 7}), nullptr);
+    }
+}
+
 TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {
     Probenetz n;
     PunktKnoten& p = n.P(1, 12);
