@@ -345,7 +345,7 @@ std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite&
     const double dot = Druckfaktor(1, seite.aufloesung);
     const double mindestens = std::max((orte.rechts - orte.links) / (std::max(seite.weite, 1) * dot),
                                        (orte.oben - orte.unten) / (std::max(seite.hoehe, 1) * dot));
-    if (!(mindestens > 0.0)) return std::nullopt;
+    if (!(mindestens > 0.0) || !std::isfinite(mindestens)) return std::nullopt;
     constexpr std::array<double, 4> kZiffern{1, 2, 2.5, 5};
     constexpr int kStufen = 6;  // symbols that leave no room even then do so at every scale
     const int exponent = std::max(0, static_cast<int>(std::floor(std::log10(mindestens))));
