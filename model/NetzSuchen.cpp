@@ -53,8 +53,10 @@ double Anteil(double von, double bis, double a, double b) {
     return bis > von ? std::max(std::min(bis, b) - std::max(von, a), 0.0) / (bis - von) : 1.0;
 }
 
-Bildbereich Erweitert(const Bildbereich& b, std::int64_t rand) {
-    return {Differenz(b.links, rand), Differenz(b.oben, rand), Summe(b.rechts, rand), Summe(b.unten, rand)};
+/// Where the points of labels lie that begin in the rectangle, or whose point lies in it.
+Bildbereich OhneAbstand(const Bildbereich& b, const Bildbereich& abstaende) {
+    return {Differenz(b.links, abstaende.rechts), Differenz(b.oben, abstaende.unten),
+            Differenz(b.rechts, abstaende.links), Differenz(b.unten, abstaende.oben)};
 }
 
 }  // namespace
@@ -117,12 +119,17 @@ void Netz::BaueSuche() const {
     });
 
     NachRang texte(raenge);
+    Bildbereich& abstaende = suche_.abstaende = {};
     suche_.texte.FuerAlle([&](std::uint32_t f) {
         const PunktString& t = textArena_[f].knoten;
         // Only the newest label of a number is told when its point moves.
         if (ende(t.TNr) == nullptr || !Nah(*t.Item) || index_.FindeText(t.TNr) != &t)
             return lose.push_back(f);
         texte.Nimm(rang[t.TNr], f);
+        abstaende.links = std::min(abstaende.links, t.Item->XBiO);
+        abstaende.rechts = std::max(abstaende.rechts, t.Item->XBiO);
+        abstaende.oben = std::min(abstaende.oben, t.Item->YBiO);
+        abstaende.unten = std::max(abstaende.unten, t.Item->YBiO);
     });
     suche_.texte.Baue(texte.Sortiert(), std::move(lose),
                       [&](std::uint32_t f) { return Kasten(*SuchPkt(textArena_[f].knoten.TNr)); });
@@ -148,11 +155,10 @@ void Netz::SammleKanten(const Ansicht& a, const Bildbereich& b, std::vector<std:
 }
 
 void Netz::SammleTexte(const Ansicht& a, const Bildbereich& b, std::vector<PPunktString>& aus) const {
-    const Bildbereich weiter = Erweitert(b, kNah);
     const auto nimm = [&](std::uint32_t f) { aus.push_back(&textArena_[f].knoten); };
     const Bildlage lage = a.Lage();
-    Suchbereit(lage, weiter) ? suche_.texte.Suche(WeltUnter(lage, weiter), nimm)
-                             : suche_.texte.FuerAlle(nimm);
+    if (!Suchbereit(lage, b)) return suche_.texte.FuerAlle(nimm);
+    suche_.texte.Suche(WeltUnter(lage, OhneAbstand(b, suche_.abstaende)), nimm);
 }
 
 /// A point came, left or moved: its lines and its label lie elsewhere.
