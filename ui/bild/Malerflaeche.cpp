@@ -33,10 +33,10 @@ QFont Zeichenschrift() {
     return schrift;
 }
 
-Malerflaeche::Malerflaeche() : schrift_(Zeichenschrift()), masse_(schrift_) {}
+Malerflaeche::Malerflaeche() : schrift_(Zeichenschrift()), masse_(schrift_), texthoehe_(masse_.height()) {}
 
 Malerflaeche::Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift)
-    : schrift_(schrift), masse_(schrift_) {
+    : schrift_(schrift), masse_(schrift_), texthoehe_(masse_.height()) {
     BindeAn(maler, sichtbar);
 }
 
@@ -53,6 +53,7 @@ void Malerflaeche::BindeAn(QPainter& maler, const Rechteck& sichtbar) {
 void Malerflaeche::SetzeSchrift(const QFont& schrift) {
     schrift_ = schrift;
     masse_ = QFontMetrics(schrift_);
+    texthoehe_ = masse_.height();
     maler_->setFont(schrift_);
 }
 
@@ -123,10 +124,6 @@ void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
 
 std::int32_t Malerflaeche::Textbreite(std::string_view text) const {
     return masse_.horizontalAdvance(AusNetz(text));
-}
-
-std::int32_t Malerflaeche::Texthoehe() const {
-    return masse_.height();
 }
 
 std::int32_t Malerflaeche::Schriftgrad() const {

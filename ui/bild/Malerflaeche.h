@@ -30,7 +30,7 @@ class Malerflaeche : public Zeichenflaeche {
     void Fuelle(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override;
-    [[nodiscard]] std::int32_t Texthoehe() const override;
+    [[nodiscard]] std::int32_t Texthoehe() const override { return texthoehe_; }
     [[nodiscard]] std::int32_t Schriftgrad() const override;
     [[nodiscard]] std::int32_t Schrifthoehe() const override;
 
@@ -56,6 +56,7 @@ class Malerflaeche : public Zeichenflaeche {
     Rechteck sichtbar_;
     QFont schrift_;
     QFontMetrics masse_;
+    std::int32_t texthoehe_;  ///< asked for with every label; the font locks itself for each answer
     int strichbreite_ = 1;
     double pixel_ = 1.0;
     // What the painter holds now; none after it began.

@@ -73,8 +73,9 @@ class Textzeile {
             const auto bit = static_cast<unsigned>(x % 64);
             std::size_t ziel = static_cast<std::size_t>(m.oben - oben_) * worte + x / 64;
             if (worte == 1) {
-                for (std::size_t i = 0; i < m.worte.size(); ++i)
-                    bits[ziel + i] |= m.worte[i] << bit;
+                std::uint64_t* zeile = bits.data() + ziel;
+                for (const std::uint64_t wort : m.worte)
+                    *zeile++ |= wort << bit;
                 continue;
             }
             for (const std::uint64_t zeile : m.worte) {
