@@ -49,7 +49,7 @@ void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const ch
     if (flaeche.Bild().isNull() || !flaeche.Bild().save(&puffer, art)) {
         throw Fehler("Das Bild ist zu groß für dieses Format.", PfadText(datei));
     }
-    a.dateien.Ersetze(datei, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    a.dateien.ErsetzeDatei(datei, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 /// What the control file calls the network, or else its file's name.
@@ -59,7 +59,8 @@ std::string Titel(const Ausgabe& a) {
 
 /// The picture as the window would show it, to any size.
 void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
-    Svgflaeche flaeche(a.dateien.Beginne(datei), {a.liste.Weite, a.liste.Hoehe, kBildaufloesung}, Titel(a));
+    Svgflaeche flaeche(a.dateien.BeginneDatei(datei), {a.liste.Weite, a.liste.Hoehe, kBildaufloesung},
+                       Titel(a));
     ZeichneAuf(flaeche, a);
     flaeche.Beende();
 }
@@ -107,7 +108,7 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
         a.sage(Fehler::Meldung("Die Zeichenschrift lässt sich nicht einbetten; die Datei verlangt Helvetica.",
                                PfadText(datei), 0));
     }
-    Pdfflaeche flaeche(a.dateien.Beginne(datei), a.papier, a.dpi,
+    Pdfflaeche flaeche(a.dateien.BeginneDatei(datei), a.papier, a.dpi,
                        {Titel(a), nullptr, schrift ? &*schrift : nullptr});
     Einstellungen groessen = a.einstellungen;  // scaled for every sheet
     const Systemuhr uhr;

@@ -26,7 +26,7 @@ int Arbeite(Tabelle& tabelle) {
     // A picture file counts at most 65535 lines.
     const zrw::Lesung netz = BaueNetz({.paare = 65000, .beobachtungen = 95000}, e, {1200, 800});
     zrw::SchreibeBilddatei(*netz.liste, netz.netz, datei, system);
-    const std::string bytes = system.Lies(datei, std::size_t{1} << 30U);
+    const std::string bytes = system.LiesDatei(datei, std::size_t{1} << 30U);
     zrw::Netzangaben gelesen;
     std::printf("%d Punkte, %d Linien, %.1f MB\n", netz.liste->MaxPkte, netz.liste->MaxKant,
                 MB(bytes.size()));
@@ -35,7 +35,7 @@ int Arbeite(Tabelle& tabelle) {
         {"(a) dieselben Bytes schreiben", bytes.size(),
          [&] {
              return Miss([&] {
-                 system.Ersetze(schlicht, bytes);
+                 system.ErsetzeDatei(schlicht, bytes);
                  return 0;
              });
          }},
@@ -54,7 +54,7 @@ int Arbeite(Tabelle& tabelle) {
              });
          }},
         {"(c) dieselben Bytes lesen", bytes.size(),
-         [&] { return Miss([&] { return system.Lies(schlicht, bytes.size()); }); }},
+         [&] { return Miss([&] { return system.LiesDatei(schlicht, bytes.size()); }); }},
         {"(d) Zarwikdatei öffnen", bytes.size(),
          [&] { return Miss([&] { return zrw::LiesBilddatei(datei, system, e, gelesen); }); }},
     };

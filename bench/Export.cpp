@@ -31,7 +31,7 @@ void SchreibeSchlicht(const fs::path& name, const std::string& bytes) {
 }
 
 std::string Lies(const fs::path& name) {
-    return zrw::Systemdateien().Lies(name, std::size_t{1} << 32U);
+    return zrw::Systemdateien().LiesDatei(name, std::size_t{1} << 32U);
 }
 
 int Arbeite(Tabelle& tabelle) {
@@ -83,8 +83,8 @@ int Arbeite(Tabelle& tabelle) {
         {"(b) dieselben Bytes ersetzt, auf die Platte", bytes,
          [&] {
              return Miss([&] {
-                 system.Ersetze(plotname, plotbytes);
-                 system.Ersetze(dxfname, dxfbytes);
+                 system.ErsetzeDatei(plotname, plotbytes);
+                 system.ErsetzeDatei(dxfname, dxfbytes);
                  return 0;
              });
          }},

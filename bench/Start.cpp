@@ -111,8 +111,8 @@ int Arbeite(Tabelle& tabelle) {
     const Zwischenordner ordner;
     const auto datei = ordner.Pfad() / "N.EIN";
     const auto punkte = ordner.Pfad() / "P.EIN";
-    zrw::Systemdateien().Ersetze(datei, ErzeugeSteuerdatei({}));
-    zrw::Systemdateien().Ersetze(punkte, ErzeugeSteuerdatei({.paare = 0, .beobachtungen = 0}));
+    zrw::Systemdateien().ErsetzeDatei(datei, ErzeugeSteuerdatei({}));
+    zrw::Systemdateien().ErsetzeDatei(punkte, ErzeugeSteuerdatei({.paare = 0, .beobachtungen = 0}));
     std::vector<double> bild;
     std::vector<double> netz;
     std::vector<double> jePunkt;

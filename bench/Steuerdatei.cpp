@@ -75,7 +75,7 @@ int Frisch(const Tabelle& tabelle) {
     const zrw::Einstellungen e;
     const zrw::Systemdateien system;
     const bool roh = tabelle.aufgabe == "roh";
-    const double zeit = roh ? Miss([&] { return Rohgrenze(system.Lies(tabelle.datei, kGrenze)).summe; })
+    const double zeit = roh ? Miss([&] { return Rohgrenze(system.LiesDatei(tabelle.datei, kGrenze)).summe; })
                             : Miss([&] { return Lade(tabelle.datei, system, e); });
     std::printf("%f\n", zeit);
     return 0;
@@ -90,7 +90,7 @@ int Arbeite(Tabelle& tabelle) {
     const Zwischenordner ordner;
     const auto datei = ordner.Pfad() / kNetz;
     zrw::Systemdateien system;
-    system.Ersetze(datei, bytes);
+    system.ErsetzeDatei(datei, bytes);
 
     const zrw::Lesung netz = Lade(datei, system, e);
     const Rohergebnis roh = Rohgrenze(bytes);
@@ -105,7 +105,7 @@ int Arbeite(Tabelle& tabelle) {
         {"(c) Steuerdatei von der Platte -> Netz", bytes.size(),
          [&] { return Miss([&] { return Lade(datei, system, e); }); }},
         {"    davon Lesen der Bytes", bytes.size(),
-         [&] { return Miss([&] { return system.Lies(datei, bytes.size()); }); }},
+         [&] { return Miss([&] { return system.LiesDatei(datei, bytes.size()); }); }},
         {"(d) WeltinBild", 0,
          [&] {
              return Miss([&] {

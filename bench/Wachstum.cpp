@@ -40,7 +40,7 @@ class Groesse {
                          {kWeite, kHoehe})),
           duenn_(BaueNetz({.punkte = punkte, .paare = punkte - 500, .beobachtungen = punkte * 3 / 2}, e_,
                           {kWeite, kHoehe})) {
-        dateien_.Ersetze(
+        dateien_.ErsetzeDatei(
             steuerdatei_,
             ErzeugeSteuerdatei({.punkte = punkte, .paare = 3 * punkte, .beobachtungen = 4 * punkte}));
         Speichere();

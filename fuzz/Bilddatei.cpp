@@ -139,7 +139,7 @@ void PruefeBlaetter(zrw::Liste& liste, const zrw::Zeichenmittel& mittel, zrw::Ei
     liste.Store(vorher, {});
     zrw::Speicherdateien dateien;
     const zrw::Papier papier = zrw::kPapierformate[0].hochkant;
-    zrw::Pdfflaeche pdf(dateien.Beginne("a.pdf"), papier, 300, {});
+    zrw::Pdfflaeche pdf(dateien.BeginneDatei("a.pdf"), papier, 300, {});
     const zrw::Druckseite seite = zrw::Bedruckbar(papier, 300);
     zrw::Drucke(liste.Vorlage(), mittel, zrw::Geraetegroessen(einstellungen, zrw::Geraetefaktor(seite)), pdf,
                 {25000, "25000", seite});

@@ -30,7 +30,8 @@ class Speicher final : public Dateien {
         }
     }
 
-    [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
+    [[nodiscard]] std::string LiesDatei(const std::filesystem::path& datei,
+                                        std::size_t grenze) const override {
         const std::size_t i = Nummer(PfadText(datei));
         if (i == kNamen.size() || inhalte_[i].size() > grenze) throw Fehler("nicht lesbar", PfadText(datei));
         return std::string(inhalte_[i]);
@@ -38,13 +39,13 @@ class Speicher final : public Dateien {
     [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& /*datei*/) const override {
         return std::nullopt;
     }
-    [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
+    [[nodiscard]] std::unique_ptr<Dateischreiber> BeginneDatei(const std::filesystem::path& datei) override {
         throw Fehler("nur zum Lesen", PfadText(datei));
     }
     /// Ends the supply after some megabytes: one input may include a file again and again, which is no hang
     /// but would outlast the fuzzer's patience.
-    [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
-                                                             const std::string& name) const override {
+    [[nodiscard]] std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,
+                                                                  const std::string& name) const override {
         std::string gross = name;
         std::transform(gross.begin(), gross.end(), gross.begin(),
                        [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });

@@ -173,15 +173,15 @@ class Schreiber final : public Dateischreiber {
     Schreiber(const Schreiber&) = delete;
     Schreiber& operator=(const Schreiber&) = delete;
 
-    void Schreibe(std::string_view bytes) override {
+    void SchreibeBytes(std::string_view bytes) override {
         if (std::fwrite(bytes.data(), 1, bytes.size(), strom_.get()) != bytes.size())
             Wirf(kNichtSchreiben, genannt_, errno);
     }
-    void Sichere() override {
+    void SichereDatei() override {
         if (!AufPlatte(strom_.get()) || std::fclose(strom_.release()) != 0)
             Wirf(kNichtSchreiben, genannt_, errno);
     }
-    void Uebernimm() override {
+    void ErsetzeZiel() override {
         std::error_code fehler;
         const fs::file_status alt = fs::status(ziel_, fehler);
         if (fs::exists(alt)) fs::permissions(daneben_, alt.permissions(), fehler);
@@ -225,7 +225,7 @@ fs::path FindeEintrag(const fs::path& ordner, const fs::path& name) {
 
 }  // namespace
 
-std::string Systemdateien::Lies(const fs::path& datei, std::size_t grenze) const {
+std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) const {
     std::error_code fehler;
     const fs::file_status status = fs::status(datei, fehler);
     if (!fs::exists(status)) NichtZuOeffnen(datei, Grund(fehler ? fehler.value() : ENOENT));
@@ -249,7 +249,7 @@ std::string Systemdateien::Lies(const fs::path& datei, std::size_t grenze) const
     return inhalt;
 }
 
-std::unique_ptr<Dateischreiber> Systemdateien::Beginne(const fs::path& datei) {
+std::unique_ptr<Dateischreiber> Systemdateien::BeginneDatei(const fs::path& datei) {
     std::error_code fehler;
     fs::path ziel = Linkziel(datei);
     if (fs::is_directory(ziel, fehler)) Wirf(kNichtSchreiben, datei, EISDIR);
@@ -272,7 +272,7 @@ std::optional<Dateistand> Systemdateien::Stand(const fs::path& datei) const {
     return Dateistand{groesse, std::int64_t{zeit.time_since_epoch().count()}};
 }
 
-std::optional<fs::path> Systemdateien::Finde(const fs::path& ordner, const std::string& name) const {
+std::optional<fs::path> Systemdateien::FindeDatei(const fs::path& ordner, const std::string& name) const {
     std::error_code fehler;
     fs::path stelle = ordner;
     // Each folder of the name may be written in another case, too.

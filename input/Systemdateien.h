@@ -7,14 +7,15 @@ namespace zrw {
 
 class Systemdateien final : public Dateien {
   public:
-    [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override;
+    [[nodiscard]] std::string LiesDatei(const std::filesystem::path& datei,
+                                        std::size_t grenze) const override;
     [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& datei) const override;
     /// Writes a file beside, flushes it to the disk and renames it. A symbolic link keeps pointing to its
     /// target, which is replaced, or made where it is missing; an existing file keeps its access rights, and
     /// is refused where they forbid writing.
-    [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override;
-    [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
-                                                             const std::string& name) const override;
+    [[nodiscard]] std::unique_ptr<Dateischreiber> BeginneDatei(const std::filesystem::path& datei) override;
+    [[nodiscard]] std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,
+                                                                  const std::string& name) const override;
 
   private:
     unsigned laufend_ = 0;  ///< sets the files beside of one program run apart

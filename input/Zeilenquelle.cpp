@@ -35,7 +35,7 @@ long Zeilennummer(std::string_view text, std::size_t stelle) {
 /// Why a file that was looked for in vain cannot be read.
 std::string Grund(const Dateien& dateien, const std::filesystem::path& pfad) {
     try {
-        (void)dateien.Lies(pfad, 0);
+        (void)dateien.LiesDatei(pfad, 0);
     } catch (const Oeffnungsfehler& f) {
         return f.Grund();
     } catch (const Fehler&) {  // it came meanwhile
@@ -47,7 +47,7 @@ std::string Grund(const Dateien& dateien, const std::filesystem::path& pfad) {
 
 Zeilenquelle::Zeilenquelle(const std::filesystem::path& steuerdatei, const Dateien& dateien)
     : dateien_(dateien), ordner_(steuerdatei.parent_path()) {
-    Uebernimm(haupt_, steuerdatei, dateien.Lies(steuerdatei, kMaxDatei));
+    Uebernimm(haupt_, steuerdatei, dateien.LiesDatei(steuerdatei, kMaxDatei));
 }
 
 void Zeilenquelle::Uebernimm(Text& text, const std::filesystem::path& pfad, std::string inhalt) {
@@ -96,18 +96,18 @@ Einfuegung Zeilenquelle::OeffneEinfuegung(std::string_view name) {
     if (utf8.empty()) return {.grund = "der Name fehlt", .ersatz = {}};
     if (utf8.find('\0') != std::string::npos) return {.grund = "kein Dateiname", .ersatz = {}};
     Einfuegung ergebnis;
-    auto pfad = dateien_.Finde(ordner_, utf8);
+    auto pfad = dateien_.FindeDatei(ordner_, utf8);
     if (!pfad) {
         // Paths of another machine, with drive letters, name files that were copied here together.
         const std::size_t trenner = utf8.find_last_of("/:");
         if (trenner != std::string::npos && trenner + 1 < utf8.size())
-            pfad = dateien_.Finde(ordner_, utf8.substr(trenner + 1));
+            pfad = dateien_.FindeDatei(ordner_, utf8.substr(trenner + 1));
         if (!pfad) return {.grund = Grund(dateien_, ordner_ / TextPfad(utf8)), .ersatz = {}};
         ergebnis.ersatz = PfadText(pfad->filename());
     }
     Text neu;
     try {
-        Uebernimm(neu, *pfad, dateien_.Lies(*pfad, kMaxDatei));
+        Uebernimm(neu, *pfad, dateien_.LiesDatei(*pfad, kMaxDatei));
     } catch (const Oeffnungsfehler& f) {
         return {.grund = f.Grund(), .ersatz = {}};
     } catch (const Fehler& f) {

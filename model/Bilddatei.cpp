@@ -155,7 +155,7 @@ std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::
     f.Reserviere(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
                  static_cast<std::size_t>(liste.MaxKant) * kKantensatz);
     liste.StoreOhne(herrenlose, f, netz);
-    dateien.Ersetze(datei, f.Inhalt());
+    dateien.ErsetzeDatei(datei, f.Inhalt());
     return herrenlose.size();
 }
 
@@ -168,7 +168,7 @@ std::string WeggelasseneNummern(std::size_t anzahl) {
 
 std::unique_ptr<Liste> LiesBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
                                      const Einstellungen& einstellungen, Netzangaben& netz) {
-    const std::string inhalt = dateien.Lies(datei, kGrenze);
+    const std::string inhalt = dateien.LiesDatei(datei, kGrenze);
     ByteLeser f(inhalt);
     return Liste::Load(f, einstellungen, netz, PfadText(datei));
 }

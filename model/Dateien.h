@@ -12,18 +12,18 @@
 
 namespace zrw {
 
-/// A file that is being written beside the one whose place it takes at the end. Dropped before `Uebernimm`,
+/// A file that is being written beside the one whose place it takes at the end. Dropped before `ErsetzeZiel`,
 /// it leaves no trace.
 class Dateischreiber {
   public:
     virtual ~Dateischreiber() = default;
     /// Appends. @throws Fehler
-    virtual void Schreibe(std::string_view bytes) = 0;
+    virtual void SchreibeBytes(std::string_view bytes) = 0;
     /// Brings everything written onto the disk; nothing is written afterwards. @throws Fehler
-    virtual void Sichere() = 0;
-    /// Takes the place, after `Sichere`: at every moment the name holds the old content or the new one.
+    virtual void SichereDatei() = 0;
+    /// Takes the place, after `SichereDatei`: at every moment the name holds the old content or the new one.
     /// @throws Fehler; the old file then is as it was
-    virtual void Uebernimm() = 0;
+    virtual void ErsetzeZiel() = 0;
 };
 
 /// Tells one content of a file from a later one.
@@ -40,25 +40,27 @@ class Dateien {
     /// Whole content of a regular file of at most `grenze` bytes.
     /// @throws Oeffnungsfehler where there is none, it may not be read, or is a folder, pipe or device
     /// @throws Fehler where it is larger or reading fails
-    [[nodiscard]] virtual std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const = 0;
+    [[nodiscard]] virtual std::string LiesDatei(const std::filesystem::path& datei,
+                                                std::size_t grenze) const = 0;
 
     /// None where there is no regular file.
     [[nodiscard]] virtual std::optional<Dateistand> Stand(const std::filesystem::path& datei) const = 0;
 
     /// Begins a new content for a file.
     /// @throws Fehler where it could not be written; the old file then is as it was
-    [[nodiscard]] virtual std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) = 0;
+    [[nodiscard]] virtual std::unique_ptr<Dateischreiber> BeginneDatei(
+        const std::filesystem::path& datei) = 0;
     /// Puts a whole content in place at once. @throws Fehler as `Dateischreiber` does
-    void Ersetze(const std::filesystem::path& datei, std::string_view inhalt) {
-        const auto neu = Beginne(datei);
-        neu->Schreibe(inhalt);
-        neu->Sichere();
-        neu->Uebernimm();
+    void ErsetzeDatei(const std::filesystem::path& datei, std::string_view inhalt) {
+        const auto neu = BeginneDatei(datei);
+        neu->SchreibeBytes(inhalt);
+        neu->SichereDatei();
+        neu->ErsetzeZiel();
     }
 
     /// The file of this name in a folder, an exact match first, else without regard to case.
-    [[nodiscard]] virtual std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
-                                                                     const std::string& name) const = 0;
+    [[nodiscard]] virtual std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,
+                                                                          const std::string& name) const = 0;
 };
 
 /// UTF-8 text of a path, for messages.

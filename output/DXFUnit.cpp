@@ -41,10 +41,10 @@ std::string_view Realtext(double wert, std::array<char, 32>& puffer) {
 }  // namespace
 
 void DXFUnit::Paar(std::string_view code, std::string_view wert) {
-    datei_->Nimm(code);
-    datei_->Nimm(kZeilenende);
-    datei_->Nimm(wert);
-    datei_->Nimm(kZeilenende);
+    datei_->NimmText(code);
+    datei_->NimmText(kZeilenende);
+    datei_->NimmText(wert);
+    datei_->NimmText(kZeilenende);
 }
 
 void DXFUnit::Paar(std::string_view code, double wert) {
@@ -66,7 +66,7 @@ void DXFUnit::Ort(Dxfpunkt p) {
 
 void DXFUnit::DxfOpen() {
     fertig_.reset();
-    datei_.emplace(dateien_.Beginne(DxfFileName));
+    datei_.emplace(dateien_.BeginneDatei(DxfFileName));
     Paar("  0", "SECTION");
     Paar("  2", "ENTITIES");
 }
@@ -77,11 +77,11 @@ void DXFUnit::DxfClose() {
     Paar("  0", "EOF");
     // Closed for the callers, whatever the disk says now.
     fertig_ = std::exchange(datei_, std::nullopt);
-    fertig_->Sichere();
+    fertig_->SichereDatei();
 }
 
-void DXFUnit::Uebernimm() {
-    if (auto fertig = std::exchange(fertig_, std::nullopt)) fertig->Uebernimm();
+void DXFUnit::ErsetzeZiel() {
+    if (auto fertig = std::exchange(fertig_, std::nullopt)) fertig->ErsetzeZiel();
 }
 
 void DXFUnit::DxfLine(const Dxfart& art, Dxfpunkt von, Dxfpunkt nach) {
@@ -101,10 +101,10 @@ void DXFUnit::DxfText(std::string_view text, const Dxfart& art, Dxfpunkt ort, do
     Kopf("TEXT", art);
     Ort(ort);
     Paar(" 40", hoehe);
-    datei_->Nimm("  1");
-    datei_->Nimm(kZeilenende);
+    datei_->NimmText("  1");
+    datei_->NimmText(kZeilenende);
     datei_->NimmNetztext(text);
-    datei_->Nimm(kZeilenende);
+    datei_->NimmText(kZeilenende);
     Paar(" 50", Festkomma(winkel, 10, 4));
 }
 

@@ -64,7 +64,7 @@ class DXFUnit {
     /// Ends the drawing and brings it onto the disk, beside the file of its name. Nothing where none is open.
     void DxfClose();
     /// Puts the closed drawing in the place of its name. Nothing where none was closed.
-    void Uebernimm();
+    void ErsetzeZiel();
 
   private:
     void Paar(std::string_view code, std::string_view wert);

@@ -42,10 +42,10 @@ void Exportiere(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& date
     // Both files are whole on the disk before the first takes its place.
     zeichnung.DxfClose();
     if (plot) {
-        plot->Sichere();
-        plot->Uebernimm();
+        plot->SichereDatei();
+        plot->ErsetzeZiel();
     }
-    zeichnung.Uebernimm();
+    zeichnung.ErsetzeZiel();
 }
 
 }  // namespace zrw

@@ -68,20 +68,20 @@ Abbildung AbbildungVon(const Netzangaben& angaben) {
 
 class Geojson {
   public:
-    Geojson(Dateien& dateien, const std::filesystem::path& datei) : aus_(dateien.Beginne(datei)) {}
+    Geojson(Dateien& dateien, const std::filesystem::path& datei) : aus_(dateien.BeginneDatei(datei)) {}
 
     void Kopf(const std::string& name, std::optional<int> epsg) {
-        aus_.Nimm("{\"type\":\"FeatureCollection\",\"name\":");
+        aus_.NimmText("{\"type\":\"FeatureCollection\",\"name\":");
         Text(name);
         if (epsg) {
-            aus_.Nimm(",\"crs\":{\"type\":\"name\",\"properties\":{\"name\":\"urn:ogc:def:crs:EPSG::" +
-                      std::to_string(*epsg) + "\"}}");
+            aus_.NimmText(",\"crs\":{\"type\":\"name\",\"properties\":{\"name\":\"urn:ogc:def:crs:EPSG::" +
+                          std::to_string(*epsg) + "\"}}");
         }
-        aus_.Nimm(",\"features\":[");
+        aus_.NimmText(",\"features\":[");
     }
     void BeginneFigur() {
-        aus_.Nimm(std::exchange(erste_, false) ? "\n" : ",\n");
-        aus_.Nimm("{\"type\":\"Feature\",\"properties\":{");
+        aus_.NimmText(std::exchange(erste_, false) ? "\n" : ",\n");
+        aus_.NimmText("{\"type\":\"Feature\",\"properties\":{");
         erstesFeld_ = true;
     }
     void Feld(const char* name, const std::string& text) {
@@ -90,36 +90,36 @@ class Geojson {
     }
     void Feld(const char* name, bool wert) {
         Name(name);
-        aus_.Nimm(wert ? "true" : "false");
+        aus_.NimmText(wert ? "true" : "false");
     }
     void Feld(const char* name, double wert) {
         if (!std::isfinite(wert)) return;
         Name(name);
-        aus_.Nimm(SchreibeReal(wert));
+        aus_.NimmText(SchreibeReal(wert));
     }
     void Punkt(Welt ort) {
-        aus_.Nimm("},\"geometry\":{\"type\":\"Point\",\"coordinates\":");
+        aus_.NimmText("},\"geometry\":{\"type\":\"Point\",\"coordinates\":");
         Ort(ort);
-        aus_.Nimm("}}");
+        aus_.NimmText("}}");
     }
     void Linie(Welt von, Welt nach) {
-        aus_.Nimm("},\"geometry\":{\"type\":\"LineString\",\"coordinates\":[");
+        aus_.NimmText("},\"geometry\":{\"type\":\"LineString\",\"coordinates\":[");
         Ort(von);
-        aus_.Nimm(",");
+        aus_.NimmText(",");
         Ort(nach);
-        aus_.Nimm("]}}");
+        aus_.NimmText("]}}");
     }
     void Schliesse() {
-        aus_.Nimm("\n]}\n");
-        aus_.Sichere();
-        aus_.Uebernimm();
+        aus_.NimmText("\n]}\n");
+        aus_.SichereDatei();
+        aus_.ErsetzeZiel();
     }
 
   private:
     void Name(const char* name) {
-        if (!std::exchange(erstesFeld_, false)) aus_.Nimm(",");
+        if (!std::exchange(erstesFeld_, false)) aus_.NimmText(",");
         Text(name);
-        aus_.Nimm(":");
+        aus_.NimmText(":");
     }
     void Text(std::string_view utf8) {
         std::string text = "\"";
@@ -127,9 +127,9 @@ class Geojson {
             if (c == '"' || c == '\\') text += '\\';
             text += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
         }
-        aus_.Nimm(text + "\"");
+        aus_.NimmText(text + "\"");
     }
-    void Ort(Welt w) { aus_.Nimm("[" + SchreibeReal(w.rechts) + "," + SchreibeReal(w.hoch) + "]"); }
+    void Ort(Welt w) { aus_.NimmText("[" + SchreibeReal(w.rechts) + "," + SchreibeReal(w.hoch) + "]"); }
 
     Textausgabe aus_;
     bool erste_ = true;

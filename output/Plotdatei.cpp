@@ -51,17 +51,17 @@ std::array<std::int64_t, 2 * N> Paare(const std::array<Bildpunkt, N>& punkte) {
 /// Fills the fields of a template in order; numbers left over are not written.
 void Plotdatei::Zeile(std::string_view vorlage, std::span<const std::int64_t> zahlen, std::string_view text) {
     for (std::size_t feld = vorlage.find('%'); feld != std::string_view::npos; feld = vorlage.find('%')) {
-        datei_.Nimm(vorlage.substr(0, feld));
+        datei_.NimmText(vorlage.substr(0, feld));
         if (vorlage[feld + 1] == 's') {
             datei_.NimmNetztext(text);
         } else {
-            datei_.Nimm(zahlen.front());
+            datei_.NimmZahl(zahlen.front());
             zahlen = zahlen.subspan(1);
         }
         vorlage.remove_prefix(feld + 2);
     }
-    datei_.Nimm(vorlage);
-    datei_.Nimm("\r\n");
+    datei_.NimmText(vorlage);
+    datei_.NimmText("\r\n");
 }
 
 void Plotdatei::Linienzug(const Zug& zug) {

@@ -25,7 +25,7 @@ namespace zrw {
 class Plotdatei {
   public:
     /// @throws Fehler where the file cannot be written, as every operation does
-    Plotdatei(Dateien& dateien, const std::filesystem::path& name) : datei_(dateien.Beginne(name)) {}
+    Plotdatei(Dateien& dateien, const std::filesystem::path& name) : datei_(dateien.BeginneDatei(name)) {}
 
     /// A stroke or outline of an observation line, by the template of its form.
     void Linienzug(const Zug& zug);
@@ -41,9 +41,9 @@ class Plotdatei {
     void Text(Bildpunkt ort, std::int64_t abstand, std::string_view text);
 
     /// Brings the file onto the disk, beside the one of its name.
-    void Sichere() { datei_.Sichere(); }
+    void SichereDatei() { datei_.SichereDatei(); }
     /// Puts it in the place of its name.
-    void Uebernimm() { datei_.Uebernimm(); }
+    void ErsetzeZiel() { datei_.ErsetzeZiel(); }
 
   private:
     void Zeile(std::string_view vorlage, std::span<const std::int64_t> zahlen, std::string_view text = {});

@@ -20,14 +20,14 @@ class Textausgabe {
         : datei_(std::move(datei)), stueck_(kStueck, '\0') {}
 
     /// @throws Fehler where a full piece cannot be written
-    void Nimm(std::string_view text) {
-        if (text.size() > stueck_.size() - laenge_) Weiter();
-        if (text.size() > stueck_.size()) return datei_->Schreibe(text);
+    void NimmText(std::string_view text) {
+        if (text.size() > stueck_.size() - laenge_) SchreibeStueck();
+        if (text.size() > stueck_.size()) return datei_->SchreibeBytes(text);
         laenge_ += text.copy(stueck_.data() + laenge_, text.size());
     }
     /// Plain decimal integer.
-    void Nimm(std::int64_t zahl) {
-        if (stueck_.size() - laenge_ < kLaengsteZahl) Weiter();
+    void NimmZahl(std::int64_t zahl) {
+        if (stueck_.size() - laenge_ < kLaengsteZahl) SchreibeStueck();
         char* anfang = stueck_.data() + laenge_;
         laenge_ += static_cast<std::size_t>(std::to_chars(anfang, anfang + kLaengsteZahl, zahl).ptr - anfang);
     }
@@ -35,26 +35,26 @@ class Textausgabe {
     /// becomes a blank; damaged picture files hold such numbers.
     void NimmNetztext(std::string_view text) {
         for (const char c : text)
-            Nimm(static_cast<unsigned char>(c) < 0x20 ? std::string_view(" ") : std::string_view(&c, 1));
+            NimmText(static_cast<unsigned char>(c) < 0x20 ? std::string_view(" ") : std::string_view(&c, 1));
     }
 
     /// Brings all of it onto the disk, still beside the file that it replaces. @throws Fehler
-    void Sichere() {
-        Weiter();
-        datei_->Sichere();
+    void SichereDatei() {
+        SchreibeStueck();
+        datei_->SichereDatei();
     }
-    /// Puts the file in its place, after `Sichere`. @throws Fehler
-    void Uebernimm() {
+    /// Puts the file in its place, after `SichereDatei`. @throws Fehler
+    void ErsetzeZiel() {
         assert(laenge_ == 0);
-        datei_->Uebernimm();
+        datei_->ErsetzeZiel();
     }
 
   private:
     static constexpr std::size_t kStueck = std::size_t{1} << 16U;
     static constexpr std::size_t kLaengsteZahl = 20;  // the lower end of 64 bits with its sign
 
-    void Weiter() {
-        datei_->Schreibe({stueck_.data(), laenge_});
+    void SchreibeStueck() {
+        datei_->SchreibeBytes({stueck_.data(), laenge_});
         laenge_ = 0;
     }
 

@@ -47,12 +47,12 @@ std::int32_t Vektorflaeche::Schrifthoehe() const {
 void Vektorflaeche::BeginneStrom() {
     strom_.emplace(std::make_unique<Verdichter>([this](std::string_view stueck) {
         geschrieben_ += stueck.size();
-        datei_.Nimm(stueck);
+        datei_.NimmText(stueck);
     }));
 }
 
 void Vektorflaeche::BeendeStrom() {
-    strom_->Sichere();
+    strom_->SichereDatei();
     strom_.reset();
 }
 

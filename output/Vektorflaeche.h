@@ -36,9 +36,9 @@ class Vektorflaeche : public Zeichenflaeche {
 
     // The file. All of these throw a Fehler where it cannot be written.
     void Schreibe(std::string_view text) {
-        if (strom_) return strom_->Nimm(text);
+        if (strom_) return strom_->NimmText(text);
         geschrieben_ += text.size();
-        datei_.Nimm(text);
+        datei_.NimmText(text);
     }
     void Schreibe(std::int64_t zahl);
     /// Fixed-point, as short as `stellen` decimals allow: "0.5", "12", never with an exponent.
@@ -49,8 +49,8 @@ class Vektorflaeche : public Zeichenflaeche {
     void BeginneStrom();
     void BeendeStrom();
     void UebernimmDatei() {
-        datei_.Sichere();
-        datei_.Uebernimm();
+        datei_.SichereDatei();
+        datei_.ErsetzeZiel();
     }
 
     // Whether a shape can be seen on the sheet. Pens reach a little further than their line.

@@ -31,7 +31,7 @@ void Verdichter::Laufe(int art) {
     } while (strom_->avail_out == 0);
 }
 
-void Verdichter::Schreibe(std::string_view bytes) {
+void Verdichter::SchreibeBytes(std::string_view bytes) {
     while (!bytes.empty()) {
         const std::string_view teil = bytes.substr(0, std::numeric_limits<uInt>::max());
         strom_->next_in = reinterpret_cast<const Bytef*>(teil.data());
@@ -41,7 +41,7 @@ void Verdichter::Schreibe(std::string_view bytes) {
     }
 }
 
-void Verdichter::Sichere() {
+void Verdichter::SichereDatei() {
     strom_->avail_in = 0;
     Laufe(Z_FINISH);
 }

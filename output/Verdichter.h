@@ -11,14 +11,14 @@ struct z_stream_s;
 
 namespace zrw {
 
-/// A file within another one: `Sichere` ends it, and it has no place of its own to take.
+/// A file within another one: `SichereDatei` ends it, and it has no place of its own to take.
 class Verdichter final : public Dateischreiber {
   public:
     /// @param nimm gets the compressed pieces
     explicit Verdichter(std::function<void(std::string_view)> nimm);
-    void Schreibe(std::string_view bytes) override;
-    void Sichere() override;
-    void Uebernimm() override {}
+    void SchreibeBytes(std::string_view bytes) override;
+    void SichereDatei() override;
+    void ErsetzeZiel() override {}
 
   private:
     struct Ende {

@@ -101,14 +101,14 @@ void TDM::SetzeOrdner(std::filesystem::path ordner) {
 }
 
 bool TDM::Vorhanden(std::string_view datei) const {
-    return dateien_.Finde(ordner_, std::string(datei)).has_value();
+    return dateien_.FindeDatei(ordner_, std::string(datei)).has_value();
 }
 
 std::optional<std::filesystem::path> TDM::Datei(Tabelle tabelle) const {
     // Looking through the folder takes longer than looking at the file that was there before.
     const auto& stand = staende_[Nummer(tabelle)];
     if (stand && dateien_.Stand(stand->datei)) return stand->datei;
-    return dateien_.Finde(ordner_, std::string(Beschreibung(tabelle).name) + ".DB");
+    return dateien_.FindeDatei(ordner_, std::string(Beschreibung(tabelle).name) + ".DB");
 }
 
 bool TDM::Aktualisiere(Tabelle tabelle) {
@@ -131,7 +131,7 @@ bool TDM::Aktualisiere(Tabelle tabelle) {
 
 void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand) {
     const std::string name = PfadText(datei.filename());
-    const std::string inhalt = dateien_.Lies(datei, kGroessteTabelle);
+    const std::string inhalt = dateien_.LiesDatei(datei, kGroessteTabelle);
     // The adjustment may be writing it right now: half a table must not take the place of the old one.
     if (dateien_.Stand(datei) != stand)
         throw Fehler("Die Tabelle wird gerade geschrieben. Bitte später noch einmal versuchen.", name);
@@ -271,8 +271,8 @@ void ErzeugeTabelle(Dateien& dateien, const std::filesystem::path& ordner, Tabel
     for (const Tabellenfeld& f : t.felder)
         felder.push_back({std::string(f.name), f.typ, f.groesse});
     const paradox::Dateipaar paar = paradox::Schreibe(t.name, felder, zeilen, zeit);
-    dateien.Ersetze(ordner / (std::string(t.name) + ".DB"), paar.db);
-    dateien.Ersetze(ordner / (std::string(t.name) + ".PX"), paar.px);
+    dateien.ErsetzeDatei(ordner / (std::string(t.name) + ".DB"), paar.db);
+    dateien.ErsetzeDatei(ordner / (std::string(t.name) + ".PX"), paar.px);
 }
 
 void ErzeugeTabellen(Dateien& dateien, const std::filesystem::path& ordner, std::time_t zeit) {

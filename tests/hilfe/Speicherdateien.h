@@ -22,7 +22,8 @@ class Speicherdateien final : public Dateien {
     mutable int gelesen = 0;                     ///< how often a file was read
     bool eng = false;                            ///< no memory to read a file into
 
-    [[nodiscard]] std::string Lies(const std::filesystem::path& datei, std::size_t grenze) const override {
+    [[nodiscard]] std::string LiesDatei(const std::filesystem::path& datei,
+                                        std::size_t grenze) const override {
         ++gelesen;
         if (eng) throw std::bad_alloc();
         const auto stelle = dateien.find(Schluessel(datei));
@@ -41,11 +42,11 @@ class Speicherdateien final : public Dateien {
         return Dateistand{stelle->second.size(),
                           static_cast<std::int64_t>(std::hash<std::string>()(stelle->second))};
     }
-    [[nodiscard]] std::unique_ptr<Dateischreiber> Beginne(const std::filesystem::path& datei) override {
+    [[nodiscard]] std::unique_ptr<Dateischreiber> BeginneDatei(const std::filesystem::path& datei) override {
         return std::make_unique<Schreiber>(*this, Schluessel(datei));
     }
-    [[nodiscard]] std::optional<std::filesystem::path> Finde(const std::filesystem::path& ordner,
-                                                             const std::string& name) const override {
+    [[nodiscard]] std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,
+                                                                  const std::string& name) const override {
         const std::string genau = Schluessel(ordner / TextPfad(name));
         if (dateien.contains(genau)) return TextPfad(genau);
         // The folder is a real path already; only the name in it may be written in another case.
@@ -60,14 +61,14 @@ class Speicherdateien final : public Dateien {
     class Schreiber final : public Dateischreiber {
       public:
         Schreiber(Speicherdateien& dateien, std::string name) : dateien_(dateien), name_(std::move(name)) {}
-        void Schreibe(std::string_view bytes) override {
+        void SchreibeBytes(std::string_view bytes) override {
             if (bytes.size() > dateien_.platz)
                 throw Fehler("Kann Datei nicht schreiben (Datenträger voll).", name_);
             dateien_.platz -= bytes.size();
             inhalt_ += bytes;
         }
-        void Sichere() override {}
-        void Uebernimm() override { dateien_.dateien[name_] = std::move(inhalt_); }
+        void SichereDatei() override {}
+        void ErsetzeZiel() override { dateien_.dateien[name_] = std::move(inhalt_); }
 
       private:
         Speicherdateien& dateien_;

@@ -36,7 +36,7 @@ class Systemdatei : public testing::Test {
     }
     [[nodiscard]] std::string FehlerBei(const fs::path& name, std::size_t grenze = 1000) const {
         try {
-            (void)dateien.Lies(ordner / name, grenze);
+            (void)dateien.LiesDatei(ordner / name, grenze);
         } catch (const Fehler& f) {
             return f.Text();
         }
@@ -49,7 +49,7 @@ class Systemdatei : public testing::Test {
 
 TEST_F(Systemdatei, LiestNurWasEineDateiIst) {
     Lege("a", std::string("x\0y", 3));
-    EXPECT_EQ(dateien.Lies(ordner / "a", 3), std::string("x\0y", 3));
+    EXPECT_EQ(dateien.LiesDatei(ordner / "a", 3), std::string("x\0y", 3));
     EXPECT_EQ(FehlerBei("a", 2), "Die Datei ist mit 3 Bytes zu groß (höchstens 2).");
     EXPECT_EQ(FehlerBei("fehlt"), "Kann Datei nicht öffnen (nicht vorhanden).");
     EXPECT_EQ(FehlerBei("."), "Kann Datei nicht öffnen (keine gewöhnliche Datei).");
@@ -82,20 +82,20 @@ TEST_F(Systemdatei, ErsetztAlsGanzes) {
     Lege("alt", "vorher");
     fs::permissions(ordner / "alt", fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
     fs::create_symlink("alt", ordner / "verweis");
-    dateien.Ersetze(ordner / "verweis", "nachher");
+    dateien.ErsetzeDatei(ordner / "verweis", "nachher");
     EXPECT_EQ(Inhalt("alt"), "nachher");
     EXPECT_TRUE(fs::is_symlink(ordner / "verweis"));
     EXPECT_EQ(fs::status(ordner / "alt").permissions(),
               fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    dateien.Ersetze(ordner / "neu", "");
+    dateien.ErsetzeDatei(ordner / "neu", "");
     EXPECT_TRUE(fs::exists(ordner / "neu"));
     const std::string lang(255, 'n');
-    dateien.Ersetze(ordner / lang, "nachher");
+    dateien.ErsetzeDatei(ordner / lang, "nachher");
     EXPECT_EQ(Inhalt(lang), "nachher");
     // A link whose file is missing leads to its place, over another link and another folder.
     fs::create_symlink("Unter\xC3\x84/zweiter", ordner / "erster");
     fs::create_symlink("Tief/da", ordner / "Unter\xC3\x84" / "zweiter");
-    dateien.Ersetze(ordner / "erster", "nachher");
+    dateien.ErsetzeDatei(ordner / "erster", "nachher");
     EXPECT_EQ(Inhalt("Unter\xC3\x84/Tief/da"), "nachher");
     EXPECT_TRUE(fs::is_symlink(ordner / "erster") && fs::is_symlink(ordner / "Unter\xC3\x84" / "zweiter"));
 }
@@ -103,22 +103,22 @@ TEST_F(Systemdatei, ErsetztAlsGanzes) {
 TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
     Lege("alt", "vorher");
     for (const fs::path& ziel : {ordner / "Unter\xC3\x84", ordner / "fehlt" / "x", ordner / "alt" / "x"}) {
-        EXPECT_THROW(dateien.Ersetze(ziel, "neu"), Fehler) << ziel;
+        EXPECT_THROW(dateien.ErsetzeDatei(ziel, "neu"), Fehler) << ziel;
     }
     // A file that somebody has protected; root may write it all the same.
     if (::geteuid() != 0) {
         fs::permissions(ordner / "alt", fs::perms::owner_read);
-        EXPECT_THROW(dateien.Ersetze(ordner / "alt", "neu"), Fehler);
+        EXPECT_THROW(dateien.ErsetzeDatei(ordner / "alt", "neu"), Fehler);
     }
     // A pipe stays a pipe, by its own name and by a link to it.
     ASSERT_EQ(::mkfifo((ordner / "rohr").c_str(), 0600), 0);
     fs::create_symlink("rohr", ordner / "verweis");
     for (const char* ziel : {"rohr", "verweis"}) {
-        EXPECT_THROW(dateien.Ersetze(ordner / ziel, "neu"), Fehler) << ziel;
+        EXPECT_THROW(dateien.ErsetzeDatei(ordner / ziel, "neu"), Fehler) << ziel;
         EXPECT_TRUE(fs::is_fifo(ordner / ziel)) << ziel;
     }
     fs::create_symlink("kreis", ordner / "kreis");
-    EXPECT_THROW(dateien.Ersetze(ordner / "kreis", "neu"), Fehler);
+    EXPECT_THROW(dateien.ErsetzeDatei(ordner / "kreis", "neu"), Fehler);
     EXPECT_TRUE(fs::is_symlink(ordner / "kreis"));
     EXPECT_EQ(Inhalt("alt"), "vorher");
     // Nothing is left beside.
@@ -136,7 +136,7 @@ TEST_F(Systemdatei, FindetInJederSchreibweise) {
     for (const Fall& f : {Fall{"UNTER\xC3\xA4/tief/DATEN.sf", "Unter\xC3\x84/Tief/Daten.SF"},
                           Fall{"genau", "genau"}, Fall{"GENAU", "GENAU"}, Fall{"Genau", "GENAU"},
                           Fall{"Unter\xC3\x84", nullptr}, Fall{"nichts", nullptr}, Fall{"", nullptr}}) {
-        const auto fund = dateien.Finde(ordner, f.name);
+        const auto fund = dateien.FindeDatei(ordner, f.name);
         if (f.fund == nullptr) {
             EXPECT_FALSE(fund) << f.name;
         } else {

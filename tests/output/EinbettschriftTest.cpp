@@ -78,7 +78,7 @@ TEST(Einbettschrift, NurWasGebrauchtWirdMitAllenTeilen) {
 TEST(Einbettschrift, BreitenDesDokumentsSindDieDerSchrift) {
     const auto schrift = Einbettschrift::Aus(Probe());
     Speicherdateien dateien;
-    Pdfflaeche flaeche(dateien.Beginne("a"), {210, 297}, 96, {"T", nullptr, &*schrift});
+    Pdfflaeche flaeche(dateien.BeginneDatei("a"), {210, 297}, 96, {"T", nullptr, &*schrift});
     EXPECT_EQ(flaeche.Textbreite("A\xC4-\n"), 20) << "1.8 of 11 dots: 600, 700 and 500 of 1000 each";
     EXPECT_EQ(flaeche.Texthoehe(), 11);
 }

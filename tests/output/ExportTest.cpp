@@ -62,7 +62,7 @@ TEST_F(Export, RealzahlenMit23Zeichen) {
         d.DxfOpen();
         d.DxfPoint({dxf::kPunkte}, {wert, 0, 0});
         d.DxfClose();
-        d.Uebernimm();
+        d.ErsetzeZiel();
         EXPECT_EQ(Zerlegt(dateien.dateien.at("a")).at(11), text);
     }
 }

@@ -92,7 +92,7 @@ TEST_F(Gitter, BeginntMitDemBlattDerEcke) {
         dxf.DxfOpen();
         Kartengitter({nullptr, &dxf, kBlau}, l).Kartenblaetter(netz);
         dxf.DxfClose();
-        dxf.Uebernimm();
+        dxf.ErsetzeZiel();
         const std::string& text = d.dateien["a"];
         const std::size_t erster = text.find("  1\r\n");
         ASSERT_NE(erster, std::string::npos) << f.erste;

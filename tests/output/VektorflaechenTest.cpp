@@ -19,7 +19,7 @@ using Zeichnung = std::function<void(Zeichenflaeche&)>;
 
 std::string Svg(const Zeichnung& zeichne, double aufloesung = kBildaufloesung, std::string_view titel = "T") {
     Speicherdateien dateien;
-    Svgflaeche flaeche(dateien.Beginne("a"), {800, 600, aufloesung}, titel);
+    Svgflaeche flaeche(dateien.BeginneDatei("a"), {800, 600, aufloesung}, titel);
     zeichne(flaeche);
     EXPECT_TRUE(dateien.dateien.empty()) << "takes its place at the end";
     flaeche.Beende();
@@ -58,7 +58,7 @@ std::string Ausgepackt(const std::string& pdf) {
 std::string Roh(const Zeichnung& zeichne, const Pdfangaben& angaben = {"T", nullptr, nullptr}) {
     constexpr double kDot = kMillimeterJeZoll / 100;
     Speicherdateien dateien;
-    Pdfflaeche flaeche(dateien.Beginne("a"), {20.001 + 800 * kDot, 20.001 + 600 * kDot}, 100, angaben);
+    Pdfflaeche flaeche(dateien.BeginneDatei("a"), {20.001 + 800 * kDot, 20.001 + 600 * kDot}, 100, angaben);
     zeichne(flaeche);
     flaeche.Beende();
     return dateien.dateien["a"];

@@ -156,7 +156,7 @@ Inidatei::Inidatei(const QString& datei, std::string abschnitt)
     std::error_code fehler;
     if (std::filesystem::status(datei_, fehler).type() == std::filesystem::file_type::not_found) return;
     try {
-        zeilen_ = Zerlege(dateien_.Lies(datei_, kGroesste));
+        zeilen_ = Zerlege(dateien_.LiesDatei(datei_, kGroesste));
     } catch (const Fehler& f) {
         lesefehler_ = f;
     }
@@ -180,7 +180,7 @@ void Inidatei::Sichere() {
     if (neu_.empty()) return;
     Zeilen zeilen = zeilen_;
     try {
-        zeilen = Zerlege(dateien_.Lies(datei_, kGroesste));
+        zeilen = Zerlege(dateien_.LiesDatei(datei_, kGroesste));
     } catch (const Fehler&) {  // not there, or not readable before either: what is known here takes its place
     }
     for (const auto& [schluessel, wert] : neu_)
@@ -190,7 +190,7 @@ void Inidatei::Sichere() {
         inhalt += zeile + '\n';
     std::error_code fehler;  // writing tells what is wrong with the folder
     std::filesystem::create_directories(datei_.parent_path(), fehler);
-    dateien_.Ersetze(datei_, inhalt);
+    dateien_.ErsetzeDatei(datei_, inhalt);
     zeilen_ = std::move(zeilen);
     neu_.clear();
     lesefehler_.reset();

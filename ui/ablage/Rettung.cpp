@@ -49,7 +49,7 @@ void Rettung::Bewahre(const std::string& bytes) {
     if (bewahrt_ && stand == stand_) return;
     if (!Belege())
         throw Fehler("Der Ordner für den Netzplan im Notfall ist nicht beschreibbar.", NachUtf8(ordner_));
-    dateien_.Ersetze(NachPfad(datei_), bytes);
+    dateien_.ErsetzeDatei(NachPfad(datei_), bytes);
     stand_ = stand;
     bewahrt_ = true;
 }
@@ -78,7 +78,7 @@ QStringList Rettung::Hinterlassene() {
 }
 
 std::string Rettung::Lies(const QString& datei) const {
-    return dateien_.Lies(NachPfad(datei), kGroesste);
+    return dateien_.LiesDatei(NachPfad(datei), kGroesste);
 }
 
 void Rettung::LegeAb(const QString& datei) {

@@ -199,7 +199,7 @@ void Systemdrucker::Drucke(const Druckwerk& werk) {
     if (!inhalt.trimmed().endsWith(kPdfende))
         throw Fehler("Der Druck lässt sich nicht zwischenspeichern (Datenträger voll).",
                      NachUtf8(ordner.path()));
-    dateien_.Ersetze(NachPfad(ziel), {inhalt.constData(), static_cast<std::size_t>(inhalt.size())});
+    dateien_.ErsetzeDatei(NachPfad(ziel), {inhalt.constData(), static_cast<std::size_t>(inhalt.size())});
 }
 
 void Systemdrucker::DruckeInDatei(const QString& datei, const QPageLayout& seite) {

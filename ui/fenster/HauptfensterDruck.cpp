@@ -83,8 +83,8 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
     try {
         if (!bild.save(&puffer, png ? "PNG" : "BMP"))
             throw Fehler("Das Bild ist zu groß für dieses Format.", NachUtf8(*name));
-        programm_.dateien.Ersetze(NachPfad(*name),
-                                  {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+        programm_.dateien.ErsetzeDatei(NachPfad(*name),
+                                       {bytes.constData(), static_cast<std::size_t>(bytes.size())});
         ZeigeStatus(QStringLiteral("Gespeichert: ") + *name);
     } catch (const std::exception& f) {
         ZeigeFehler(f);
