@@ -21,10 +21,10 @@ PunktNummernTyp Nummer(std::string_view text) {
 
 }  // namespace
 
-void Netzbauer::Erwarte(std::size_t punkte, std::size_t kanten) {
-    liste_.Erwarte(punkte, 0);
-    nummern_.Erwarte(punkte);
-    kanten_.Erwarte(kanten);
+void Netzbauer::ErwarteFiguren(std::size_t punkte, std::size_t kanten) {
+    liste_.ErwarteFiguren(punkte, 0);
+    nummern_.ErwartePunkte(punkte);
+    kanten_.ErwarteKanten(kanten);
 }
 
 void Netzbauer::Punkt(Zeilenort woher, PunktArt art, std::string_view nummer, std::int64_t code, Welt ort) {
@@ -35,7 +35,7 @@ void Netzbauer::Punkt(Zeilenort woher, PunktArt art, std::string_view nummer, st
     p.typ = code > 0 ? PunktTyp::Krei : PunktTyp::Pkt;
     p.ort = ort;
     p.woher = woher;
-    p.streuwert = nummern_.Kuendige(p.nummer);
+    p.streuwert = nummern_.HoleNummerVor(p.nummer);
     // A network that may be full is found to be so at this line.
     if (punktanzahl_ == punkte_.size() ||
         static_cast<std::size_t>(liste_.MaxPkte) + punktanzahl_ > kMaxPunkte) {
@@ -49,7 +49,7 @@ void Netzbauer::TragePunkte() {
 }
 
 void Netzbauer::Fuege(const Wartender& p) {
-    if (nummern_.Finde(p.streuwert, p.nummer) != kKeinPunkt) {
+    if (nummern_.FindePunkt(p.streuwert, p.nummer) != kKeinPunkt) {
         wiederholte_.Nimm(p.woher);
         return;
     }
@@ -77,7 +77,7 @@ void Netzbauer::Standpunkt(std::string_view nummer) {
     Wartende& w = Reihe();
     w.standpunkt = true;
     w.nach = Nummer(nummer);
-    w.streuwertNach = nummern_.Kuendige(w.nach);
+    w.streuwertNach = nummern_.HoleNummerVor(w.nach);
 }
 
 void Netzbauer::Beobachte(Zeilenort woher, Art art, std::string_view von, std::string_view nach,
@@ -89,29 +89,29 @@ void Netzbauer::Beobachte(Zeilenort woher, Art art, std::string_view von, std::s
     w.farbe = farbe;
     if (art != Art::Richtung) {
         w.von = Nummer(von);
-        w.streuwertVon = nummern_.Kuendige(w.von);
+        w.streuwertVon = nummern_.HoleNummerVor(w.von);
     }
     w.nach = Nummer(nach);
-    w.streuwertNach = nummern_.Kuendige(w.nach);
+    w.streuwertNach = nummern_.HoleNummerVor(w.nach);
 }
 
 void Netzbauer::Trage() {
     const std::span<Wartende> reihe(wartende_.data(), std::exchange(anzahl_, 0));
     for (const Wartende& w : reihe) {
-        nummern_.KuendigeWeiter(w.streuwertNach);
-        nummern_.KuendigeWeiter(w.streuwertVon);
+        nummern_.HoleEintragVor(w.streuwertNach);
+        nummern_.HoleEintragVor(w.streuwertVon);
     }
     for (Wartende& w : reihe) {
-        w.p2 = nummern_.Finde(w.streuwertNach, w.nach);
+        w.p2 = nummern_.FindePunkt(w.streuwertNach, w.nach);
         if (w.standpunkt) {
             standpunkt_ = w.p2;
             continue;
         }
-        w.p1 = w.art == Art::Richtung ? standpunkt_ : nummern_.Finde(w.streuwertVon, w.von);
-        w.streuwertPaar = kanten_.Kuendige(w.p1, w.p2);
+        w.p1 = w.art == Art::Richtung ? standpunkt_ : nummern_.FindePunkt(w.streuwertVon, w.von);
+        w.streuwertPaar = kanten_.HoleKanteVor(w.p1, w.p2);
     }
     for (const Wartende& w : reihe)
-        kanten_.KuendigeWeiter(w.streuwertPaar);
+        kanten_.HoleEintragVor(w.streuwertPaar);
     for (const Wartende& w : reihe) {
         if (!w.standpunkt) Fasse(w);
     }
@@ -143,7 +143,7 @@ void Netzbauer::Fasse(const Wartende& w) {
 void Netzbauer::Vollende() {
     TragePunkte();
     Trage();
-    liste_.Erwarte(0, kanten_.Alle().size());
+    liste_.ErwarteFiguren(0, kanten_.Alle().size());
     for (const Kantenstand& k : kanten_.Alle())
         liste_.AddKante(Kante::Create(k.farbe, k.kAttr, k.lAttr), k.anfang, k.ende);
     liste_.MaxKant = static_cast<std::int32_t>(kanten_.Alle().size());

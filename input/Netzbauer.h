@@ -20,7 +20,7 @@ class Netzbauer {
         : liste_(liste), einstellungen_(einstellungen) {}
 
     /// Announces about so many points and lines to come; saves time, changes nothing else.
-    void Erwarte(std::size_t punkte, std::size_t kanten);
+    void ErwarteFiguren(std::size_t punkte, std::size_t kanten);
 
     /// Adds a point with its label, unless its number is in the network already. A positive code makes it a
     /// circle, zero or less a dot, both filled. What waits before it enters first.

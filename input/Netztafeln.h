@@ -21,31 +21,31 @@ namespace zrw {
 /// The numbers of the points 1, 2, 3 ... in the order of their entering.
 class Nummerntafel {
   public:
-    Nummerntafel() { Erwarte(64); }
+    Nummerntafel() { ErwartePunkte(64); }
 
     /// Makes room for so many points.
-    void Erwarte(std::size_t punkte) {
-        tafel_.Erwarte(punkte, static_cast<std::uint32_t>(punkte),
-                       [this](std::uint32_t nr) { return nummern_[nr].nummer.Streuwert(saat_); });
+    void ErwartePunkte(std::size_t punkte) {
+        tafel_.ErwarteEintraege(punkte, static_cast<std::uint32_t>(punkte),
+                                [this](std::uint32_t nr) { return nummern_[nr].nummer.Streuwert(saat_); });
         if (nummern_.capacity() <= punkte) nummern_.reserve(std::max(punkte + 1, 2 * nummern_.size()));
     }
     /// Announces a search. @return what the others need beside the number
-    [[nodiscard]] std::uint64_t Kuendige(const PunktNummernTyp& nummer) const {
+    [[nodiscard]] std::uint64_t HoleNummerVor(const PunktNummernTyp& nummer) const {
         const std::uint64_t streuwert = nummer.Streuwert(saat_);
-        tafel_.Kuendige(streuwert);
+        tafel_.HoleFachVor(streuwert);
         return streuwert;
     }
     /// The second announcement, a while after the first.
-    void KuendigeWeiter(std::uint64_t streuwert) const { HoleVor(&nummern_[tafel_.Erstes(streuwert)]); }
+    void HoleEintragVor(std::uint64_t streuwert) const { HoleVor(&nummern_[tafel_.Erstes(streuwert)]); }
     /// Internal number of the point, `kKeinPunkt` if there is none.
-    [[nodiscard]] PunktIndex Finde(std::uint64_t streuwert, const PunktNummernTyp& nummer) const {
+    [[nodiscard]] PunktIndex FindePunkt(std::uint64_t streuwert, const PunktNummernTyp& nummer) const {
         return static_cast<PunktIndex>(
-            tafel_.Finde(streuwert, [&](std::uint32_t nr) { return nummern_[nr].nummer == nummer; }));
+            tafel_.FindeNummer(streuwert, [&](std::uint32_t nr) { return nummern_[nr].nummer == nummer; }));
     }
     /// Enters a number that is not yet there. @return its internal number
     PunktIndex NimmAuf(std::uint64_t streuwert, const PunktNummernTyp& nummer) {
-        Erwarte(nummern_.size());
-        tafel_.Trage(streuwert, static_cast<std::uint32_t>(nummern_.size()));
+        ErwartePunkte(nummern_.size());
+        tafel_.TrageEin(streuwert, static_cast<std::uint32_t>(nummern_.size()));
         nummern_.push_back({nummer});
         return static_cast<PunktIndex>(nummern_.size() - 1);
     }
@@ -71,28 +71,29 @@ struct Kantenstand {
 /// The lines in the order of their first observation, found by their points, whichever is named first.
 class Kantentafel {
   public:
-    Kantentafel() { Erwarte(64); }
+    Kantentafel() { ErwarteKanten(64); }
 
     /// Makes room for so many lines.
-    void Erwarte(std::size_t kanten) {
-        tafel_.Erwarte(kanten, static_cast<std::uint32_t>(kanten),
-                       [this](std::uint32_t nr) { return Streuwert(kanten_[nr].anfang, kanten_[nr].ende); });
+    void ErwarteKanten(std::size_t kanten) {
+        tafel_.ErwarteEintraege(kanten, static_cast<std::uint32_t>(kanten), [this](std::uint32_t nr) {
+            return Streuwert(kanten_[nr].anfang, kanten_[nr].ende);
+        });
         if (kanten_.capacity() <= kanten) kanten_.reserve(std::max(kanten + 1, 2 * kanten_.size()));
     }
     /// Announces a search. @return what the others need beside the points
-    [[nodiscard]] std::uint64_t Kuendige(PunktIndex a, PunktIndex b) const {
+    [[nodiscard]] std::uint64_t HoleKanteVor(PunktIndex a, PunktIndex b) const {
         const std::uint64_t streuwert = Streuwert(a, b);
-        tafel_.Kuendige(streuwert);
+        tafel_.HoleFachVor(streuwert);
         return streuwert;
     }
     /// The second announcement, a while after the first.
-    void KuendigeWeiter(std::uint64_t streuwert) const { HoleVor(&kanten_[tafel_.Erstes(streuwert)]); }
+    void HoleEintragVor(std::uint64_t streuwert) const { HoleVor(&kanten_[tafel_.Erstes(streuwert)]); }
     /// The line between the two points of `neu`, in either orientation; where there is none, `neu` enters.
     /// @return null then
     [[nodiscard]] Kantenstand* FindeOderNimm(std::uint64_t streuwert, const Kantenstand& neu) {
-        Erwarte(kanten_.size());
+        ErwarteKanten(kanten_.size());
         const auto naechste = static_cast<std::uint32_t>(kanten_.size());
-        const std::uint32_t nr = tafel_.Setze(streuwert, naechste, false, [&](std::uint32_t i) {
+        const std::uint32_t nr = tafel_.SetzeEintrag(streuwert, naechste, false, [&](std::uint32_t i) {
             const Kantenstand& k = kanten_[i];
             return (k.anfang == neu.anfang && k.ende == neu.ende) ||
                    (k.anfang == neu.ende && k.ende == neu.anfang);

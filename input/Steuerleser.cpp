@@ -94,8 +94,8 @@ Steuerleser::Steuerleser(const std::filesystem::path& datei, const Dateien& date
 
 Lesung Steuerleser::Lies() {
     // A point or a line takes at least about so many bytes of a control file.
-    bauer_.Erwarte(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
-                   std::min<std::size_t>(quelle_.Groesse() / 64, 200'000));
+    bauer_.ErwarteFiguren(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
+                          std::min<std::size_t>(quelle_.Groesse() / 64, 200'000));
     try {
         BeginneText();
         constexpr unsigned kTakt = 8192;  // lines between two reports

@@ -37,7 +37,7 @@ class Arena {
         return block.speicher.get()[i - block.anfang];
     }
     /// Makes room for about so many in one piece, where there is nothing yet.
-    void Erwarte(std::size_t anzahl) {
+    void ErwarteKnoten(std::size_t anzahl) {
         if (!bloecke_.empty() || anzahl == 0) return;
         erste_ = std::max(erste_, static_cast<unsigned>(std::bit_width(anzahl - 1)));
         NeuerBlock(anzahl);

@@ -97,7 +97,7 @@ std::unique_ptr<Liste> Liste::Load(ByteLeser& f, const Einstellungen& einstellun
         ZuKurz(datei, std::to_string(kopf.punkte) + " Punkte und " + std::to_string(kopf.kanten) +
                           " Linien angekündigt, " + std::to_string(bedarf - f.Rest()) + " Bytes fehlen");
     }
-    liste->Erwarte(kopf.punkte, kopf.kanten);
+    liste->ErwarteFiguren(kopf.punkte, kopf.kanten);
     for (std::size_t i = 0; i < kopf.punkte; ++i) {
         const Welt ort{f.F64(), f.F64()};
         const PunktIndex nr = f.U16();

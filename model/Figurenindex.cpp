@@ -7,12 +7,12 @@ namespace zrw {
 namespace {
 
 template <class Wert>
-Wert Hole(const std::vector<Wert>& tafel, PunktIndex nr) {
+Wert HoleEintrag(const std::vector<Wert>& tafel, PunktIndex nr) {
     return nr < tafel.size() ? tafel[nr] : Wert{};
 }
 
 template <class Wert>
-void Lege(std::vector<Wert>& tafel, PunktIndex nr, Wert wert) {
+void LegeEintrag(std::vector<Wert>& tafel, PunktIndex nr, Wert wert) {
     if (nr >= tafel.size()) tafel.resize(std::size_t{nr} + 1, Wert{});
     tafel[nr] = wert;
 }
@@ -38,7 +38,7 @@ std::uint64_t Streuwert(PunktIndex a, PunktIndex e, std::uint64_t saat) {
 
 }  // namespace
 
-void Figurenindex::Erwarte(std::size_t punkte) {
+void Figurenindex::ErwartePunkte(std::size_t punkte) {
     punkte_.reserve(punkte + 1);
     orte_.reserve(punkte + 1);
     texte_.reserve(punkte + 1);
@@ -47,16 +47,16 @@ void Figurenindex::Erwarte(std::size_t punkte) {
 // --- Points -----------------------------------------------------------------------------------------------
 
 void Figurenindex::SetzePunkt(PunktIndex nr, PunktKnoten* p) {
-    Lege(punkte_, nr, p);
+    LegeEintrag(punkte_, nr, p);
     if (nr >= orte_.size()) orte_.resize(std::size_t{nr} + 1, kNirgends);
     orte_[nr] = p != nullptr ? Welt{p->XWPu, p->YWPu} : kNirgends;
 }
 
-void Figurenindex::Auf(PunktKnoten& p) {
+void Figurenindex::TrageFigurEin(PunktKnoten& p) {
     SetzePunkt(p.PNr, &p);
 }
 
-void Figurenindex::Ab(PunktKnoten& p) {
+void Figurenindex::TrageFigurAus(PunktKnoten& p) {
     if (FindePunkt(p.PNr) != &p) return;
     PunktKnoten* ersatz = p.Next;
     while (ersatz != nullptr && ersatz->PNr != p.PNr)
@@ -64,7 +64,7 @@ void Figurenindex::Ab(PunktKnoten& p) {
     SetzePunkt(p.PNr, ersatz);
 }
 
-void Figurenindex::Zurueck(PunktKnoten& p, PunktKnoten& kopf) {
+void Figurenindex::SetzeFigurZurueck(PunktKnoten& p, PunktKnoten& kopf) {
     // A point of the same number nearer the head keeps answering.
     SetzePunkt(p.PNr, Erster(
                           kopf, [&](const PunktKnoten& k) { return k.PNr == p.PNr; },
@@ -78,15 +78,15 @@ void Figurenindex::LeerePunkte() {
 
 // --- Labels -----------------------------------------------------------------------------------------------
 
-void Figurenindex::Auf(PunktString& t) {
+void Figurenindex::TrageFigurEin(PunktString& t) {
     if (FindeText(t.TNr) == nullptr) ++textnummern_;
-    Lege(texte_, t.TNr, &t);
+    LegeEintrag(texte_, t.TNr, &t);
     ++textanzahl_;
     neuesterText_ = &t;
-    if (texteBekannt_) Nimm(t, true);
+    if (texteBekannt_) LerneText(t, true);
 }
 
-void Figurenindex::Ab(PunktString& t) {
+void Figurenindex::TrageFigurAus(PunktString& t) {
     --textanzahl_;
     if (neuesterText_ == &t) neuesterText_ = t.Next;
     if (FindeText(t.TNr) == &t) {
@@ -102,26 +102,26 @@ void Figurenindex::Ab(PunktString& t) {
     while (ersatz != nullptr && !(ersatz->Item->Aus == nummer))
         ersatz = ersatz->Next;
     if (ersatz != nullptr) {
-        Nimm(*ersatz, true);
+        LerneText(*ersatz, true);
     } else {
-        nachNummer_.Entferne(Nummer(t.Folge), [this](std::uint32_t nr) { return Textstreuwert(nr); });
+        nachNummer_.EntferneEintrag(Nummer(t.Folge), [this](std::uint32_t nr) { return Textstreuwert(nr); });
     }
 }
 
-void Figurenindex::Zurueck(PunktString& t, PunktString& kopf) {
+void Figurenindex::SetzeFigurZurueck(PunktString& t, PunktString& kopf) {
     ++textanzahl_;
     neuesterText_ = &kopf;
     if (FindeText(t.TNr) == nullptr) ++textnummern_;
-    Lege(texte_, t.TNr,
-         Erster(
-             kopf, [&](const PunktString& k) { return k.TNr == t.TNr; },
-             FindeText(t.TNr) == nullptr ? &t : nullptr));
+    LegeEintrag(texte_, t.TNr,
+                Erster(
+                    kopf, [&](const PunktString& k) { return k.TNr == t.TNr; },
+                    FindeText(t.TNr) == nullptr ? &t : nullptr));
     if (!texteBekannt_) return;
     const PunktNummernTyp& nummer = t.Item->Aus;
-    Nimm(*Erster(
-             kopf, [&](const PunktString& k) { return k.Item->Aus == nummer; },
-             FindeText(nummer) == nullptr ? &t : nullptr),
-         true);
+    LerneText(*Erster(
+                  kopf, [&](const PunktString& k) { return k.Item->Aus == nummer; },
+                  FindeText(nummer) == nullptr ? &t : nullptr),
+              true);
 }
 
 void Figurenindex::LeereTexte() {
@@ -130,16 +130,16 @@ void Figurenindex::LeereTexte() {
     textnummern_ = 0;
     neuesterText_ = nullptr;
     texteBekannt_ = false;
-    nachNummer_.Leere();
+    nachNummer_.LeereTafel();
 }
 
 PunktString* Figurenindex::FindeText(PunktIndex nr) const {
-    return Hole(texte_, nr);
+    return HoleEintrag(texte_, nr);
 }
 
 PunktString* Figurenindex::FindeText(const PunktNummernTyp& nummer) const {
     if (!texteBekannt_) LerneTexte();
-    const std::uint32_t nr = nachNummer_.Finde(
+    const std::uint32_t nr = nachNummer_.FindeNummer(
         nummer.Streuwert(saat_), [&](std::uint32_t n) { return textarena_[n - 1].figur.Aus == nummer; });
     return nr != Markentafel::kKeins ? &textarena_[nr - 1].knoten : nullptr;
 }
@@ -148,30 +148,30 @@ std::uint64_t Figurenindex::Textstreuwert(std::uint32_t nr) const {
     return textarena_[nr - 1].figur.Aus.Streuwert(saat_);
 }
 
-void Figurenindex::Nimm(const PunktString& t, bool verdraengt) const {
-    nachNummer_.Erwarte(nachNummer_.Anzahl() + 1, Nummer(t.Folge),
-                        [this](std::uint32_t nr) { return Textstreuwert(nr); });
+void Figurenindex::LerneText(const PunktString& t, bool verdraengt) const {
+    nachNummer_.ErwarteEintraege(nachNummer_.Anzahl() + 1, Nummer(t.Folge),
+                                 [this](std::uint32_t nr) { return Textstreuwert(nr); });
     const PunktNummernTyp& nummer = t.Item->Aus;
-    (void)nachNummer_.Setze(nummer.Streuwert(saat_), Nummer(t.Folge), verdraengt,
-                            [&](std::uint32_t nr) { return textarena_[nr - 1].figur.Aus == nummer; });
+    (void)nachNummer_.SetzeEintrag(nummer.Streuwert(saat_), Nummer(t.Folge), verdraengt,
+                                   [&](std::uint32_t nr) { return textarena_[nr - 1].figur.Aus == nummer; });
 }
 
 void Figurenindex::LerneTexte() const {
-    nachNummer_.Erwarte(textanzahl_, 0, [](std::uint32_t) { return 0U; });
+    nachNummer_.ErwarteEintraege(textanzahl_, 0, [](std::uint32_t) { return 0U; });
     for (const PunktString* t = neuesterText_; t != nullptr; t = t->Next)
-        Nimm(*t, false);
+        LerneText(*t, false);
     texteBekannt_ = true;
 }
 
 // --- Lines ------------------------------------------------------------------------------------------------
 
-void Figurenindex::Auf(PunktKante& k) {
+void Figurenindex::TrageFigurEin(PunktKante& k) {
     neuesteKante_ = &k;
     if (verkettet_) KetteAn(k);
-    if (paareBekannt_) Nimm(k, true);
+    if (paareBekannt_) LerneKante(k, true);
 }
 
-void Figurenindex::Ab(PunktKante& k) {
+void Figurenindex::TrageFigurAus(PunktKante& k) {
     if (neuesteKante_ == &k) neuesteKante_ = k.Next;
     if (verkettet_) {
         HaengeAus(k, k.ANr);
@@ -188,25 +188,25 @@ void Figurenindex::Ab(PunktKante& k) {
         vonE = NaechsteKante(*vonE, k.ENr);
     }
     if (vonA != nullptr && vonE != nullptr) {
-        Nimm(passt(*vonA) ? *vonA : *vonE, true);
+        LerneKante(passt(*vonA) ? *vonA : *vonE, true);
     } else {
-        nachPaar_.Entferne(Nummer(k.Folge), [this](std::uint32_t nr) { return Paarstreuwert(nr); });
+        nachPaar_.EntferneEintrag(Nummer(k.Folge), [this](std::uint32_t nr) { return Paarstreuwert(nr); });
     }
 }
 
-void Figurenindex::Zurueck(PunktKante& k, PunktKante& kopf) {
+void Figurenindex::SetzeFigurZurueck(PunktKante& k, PunktKante& kopf) {
     neuesteKante_ = &kopf;
     // The chains at the points are made anew when somebody asks for them.
     verkettet_ = false;
     kantenAm_.clear();
     if (!paareBekannt_) return;
-    Nimm(*Erster(
-             kopf, [&](const PunktKante& x) { return GleichesPaar(x, k.ANr, k.ENr); },
-             FindeKante(k.ANr, k.ENr) == nullptr ? &k : nullptr),
-         true);
+    LerneKante(*Erster(
+                   kopf, [&](const PunktKante& x) { return GleichesPaar(x, k.ANr, k.ENr); },
+                   FindeKante(k.ANr, k.ENr) == nullptr ? &k : nullptr),
+               true);
 }
 
-void Figurenindex::Drehe(const PunktKante& k) {
+void Figurenindex::DreheKante(const PunktKante& k) {
     if (k.ANr != k.ENr && k.Folge < naechste_.size()) std::swap(naechste_[k.Folge][0], naechste_[k.Folge][1]);
 }
 
@@ -215,12 +215,12 @@ void Figurenindex::LeereKanten() {
     verkettet_ = false;
     kantenAm_.clear();
     paareBekannt_ = false;
-    nachPaar_.Leere();
+    nachPaar_.LeereTafel();
 }
 
 PunktKante* Figurenindex::FindeKante(PunktIndex a, PunktIndex b) const {
     if (!paareBekannt_) LernePaare();
-    return ZurNummer(nachPaar_.Finde(Streuwert(a, b, saat_), [&](std::uint32_t nr) {
+    return ZurNummer(nachPaar_.FindeNummer(Streuwert(a, b, saat_), [&](std::uint32_t nr) {
         return GleichesPaar(kantenarena_[nr - 1].knoten, a, b);
     }));
 }
@@ -230,27 +230,27 @@ std::uint64_t Figurenindex::Paarstreuwert(std::uint32_t nr) const {
     return Streuwert(k.ANr, k.ENr, saat_);
 }
 
-void Figurenindex::Nimm(const PunktKante& k, bool verdraengt) const {
-    nachPaar_.Erwarte(nachPaar_.Anzahl() + 1, Nummer(k.Folge),
-                      [this](std::uint32_t nr) { return Paarstreuwert(nr); });
-    (void)nachPaar_.Setze(Streuwert(k.ANr, k.ENr, saat_), Nummer(k.Folge), verdraengt, [&](std::uint32_t nr) {
-        return GleichesPaar(kantenarena_[nr - 1].knoten, k.ANr, k.ENr);
-    });
+void Figurenindex::LerneKante(const PunktKante& k, bool verdraengt) const {
+    nachPaar_.ErwarteEintraege(nachPaar_.Anzahl() + 1, Nummer(k.Folge),
+                               [this](std::uint32_t nr) { return Paarstreuwert(nr); });
+    (void)nachPaar_.SetzeEintrag(
+        Streuwert(k.ANr, k.ENr, saat_), Nummer(k.Folge), verdraengt,
+        [&](std::uint32_t nr) { return GleichesPaar(kantenarena_[nr - 1].knoten, k.ANr, k.ENr); });
 }
 
 void Figurenindex::LernePaare() const {
-    nachPaar_.Erwarte(kantenarena_.Anzahl(), 0, [](std::uint32_t) { return 0U; });
+    nachPaar_.ErwarteEintraege(kantenarena_.Anzahl(), 0, [](std::uint32_t) { return 0U; });
     for (const PunktKante* k = neuesteKante_; k != nullptr; k = k->Next)
-        Nimm(*k, false);
+        LerneKante(*k, false);
     paareBekannt_ = true;
 }
 
 PunktKante* Figurenindex::ErsteKante(PunktIndex nr) {
-    if (!verkettet_) Verkette();
-    return ZurNummer(Hole(kantenAm_, nr));
+    if (!verkettet_) VerketteKanten();
+    return ZurNummer(HoleEintrag(kantenAm_, nr));
 }
 
-void Figurenindex::Verkette() {
+void Figurenindex::VerketteKanten() {
     std::vector<const PunktKante*> alle;
     for (const PunktKante* k = neuesteKante_; k != nullptr; k = k->Next)
         alle.push_back(k);
@@ -261,9 +261,9 @@ void Figurenindex::Verkette() {
 
 void Figurenindex::KetteAn(const PunktKante& k) {
     if (k.Folge >= naechste_.size()) naechste_.resize(std::size_t{k.Folge} + 1);
-    naechste_[k.Folge] = {Hole(kantenAm_, k.ANr), Hole(kantenAm_, k.ENr)};
-    Lege(kantenAm_, k.ANr, Nummer(k.Folge));
-    Lege(kantenAm_, k.ENr, Nummer(k.Folge));
+    naechste_[k.Folge] = {HoleEintrag(kantenAm_, k.ANr), HoleEintrag(kantenAm_, k.ENr)};
+    LegeEintrag(kantenAm_, k.ANr, Nummer(k.Folge));
+    LegeEintrag(kantenAm_, k.ENr, Nummer(k.Folge));
 }
 
 /// Takes the line out of the chain at one of its points.

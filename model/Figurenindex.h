@@ -26,22 +26,22 @@ class Figurenindex {
     Figurenindex(const Arena<KantePlatz>& kanten, const Arena<TextPlatz>& texte)
         : kantenarena_(kanten), textarena_(texte) {}
 
-    void Auf(PunktKnoten& p);
-    void Auf(PunktString& t);
-    void Auf(PunktKante& k);
-    /// An older figure of the same key takes the place of one that leaves. `Ab` runs while a point or label
-    /// still is in its list and after a line has left it; its `Next` is valid in either case.
-    void Ab(PunktKnoten& p);
-    void Ab(PunktString& t);
-    void Ab(PunktKante& k);
+    void TrageFigurEin(PunktKnoten& p);
+    void TrageFigurEin(PunktString& t);
+    void TrageFigurEin(PunktKante& k);
+    /// An older figure of the same key takes the place of one that leaves. `TrageFigurAus` runs while a point
+    /// or label still is in its list and after a line has left it; its `Next` is valid in either case.
+    void TrageFigurAus(PunktKnoten& p);
+    void TrageFigurAus(PunktString& t);
+    void TrageFigurAus(PunktKante& k);
     /// A figure is back in its place, somewhere behind the head of its list.
-    void Zurueck(PunktKnoten& p, PunktKnoten& kopf);
-    void Zurueck(PunktString& t, PunktString& kopf);
-    void Zurueck(PunktKante& k, PunktKante& kopf);
+    void SetzeFigurZurueck(PunktKnoten& p, PunktKnoten& kopf);
+    void SetzeFigurZurueck(PunktString& t, PunktString& kopf);
+    void SetzeFigurZurueck(PunktKante& k, PunktKante& kopf);
     /// The line is about to swap its ends: its places among the lines of both points swap with them.
-    void Drehe(const PunktKante& k);
+    void DreheKante(const PunktKante& k);
     /// Announces so many points with their labels; saves growing on the way.
-    void Erwarte(std::size_t punkte);
+    void ErwartePunkte(std::size_t punkte);
     void LeerePunkte();
     void LeereTexte();
     void LeereKanten();
@@ -53,7 +53,7 @@ class Figurenindex {
     /// lines ask in any order, and would wait for the memory of each node.
     [[nodiscard]] Welt OrtVon(PunktIndex nr) const { return nr < orte_.size() ? orte_[nr] : kNirgends; }
     /// The point has other world coordinates.
-    void Verlege(const PunktKnoten& p) {
+    void VerlegePunkt(const PunktKnoten& p) {
         if (FindePunkt(p.PNr) == &p) orte_[p.PNr] = {p.XWPu, p.YWPu};
     }
     [[nodiscard]] PunktString* FindeText(PunktIndex nr) const;
@@ -89,9 +89,9 @@ class Figurenindex {
     [[nodiscard]] std::uint64_t Textstreuwert(std::uint32_t nr) const;
     [[nodiscard]] std::uint64_t Paarstreuwert(std::uint32_t nr) const;
     /// @param verdraengt the label counts before another one that reads the same
-    void Nimm(const PunktString& t, bool verdraengt) const;
-    void Nimm(const PunktKante& k, bool verdraengt) const;
-    void Verkette();
+    void LerneText(const PunktString& t, bool verdraengt) const;
+    void LerneKante(const PunktKante& k, bool verdraengt) const;
+    void VerketteKanten();
     void KetteAn(const PunktKante& k);
     void HaengeAus(const PunktKante& k, PunktIndex nr);
 

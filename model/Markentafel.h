@@ -17,14 +17,14 @@
 namespace zrw {
 
 /// Callers hand over the hash of the key they mean, and tell it of a thing, `streuwert(nr)`, or whether a
-/// thing has that key, `gleich(nr)`. Everything but `Erwarte`, `Anzahl` and `Leere` needs room.
+/// thing has that key, `gleich(nr)`. Everything but `ErwarteEintraege`, `Anzahl` and `LeereTafel` needs room.
 class Markentafel {
   public:
     static constexpr std::uint32_t kKeins = 0;
 
     /// Room for `anzahl` things with numbers up to `hoechste`.
     template <class Streuwert>
-    void Erwarte(std::size_t anzahl, std::uint32_t hoechste, Streuwert streuwert) {
+    void ErwarteEintraege(std::size_t anzahl, std::uint32_t hoechste, Streuwert streuwert) {
         if (!faecher_.empty() && anzahl * 2 <= faecher_.size() && hoechste <= nummer_) return;
         std::size_t groesse = std::max<std::size_t>(faecher_.size(), 64);
         while (groesse < anzahl * 2)
@@ -37,37 +37,37 @@ class Markentafel {
             {nummer_, static_cast<std::uint32_t>(groesse - 1), ~0U >> std::countl_zero(hoechste | 1U)});
         anzahl_ = 0;
         for (const std::uint32_t fach : alt) {
-            if (fach != kKeins) Trage(streuwert(fach & alteNummer), fach & alteNummer);
+            if (fach != kKeins) TrageEin(streuwert(fach & alteNummer), fach & alteNummer);
         }
     }
     [[nodiscard]] std::size_t Anzahl() const { return anzahl_; }
-    void Leere() { *this = {}; }
+    void LeereTafel() { *this = {}; }
 
     /// Announces a search.
-    void Kuendige(std::uint64_t streuwert) const { HoleVor(&faecher_[streuwert & Rest()]); }
+    void HoleFachVor(std::uint64_t streuwert) const { HoleVor(&faecher_[streuwert & Rest()]); }
     /// What a search will probably look at, where the memory of the announcement has come meanwhile.
     [[nodiscard]] std::uint32_t Erstes(std::uint64_t streuwert) const {
         return faecher_[streuwert & Rest()] & nummer_;
     }
     /// The number of the thing, `kKeins` if it is not there.
     template <class Gleich>
-    [[nodiscard]] std::uint32_t Finde(std::uint64_t streuwert, Gleich gleich) const {
-        return faecher_[Suche(streuwert, gleich)] & nummer_;
+    [[nodiscard]] std::uint32_t FindeNummer(std::uint64_t streuwert, Gleich gleich) const {
+        return faecher_[SucheFach(streuwert, gleich)] & nummer_;
     }
     /// Enters a thing whose key is not yet there.
-    void Trage(std::uint64_t streuwert, std::uint32_t nr) {
+    void TrageEin(std::uint64_t streuwert, std::uint32_t nr) {
         assert(nr != kKeins && nr <= nummer_ && anzahl_ < faecher_.size() / 2 + 1);
         std::size_t i = streuwert & Rest();
         while (faecher_[i] != kKeins)
-            i = Weiter(i);
+            i = NaechstesFach(i);
         faecher_[i] = Marke(streuwert) | nr;
         ++anzahl_;
     }
     /// Enters a thing; one of the same key leaves if `verdraengt`, else the new one stays out.
     /// @return the number of the one that was there, `kKeins` if there was none
     template <class Gleich>
-    std::uint32_t Setze(std::uint64_t streuwert, std::uint32_t nr, bool verdraengt, Gleich gleich) {
-        std::uint32_t& fach = faecher_[Suche(streuwert, gleich)];
+    std::uint32_t SetzeEintrag(std::uint64_t streuwert, std::uint32_t nr, bool verdraengt, Gleich gleich) {
+        std::uint32_t& fach = faecher_[SucheFach(streuwert, gleich)];
         const std::uint32_t vorher = fach & nummer_;
         if (vorher == kKeins) ++anzahl_;
         if (vorher == kKeins || verdraengt) fach = Marke(streuwert) | nr;
@@ -75,10 +75,10 @@ class Markentafel {
     }
     /// Takes a thing out that is there.
     template <class Streuwert>
-    void Entferne(std::uint32_t nr, Streuwert streuwert) {
-        std::size_t i = Suche(streuwert(nr), [nr](std::uint32_t n) { return n == nr; });
+    void EntferneEintrag(std::uint32_t nr, Streuwert streuwert) {
+        std::size_t i = SucheFach(streuwert(nr), [nr](std::uint32_t n) { return n == nr; });
         // Close the gap, so that a search never has to step over removed entries.
-        for (std::size_t j = Weiter(i); faecher_[j] != kKeins; j = Weiter(j)) {
+        for (std::size_t j = NaechstesFach(i); faecher_[j] != kKeins; j = NaechstesFach(j)) {
             const std::size_t heim = streuwert(faecher_[j] & nummer_) & Rest();
             if (((j - heim) & Rest()) < ((j - i) & Rest())) continue;
             faecher_[i] = faecher_[j];
@@ -92,15 +92,15 @@ class Markentafel {
     using Faecher = std::vector<std::uint32_t, Grossverteiler<std::uint32_t>>;
 
     [[nodiscard]] std::size_t Rest() const { return faecher_.size() - 1; }
-    [[nodiscard]] std::size_t Weiter(std::size_t i) const { return (i + 1) & Rest(); }
+    [[nodiscard]] std::size_t NaechstesFach(std::size_t i) const { return (i + 1) & Rest(); }
     [[nodiscard]] std::uint32_t Marke(std::uint64_t streuwert) const {
         return static_cast<std::uint32_t>(streuwert >> 32U) & ~nummer_;
     }
     /// The place of the thing, or the free one where it belongs.
     template <class Gleich>
-    [[nodiscard]] std::size_t Suche(std::uint64_t streuwert, Gleich gleich) const {
+    [[nodiscard]] std::size_t SucheFach(std::uint64_t streuwert, Gleich gleich) const {
         assert(!faecher_.empty());
-        for (std::size_t i = streuwert & Rest();; i = Weiter(i)) {
+        for (std::size_t i = streuwert & Rest();; i = NaechstesFach(i)) {
             const std::uint32_t fach = faecher_[i];
             if (fach == kKeins) return i;
             if ((fach ^ Marke(streuwert)) <= nummer_ && gleich(fach & nummer_)) return i;

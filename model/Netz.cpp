@@ -39,11 +39,11 @@ Knoten** HaengeEin(Knoten** stelle, Knoten& knoten) {
 
 // --- Adding -----------------------------------------------------------------------------------------------
 
-void Netz::Erwarte(std::size_t punkte, std::size_t kanten) {
-    punktArena_.Erwarte(punkte);
-    textArena_.Erwarte(punkte);
-    kanteArena_.Erwarte(kanten);
-    index_.Erwarte(punkte);
+void Netz::ErwarteFiguren(std::size_t punkte, std::size_t kanten) {
+    punktArena_.ErwarteKnoten(punkte);
+    textArena_.ErwarteKnoten(punkte);
+    kanteArena_.ErwarteKnoten(kanten);
+    index_.ErwartePunkte(punkte);
     suche_.enden.reserve(kanten);
 }
 
@@ -51,8 +51,8 @@ PunktKnoten& Netz::AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr) {
     PunktPlatz* platz = punktArena_.Neu(PunktPlatz{{}, item});
     platz->knoten = {ort.rechts, ort.hoch, iNr, Auf32(punktArena_.Anzahl() - 1), &platz->figur, PunktKnoten};
     PunktKnoten = &platz->knoten;
-    index_.Auf(platz->knoten);
-    suche_.punkte.Auf(platz->knoten.Folge, suche_.gebaut);
+    index_.TrageFigurEin(platz->knoten);
+    suche_.punkte.TrageFigurEin(platz->knoten.Folge, suche_.gebaut);
     if (!suche_.gebaut) suche_.alles.reset();
     MeldePunkt(platz->knoten);
     return platz->knoten;
@@ -67,8 +67,8 @@ PunktKante& Netz::AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr) 
     k.Item = &platz->figur;
     k.Next = KanteKnoten;
     KanteKnoten = &k;
-    index_.Auf(k);
-    suche_.kanten.Auf(k.Folge, suche_.gebaut);
+    index_.TrageFigurEin(k);
+    suche_.kanten.TrageFigurEin(k.Folge, suche_.gebaut);
     suche_.enden.push_back({iANr, iENr});
     mitUmwegen_ = mitUmwegen_ || ZurLinie(item.LAttr).indirekt;
     lueckenlos_.reset();
@@ -80,8 +80,8 @@ PunktString& Netz::AddPktText(const PktText& item, PunktIndex iNr) {
     platz->knoten = {iNr, Auf32(textArena_.Anzahl() - 1), &platz->figur, PktTextKnoten};
     PktTextKnoten = &platz->knoten;
     VerdraengeText(iNr);
-    index_.Auf(platz->knoten);
-    suche_.texte.Auf(platz->knoten.Folge, suche_.gebaut);
+    index_.TrageFigurEin(platz->knoten);
+    suche_.texte.TrageFigurEin(platz->knoten.Folge, suche_.gebaut);
     lueckenlos_.reset();
     return platz->knoten;
 }
@@ -89,24 +89,24 @@ PunktString& Netz::AddPktText(const PktText& item, PunktIndex iNr) {
 void Netz::LeerePunkte() {
     PunktKnoten = nullptr;
     index_.LeerePunkte();
-    suche_.punkte.Leere();
-    suche_.Vergiss();
+    suche_.punkte.LeereMenge();
+    suche_.VergissBaeume();
     lueckenlos_.reset();
 }
 
 void Netz::LeereKanten() {
     KanteKnoten = nullptr;
     index_.LeereKanten();
-    suche_.kanten.Leere();
-    suche_.Vergiss();
+    suche_.kanten.LeereMenge();
+    suche_.VergissBaeume();
     lueckenlos_.reset();
 }
 
 void Netz::LeereTexte() {
     PktTextKnoten = nullptr;
     index_.LeereTexte();
-    suche_.texte.Leere();
-    suche_.Vergiss();
+    suche_.texte.LeereMenge();
+    suche_.VergissBaeume();
     lueckenlos_.reset();
 }
 
@@ -160,7 +160,7 @@ Weltkasten Netz::Ausdehnung() const {
 void Netz::Versetze(zrw::PunktKnoten& p, Welt ort) {
     p.XWPu = ort.rechts;
     p.YWPu = ort.hoch;
-    index_.Verlege(p);
+    index_.VerlegePunkt(p);
     MeldePunkt(p);
 }
 
@@ -183,7 +183,7 @@ void Netz::SetzeBeobachtungen(PunktKante& k, LinieAttr richtung, KanteAttr weite
 }
 
 void Netz::DreheKante(PunktKante& pk) {
-    index_.Drehe(pk);
+    index_.DreheKante(pk);
     std::swap(pk.ANr, pk.ENr);
     std::swap(pk.Item->XO, pk.Item->XBiE);
     std::swap(pk.Item->YO, pk.Item->YBiE);
@@ -194,8 +194,8 @@ void Netz::DreheKante(PunktKante& pk) {
 Herausnahme Netz::NimmHeraus(PunktKante& pk) {
     Herausnahme h;
     if (!HaengeAus(KanteKnoten, &pk)) return h;
-    index_.Ab(pk);
-    suche_.kanten.Ab(pk.Folge);
+    index_.TrageFigurAus(pk);
+    suche_.kanten.TrageFigurAus(pk.Folge);
     lueckenlos_.reset();
     --MaxKant;
     h.kanten.push_back({&pk, pk.Item->Visible});
@@ -213,22 +213,22 @@ Herausnahme Netz::NimmHeraus(zrw::PunktKnoten& pp) {
             continue;
         }
         (davor != nullptr ? davor->Next : KanteKnoten) = k->Next;
-        index_.Ab(*k);
-        suche_.kanten.Ab(k->Folge);
+        index_.TrageFigurAus(*k);
+        suche_.kanten.TrageFigurAus(k->Folge);
         --MaxKant;
         h.kanten.push_back({k, k->Item->Visible});
     }
     if (PPunktString t = index_.FindeText(nr); t != nullptr) {
-        index_.Ab(*t);
-        suche_.texte.Ab(t->Folge);
+        index_.TrageFigurAus(*t);
+        suche_.texte.TrageFigurAus(t->Folge);
         HaengeAus(PktTextKnoten, t);
         h.text = {t, t->Item->Visible};
     }
-    index_.Ab(pp);
+    index_.TrageFigurAus(pp);
     if (HaengeAus(PunktKnoten, &pp)) {
         --MaxPkte;
         h.punkt = {&pp, pp.Item->Visible};
-        suche_.punkte.Ab(pp.Folge);
+        suche_.punkte.TrageFigurAus(pp.Folge);
     }
     MeldePunkt(pp);
     return h;
@@ -238,16 +238,16 @@ void Netz::SetzeZurueck(const Herausnahme& h) {
     if (h.punkt.knoten != nullptr) {
         assert(!Enthaelt(*h.punkt.knoten));  // else the list would run in a circle
         HaengeEin(&PunktKnoten, *h.punkt.knoten);
-        index_.Zurueck(*h.punkt.knoten, *PunktKnoten);
-        suche_.punkte.Auf(h.punkt.knoten->Folge, suche_.gebaut);
+        index_.SetzeFigurZurueck(*h.punkt.knoten, *PunktKnoten);
+        suche_.punkte.TrageFigurEin(h.punkt.knoten->Folge, suche_.gebaut);
         h.punkt.knoten->Item->Visible = h.punkt.sichtbar;
         ++MaxPkte;
     }
     if (h.text.knoten != nullptr) {
         HaengeEin(&PktTextKnoten, *h.text.knoten);
         VerdraengeText(h.text.knoten->TNr);
-        index_.Zurueck(*h.text.knoten, *PktTextKnoten);
-        suche_.texte.Auf(h.text.knoten->Folge, suche_.gebaut);
+        index_.SetzeFigurZurueck(*h.text.knoten, *PktTextKnoten);
+        suche_.texte.TrageFigurEin(h.text.knoten->Folge, suche_.gebaut);
         h.text.knoten->Item->Visible = h.text.sichtbar;
     }
     // One walk for all lines, as when they left.
@@ -255,8 +255,8 @@ void Netz::SetzeZurueck(const Herausnahme& h) {
     for (const auto& k : h.kanten) {
         assert(!Enthaelt(*k.knoten));
         stelle = HaengeEin(stelle, *k.knoten);
-        index_.Zurueck(*k.knoten, *KanteKnoten);
-        suche_.kanten.Auf(k.knoten->Folge, suche_.gebaut);
+        index_.SetzeFigurZurueck(*k.knoten, *KanteKnoten);
+        suche_.kanten.TrageFigurEin(k.knoten->Folge, suche_.gebaut);
         k.knoten->Item->Visible = k.sichtbar;
         ++MaxKant;
     }

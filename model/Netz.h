@@ -38,7 +38,7 @@ class Netz {
     ~Netz() = default;
 
     /// Announces about so many points and lines to come; saves time, changes nothing else.
-    void Erwarte(std::size_t punkte, std::size_t kanten);
+    void ErwarteFiguren(std::size_t punkte, std::size_t kanten);
     // Put a copy of the figure at the head of its list. Counts and duplicates are the caller's business.
     zrw::PunktKnoten& AddPunkt(const Punkt& item, Welt ort, PunktIndex iNr);
     PunktKante& AddKante(const Kante& item, PunktIndex iANr, PunktIndex iENr);
@@ -73,10 +73,10 @@ class Netz {
     }
     /// Whether the node is in its list: figures that were taken out are not.
     [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const {
-        return suche_.punkte.Hat(p.Folge) && &punktArena_[p.Folge].knoten == &p;
+        return suche_.punkte.HatFigur(p.Folge) && &punktArena_[p.Folge].knoten == &p;
     }
     [[nodiscard]] bool Enthaelt(const PunktKante& k) const {
-        return suche_.kanten.Hat(k.Folge) && &kanteArena_[k.Folge].knoten == &k;
+        return suche_.kanten.HatFigur(k.Folge) && &kanteArena_[k.Folge].knoten == &k;
     }
     [[nodiscard]] PPunktString FindText(PunktIndex n) const { return index_.FindeText(n); }
     [[nodiscard]] PktText* FindPktText(PunktIndex n) const;

@@ -31,7 +31,7 @@ bool Nah(const PktText& t) {
 class NachRang {
   public:
     explicit NachRang(std::size_t raenge) : platz_(raenge + 1) {}
-    void Nimm(std::uint32_t rang, std::uint32_t folge) {
+    void NimmFigur(std::uint32_t rang, std::uint32_t folge) {
         eintraege_.emplace_back(rang, folge);
         ++platz_[rang + 1];
     }
@@ -77,7 +77,7 @@ bool Netz::Suchbereit(const Bildlage& lage, const Bildbereich& b) const {
 }
 
 void Netz::BaueSuche() const {
-    suche_.Vergiss();
+    suche_.VergissBaeume();
     suche_.gebaut = true;
     ++suche_.bauten;
     Weltkasten& alles = suche_.alles.emplace();
@@ -98,8 +98,8 @@ void Netz::BaueSuche() const {
         rang[punkt(sortiert[i]).PNr] = i;
     }
     const std::size_t raenge = std::max<std::size_t>(sortiert.size(), 1);
-    suche_.punkte.Baue(std::move(sortiert), std::exchange(lose, {}),
-                       [&](std::uint32_t f) { return Kasten(punkt(f)); });
+    suche_.punkte.BaueBaum(std::move(sortiert), std::exchange(lose, {}),
+                           [&](std::uint32_t f) { return Kasten(punkt(f)); });
 
     const auto ende = [this](PunktIndex nr) {
         const zrw::PunktKnoten* p = SuchPkt(nr);
@@ -109,9 +109,9 @@ void Netz::BaueSuche() const {
     suche_.kanten.FuerAlle([&](std::uint32_t f) {
         const PunktKante& k = kanteArena_[f].knoten;
         if (ende(k.ANr) == nullptr || ende(k.ENr) == nullptr) return lose.push_back(f);
-        kanten.Nimm(rang[k.ANr], f);
+        kanten.NimmFigur(rang[k.ANr], f);
     });
-    suche_.kanten.Baue(kanten.Sortiert(), std::exchange(lose, {}), [&](std::uint32_t f) {
+    suche_.kanten.BaueBaum(kanten.Sortiert(), std::exchange(lose, {}), [&](std::uint32_t f) {
         const PunktKante& k = kanteArena_[f].knoten;
         Weltkasten kasten = Kasten(*SuchPkt(k.ANr));
         kasten.Nimm(Kasten(*SuchPkt(k.ENr)));
@@ -125,20 +125,20 @@ void Netz::BaueSuche() const {
         // Only the newest label of a number is told when its point moves.
         if (ende(t.TNr) == nullptr || !Nah(*t.Item) || index_.FindeText(t.TNr) != &t)
             return lose.push_back(f);
-        texte.Nimm(rang[t.TNr], f);
+        texte.NimmFigur(rang[t.TNr], f);
         abstaende.links = std::min(abstaende.links, t.Item->XBiO);
         abstaende.rechts = std::max(abstaende.rechts, t.Item->XBiO);
         abstaende.oben = std::min(abstaende.oben, t.Item->YBiO);
         abstaende.unten = std::max(abstaende.unten, t.Item->YBiO);
     });
-    suche_.texte.Baue(texte.Sortiert(), std::move(lose),
-                      [&](std::uint32_t f) { return Kasten(*SuchPkt(textArena_[f].knoten.TNr)); });
+    suche_.texte.BaueBaum(texte.Sortiert(), std::move(lose),
+                          [&](std::uint32_t f) { return Kasten(*SuchPkt(textArena_[f].knoten.TNr)); });
 }
 
 void Netz::SammlePunkte(const Ansicht& a, const Bildbereich& b, std::vector<PPunktKnoten>& aus) const {
     const auto nimm = [&](std::uint32_t f) { aus.push_back(&punktArena_[f].knoten); };
     const Bildlage lage = a.Lage();
-    Suchbereit(lage, b) ? suche_.punkte.Suche(WeltUnter(lage, b), nimm) : suche_.punkte.FuerAlle(nimm);
+    Suchbereit(lage, b) ? suche_.punkte.SucheFiguren(WeltUnter(lage, b), nimm) : suche_.punkte.FuerAlle(nimm);
 }
 
 void Netz::SammleKanten(const Ansicht& a, const Bildbereich& b, std::vector<PPunktKante>& aus) const {
@@ -151,21 +151,21 @@ void Netz::SammleKanten(const Ansicht& a, const Bildbereich& b, std::vector<PPun
 void Netz::SammleKanten(const Ansicht& a, const Bildbereich& b, std::vector<std::uint32_t>& aus) const {
     const auto nimm = [&](std::uint32_t f) { aus.push_back(f); };
     const Bildlage lage = a.Lage();
-    Suchbereit(lage, b) ? suche_.kanten.Suche(WeltUnter(lage, b), nimm) : suche_.kanten.FuerAlle(nimm);
+    Suchbereit(lage, b) ? suche_.kanten.SucheFiguren(WeltUnter(lage, b), nimm) : suche_.kanten.FuerAlle(nimm);
 }
 
 void Netz::SammleTexte(const Ansicht& a, const Bildbereich& b, std::vector<PPunktString>& aus) const {
     const auto nimm = [&](std::uint32_t f) { aus.push_back(&textArena_[f].knoten); };
     const Bildlage lage = a.Lage();
     if (!Suchbereit(lage, b)) return suche_.texte.FuerAlle(nimm);
-    suche_.texte.Suche(WeltUnter(lage, OhneAbstand(b, suche_.abstaende)), nimm);
+    suche_.texte.SucheFiguren(WeltUnter(lage, OhneAbstand(b, suche_.abstaende)), nimm);
 }
 
 /// A point came, left or moved: its lines and its label lie elsewhere.
 void Netz::MeldePunkt(const zrw::PunktKnoten& p) {
     lueckenlos_.reset();
     if (!suche_.gebaut) return;
-    if (suche_.punkte.Hat(p.Folge)) suche_.punkte.Verlegt(p.Folge);
+    if (suche_.punkte.HatFigur(p.Folge)) suche_.punkte.Verlegt(p.Folge);
     FuerKantenAm(p.PNr, [&](const PunktKante& k) { suche_.kanten.Verlegt(k.Folge); });
     if (const PunktString* t = index_.FindeText(p.PNr); t != nullptr) suche_.texte.Verlegt(t->Folge);
 }

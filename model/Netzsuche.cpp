@@ -5,27 +5,27 @@
 
 namespace zrw {
 
-void Suchmenge::Auf(std::uint32_t folge, bool gebaut) {
+void Suchmenge::TrageFigurEin(std::uint32_t folge, bool gebaut) {
     if (folge / 64 >= da_.size()) da_.resize(folge / 64 + 1);
     da_[folge / 64] |= std::uint64_t{1} << (folge % 64);
     ++anzahl_;
     if (gebaut) lose_.push_back(folge);
 }
 
-void Suchmenge::Ab(std::uint32_t folge) {
-    if (!Hat(folge)) return;
+void Suchmenge::TrageFigurAus(std::uint32_t folge) {
+    if (!HatFigur(folge)) return;
     da_[folge / 64] &= ~(std::uint64_t{1} << (folge % 64));
     --anzahl_;
 }
 
-void Suchmenge::Leere() {
+void Suchmenge::LeereMenge() {
     da_.clear();
     anzahl_ = 0;
     VergissOrte();
 }
 
 void Suchmenge::VergissOrte() {
-    baum_.Leere();
+    baum_.LeereBaum();
     lose_.clear();
     loseBeimBau_ = 0;
 }
@@ -51,7 +51,7 @@ Weltkasten WeltUnter(const Bildlage& lage, const Bildbereich& b) {
             rechts + rand + ungenau(rechts) + ungenau(x), oben + rand + ungenau(oben) + ungenau(y)};
 }
 
-void Netzsuche::Vergiss() {
+void Netzsuche::VergissBaeume() {
     gebaut = false;
     alles.reset();
     punkte.VergissOrte();

@@ -35,14 +35,14 @@ struct Bildbereich {
 /// What is in one list: its figures by `Folge`, and where they are.
 class Suchmenge {
   public:
-    void Auf(std::uint32_t folge, bool gebaut);
-    void Ab(std::uint32_t folge);
+    void TrageFigurEin(std::uint32_t folge, bool gebaut);
+    void TrageFigurAus(std::uint32_t folge);
     /// The figure has moved, or does not lie where its point does.
     void Verlegt(std::uint32_t folge) {
         assert(folge / 64 < da_.size());
         lose_.push_back(folge);
     }
-    [[nodiscard]] bool Hat(std::uint32_t folge) const {
+    [[nodiscard]] bool HatFigur(std::uint32_t folge) const {
         return folge / 64 < da_.size() && (da_[folge / 64] >> (folge % 64) & 1U) != 0;
     }
     /// So much has come or moved since the tree was built that building it again pays. Figures that no tree
@@ -51,30 +51,30 @@ class Suchmenge {
 
     /// @param eintraege those with a box, neighbours beside each other; all others are kept beside the tree
     template <class Kasten>
-    void Baue(std::vector<std::uint32_t> eintraege, std::vector<std::uint32_t> lose, Kasten kasten) {
-        baum_.Baue(std::move(eintraege), kasten);
+    void BaueBaum(std::vector<std::uint32_t> eintraege, std::vector<std::uint32_t> lose, Kasten kasten) {
+        baum_.BaueBaum(std::move(eintraege), kasten);
         lose_ = std::move(lose);
         loseBeimBau_ = lose_.size();
     }
-    void Leere();
+    void LeereMenge();
     /// Forgets where the figures are.
     void VergissOrte();
 
     /// Calls `tun(folge)` for all figures, from the newest to the oldest.
     template <class Tun>
     void FuerAlle(Tun tun) const {
-        Zaehle(da_, tun);
+        FuerJedesBit(da_, tun);
     }
     /// The same for those that may touch the rectangle.
     template <class Tun>
-    void Suche(const Weltkasten& wo, Tun tun) const {
+    void SucheFiguren(const Weltkasten& wo, Tun tun) const {
         std::vector<std::uint32_t> treffer = lose_;
-        baum_.Suche(wo, [&](std::uint32_t f) { treffer.push_back(f); });
+        baum_.SucheEintraege(wo, [&](std::uint32_t f) { treffer.push_back(f); });
         if (treffer.size() < kWenige) {
             std::sort(treffer.rbegin(), treffer.rend());
             std::uint32_t voriger = ~0U;
             for (const std::uint32_t f : treffer) {
-                if (f != voriger && Hat(f)) tun(f);
+                if (f != voriger && HatFigur(f)) tun(f);
                 voriger = f;
             }
             return;
@@ -82,16 +82,16 @@ class Suchmenge {
         // Many are sorted by ticking them off.
         std::vector<std::uint64_t> bits(da_.size());
         for (const std::uint32_t f : treffer) {
-            if (Hat(f)) bits[f / 64] |= std::uint64_t{1} << (f % 64);
+            if (HatFigur(f)) bits[f / 64] |= std::uint64_t{1} << (f % 64);
         }
-        Zaehle(bits, tun);
+        FuerJedesBit(bits, tun);
     }
 
   private:
     static constexpr std::size_t kWenige = 512;
 
     template <class Tun>
-    static void Zaehle(const std::vector<std::uint64_t>& bits, Tun tun) {
+    static void FuerJedesBit(const std::vector<std::uint64_t>& bits, Tun tun) {
         for (std::size_t i = bits.size(); i-- > 0;) {
             for (std::uint64_t wort = bits[i]; wort != 0;) {
                 const auto hoechstes = static_cast<std::uint32_t>(63 - std::countl_zero(wort));
@@ -129,7 +129,7 @@ struct Netzsuche {
     [[nodiscard]] bool Ueberholt() const {
         return !gebaut || punkte.Ueberholt() || kanten.Ueberholt() || texte.Ueberholt();
     }
-    void Vergiss();
+    void VergissBaeume();
 };
 
 }  // namespace zrw

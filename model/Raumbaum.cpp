@@ -10,7 +10,8 @@ namespace {
 
 /// Sorts numbers by keys; equal ones stay in their order.
 /// @param bits no key has more
-void Sortiere(std::vector<std::uint32_t>& nummern, std::span<const std::uint64_t> schluessel, int bits) {
+void SortiereNummern(std::vector<std::uint32_t>& nummern, std::span<const std::uint64_t> schluessel,
+                     int bits) {
     constexpr std::size_t kFaecher = std::size_t{1} << 16U;
     if (nummern.size() < kFaecher / 16) {
         std::stable_sort(nummern.begin(), nummern.end(),
@@ -42,7 +43,7 @@ std::uint64_t Ordnung(double v) {
 }
 
 /// Spreads 32 bits to every second one of 64.
-std::uint64_t Spreize(std::uint64_t v) {
+std::uint64_t SpreizeBits(std::uint64_t v) {
     v = (v | v << 16U) & 0x0000FFFF0000FFFFU;
     v = (v | v << 8U) & 0x00FF00FF00FF00FFU;
     v = (v | v << 4U) & 0x0F0F0F0F0F0F0F0FU;
@@ -60,15 +61,15 @@ std::vector<std::uint32_t> SortiereNachOrt(std::span<const Ebenenort> orte) {
     for (const bool hoch : {false, true}) {
         for (std::size_t i = 0; i < orte.size(); ++i)
             schluessel[i] = Ordnung(hoch ? orte[i].y : orte[i].x);
-        Sortiere(nummern, schluessel, 64);
+        SortiereNummern(nummern, schluessel, 64);
         for (std::size_t rang = 0; rang < nummern.size(); ++rang)
-            kurve[nummern[rang]] |= Spreize(rang) << (hoch ? 1U : 0U);
+            kurve[nummern[rang]] |= SpreizeBits(rang) << (hoch ? 1U : 0U);
     }
-    Sortiere(nummern, kurve, 48);
+    SortiereNummern(nummern, kurve, 48);
     return nummern;
 }
 
-void Raumbaum::Stapele() {
+void Raumbaum::StapeleEbenen() {
     while (ebenen_.back().size() > kFach) {
         const std::vector<Weltkasten>& darunter = ebenen_.back();
         std::vector<Weltkasten> ebene((darunter.size() + kFach - 1) / kFach);

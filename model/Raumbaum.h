@@ -17,7 +17,7 @@ class Raumbaum {
   public:
     /// @param eintraege neighbours beside each other @param kasten box of an entry, all finite
     template <class Kasten>
-    void Baue(std::vector<std::uint32_t> eintraege, Kasten kasten) {
+    void BaueBaum(std::vector<std::uint32_t> eintraege, Kasten kasten) {
         eintraege_ = std::move(eintraege);
         ebenen_.clear();
         std::vector<Weltkasten> blaetter((eintraege_.size() + kFach - 1) / kFach);
@@ -27,29 +27,30 @@ class Raumbaum {
             blaetter[i / kFach].Nimm(k);
         }
         ebenen_.push_back(std::move(blaetter));
-        Stapele();
+        StapeleEbenen();
     }
-    void Leere() {
+    void LeereBaum() {
         eintraege_.clear();
         ebenen_.clear();
     }
     /// Calls `tun(entry)` at least for every entry whose box touches the rectangle.
     template <class Tun>
-    void Suche(const Weltkasten& wo, Tun tun) const {
-        if (!ebenen_.empty()) Steige(ebenen_.size() - 1, 0, ebenen_.back().size(), wo, tun);
+    void SucheEintraege(const Weltkasten& wo, Tun tun) const {
+        if (!ebenen_.empty()) SucheInEbene(ebenen_.size() - 1, 0, ebenen_.back().size(), wo, tun);
     }
 
   private:
     static constexpr std::size_t kFach = 16;  ///< entries of a leaf, and boxes of a node
 
-    void Stapele();
+    void StapeleEbenen();
     template <class Tun>
-    void Steige(std::size_t ebene, std::size_t von, std::size_t bis, const Weltkasten& wo, Tun& tun) const {
+    void SucheInEbene(std::size_t ebene, std::size_t von, std::size_t bis, const Weltkasten& wo,
+                      Tun& tun) const {
         for (std::size_t i = von; i < bis; ++i) {
             if (!ebenen_[ebene][i].Beruehrt(wo)) continue;
             const std::size_t anfang = i * kFach;
             if (ebene > 0) {
-                Steige(ebene - 1, anfang, std::min(anfang + kFach, ebenen_[ebene - 1].size()), wo, tun);
+                SucheInEbene(ebene - 1, anfang, std::min(anfang + kFach, ebenen_[ebene - 1].size()), wo, tun);
                 continue;
             }
             for (std::size_t k = anfang; k < std::min(anfang + kFach, eintraege_.size()); ++k)

@@ -14,21 +14,21 @@ namespace zrw {
 template <class Schluessel, class Wert>
 class Streutafel {
   public:
-    [[nodiscard]] Wert Finde(const Schluessel& s) const {
+    [[nodiscard]] Wert FindeWert(const Schluessel& s) const {
         if (faecher_.empty()) return {};
-        return faecher_[Suche(s)].wert;
+        return faecher_[SucheFach(s)].wert;
     }
     /// Enters the value; one of the same key is displaced, as the head of a list hides what is behind it.
-    void Setze(const Schluessel& s, Wert wert) {
-        if ((belegt_ + 1) * 5 > faecher_.size() * 4) Wachse();
-        Fach& fach = faecher_[Suche(s)];
+    void SetzeWert(const Schluessel& s, Wert wert) {
+        if ((belegt_ + 1) * 5 > faecher_.size() * 4) VergroessereTafel();
+        Fach& fach = faecher_[SucheFach(s)];
         if (!fach.wert) ++belegt_;
         fach = {s, wert};
     }
     /// Makes room for so many entries at once.
-    void Erwarte(std::size_t anzahl) {
+    void ErwarteEintraege(std::size_t anzahl) {
         while (anzahl * 5 > faecher_.size() * 4)
-            Wachse();
+            VergroessereTafel();
     }
 
   private:
@@ -39,19 +39,19 @@ class Streutafel {
     [[nodiscard]] std::size_t Platz(const Schluessel& s) const {
         return s.Streuwert(saat_) & (faecher_.size() - 1);
     }
-    [[nodiscard]] std::size_t Weiter(std::size_t i) const { return (i + 1) & (faecher_.size() - 1); }
+    [[nodiscard]] std::size_t NaechstesFach(std::size_t i) const { return (i + 1) & (faecher_.size() - 1); }
     /// The place of the key, or the free one where it belongs.
-    [[nodiscard]] std::size_t Suche(const Schluessel& s) const {
+    [[nodiscard]] std::size_t SucheFach(const Schluessel& s) const {
         std::size_t i = Platz(s);
         while (faecher_[i].wert && !(faecher_[i].schluessel == s))
-            i = Weiter(i);
+            i = NaechstesFach(i);
         return i;
     }
-    void Wachse() {
+    void VergroessereTafel() {
         std::vector<Fach> alt(faecher_.empty() ? 64 : faecher_.size() * 2);
         alt.swap(faecher_);
         for (const Fach& f : alt) {
-            if (f.wert) faecher_[Suche(f.schluessel)] = f;
+            if (f.wert) faecher_[SucheFach(f.schluessel)] = f;
         }
     }
     std::uint64_t saat_ = NeueSaat();

@@ -226,9 +226,9 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
         if (!ergebnis.mLBekannt) ergebnis.mL = 0.0;
     });
     // From the last to the first: the first row of a number is the one that counts.
-    tafel.zu.Erwarte(nummern.size());
+    tafel.zu.ErwarteEintraege(nummern.size());
     for (std::size_t i = nummern.size(); i-- > 0;)
-        tafel.zu.Setze(nummern[i], &tafel.werte[i]);
+        tafel.zu.SetzeWert(nummern[i], &tafel.werte[i]);
     return tafel;
 }
 
@@ -257,7 +257,7 @@ void TDM::Erneuere() {
 }
 
 const Punktergebnis* TDM::Zu(std::string_view nummer) const {
-    return punkte_.zu.Finde(PunktNummernTyp(nummer));
+    return punkte_.zu.FindeWert(PunktNummernTyp(nummer));
 }
 
 std::vector<Tabellenmeldung> TDM::NimmMeldungen() {

@@ -140,10 +140,10 @@ TEST(Markentafel, BehaeltHoheNummernBeimWachsen) {
     std::vector<std::uint32_t> nummern;
     for (std::uint32_t i = 0; i < 500; ++i) {
         nummern.push_back(i % 2 == 0 ? i + 1 : 70'000 + i);
-        tafel.Erwarte(tafel.Anzahl() + 1, nummern.back(), streue);
-        tafel.Trage(streue(nummern.back()), nummern.back());
+        tafel.ErwarteEintraege(tafel.Anzahl() + 1, nummern.back(), streue);
+        tafel.TrageEin(streue(nummern.back()), nummern.back());
         for (const std::uint32_t nr : nummern)
-            ASSERT_EQ(tafel.Finde(streue(nr), [=](std::uint32_t n) { return n == nr; }), nr) << i;
+            ASSERT_EQ(tafel.FindeNummer(streue(nr), [=](std::uint32_t n) { return n == nr; }), nr) << i;
     }
 }
 
@@ -151,11 +151,11 @@ TEST(Markentafel, BehaeltHoheNummernBeimWachsen) {
 TEST(Figurenindex, ArenaFindetWasSieGab) {
     for (const std::size_t erwartet : {0U, 1U, 64U, 65U, 1000U, 30000U, 300000U}) {
         Arena<std::uint64_t> arena;
-        arena.Erwarte(erwartet);
+        arena.ErwarteKnoten(erwartet);
         std::vector<const std::uint64_t*> plaetze;
         for (std::uint64_t i = 0; i < 200'000; ++i)
             plaetze.push_back(arena.Neu(i));
-        arena.Erwarte(erwartet);  // too late: changes nothing
+        arena.ErwarteKnoten(erwartet);  // too late: changes nothing
         ASSERT_EQ(arena.Anzahl(), plaetze.size());
         for (std::size_t i = 0; i < plaetze.size(); ++i)
             ASSERT_TRUE(&arena[i] == plaetze[i] && arena[i] == i) << i << " of " << erwartet;
