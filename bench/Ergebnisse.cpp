@@ -141,7 +141,7 @@ int Arbeite(Tabelle& tabelle) {
              return Miss([&] {
                  auto neu = std::make_unique<zrw::TDM>(dateien);
                  neu->SetzeOrdner(ordner.path().toStdString());
-                 neu->Erneuere();
+                 neu->ErneuereErgebnisse();
                  return neu;
              });
          }},

@@ -65,8 +65,8 @@ class Zufallsergebnisse final : public zrw::Punktergebnisse {
             e.mL = zufall.Gleich(1.0, 40.0);
         }
     }
-    void Erneuere() override {}
-    [[nodiscard]] const zrw::Punktergebnis* Zu(std::string_view nummer) const override {
+    void ErneuereErgebnisse() override {}
+    [[nodiscard]] const zrw::Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
         const auto i = werte_.find(std::string(nummer));
         return i != werte_.end() ? &i->second : nullptr;
     }

@@ -71,8 +71,8 @@ class Pruefflaeche final : public zrw::Zeichenflaeche {
 /// Results of every kind for every point, whatever a table might hold.
 class Wildergebnisse final : public zrw::Punktergebnisse {
   public:
-    void Erneuere() override {}
-    [[nodiscard]] const zrw::Punktergebnis* Zu(std::string_view nummer) const override {
+    void ErneuereErgebnisse() override {}
+    [[nodiscard]] const zrw::Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
         constexpr double kInf = std::numeric_limits<double>::infinity();
         static constexpr std::array kWerte{
             0.0, 1.0, -3.5, 40.0, 1e9, -1e300, 1e-300, kInf, -kInf, std::numeric_limits<double>::quiet_NaN()};

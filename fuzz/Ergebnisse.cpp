@@ -77,9 +77,9 @@ void Pruefe(Tabelle tabelle, std::string_view bytes) {
         dateien.dateien[name] = bytes.substr(0, laenge);
         (void)MarkiereFehler(liste, daten, einstellungen);
         Frage(daten, tabelle);
-        daten.Erneuere();
+        daten.ErneuereErgebnisse();
         for (const char* nummer : {"A", "B", "", "14 Zeichen lang"})
-            (void)daten.Zu(nummer);
+            (void)daten.ErgebnisZu(nummer);
         (void)daten.NimmMeldungen();
     }
     fuzz::PruefeListe(liste);

@@ -38,7 +38,7 @@ struct Ableitungen {
     double c;         // polar radius of curvature [m]
 };
 
-Ableitungen Ableiten(double f, double a) {
+Ableitungen LeiteEllipsoidAb(double f, double a) {
     const double e2 = 2.0 * f - f * f;
     return {e2, e2 / (1.0 - e2), a / std::sqrt(1.0 - e2)};
 }
@@ -147,7 +147,7 @@ Ellipsoid EllipsoidRadii(int nummer, Grad breite) {
 }
 
 Gitterpunkt GeoToGrid(Abbildung modus, int hauptmeridian, Grad laenge, Grad breite, double f, double a) {
-    const Ableitungen ell = Ableiten(f, a);
+    const Ableitungen ell = LeiteEllipsoidAb(f, a);
     const double k0 = MassstabHauptmeridian(modus);
     const double s = ell.eStrich2;
     const double phi = breite.wert / kRho;
@@ -175,7 +175,7 @@ Gitterpunkt GeoToGrid(Abbildung modus, int hauptmeridian, Grad laenge, Grad brei
 }
 
 Geograph GridToGeo(Abbildung modus, double hoch, double rechts, double f, double a) {
-    const Ableitungen ell = Ableiten(f, a);
+    const Ableitungen ell = LeiteEllipsoidAb(f, a);
     const double k0 = MassstabHauptmeridian(modus);
     const double s = ell.eStrich2;
     const Streifenlage lage = StreifenlageAus(modus, rechts);

@@ -177,19 +177,19 @@ void Netzbauer::Richtung(const Wartende& w) {
 
 void Netzbauer::Strecke(const Wartende& w) {
     Kantenstand* k = Zusammenfuehren(w, einstellungen_.RICol, KanteAttr::ST, LinieAttr::AST);
-    if (k != nullptr) k->kAttr.Setze(KanteAttr::ST);
+    if (k != nullptr) k->kAttr.SetzeArt(KanteAttr::ST);
 }
 
 void Netzbauer::Hoehenunterschied(const Wartende& w) {
     Kantenstand* k = Zusammenfuehren(w, einstellungen_.RICol, KanteAttr::DH1, LinieAttr::AST);
     if (k == nullptr) return;
     if (k->lAttr == LinieAttr::AST) Orientiere(*k, w.p1);
-    k->kAttr.Setze(k->anfang == w.p1 ? KanteAttr::DH1 : KanteAttr::DH2);
+    k->kAttr.SetzeArt(k->anfang == w.p1 ? KanteAttr::DH1 : KanteAttr::DH2);
 }
 
 void Netzbauer::GPSVektor(const Wartende& w) {
     Kantenstand* k = Zusammenfuehren(w, einstellungen_.GPSCol, KanteAttr::GPS, LinieAttr::Null);
-    if (k != nullptr) k->kAttr.Setze(KanteAttr::GPS);
+    if (k != nullptr) k->kAttr.SetzeArt(KanteAttr::GPS);
 }
 
 }  // namespace zrw

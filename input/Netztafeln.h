@@ -106,7 +106,7 @@ class Kantentafel {
 
   private:
     [[nodiscard]] std::uint64_t Streuwert(PunktIndex a, PunktIndex b) const {
-        return Mische((std::uint64_t{std::min(a, b)} << 16U | std::max(a, b)) ^ saat_);
+        return MischeBits((std::uint64_t{std::min(a, b)} << 16U | std::max(a, b)) ^ saat_);
     }
     std::uint64_t saat_ = NeueSaat();
     Markentafel tafel_;

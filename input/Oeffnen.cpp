@@ -31,7 +31,7 @@ Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateie
               datei);
         liste.Weite = bild.weite;
         liste.Hoehe = bild.hoehe;
-        liste.Vergiss();
+        liste.VergissLage();
         PasseEin(liste);
     }
     return lesung;

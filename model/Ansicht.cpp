@@ -98,7 +98,7 @@ void Ansicht::SetzeAusdehnung(const Weltkasten& welt) {
     MinYW = std::trunc(welt.unten / kKilometer - 1) * kKilometer;
 }
 
-void Ansicht::Vergiss() {
+void Ansicht::VergissLage() {
     const Ansicht leer;
     *this = Ansicht{.Weite = Weite, .Hoehe = Hoehe, .Faktor = leer.Faktor};
 }
@@ -127,7 +127,7 @@ void Ansicht::SetzeVersatz(Welt anfang, Bildpunkt weg) {
     YOffset = anfang.hoch + static_cast<double>(weg.y) * Faktor;
 }
 
-bool Ansicht::Zoome(double x, double y, bool groesser, double schritt) {
+bool Ansicht::ZoomeSchritt(double x, double y, bool groesser, double schritt) {
     const double vorher = Faktor;
     const double danach = groesser ? vorher * schritt : vorher / schritt;
     if (groesser ? danach < kFeinster : danach > kGroebster) return false;

@@ -60,7 +60,7 @@ struct Ansicht {
     /// Takes over the extents of a network, widened to whole kilometres with one to spare.
     void SetzeAusdehnung(const Weltkasten& welt);
     /// Forgets extents, offsets and scale; the size stays.
-    void Vergiss();
+    void VergissLage();
     /// Scale that fits the extents: horizontal extent / (`Hoehe` - 30), vertical extent / `Weite`.
     void Findfaktor();
     /// Fits the extents into the picture.
@@ -76,7 +76,7 @@ struct Ansicht {
     void VerkleinereUmEcke(double schritt) { Faktor /= schritt; }
     /// One zoom step that keeps the world position at (x, y) [px] in place.
     /// @return false: zooming ends here, nothing has changed
-    [[nodiscard]] bool Zoome(double x, double y, bool groesser, double schritt);
+    [[nodiscard]] bool ZoomeSchritt(double x, double y, bool groesser, double schritt);
 };
 
 /// False where the scale lies beyond what zooming allows.

@@ -29,7 +29,7 @@ template <class Zeile, std::size_t N, class Schluessel>
 
 /// Null for a value that is no member: bytes of picture files may be anything.
 template <class Zeile, std::size_t N, class Glied>
-[[nodiscard]] constexpr const Zeile* Nachschlagen(const std::array<Zeile, N>& tafel, Glied wert) {
+[[nodiscard]] constexpr const Zeile* FindeZeile(const std::array<Zeile, N>& tafel, Glied wert) {
     const auto i = static_cast<std::size_t>(wert);
     return i < N ? &tafel[i] : nullptr;
 }

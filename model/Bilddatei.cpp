@@ -152,8 +152,8 @@ std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::
     }
     liste.WeltinBild();  // the file holds positions, too
     ByteSchreiber f;
-    f.Reserviere(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
-                 static_cast<std::size_t>(liste.MaxKant) * kKantensatz);
+    f.ReserviereBytes(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
+                      static_cast<std::size_t>(liste.MaxKant) * kKantensatz);
     liste.StoreOhne(herrenlose, f, netz);
     dateien.ErsetzeDatei(datei, f.Inhalt());
     return herrenlose.size();

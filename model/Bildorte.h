@@ -65,17 +65,17 @@ class Bildorte {
     Bildorte& operator=(const Bildorte&) = delete;
 
     /// What is known already, of the newest point of the number.
-    void Nimm(PunktIndex nr, Bildpunkt ort) {
+    void NimmOrt(PunktIndex nr, Bildpunkt ort) {
         s_.bekannt[nr] = true;
         const bool nah = Nah(ort.x) && Nah(ort.y);
         s_.orte[nr] =
             nah ? Platz{static_cast<std::int32_t>(ort.x), static_cast<std::int32_t>(ort.y)} : Platz{kFern, 0};
     }
     /// Asks for the memory of a number ahead of time.
-    void Hole(PunktIndex nr) const { HoleVor(&s_.orte[nr]); }
+    void HoleOrtVor(PunktIndex nr) const { HoleVor(&s_.orte[nr]); }
     /// Of the newest point of the number, nothing where there is none.
-    [[nodiscard]] std::optional<Bildpunkt> Finde(PunktIndex nr) {
-        if (!s_.bekannt[nr]) Suche(nr);
+    [[nodiscard]] std::optional<Bildpunkt> FindeOrt(PunktIndex nr) {
+        if (!s_.bekannt[nr]) SucheOrt(nr);
         const Platz ort = s_.orte[nr];
         if (ort.x > kFern) return Bildpunkt{ort.x, ort.y};
         if (ort.x == kKeiner) return std::nullopt;
@@ -86,9 +86,13 @@ class Bildorte {
         if (!s_.bekannt[nr] || s_.orte[nr].x <= kFern) return std::nullopt;
         return Bildpunkt{s_.orte[nr].x, s_.orte[nr].y};
     }
-    [[nodiscard]] Bildpunkt Anfang(const PunktKante& k) { return Finde(k.ANr).value_or(k.Item->Position()); }
-    [[nodiscard]] Bildpunkt Ende(const PunktKante& k) { return Finde(k.ENr).value_or(k.Item->Ende()); }
-    [[nodiscard]] Bildpunkt Text(const PunktString& t) { return Finde(t.TNr).value_or(t.Item->Position()); }
+    [[nodiscard]] Bildpunkt Anfang(const PunktKante& k) {
+        return FindeOrt(k.ANr).value_or(k.Item->Position());
+    }
+    [[nodiscard]] Bildpunkt Ende(const PunktKante& k) { return FindeOrt(k.ENr).value_or(k.Item->Ende()); }
+    [[nodiscard]] Bildpunkt Text(const PunktString& t) {
+        return FindeOrt(t.TNr).value_or(t.Item->Position());
+    }
 
   private:
     using Platz = Ortsspeicher::Platz;
@@ -99,9 +103,9 @@ class Bildorte {
     [[nodiscard]] static bool Nah(std::int64_t v) {
         return v > kFern && v <= std::numeric_limits<std::int32_t>::max();
     }
-    void Suche(PunktIndex nr) {
+    void SucheOrt(PunktIndex nr) {
         if (const auto w = netz_.Weltort(nr)) {
-            Nimm(nr, ansicht_.Bildort(*w));
+            NimmOrt(nr, ansicht_.Bildort(*w));
         } else {
             s_.bekannt[nr] = true;
             s_.orte[nr] = {kKeiner, 0};

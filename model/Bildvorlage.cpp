@@ -31,7 +31,7 @@ void ZeichneKanten(const Bildvorlage& v, Zeichner& z) {
 void ZeichnePunkte(const Bildvorlage& v, Zeichner& z) {
     for (const PunktKnoten* p = v.netz.PunktKnoten; p != nullptr; p = p->Next) {
         if (v.Gezeichnet(*p) && v.darstellung.Dargestellt(*p->Item))
-            p->Item->Zeige(BildortVon(*p, v.ansicht), z);
+            p->Item->ZeigeSymbolBei(BildortVon(*p, v.ansicht), z);
     }
 }
 

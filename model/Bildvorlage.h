@@ -22,7 +22,7 @@ struct Auslassung {
     void SetzeFiguren(const Figurenmenge& m);
 
     template <class Knoten>
-    [[nodiscard]] bool Hat(const Knoten& k) const {
+    [[nodiscard]] bool HatFigur(const Knoten& k) const {
         return !figuren.empty() && figuren.count(&k) != 0;
     }
 };
@@ -35,12 +35,12 @@ struct Bildvorlage {
     const Auslassung* ohne = nullptr;  ///< null: nothing is left out
 
     /// The same plan in another view.
-    [[nodiscard]] Bildvorlage In(const Ansicht& andere) const {
+    [[nodiscard]] Bildvorlage InAnsicht(const Ansicht& andere) const {
         return {netz, andere, darstellung, legende, ohne};
     }
     template <class Knoten>
     [[nodiscard]] bool Gezeichnet(const Knoten& k) const {
-        return k.Item->Visible && (ohne == nullptr || !ohne->Hat(k));
+        return k.Item->Visible && (ohne == nullptr || !ohne->HatFigur(k));
     }
 };
 

@@ -25,19 +25,19 @@ template <class T>
 /// Appends values to a growing buffer.
 class ByteSchreiber {
   public:
-    void U8(std::uint8_t v) { Setze(v); }
-    void U16(std::uint16_t v) { Setze(v); }
-    void U32(std::uint32_t v) { Setze(v); }
-    void I32(std::int32_t v) { Setze(v); }
-    void I64(std::int64_t v) { Setze(v); }
-    void F64(double v) { Setze(std::bit_cast<std::uint64_t>(v)); }
+    void U8(std::uint8_t v) { SetzeZahl(v); }
+    void U16(std::uint16_t v) { SetzeZahl(v); }
+    void U32(std::uint32_t v) { SetzeZahl(v); }
+    void I32(std::int32_t v) { SetzeZahl(v); }
+    void I64(std::int64_t v) { SetzeZahl(v); }
+    void F64(double v) { SetzeZahl(std::bit_cast<std::uint64_t>(v)); }
     /// The text and then zeros up to `breite` bytes; a longer text is cut.
     void Text(std::string_view text, std::size_t breite) {
         const std::string_view gekuerzt = text.substr(0, breite);
         char* platz = Platz(breite);
         std::fill(std::copy(gekuerzt.begin(), gekuerzt.end(), platz), platz + breite, '\0');
     }
-    void Reserviere(std::size_t bytes) {
+    void ReserviereBytes(std::size_t bytes) {
         if (puffer_.size() < bytes) puffer_.resize(bytes);
     }
 
@@ -45,18 +45,18 @@ class ByteSchreiber {
 
   private:
     template <class T>
-    void Setze(T v) {
+    void SetzeZahl(T v) {
         v = KleinesEndeZuerst(v);
         std::memcpy(Platz(sizeof v), &v, sizeof v);
     }
     /// Room for so many bytes behind what is there; it counts from now on.
     [[nodiscard]] char* Platz(std::size_t bytes) {
-        if (puffer_.size() - laenge_ < bytes) Wachse(bytes);
+        if (puffer_.size() - laenge_ < bytes) VergroesserePuffer(bytes);
         char* platz = puffer_.data() + laenge_;
         laenge_ += bytes;
         return platz;
     }
-    void Wachse(std::size_t bytes) { puffer_.resize(2 * puffer_.size() + bytes + 256); }
+    void VergroesserePuffer(std::size_t bytes) { puffer_.resize(2 * puffer_.size() + bytes + 256); }
 
     std::string puffer_;  ///< appending to a text would cost more than the bytes
     std::size_t laenge_ = 0;
@@ -67,12 +67,12 @@ class ByteLeser {
   public:
     explicit ByteLeser(std::string_view inhalt) : inhalt_(inhalt) {}
 
-    [[nodiscard]] std::uint8_t U8() { return Hole<std::uint8_t>(); }
-    [[nodiscard]] std::uint16_t U16() { return Hole<std::uint16_t>(); }
-    [[nodiscard]] std::uint32_t U32() { return Hole<std::uint32_t>(); }
-    [[nodiscard]] std::int32_t I32() { return Hole<std::int32_t>(); }
-    [[nodiscard]] std::int64_t I64() { return Hole<std::int64_t>(); }
-    [[nodiscard]] double F64() { return std::bit_cast<double>(Hole<std::uint64_t>()); }
+    [[nodiscard]] std::uint8_t U8() { return HoleZahl<std::uint8_t>(); }
+    [[nodiscard]] std::uint16_t U16() { return HoleZahl<std::uint16_t>(); }
+    [[nodiscard]] std::uint32_t U32() { return HoleZahl<std::uint32_t>(); }
+    [[nodiscard]] std::int32_t I32() { return HoleZahl<std::int32_t>(); }
+    [[nodiscard]] std::int64_t I64() { return HoleZahl<std::int64_t>(); }
+    [[nodiscard]] double F64() { return std::bit_cast<double>(HoleZahl<std::uint64_t>()); }
     [[nodiscard]] bool Bool() { return U8() != 0; }
     [[nodiscard]] std::string_view Text(std::size_t breite) {
         if (breite > Rest()) {
@@ -89,7 +89,7 @@ class ByteLeser {
 
   private:
     template <class T>
-    [[nodiscard]] T Hole() {
+    [[nodiscard]] T HoleZahl() {
         T v{};
         if (sizeof v > Rest()) {
             Ende();

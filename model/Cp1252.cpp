@@ -32,7 +32,7 @@ void HaengeAn(std::string& ziel, char32_t c) {
 constexpr char32_t kKeins = 0xFFFFFFFF;
 
 /// Takes one character off the front; `kKeins` for a damaged sequence, of which one byte is taken.
-char32_t Nimm(std::string_view& t) {
+char32_t NimmZeichen(std::string_view& t) {
     const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(t[i]); };
     const std::uint8_t b = byte(0);
     const std::size_t laenge = b < 0x80 ? 1 : b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : b >= 0xC2 ? 2 : 0;
@@ -101,7 +101,7 @@ bool IstUtf8(std::string_view text) {
     for (;;) {
         text.remove_prefix(AsciiVorn(text));
         if (text.empty()) return hohe;
-        const char32_t c = Nimm(text);
+        const char32_t c = NimmZeichen(text);
         if (c == kKeins) return false;
         hohe = hohe || c >= 0x80;
     }
@@ -117,7 +117,7 @@ Zeichenverlust WandleInCp1252(std::string& text, std::size_t ab) {
         ziel += ascii;
         rest.remove_prefix(ascii);
         if (rest.empty()) break;
-        const auto byte = NachByte(Nimm(rest));
+        const auto byte = NachByte(NimmZeichen(rest));
         if (!byte && verlust.anzahl++ == 0) verlust.erstes = ziel;
         text[ziel++] = byte.value_or('?');
     }

@@ -45,13 +45,13 @@ std::optional<std::int64_t> LiesGanz32(const std::optional<std::string>& text) {
     return wert;
 }
 
-void Setze(Farbe& ziel, std::int64_t wert) {
+void SetzeWert(Farbe& ziel, std::int64_t wert) {
     ziel.wert = static_cast<std::uint32_t>(wert);
 }
-void Setze(std::uint16_t& ziel, std::int64_t wert) {
+void SetzeWert(std::uint16_t& ziel, std::int64_t wert) {
     ziel = static_cast<std::uint16_t>(wert & 0xFFFF);
 }
-void Setze(std::int32_t& ziel, std::int64_t wert) {
+void SetzeWert(std::int32_t& ziel, std::int64_t wert) {
     if (wert <= std::numeric_limits<std::int32_t>::max()) ziel = static_cast<std::int32_t>(wert);
 }
 
@@ -79,19 +79,19 @@ void Einstellungen::ScaleSizes(double geraetefaktor) {
 
 void LoadSettings(Einstellungen& e, const EinstellungsSpeicher& speicher) {
     for (const Schluessel& s : Ganzzahlen()) {
-        const auto wert = LiesGanz32(speicher.Lies(s.name));
+        const auto wert = LiesGanz32(speicher.LiesWert(s.name));
         if (!wert) continue;
-        std::visit([&](auto feld) { Setze(e.*feld, *wert); }, s.feld);
+        std::visit([&](auto feld) { SetzeWert(e.*feld, *wert); }, s.feld);
     }
-    e.ResMF = LiesReal(speicher.Lies(kResMF).value_or("1")).value_or(1.0);
+    e.ResMF = LiesReal(speicher.LiesWert(kResMF).value_or("1")).value_or(1.0);
 }
 
 void SaveSettings(const Einstellungen& e, EinstellungsSpeicher& speicher) {
     for (const Schluessel& s : Ganzzahlen()) {
         const std::int32_t wert = std::visit([&](auto feld) { return Ganz(e.*feld); }, s.feld);
-        speicher.Schreibe(s.name, std::to_string(wert));
+        speicher.SchreibeWert(s.name, std::to_string(wert));
     }
-    speicher.Schreibe(kResMF, SchreibeReal(e.ResMF));
+    speicher.SchreibeWert(kResMF, SchreibeReal(e.ResMF));
 }
 
 }  // namespace zrw

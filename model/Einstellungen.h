@@ -56,11 +56,11 @@ struct Einstellungen {
 class EinstellungsSpeicher {
   public:
     virtual ~EinstellungsSpeicher() = default;
-    [[nodiscard]] virtual std::optional<std::string> Lies(std::string_view schluessel) const = 0;
-    virtual void Schreibe(std::string_view schluessel, const std::string& text) = 0;
+    [[nodiscard]] virtual std::optional<std::string> LiesWert(std::string_view schluessel) const = 0;
+    virtual void SchreibeWert(std::string_view schluessel, const std::string& text) = 0;
     /// Puts what is written where it outlives the program, for stores that can.
     /// @throws Fehler where that cannot be done; the store keeps the values in memory
-    virtual void Sichere() {}
+    virtual void SichereWerte() {}
 };
 
 /// Reads the persistent settings. A missing or malformed integer keeps the value that the block has; the

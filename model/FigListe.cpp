@@ -12,13 +12,13 @@ namespace {
 
 /// Wipes every figure of a list from its head on.
 template <class Knoten>
-void Wische(const Knoten* kopf, Zeichner& z) {
+void WischeFiguren(const Knoten* kopf, Zeichner& z) {
     for (const Knoten* k = kopf; k != nullptr; k = k->Next)
         k->Item->Done(z);
 }
 
 template <class Figur>
-void Zeige(Figur& figur, Zeichner& z) {
+void ZeigeFigur(Figur& figur, Zeichner& z) {
     figur.Visible = true;
     figur.Show(z);
 }
@@ -39,17 +39,17 @@ void Liste::Done(Zeichner& z) {
 }
 
 void Liste::PunktDone(Zeichner& z) {
-    Wische(PunktKnoten, z);
+    WischeFiguren(PunktKnoten, z);
     LeerePunkte();
 }
 
 void Liste::KanteDone(Zeichner& z) {
-    Wische(KanteKnoten, z);
+    WischeFiguren(KanteKnoten, z);
     LeereKanten();
 }
 
 void Liste::PktTextDone(Zeichner& z) {
-    Wische(PktTextKnoten, z);
+    WischeFiguren(PktTextKnoten, z);
     LeereTexte();
 }
 
@@ -67,7 +67,7 @@ void Liste::WeltinBild() {
     Bildorte orte(*this, *this);
     FuerAllePunkte([&](const zrw::PunktKnoten& p) {
         const Bildpunkt ort = BildortVon(p, *this);
-        if (SuchPkt(p.PNr) == &p) orte.Nimm(p.PNr, ort);
+        if (SuchPkt(p.PNr) == &p) orte.NimmOrt(p.PNr, ort);
         setze(p.Item->XO, p.Item->YO, ort);
     });
     FuerAlleKanten([&](const PunktKante& k) {
@@ -119,12 +119,12 @@ void Liste::SetLegende(Zeichner& z) {
 // --- Moving and hitting -----------------------------------------------------------------------------------
 
 void Liste::MovePunkt(zrw::PunktKnoten& u, std::int64_t dx, std::int64_t dy) {
-    Versetze(u, Versetzt({u.XWPu, u.YWPu}, {dx, dy}));
+    VersetzePunkt(u, Versetzt({u.XWPu, u.YWPu}, {dx, dy}));
     WeltinBild();
 }
 
 void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeichner& z) {
-    Zentriere(p1, p2);
+    ZentrierePunkt(p1, p2);
     p1.Item->XO = p2.Item->XO;
     p1.Item->YO = p2.Item->YO;
     if (PktText* t = FindPktText(p1.PNr); t != nullptr) t->Hide(z);
@@ -132,7 +132,7 @@ void Liste::ZentrierPunkt(zrw::PunktKnoten& p1, const zrw::PunktKnoten& p2, Zeic
 
 void Liste::DragPktText(PunktString& u, Zeichner& z) {
     const Bildpunkt weg = u.Item->Drag(z);
-    Versetze(u, {Summe(u.Item->XBiO, weg.x), Summe(u.Item->YBiO, weg.y)});
+    VersetzeText(u, {Summe(u.Item->XBiO, weg.x), Summe(u.Item->YBiO, weg.y)});
 }
 
 void Liste::LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z) {
@@ -179,9 +179,9 @@ void Liste::DeletePunkt(PPunktKnoten pp, Zeichner& z) {
 }
 
 void Liste::ShowPunkt(zrw::PunktKnoten& pp, Zeichner& z) {
-    FuerKantenAm(pp.PNr, [&](PunktKante& k) { Zeige(*k.Item, z); });
-    if (PktText* t = FindPktText(pp.PNr); t != nullptr) Zeige(*t, z);
-    Zeige(*pp.Item, z);
+    FuerKantenAm(pp.PNr, [&](PunktKante& k) { ZeigeFigur(*k.Item, z); });
+    if (PktText* t = FindPktText(pp.PNr); t != nullptr) ZeigeFigur(*t, z);
+    ZeigeFigur(*pp.Item, z);
 }
 
 void Liste::HidePunkt(zrw::PunktKnoten& pp, Zeichner& z) {

@@ -64,7 +64,7 @@ class Liste : public Netz, public Ansicht, public Darstellung {
     /// Start of dragging: on a hit, hides the lines and labels at the point's position and sets `u`; on a
     /// miss `u` stays as it was.
     virtual bool MausPunkt(Bildpunkt maus, PPunktKnoten& u, Zeichner& z);
-    [[nodiscard]] virtual PPunktString MausPktText(Bildpunkt maus) const { return Suche().Text(maus); }
+    [[nodiscard]] virtual PPunktString MausPktText(Bildpunkt maus) const { return SucheTreffer().Text(maus); }
 
     /// One zoom step out. Does not clear the picture, unlike `ZoomUp`: the caller does, and counts on it.
     virtual void ZoomDown(Zeichner& z);
@@ -98,11 +98,13 @@ class Liste : public Netz, public Ansicht, public Darstellung {
     void SetLegende(Zeichner& z);
 
     // Hit-tests, of everything and of what the picture shows: neither hidden figures nor kinds that are off.
-    [[nodiscard]] PPunktKnoten ClickPunkt(Bildpunkt maus) const { return Suche().Punkt(maus); }
-    [[nodiscard]] PPunktKante PickKante(Bildpunkt maus) const { return Suche().Kante(maus); }
-    [[nodiscard]] PPunktKnoten ClickGezeigten(Bildpunkt maus) const { return Suche(this).Punkt(maus); }
-    [[nodiscard]] PPunktString ClickGezeigtenText(Bildpunkt maus) const { return Suche(this).Text(maus); }
-    [[nodiscard]] PPunktKante PickGezeigte(Bildpunkt maus) const { return Suche(this).Kante(maus); }
+    [[nodiscard]] PPunktKnoten ClickPunkt(Bildpunkt maus) const { return SucheTreffer().Punkt(maus); }
+    [[nodiscard]] PPunktKante PickKante(Bildpunkt maus) const { return SucheTreffer().Kante(maus); }
+    [[nodiscard]] PPunktKnoten ClickGezeigten(Bildpunkt maus) const { return SucheTreffer(this).Punkt(maus); }
+    [[nodiscard]] PPunktString ClickGezeigtenText(Bildpunkt maus) const {
+        return SucheTreffer(this).Text(maus);
+    }
+    [[nodiscard]] PPunktKante PickGezeigte(Bildpunkt maus) const { return SucheTreffer(this).Kante(maus); }
     /// Hides the lines and labels at the position of a point.
     void LoesePunkt(const zrw::PunktKnoten& punkt, Zeichner& z);
     /// Whether a position lies within the catch radius of the mouse.
@@ -125,7 +127,7 @@ class Liste : public Netz, public Ansicht, public Darstellung {
     [[nodiscard]] const Einstellungen& Anzeige() const { return einstellungen_; }
 
   private:
-    [[nodiscard]] Treffersuche Suche(const Darstellung* gezeigt = nullptr) const {
+    [[nodiscard]] Treffersuche SucheTreffer(const Darstellung* gezeigt = nullptr) const {
         return {*this, *this, einstellungen_.Fang, gezeigt};
     }
 

@@ -59,10 +59,10 @@ void Punkt::Done(Zeichner& z) {
 }
 
 void Punkt::Show(Zeichner& z) {
-    if (Visible) Zeige(Position(), z);
+    if (Visible) ZeigeSymbolBei(Position(), z);
 }
 
-void Punkt::Zeige(Bildpunkt ort, Zeichner& z) const {
+void Punkt::ZeigeSymbolBei(Bildpunkt ort, Zeichner& z) const {
     if (Zeichenbar(ort)) z.ZeichnePunkt(*this, ort, Gang::Zeigen);
 }
 

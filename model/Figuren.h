@@ -43,8 +43,8 @@ class KanteAttr {
         return k;
     }
 
-    [[nodiscard]] constexpr bool Hat(Art art) const { return (maske_ & Bit(art)) != 0; }
-    constexpr void Setze(Art art) { maske_ = static_cast<std::uint8_t>(maske_ | Bit(art)); }
+    [[nodiscard]] constexpr bool HatArt(Art art) const { return (maske_ & Bit(art)) != 0; }
+    constexpr void SetzeArt(Art art) { maske_ = static_cast<std::uint8_t>(maske_ | Bit(art)); }
     [[nodiscard]] constexpr std::uint8_t Maske() const { return maske_; }
     friend bool operator==(KanteAttr, KanteAttr) = default;
 
@@ -94,7 +94,7 @@ class Punkt final : public Ort {
     virtual void Done(Zeichner& z);  ///< wipes the point; the memory belongs to the list
     virtual void Show(Zeichner& z);
     /// Draws the point at a place of the picture, unless that lies beyond the drawable range.
-    void Zeige(Bildpunkt ort, Zeichner& z) const;
+    void ZeigeSymbolBei(Bildpunkt ort, Zeichner& z) const;
     virtual void Hide(Zeichner& z);
     [[nodiscard]] virtual bool IsVisible() const { return Visible; }
     /// Moves and leaves the point invisible: `Hide` clears `Visible` and `Show` heeds it. The list relies on

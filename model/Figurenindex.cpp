@@ -33,7 +33,7 @@ bool GleichesPaar(const PunktKante& k, PunktIndex a, PunktIndex e) {
 
 /// The same for two points, whichever is named first.
 std::uint64_t Streuwert(PunktIndex a, PunktIndex e, std::uint64_t saat) {
-    return Mische((std::uint64_t{std::min(a, e)} << 16U | std::max(a, e)) ^ saat);
+    return MischeBits((std::uint64_t{std::min(a, e)} << 16U | std::max(a, e)) ^ saat);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ class Gezeigt {
         : netz_(netz), darstellung_(darstellung), antworten_(std::make_unique<Antwort[]>(kMaxPunkte + 1)) {}
 
     /// What is known already, of the newest point of the number.
-    void Nimm(PunktIndex nr, bool gezeigt) { antworten_[nr] = gezeigt ? Antwort::Ja : Antwort::Nein; }
+    void NimmAntwort(PunktIndex nr, bool gezeigt) { antworten_[nr] = gezeigt ? Antwort::Ja : Antwort::Nein; }
     /// There is such a point, and its kind is switched on.
     [[nodiscard]] bool operator()(PunktIndex nr) {
         Antwort& a = antworten_[nr];

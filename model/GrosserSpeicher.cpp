@@ -13,7 +13,7 @@ namespace {
 
 [[maybe_unused]] constexpr std::size_t kSeite = std::size_t{2} << 20U;  ///< a large page
 
-void* Nimm(std::size_t bytes) {
+void* NimmBytes(std::size_t bytes) {
 #ifdef MADV_HUGEPAGE
     // A whole number of pages: whoever comes next shall not lie in the last one.
     if (bytes >= kSeite / 2) return std::aligned_alloc(kSeite, (bytes + kSeite - 1) / kSeite * kSeite);
@@ -24,7 +24,7 @@ void* Nimm(std::size_t bytes) {
 }  // namespace
 
 void* NimmSpeicher(std::size_t bytes, [[maybe_unused]] std::size_t genutzt) {
-    void* speicher = Nimm(bytes);
+    void* speicher = NimmBytes(bytes);
     if (speicher == nullptr) throw std::bad_alloc();
 #ifdef MADV_HUGEPAGE
     // A page of which little is used would cost more memory than it saves time.

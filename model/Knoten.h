@@ -15,7 +15,7 @@ namespace zrw {
 
 /// Node of a point.
 struct PunktKnoten {
-    // `Netz::Versetze` changes the two.
+    // `Netz::VersetzePunkt` changes the two.
     double XWPu = 0.0;  ///< easting [m], maps to the picture's horizontal axis
     double YWPu = 0.0;  ///< northing [m], grows upwards
     PunktIndex PNr = kKeinPunkt;
@@ -67,7 +67,7 @@ struct Figurenmenge {
     std::vector<PunktString*> texte;
 
     [[nodiscard]] std::size_t Anzahl() const { return punkte.size() + kanten.size() + texte.size(); }
-    void Nimm(const Figurenmenge& m) {
+    void NimmFiguren(const Figurenmenge& m) {
         punkte.insert(punkte.end(), m.punkte.begin(), m.punkte.end());
         kanten.insert(kanten.end(), m.kanten.begin(), m.kanten.end());
         texte.insert(texte.end(), m.texte.begin(), m.texte.end());

@@ -32,7 +32,7 @@ static_assert(InReihe(kLinienarten, &Linienart::attr, LinieAttr::ASTI));
 
 /// Bytes of a picture file that name no kind count as none.
 [[nodiscard]] constexpr const Linienart& ZurLinie(LinieAttr attr) {
-    const Linienart* art = Nachschlagen(kLinienarten, attr);
+    const Linienart* art = FindeZeile(kLinienarten, attr);
     return art != nullptr ? *art : kLinienarten.front();
 }
 

@@ -151,27 +151,27 @@ bool Netz::Lueckenlos() const {
 Weltkasten Netz::Ausdehnung() const {
     assert(PunktKnoten != nullptr);
     Weltkasten welt{PunktKnoten->XWPu, PunktKnoten->YWPu, PunktKnoten->XWPu, PunktKnoten->YWPu};
-    FuerAllePunkte([&](const zrw::PunktKnoten& p) { welt.Nimm(p.XWPu, p.YWPu); });
+    FuerAllePunkte([&](const zrw::PunktKnoten& p) { welt.NimmOrt(p.XWPu, p.YWPu); });
     return welt;
 }
 
 // --- Editing ----------------------------------------------------------------------------------------------
 
-void Netz::Versetze(zrw::PunktKnoten& p, Welt ort) {
+void Netz::VersetzePunkt(zrw::PunktKnoten& p, Welt ort) {
     p.XWPu = ort.rechts;
     p.YWPu = ort.hoch;
     index_.VerlegePunkt(p);
     MeldePunkt(p);
 }
 
-void Netz::Versetze(PunktString& t, Bildpunkt abstand) {
+void Netz::VersetzeText(PunktString& t, Bildpunkt abstand) {
     t.Item->XBiO = abstand.x;
     t.Item->YBiO = abstand.y;
     if (suche_.gebaut) suche_.texte.Verlegt(t.Folge);
 }
 
-void Netz::Zentriere(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum) {
-    Versetze(p, {zentrum.XWPu, zentrum.YWPu});
+void Netz::ZentrierePunkt(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum) {
+    VersetzePunkt(p, {zentrum.XWPu, zentrum.YWPu});
     if (PktText* t = FindPktText(p.PNr); t != nullptr) t->Visible = false;
 }
 
@@ -236,7 +236,7 @@ Herausnahme Netz::NimmHeraus(zrw::PunktKnoten& pp) {
 
 void Netz::SetzeZurueck(const Herausnahme& h) {
     if (h.punkt.knoten != nullptr) {
-        assert(!Enthaelt(*h.punkt.knoten));  // else the list would run in a circle
+        assert(!EnthaeltPunkt(*h.punkt.knoten));  // else the list would run in a circle
         HaengeEin(&PunktKnoten, *h.punkt.knoten);
         index_.SetzeFigurZurueck(*h.punkt.knoten, *PunktKnoten);
         suche_.punkte.TrageFigurEin(h.punkt.knoten->Folge, suche_.gebaut);
@@ -253,7 +253,7 @@ void Netz::SetzeZurueck(const Herausnahme& h) {
     // One walk for all lines, as when they left.
     PPunktKante* stelle = &KanteKnoten;
     for (const auto& k : h.kanten) {
-        assert(!Enthaelt(*k.knoten));
+        assert(!EnthaeltKante(*k.knoten));
         stelle = HaengeEin(stelle, *k.knoten);
         index_.SetzeFigurZurueck(*k.knoten, *KanteKnoten);
         suche_.kanten.TrageFigurEin(k.knoten->Folge, suche_.gebaut);

@@ -72,10 +72,10 @@ class Netz {
         return !(rechts < dort.links || rechts > dort.rechts || hoch < dort.unten || hoch > dort.oben);
     }
     /// Whether the node is in its list: figures that were taken out are not.
-    [[nodiscard]] bool Enthaelt(const zrw::PunktKnoten& p) const {
+    [[nodiscard]] bool EnthaeltPunkt(const zrw::PunktKnoten& p) const {
         return suche_.punkte.HatFigur(p.Folge) && &punktArena_[p.Folge].knoten == &p;
     }
-    [[nodiscard]] bool Enthaelt(const PunktKante& k) const {
+    [[nodiscard]] bool EnthaeltKante(const PunktKante& k) const {
         return suche_.kanten.HatFigur(k.Folge) && &kanteArena_[k.Folge].knoten == &k;
     }
     [[nodiscard]] PPunktString FindText(PunktIndex n) const { return index_.FindeText(n); }
@@ -111,10 +111,10 @@ class Netz {
 
     // --- Editing
     /// Moves a point in the world, or a label [px].
-    void Versetze(zrw::PunktKnoten& p, Welt ort);
-    void Versetze(PunktString& t, Bildpunkt abstand);
+    void VersetzePunkt(zrw::PunktKnoten& p, Welt ort);
+    void VersetzeText(PunktString& t, Bildpunkt abstand);
     /// Puts a point onto another one and hides its label.
-    void Zentriere(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum);
+    void ZentrierePunkt(zrw::PunktKnoten& p, const zrw::PunktKnoten& zentrum);
     /// Gives a line other observations.
     void SetzeBeobachtungen(PunktKante& k, LinieAttr richtung, KanteAttr weitere);
     /// Swaps start and end of a line.

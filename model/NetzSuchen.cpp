@@ -89,7 +89,7 @@ void Netz::BaueSuche() const {
         if (!Endlich(punkt(f))) return lose.push_back(f);
         folgen.push_back(f);
         orte.push_back({punkt(f).XWPu, punkt(f).YWPu});
-        alles.Nimm(punkt(f).XWPu, punkt(f).YWPu);
+        alles.NimmOrt(punkt(f).XWPu, punkt(f).YWPu);
     });
     Folgen sortiert = SortiereNachOrt(orte);
     Folgen rang(kMaxPunkte + 1);
@@ -114,7 +114,7 @@ void Netz::BaueSuche() const {
     suche_.kanten.BaueBaum(kanten.Sortiert(), std::exchange(lose, {}), [&](std::uint32_t f) {
         const PunktKante& k = kanteArena_[f].knoten;
         Weltkasten kasten = Kasten(*SuchPkt(k.ANr));
-        kasten.Nimm(Kasten(*SuchPkt(k.ENr)));
+        kasten.NimmKasten(Kasten(*SuchPkt(k.ENr)));
         return kasten;
     });
 

@@ -28,9 +28,10 @@ class Punktergebnisse {
   public:
     virtual ~Punktergebnisse() = default;
     /// Called once before a picture: makes the answers those of the table as it now is.
-    virtual void Erneuere() = 0;
-    /// The results of the point of this number (code page 1252), null without any. Holds until `Erneuere`.
-    [[nodiscard]] virtual const Punktergebnis* Zu(std::string_view nummer) const = 0;
+    virtual void ErneuereErgebnisse() = 0;
+    /// The results of the point of this number (code page 1252), null without any. Holds until
+    /// `ErneuereErgebnisse`.
+    [[nodiscard]] virtual const Punktergebnis* ErgebnisZu(std::string_view nummer) const = 0;
 };
 
 }  // namespace zrw

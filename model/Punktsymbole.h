@@ -70,7 +70,7 @@ static_assert(std::all_of(kPunktsymbole.begin(), kPunktsymbole.end(), [](const P
 
 /// Null for bytes that name no symbol: they draw nothing and have no name.
 [[nodiscard]] constexpr const Punktsymbol* ZumSymbol(PunktTyp typ) {
-    return Nachschlagen(kPunktsymbole, typ);
+    return FindeZeile(kPunktsymbole, typ);
 }
 
 }  // namespace zrw

@@ -74,7 +74,7 @@ void Raumbaum::StapeleEbenen() {
         const std::vector<Weltkasten>& darunter = ebenen_.back();
         std::vector<Weltkasten> ebene((darunter.size() + kFach - 1) / kFach);
         for (std::size_t i = 0; i < darunter.size(); ++i)
-            ebene[i / kFach].Nimm(darunter[i]);
+            ebene[i / kFach].NimmKasten(darunter[i]);
         ebenen_.push_back(std::move(ebene));
     }
 }

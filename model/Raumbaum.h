@@ -24,7 +24,7 @@ class Raumbaum {
         for (std::size_t i = 0; i < eintraege_.size(); ++i) {
             const Weltkasten k = kasten(eintraege_[i]);
             assert(!k.Leer());
-            blaetter[i / kFach].Nimm(k);
+            blaetter[i / kFach].NimmKasten(k);
         }
         ebenen_.push_back(std::move(blaetter));
         StapeleEbenen();
@@ -47,7 +47,7 @@ class Raumbaum {
     void SucheInEbene(std::size_t ebene, std::size_t von, std::size_t bis, const Weltkasten& wo,
                       Tun& tun) const {
         for (std::size_t i = von; i < bis; ++i) {
-            if (!ebenen_[ebene][i].Beruehrt(wo)) continue;
+            if (!ebenen_[ebene][i].BeruehrtKasten(wo)) continue;
             const std::size_t anfang = i * kFach;
             if (ebene > 0) {
                 SucheInEbene(ebene - 1, anfang, std::min(anfang + kFach, ebenen_[ebene - 1].size()), wo, tun);

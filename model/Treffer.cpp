@@ -33,7 +33,7 @@ bool Klein(std::int64_t v) {
 }
 
 /// Whether the segment of a line passes within `r` pixels of the mouse.
-bool Trifft(Bildpunkt anfang, Bildpunkt ende, Bildpunkt maus, std::int64_t r) {
+bool TrifftMaus(Bildpunkt anfang, Bildpunkt ende, Bildpunkt maus, std::int64_t r) {
     const std::int64_t sx = Differenz(anfang.x, maus.x);
     const std::int64_t sy = Differenz(anfang.y, maus.y);
     const std::int64_t ex = Differenz(ende.x, maus.x);
@@ -82,7 +82,7 @@ PPunktKnoten Treffersuche::Punkt(Bildpunkt maus) const {
     const Weltkasten dort = Fangkasten(ansicht_, bereich);
     netz_.SammlePunkte(ansicht_, bereich, nahe);
     return Erster(nahe, [&](const PunktKnoten& p) {
-        return dort.Beruehrt({p.XWPu, p.YWPu, p.XWPu, p.YWPu}) &&
+        return dort.BeruehrtKasten({p.XWPu, p.YWPu, p.XWPu, p.YWPu}) &&
                Gefangen(maus, BildortVon(p, ansicht_), fang_) &&
                (gezeigt_ == nullptr || (p.Item->Visible && gezeigt_->Dargestellt(*p.Item)));
     });
@@ -112,7 +112,7 @@ PPunktKante Treffersuche::Kante(Bildpunkt maus) const {
         if (!netz_.BeruehrtVielleicht(netz_.Enden(folge), dort)) continue;
         PunktKante& k = netz_.KanteNach(folge);
         if ((gezeigt_ == nullptr || k.Item->Visible) &&
-            Trifft(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
+            TrifftMaus(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
             Gezeigt(k.ANr) && Gezeigt(k.ENr))
             return &k;
     }

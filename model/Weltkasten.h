@@ -13,20 +13,20 @@ struct Weltkasten {
     double rechts = -1e300;
     double oben = -1e300;
 
-    void Nimm(double x, double y) {
+    void NimmOrt(double x, double y) {
         links = std::min(links, x);
         rechts = std::max(rechts, x);
         unten = std::min(unten, y);
         oben = std::max(oben, y);
     }
-    void Nimm(const Weltkasten& k) {
+    void NimmKasten(const Weltkasten& k) {
         links = std::min(links, k.links);
         rechts = std::max(rechts, k.rechts);
         unten = std::min(unten, k.unten);
         oben = std::max(oben, k.oben);
     }
     [[nodiscard]] bool Leer() const { return !(links <= rechts && unten <= oben); }
-    [[nodiscard]] bool Beruehrt(const Weltkasten& k) const {
+    [[nodiscard]] bool BeruehrtKasten(const Weltkasten& k) const {
         return links <= k.rechts && k.links <= rechts && unten <= k.oben && k.unten <= oben;
     }
 };

@@ -42,7 +42,7 @@ inline constexpr PunktIndex kKeinPunkt = 0;
 inline constexpr std::size_t kMaxPunkte = 65535;
 
 /// Reversible mixing of 64 bits (the finaliser of splitmix64, Steele, Lea and Flood 2014).
-[[nodiscard]] constexpr std::uint64_t Mische(std::uint64_t h) {
+[[nodiscard]] constexpr std::uint64_t MischeBits(std::uint64_t h) {
     h = (h ^ (h >> 30U)) * 0xBF58476D1CE4E5B9ULL;
     h = (h ^ (h >> 27U)) * 0x94D049BB133111EBULL;
     return h ^ (h >> 31U);
@@ -69,7 +69,7 @@ class PunktNummernTyp {
 
     /// Spread over all 64 bits, differently for every `saat`; bytes behind the text are zero.
     [[nodiscard]] std::uint64_t Streuwert(std::uint64_t saat) const {
-        return Mische(Mische(Wort(0) ^ saat) ^ Wort(6) ^ (std::uint64_t{laenge_} << 8U));
+        return MischeBits(MischeBits(Wort(0) ^ saat) ^ Wort(6) ^ (std::uint64_t{laenge_} << 8U));
     }
 
   private:

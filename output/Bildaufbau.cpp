@@ -98,8 +98,8 @@ void Bildaufbau::Sammle() {
         const bool dargestellt = d.Dargestellt(*p.Item);
         // Of several points of a number, lines and labels follow the newest.
         if (v_.netz.SuchPkt(p.PNr) == &p) {
-            orte_.Nimm(p.PNr, ort);
-            gezeigt_.Nimm(p.PNr, dargestellt);
+            orte_.NimmOrt(p.PNr, ort);
+            gezeigt_.NimmAntwort(p.PNr, dargestellt);
         }
         if (!dargestellt || !v_.Gezeichnet(p) || !Beruehrt(ort, ort, symbole_)) return;
         punkte_[anzahl++] = &p;
@@ -138,7 +138,7 @@ bool Bildaufbau::Dicht() const {
 void Bildaufbau::ZeichnePunkte(bool vonVorn) {
     FuerAlle(punkte_, vonVorn, [&](std::size_t i) {
         const Bildpunkt ort = punktorte_[i];
-        if (!vonVorn || !Verdeckt(ort, ort, r_.symbol)) punkte_[i]->Item->Zeige(ort, zeichner_);
+        if (!vonVorn || !Verdeckt(ort, ort, r_.symbol)) punkte_[i]->Item->ZeigeSymbolBei(ort, zeichner_);
     });
 }
 
@@ -152,8 +152,8 @@ void Bildaufbau::ZeichneKante(const PunktKante& k) {
 /// Asks for the memory of both points of a line ahead of time.
 void Bildaufbau::HoleOrte(std::uint32_t folge) const {
     const Punktenden enden = v_.netz.Enden(folge);
-    orte_.Hole(enden.a);
-    orte_.Hole(enden.e);
+    orte_.HoleOrtVor(enden.a);
+    orte_.HoleOrtVor(enden.e);
 }
 
 void Bildaufbau::ZeichneKanten() {

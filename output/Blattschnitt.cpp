@@ -158,7 +158,7 @@ class Messung {
           weite_(std::max(seite.weite, 1)),
           hoehe_(std::max(seite.hoehe, 1)),
           ansicht_(plan.vorlage.ansicht.FuerGeraet(dot_, bezug)),
-          vorlage_(plan.vorlage.In(ansicht_)) {
+          vorlage_(plan.vorlage.InAnsicht(ansicht_)) {
         groessen_.ScaleSizes(geraetefaktor_);
     }
     Messung(const Messung&) = delete;
@@ -339,7 +339,7 @@ std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite&
     if (!bezug) return std::nullopt;
     Weltkasten orte;
     for (const PunktKnoten* p = plan.vorlage.netz.PunktKnoten; p != nullptr; p = p->Next) {
-        if (Zaehlt(*p, plan.vorlage)) orte.Nimm(p->XWPu, p->YWPu);
+        if (Zaehlt(*p, plan.vorlage)) orte.NimmOrt(p->XWPu, p->YWPu);
     }
     // The points alone need this one; whatever is drawn round them needs a little more.
     const double dot = Druckfaktor(1, seite.aufloesung);

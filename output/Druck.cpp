@@ -44,7 +44,7 @@ void Drucke(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellung
     ansicht.Hoehe = auftrag.seite.hoehe;
     std::optional<Legende> legende;
     if (v.legende != nullptr) legende = LegendeAufBlatt(*v.legende, auftrag, geraetefaktor);
-    Bildvorlage blatt = v.In(ansicht);
+    Bildvorlage blatt = v.InAnsicht(ansicht);
     blatt.legende = legende ? &*legende : nullptr;
     Zeichenzustand zustand = Geraetezustand(mittel.zustand, drucker, geraetefaktor);
     Figurenzeichner zeichner(zustand, groessen, mittel.netz, mittel.uhr);

@@ -38,7 +38,7 @@ void Exportiere(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& date
         zustand.Dxf = &zeichnung;
     }
     Figurenzeichner zeichner(zustand, mittel.einstellungen, mittel.netz, mittel.uhr);
-    ZeichneBild(v.In(ansicht), zeichner);
+    ZeichneBild(v.InAnsicht(ansicht), zeichner);
     // Both files are whole on the disk before the first takes its place.
     zeichnung.DxfClose();
     if (plot) {

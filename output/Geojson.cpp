@@ -55,7 +55,7 @@ std::string Symbolname(PunktTyp typ) {
 std::string Beobachtungen(const Kante& k) {
     std::string arten(ZurLinie(k.LAttr).name);
     for (const Beobachtungsart& b : kBeobachtungsarten) {
-        if (k.KAttr.Hat(b.art)) arten += (arten.empty() ? "" : ",") + std::string(b.name);
+        if (k.KAttr.HatArt(b.art)) arten += (arten.empty() ? "" : ",") + std::string(b.name);
     }
     return arten;
 }
@@ -149,7 +149,7 @@ void SchreibePunkt(Geojson& g, const Netz& netz, const PunktKnoten& p, const Pun
     g.Feld("symbol", Symbolname(p.Item->PktTyp));
     g.Feld("sichtbar", p.Item->Visible);
     if (const Punktergebnis* e =
-            ergebnisse != nullptr && !nummer.empty() ? ergebnisse->Zu(nummer) : nullptr) {
+            ergebnisse != nullptr && !nummer.empty() ? ergebnisse->ErgebnisZu(nummer) : nullptr) {
         for (const auto& [name, wert] : {std::pair{"y_ausgeglichen", e->Y},
                                          {"x_ausgeglichen", e->X},
                                          {"h_ausgeglichen", e->H},
@@ -199,7 +199,7 @@ std::optional<int> EpsgCode(const Netzangaben& angaben, const Netz& netz) {
 
 void SchreibeGeojson(const Netz& netz, const Netzangaben& angaben, const Einstellungen& einstellungen,
                      Punktergebnisse* ergebnisse, Dateien& dateien, const std::filesystem::path& datei) {
-    if (ergebnisse != nullptr) ergebnisse->Erneuere();
+    if (ergebnisse != nullptr) ergebnisse->ErneuereErgebnisse();
     Geojson g(dateien, datei);
     g.Kopf(PfadText(datei.stem()), EpsgCode(angaben, netz));
     for (const PunktKnoten* p = netz.PunktKnoten; p != nullptr; p = p->Next) {

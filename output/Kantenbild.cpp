@@ -118,7 +118,7 @@ struct Kantenbild::Lage {
         laenge = Laenge(dx, dy, indirekt);
         ux = static_cast<double>(dx) / laenge;
         uy = static_cast<double>(dy) / laenge;
-        if (kAttr.Hat(KanteAttr::GPS)) {
+        if (kAttr.HatArt(KanteAttr::GPS)) {
             gx = RundeZuInt64(groessen.GPSGroesse * ux);
             gy = RundeZuInt64(groessen.GPSGroesse * uy);
         }
@@ -136,7 +136,7 @@ struct Kantenbild::Lage {
 Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang, const Bildpunkt& ende,
                        const Einstellungen& groessen) {
     if (anfang == ende) return;
-    const bool gps = kAttr.Hat(KanteAttr::GPS);
+    const bool gps = kAttr.HatArt(KanteAttr::GPS);
     const Lage l(kAttr, lAttr, anfang, ende, groessen);
     Linie(lAttr, gps && l.laenge > 2.0 * groessen.GPSGroesse, l);
     if (gps) {
@@ -147,20 +147,20 @@ Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang
                                  {Summe(l.m.x, l.gy), Differenz(l.m.y, l.gx)},
                                  vorn});
     }
-    if (kAttr.Hat(KanteAttr::ST)) {
+    if (kAttr.HatArt(KanteAttr::ST)) {
         const double neben = groessen.GPSGroesse + 2.0;  // clear of the marker, whether or not there is one
         const double halb = groessen.Querstrich;
         Nimm(Zugform::Querstrich, {l.AbMitte(neben, halb), l.AbMitte(neben, -halb)});
     }
-    if (kAttr.Hat(KanteAttr::DH1)) Hoehenmarke(l.s, l.ux, l.uy, groessen);
-    if (kAttr.Hat(KanteAttr::DH2)) {
+    if (kAttr.HatArt(KanteAttr::DH1)) Hoehenmarke(l.s, l.ux, l.uy, groessen);
+    if (kAttr.HatArt(KanteAttr::DH2)) {
         Hoehenmarke(l.s, l.ux, l.uy, groessen);
         Hoehenmarke(l.e, -l.ux, -l.uy, groessen);
     }
 }
 
 void Kantenbild::Linie(LinieAttr lAttr, bool mitMarke, const Lage& l) {
-    const Linienbild* bild = Nachschlagen(kLinienbilder, lAttr);
+    const Linienbild* bild = FindeZeile(kLinienbilder, lAttr);
     if (bild == nullptr) return;
     if (!bild->umweg.empty()) return Umweg(bild->umweg, l);
     const Zugform form = mitMarke ? bild->offen : bild->ganz;

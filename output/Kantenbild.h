@@ -102,7 +102,7 @@ class Kantenbild {
 
 /// A line without a direction observation and without GPS is drawn in white: there, but not seen.
 [[nodiscard]] inline Farbe Kantenfarbe(KanteAttr kAttr, LinieAttr lAttr, Farbe farbe) {
-    return lAttr == LinieAttr::Null && !kAttr.Hat(KanteAttr::GPS) ? kWeiss : farbe;
+    return lAttr == LinieAttr::Null && !kAttr.HatArt(KanteAttr::GPS) ? kWeiss : farbe;
 }
 
 }  // namespace zrw

@@ -122,13 +122,13 @@ void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
 void Residuenbild::ZeichnePunktRes(Punktergebnisse& ergebnisse) const {
     const Darstellung& d = v_.darstellung;
     if (!d.ShowLgRes && !d.ShowHRes && !d.ShowLGGen && !d.ShowHGen) return;
-    ergebnisse.Erneuere();
+    ergebnisse.ErneuereErgebnisse();
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
     for (const PunktKnoten* p = v_.netz.PunktKnoten; p != nullptr; p = p->Next) {
         if (!d.Dargestellt(*p->Item) || !v_.Gezeichnet(*p)) continue;
         const PktText* text = v_.netz.FindPktText(p->PNr);
         if (text == nullptr || text->Aus.Leer()) continue;
-        if (const Punktergebnis* e = ergebnisse.Zu(text->Aus.Text()))
+        if (const Punktergebnis* e = ergebnisse.ErgebnisZu(text->Aus.Text()))
             Punktbild(BildortVon(*p, v_.ansicht), *e);
     }
 }

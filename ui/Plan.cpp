@@ -85,12 +85,12 @@ void Plan::Zentriere(const std::vector<PPunktKnoten>& exzentren, const PunktKnot
     Figurenmenge figuren;
     std::set<PunktIndex> nummern;
     for (PunktKnoten* p : exzentren) {
-        figuren.Nimm(liste_->Umfeld(*p));
+        figuren.NimmFiguren(liste_->Umfeld(*p));
         nummern.insert(p->PNr);
     }
     beobachter_.VorAenderung(figuren);
     for (PunktKnoten* p : exzentren)
-        liste_->Zentriere(*p, zentrum);
+        liste_->ZentrierePunkt(*p, zentrum);
     // What came before cannot be undone at these points either.
     Verwirf(schritte_, nummern);
     MerkeUngesichert();

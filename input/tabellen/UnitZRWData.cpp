@@ -232,7 +232,7 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
     return tafel;
 }
 
-void TDM::Erneuere() {
+void TDM::ErneuereErgebnisse() {
     const auto datei = Datei(Tabelle::Koordinaten);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
     if (!jetzt) {
@@ -256,7 +256,7 @@ void TDM::Erneuere() {
     }
 }
 
-const Punktergebnis* TDM::Zu(std::string_view nummer) const {
+const Punktergebnis* TDM::ErgebnisZu(std::string_view nummer) const {
     return punkte_.zu.FindeWert(PunktNummernTyp(nummer));
 }
 

@@ -51,8 +51,8 @@ class TDM final : public Punktergebnisse {
     [[nodiscard]] Mangel Pruefe(Tabelle tabelle, std::span<const std::string_view> felder);
 
     /// Failures are kept for `NimmMeldungen`, once for each state of the file; the old results then stay.
-    void Erneuere() override;
-    [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override;
+    void ErneuereErgebnisse() override;
+    [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override;
     /// What there is to tell since the last call: tables that became unreadable, looked wrong or lack what
     /// drawing needs.
     [[nodiscard]] std::vector<Tabellenmeldung> NimmMeldungen();

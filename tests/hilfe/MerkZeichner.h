@@ -72,7 +72,7 @@ class MerkZeichner final : public Zeichner {
         constexpr std::array kNamen{"ST", "GPS", "DH1", "DH2"};
         std::string text;
         for (std::size_t i = 0; i < kNamen.size(); ++i) {
-            if (!attr.Hat(static_cast<KanteAttr::Art>(i))) continue;
+            if (!attr.HatArt(static_cast<KanteAttr::Art>(i))) continue;
             text += (text.empty() ? "" : "+") + std::string(kNamen[i]);
         }
         return text.empty() ? "-" : text;

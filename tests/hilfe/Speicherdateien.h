@@ -90,11 +90,11 @@ class Speichereinstellungen final : public EinstellungsSpeicher {
     std::map<std::string, std::string, std::less<>> werte;
     std::vector<std::string> geschrieben;  ///< keys in the order of writing
 
-    [[nodiscard]] std::optional<std::string> Lies(std::string_view schluessel) const override {
+    [[nodiscard]] std::optional<std::string> LiesWert(std::string_view schluessel) const override {
         const auto stelle = werte.find(schluessel);
         return stelle != werte.end() ? std::optional(stelle->second) : std::nullopt;
     }
-    void Schreibe(std::string_view schluessel, const std::string& text) override {
+    void SchreibeWert(std::string_view schluessel, const std::string& text) override {
         werte[std::string(schluessel)] = text;
         geschrieben.emplace_back(schluessel);
     }

@@ -141,12 +141,12 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
     EXPECT_EQ(a.spalten.back(), "NEU");
     EXPECT_EQ(std::get<std::string>(a.zeilen[0].back()), "abc");
     EXPECT_EQ(daten.Frage(Tabelle::Koordinaten, "SELECT NEU, PKT from KooTABLE").spalten.back(), "NEU");
-    daten.Erneuere();
-    ASSERT_NE(daten.Zu("P"), nullptr);
-    EXPECT_EQ(daten.Zu("P")->dY, -2.0);
-    EXPECT_TRUE(std::isnan(daten.Zu("P")->dX)) << "a missing field counts as null";
-    EXPECT_EQ(daten.Zu("P")->mL, 0.0) << "and makes no ellipse wide";
-    EXPECT_FALSE(daten.Zu("P")->mLBekannt);
+    daten.ErneuereErgebnisse();
+    ASSERT_NE(daten.ErgebnisZu("P"), nullptr);
+    EXPECT_EQ(daten.ErgebnisZu("P")->dY, -2.0);
+    EXPECT_TRUE(std::isnan(daten.ErgebnisZu("P")->dX)) << "a missing field counts as null";
+    EXPECT_EQ(daten.ErgebnisZu("P")->mL, 0.0) << "and makes no ellipse wide";
+    EXPECT_FALSE(daten.ErgebnisZu("P")->mLBekannt);
 
     // A field that the query needs.
     const std::vector<paradox::Feld> ohne{{"ID", Feldtyp::Lang, 4}, {"X", Feldtyp::Zahl, 8}};
@@ -162,25 +162,25 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
 TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
     Lege(Tabelle::Koordinaten,
          {{{"PKT", "A"}, {"dY", 3.0}}, {{"PKT", "A"}, {"dY", 4.0}}, {{"PKT", "K\xC3\x9C"}, {"A", 5.0}}});
-    daten.Erneuere();
-    EXPECT_EQ(daten.Zu("A")->dY, 3.0) << "the first row of a number";
-    EXPECT_EQ(daten.Zu("K\xDC")->A, 5.0) << "labels are code page 1252";
-    EXPECT_EQ(daten.Zu("B"), nullptr);
+    daten.ErneuereErgebnisse();
+    EXPECT_EQ(daten.ErgebnisZu("A")->dY, 3.0) << "the first row of a number";
+    EXPECT_EQ(daten.ErgebnisZu("K\xDC")->A, 5.0) << "labels are code page 1252";
+    EXPECT_EQ(daten.ErgebnisZu("B"), nullptr);
     EXPECT_EQ(Meldungen(), "");
 
     std::string& db = dateien.dateien["netz/KooTABLE.DB"];
     const std::string heil = db;
     db[paradox::kCodeseite] = '\x62';  // 866, Cyrillic
     db[paradox::kCodeseite + 1] = '\x03';
-    daten.Erneuere();
+    daten.ErneuereErgebnisse();
     EXPECT_TRUE(Meldungen().starts_with("KooTABLE.DB: ")) << "a warning about the whole table";
     db = heil;
-    daten.Erneuere();
+    daten.ErneuereErgebnisse();
     db.resize(2100);
-    daten.Erneuere();
-    EXPECT_EQ(daten.Zu("A")->dY, 3.0);
+    daten.ErneuereErgebnisse();
+    EXPECT_EQ(daten.ErgebnisZu("A")->dY, 3.0);
     EXPECT_NE(Meldungen().find("KooTABLE.DB"), std::string::npos);
-    daten.Erneuere();
+    daten.ErneuereErgebnisse();
     EXPECT_EQ(Meldungen(), "") << "told once for each state of the file";
     EXPECT_EQ(Ids(kErgebnisreiter[0], "A").size(), 2U) << "the rows that were read before";
     EXPECT_EQ(Meldungen(), "");
@@ -188,21 +188,21 @@ TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
     neu.SetzeOrdner("netz");
     EXPECT_THROW(static_cast<void>(neu.Frage(Tabelle::Koordinaten, kErgebnistabellen[4].alles)), Fehler)
         << "nothing was read before";
-    neu.Erneuere();
+    neu.ErneuereErgebnisse();
     const int gelesen = dateien.gelesen;
-    neu.Erneuere();
+    neu.ErneuereErgebnisse();
     EXPECT_EQ(dateien.gelesen, gelesen) << "nor is it read again at each drawing";
     const auto meldungen = neu.NimmMeldungen();
     ASSERT_EQ(meldungen.size(), 1U);
     EXPECT_TRUE(meldungen[0].unlesbar);
 
     Lege(Tabelle::Koordinaten, {{{"PKT", "A"}, {"dY", 9.0}}});
-    daten.Erneuere();
-    EXPECT_EQ(daten.Zu("A")->dY, 9.0) << "a new calculation is seen";
+    daten.ErneuereErgebnisse();
+    EXPECT_EQ(daten.ErgebnisZu("A")->dY, 9.0) << "a new calculation is seen";
     EXPECT_EQ(Ids(kErgebnisreiter[0], "A").size(), 1U);
     dateien.dateien.erase("netz/KooTABLE.DB");
-    daten.Erneuere();
-    EXPECT_EQ(daten.Zu("A"), nullptr);
+    daten.ErneuereErgebnisse();
+    EXPECT_EQ(daten.ErgebnisZu("A"), nullptr);
 }
 
 TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
@@ -280,11 +280,11 @@ TEST_F(Ergebnisse, FelderDieFehlenOderAnderesEnthaltenWerdenGenannt) {
     EXPECT_EQ(meldungen[1].text,
               "DHTABLE.DB: Anders als erwartet ist: P1 (Zahl statt Text), FF (Zahl statt Ja/Nein). Grobe "
               "Fehler können unmarkiert bleiben.");
-    daten.Erneuere();
+    daten.ErneuereErgebnisse();
     EXPECT_EQ(Meldungen(),
               "KooTABLE.DB: Der Tabelle fehlt: mL. Anders als erwartet ist: dX (Text statt Zahl). Gezeichnet "
               "wird, was sich lesen lässt.\n");
-    daten.Erneuere();
+    daten.ErneuereErgebnisse();
     EXPECT_EQ(Meldungen(), "");
 }
 

@@ -108,7 +108,7 @@ TEST(Ansicht, JederMassstabFindetSeinePixelWieder) {
             SCOPED_TRACE(std::to_string(zehner) + "/" + std::to_string(i));
             const Bildpunkt b{pixel(), pixel()};
             const Welt w = n.l.BildinWelt(b);
-            n.l.Versetze(*n.l.PunktKnoten, w);
+            n.l.VersetzePunkt(*n.l.PunktKnoten, w);
             n.l.WeltinBild();
             ASSERT_EQ(n.l.PunktKnoten->Item->Position(), b);
             const Welt ecke = n.l.BildinWelt({});

@@ -74,7 +74,7 @@ struct Dateinetz : Probenetz {
         t.YBiO = 3;
         T(65535, "A\xF6 45678901234");
         KanteAttr attr = KanteAttr::ST;
-        attr.Setze(KanteAttr::DH2);
+        attr.SetzeArt(KanteAttr::DH2);
         l.AddKante(Kante::Create(e.AZCol, attr, LinieAttr::AR1), 1, 2);
         Kante& k = *l.AddKante(Kante::Create(e.GPSCol, KanteAttr::GPS, LinieAttr::ASTI), 2, 65535).Item;
         p.Visible = t.Visible = k.Visible = false;

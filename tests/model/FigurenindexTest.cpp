@@ -135,7 +135,7 @@ TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
 
 // An older thing that takes a place may have a lower number than all the others when the table grows.
 TEST(Markentafel, BehaeltHoheNummernBeimWachsen) {
-    const auto streue = [](std::uint32_t nr) { return Mische(nr); };
+    const auto streue = [](std::uint32_t nr) { return MischeBits(nr); };
     Markentafel tafel;
     std::vector<std::uint32_t> nummern;
     for (std::uint32_t i = 0; i < 500; ++i) {

@@ -109,13 +109,13 @@ TEST(Treffer, DieBaeumeWerdenNurFuerZuwachsNeuGebaut) {
         frage(i);
     EXPECT_EQ(n.l.Suchbauten(), 1U);
     for (PunktIndex i = 1; i <= kPunkte / 2; ++i)
-        n.l.Versetze(*n.l.SuchPkt(i), {50.0 * i, 0});
+        n.l.VersetzePunkt(*n.l.SuchPkt(i), {50.0 * i, 0});
     n.l.WeltinBild();
     frage(1);
     frage(2);
     EXPECT_EQ(n.l.Suchbauten(), 2U);
     // Of two labels of one number both follow their point.
-    n.l.Versetze(*n.l.SuchPkt(7), n.l.BildinWelt({100, 100}));
+    n.l.VersetzePunkt(*n.l.SuchPkt(7), n.l.BildinWelt({100, 100}));
     n.l.WeltinBild();
     EXPECT_NE(n.l.MausPktText({100 + 10, 100 - 5}), nullptr);
     EXPECT_NE(n.l.MausPktText({100 + 5000, 100 - 5}), nullptr);

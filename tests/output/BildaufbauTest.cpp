@@ -57,8 +57,8 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
             n.WuerfleSchalter();
             // Some figures leave the places that they were found by.
             for (int i = 0; i < 3; ++i)
-                n.liste.Versetze(n.Punkt1(), n.liste.BildinWelt({n.W(0, kWeite), n.W(0, kHoehe)}));
-            n.liste.Versetze(*n.liste.PktTextKnoten, {n.W(-40, 40), n.W(-40, 40)});
+                n.liste.VersetzePunkt(n.Punkt1(), n.liste.BildinWelt({n.W(0, kWeite), n.W(0, kHoehe)}));
+            n.liste.VersetzeText(*n.liste.PktTextKnoten, {n.W(-40, 40), n.W(-40, 40)});
             schnell.zustand.KurzeNummern = einfach.zustand.KurzeNummern = n.W(0, 3) == 0;
             n.liste.WeltinBild();
             n.liste.ShowPicture(einfach.zeichner);

@@ -65,15 +65,17 @@ TEST_F(Blattschnitt, BlaetterMitPunktenUndGequertenLinien) {
 
 class EinErgebnis final : public Punktergebnisse {
   public:
-    void Erneuere() override {}
-    [[nodiscard]] const Punktergebnis* Zu(std::string_view /*nummer*/) const override { return &werte; }
+    void ErneuereErgebnisse() override {}
+    [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view /*nummer*/) const override {
+        return &werte;
+    }
     Punktergebnis werte;
 };
 
 TEST_F(Blattschnitt, WasUeberDenRandRagtBrauchtSeinBlatt) {
     n.P(1, 100, -496);
     EXPECT_EQ(Schneide(), (Lagen{{0, 0}, {1, 0}})) << "half a symbol";
-    n.l.Versetze(*n.l.SuchPkt(1), {100, -490});
+    n.l.VersetzePunkt(*n.l.SuchPkt(1), {100, -490});
     EXPECT_EQ(Schneide(), (Lagen{{0, 0}}));
     n.T(1, "123456").Item->XBiO = 860;  // 36 dots wide
     EXPECT_EQ(Schneide(), (Lagen{{0, 0}}));
@@ -136,7 +138,7 @@ TEST_F(Blattschnitt, RunderMassstabFuerEinBlatt) {
                           {0.1, 0, 1},
                           {262e3, 0, 1e6},
                           {0, -1298e3, 1e7}}) {
-        n.l.Versetze(p, {f.x, f.y});
+        n.l.VersetzePunkt(p, {f.x, f.y});
         EXPECT_EQ(PassenderMassstab(plan, kSeite), f.massstab) << f.x << " " << f.y;
     }
     n.e.PTSize = 2000;
@@ -149,18 +151,18 @@ TEST_F(Blattschnitt, LehntUnsinnigVieleAb) {
     PunktKante& k = n.K(1, 2);
     for (const double nirgends :
          {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
-        n.l.Versetze(p, {nirgends, p.YWPu});
+        n.l.VersetzePunkt(p, {nirgends, p.YWPu});
         k.Item->Visible = false;
         EXPECT_EQ(Schneide(), (Lagen{{0, 0}})) << nirgends;
     }
     k.Item->Visible = true;
     for (const double fern : {401e3, -1e9, 1e10, -1e300}) {
-        n.l.Versetze(p, {fern, p.YWPu});
+        n.l.VersetzePunkt(p, {fern, p.YWPu});
         EXPECT_THROW(static_cast<void>(Schneide()), Fehler) << fern;
         EXPECT_THROW(static_cast<void>(Blattaufteilung(plan, kMassstab, kSeite)), Fehler) << fern;
     }
     // One sheet of so many is at the top and holds something.
-    n.l.Versetze(p, {401e3, 1000});
+    n.l.VersetzePunkt(p, {401e3, 1000});
     const auto erstes = ErstesBlatt(plan, kMassstab, kSeite);
     ASSERT_TRUE(erstes);
     EXPECT_NEAR(erstes->ecke.hoch, 1004, 1);

@@ -13,8 +13,8 @@ namespace {
 
 class EinErgebnis final : public Punktergebnisse {
   public:
-    void Erneuere() override {}
-    [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override {
+    void ErneuereErgebnisse() override {}
+    [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
         return nummer == "A\"\xDC" ? &ergebnis_ : nullptr;
     }
 

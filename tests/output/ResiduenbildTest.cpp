@@ -22,8 +22,8 @@ struct Merkergebnisse final : Punktergebnisse {
     int erneuert = 0;
     mutable Zeilen gefragt;
 
-    void Erneuere() override { ++erneuert; }
-    [[nodiscard]] const Punktergebnis* Zu(std::string_view nummer) const override {
+    void ErneuereErgebnisse() override { ++erneuert; }
+    [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
         gefragt.emplace_back(nummer);
         const auto i = werte.find(nummer);
         return i != werte.end() ? &i->second : nullptr;

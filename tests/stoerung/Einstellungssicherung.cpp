@@ -16,10 +16,10 @@ namespace {
 class Gleichwert final : public zrw::EinstellungsSpeicher {
   public:
     explicit Gleichwert(std::string wert) : wert_(std::move(wert)) {}
-    [[nodiscard]] std::optional<std::string> Lies(std::string_view /*schluessel*/) const override {
+    [[nodiscard]] std::optional<std::string> LiesWert(std::string_view /*schluessel*/) const override {
         return wert_;
     }
-    void Schreibe(std::string_view /*schluessel*/, const std::string& /*text*/) override {}
+    void SchreibeWert(std::string_view /*schluessel*/, const std::string& /*text*/) override {}
 
   private:
     std::string wert_;
@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
             zrw::LoadSettings(einstellungen, Gleichwert(erster ? "1" : "2"));
             zrw::Einstellungsablage ablage;
             zrw::SaveSettings(einstellungen, ablage);
-            ablage.Sichere();
+            ablage.SichereWerte();
         }
         return 0;
     } catch (const std::exception& f) {

@@ -37,7 +37,7 @@ TEST(EinstellungsablageTest, IniDateiMitAbschnittUndTexten) {
     {
         Einstellungsablage ablage(name);
         SaveSettings({}, ablage);
-        ablage.Sichere();
+        ablage.SichereWerte();
     }
     std::ifstream strom(name.toStdString());
     std::string erste;

@@ -101,7 +101,7 @@ TEST_F(InidateiTest, UnlesbaresHaeltNichtAufUndBleibt) {
             sitzung.MerkeOrdner("weg");
         }
         Einstellungsablage ablage(name);
-        EXPECT_TRUE(ablage.Lesefehler() && !ablage.Lies("Fang"));
+        EXPECT_TRUE(ablage.Lesefehler() && !ablage.LiesWert("Fang"));
         // The dialog that saves tells it, and what was chosen stays.
         Einstellungen e;
         e.Fang = 9;
@@ -112,15 +112,15 @@ TEST_F(InidateiTest, UnlesbaresHaeltNichtAufUndBleibt) {
         ASSERT_EQ(dialoge.meldungen.size(), 1);
         EXPECT_TRUE(dialoge.meldungen[0].contains("nicht gespeichert")) << dialoge.meldungen[0].toStdString();
         EXPECT_EQ(e.Fang, 9);
-        EXPECT_EQ(ablage.Lies("Fang"), "9");
+        EXPECT_EQ(ablage.LiesWert("Fang"), "9");
         struct stat nachher {};
         ASSERT_EQ(::lstat(name.toUtf8(), &nachher), 0);
         EXPECT_EQ(vorher.st_ino, nachher.st_ino);
         ASSERT_EQ(std::remove(name.toUtf8()), 0);
         // As soon as it can be saved, it is.
         SaveSettings(e, ablage);
-        ablage.Sichere();
-        EXPECT_EQ(Einstellungsablage(name).Lies("Fang"), "9");
+        ablage.SichereWerte();
+        EXPECT_EQ(Einstellungsablage(name).LiesWert("Fang"), "9");
         ASSERT_EQ(std::remove(name.toUtf8()), 0);
     }
 }
@@ -131,10 +131,10 @@ TEST_F(InidateiTest, ZuGrossesErsetztNurWerSpeichert) {
     Einstellungsablage ablage(name);
     ASSERT_TRUE(ablage.Lesefehler());
     EXPECT_TRUE(ablage.Lesefehler()->Text().find("zu groß") != std::string::npos);
-    EXPECT_FALSE(ablage.Lies("Fang"));
-    ablage.Schreibe("Fang", "7");
+    EXPECT_FALSE(ablage.LiesWert("Fang"));
+    ablage.SchreibeWert("Fang", "7");
     EXPECT_GT(QFile(name).size(), 2 << 20);
-    ablage.Sichere();
+    ablage.SichereWerte();
     EXPECT_EQ(Inhalt(), "[ZRWPAR]\nFang=7\n");
 }
 

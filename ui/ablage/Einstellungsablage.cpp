@@ -34,7 +34,7 @@ std::optional<Fehler> Einstellungsablage::Lesefehler() const {
     return datei_ ? datei_->Lesefehler() : std::nullopt;
 }
 
-std::optional<std::string> Einstellungsablage::Lies(std::string_view schluessel) const {
+std::optional<std::string> Einstellungsablage::LiesWert(std::string_view schluessel) const {
     const QStringList texte =
         datei_ ? datei_->Lies(schluessel) : registry_->value(Registryname(schluessel)).toStringList();
     if (texte.isEmpty()) return std::nullopt;
@@ -42,7 +42,7 @@ std::optional<std::string> Einstellungsablage::Lies(std::string_view schluessel)
     return NachUtf8(texte.join(QLatin1Char(',')));
 }
 
-void Einstellungsablage::Schreibe(std::string_view schluessel, const std::string& text) {
+void Einstellungsablage::SchreibeWert(std::string_view schluessel, const std::string& text) {
     if (datei_) {
         datei_->Setze(schluessel, {AusUtf8(text)});
     } else {
@@ -50,7 +50,7 @@ void Einstellungsablage::Schreibe(std::string_view schluessel, const std::string
     }
 }
 
-void Einstellungsablage::Sichere() {
+void Einstellungsablage::SichereWerte() {
     const std::string text = "Die Einstellungen konnten nicht gespeichert werden";
     if (datei_) {
         try {
@@ -67,7 +67,7 @@ void Einstellungsablage::Sichere() {
 std::optional<std::filesystem::path> TavelinOrdner(const EinstellungsSpeicher& ablage) {
     constexpr const char* kAlias = "TAVELIN";
     if (qEnvironmentVariableIsSet(kAlias)) return NachPfad(qEnvironmentVariable(kAlias));
-    const auto wert = ablage.Lies(kAlias);
+    const auto wert = ablage.LiesWert(kAlias);
     if (!wert || wert->empty()) return std::nullopt;
     return TextPfad(*wert);
 }

@@ -18,9 +18,9 @@ class Einstellungsablage final : public EinstellungsSpeicher {
     /// Another INI file of the same layout.
     explicit Einstellungsablage(const QString& inidatei);
 
-    [[nodiscard]] std::optional<std::string> Lies(std::string_view schluessel) const override;
-    void Schreibe(std::string_view schluessel, const std::string& text) override;
-    void Sichere() override;
+    [[nodiscard]] std::optional<std::string> LiesWert(std::string_view schluessel) const override;
+    void SchreibeWert(std::string_view schluessel, const std::string& text) override;
+    void SichereWerte() override;
 
     /// Why the stored settings could not be read; there are none then.
     [[nodiscard]] std::optional<Fehler> Lesefehler() const;

@@ -129,7 +129,7 @@ void PunktGeaendert::redo() {
     std::swap(punkt_.Item->PktTyp, andere_.symbol);
     std::swap(punkt_.Item->Farbe, andere_.farbe);
     const Welt vorher{punkt_.XWPu, punkt_.YWPu};
-    liste_.Versetze(punkt_, std::exchange(andere_.ort, vorher));
+    liste_.VersetzePunkt(punkt_, std::exchange(andere_.ort, vorher));
     if (text_ != nullptr) std::swap(text_->Col, andereTextfarbe_);
 }
 

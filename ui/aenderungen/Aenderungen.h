@@ -27,7 +27,7 @@ class PunktVersetzt final : public Netzaenderung {
     void undo() override { Setze(alt_); }
 
   private:
-    void Setze(Welt ort) { liste_.Versetze(punkt_, ort); }
+    void Setze(Welt ort) { liste_.VersetzePunkt(punkt_, ort); }
     Liste& liste_;
     PunktKnoten& punkt_;
     Welt alt_, neu_;
@@ -42,7 +42,7 @@ class NummerVersetzt final : public Netzaenderung {
     void undo() override { Setze(alt_); }
 
   private:
-    void Setze(Bildpunkt abstand) { liste_.Versetze(text_, abstand); }
+    void Setze(Bildpunkt abstand) { liste_.VersetzeText(text_, abstand); }
     Liste& liste_;
     PunktString& text_;
     Bildpunkt alt_, neu_;

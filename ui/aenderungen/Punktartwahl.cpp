@@ -32,7 +32,7 @@ void Punktartwahl::Waehle(PunktKnoten& punkt) {
 
 void Punktartwahl::NetzGeaendert() {
     if (gewaehlt_ == nullptr) return;
-    if (!umgebung_.AktuelleListe()->Enthaelt(*gewaehlt_)) {
+    if (!umgebung_.AktuelleListe()->EnthaeltPunkt(*gewaehlt_)) {
         gewaehlt_ = nullptr;
         fenster_->Zeige({});
     } else if (StandVon(*gewaehlt_) != gezeigt_) {

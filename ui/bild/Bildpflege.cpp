@@ -67,10 +67,10 @@ bool Bildpflege::Oertlich(const Bildvorlage& v) const {
 Rechteck Bildpflege::Umfang(const Bildvorlage& v, const Figurenmenge& figuren) const {
     Rechteck r = kKeinRechteck;
     for (const PunktKnoten* p : figuren.punkte) {
-        if (v.netz.Enthaelt(*p)) r = Vereint(r, zeichner_.Punktumfang(BildortVon(*p, v.ansicht)));
+        if (v.netz.EnthaeltPunkt(*p)) r = Vereint(r, zeichner_.Punktumfang(BildortVon(*p, v.ansicht)));
     }
     for (const PunktKante* k : figuren.kanten) {
-        if (v.netz.Enthaelt(*k))
+        if (v.netz.EnthaeltKante(*k))
             r = Vereint(
                 r, zeichner_.Kantenumfang(AnfangVon(*k, v.netz, v.ansicht), EndeVon(*k, v.netz, v.ansicht)));
     }

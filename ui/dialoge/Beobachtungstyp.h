@@ -25,10 +25,10 @@ struct Beobachtungswahl {
 [[nodiscard]] constexpr Beobachtungstyp AlsTyp(const Beobachtungswahl& w, KanteAttr vorher = {}) {
     Beobachtungstyp t;
     t.weitere = KanteAttr::AusMaske(vorher.Maske() & kUnbenannteBits);
-    if (w.strecke) t.weitere.Setze(KanteAttr::ST);
-    if (w.gps) t.weitere.Setze(KanteAttr::GPS);
-    if (w.hoehe == 1) t.weitere.Setze(KanteAttr::DH1);
-    if (w.hoehe == 2) t.weitere.Setze(KanteAttr::DH2);
+    if (w.strecke) t.weitere.SetzeArt(KanteAttr::ST);
+    if (w.gps) t.weitere.SetzeArt(KanteAttr::GPS);
+    if (w.hoehe == 1) t.weitere.SetzeArt(KanteAttr::DH1);
+    if (w.hoehe == 2) t.weitere.SetzeArt(KanteAttr::DH2);
 
     // A GPS vector is drawn by its own symbol and has no line of sight.
     const bool nurGps = w.gps && !w.strecke && w.hoehe == 0 && w.richtung == 0 && !w.indirekt;
@@ -45,11 +45,11 @@ struct Beobachtungswahl {
     Beobachtungswahl w;
     w.richtung = ZurLinie(t.richtung).richtungen;
     w.indirekt = ZurLinie(t.richtung).indirekt;
-    w.strecke = t.weitere.Hat(KanteAttr::ST);
-    w.gps = t.weitere.Hat(KanteAttr::GPS);
-    if (t.weitere.Hat(KanteAttr::DH2)) {
+    w.strecke = t.weitere.HatArt(KanteAttr::ST);
+    w.gps = t.weitere.HatArt(KanteAttr::GPS);
+    if (t.weitere.HatArt(KanteAttr::DH2)) {
         w.hoehe = 2;
-    } else if (t.weitere.Hat(KanteAttr::DH1)) {
+    } else if (t.weitere.HatArt(KanteAttr::DH1)) {
         w.hoehe = 1;
     }
     return w;

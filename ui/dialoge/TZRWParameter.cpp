@@ -217,7 +217,7 @@ void TZRWParameter::done(int ergebnis) {
     UebernimmResiduenmassstab();  // Escape and the window's cross leave no field before
     try {
         SaveSettings(e_, speicher_);
-        speicher_.Sichere();
+        speicher_.SichereWerte();
     } catch (const std::exception& f) {
         dialoge_.Melde(AusUtf8(Fehlertext(f)) +
                        QStringLiteral("\nSie gelten weiter, bis Zarwik beendet wird."));

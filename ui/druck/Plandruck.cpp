@@ -152,7 +152,7 @@ QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, d
     const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / jePixel)); };
     Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
     const Ansicht ansicht = liste.FuerGeraet(jePixel, lo);
-    const Bildvorlage vorlage = liste.Vorlage().In(ansicht);
+    const Bildvorlage vorlage = liste.Vorlage().InAnsicht(ansicht);
     Zeichenzustand zustand = programm_.zustand;
     zustand.flaeche = &bild;
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);

@@ -27,7 +27,7 @@ QString Beobachtungen(const Kante& k) {
     QStringList teile;
     if (!linie.bezeichnung.empty()) teile << AusUtf8(linie.bezeichnung);
     for (const Beobachtungsart& art : kBeobachtungsarten) {
-        if (weitere.Hat(art.art)) teile << AusUtf8(art.bezeichnung);
+        if (weitere.HatArt(art.art)) teile << AusUtf8(art.bezeichnung);
     }
     if (linie.indirekt) teile << QStringLiteral("indirekt");
     return teile.isEmpty() ? QStringLiteral("keine Beobachtung") : teile.join(QStringLiteral(", "));

@@ -22,7 +22,7 @@ std::optional<Bildlage> Ansichtssteuerung::Eingepasst(const Netz& netz, const An
                                                       const Darstellung& darstellung) {
     Weltkasten gezeigt;
     netz.FuerAllePunkte([&](const PunktKnoten& p) {
-        if (p.Item->Visible && darstellung.Dargestellt(*p.Item)) gezeigt.Nimm(p.XWPu, p.YWPu);
+        if (p.Item->Visible && darstellung.Dargestellt(*p.Item)) gezeigt.NimmOrt(p.XWPu, p.YWPu);
     });
     if (gezeigt.Leer()) return std::nullopt;
     return ansicht.Eingepasst(gezeigt);
@@ -32,8 +32,8 @@ bool Ansichtssteuerung::Rolle(Ansicht& ansicht, Bildpunkt ort, int schritte, dou
     const int anzahl = std::min(std::abs(schritte), 10);
     bool gezoomt = false;
     for (int i = 0; i < anzahl; ++i)
-        gezoomt |=
-            ansicht.Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0, zoomschritt);
+        gezoomt |= ansicht.ZoomeSchritt(static_cast<double>(ort.x), static_cast<double>(ort.y), schritte < 0,
+                                        zoomschritt);
     return gezoomt;
 }
 

@@ -115,7 +115,7 @@ void TZrwMainDlg::ButtonKleinerClick() {
 
 void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
     BrichAb();
-    if (!plan_.Daten()->Zoome(x, y, groesser, programm_.einstellungen.Zoomschritt))
+    if (!plan_.Daten()->ZoomeSchritt(x, y, groesser, programm_.einstellungen.Zoomschritt))
         return ZeigeStatus(kNichtWeiter);
     ZeichneNeu();
     ZeigeStand();
@@ -302,7 +302,7 @@ Bildvorlage TZrwMainDlg::Vorlage() {
 void TZrwMainDlg::LasseAus(Figurenmenge figuren) {
     if (!plan_.Offen()) return;
     Figurenmenge beide = figuren;
-    beide.Nimm(ausgelassene_);
+    beide.NimmFiguren(ausgelassene_);
     pflege_.Vorher(Vorlage(), beide);
     ausgelassene_ = std::move(figuren);
     ohne_.SetzeFiguren(ausgelassene_);

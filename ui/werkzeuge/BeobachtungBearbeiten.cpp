@@ -120,8 +120,8 @@ void BeobachtungBearbeiten::NetzGeaendert() {
     // Another tool may have the preview.
     if (kante_ == nullptr && erster_ == nullptr) return;
     Liste& netz = *umgebung_.AktuelleListe();
-    if (kante_ != nullptr && !netz.Enthaelt(*kante_)) kante_ = nullptr;
-    if (erster_ != nullptr && !netz.Enthaelt(*erster_)) erster_ = nullptr;
+    if (kante_ != nullptr && !netz.EnthaeltKante(*kante_)) kante_ = nullptr;
+    if (erster_ != nullptr && !netz.EnthaeltPunkt(*erster_)) erster_ = nullptr;
     // Undone or done again: the dialog shows what the line has now.
     if (kante_ != nullptr) {
         Waehle(kante_);

@@ -65,7 +65,7 @@ void PunktVerschieben::ZeigeVerschoben(Zeichner& z, Bildpunkt versatz) const {
         if (f.gezeigt)
             z.ZeichneKante(*f.kante, f.mitAnfang ? nach : f.anfang, f.mitEnde ? nach : f.ende, Gang::Zeigen);
     }
-    punkt_->Item->Zeige(nach, z);
+    punkt_->Item->ZeigeSymbolBei(nach, z);
     const Liste& netz = *umgebung_.AktuelleListe();
     if (!netz.ZeigtNummern()) return;
     const PunktString* eigener = netz.FindText(punkt_->PNr);

@@ -40,7 +40,7 @@ void ZentrierenMaus::Abbrechen() {
 }
 
 void ZentrierenMaus::NetzGeaendert() {
-    if (exzentrum_ != nullptr && !umgebung_.AktuelleListe()->Enthaelt(*exzentrum_)) Abbrechen();
+    if (exzentrum_ != nullptr && !umgebung_.AktuelleListe()->EnthaeltPunkt(*exzentrum_)) Abbrechen();
 }
 
 }  // namespace zrw
