@@ -52,7 +52,7 @@ void Frage(TDM& daten, Tabelle tabelle) {
     }
     for (const std::string& abfrage : abfragen) {
         try {
-            Zeige(daten.Frage(tabelle, abfrage), t.felder);
+            Zeige(daten.FrageTabelle(tabelle, abfrage), t.felder);
         } catch (const Fehler& f) {
             fuzz::Verlange(!f.Text().empty(), "ein Fehler sagt etwas");
         }

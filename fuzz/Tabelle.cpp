@@ -56,10 +56,10 @@ Inhalt Lies(std::string_view bytes) {
 
 /// Once written, reading and writing change nothing.
 void PruefeSchreiben(const Inhalt& inhalt, Stufe stufe) {
-    const Dateipaar erstes = Schreibe("A", inhalt.felder, inhalt.zeilen, 0, stufe);
+    const Dateipaar erstes = SchreibeTabelle("A", inhalt.felder, inhalt.zeilen, 0, stufe);
     const Inhalt gelesen = Lies(erstes.db);
     zrw::fuzz::Verlange(gelesen.zeilen.size() == inhalt.zeilen.size(), "keine Reihe geht verloren");
-    const Dateipaar zweites = Schreibe("A", gelesen.felder, gelesen.zeilen, 0, stufe);
+    const Dateipaar zweites = SchreibeTabelle("A", gelesen.felder, gelesen.zeilen, 0, stufe);
     zrw::fuzz::Verlange(erstes.db == zweites.db && erstes.px == zweites.px,
                         "dieselben Bytes beim zweiten Mal");
 }

@@ -40,7 +40,7 @@ class Feldleser {
         text_.remove_prefix(t.size());
         return t;
     }
-    void Ueberspringe(std::size_t anzahl) { (void)Zeichen(anzahl); }
+    void UeberspringeZeichen(std::size_t anzahl) { (void)Zeichen(anzahl); }
     [[nodiscard]] std::string_view Rest() const { return text_; }
 
   private:

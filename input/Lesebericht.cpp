@@ -10,7 +10,7 @@
 namespace zrw {
 namespace {
 
-void Haenge(std::string& text, const Lesebericht::Befund& b, const char* einer, const char* viele) {
+void HaengeBefundAn(std::string& text, const Lesebericht::Befund& b, const char* einer, const char* viele) {
     if (b.anzahl == 0) return;
     if (!text.empty()) text += "; ";
     text += std::to_string(b.anzahl) + " " + (b.anzahl == 1 ? einer : viele) + " (zuerst " +
@@ -28,10 +28,10 @@ std::string Netztypen() {
 
 std::string Statustext(const Lesebericht& bericht) {
     std::string text;
-    Haenge(text, bericht.unbekannte, "Beobachtung nennt unbekannte Punkte",
-           "Beobachtungen nennen unbekannte Punkte");
-    Haenge(text, bericht.wiederholte, "Punktnummer kommt noch einmal vor",
-           "Punktnummern kommen noch einmal vor");
+    HaengeBefundAn(text, bericht.unbekannte, "Beobachtung nennt unbekannte Punkte",
+                   "Beobachtungen nennen unbekannte Punkte");
+    HaengeBefundAn(text, bericht.wiederholte, "Punktnummer kommt noch einmal vor",
+                   "Punktnummern kommen noch einmal vor");
     return text;
 }
 

@@ -28,7 +28,7 @@ void Netzbauer::ErwarteFiguren(std::size_t punkte, std::size_t kanten) {
 }
 
 void Netzbauer::Punkt(Zeilenort woher, PunktArt art, std::string_view nummer, std::int64_t code, Welt ort) {
-    if (anzahl_ > 0) Trage();
+    if (anzahl_ > 0) TrageWartendeEin();
     Wartender& p = punkte_[punktanzahl_++];
     p.nummer = Nummer(nummer);
     p.art = art;
@@ -45,12 +45,12 @@ void Netzbauer::Punkt(Zeilenort woher, PunktArt art, std::string_view nummer, st
 
 void Netzbauer::TragePunkte() {
     for (const Wartender& p : std::span(punkte_.data(), std::exchange(punktanzahl_, 0)))
-        Fuege(p);
+        FuegePunktEin(p);
 }
 
-void Netzbauer::Fuege(const Wartender& p) {
+void Netzbauer::FuegePunktEin(const Wartender& p) {
     if (nummern_.FindePunkt(p.streuwert, p.nummer) != kKeinPunkt) {
-        wiederholte_.Nimm(p.woher);
+        wiederholte_.NimmSatz(p.woher);
         return;
     }
     if (static_cast<std::size_t>(liste_.MaxPkte) >= kMaxPunkte) {
@@ -69,7 +69,7 @@ void Netzbauer::Fuege(const Wartender& p) {
 
 Netzbauer::Wartende& Netzbauer::Reihe() {
     if (punktanzahl_ > 0) TragePunkte();
-    if (anzahl_ == wartende_.size()) Trage();
+    if (anzahl_ == wartende_.size()) TrageWartendeEin();
     return wartende_[anzahl_++];
 }
 
@@ -80,8 +80,8 @@ void Netzbauer::Standpunkt(std::string_view nummer) {
     w.streuwertNach = nummern_.HoleNummerVor(w.nach);
 }
 
-void Netzbauer::Beobachte(Zeilenort woher, Art art, std::string_view von, std::string_view nach,
-                          Farbe farbe) {
+void Netzbauer::NimmBeobachtung(Zeilenort woher, Art art, std::string_view von, std::string_view nach,
+                                Farbe farbe) {
     Wartende& w = Reihe();
     w.standpunkt = false;
     w.art = art;
@@ -95,7 +95,7 @@ void Netzbauer::Beobachte(Zeilenort woher, Art art, std::string_view von, std::s
     w.streuwertNach = nummern_.HoleNummerVor(w.nach);
 }
 
-void Netzbauer::Trage() {
+void Netzbauer::TrageWartendeEin() {
     const std::span<Wartende> reihe(wartende_.data(), std::exchange(anzahl_, 0));
     for (const Wartende& w : reihe) {
         nummern_.HoleEintragVor(w.streuwertNach);
@@ -113,14 +113,14 @@ void Netzbauer::Trage() {
     for (const Wartende& w : reihe)
         kanten_.HoleEintragVor(w.streuwertPaar);
     for (const Wartende& w : reihe) {
-        if (!w.standpunkt) Fasse(w);
+        if (!w.standpunkt) FasseBeobachtung(w);
     }
 }
 
-void Netzbauer::Fasse(const Wartende& w) {
+void Netzbauer::FasseBeobachtung(const Wartende& w) {
     if (w.p1 == kKeinPunkt || w.p2 == kKeinPunkt) {
         // A key alone on its line names no points, known or not.
-        if (!w.nach.Leer() || (w.art != Art::Richtung && !w.von.Leer())) unbekannte_.Nimm(w.woher);
+        if (!w.nach.Leer() || (w.art != Art::Richtung && !w.von.Leer())) unbekannte_.NimmSatz(w.woher);
         return;
     }
     if (w.p1 == w.p2) return;
@@ -140,16 +140,17 @@ void Netzbauer::Fasse(const Wartende& w) {
     }
 }
 
-void Netzbauer::Vollende() {
+void Netzbauer::VollendeNetz() {
     TragePunkte();
-    Trage();
+    TrageWartendeEin();
     liste_.ErwarteFiguren(0, kanten_.Alle().size());
     for (const Kantenstand& k : kanten_.Alle())
         liste_.AddKante(Kante::Create(k.farbe, k.kAttr, k.lAttr), k.anfang, k.ende);
     liste_.MaxKant = static_cast<std::int32_t>(kanten_.Alle().size());
 }
 
-Kantenstand* Netzbauer::Zusammenfuehren(const Wartende& w, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr) {
+Kantenstand* Netzbauer::FuehreKantenZusammen(const Wartende& w, Farbe farbe, KanteAttr kAttr,
+                                             LinieAttr lAttr) {
     Kantenstand* k = kanten_.FindeOderNimm(w.streuwertPaar, {w.p1, w.p2, farbe, kAttr, lAttr});
     if (kanten_.Alle().size() > kMaxKanten) {
         throw Fehler("Das Netz hat mehr als " + std::to_string(kMaxKanten) +
@@ -159,16 +160,16 @@ Kantenstand* Netzbauer::Zusammenfuehren(const Wartende& w, Farbe farbe, KanteAtt
 }
 
 /// Lets the line begin at this point, one of its two.
-void Netzbauer::Orientiere(Kantenstand& k, PunktIndex anfang) {
+void Netzbauer::OrientiereKante(Kantenstand& k, PunktIndex anfang) {
     if (k.anfang != anfang) std::swap(k.anfang, k.ende);
 }
 
 void Netzbauer::Richtung(const Wartende& w) {
-    Kantenstand* k = Zusammenfuehren(w, w.farbe, {}, LinieAttr::AR1);
+    Kantenstand* k = FuehreKantenZusammen(w, w.farbe, {}, LinieAttr::AR1);
     if (k == nullptr) return;
     if (k->lAttr == LinieAttr::Null || k->lAttr == LinieAttr::AST) {
         // The first direction decides which way the line runs: its solid half lies at the standpoint.
-        Orientiere(*k, w.p1);
+        OrientiereKante(*k, w.p1);
         k->lAttr = LinieAttr::AR1;
     } else if (k->lAttr == LinieAttr::AR1 && k->anfang == w.p2) {
         k->lAttr = LinieAttr::AR2;
@@ -176,19 +177,19 @@ void Netzbauer::Richtung(const Wartende& w) {
 }
 
 void Netzbauer::Strecke(const Wartende& w) {
-    Kantenstand* k = Zusammenfuehren(w, einstellungen_.RICol, KanteAttr::ST, LinieAttr::AST);
+    Kantenstand* k = FuehreKantenZusammen(w, einstellungen_.RICol, KanteAttr::ST, LinieAttr::AST);
     if (k != nullptr) k->kAttr.SetzeArt(KanteAttr::ST);
 }
 
 void Netzbauer::Hoehenunterschied(const Wartende& w) {
-    Kantenstand* k = Zusammenfuehren(w, einstellungen_.RICol, KanteAttr::DH1, LinieAttr::AST);
+    Kantenstand* k = FuehreKantenZusammen(w, einstellungen_.RICol, KanteAttr::DH1, LinieAttr::AST);
     if (k == nullptr) return;
-    if (k->lAttr == LinieAttr::AST) Orientiere(*k, w.p1);
+    if (k->lAttr == LinieAttr::AST) OrientiereKante(*k, w.p1);
     k->kAttr.SetzeArt(k->anfang == w.p1 ? KanteAttr::DH1 : KanteAttr::DH2);
 }
 
 void Netzbauer::GPSVektor(const Wartende& w) {
-    Kantenstand* k = Zusammenfuehren(w, einstellungen_.GPSCol, KanteAttr::GPS, LinieAttr::Null);
+    Kantenstand* k = FuehreKantenZusammen(w, einstellungen_.GPSCol, KanteAttr::GPS, LinieAttr::Null);
     if (k != nullptr) k->kAttr.SetzeArt(KanteAttr::GPS);
 }
 

@@ -30,21 +30,22 @@ class Netzbauer {
     enum class Art : std::uint8_t { Richtung, Strecke, Hoehenunterschied, GPSVektor };
     /// One observation between the points with these numbers; a direction starts at the last standpoint
     /// instead. Unknown points, later ones among them, and a point with itself are dropped.
-    void Beobachte(Zeilenort woher, Art art, std::string_view von, std::string_view nach, Farbe farbe = {});
+    void NimmBeobachtung(Zeilenort woher, Art art, std::string_view von, std::string_view nach,
+                         Farbe farbe = {});
     /// Standpoint of the directions that follow.
     void Standpunkt(std::string_view nummer);
     /// The end of the reading: what waits and all the lines enter the list.
-    void Vollende();
+    void VollendeNetz();
 
     /// Records that changed nothing, and where the first of them stands.
     struct Zahl {
         std::size_t anzahl = 0;
         Zeilenort erster;
-        void Nimm(Zeilenort ort) {
+        void NimmSatz(Zeilenort ort) {
             if (anzahl++ == 0) erster = ort;
         }
     };
-    /// Observations dropped for a point that is not there; complete after `Vollende`, as the other is.
+    /// Observations dropped for a point that is not there; complete after `VollendeNetz`, as the other is.
     [[nodiscard]] const Zahl& Unbekannte() const { return unbekannte_; }
     /// Points with a number that was there already.
     [[nodiscard]] const Zahl& Wiederholte() const { return wiederholte_; }
@@ -76,16 +77,16 @@ class Netzbauer {
     Wartende& Reihe();
     /// Enter what waits.
     void TragePunkte();
-    void Trage();
-    void Fuege(const Wartender& p);
-    void Fasse(const Wartende& w);
+    void TrageWartendeEin();
+    void FuegePunktEin(const Wartender& p);
+    void FasseBeobachtung(const Wartende& w);
     void Richtung(const Wartende& w);
     void Strecke(const Wartende& w);
     void Hoehenunterschied(const Wartende& w);
     void GPSVektor(const Wartende& w);
     /// The line of the pair if there is one, else a new one p1 -> p2 with these attributes and nothing.
-    Kantenstand* Zusammenfuehren(const Wartende& w, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr);
-    static void Orientiere(Kantenstand& k, PunktIndex anfang);
+    Kantenstand* FuehreKantenZusammen(const Wartende& w, Farbe farbe, KanteAttr kAttr, LinieAttr lAttr);
+    static void OrientiereKante(Kantenstand& k, PunktIndex anfang);
 
     std::array<Wartende, 64> wartende_;
     std::size_t anzahl_ = 0;

@@ -8,7 +8,8 @@
 namespace zrw {
 namespace {
 
-void Melde(const Meldungsempfaenger& meldung, const std::string& text, const std::filesystem::path& datei) {
+void MeldeText(const Meldungsempfaenger& meldung, const std::string& text,
+               const std::filesystem::path& datei) {
     if (meldung) meldung({.text = text, .datei = PfadText(datei.filename())});
 }
 
@@ -27,8 +28,8 @@ Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateie
     lesung.liste = LiesBilddatei(datei, dateien, einstellungen, lesung.netz);
     Liste& liste = *lesung.liste;
     if (!liste.Brauchbar()) {
-        Melde(meldung, "Der gespeicherte Ausschnitt ist nicht lesbar; das ganze Netz wird dargestellt.",
-              datei);
+        MeldeText(meldung, "Der gespeicherte Ausschnitt ist nicht lesbar; das ganze Netz wird dargestellt.",
+                  datei);
         liste.Weite = bild.weite;
         liste.Hoehe = bild.hoehe;
         liste.VergissLage();
@@ -56,7 +57,7 @@ Lesung OeffneNetz(const std::filesystem::path& datei, const Dateien& dateien,
     liste.Weite = bild.weite;
     liste.Hoehe = bild.hoehe;
     if (liste.PunktKnoten == nullptr && lesung.ende == Leseende::Vollstaendig) {
-        Melde(meldung, Leertext(lesung.bericht), datei);
+        MeldeText(meldung, Leertext(lesung.bericht), datei);
     }
     PasseEin(liste);
     return lesung;

@@ -48,7 +48,7 @@ bool NurLeer(std::string_view text) {
 /// The file that an include record names, behind one separator.
 std::string_view Dateiname(std::string_view rest) {
     Feldleser felder(rest);
-    felder.Ueberspringe(kTrenner);
+    felder.UeberspringeZeichen(kTrenner);
     return OhneRand(felder.Rest());
 }
 
@@ -76,7 +76,7 @@ double GradDezimal(double wert) {
 Lesung LeseSteuerdatei(const std::filesystem::path& datei, const Dateien& dateien,
                        const Einstellungen& einstellungen, const Meldungsempfaenger& meldung,
                        const Lesefortschritt& fortschritt) {
-    return Steuerleser(datei, dateien, einstellungen, meldung, fortschritt).Lies();
+    return Steuerleser(datei, dateien, einstellungen, meldung, fortschritt).LiesDatei();
 }
 
 // --- Record loop ------------------------------------------------------------------------------------------
@@ -92,7 +92,7 @@ Steuerleser::Steuerleser(const std::filesystem::path& datei, const Dateien& date
       bauer_(*lesung_.liste, einstellungen),
       ellipsoid_(EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite)) {}
 
-Lesung Steuerleser::Lies() {
+Lesung Steuerleser::LiesDatei() {
     // A point or a line takes at least about so many bytes of a control file.
     bauer_.ErwarteFiguren(std::min<std::size_t>(quelle_.Groesse() / 64, kMaxPunkte),
                           std::min<std::size_t>(quelle_.Groesse() / 64, 200'000));
@@ -100,7 +100,7 @@ Lesung Steuerleser::Lies() {
         BeginneText();
         constexpr unsigned kTakt = 8192;  // lines between two reports
         for (unsigned zeilen = 1; !fertig_ && quelle_.Naechste(zeile_); ++zeilen) {
-            if (zeilen % kTakt == 0) Berichte();
+            if (zeilen % kTakt == 0) MeldeBericht();
             const Satz* satz = LeseSchluessel(zeile_);
             const std::string_view rest = zeile_.substr(std::min<std::size_t>(3, zeile_.size()));
             if (vektorenOffen_ > 0) {
@@ -116,8 +116,8 @@ Lesung Steuerleser::Lies() {
             }
             (this->*satz->lesen)(rest);
         }
-        bauer_.Vollende();
-        Schliesse();
+        bauer_.VollendeNetz();
+        SchliesseLesung();
     } catch (const Leseabbruch&) {
         throw;
     } catch (const Fehler& f) {
@@ -128,7 +128,7 @@ Lesung Steuerleser::Lies() {
 }
 
 /// What can be told only when everything has been read.
-void Steuerleser::Schliesse() {
+void Steuerleser::SchliesseLesung() {
     if (vektorenOffen_ > 0 && meldung_) {
         meldung_({"Der GPS-Block kündigt " + std::to_string(vektoren_) +
                       " Vektoren ($SV) an, gefunden: " + std::to_string(vektoren_ - vektorenOffen_) +
@@ -147,7 +147,7 @@ Lesebericht::Befund Steuerleser::Befund(const Netzbauer::Zahl& zahl) const {
     return {zahl.anzahl, quelle_.Name(zahl.erster), zahl.erster.zeile};
 }
 
-void Steuerleser::Uebergehe(std::string_view /*rest*/) {}
+void Steuerleser::UebergeheSatz(std::string_view /*rest*/) {}
 
 void Steuerleser::Ende(std::string_view /*rest*/) {
     fertig_ = true;
@@ -180,42 +180,43 @@ double Steuerleser::Realzahl(Feldleser& felder, const char* name) const {
 /// Takes a value over. Where a line only continues the record, without looking like it, the change is told:
 /// it moves the whole network.
 template <class T>
-void Steuerleser::Setze(T& ziel, const T& wert, const char* name) const {
-    if (ziel != wert && !Fortsetzung().empty()) Melde("\"" + Auszug(zeile_) + "\" ändert: " + name, {}, true);
+void Steuerleser::SetzeAngabe(T& ziel, const T& wert, const char* name) const {
+    if (ziel != wert && !Fortsetzung().empty())
+        MeldeZeile("\"" + Auszug(zeile_) + "\" ändert: " + name, {}, true);
     ziel = wert;
 }
 
 void Steuerleser::LiesXVersatz(std::string_view rest) {
     constexpr const char* kName = "Zuschlag zum Hochwert";
     Feldleser felder(rest);
-    Setze(lesung_.netz.XVersatz, Realzahl(felder, kName), kName);
+    SetzeAngabe(lesung_.netz.XVersatz, Realzahl(felder, kName), kName);
 }
 
 void Steuerleser::LiesYVersatz(std::string_view rest) {
     constexpr const char* kName = "Zuschlag zum Rechtswert";
     Feldleser felder(rest);
-    Setze(lesung_.netz.YVersatz, Realzahl(felder, kName), kName);
+    SetzeAngabe(lesung_.netz.YVersatz, Realzahl(felder, kName), kName);
 }
 
 void Steuerleser::LiesNetztyp(std::string_view rest) {
     constexpr const char* kName = "Netztyp";
     Feldleser felder(rest);
-    Setze(lesung_.netz.Netztyp, Ganzzahl(felder, kName), kName);
+    SetzeAngabe(lesung_.netz.Netztyp, Ganzzahl(felder, kName), kName);
     lesung_.bericht.netztyp = true;
 }
 
 void Steuerleser::LiesPunktformat(std::string_view rest) {
     constexpr const char* kName = "Punktformat";
     Feldleser felder(rest);
-    Setze(punktformat_, Ganzzahl(felder, kName), kName);
+    SetzeAngabe(punktformat_, Ganzzahl(felder, kName), kName);
 }
 
 void Steuerleser::LiesEllipsoid(std::string_view rest) {
     constexpr const char* kName = "Ellipsoid";
     Feldleser felder(rest);
-    Setze(lesung_.netz.Ellipsoid, Ganzzahl(felder, kName), kName);
+    SetzeAngabe(lesung_.netz.Ellipsoid, Ganzzahl(felder, kName), kName);
     lesung_.netz.EllipsoidGenannt = true;
-    if (!EllipsoidBekannt(lesung_.netz.Ellipsoid)) Melde(std::string(kUnbekanntesEllipsoid));
+    if (!EllipsoidBekannt(lesung_.netz.Ellipsoid)) MeldeZeile(std::string(kUnbekanntesEllipsoid));
     ellipsoid_ = EllipsoidRadii(lesung_.netz.Ellipsoid, kMittlereBreite);
 }
 
@@ -226,17 +227,17 @@ void Steuerleser::LiesKoordinatensystem(std::string_view rest) {
     const std::int32_t meridian = Ganzzahl(felder, kMeridian);
     const std::int32_t modus = Ganzzahl(felder, kModus);
     if (modus < 0 || modus > 255) FalscheZahl(kModus);
-    Setze(lesung_.netz.Hauptmeridian, meridian, kMeridian);
-    Setze(lesung_.netz.Abbildungsmodus, static_cast<std::uint8_t>(modus), kModus);
+    SetzeAngabe(lesung_.netz.Hauptmeridian, meridian, kMeridian);
+    SetzeAngabe(lesung_.netz.Abbildungsmodus, static_cast<std::uint8_t>(modus), kModus);
     lesung_.netz.AbbildungGenannt = true;
 }
 
 void Steuerleser::LiesTitel(std::string_view rest) {
     Feldleser felder(rest);
-    felder.Ueberspringe(kTrenner);
+    felder.UeberspringeZeichen(kTrenner);
     if (!lesung_.liste->Legend) lesung_.liste->Legend = Legende::Create();
-    Setze(lesung_.liste->Legend->Bez1, std::string(OhneRand(felder.Rest().substr(0, 255))),
-          "Titel des Netzes");
+    SetzeAngabe(lesung_.liste->Legend->Bez1, std::string(OhneRand(felder.Rest().substr(0, 255))),
+                "Titel des Netzes");
 }
 
 // --- Include files ----------------------------------------------------------------------------------------
@@ -244,9 +245,9 @@ void Steuerleser::LiesTitel(std::string_view rest) {
 void Steuerleser::FuegeEin(std::string_view rest) {
     if (quelle_.EinfuegungOffen()) {
         if (schluesselSeitEinfuegung_) {
-            Melde("Eine eingefügte Datei kann keine weitere einfügen; die Zeile wurde übergangen.");
+            MeldeZeile("Eine eingefügte Datei kann keine weitere einfügen; die Zeile wurde übergangen.");
         } else if (!std::exchange(schluessellosGemeldet_, true)) {
-            Melde(
+            MeldeZeile(
                 "Die eingefügte Datei beginnt ohne Schlüssel: Ihre Zeilen werden bis zum ersten Schlüssel "
                 "übergangen. Bitte den Schlüssel der ersten Zeile ergänzen, zum Beispiel $ST.");
         }
@@ -256,9 +257,9 @@ void Steuerleser::FuegeEin(std::string_view rest) {
     const Einfuegung e = quelle_.OeffneEinfuegung(name);
     if (e.grund.empty()) {
         if (!e.ersatz.empty()) {
-            Melde("Statt " + Auszug(name, kNamenslaenge) + " wurde " + e.ersatz +
-                      " aus dem Ordner der Steuerdatei gelesen.",
-                  {}, true);
+            MeldeZeile("Statt " + Auszug(name, kNamenslaenge) + " wurde " + e.ersatz +
+                           " aus dem Ordner der Steuerdatei gelesen.",
+                       {}, true);
         }
         BeginneText();
         schluesselSeitEinfuegung_ = false;
@@ -299,7 +300,7 @@ void Steuerleser::FuegeKoordinatenEin(std::string_view rest) {
 void Steuerleser::LesePunkt(PunktArt punktart, std::string_view rest) {
     if (NurLeer(rest)) return;
     Feldleser felder(rest);
-    felder.Ueberspringe(kTrenner);
+    felder.UeberspringeZeichen(kTrenner);
     const std::string_view nummer = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
     const Koordinaten art = ZumTyp(lesung_.netz.Netztyp).koordinaten;
     if (art == Koordinaten::Keine) {
@@ -314,7 +315,7 @@ void Steuerleser::LesePunkt(PunktArt punktart, std::string_view rest) {
         MeldePunkt(nummer, werte);
         return;
     }
-    if (!werte.empty() && !IstLeerzeichen(werte.front())) Melde(kVerschoben + Auszug(nummer), {}, true);
+    if (!werte.empty() && !IstLeerzeichen(werte.front())) MeldeZeile(kVerschoben + Auszug(nummer), {}, true);
     bauer_.Punkt(quelle_.Hier(), punktart, nummer, *code, ort);
 }
 
@@ -324,7 +325,7 @@ void Steuerleser::MeldePunkt(std::string_view nummer, std::string_view werte) {
     text.resize(std::min(text.size(), kMeldungslaenge));
     std::string grund = Lesegrund(werte, Punktfelder(ZumTyp(lesung_.netz.Netztyp).koordinaten, punktformat_));
     if (!werte.empty() && !IstLeerzeichen(werte.front())) grund += "; Text hinter den 14 Stellen der Nummer";
-    Melde(Auszug(text), std::move(grund));
+    MeldeZeile(Auszug(text), std::move(grund));
 }
 
 bool Steuerleser::LiesOrt(Koordinaten art, Feldleser& felder, Welt& ort) const {
@@ -387,7 +388,7 @@ void Steuerleser::LiesStandpunkt(std::string_view rest) {
 }
 
 void Steuerleser::Ziele(std::string_view rest, Farbe farbe) {
-    bauer_.Beobachte(quelle_.Hier(), Netzbauer::Art::Richtung, {}, NaechstesWort(rest), farbe);
+    bauer_.NimmBeobachtung(quelle_.Hier(), Netzbauer::Art::Richtung, {}, NaechstesWort(rest), farbe);
 }
 
 void Steuerleser::LiesRichtung(std::string_view rest) {
@@ -398,23 +399,23 @@ void Steuerleser::LiesAzimut(std::string_view rest) {
     Ziele(rest, einstellungen_.AZCol);
 }
 
-void Steuerleser::Beobachte(std::string_view rest, Netzbauer::Art art) {
+void Steuerleser::LiesBeobachtung(std::string_view rest, Netzbauer::Art art) {
     const std::string_view von = NaechstesWort(rest);
-    bauer_.Beobachte(quelle_.Hier(), art, von, NaechstesWort(rest));
+    bauer_.NimmBeobachtung(quelle_.Hier(), art, von, NaechstesWort(rest));
 }
 
 void Steuerleser::LiesStrecke(std::string_view rest) {
-    Beobachte(rest, Netzbauer::Art::Strecke);
+    LiesBeobachtung(rest, Netzbauer::Art::Strecke);
 }
 
 void Steuerleser::LiesHoehenunterschied(std::string_view rest) {
-    Beobachte(rest, Netzbauer::Art::Hoehenunterschied);
+    LiesBeobachtung(rest, Netzbauer::Art::Hoehenunterschied);
 }
 
 void Steuerleser::LeseGPSVektoren(std::string_view rest) {
     if (!ZumTyp(lesung_.netz.Netztyp).mitGPS) return;
     Feldleser felder(rest);
-    felder.Ueberspringe(kTrenner);
+    felder.UeberspringeZeichen(kTrenner);
     (void)Ganzzahl(felder, "Zahl vor der Anzahl");
     vektoren_ = static_cast<std::uint64_t>(std::abs(std::int64_t{Ganzzahl(felder, "Anzahl der Vektoren")}));
     vektorenOffen_ = vektoren_;
@@ -434,16 +435,16 @@ void Steuerleser::LiesVektor(std::string_view rest) {
     Feldleser felder(rest);
     (void)Ganzzahl(felder, "erste Zahl");
     (void)Ganzzahl(felder, "zweite Zahl");
-    felder.Ueberspringe(kTrenner);
+    felder.UeberspringeZeichen(kTrenner);
     const std::string_view von = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
-    felder.Ueberspringe(kTrenner);
+    felder.UeberspringeZeichen(kTrenner);
     const std::string_view nach = OhneRand(felder.Zeichen(PunktNummernTyp::kLaenge));
-    bauer_.Beobachte(quelle_.Hier(), Netzbauer::Art::GPSVektor, von, nach);
+    bauer_.NimmBeobachtung(quelle_.Hier(), Netzbauer::Art::GPSVektor, von, nach);
 }
 
 // --- Messages ---------------------------------------------------------------------------------------------
 
-void Steuerleser::Berichte() const {
+void Steuerleser::MeldeBericht() const {
     if (fortschritt_ && !fortschritt_(quelle_.Anteil()))
         throw Leseabbruch("Das Lesen wurde abgebrochen.", quelle_.Name(quelle_.Hier()));
 }
@@ -454,7 +455,7 @@ std::string Steuerleser::Fortsetzung() const {
     return "(unbekannter Schlüssel, gelesen als Fortsetzung von " + std::string(letzter_->schluessel) + ")";
 }
 
-void Steuerleser::Melde(std::string text, std::string grund, bool hinweis) const {
+void Steuerleser::MeldeZeile(std::string text, std::string grund, bool hinweis) const {
     if (!meldung_) return;
     if (const std::string fremd = Fortsetzung(); !fremd.empty()) grund += (grund.empty() ? "" : " ") + fremd;
     const Zeilenort hier = quelle_.Hier();

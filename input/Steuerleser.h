@@ -25,10 +25,10 @@ class Steuerleser {
                 const Lesefortschritt& fortschritt);
 
     /// Reads until "$$$" or the end of the file. @throws Fehler with file and line
-    [[nodiscard]] Lesung Lies();
+    [[nodiscard]] Lesung LiesDatei();
 
     // One record each. `rest` is the line behind its first three characters.
-    void Uebergehe(std::string_view rest);
+    void UebergeheSatz(std::string_view rest);
     void Ende(std::string_view rest);
     void LiesXVersatz(std::string_view rest);
     void LiesYVersatz(std::string_view rest);
@@ -59,18 +59,18 @@ class Steuerleser {
     void MeldePunkt(std::string_view nummer, std::string_view felder);
     void BeginneText();
     void LiesVektor(std::string_view rest);
-    void Beobachte(std::string_view rest, Netzbauer::Art art);
+    void LiesBeobachtung(std::string_view rest, Netzbauer::Art art);
     void Ziele(std::string_view rest, Farbe farbe);
     /// The next number of a record. @param name what it is, for messages. @throws Fehler
     [[nodiscard]] std::int32_t Ganzzahl(Feldleser& felder, const char* name) const;
     [[nodiscard]] double Realzahl(Feldleser& felder, const char* name) const;
     template <class T>
-    void Setze(T& ziel, const T& wert, const char* name) const;
+    void SetzeAngabe(T& ziel, const T& wert, const char* name) const;
     /// What the line continues though it does not look like it; empty for every other line.
     [[nodiscard]] std::string Fortsetzung() const;
-    void Melde(std::string text, std::string grund = {}, bool hinweis = false) const;
-    void Berichte() const;
-    void Schliesse();
+    void MeldeZeile(std::string text, std::string grund = {}, bool hinweis = false) const;
+    void MeldeBericht() const;
+    void SchliesseLesung();
     [[nodiscard]] Lesebericht::Befund Befund(const Netzbauer::Zahl& zahl) const;
     [[noreturn]] void FalscheZahl(const char* name) const;
 

@@ -52,7 +52,7 @@ std::string Grund(int nummer) {
     return grund != kGruende.end() ? grund->second : "Systemfehler " + std::to_string(nummer);
 }
 
-[[noreturn]] void Wirf(const std::string& text, const fs::path& datei, int nummer) {
+[[noreturn]] void WirfFehler(const std::string& text, const fs::path& datei, int nummer) {
     throw Fehler(text + " (" + Grund(nummer) + ").", PfadText(datei));
 }
 
@@ -64,7 +64,7 @@ constexpr const char* kNichtSchreiben = "Kann Datei nicht schreiben";
 
 // The few calls that differ between the systems.
 #ifdef _WIN32
-Strom Oeffne(const fs::path& p, bool neu) {
+Strom OeffneStrom(const fs::path& p, bool neu) {
     return Strom(_wfopen(p.c_str(), neu ? L"wbx" : L"rb"));
 }
 bool AufPlatte(std::FILE* f) {
@@ -85,7 +85,7 @@ bool Schreibbar(const fs::path& p) {
     return _waccess(p.c_str(), kSchreiben) == 0;
 }
 #else
-Strom Oeffne(const fs::path& p, bool neu) {
+Strom OeffneStrom(const fs::path& p, bool neu) {
     // Without blocking: the name may have become a pipe since it was looked at.
     const int fd = neu ? ::open(p.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)
                        : ::open(p.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -146,7 +146,7 @@ fs::path Linkziel(const fs::path& datei) {
     std::error_code fehler;
     fs::path ziel = datei;
     for (int i = 0; fs::is_symlink(fs::symlink_status(ziel, fehler)); ++i) {
-        if (i == kVerweise) Wirf(kNichtSchreiben, datei, ELOOP);
+        if (i == kVerweise) WirfFehler(kNichtSchreiben, datei, ELOOP);
         ziel = ziel.parent_path() / fs::read_symlink(ziel, fehler);  // an absolute one stands for itself
     }
     const fs::path echt = fs::weakly_canonical(ziel, fehler);
@@ -159,8 +159,8 @@ class Schreiber final : public Dateischreiber {
     /// @param genannt the target as the user called it, for messages
     Schreiber(const fs::path& genannt, fs::path ziel, fs::path daneben)
         : genannt_(genannt), ziel_(std::move(ziel)), daneben_(std::move(daneben)) {
-        strom_ = Oeffne(daneben_, true);
-        if (strom_ == nullptr) Wirf(kNichtSchreiben, genannt_, errno);
+        strom_ = OeffneStrom(daneben_, true);
+        if (strom_ == nullptr) WirfFehler(kNichtSchreiben, genannt_, errno);
         // Callers hand over large pieces; a second buffer would only copy them.
         std::setvbuf(strom_.get(), nullptr, _IONBF, 0);
         liegtDaneben_ = true;
@@ -175,18 +175,18 @@ class Schreiber final : public Dateischreiber {
 
     void SchreibeBytes(std::string_view bytes) override {
         if (std::fwrite(bytes.data(), 1, bytes.size(), strom_.get()) != bytes.size())
-            Wirf(kNichtSchreiben, genannt_, errno);
+            WirfFehler(kNichtSchreiben, genannt_, errno);
     }
     void SichereDatei() override {
         if (!AufPlatte(strom_.get()) || std::fclose(strom_.release()) != 0)
-            Wirf(kNichtSchreiben, genannt_, errno);
+            WirfFehler(kNichtSchreiben, genannt_, errno);
     }
     void ErsetzeZiel() override {
         std::error_code fehler;
         const fs::file_status alt = fs::status(ziel_, fehler);
         if (fs::exists(alt)) fs::permissions(daneben_, alt.permissions(), fehler);
         fs::rename(daneben_, ziel_, fehler);
-        if (fehler) Wirf(kNichtSchreiben, genannt_, fehler.value());
+        if (fehler) WirfFehler(kNichtSchreiben, genannt_, fehler.value());
         liegtDaneben_ = false;
         OrdnerAufPlatte(ziel_.parent_path());
     }
@@ -230,7 +230,7 @@ std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) 
     const fs::file_status status = fs::status(datei, fehler);
     if (!fs::exists(status)) NichtZuOeffnen(datei, Grund(fehler ? fehler.value() : ENOENT));
     if (!fs::is_regular_file(status)) NichtZuOeffnen(datei, "keine gewöhnliche Datei");
-    const Strom strom = Oeffne(datei, false);
+    const Strom strom = OeffneStrom(datei, false);
     if (strom == nullptr) NichtZuOeffnen(datei, Grund(errno));
     const auto vorher = StandVon(strom.get(), datei);
     if (vorher && vorher->groesse > grenze) {
@@ -240,7 +240,7 @@ std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) 
     }
     std::string inhalt = Puffer(vorher ? static_cast<std::size_t>(vorher->groesse) : 0);
     inhalt.resize(std::fread(inhalt.data(), 1, inhalt.size(), strom.get()));
-    if (std::ferror(strom.get()) != 0) Wirf("Kann Datei nicht lesen", datei, errno);
+    if (std::ferror(strom.get()) != 0) WirfFehler("Kann Datei nicht lesen", datei, errno);
     // Another program may be writing it: part of the old content and part of the new one are no file.
     if (StandVon(strom.get(), datei) != vorher || !vorher || inhalt.size() != vorher->groesse) {
         throw Fehler("Die Datei wurde während des Lesens geändert. Bitte noch einmal öffnen.",
@@ -252,12 +252,12 @@ std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) 
 std::unique_ptr<Dateischreiber> Systemdateien::BeginneDatei(const fs::path& datei) {
     std::error_code fehler;
     fs::path ziel = Linkziel(datei);
-    if (fs::is_directory(ziel, fehler)) Wirf(kNichtSchreiben, datei, EISDIR);
+    if (fs::is_directory(ziel, fehler)) WirfFehler(kNichtSchreiben, datei, EISDIR);
     // Renaming onto a device or a pipe would take it away from the whole system.
     if (fs::exists(ziel, fehler) && !fs::is_regular_file(ziel, fehler))
         throw Fehler("Kann Datei nicht schreiben (keine gewöhnliche Datei).", PfadText(datei));
     // The folder would allow it; but somebody has protected the file.
-    if (fs::exists(ziel, fehler) && !Schreibbar(ziel)) Wirf(kNichtSchreiben, datei, errno);
+    if (fs::exists(ziel, fehler) && !Schreibbar(ziel)) WirfFehler(kNichtSchreiben, datei, errno);
     fs::path daneben = NameDaneben(ziel, laufend_);
     return std::make_unique<Schreiber>(datei, std::move(ziel), std::move(daneben));
 }

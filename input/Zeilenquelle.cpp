@@ -47,10 +47,10 @@ std::string Grund(const Dateien& dateien, const std::filesystem::path& pfad) {
 
 Zeilenquelle::Zeilenquelle(const std::filesystem::path& steuerdatei, const Dateien& dateien)
     : dateien_(dateien), ordner_(steuerdatei.parent_path()) {
-    Uebernimm(haupt_, steuerdatei, dateien.LiesDatei(steuerdatei, kMaxDatei));
+    UebernimmInhalt(haupt_, steuerdatei, dateien.LiesDatei(steuerdatei, kMaxDatei));
 }
 
-void Zeilenquelle::Uebernimm(Text& text, const std::filesystem::path& pfad, std::string inhalt) {
+void Zeilenquelle::UebernimmInhalt(Text& text, const std::filesystem::path& pfad, std::string inhalt) {
     if (IstUtf16(inhalt)) {
         throw Fehler("Die Datei ist in UTF-16 geschrieben. Bitte in Codepage 1252 oder UTF-8 speichern.",
                      PfadText(pfad));
@@ -69,13 +69,13 @@ void Zeilenquelle::Uebernimm(Text& text, const std::filesystem::path& pfad, std:
 }
 
 bool Zeilenquelle::Naechste(std::string_view& zeile) {
-    ausEinfuegung_ = eingefuegt_.offen && Lies(eingefuegt_, zeile);
+    ausEinfuegung_ = eingefuegt_.offen && LiesZeile(eingefuegt_, zeile);
     if (ausEinfuegung_) return true;
     eingefuegt_.offen = false;
-    return Lies(haupt_, zeile);
+    return LiesZeile(haupt_, zeile);
 }
 
-bool Zeilenquelle::Lies(Text& text, std::string_view& zeile) {
+bool Zeilenquelle::LiesZeile(Text& text, std::string_view& zeile) {
     if (text.stelle >= text.inhalt.size()) return false;
     // Searched once for each CR, not once for each line: most files have none, others nothing else.
     if (text.ruecklauf < text.stelle) text.ruecklauf = text.inhalt.find('\r', text.stelle);
@@ -107,7 +107,7 @@ Einfuegung Zeilenquelle::OeffneEinfuegung(std::string_view name) {
     }
     Text neu;
     try {
-        Uebernimm(neu, *pfad, dateien_.LiesDatei(*pfad, kMaxDatei));
+        UebernimmInhalt(neu, *pfad, dateien_.LiesDatei(*pfad, kMaxDatei));
     } catch (const Oeffnungsfehler& f) {
         return {.grund = f.Grund(), .ersatz = {}};
     } catch (const Fehler& f) {

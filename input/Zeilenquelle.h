@@ -71,8 +71,8 @@ class Zeilenquelle {
         std::uint32_t nummer = 0;
         bool offen = false;
     };
-    void Uebernimm(Text& text, const std::filesystem::path& pfad, std::string inhalt);
-    [[nodiscard]] static bool Lies(Text& text, std::string_view& zeile);
+    void UebernimmInhalt(Text& text, const std::filesystem::path& pfad, std::string inhalt);
+    [[nodiscard]] static bool LiesZeile(Text& text, std::string_view& zeile);
     [[nodiscard]] const Text& Aktuell() const { return ausEinfuegung_ ? eingefuegt_ : haupt_; }
 
     const Dateien& dateien_;

@@ -16,7 +16,7 @@ import sys
 WORT = re.compile(r"[A-Za-zÀ-ÖØ-öø-ÿ]+(?:-[A-Za-zÀ-ÖØ-öø-ÿ]+)*")
 # What these write is no language; of them only messages are texts.
 SCHREIBER = re.compile(r"output/(Svgflaeche|Pdfflaeche|Geojson|DXFUnit|Plotdatei)|input/tabellen/(Datenbank|Codeseite)")
-MELDUNG = re.compile(r"(Fehler|Wirf|Meldung)[({][^;]*$")
+MELDUNG = re.compile(r"(Fehler|Meldung)[({][^;]*$")
 # Queries, style sheets and formats are none either, nor what the compiler says to us.
 KEIN_TEXT = re.compile(r"SELECT |CREATE |DROP |INSERT |PRAGMA |order by|[{};]\s*$|^[%&#<@:/\\]|://|\w\(\)|^[a-z]+$")
 

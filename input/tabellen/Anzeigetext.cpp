@@ -18,7 +18,7 @@ struct Dezimal {
     int stellenVorKomma = 0;
 };
 
-Dezimal Zerlege(double wert) {
+Dezimal ZerlegeZahl(double wert) {
     std::array<char, 32> text{};
     const auto ende =
         std::to_chars(text.data(), text.data() + text.size(), wert, std::chars_format::scientific).ptr;
@@ -36,7 +36,7 @@ Dezimal Zerlege(double wert) {
 }
 
 /// Digits up to `stellen` decimals, halves upwards.
-void Runde(Dezimal& d, int stellen) {
+void RundeDezimal(Dezimal& d, int stellen) {
     const int behalten = d.stellenVorKomma + stellen;
     if (behalten < 0) {
         d.ziffern.clear();
@@ -66,8 +66,8 @@ std::string Anzeigetext(double wert, std::string_view muster) {
     const std::size_t punkt = std::min(muster.find('.'), muster.size());
     const bool fuehrendeNull = muster.substr(0, punkt).find('0') != std::string_view::npos;
     const int stellen = punkt < muster.size() ? static_cast<int>(muster.size() - punkt - 1) : 0;
-    Dezimal d = Zerlege(std::abs(wert));
-    Runde(d, stellen);
+    Dezimal d = ZerlegeZahl(std::abs(wert));
+    RundeDezimal(d, stellen);
     const bool null = d.ziffern.find_first_not_of('0') == std::string::npos;
     const auto ziffer = [&](int stelle) {  // counted from the first digit before the point
         const bool da = stelle >= 0 && static_cast<std::size_t>(stelle) < d.ziffern.size();

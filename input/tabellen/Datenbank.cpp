@@ -36,7 +36,9 @@ class Vorgang {
     }
     Vorgang(const Vorgang&) = delete;
     Vorgang& operator=(const Vorgang&) = delete;
-    void Behalte() { sqlite3_exec(std::exchange(datenbank_, nullptr), "COMMIT", nullptr, nullptr, nullptr); }
+    void BehalteVorgang() {
+        sqlite3_exec(std::exchange(datenbank_, nullptr), "COMMIT", nullptr, nullptr, nullptr);
+    }
 
   private:
     sqlite3* datenbank_;
@@ -49,7 +51,7 @@ class Datenbank::Anweisung {
     Anweisung(const Datenbank& d, std::string_view text) : datenbank_(d) {
         if (sqlite3_prepare_v2(d.datenbank_.get(), text.data(), static_cast<int>(text.size()), &anweisung_,
                                nullptr) != SQLITE_OK) {
-            d.Scheitere();
+            d.WirfFehler();
         }
     }
     ~Anweisung() { sqlite3_finalize(anweisung_); }
@@ -60,10 +62,10 @@ class Datenbank::Anweisung {
     /// @return whether there is a row
     bool Schritt() {
         const int ergebnis = sqlite3_step(anweisung_);
-        if (ergebnis != SQLITE_ROW && ergebnis != SQLITE_DONE) datenbank_.Scheitere();
+        if (ergebnis != SQLITE_ROW && ergebnis != SQLITE_DONE) datenbank_.WirfFehler();
         return ergebnis == SQLITE_ROW;
     }
-    void Binde(int stelle, const paradox::Wert& wert) {
+    void BindeWert(int stelle, const paradox::Wert& wert) {
         if (const auto* ganz = std::get_if<std::int64_t>(&wert)) {
             sqlite3_bind_int64(anweisung_, stelle, *ganz);
         } else if (const auto* real = std::get_if<double>(&wert)) {
@@ -105,12 +107,12 @@ Datenbank::Datenbank() {
     sqlite3* neu = nullptr;
     const int ergebnis = sqlite3_open(":memory:", &neu);
     datenbank_.reset(neu);
-    if (ergebnis != SQLITE_OK) Scheitere();
+    if (ergebnis != SQLITE_OK) WirfFehler();
 }
 
 Datenbank::~Datenbank() = default;
 
-void Datenbank::Scheitere() const {
+void Datenbank::WirfFehler() const {
     const std::string grund =
         datenbank_ != nullptr ? sqlite3_errmsg(datenbank_.get()) : "Der Speicher reicht nicht.";
     // What users meet: the other program wrote a table without a field that is asked for.
@@ -121,18 +123,18 @@ void Datenbank::Scheitere() const {
     throw Fehler("Die Ergebnisse lassen sich nicht abfragen: " + grund);
 }
 
-void Datenbank::Tue(const std::string& anweisung) const {
+void Datenbank::FuehreAnweisungAus(const std::string& anweisung) const {
     if (sqlite3_exec(datenbank_.get(), anweisung.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        Scheitere();
+        WirfFehler();
 }
 
-void Datenbank::Entferne(std::string_view name) {
-    Tue("DROP TABLE IF EXISTS " + Namen(name));
+void Datenbank::EntferneTabelle(std::string_view name) {
+    FuehreAnweisungAus("DROP TABLE IF EXISTS " + Namen(name));
 }
 
-void Datenbank::Ersetze(std::string_view name, std::span<const std::string> spalten,
-                        std::span<const std::string_view> verzeichnisse,
-                        const std::function<void(const Zeilenziel&)>& fuelle) {
+void Datenbank::ErsetzeTabelle(std::string_view name, std::span<const std::string> spalten,
+                               std::span<const std::string_view> verzeichnisse,
+                               const std::function<void(const Zeilenziel&)>& fuelle) {
     std::vector<std::size_t> behalten;
     std::string felder;
     std::string platzhalter;
@@ -145,13 +147,13 @@ void Datenbank::Ersetze(std::string_view name, std::span<const std::string> spal
     }
     if (behalten.empty()) throw Fehler("Die Tabelle hat kein Feld mit einem Namen.");
     Vorgang vorgang(datenbank_.get());
-    Entferne(name);
-    Tue("CREATE TABLE " + Namen(name) + "(" + felder + ")");
+    EntferneTabelle(name);
+    FuehreAnweisungAus("CREATE TABLE " + Namen(name) + "(" + felder + ")");
     {
         Anweisung einfuegen(*this, "INSERT INTO " + Namen(name) + " VALUES(" + platzhalter + ")");
         fuelle([&](std::span<const paradox::Wert> zeile) {
             for (std::size_t i = 0; i < behalten.size(); ++i)
-                einfuegen.Binde(static_cast<int>(i) + 1, zeile[behalten[i]]);
+                einfuegen.BindeWert(static_cast<int>(i) + 1, zeile[behalten[i]]);
             einfuegen.Schritt();
             sqlite3_reset(*einfuegen);
         });
@@ -159,11 +161,11 @@ void Datenbank::Ersetze(std::string_view name, std::span<const std::string> spal
     for (const std::string_view spalte : verzeichnisse) {
         if (std::any_of(spalten.begin(), spalten.end(),
                         [&](const std::string& s) { return GleicherName(s, spalte); })) {
-            Tue("CREATE INDEX " + Namen(std::string(name) + "_" + std::string(spalte)) + " ON " +
-                Namen(name) + "(" + Namen(spalte) + ")");
+            FuehreAnweisungAus("CREATE INDEX " + Namen(std::string(name) + "_" + std::string(spalte)) +
+                               " ON " + Namen(name) + "(" + Namen(spalte) + ")");
         }
     }
-    vorgang.Behalte();
+    vorgang.BehalteVorgang();
 }
 
 void Datenbank::FuerJedeZeile(std::string_view abfrage,
@@ -177,7 +179,7 @@ void Datenbank::FuerJedeZeile(std::string_view abfrage,
     }
 }
 
-Antwort Datenbank::Frage(std::string_view abfrage) const {
+Antwort Datenbank::StelleAbfrage(std::string_view abfrage) const {
     Antwort antwort;
     {
         const Anweisung anweisung(*this, abfrage);

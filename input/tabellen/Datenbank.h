@@ -39,21 +39,21 @@ class Datenbank {
     /// Puts a table in place of the one of this name, in one step: where `fuelle` throws, the old one stays.
     /// @param spalten names of the columns, empty ones are left out and repeated ones, too
     /// @param verzeichnisse columns to be looked up by
-    void Ersetze(std::string_view name, std::span<const std::string> spalten,
-                 std::span<const std::string_view> verzeichnisse,
-                 const std::function<void(const Zeilenziel&)>& fuelle);
+    void ErsetzeTabelle(std::string_view name, std::span<const std::string> spalten,
+                        std::span<const std::string_view> verzeichnisse,
+                        const std::function<void(const Zeilenziel&)>& fuelle);
     /// Drops the table if there is one.
-    void Entferne(std::string_view name);
-    /// Calls `tun` with each row; the values hold until the next one. @throws Fehler as `Frage`
+    void EntferneTabelle(std::string_view name);
+    /// Calls `tun` with each row; the values hold until the next one. @throws Fehler as `StelleAbfrage`
     void FuerJedeZeile(std::string_view abfrage,
                        const std::function<void(std::span<const Zelle>)>& tun) const;
     /// @throws Fehler naming what the query misses
-    [[nodiscard]] Antwort Frage(std::string_view abfrage) const;
+    [[nodiscard]] Antwort StelleAbfrage(std::string_view abfrage) const;
 
   private:
     class Anweisung;
-    void Tue(const std::string& anweisung) const;
-    [[noreturn]] void Scheitere() const;
+    void FuehreAnweisungAus(const std::string& anweisung) const;
+    [[noreturn]] void WirfFehler() const;
 
     struct Schliesser {
         void operator()(sqlite3* datenbank) const;

@@ -27,13 +27,13 @@ std::vector<Tabellenmeldung> MarkiereFehler(Liste& liste, TDM& daten, const Eins
         if (!daten.Vorhanden(s.datei) || !daten.Vorhanden(eigene)) continue;
         try {
             const TDM::Mangel mangel =
-                daten.Pruefe(s.tabelle, std::array<std::string_view, 4>{"ID", s.von, s.nach, s.flag});
+                daten.PruefeFelder(s.tabelle, std::array<std::string_view, 4>{"ID", s.von, s.nach, s.flag});
             const bool fehlt = !mangel.fehlende.empty();
             if (!mangel.text.empty())
                 meldungen.push_back({mangel.text + (fehlt ? " Ihre groben Fehler bleiben unmarkiert."
                                                           : " Grobe Fehler können unmarkiert bleiben.")});
             if (fehlt) continue;
-            const Antwort antwort = daten.Frage(s.tabelle, s.abfrage);
+            const Antwort antwort = daten.FrageTabelle(s.tabelle, s.abfrage);
             for (const auto& zeile : antwort.zeilen) {
                 const PPunktKante kante = liste.FindKante(Punktnummer(liste, antwort, zeile, s.von),
                                                           Punktnummer(liste, antwort, zeile, s.nach));

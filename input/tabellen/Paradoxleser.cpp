@@ -65,30 +65,30 @@ std::uint32_t Leser::U32(std::size_t stelle) const {
     return ByteLeser(inhalt_.substr(stelle, 4)).U32();
 }
 
-void Leser::Melde(const std::string& text) const {
+void Leser::WirfFehler(const std::string& text) const {
     throw Fehler(text, datei_);
 }
 
 void Leser::Beschaedigt(const std::string& was) const {
-    Melde("Die Tabelle ist beschädigt (" + was +
-          "). Bitte neu erzeugen oder aus einer Sicherung zurückholen.");
+    WirfFehler("Die Tabelle ist beschädigt (" + was +
+               "). Bitte neu erzeugen oder aus einer Sicherung zurückholen.");
 }
 
-void Leser::Warne(const std::string& text) {
+void Leser::WarneVor(const std::string& text) {
     warnung_ += (warnung_.empty() ? "" : " ") + text;
 }
 
 void Leser::PruefeKopf() {
     const std::string keine = "Die Datei ist keine Paradox-Tabelle (";
     const std::string rat = "). Bitte eine Tabelle der Versionen 3 bis 7 bereitstellen.";
-    if (inhalt_.size() < kKopf) Melde(keine + "der Kopf fehlt" + rat);
+    if (inhalt_.size() < kKopf) WirfFehler(keine + "der Kopf fehlt" + rat);
     const unsigned art = U8(kDateiart);
     if (art != kMitSchluessel && art != kOhneSchluessel) {
-        Melde(keine + (art == kIndex ? "sondern ein Index" : "Dateiart " + std::to_string(art)) + rat);
+        WirfFehler(keine + (art == kIndex ? "sondern ein Index" : "Dateiart " + std::to_string(art)) + rat);
     }
     version_ = U8(kVersion);
     if (version_ < kAeltesteVersion || version_ > kNeuesteVersion) {
-        Melde(keine + "Dateiversion " + std::to_string(version_) + rat);
+        WirfFehler(keine + "Dateiversion " + std::to_string(version_) + rat);
     }
     kopf_ = U16(kKopflaenge);
     block_ = U8(kBlockgroesse) * std::size_t{1024};
@@ -99,7 +99,8 @@ void Leser::PruefeKopf() {
         Beschaedigt("Kopf von " + std::to_string(kopf_) + " Bytes");
     }
     if (U32(version_ >= kVersionMitTeil2 ? kKennwort : kKennwortAlt) != 0) {
-        Melde("Die Tabelle ist verschlüsselt und kann nicht gelesen werden. Bitte ohne Kennwort speichern.");
+        WirfFehler(
+            "Die Tabelle ist verschlüsselt und kann nicht gelesen werden. Bitte ohne Kennwort speichern.");
     }
     if (block_ == 0 || block_ > std::size_t{32} * 1024) {
         Beschaedigt("Blöcke von " + std::to_string(block_) + " Bytes");
@@ -112,7 +113,7 @@ void Leser::PruefeKopf() {
         Beschaedigt(std::to_string(zeilen_) + " Sätze angekündigt, die Datei ist kürzer");
     }
     if (U8(kUmbau1) != 0 || U8(kUmbau2) != 0) {
-        Warne(
+        WarneVor(
             "Die Tabelle wird gerade geschrieben, oder ihr Schreiben wurde abgebrochen; ihr Inhalt kann "
             "unvollständig sein.");
     }
@@ -176,7 +177,7 @@ void Leser::WaehleCodeseite(std::size_t sortiername) {
         if (name.starts_with("DB") || name.starts_with("BL") || name == "ANSI") nummer = 1252;
     }
     if (!Codeseite::Bekannt(nummer)) {
-        Warne(
+        WarneVor(
             "Die Codeseite " + std::to_string(nummer) +
             " der Tabelle ist nicht bekannt; Texte werden wie Codeseite 1252 gelesen, Umlaute können falsch "
             "sein.");

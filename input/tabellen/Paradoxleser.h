@@ -57,11 +57,11 @@ class Leser {
     void LiesFeldarten(std::size_t variabel);
     [[nodiscard]] std::size_t LiesNamen(std::size_t stelle);
     void WaehleCodeseite(std::size_t sortiername);
-    void Warne(const std::string& text);
+    void WarneVor(const std::string& text);
     [[nodiscard]] Saetze Block(std::size_t nummer) const;
     void LiesSatz(const char* satz, std::vector<Wert>& zeile, std::string& puffer) const;
     [[nodiscard]] Wert LiesText(std::string_view bytes, std::string& puffer) const;
-    [[noreturn]] void Melde(const std::string& text) const;
+    [[noreturn]] void WirfFehler(const std::string& text) const;
     [[noreturn]] void Beschaedigt(const std::string& was) const;
 
     std::string_view inhalt_;

@@ -32,7 +32,7 @@ constexpr std::uint8_t kAenderungen = 2;  // a new table has seen two, the older
 constexpr std::uint8_t kIndexstempel = kAenderungen + kDeutsch + 2;
 
 /// Little-endian value at a place.
-void Setze(std::string& ziel, std::size_t stelle, std::size_t bytes, std::uint64_t wert) {
+void SetzeZahl(std::string& ziel, std::size_t stelle, std::size_t bytes, std::uint64_t wert) {
     for (std::size_t i = 0; i < bytes; ++i)
         ziel[stelle + i] = static_cast<char>((wert >> (8U * i)) & 0xFFU);
 }
@@ -72,7 +72,7 @@ class Schreiber {
     [[nodiscard]] Dateipaar Tabelle(std::span<const std::vector<Wert>> zeilen, std::time_t zeit);
 
   private:
-    [[noreturn]] void Melde(const std::string& text) const;
+    [[noreturn]] void WirfFehler(const std::string& text) const;
     void PruefeFelder();
     [[nodiscard]] std::vector<std::size_t> Reihenfolge(std::span<const std::vector<Wert>> zeilen) const;
     [[nodiscard]] std::string Gemeinsam(std::size_t laenge, std::size_t satz, std::size_t bloecke) const;
@@ -96,43 +96,43 @@ std::size_t Namenbreite(Stufe stufe) {
 void HaengeAnBlockkopf(std::string& ziel, std::size_t nummer, std::size_t letzter, std::size_t zusatz) {
     const std::size_t stelle = ziel.size();
     ziel.append(kBlockkopf, '\0');
-    Setze(ziel, stelle, 2, nummer == letzter ? 0 : nummer + 1);
-    Setze(ziel, stelle + 2, 2, nummer - 1);
-    Setze(ziel, stelle + 4, 2, zusatz);
+    SetzeZahl(ziel, stelle, 2, nummer == letzter ? 0 : nummer + 1);
+    SetzeZahl(ziel, stelle + 2, 2, nummer - 1);
+    SetzeZahl(ziel, stelle + 4, 2, zusatz);
 }
 
 Schreiber::Schreiber(std::string_view name, std::span<const Feld> felder, Stufe stufe)
     : name_(Utf8NachCp1252(name)), anzeige_(name), felder_(felder), stufe_(stufe) {
     if (name_.empty() || name_.find('\0') != std::string::npos || name_.size() + 4 > Namenbreite(stufe)) {
-        Melde("Der Tabellenname ist leer oder zu lang.");
+        WirfFehler("Der Tabellenname ist leer oder zu lang.");
     }
     PruefeFelder();
 }
 
-void Schreiber::Melde(const std::string& text) const {
+void Schreiber::WirfFehler(const std::string& text) const {
     throw Fehler(text + " Es wurde nichts geschrieben.", anzeige_ + ".DB");
 }
 
 void Schreiber::PruefeFelder() {
     if (felder_.empty() || felder_.size() > kMaxFelder) {
-        Melde("Eine Tabelle hat 1 bis 255 Felder, nicht " + std::to_string(felder_.size()) + ".");
+        WirfFehler("Eine Tabelle hat 1 bis 255 Felder, nicht " + std::to_string(felder_.size()) + ".");
     }
     if (felder_.front().typ != Feldtyp::Lang)
-        Melde("Das erste Feld muss der Schlüssel sein, eine ganze Zahl.");
+        WirfFehler("Das erste Feld muss der Schlüssel sein, eine ganze Zahl.");
     std::set<std::string> bekannt;
     for (const Feld& feld : felder_) {
         const std::string& name = namen_.emplace_back(Utf8NachCp1252(feld.name));
         if (name.empty() || name.size() > kMaxFeldname || name.find('\0') != std::string::npos) {
-            Melde("Der Feldname „" + feld.name + "“ ist leer oder länger als 25 Zeichen.");
+            WirfFehler("Der Feldname „" + feld.name + "“ ist leer oder länger als 25 Zeichen.");
         }
         // Columns are looked up without regard to case.
         std::string gross = name;
         for (char& c : gross)
             c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-        if (!bekannt.insert(gross).second) Melde("Der Feldname „" + feld.name + "“ kommt mehrfach vor.");
+        if (!bekannt.insert(gross).second) WirfFehler("Der Feldname „" + feld.name + "“ kommt mehrfach vor.");
         if (Groesse(feld) == 0) {
-            Melde("Das Feld „" + feld.name +
-                  "“ hat eine Art oder Breite, die nicht geschrieben werden kann.");
+            WirfFehler("Das Feld „" + feld.name +
+                       "“ hat eine Art oder Breite, die nicht geschrieben werden kann.");
         }
     }
     satz_ = kSchluesselbreite;
@@ -140,7 +140,7 @@ void Schreiber::PruefeFelder() {
         satz_ += Groesse(feld);
     if (kSaetzeJeBlock * satz_ > block_ - kBlockkopf) block_ *= 2;
     if (kSaetzeJeBlock * satz_ > block_ - kBlockkopf) {
-        Melde("Ein Satz ist mit " + std::to_string(satz_) + " Bytes zu breit für eine Tabelle.");
+        WirfFehler("Ein Satz ist mit " + std::to_string(satz_) + " Bytes zu breit für eine Tabelle.");
     }
 }
 
@@ -151,10 +151,11 @@ std::vector<std::size_t> Schreiber::Reihenfolge(std::span<const std::vector<Wert
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
         const std::string satz = "Satz " + std::to_string(i + 1);
         if (zeilen[i].size() != felder_.size()) {
-            Melde(satz + " hat " + std::to_string(zeilen[i].size()) + " statt " +
-                  std::to_string(felder_.size()) + " Werte.");
+            WirfFehler(satz + " hat " + std::to_string(zeilen[i].size()) + " statt " +
+                       std::to_string(felder_.size()) + " Werte.");
         }
-        if (!std::holds_alternative<std::int64_t>(zeilen[i].front())) Melde(satz + " hat keinen Schlüssel.");
+        if (!std::holds_alternative<std::int64_t>(zeilen[i].front()))
+            WirfFehler(satz + " hat keinen Schlüssel.");
         folge.push_back(i);
     }
     const auto schluessel = [&](std::size_t i) { return std::get<std::int64_t>(zeilen[i].front()); };
@@ -162,7 +163,7 @@ std::vector<std::size_t> Schreiber::Reihenfolge(std::span<const std::vector<Wert
     const auto doppelt = std::adjacent_find(folge.begin(), folge.end(),
                                             [&](auto a, auto b) { return schluessel(a) == schluessel(b); });
     if (doppelt != folge.end()) {
-        Melde("Der Schlüssel " + std::to_string(schluessel(*doppelt)) + " kommt mehrfach vor.");
+        WirfFehler("Der Schlüssel " + std::to_string(schluessel(*doppelt)) + " kommt mehrfach vor.");
     }
     return folge;
 }
@@ -170,16 +171,16 @@ std::vector<std::size_t> Schreiber::Reihenfolge(std::span<const std::vector<Wert
 /// What table and index have in common, padded with zeros.
 std::string Schreiber::Gemeinsam(std::size_t laenge, std::size_t satz, std::size_t bloecke) const {
     std::string k(Bloecke(laenge, kKopfschritt) * kKopfschritt, '\0');
-    Setze(k, kSatzlaenge, 2, satz);
-    Setze(k, kKopflaenge, 2, k.size());
-    Setze(k, kKette, 2, bloecke);
-    Setze(k, kBloecke, 2, bloecke);
-    Setze(k, kBloecke2, 2, bloecke);
-    Setze(k, kErster, 2, bloecke == 0 ? 0 : 1);
-    Setze(k, kLetzter, 2, bloecke);
-    Setze(k, kSortierung, 1, kDeutsch);
-    Setze(k, kVersion, 1, static_cast<std::uint8_t>(stufe_));
-    Setze(k, kBenutzt, 2, laenge);
+    SetzeZahl(k, kSatzlaenge, 2, satz);
+    SetzeZahl(k, kKopflaenge, 2, k.size());
+    SetzeZahl(k, kKette, 2, bloecke);
+    SetzeZahl(k, kBloecke, 2, bloecke);
+    SetzeZahl(k, kBloecke2, 2, bloecke);
+    SetzeZahl(k, kErster, 2, bloecke == 0 ? 0 : 1);
+    SetzeZahl(k, kLetzter, 2, bloecke);
+    SetzeZahl(k, kSortierung, 1, kDeutsch);
+    SetzeZahl(k, kVersion, 1, static_cast<std::uint8_t>(stufe_));
+    SetzeZahl(k, kBenutzt, 2, laenge);
     return k;
 }
 
@@ -199,26 +200,26 @@ std::string Schreiber::Kopf(std::size_t saetze, std::size_t bloecke, std::time_t
     variabel.append(kSortierung1252).append(1, '\0');
 
     std::string k = Gemeinsam(kKopfMitTeil2 + variabel.size(), satz_, bloecke);
-    Setze(k, kDateiart, 1, kMitSchluessel);
-    Setze(k, kBlockgroesse, 1, block_ / 1024);
-    Setze(k, kSatzzahl, 4, saetze);
-    Setze(k, kUngeklaert, 2, 3);
-    Setze(k, kFeldzahl, 2, n);
-    Setze(k, kSchluessel, 2, 1);
-    Setze(k, kKennwortAlt, 4, 0xFF00FF00);
-    Setze(k, kZaehler1, 1, kAenderungen);
-    Setze(k, kZaehler2, 1, kAenderungen - 1);
-    Setze(k, kKennung, 2, 0x0F1F);
-    Setze(k, kStufenkopf, 1, 0x20);
+    SetzeZahl(k, kDateiart, 1, kMitSchluessel);
+    SetzeZahl(k, kBlockgroesse, 1, block_ / 1024);
+    SetzeZahl(k, kSatzzahl, 4, saetze);
+    SetzeZahl(k, kUngeklaert, 2, 3);
+    SetzeZahl(k, kFeldzahl, 2, n);
+    SetzeZahl(k, kSchluessel, 2, 1);
+    SetzeZahl(k, kKennwortAlt, 4, 0xFF00FF00);
+    SetzeZahl(k, kZaehler1, 1, kAenderungen);
+    SetzeZahl(k, kZaehler2, 1, kAenderungen - 1);
+    SetzeZahl(k, kKennung, 2, 0x0F1F);
+    SetzeZahl(k, kStufenkopf, 1, 0x20);
     for (const std::size_t stelle : {kVersion2, kVersion2 + 2})
-        Setze(k, stelle, 2, 0x0100U + static_cast<std::uint8_t>(stufe_));
-    Setze(k, kZeitstempel, 4, static_cast<std::uint64_t>(zeit));
-    Setze(k, kFeldzaehler, 2, n + 1);
-    Setze(k, kFeldnummern, 2, nummern - kKopf);
-    Setze(k, kCodeseite, 2, kCodeseite1252);
-    Setze(k, kEinsen, 2, 0x0101);
-    Setze(k, kSortiername, 2, sortierung - kKopf);
-    Setze(k, kUmbauten, 2, 1);
+        SetzeZahl(k, stelle, 2, 0x0100U + static_cast<std::uint8_t>(stufe_));
+    SetzeZahl(k, kZeitstempel, 4, static_cast<std::uint64_t>(zeit));
+    SetzeZahl(k, kFeldzaehler, 2, n + 1);
+    SetzeZahl(k, kFeldnummern, 2, nummern - kKopf);
+    SetzeZahl(k, kCodeseite, 2, kCodeseite1252);
+    SetzeZahl(k, kEinsen, 2, 0x0101);
+    SetzeZahl(k, kSortiername, 2, sortierung - kKopf);
+    SetzeZahl(k, kUmbauten, 2, 1);
     return k.replace(kKopfMitTeil2, variabel.size(), variabel);
 }
 
@@ -307,16 +308,16 @@ std::string Schreiber::Index(Ebene unterste) const {
         eintraege += ebene.size();
     }
     std::string px = Gemeinsam(kKopf + 2 + 4 + Namenbreite(stufe_), kEintrag, bloecke);
-    Setze(px, kDateiart, 1, kIndex);
-    Setze(px, kBlockgroesse, 1, kIndexblock / 1024);
-    Setze(px, kSatzzahl, 4, eintraege);
-    Setze(px, kUngeklaert, 2, 4);
-    Setze(px, kWurzel, 2, 1);
-    Setze(px, kEbenen, 1, eintraege == 0 ? 0 : ebenen.size());
-    Setze(px, kFeldzahl, 2, 1);
-    Setze(px, kStempel, 1, kIndexstempel);
-    Setze(px, kIndexzaehler, 4, 1);
-    Setze(px, kKopf, 2, static_cast<unsigned>(Feldtyp::Lang) | kSchluesselbreite << 8U);
+    SetzeZahl(px, kDateiart, 1, kIndex);
+    SetzeZahl(px, kBlockgroesse, 1, kIndexblock / 1024);
+    SetzeZahl(px, kSatzzahl, 4, eintraege);
+    SetzeZahl(px, kUngeklaert, 2, 4);
+    SetzeZahl(px, kWurzel, 2, 1);
+    SetzeZahl(px, kEbenen, 1, eintraege == 0 ? 0 : ebenen.size());
+    SetzeZahl(px, kFeldzahl, 2, 1);
+    SetzeZahl(px, kStempel, 1, kIndexstempel);
+    SetzeZahl(px, kIndexzaehler, 4, 1);
+    SetzeZahl(px, kKopf, 2, static_cast<unsigned>(Feldtyp::Lang) | kSchluesselbreite << 8U);
     px.replace(kKopf + 2 + 4, name_.size() + 3, name_ + ".PX");
     HaengeAnIndexbloecke(px, ebenen, bloecke);
     return px;
@@ -327,8 +328,8 @@ Dateipaar Schreiber::Tabelle(std::span<const std::vector<Wert>> zeilen, std::tim
     const std::size_t jeBlock = (block_ - kBlockkopf) / satz_;
     const std::size_t bloecke = Bloecke(folge.size(), jeBlock);
     if (bloecke > kMaxBloecke) {
-        Melde("Die Tabelle fasst höchstens " + std::to_string(kMaxBloecke * jeBlock) + " Sätze, nicht " +
-              std::to_string(folge.size()) + ".");
+        WirfFehler("Die Tabelle fasst höchstens " + std::to_string(kMaxBloecke * jeBlock) + " Sätze, nicht " +
+                   std::to_string(folge.size()) + ".");
     }
     Dateipaar paar{Kopf(folge.size(), bloecke, zeit), {}};
     std::string& db = paar.db;
@@ -346,8 +347,8 @@ Dateipaar Schreiber::Tabelle(std::span<const std::vector<Wert>> zeilen, std::tim
         }
         for (std::size_t f = 0; f < felder_.size(); ++f) {
             if (HaengeAnWert(db, felder_[f], zeile[f])) continue;
-            Melde("Der Satz mit dem Schlüssel " + std::to_string(schluessel) + " hat im Feld „" +
-                  felder_[f].name + "“ einen Wert, der dort nicht hineinpasst.");
+            WirfFehler("Der Satz mit dem Schlüssel " + std::to_string(schluessel) + " hat im Feld „" +
+                       felder_[f].name + "“ einen Wert, der dort nicht hineinpasst.");
         }
     }
     db.resize(kopf + bloecke * block_, '\0');
@@ -357,8 +358,8 @@ Dateipaar Schreiber::Tabelle(std::span<const std::vector<Wert>> zeilen, std::tim
 
 }  // namespace
 
-Dateipaar Schreibe(std::string_view name, std::span<const Feld> felder,
-                   std::span<const std::vector<Wert>> zeilen, std::time_t zeit, Stufe stufe) {
+Dateipaar SchreibeTabelle(std::string_view name, std::span<const Feld> felder,
+                          std::span<const std::vector<Wert>> zeilen, std::time_t zeit, Stufe stufe) {
     return Schreiber(name, felder, stufe).Tabelle(zeilen, zeit);
 }
 

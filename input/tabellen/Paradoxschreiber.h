@@ -29,8 +29,8 @@ struct Dateipaar {
 /// @throws Fehler for names and fields the format has no room for, a repeated or missing key, a value that
 /// its
 ///         field cannot hold, too many records
-[[nodiscard]] Dateipaar Schreibe(std::string_view name, std::span<const Feld> felder,
-                                 std::span<const std::vector<Wert>> zeilen, std::time_t zeit,
-                                 Stufe stufe = Stufe::Fuenf);
+[[nodiscard]] Dateipaar SchreibeTabelle(std::string_view name, std::span<const Feld> felder,
+                                        std::span<const std::vector<Wert>> zeilen, std::time_t zeit,
+                                        Stufe stufe = Stufe::Fuenf);
 
 }  // namespace zrw::paradox

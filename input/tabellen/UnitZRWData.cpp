@@ -33,7 +33,7 @@ std::size_t Stelle(std::span<const std::string> spalten, std::string_view name) 
 }
 
 /// The columns in the order of the description, then those that it does not know.
-void Ordne(Antwort& antwort, std::span<const Tabellenfeld> felder) {
+void OrdneSpalten(Antwort& antwort, std::span<const Tabellenfeld> felder) {
     std::vector<std::string> spalten;
     std::vector<std::size_t> herkunft;
     std::vector<bool> benutzt(antwort.spalten.size(), false);
@@ -59,7 +59,7 @@ void Ordne(Antwort& antwort, std::span<const Tabellenfeld> felder) {
 }
 
 /// What is null is no number: it is left out of pictures and files instead of looking free of errors.
-void Nimm(const Zelle& zelle, double& zahl) {
+void NimmZahl(const Zelle& zelle, double& zahl) {
     zahl = std::numeric_limits<double>::quiet_NaN();
     if (const auto* ganz = std::get_if<std::int64_t>(&zelle)) zahl = static_cast<double>(*ganz);
     if (const auto* real = std::get_if<double>(&zelle)) zahl = *real;
@@ -91,7 +91,7 @@ void TDM::SetzeOrdner(std::filesystem::path ordner) {
     ordner_ = std::move(ordner);
     for (std::size_t i = 0; i < staende_.size(); ++i) {
         if (!staende_[i]) continue;
-        datenbank_.Entferne(kErgebnistabellen[i].name);
+        datenbank_.EntferneTabelle(kErgebnistabellen[i].name);
         staende_[i].reset();
     }
     punkte_ = {};
@@ -111,7 +111,7 @@ std::optional<std::filesystem::path> TDM::Datei(Tabelle tabelle) const {
     return dateien_.FindeDatei(ordner_, std::string(Beschreibung(tabelle).name) + ".DB");
 }
 
-bool TDM::Aktualisiere(Tabelle tabelle) {
+bool TDM::AktualisiereTabelle(Tabelle tabelle) {
     auto& stand = staende_[Nummer(tabelle)];
     const auto datei = Datei(tabelle);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
@@ -119,7 +119,7 @@ bool TDM::Aktualisiere(Tabelle tabelle) {
     if (stand && stand->datei == *datei && (stand->stand == *jetzt || stand->gescheitert == *jetzt))
         return true;
     try {
-        Importiere(tabelle, *datei, *jetzt);
+        ImportiereTabelle(tabelle, *datei, *jetzt);
     } catch (const Fehler& f) {
         if (!stand) throw;
         meldungen_.push_back({std::string(f.what()) + " Es gelten die zuletzt gelesenen Werte.", true});
@@ -129,7 +129,7 @@ bool TDM::Aktualisiere(Tabelle tabelle) {
     return true;
 }
 
-void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand) {
+void TDM::ImportiereTabelle(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand) {
     const std::string name = PfadText(datei.filename());
     const std::string inhalt = dateien_.LiesDatei(datei, kGroessteTabelle);
     // The adjustment may be writing it right now: half a table must not take the place of the old one.
@@ -140,14 +140,15 @@ void TDM::Importiere(Tabelle tabelle, const std::filesystem::path& datei, const 
     std::vector<std::string> spalten;
     for (const paradox::Feld& f : leser.Felder())
         spalten.push_back(f.name);
-    datenbank_.Ersetze(Beschreibung(tabelle).name, spalten, kSuchfelder,
-                       [&](const Datenbank::Zeilenziel& ziel) { leser.FuerJedeZeile(ziel); });
+    datenbank_.ErsetzeTabelle(Beschreibung(tabelle).name, spalten, kSuchfelder,
+                              [&](const Datenbank::Zeilenziel& ziel) { leser.FuerJedeZeile(ziel); });
     staende_[Nummer(tabelle)] = Stand{datei, stand, leser.Felder(), {}};
 }
 
-TDM::Mangel TDM::Pruefe(Tabelle tabelle, std::span<const std::string_view> felder) {
+TDM::Mangel TDM::PruefeFelder(Tabelle tabelle, std::span<const std::string_view> felder) {
     const Ergebnistabelle& t = Beschreibung(tabelle);
-    if (!Aktualisiere(tabelle)) throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(t.name) + ".DB");
+    if (!AktualisiereTabelle(tabelle))
+        throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(t.name) + ".DB");
     const Stand& stand = *staende_[Nummer(tabelle)];
     Mangel mangel;
     std::string fehlende;
@@ -171,17 +172,18 @@ TDM::Mangel TDM::Pruefe(Tabelle tabelle, std::span<const std::string_view> felde
     return mangel;
 }
 
-Antwort TDM::Frage(Tabelle tabelle, std::string_view abfrage) {
+Antwort TDM::FrageTabelle(Tabelle tabelle, std::string_view abfrage) {
     const Ergebnistabelle& t = Beschreibung(tabelle);
-    if (!Aktualisiere(tabelle)) throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(t.name) + ".DB");
+    if (!AktualisiereTabelle(tabelle))
+        throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(t.name) + ".DB");
     // Queries without an order mean that of the table; the database would give that of its indexes.
     constexpr std::string_view kOrdnung = "order by";
     const bool geordnet = std::search(abfrage.begin(), abfrage.end(), kOrdnung.begin(), kOrdnung.end(),
                                       [](unsigned char a, unsigned char b) {
                                           return std::tolower(a) == std::tolower(b);
                                       }) != abfrage.end();
-    Antwort antwort = datenbank_.Frage(std::string(abfrage) + (geordnet ? "" : " order by rowid"));
-    Ordne(antwort, t.felder);
+    Antwort antwort = datenbank_.StelleAbfrage(std::string(abfrage) + (geordnet ? "" : " order by rowid"));
+    OrdneSpalten(antwort, t.felder);
     return antwort;
 }
 
@@ -220,7 +222,7 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
         nummern.emplace_back(nummer);
         Punktergebnis& ergebnis = tafel.werte.emplace_back();
         for (std::size_t i = 0; i < kFelder.size(); ++i)
-            Nimm(zeile[i + 1], ergebnis.*kFelder[i].second);
+            NimmZahl(zeile[i + 1], ergebnis.*kFelder[i].second);
         // A standard deviation that is not known makes no ellipse wide.
         ergebnis.mLBekannt = !std::holds_alternative<std::monostate>(zeile[kStelleML]);
         if (!ergebnis.mLBekannt) ergebnis.mL = 0.0;
@@ -243,9 +245,9 @@ void TDM::ErneuereErgebnisse() {
     // What cannot be read is not read again at each drawing; what may only be locked is tried.
     if (punktestand_ == jetzt || (gemeldet_ == jetzt && vergeblich_)) return;
     try {
-        punkte_ = LiesPunkte(Pruefe(Tabelle::Koordinaten, kPunktfelder).fehlende);
+        punkte_ = LiesPunkte(PruefeFelder(Tabelle::Koordinaten, kPunktfelder).fehlende);
         const std::span zuZeichnende = std::span(kPunktfelder).first(kZuZeichnende);
-        if (const Mangel mangel = Pruefe(Tabelle::Koordinaten, zuZeichnende); !mangel.text.empty())
+        if (const Mangel mangel = PruefeFelder(Tabelle::Koordinaten, zuZeichnende); !mangel.text.empty())
             meldungen_.push_back({mangel.text + " Gezeichnet wird, was sich lesen lässt."});
         punktestand_ = jetzt;
         gemeldet_.reset();
@@ -270,7 +272,7 @@ void ErzeugeTabelle(Dateien& dateien, const std::filesystem::path& ordner, Tabel
     std::vector<paradox::Feld> felder;
     for (const Tabellenfeld& f : t.felder)
         felder.push_back({std::string(f.name), f.typ, f.groesse});
-    const paradox::Dateipaar paar = paradox::Schreibe(t.name, felder, zeilen, zeit);
+    const paradox::Dateipaar paar = paradox::SchreibeTabelle(t.name, felder, zeilen, zeit);
     dateien.ErsetzeDatei(ordner / (std::string(t.name) + ".DB"), paar.db);
     dateien.ErsetzeDatei(ordner / (std::string(t.name) + ".PX"), paar.px);
 }

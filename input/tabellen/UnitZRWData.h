@@ -40,15 +40,15 @@ class TDM final : public Punktergebnisse {
     /// them; missing fields are null.
     /// Where the table has become unreadable, what was read before answers, and `NimmMeldungen` tells it.
     /// @throws Fehler where the table is missing, was never readable or lacks a field of the query
-    [[nodiscard]] Antwort Frage(Tabelle tabelle, std::string_view abfrage);
+    [[nodiscard]] Antwort FrageTabelle(Tabelle tabelle, std::string_view abfrage);
 
     /// What is wrong with the fields that a purpose needs: those that are missing and those that hold
-    /// something other than their description says. Empty: nothing. @throws Fehler as `Frage`
+    /// something other than their description says. Empty: nothing. @throws Fehler as `FrageTabelle`
     struct Mangel {
         std::vector<std::string_view> fehlende;
         std::string text;
     };
-    [[nodiscard]] Mangel Pruefe(Tabelle tabelle, std::span<const std::string_view> felder);
+    [[nodiscard]] Mangel PruefeFelder(Tabelle tabelle, std::span<const std::string_view> felder);
 
     /// Failures are kept for `NimmMeldungen`, once for each state of the file; the old results then stay.
     void ErneuereErgebnisse() override;
@@ -81,8 +81,8 @@ class TDM final : public Punktergebnisse {
 
     [[nodiscard]] std::optional<std::filesystem::path> Datei(Tabelle tabelle) const;
     /// Brings the database to the state of the file. @return whether there is one
-    bool Aktualisiere(Tabelle tabelle);
-    void Importiere(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand);
+    bool AktualisiereTabelle(Tabelle tabelle);
+    void ImportiereTabelle(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand);
     [[nodiscard]] Punkttafel LiesPunkte(const std::vector<std::string_view>& fehlende) const;
 
     const Dateien& dateien_;

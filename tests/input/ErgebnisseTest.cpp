@@ -47,7 +47,7 @@ class Ergebnisse : public testing::Test {
     std::vector<std::int64_t> Ids(const Ergebnisreiter& r, std::string_view a, std::string_view b = {}) {
         std::vector<std::int64_t> ids;
         for (const auto& zeile :
-             daten.Frage(r.tabelle, Abfragetext(b.empty() ? r.punkt : r.kante, a, b)).zeilen)
+             daten.FrageTabelle(r.tabelle, Abfragetext(b.empty() ? r.punkt : r.kante, a, b)).zeilen)
             ids.push_back(std::get<std::int64_t>(zeile[0]));
         return ids;
     }
@@ -69,11 +69,11 @@ TEST_F(Ergebnisse, ErzeugteTabellenSindLeerUndVollstaendig) {
         ErzeugeTabellen(dateien, "netz", 0);
     EXPECT_EQ(dateien.dateien.size(), 20U);
     for (std::size_t i = 0; i < kErgebnistabellen.size(); ++i) {
-        const Antwort alles = daten.Frage(static_cast<Tabelle>(i), kErgebnistabellen[i].alles);
+        const Antwort alles = daten.FrageTabelle(static_cast<Tabelle>(i), kErgebnistabellen[i].alles);
         EXPECT_TRUE(alles.zeilen.empty()) << kErgebnistabellen[i].name;
         EXPECT_EQ(alles.spalten.size(), kErgebnistabellen[i].felder.size());
     }
-    const auto klammern = daten.Frage(Tabelle::GpsPunkte3D, "SELECT \"X(GPS)\" from WGSTABLE");
+    const auto klammern = daten.FrageTabelle(Tabelle::GpsPunkte3D, "SELECT \"X(GPS)\" from WGSTABLE");
     EXPECT_TRUE(klammern.zeilen.empty());
 }
 
@@ -133,14 +133,15 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
                                             {"NEU", Feldtyp::Alpha, 3},
                                             {"dY", Feldtyp::Zahl, 8}};
     const std::vector<std::vector<Wert>> zeilen{{std::int64_t{7}, 1.5, "P", "abc", -2.0}};
-    dateien.dateien["netz/kootable.db"] = paradox::Schreibe("KOO", felder, zeilen, 0).db;
-    const Antwort a = daten.Frage(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "P"));
+    dateien.dateien["netz/kootable.db"] = paradox::SchreibeTabelle("KOO", felder, zeilen, 0).db;
+    const Antwort a = daten.FrageTabelle(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "P"));
     ASSERT_EQ(a.zeilen.size(), 1U);
     EXPECT_EQ(std::get<double>(a.zeilen[0][Feld(Tabelle::Koordinaten, "X")]), 1.5);
     EXPECT_TRUE(std::holds_alternative<std::monostate>(a.zeilen[0][Feld(Tabelle::Koordinaten, "H")]));
     EXPECT_EQ(a.spalten.back(), "NEU");
     EXPECT_EQ(std::get<std::string>(a.zeilen[0].back()), "abc");
-    EXPECT_EQ(daten.Frage(Tabelle::Koordinaten, "SELECT NEU, PKT from KooTABLE").spalten.back(), "NEU");
+    EXPECT_EQ(daten.FrageTabelle(Tabelle::Koordinaten, "SELECT NEU, PKT from KooTABLE").spalten.back(),
+              "NEU");
     daten.ErneuereErgebnisse();
     ASSERT_NE(daten.ErgebnisZu("P"), nullptr);
     EXPECT_EQ(daten.ErgebnisZu("P")->dY, -2.0);
@@ -150,9 +151,10 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
 
     // A field that the query needs.
     const std::vector<paradox::Feld> ohne{{"ID", Feldtyp::Lang, 4}, {"X", Feldtyp::Zahl, 8}};
-    dateien.dateien["netz/kootable.db"] = paradox::Schreibe("KOO", ohne, {}, 0).db;
+    dateien.dateien["netz/kootable.db"] = paradox::SchreibeTabelle("KOO", ohne, {}, 0).db;
     try {
-        static_cast<void>(daten.Frage(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "P")));
+        static_cast<void>(
+            daten.FrageTabelle(Tabelle::Koordinaten, Abfragetext(kErgebnisreiter[0].punkt, "P")));
         FAIL() << "the point numbers are missing";
     } catch (const Fehler& f) {
         EXPECT_NE(std::string(f.what()).find("KOOTABLE.PKT"), std::string::npos) << f.what();
@@ -186,7 +188,8 @@ TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
     EXPECT_EQ(Meldungen(), "");
     TDM neu{dateien};
     neu.SetzeOrdner("netz");
-    EXPECT_THROW(static_cast<void>(neu.Frage(Tabelle::Koordinaten, kErgebnistabellen[4].alles)), Fehler)
+    EXPECT_THROW(static_cast<void>(neu.FrageTabelle(Tabelle::Koordinaten, kErgebnistabellen[4].alles)),
+                 Fehler)
         << "nothing was read before";
     neu.ErneuereErgebnisse();
     const int gelesen = dateien.gelesen;
@@ -256,7 +259,8 @@ TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
 // Silence would look like a network without gross errors.
 TEST_F(Ergebnisse, FelderDieFehlenOderAnderesEnthaltenWerdenGenannt) {
     const auto lege = [&](const char* name, const std::vector<paradox::Feld>& felder) {
-        dateien.dateien[std::string("netz/") + name + ".DB"] = paradox::Schreibe(name, felder, {}, 0).db;
+        dateien.dateien[std::string("netz/") + name + ".DB"] =
+            paradox::SchreibeTabelle(name, felder, {}, 0).db;
     };
     lege("STRTABLE", {{"ID", Feldtyp::Lang, 4}, {"P1", Feldtyp::Alpha, 14}, {"ST", Feldtyp::Zahl, 8}});
     lege("DHTABLE", {{"ID", Feldtyp::Lang, 4},

@@ -294,7 +294,7 @@ const std::vector<Feld> kPostKoo{
     {"X", Feldtyp::Zahl, 8},  {"LG", Feldtyp::Lang, 4},    {"ST", Feldtyp::Lang, 4}};
 
 TEST(Paradoxschreiber, LeereTabelleByteFuerByte) {
-    const auto [db, px] = Schreibe("PostKooTABLE", kPostKoo, {}, 0x3AAF8A46);
+    const auto [db, px] = SchreibeTabelle("PostKooTABLE", kPostKoo, {}, 0x3AAF8A46);
     const std::string kopf =
         Hex("2E00 0008 0002 0000 0000 0000 0000 0000 0000 0300 0000 0000 0000 0000 0000 0000"
             "0007 0001 0000 FF00 FF62 0000 0002 0100 0000 0000 0000 0000 000B 0000 0000 1F0F"
@@ -315,7 +315,7 @@ TEST(Paradoxschreiber, LeereTabelleByteFuerByte) {
     EXPECT_EQ(px.size(), 2048U);
     EXPECT_EQ(px.substr(0, index.size()), index);
     EXPECT_EQ(px.find_first_not_of('\0', index.size()), std::string::npos);
-    const auto [db7, px7] = Schreibe("PostKooTABLE", kPostKoo, {}, 0, Stufe::Sieben);
+    const auto [db7, px7] = SchreibeTabelle("PostKooTABLE", kPostKoo, {}, 0, Stufe::Sieben);
     EXPECT_EQ(db7.substr(0x51, 2), U16(471));
     EXPECT_EQ(px7.substr(0x51, 2), U16(0x58 + 2 + 4 + 261));
     EXPECT_EQ(Gelesen(db7), "");
@@ -333,7 +333,7 @@ TEST(Paradoxschreiber, WerteByteFuerByte) {
         {std::int64_t{-1}, {}, -0.0, ""sv, false, {}, {}},
         {std::int64_t{1}, std::int64_t{32767}, -1.0, "a "sv, {}, std::int64_t{-2147483647}, 1.0}};
     for (const Stufe stufe : {Stufe::Fuenf, Stufe::Sieben}) {
-        const auto [db, px] = Schreibe("T", felder, zeilen, 0, stufe);
+        const auto [db, px] = SchreibeTabelle("T", felder, zeilen, 0, stufe);
         EXPECT_EQ(db.substr(2048, 6 + 3 * 30),
                   Hex("0000 0000 3C00"
                       "7FFFFFFF 0000 8000000000000000 000000 80 00000000 0000000000000000"
@@ -357,7 +357,7 @@ TEST(Paradoxschreiber, IndexInZweiEbenen) {
     for (std::int64_t nr = 614; nr > 0; --nr)
         zeilen.push_back({nr, {}, {}});
     const auto [db, px] =
-        Schreibe("T", felder, zeilen, 0);  // 3 of 514 bytes in a block: 205 blocks, 2 in the last
+        SchreibeTabelle("T", felder, zeilen, 0);  // 3 of 514 bytes in a block: 205 blocks, 2 in the last
     EXPECT_EQ(db.size(), 2048U + 205U * 2048U);
     EXPECT_EQ(db.substr(6, 12), Hex("66020000 CD00 CD00 0100 CD00"));
     EXPECT_EQ(db.substr(205 * 2048, 10), Hex("0000 CC00 0202 80000265"));  // 613, the first of the last block
@@ -412,7 +412,7 @@ TEST(Paradoxschreiber, LehntAbWasNichtHineinpasst) {
                   {paar, {}, "Tabellenname", std::string(76, 'n')}};
     for (const auto& f : faelle) {
         try {
-            (void)Schreibe(f.name, f.felder, f.zeilen, 0);
+            (void)SchreibeTabelle(f.name, f.felder, f.zeilen, 0);
             ADD_FAILURE() << f.meldung;
         } catch (const Fehler& e) {
             EXPECT_NE(e.Text().find(f.meldung), std::string::npos) << e.Text();
@@ -425,9 +425,9 @@ TEST(Paradoxschreiber, LehntAbWasNichtHineinpasst) {
         breit.push_back(
             {"F" + std::to_string(breit.size()), Feldtyp::Alpha, static_cast<std::uint8_t>(breite)});
     const std::vector<std::vector<Wert>> satz{{eins, {}, {}, {}, {}, {}, "z"sv}};
-    EXPECT_EQ(Gelesen(Schreibe("T", breit, satz, 0).db), "1 - - - - - 'z' ");
+    EXPECT_EQ(Gelesen(SchreibeTabelle("T", breit, satz, 0).db), "1 - - - - - 'z' ");
     ++breit.back().groesse;
-    EXPECT_THROW((void)Schreibe("T", breit, satz, 0), Fehler);
+    EXPECT_THROW((void)SchreibeTabelle("T", breit, satz, 0), Fehler);
 }
 
 }  // namespace

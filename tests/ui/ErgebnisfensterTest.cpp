@@ -151,7 +151,7 @@ TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
     const std::vector<paradox::Feld> felder{{"ID", paradox::Feldtyp::Lang, 4},
                                             {"PKT", paradox::Feldtyp::Alpha, 14}};
     const auto paar =
-        paradox::Schreibe("KOO", felder, std::vector<std::vector<Wert>>{{std::int64_t{1}, "E"}}, 0);
+        paradox::SchreibeTabelle("KOO", felder, std::vector<std::vector<Wert>>{{std::int64_t{1}, "E"}}, 0);
     Lege("KooTABLE.DB", paar.db);
     Klick(E);
     ASSERT_EQ(Gitter().model()->rowCount(), 1);

@@ -118,7 +118,7 @@ void Ergebnisanzeige::FuelleReiter() {
     try {
         const std::string abfrage =
             b ? Abfragetext(reiter.kante, NachUtf8(a), NachUtf8(*b)) : Abfragetext(reiter.punkt, NachUtf8(a));
-        fenster_->Fuelle(programm_.daten.Frage(reiter.tabelle, abfrage));
+        fenster_->Fuelle(programm_.daten.FrageTabelle(reiter.tabelle, abfrage));
     } catch (const std::exception& f) {
         fenster_->Leere(AusUtf8(Fehlertext(f)));
     }
