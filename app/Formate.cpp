@@ -62,7 +62,7 @@ void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
     Svgflaeche flaeche(a.dateien.BeginneDatei(datei), {a.liste.Weite, a.liste.Hoehe, kBildaufloesung},
                        Titel(a));
     ZeichneAuf(flaeche, a);
-    flaeche.Beende();
+    flaeche.BeendeDatei();
 }
 
 /// Scale of a document: the one that was asked for, or else the largest at which the plan fits its sheet.
@@ -103,7 +103,7 @@ std::vector<Blatt> WaehleBlaetter(const Ausgabe& a, const Druckplan& plan, doubl
 
 /// Sheets of paper at scale, as a printer would print them.
 void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
-    const auto schrift = Einbettschrift::Aus(LiesSchriftquelle(Zeichenschrift()));
+    const auto schrift = Einbettschrift::AusQuelle(LiesSchriftquelle(Zeichenschrift()));
     if (!schrift) {
         a.sage(Fehler::Meldung("Die Zeichenschrift lässt sich nicht einbetten; die Datei verlangt Helvetica.",
                                PfadText(datei), 0));
@@ -123,7 +123,7 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
         Drucke(vorlage, mittel, Geraetegroessen(groessen, Geraetefaktor(seite)), flaeche,
                {massstab, text, seite, blaetter[i].ecke});
     }
-    flaeche.Beende();
+    flaeche.BeendeDatei();
 }
 
 void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {

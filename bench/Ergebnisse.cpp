@@ -42,7 +42,7 @@ class Mitschrift final : public zrw::Zeichenflaeche {
     void ZeichneRechteck(const zrw::Rechteck& /*r*/) override {}
     void Ellipse(const zrw::Rechteck& /*r*/) override {}
     void Vieleck(std::span<const zrw::Flaechenpunkt> /*ecken*/) override {}
-    void Fuelle(const zrw::Rechteck& /*r*/, zrw::Farbe /*farbe*/) override {}
+    void FuelleRechteck(const zrw::Rechteck& /*r*/, zrw::Farbe /*farbe*/) override {}
     void Text(zrw::Flaechenpunkt /*ort*/, std::string_view /*text*/, zrw::Farbe /*farbe*/) override {}
     [[nodiscard]] std::int32_t Textbreite(std::string_view t) const override {
         return vorbild_.Textbreite(t);

@@ -35,7 +35,7 @@ class Handgriffe {
         Lauf("schieben um (37, 11)", 5, [&](int i) {
             const zrw::Bildpunkt weg = i % 2 == 0 ? zrw::Bildpunkt{37, 11} : zrw::Bildpunkt{-37, -11};
             liste_.SetzeVersatz(liste_.Versatz(), weg);
-            pflege_.Verschiebe(liste_.Vorlage(), weg);
+            pflege_.VerschiebeBild(liste_.Vorlage(), weg);
         });
         // A point in the middle of the picture disappears with all that is at it, and comes again.
         zrw::PunktKnoten* punkt = Mitte();

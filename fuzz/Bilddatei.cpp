@@ -41,7 +41,7 @@ class Pruefflaeche final : public zrw::Zeichenflaeche {
         for (const zrw::Flaechenpunkt p : ecken)
             Pruefe(p);
     }
-    void Fuelle(const zrw::Rechteck& r, zrw::Farbe /*farbe*/) override { Pruefe(r); }
+    void FuelleRechteck(const zrw::Rechteck& r, zrw::Farbe /*farbe*/) override { Pruefe(r); }
     void Text(zrw::Flaechenpunkt ort, std::string_view text, zrw::Farbe /*farbe*/) override {
         Pruefe(ort);
         zrw::fuzz::Verlange(text.size() <= kLaengsterText, "kein Text ist zu lang");
@@ -143,7 +143,7 @@ void PruefeBlaetter(zrw::Liste& liste, const zrw::Zeichenmittel& mittel, zrw::Ei
     const zrw::Druckseite seite = zrw::Bedruckbar(papier, 300);
     zrw::Drucke(liste.Vorlage(), mittel, zrw::Geraetegroessen(einstellungen, zrw::Geraetefaktor(seite)), pdf,
                 {25000, "25000", seite});
-    pdf.Beende();
+    pdf.BeendeDatei();
     zrw::fuzz::Verlange(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
     try {
         const zrw::Druckplan plan{liste.Vorlage(), mittel, pdf};

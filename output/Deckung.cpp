@@ -4,7 +4,7 @@
 
 namespace zrw {
 
-void Deckung::Beginne(int weite, int hoehe, const Rechteck& ausschnitt) {
+void Deckung::BeginneDeckung(int weite, int hoehe, const Rechteck& ausschnitt) {
     aktiv_ = true;
     ausschnitt_ = ausschnitt;
     spalten_ = (static_cast<std::size_t>(weite) + 63) / 64;

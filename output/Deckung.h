@@ -14,12 +14,12 @@ namespace zrw {
 class Deckung {
   public:
     /// Nothing is covered inside `ausschnitt`, which lies in the picture; what is outside is never asked for.
-    void Beginne(int weite, int hoehe, const Rechteck& ausschnitt);
-    void Beende() { aktiv_ = false; }
+    void BeginneDeckung(int weite, int hoehe, const Rechteck& ausschnitt);
+    void BeendeDeckung() { aktiv_ = false; }
     [[nodiscard]] bool Aktiv() const { return aktiv_; }
 
     /// Covers a pixel. @return false: it was covered before
-    bool Nimm(std::size_t x, std::size_t y) {
+    bool DeckePixel(std::size_t x, std::size_t y) {
         const std::size_t i = y * spalten_ + x / 64;
         const std::uint64_t bit = std::uint64_t{1} << (x % 64);
         if ((bits_[i] & bit) != 0) return false;
@@ -28,7 +28,7 @@ class Deckung {
         return true;
     }
     /// Covers pixels of one word of a row, x = 64 * `spalte` + bit. @return those that were free
-    std::uint64_t Nimm(std::size_t spalte, std::size_t y, std::uint64_t pixel) {
+    std::uint64_t DeckePixel(std::size_t spalte, std::size_t y, std::uint64_t pixel) {
         std::uint64_t& wort = bits_[y * spalten_ + spalte];
         const std::uint64_t neu = pixel & ~wort;
         if (neu == 0) return 0;

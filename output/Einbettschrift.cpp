@@ -23,13 +23,13 @@ std::uint16_t Wort(std::string_view t, std::size_t ort) {
 std::int16_t Ganze(std::string_view t, std::size_t ort) {
     return static_cast<std::int16_t>(Wort(t, ort));
 }
-void Haenge(std::string& t, std::uint32_t wert, std::size_t laenge) {
+void HaengeZahlAn(std::string& t, std::uint32_t wert, std::size_t laenge) {
     while (laenge-- > 0)
         t += static_cast<char>(wert >> 8 * laenge & 0xFFU);
 }
-void Ersetze(std::string& t, std::size_t ort, std::uint32_t wert, std::size_t laenge) {
+void ErsetzeZahl(std::string& t, std::size_t ort, std::uint32_t wert, std::size_t laenge) {
     std::string neu;
-    Haenge(neu, wert, laenge);
+    HaengeZahlAn(neu, wert, laenge);
     t.replace(ort, laenge, neu);
 }
 
@@ -92,37 +92,37 @@ std::string Zusammen(std::map<std::string, std::string> tabellen) {
         ++exponent;
     }
     std::string datei;
-    Haenge(datei, 0x00010000, 4);
+    HaengeZahlAn(datei, 0x00010000, 4);
     for (const std::uint32_t wert : {anzahl, potenz * 16, exponent, (anzahl - potenz) * 16})
-        Haenge(datei, wert, 2);
-    Ersetze(tabellen["head"], kHeadPruefsumme, 0, 4);
+        HaengeZahlAn(datei, wert, 2);
+    ErsetzeZahl(tabellen["head"], kHeadPruefsumme, 0, 4);
     std::size_t ort = datei.size() + std::size_t{16} * anzahl;
     std::size_t head = 0;
     std::string inhalt;
     for (const auto& [name, tabelle] : tabellen) {
         if (name == "head") head = ort + inhalt.size();
         datei += name;
-        Haenge(datei, Pruefsumme(tabelle), 4);
-        Haenge(datei, static_cast<std::uint32_t>(ort + inhalt.size()), 4);
-        Haenge(datei, static_cast<std::uint32_t>(tabelle.size()), 4);
+        HaengeZahlAn(datei, Pruefsumme(tabelle), 4);
+        HaengeZahlAn(datei, static_cast<std::uint32_t>(ort + inhalt.size()), 4);
+        HaengeZahlAn(datei, static_cast<std::uint32_t>(tabelle.size()), 4);
         inhalt += tabelle;
         inhalt.resize((inhalt.size() + 3) / 4 * 4);
     }
     datei += inhalt;
-    Ersetze(datei, head + kHeadPruefsumme, 0xB1B0AFBAU - Pruefsumme(datei), 4);
+    ErsetzeZahl(datei, head + kHeadPruefsumme, 0xB1B0AFBAU - Pruefsumme(datei), 4);
     return datei;
 }
 
 }  // namespace
 
-std::optional<Einbettschrift> Einbettschrift::Aus(Schriftquelle quelle) {
+std::optional<Einbettschrift> Einbettschrift::AusQuelle(Schriftquelle quelle) {
     Einbettschrift schrift;
     schrift.quelle_ = std::move(quelle);
-    if (!schrift.Lies()) return std::nullopt;
+    if (!schrift.LiesTafeln()) return std::nullopt;
     return schrift;
 }
 
-bool Einbettschrift::Lies() {
+bool Einbettschrift::LiesTafeln() {
     auto& t = quelle_.tabellen;
     const std::string& head = t["head"];
     const std::string& hhea = t["hhea"];
@@ -192,20 +192,20 @@ std::string Einbettschrift::Zuordnung(const Zeichenmenge& zeichen) const {
         ++exponent;
     std::string t;
     for (const std::uint32_t wert : {0U, 1U, 3U, 1U})  // version, tables, platform, encoding
-        Haenge(t, wert, 2);
-    Haenge(t, 12, 4);
+        HaengeZahlAn(t, wert, 2);
+    HaengeZahlAn(t, 12, 4);
     for (const std::uint32_t wert :
          {4U, 16 + 8 * anzahl, 0U, 2 * anzahl, 2 * potenz, exponent, 2 * (anzahl - potenz)})
-        Haenge(t, wert, 2);
+        HaengeZahlAn(t, wert, 2);
     for (const auto& [c, g] : glyphen)
-        Haenge(t, c, 2);
-    Haenge(t, 0, 2);
+        HaengeZahlAn(t, c, 2);
+    HaengeZahlAn(t, 0, 2);
     for (const auto& [c, g] : glyphen)
-        Haenge(t, c, 2);
+        HaengeZahlAn(t, c, 2);
     for (const auto& [c, g] : glyphen)
-        Haenge(t, c == 0xFFFF ? 1 : g - c, 2);  // modulo 65536
+        HaengeZahlAn(t, c == 0xFFFF ? 1 : g - c, 2);  // modulo 65536
     for (std::uint32_t i = 0; i < anzahl; ++i)
-        Haenge(t, 0, 2);
+        HaengeZahlAn(t, 0, 2);
     return t;
 }
 
@@ -216,19 +216,19 @@ std::string Einbettschrift::Datei(const Zeichenmenge& zeichen) const {
         const auto t = quelle_.tabellen.find(name);
         if (t != quelle_.tabellen.end() && !t->second.empty()) neu.insert(*t);
     }
-    Ersetze(neu["head"], kHeadOrtsformat, 1, 2);
+    ErsetzeZahl(neu["head"], kHeadOrtsformat, 1, 2);
     std::string& umrisse = neu["glyf"];
     std::string& orte = neu["loca"];
     for (std::size_t i = 0; i < da.size(); ++i) {
-        Haenge(orte, static_cast<std::uint32_t>(umrisse.size()), 4);
+        HaengeZahlAn(orte, static_cast<std::uint32_t>(umrisse.size()), 4);
         if (da[i]) {
             umrisse += Umriss(i);
             umrisse.resize((umrisse.size() + 3) / 4 * 4);
         } else if (i + 1 < breiten_) {
-            Ersetze(neu["hmtx"], 4 * i, 0, 4);  // what is all alike takes no room in the end
+            ErsetzeZahl(neu["hmtx"], 4 * i, 0, 4);  // what is all alike takes no room in the end
         }
     }
-    Haenge(orte, static_cast<std::uint32_t>(umrisse.size()), 4);
+    HaengeZahlAn(orte, static_cast<std::uint32_t>(umrisse.size()), 4);
     neu["cmap"] = Zuordnung(zeichen);
     return Zusammen(std::move(neu));
 }

@@ -27,7 +27,7 @@ using Zeichenmenge = std::bitset<256>;
 class Einbettschrift {
   public:
     /// None where the font has no outlines of this kind, may not be embedded in part, or is damaged.
-    [[nodiscard]] static std::optional<Einbettschrift> Aus(Schriftquelle quelle);
+    [[nodiscard]] static std::optional<Einbettschrift> AusQuelle(Schriftquelle quelle);
 
     [[nodiscard]] const Schriftmasse& Masse() const { return masse_; }
     /// Box round all glyphs, left, bottom, right, top [1/1000 em].
@@ -39,7 +39,7 @@ class Einbettschrift {
 
   private:
     Einbettschrift() = default;
-    [[nodiscard]] bool Lies();
+    [[nodiscard]] bool LiesTafeln();
     [[nodiscard]] std::string_view Umriss(std::size_t glyphe) const;
     [[nodiscard]] std::vector<bool> Benoetigt(const Zeichenmenge& zeichen) const;
     [[nodiscard]] std::string Zuordnung(const Zeichenmenge& zeichen) const;

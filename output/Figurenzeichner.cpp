@@ -76,7 +76,7 @@ void Figurenzeichner::SetzeEbene(Ebene ebene) const {
 
 void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
     SetzeEbene(Ebene::Grund);
-    if (zustand_.flaeche != nullptr) zustand_.flaeche->Fuelle({0, 0, weite, hoehe}, kWeiss);
+    if (zustand_.flaeche != nullptr) zustand_.flaeche->FuelleRechteck({0, 0, weite, hoehe}, kWeiss);
 }
 
 // --- Points -----------------------------------------------------------------------------------------------

@@ -109,7 +109,7 @@ class Geojson {
         Ort(nach);
         aus_.NimmText("]}}");
     }
-    void Schliesse() {
+    void SchliesseDatei() {
         aus_.NimmText("\n]}\n");
         aus_.SichereDatei();
         aus_.ErsetzeZiel();
@@ -217,7 +217,7 @@ void SchreibeGeojson(const Netz& netz, const Netzangaben& angaben, const Einstel
         g.Feld("sichtbar", k->Item->Visible);
         g.Linie({a->XWPu, a->YWPu}, {e->XWPu, e->YWPu});
     }
-    g.Schliesse();
+    g.SchliesseDatei();
 }
 
 }  // namespace zrw

@@ -29,7 +29,7 @@ class Messflaeche : public Zeichenflaeche {
             r = Vereint(r, {e.x, e.y, e.x, e.y});
         if (!Leer(r)) Kasten(r);
     }
-    void Fuelle(const Rechteck& /*r*/, Farbe /*farbe*/) override {}
+    void FuelleRechteck(const Rechteck& /*r*/, Farbe /*farbe*/) override {}
     void Text(Flaechenpunkt ort, std::string_view text, Farbe /*farbe*/) override {
         Kasten({ort.x, ort.y, ort.x + Textbreite(text), ort.y + Texthoehe()});
     }

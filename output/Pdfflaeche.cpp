@@ -66,7 +66,7 @@ Pdfflaeche::Pdfflaeche(std::unique_ptr<Dateischreiber> datei, const Papier& papi
       papier_(papier),
       schrift_(angaben.schrift) {
     // The second line tells programs that move files that this one is not plain text.
-    Schreibe("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n");
+    SchreibeText("%PDF-1.7\n%\xE2\xE3\xCF\xD3\n");
     orte_.resize(kAngaben);
     SchreibeAngaben(angaben);
     BeginneSeite();
@@ -81,27 +81,27 @@ Pdfflaeche::Objekt Pdfflaeche::NeuesObjekt() {
 
 void Pdfflaeche::BeginneObjekt(Objekt objekt) {
     orte_[objekt - 1] = Geschrieben();
-    Schreibe(static_cast<std::int64_t>(objekt));
-    Schreibe(" 0 obj\n");
+    SchreibeZahl(static_cast<std::int64_t>(objekt));
+    SchreibeText(" 0 obj\n");
 }
 
 void Pdfflaeche::Verweis(std::string_view vor, Objekt objekt) {
-    Schreibe(vor);
-    Schreibe(" ");
-    Schreibe(static_cast<std::int64_t>(objekt));
-    Schreibe(" 0 R");
+    SchreibeText(vor);
+    SchreibeText(" ");
+    SchreibeZahl(static_cast<std::int64_t>(objekt));
+    SchreibeText(" 0 R");
 }
 
 void Pdfflaeche::SchreibeAngaben(const Pdfangaben& angaben) {
     BeginneObjekt(kAngaben);
-    Schreibe("<</Title");
-    Schreibe(Unicodetext(angaben.titel));
-    Schreibe("/Creator(Zarwik)");
+    SchreibeText("<</Title");
+    SchreibeText(Unicodetext(angaben.titel));
+    SchreibeText("/Creator(Zarwik)");
     if (angaben.uhr != nullptr) {
         const std::string datum = Datumtext(angaben.uhr->DatumZeit());
-        if (!datum.empty()) Schreibe("/CreationDate" + datum);
+        if (!datum.empty()) SchreibeText("/CreationDate" + datum);
     }
-    Schreibe(">>\n");
+    SchreibeText(">>\n");
     BeendeObjekt();
 }
 
@@ -109,9 +109,9 @@ void Pdfflaeche::SchreibeEbenen() {
     for (std::size_t i = 0; i < ebenen_.size(); ++i) {
         if (ebenen_[i] == 0) continue;
         BeginneObjekt(ebenen_[i]);
-        Schreibe("<</Type/OCG/Name(");
-        Schreibe(kEbenennamen[i]);
-        Schreibe(")>>\n");
+        SchreibeText("<</Type/OCG/Name(");
+        SchreibeText(kEbenennamen[i]);
+        SchreibeText(")>>\n");
         BeendeObjekt();
     }
 }
@@ -119,13 +119,13 @@ void Pdfflaeche::SchreibeEbenen() {
 void Pdfflaeche::SchreibeBetriebsmittel() {
     BeginneObjekt(kBetriebsmittel);
     Verweis("<</ProcSet[/PDF/Text]/Font<</F", kSchriftobjekt);
-    Schreibe(">>/Properties<<");
+    SchreibeText(">>/Properties<<");
     for (std::size_t i = 0; i < ebenen_.size(); ++i) {
         if (ebenen_[i] == 0) continue;
-        Schreibe("/");
+        SchreibeText("/");
         Verweis(kEbenennamen[i], ebenen_[i]);
     }
-    Schreibe(">>>>\n");
+    SchreibeText(">>>>\n");
     BeendeObjekt();
 }
 
@@ -135,8 +135,8 @@ void Pdfflaeche::BeginneStromobjekt(Objekt objekt, std::string_view eintraege) {
     laengenobjekt_ = NeuesObjekt();
     BeginneObjekt(objekt);
     Verweis("<</Filter/FlateDecode/Length", laengenobjekt_);
-    Schreibe(eintraege);
-    Schreibe(">>\nstream\n");
+    SchreibeText(eintraege);
+    SchreibeText(">>\nstream\n");
     stromanfang_ = Geschrieben();
     BeginneStrom();
 }
@@ -144,11 +144,11 @@ void Pdfflaeche::BeginneStromobjekt(Objekt objekt, std::string_view eintraege) {
 void Pdfflaeche::BeendeStromobjekt() {
     BeendeStrom();
     const std::uint64_t laenge = Geschrieben() - stromanfang_;
-    Schreibe("\nendstream\n");
+    SchreibeText("\nendstream\n");
     BeendeObjekt();
     BeginneObjekt(laengenobjekt_);
-    Schreibe(static_cast<std::int64_t>(laenge));
-    Schreibe("\n");
+    SchreibeZahl(static_cast<std::int64_t>(laenge));
+    SchreibeText("\n");
     BeendeObjekt();
 }
 
@@ -156,7 +156,7 @@ void Pdfflaeche::BeendeStromobjekt() {
 void Pdfflaeche::SchreibeSchrift() {
     if (schrift_ == nullptr) {
         BeginneObjekt(kSchriftobjekt);
-        Schreibe("<</Type/Font/Subtype/Type1/BaseFont/Helvetica/Encoding/WinAnsiEncoding>>\n");
+        SchreibeText("<</Type/Font/Subtype/Type1/BaseFont/Helvetica/Encoding/WinAnsiEncoding>>\n");
         return BeendeObjekt();
     }
     const std::string name = schrift_->Name(zeichen_);
@@ -164,86 +164,86 @@ void Pdfflaeche::SchreibeSchrift() {
     const Objekt beschreibung = NeuesObjekt();
     const Objekt datei = NeuesObjekt();
     BeginneObjekt(kSchriftobjekt);
-    Schreibe("<</Type/Font/Subtype/TrueType/BaseFont/" + name + "/Encoding/WinAnsiEncoding");
+    SchreibeText("<</Type/Font/Subtype/TrueType/BaseFont/" + name + "/Encoding/WinAnsiEncoding");
     Verweis("/FontDescriptor", beschreibung);
-    Schreibe("/FirstChar 0/LastChar 255/Widths[");
+    SchreibeText("/FirstChar 0/LastChar 255/Widths[");
     for (const double breite : masse.breiten) {
-        Schreibe(" ");
-        Schreibe(breite, kStellen);
+        SchreibeText(" ");
+        SchreibeZahl(breite, kStellen);
     }
-    Schreibe("]>>\n");
+    SchreibeText("]>>\n");
     BeendeObjekt();
     BeginneObjekt(beschreibung);
-    Schreibe("<</Type/FontDescriptor/FontName/" + name + "/Flags 32/ItalicAngle 0/StemV 80/FontBBox[");
+    SchreibeText("<</Type/FontDescriptor/FontName/" + name + "/Flags 32/ItalicAngle 0/StemV 80/FontBBox[");
     for (const double kante : schrift_->Kasten()) {
-        Schreibe(" ");
-        Schreibe(kante, kStellen);
+        SchreibeText(" ");
+        SchreibeZahl(kante, kStellen);
     }
     const auto hoehe = [this](std::string_view eintrag, double em) {
-        Schreibe(eintrag);
-        Schreibe(" ");
-        Schreibe(1000 * em, kStellen);
+        SchreibeText(eintrag);
+        SchreibeText(" ");
+        SchreibeZahl(1000 * em, kStellen);
     };
-    Schreibe("]");
+    SchreibeText("]");
     hoehe("/Ascent", masse.anstieg);
     hoehe("/Descent", -masse.abstieg);
     hoehe("/CapHeight", masse.anstieg);  // Latin capitals reach nearly as high as a line
     Verweis("/FontFile2", datei);
-    Schreibe(">>\n");
+    SchreibeText(">>\n");
     BeendeObjekt();
     const std::string inhalt = schrift_->Datei(zeichen_);
     BeginneStromobjekt(datei, "/Length1 " + std::to_string(inhalt.size()));
-    Schreibe(inhalt);
+    SchreibeText(inhalt);
     BeendeStromobjekt();
 }
 
 void Pdfflaeche::SchreibeVerzeichnis() {
     BeginneObjekt(kSeitenbaum);
-    Schreibe("<</Type/Pages/Count ");
-    Schreibe(static_cast<std::int64_t>(seiten_.size()));
-    Schreibe("/Kids[");
+    SchreibeText("<</Type/Pages/Count ");
+    SchreibeZahl(static_cast<std::int64_t>(seiten_.size()));
+    SchreibeText("/Kids[");
     for (const Objekt s : seiten_)
         Verweis("", s);
-    Schreibe("]>>\n");
+    SchreibeText("]>>\n");
     BeendeObjekt();
     const auto alleEbenen = [this] {
-        Schreibe("[");
+        SchreibeText("[");
         for (const Objekt e : ebenen_) {
             if (e != 0) Verweis("", e);
         }
-        Schreibe("]");
+        SchreibeText("]");
     };
     BeginneObjekt(kKatalog);
     Verweis("<</Type/Catalog/Pages", kSeitenbaum);
-    Schreibe("/OCProperties<</OCGs");
+    SchreibeText("/OCProperties<</OCGs");
     alleEbenen();
-    Schreibe("/D<</Order");
+    SchreibeText("/D<</Order");
     alleEbenen();
-    Schreibe(">>>>/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>\n");
+    SchreibeText(">>>>/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>\n");
     BeendeObjekt();
 }
 
-void Pdfflaeche::Beende() {
+void Pdfflaeche::BeendeDatei() {
     BeendeSeite();
     SchreibeEbenen();
     SchreibeBetriebsmittel();
     SchreibeSchrift();
     SchreibeVerzeichnis();
     const std::uint64_t tafel = Geschrieben();
-    Schreibe("xref\n0 ");
-    Schreibe(static_cast<std::int64_t>(orte_.size() + 1));
-    Schreibe("\n0000000000 65535 f \n");
+    SchreibeText("xref\n0 ");
+    SchreibeZahl(static_cast<std::int64_t>(orte_.size() + 1));
+    SchreibeText("\n0000000000 65535 f \n");
     for (const std::uint64_t ort : orte_) {
-        Schreibe(Aufgefuellt(ort, 10));
-        Schreibe(" 00000 n \n");
+        SchreibeText(Aufgefuellt(ort, 10));
+        SchreibeText(" 00000 n \n");
     }
-    Schreibe("trailer\n<</Size ");
-    Schreibe(static_cast<std::int64_t>(orte_.size() + 1));
+    SchreibeText("trailer\n<</Size ");
+    SchreibeZahl(static_cast<std::int64_t>(orte_.size() + 1));
     Verweis("/Root", kKatalog);
     Verweis("/Info", kAngaben);
-    Schreibe(">>\nstartxref\n");
-    Schreibe(static_cast<std::int64_t>(tafel));
-    Schreibe("\n%%EOF\n");
+    SchreibeText(">>\nstartxref\n");
+    SchreibeZahl(static_cast<std::int64_t>(tafel));
+    SchreibeText("\n%%EOF\n");
     UebernimmDatei();
 }
 
@@ -255,24 +255,24 @@ void Pdfflaeche::BeginneSeite() {
     seiten_.push_back(seite);
     BeginneObjekt(seite);
     Verweis("<</Type/Page/Parent", kSeitenbaum);
-    Schreibe("/MediaBox[0 0 ");
+    SchreibeText("/MediaBox[0 0 ");
     Paar(papier_.weite * kPunkteJeMillimeter, papier_.hoehe * kPunkteJeMillimeter);
     Verweis("]/Resources", kBetriebsmittel);
     Verweis("/Contents", strom);
-    Schreibe(">>\n");
+    SchreibeText(">>\n");
     BeendeObjekt();
     BeginneStromobjekt(strom);
     const double punkte = kPunkteJeZoll / Seite().aufloesung;
-    Schreibe(punkte, kMatrixstellen);
-    Schreibe(" 0 0 ");
-    Schreibe(-punkte, kMatrixstellen);
-    Schreibe(" ");
+    SchreibeZahl(punkte, kMatrixstellen);
+    SchreibeText(" 0 0 ");
+    SchreibeZahl(-punkte, kMatrixstellen);
+    SchreibeText(" ");
     Paar(kPapierrand * kPunkteJeMillimeter, (papier_.hoehe - kPapierrand) * kPunkteJeMillimeter);
-    Schreibe("cm\n");
+    SchreibeText("cm\n");
     // A line along the edge keeps its width.
     Paar(-Strich(), -Strich());
     Paar(Seite().weite + 2 * Strich(), Seite().hoehe + 2 * Strich());
-    Schreibe("re W n\n1 j\n");
+    SchreibeText("re W n\n1 j\n");
     stift_.reset();
     fuellung_.reset();
 }
@@ -293,7 +293,7 @@ void Pdfflaeche::EbeneGewechselt(Ebene /*ebene*/) {
 
 void Pdfflaeche::SchliesseEbene() {
     SchliessePfad();
-    if (offeneEbene_) Schreibe("EMC\n");
+    if (offeneEbene_) SchreibeText("EMC\n");
     offeneEbene_ = false;
 }
 
@@ -305,27 +305,27 @@ void Pdfflaeche::BeginneForm() {
     offeneEbene_ = true;
     Objekt& objekt = ebenen_[static_cast<std::size_t>(ebene)];
     if (objekt == 0) objekt = NeuesObjekt();
-    Schreibe("/OC/");
-    Schreibe(Ebenenname(ebene));
-    Schreibe(" BDC\n");
+    SchreibeText("/OC/");
+    SchreibeText(Ebenenname(ebene));
+    SchreibeText(" BDC\n");
 }
 
 // --- Pens and shapes --------------------------------------------------------------------------------------
 
 void Pdfflaeche::Paar(double x, double y) {
-    Schreibe(x, kPunktstellen);
-    Schreibe(" ");
-    Schreibe(y, kPunktstellen);
-    Schreibe(" ");
+    SchreibeZahl(x, kPunktstellen);
+    SchreibeText(" ");
+    SchreibeZahl(y, kPunktstellen);
+    SchreibeText(" ");
 }
 
 void Pdfflaeche::Farbbefehl(Farbe farbe, std::string_view befehl) {
     for (const std::uint8_t teil : {Rotanteil(farbe), Gruenanteil(farbe), Blauanteil(farbe)}) {
-        Schreibe(teil / 255.0, kStellen);
-        Schreibe(" ");
+        SchreibeZahl(teil / 255.0, kStellen);
+        SchreibeText(" ");
     }
-    Schreibe(befehl);
-    Schreibe("\n");
+    SchreibeText(befehl);
+    SchreibeText("\n");
 }
 
 void Pdfflaeche::WendeStiftAn() {
@@ -334,18 +334,18 @@ void Pdfflaeche::WendeStiftAn() {
     if (!stift_ || stift_->farbe != neu.farbe) Farbbefehl(neu.farbe, "RG");
     const double breite = neu.breite * Strich();
     if (!stift_ || stift_->breite != neu.breite) {
-        Schreibe(breite, kStellen);
-        Schreibe(" w\n");
+        SchreibeZahl(breite, kStellen);
+        SchreibeText(" w\n");
     }
     // Round ends show lines of no length; dashes have blunt ends, or the gaps would close.
     if (neu.art == Strichart::Voll) {
-        Schreibe("1 J[]0 d\n");
+        SchreibeText("1 J[]0 d\n");
     } else {
-        Schreibe("0 J[");
-        Schreibe(kStrichlaenge * neu.breite * Pixel(), kStellen);
-        Schreibe(" ");
-        Schreibe(kStrichluecke * neu.breite * Pixel(), kStellen);
-        Schreibe("]0 d\n");
+        SchreibeText("0 J[");
+        SchreibeZahl(kStrichlaenge * neu.breite * Pixel(), kStellen);
+        SchreibeText(" ");
+        SchreibeZahl(kStrichluecke * neu.breite * Pixel(), kStellen);
+        SchreibeText("]0 d\n");
     }
     stift_ = neu;
 }
@@ -358,12 +358,12 @@ void Pdfflaeche::WendeFuellungAn(Farbe farbe) {
 
 void Pdfflaeche::SchliessePfad() {
     if (!pfad_) return;
-    Schreibe("S\n");
+    SchreibeText("S\n");
     pfad_ = false;
 }
 
 void Pdfflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
-    if (!Sieht(von, nach)) return;
+    if (!SiehtStrecke(von, nach)) return;
     if (!pfad_ || stift_ != AktuellerStift() || pfadlinien_ == kLinienJePfad) {
         BeginneForm();
         WendeStiftAn();
@@ -374,10 +374,10 @@ void Pdfflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     const bool weiter = pfadlinien_ > 0 && stift_->art == Strichart::Voll && pfadende_ == von;
     if (!weiter) {
         Paar(von.x, von.y);
-        Schreibe("m ");
+        SchreibeText("m ");
     }
     Paar(nach.x, nach.y);
-    Schreibe("l\n");
+    SchreibeText("l\n");
     pfadende_ = nach;
     ++pfadlinien_;
 }
@@ -389,7 +389,7 @@ void Pdfflaeche::BeginneUmriss() {
 }
 
 void Pdfflaeche::BeendeUmriss() {
-    Schreibe(AktuellerPinsel().leer ? "s\n" : "b\n");
+    SchreibeText(AktuellerPinsel().leer ? "s\n" : "b\n");
 }
 
 void Pdfflaeche::ZeichneRechteck(const Rechteck& r) {
@@ -399,21 +399,21 @@ void Pdfflaeche::ZeichneRechteck(const Rechteck& r) {
 }
 
 void Pdfflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
-    if (ecken.empty() || !Sieht(Umschrieben(ecken))) return;
+    if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
     BeginneUmriss();
     for (const Flaechenpunkt& e : ecken) {
         Paar(e.x, e.y);
-        Schreibe(&e == ecken.data() ? "m " : "l ");
+        SchreibeText(&e == ecken.data() ? "m " : "l ");
     }
     BeendeUmriss();
 }
 
 void Pdfflaeche::Ellipse(const Rechteck& u) {
-    if (!Sieht(u)) return;
+    if (!SiehtRechteck(u)) return;
     const auto [mx, my, a, b] = Mass(u);
     BeginneUmriss();
     Paar(mx + a, my);
-    Schreibe("m ");
+    SchreibeText("m ");
     // A quarter turn after the other: (c, s) is where it begins, (-s, c) where it ends.
     double c = 1.0;
     double s = 0.0;
@@ -421,7 +421,7 @@ void Pdfflaeche::Ellipse(const Rechteck& u) {
         Paar(mx + a * (c - kViertelkreis * s), my + b * (s + kViertelkreis * c));
         Paar(mx + a * (kViertelkreis * c - s), my + b * (kViertelkreis * s + c));
         Paar(mx - a * s, my + b * c);
-        Schreibe("c ");
+        SchreibeText("c ");
         const double alt = c;
         c = -s;
         s = alt;
@@ -429,14 +429,14 @@ void Pdfflaeche::Ellipse(const Rechteck& u) {
     BeendeUmriss();
 }
 
-void Pdfflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+void Pdfflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
     const Rechteck g = Geschnitten(r, Sichtbar());
     if (g.links > g.rechts || g.oben > g.unten) return;
     BeginneForm();
     WendeFuellungAn(farbe);
     Paar(g.links, g.oben);
     Paar(g.rechts - g.links + 1.0, g.unten - g.oben + 1.0);
-    Schreibe("re f\n");
+    SchreibeText("re f\n");
 }
 
 void Pdfflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
@@ -444,18 +444,18 @@ void Pdfflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     BeginneForm();
     WendeFuellungAn(farbe);
     // Upright although y points downwards here.
-    Schreibe("BT/F ");
-    Schreibe(Schrift(), kMatrixstellen);
-    Schreibe(" Tf 1 0 0 -1 ");
+    SchreibeText("BT/F ");
+    SchreibeZahl(Schrift(), kMatrixstellen);
+    SchreibeText(" Tf 1 0 0 -1 ");
     Paar(ort.x, ort.y + Grundlinie());
-    Schreibe("Tm(");
+    SchreibeText("Tm(");
     for (const char& c : text) {
         if (IstSteuerzeichen(c)) continue;
         zeichen_.set(static_cast<unsigned char>(c));
-        if (c == '(' || c == ')' || c == '\\') Schreibe("\\");
-        Schreibe({&c, 1});
+        if (c == '(' || c == ')' || c == '\\') SchreibeText("\\");
+        SchreibeText({&c, 1});
     }
-    Schreibe(")Tj ET\n");
+    SchreibeText(")Tj ET\n");
 }
 
 }  // namespace zrw

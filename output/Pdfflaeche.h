@@ -37,13 +37,13 @@ class Pdfflaeche final : public Vektorflaeche {
     void ZeichneRechteck(const Rechteck& r) override;
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
-    void Fuelle(const Rechteck& r, Farbe farbe) override;
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
 
     /// Ends the page; what is drawn from now on stands on the next one, of the same paper.
     void NeueSeite();
     /// Ends the document and puts it in its place. Nothing is drawn afterwards.
-    void Beende();
+    void BeendeDatei();
 
   protected:
     void EbeneGewechselt(Ebene ebene) override;
@@ -54,7 +54,7 @@ class Pdfflaeche final : public Vektorflaeche {
 
     [[nodiscard]] Objekt NeuesObjekt();
     void BeginneObjekt(Objekt objekt);
-    void BeendeObjekt() { Schreibe("endobj\n"); }
+    void BeendeObjekt() { SchreibeText("endobj\n"); }
     void Verweis(std::string_view vor, Objekt objekt);
     void SchreibeAngaben(const Pdfangaben& angaben);
     void SchreibeEbenen();

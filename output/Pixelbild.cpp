@@ -16,12 +16,12 @@ constexpr std::int64_t kDash = 6;    ///< pixels from one dash to the next
 constexpr std::int64_t kLang = 32767;
 
 /// Quotient rounded down, and what remains.
-std::pair<std::int64_t, std::int64_t> Teile(std::int64_t a, std::int64_t b) {
+std::pair<std::int64_t, std::int64_t> TeileMitRest(std::int64_t a, std::int64_t b) {
     const std::int64_t rest = (a % b + b) % b;
     return {(a - rest) / b, rest};
 }
 
-bool In(const Rechteck& r, Flaechenpunkt p) {
+bool LiegtIn(const Rechteck& r, Flaechenpunkt p) {
     return p.x >= r.links && p.x <= r.rechts && p.y >= r.oben && p.y <= r.unten;
 }
 
@@ -31,7 +31,7 @@ void Pixelbild::SetzeAusschnitt(const Rechteck& r) {
     ausschnitt_ = Geschnitten(r, Ganz());
 }
 
-void Pixelbild::Verschiebe(int dx, int dy) {
+void Pixelbild::VerschiebeBild(int dx, int dy) {
     if (std::abs(dx) >= weite_ || std::abs(dy) >= hoehe_) return;
     const auto breite = static_cast<std::size_t>(weite_ - std::abs(dx)) * sizeof(std::uint32_t);
     for (int i = std::abs(dy); i < hoehe_; ++i) {
@@ -42,7 +42,7 @@ void Pixelbild::Verschiebe(int dx, int dy) {
     }
 }
 
-void Pixelbild::Fuelle(const Rechteck& r, std::uint32_t farbe) {
+void Pixelbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
     assert(!VonVorn());
     const Rechteck teil = Geschnitten(r, ausschnitt_);
     if (Leer(teil)) return;
@@ -103,8 +103,8 @@ void Pixelbild::LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32
     const std::int64_t letztes =
         std::min<std::int64_t>(ende, Senkrecht ? ausschnitt_.unten : ausschnitt_.rechts);
     // Half a step ahead where the line rises, as the short steps begin.
-    auto [weg, rest] = Teile((m - anfang) * anstieg + (anstieg > 0 ? anstieg / 2 : 0), laenge);
-    const auto [ganz, teil] = Teile(anstieg, laenge);
+    auto [weg, rest] = TeileMitRest((m - anfang) * anstieg + (anstieg > 0 ? anstieg / 2 : 0), laenge);
+    const auto [ganz, teil] = TeileMitRest(anstieg, laenge);
     for (std::int64_t q = quer(von) + weg; m <= letztes; ++m) {
         const bool luecke = gestrichelt && (umgekehrt ? ende - m : m - anfang) % kDash >= kStrich;
         if (!luecke && q >= querVon && q <= querBis) Pixel<Senkrecht>(m, q, farbe);
@@ -128,7 +128,7 @@ inline void Pixelbild::Strecke(Flaechenpunkt von, Flaechenpunkt nach, std::uint3
     if (std::max(breit, hoch) > kLang) {
         senkrecht ? LangeSchritte<true>(von, nach, farbe, gestrichelt)
                   : LangeSchritte<false>(von, nach, farbe, gestrichelt);
-    } else if (In(s, von) && In(s, nach)) {
+    } else if (LiegtIn(s, von) && LiegtIn(s, nach)) {
         senkrecht ? Schritte<true, true>(von, nach, farbe, gestrichelt)
                   : Schritte<false, true>(von, nach, farbe, gestrichelt);
     } else {
@@ -162,9 +162,10 @@ void Pixelbild::SetzeBits(std::uint64_t bits, std::int64_t x, std::size_t y, std
         std::uint64_t neu = 0;
         const std::int64_t spalte = x >> 6;
         if (spalte >= 0 && bits << bit != 0)
-            neu = deckung_.Nimm(static_cast<std::size_t>(spalte), y, bits << bit) >> bit;
+            neu = deckung_.DeckePixel(static_cast<std::size_t>(spalte), y, bits << bit) >> bit;
         if (bit != 0 && bits >> (64U - bit) != 0)
-            neu |= deckung_.Nimm(static_cast<std::size_t>(spalte + 1), y, bits >> (64U - bit)) << (64U - bit);
+            neu |= deckung_.DeckePixel(static_cast<std::size_t>(spalte + 1), y, bits >> (64U - bit))
+                   << (64U - bit);
         bits = neu;
     }
     for (; bits != 0; bits &= bits - 1)
@@ -178,9 +179,9 @@ void Pixelbild::FreierBlock(std::span<const std::uint64_t> worte, std::size_t x,
     const auto bit = static_cast<unsigned>(x % 64);
     for (std::uint64_t bits : worte) {
         if (deckung_.Aktiv() && bits != 0) {
-            const std::uint64_t links = deckung_.Nimm(x / 64, y, bits << bit) >> bit;
+            const std::uint64_t links = deckung_.DeckePixel(x / 64, y, bits << bit) >> bit;
             const std::uint64_t ueber = bit != 0 ? bits >> (64U - bit) : 0;
-            bits = links | (ueber != 0 ? deckung_.Nimm(x / 64 + 1, y, ueber) << (64U - bit) : 0);
+            bits = links | (ueber != 0 ? deckung_.DeckePixel(x / 64 + 1, y, ueber) << (64U - bit) : 0);
         }
         for (; bits != 0; bits &= bits - 1)
             zeile[std::countr_zero(bits)] = farbe;

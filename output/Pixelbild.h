@@ -26,7 +26,7 @@ struct Pixelmaske {
         worte.resize(static_cast<std::size_t>(h) * JeZeile());
     }
     [[nodiscard]] std::size_t JeZeile() const { return (static_cast<std::size_t>(weite) + 63) / 64; }
-    void Setze(int x, int y) {
+    void SetzePixel(int x, int y) {
         worte[static_cast<std::size_t>(y) * JeZeile() + static_cast<std::size_t>(x) / 64] |=
             std::uint64_t{1} << (static_cast<unsigned>(x) % 64U);
     }
@@ -46,16 +46,16 @@ class Pixelbild {
     void SetzeAusschnitt(const Rechteck& r);
     [[nodiscard]] const Rechteck& Ausschnitt() const { return ausschnitt_; }
     /// Moves the picture; what comes in at the border keeps its old pixels.
-    void Verschiebe(int dx, int dy);
+    void VerschiebeBild(int dx, int dy);
 
     // From the front to the back: pixels that were set since the beginning keep their colour.
-    void BeginneVonVorn() { deckung_.Beginne(weite_, hoehe_, ausschnitt_); }
-    void BeendeVonVorn() { deckung_.Beende(); }
+    void BeginneVonVorn() { deckung_.BeginneDeckung(weite_, hoehe_, ausschnitt_); }
+    void BeendeVonVorn() { deckung_.BeendeDeckung(); }
     [[nodiscard]] bool VonVorn() const { return deckung_.Aktiv(); }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const { return VonVorn() && deckung_.Verdeckt(r); }
 
     /// Covers a rectangle, whatever lies in it. Not while drawing from the front.
-    void Fuelle(const Rechteck& r, std::uint32_t farbe);
+    void FuelleRechteck(const Rechteck& r, std::uint32_t farbe);
     /// Line of width 1 with both ends, in the steps of Qt's raster painter: along the longer axis from its
     /// smaller end, 16.16 fixed point, rounded down. Dashes (4 on, 2 off) count from `von`. Lines too long
     /// for that are stepped with exact remainders. Ends lie within 2^30.
@@ -76,7 +76,7 @@ class Pixelbild {
     void Pixel(std::int64_t laengs, std::int64_t quer, std::uint32_t farbe) {
         const auto x = static_cast<std::size_t>(Senkrecht ? quer : laengs);
         const auto y = static_cast<std::size_t>(Senkrecht ? laengs : quer);
-        if (!deckung_.Aktiv() || deckung_.Nimm(x, y)) bild_[y * zeile_ + x] = farbe;
+        if (!deckung_.Aktiv() || deckung_.DeckePixel(x, y)) bild_[y * zeile_ + x] = farbe;
     }
     void FreierBlock(std::span<const std::uint64_t> worte, std::size_t x, std::size_t y, std::uint32_t farbe);
     void SetzeBits(std::uint64_t bits, std::int64_t x, std::size_t y, std::uint32_t farbe);

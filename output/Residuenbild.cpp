@@ -260,10 +260,10 @@ void Residuenbild::Balken(double laenge, const Balkentexte& texte) const {
         std::max(einheitort + flaeche_.Textbreite(einheit), links + flaeche_.Textbreite(titel)) + rand;
 
     // Network and grids would make it unreadable.
-    flaeche_.Fuelle({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
-                     static_cast<std::int32_t>(std::min<std::int64_t>(rechts, s.rechts)),
-                     static_cast<std::int32_t>(grund + rand)},
-                    kWeiss);
+    flaeche_.FuelleRechteck({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
+                             static_cast<std::int32_t>(std::min<std::int64_t>(rechts, s.rechts)),
+                             static_cast<std::int32_t>(grund + rand)},
+                            kWeiss);
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
     Schreibe({links, oben}, titel);
     Schreibe({einheitort, oben + h}, einheit);

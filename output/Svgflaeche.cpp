@@ -31,38 +31,38 @@ void Svgflaeche::Kopf(std::string_view titel) {
     const Druckseite& s = Seite();
     const bool papier = s.aufloesung != kBildaufloesung;
     const auto kante = [&](std::string_view name, std::int32_t dots) {
-        Schreibe(" ");
-        Schreibe(name);
-        Schreibe("=\"");
-        Schreibe(papier ? dots / s.aufloesung * kMillimeterJeZoll : dots, kStellen);
-        Schreibe(papier ? "mm\"" : "\"");
+        SchreibeText(" ");
+        SchreibeText(name);
+        SchreibeText("=\"");
+        SchreibeZahl(papier ? dots / s.aufloesung * kMillimeterJeZoll : dots, kStellen);
+        SchreibeText(papier ? "mm\"" : "\"");
     };
     const auto blatt = [&] {
         Attribut("width", std::int64_t{s.weite});
         Attribut("height", std::int64_t{s.hoehe});
     };
-    Schreibe("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\"");
+    SchreibeText("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\"");
     kante("width", s.weite);
     kante("height", s.hoehe);
-    Schreibe(" viewBox=\"-0.5 -0.5 ");
-    Schreibe(std::int64_t{s.weite});
-    Schreibe(" ");
-    Schreibe(std::int64_t{s.hoehe});
-    Schreibe("\"\n font-family=\"Arial, Helvetica, sans-serif\"");
+    SchreibeText(" viewBox=\"-0.5 -0.5 ");
+    SchreibeZahl(std::int64_t{s.weite});
+    SchreibeText(" ");
+    SchreibeZahl(std::int64_t{s.hoehe});
+    SchreibeText("\"\n font-family=\"Arial, Helvetica, sans-serif\"");
     Attribut("font-size", Schrift());
-    Schreibe(" xml:space=\"preserve\"\n fill=\"none\"");
+    SchreibeText(" xml:space=\"preserve\"\n fill=\"none\"");
     Attribut("stroke-width", Strich());
     // Both ends of a line are drawn. Dashes have blunt ends, or the gaps would close.
-    Schreibe(" stroke-linecap=\"square\" stroke-linejoin=\"round\">\n<title>");
+    SchreibeText(" stroke-linecap=\"square\" stroke-linejoin=\"round\">\n<title>");
     Zeichen(titel);
-    Schreibe("</title>\n<clipPath id=\"BLATT\"><rect x=\"-0.5\" y=\"-0.5\"");
+    SchreibeText("</title>\n<clipPath id=\"BLATT\"><rect x=\"-0.5\" y=\"-0.5\"");
     blatt();
-    Schreibe("/></clipPath>\n");
+    SchreibeText("/></clipPath>\n");
 }
 
-void Svgflaeche::Beende() {
+void Svgflaeche::BeendeDatei() {
     EbeneGewechselt(Ebene::Grund);
-    Schreibe("</svg>\n");
+    SchreibeText("</svg>\n");
     UebernimmDatei();
 }
 
@@ -71,7 +71,7 @@ void Svgflaeche::Beende() {
 /// The next group begins with its first figure: layers on which nothing is drawn leave none.
 void Svgflaeche::EbeneGewechselt(Ebene /*ebene*/) {
     SchliessePfad();
-    if (offeneGruppe_) Schreibe("</g>\n");
+    if (offeneGruppe_) SchreibeText("</g>\n");
     offeneGruppe_ = false;
 }
 
@@ -81,42 +81,42 @@ void Svgflaeche::BeginneElement() {
     if (offeneGruppe_ || ebene == Ebene::Grund) return;
     offeneGruppe_ = true;
     const int nummer = ++gruppen_[static_cast<std::size_t>(ebene)];
-    Schreibe("<g id=\"");
-    Schreibe(Ebenenname(ebene));
+    SchreibeText("<g id=\"");
+    SchreibeText(Ebenenname(ebene));
     if (nummer > 1) {
-        Schreibe("_");
-        Schreibe(std::int64_t{nummer});
+        SchreibeText("_");
+        SchreibeZahl(std::int64_t{nummer});
     }
-    Schreibe("\" class=\"");
-    Schreibe(Ebenenname(ebene));
-    Schreibe("\" clip-path=\"url(#BLATT)\">\n");
+    SchreibeText("\" class=\"");
+    SchreibeText(Ebenenname(ebene));
+    SchreibeText("\" clip-path=\"url(#BLATT)\">\n");
 }
 
 void Svgflaeche::SchliessePfad() {
     if (!pfad_) return;
-    Schreibe("\"/>\n");
+    SchreibeText("\"/>\n");
     pfad_.reset();
 }
 
 void Svgflaeche::BeginnePfad() {
     BeginneElement();
-    Schreibe("<path");
+    SchreibeText("<path");
     Stiftattribute();
-    Schreibe(" d=\"");
+    SchreibeText(" d=\"");
     pfad_ = AktuellerStift();
     pfadlinien_ = 0;
 }
 
 void Svgflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
-    if (!Sieht(von, nach)) return;
+    if (!SiehtStrecke(von, nach)) return;
     if (pfad_ != AktuellerStift() || pfadlinien_ == kLinienJePfad) BeginnePfad();
     // Dashes begin anew with every line, so only solid ones go on where the last one ended.
     const bool weiter = pfadlinien_ > 0 && !Gestrichelt(*pfad_) && pfadende_ == von;
     const auto paar = [this](std::string_view befehl, Flaechenpunkt p) {
-        Schreibe(befehl);
-        Schreibe(std::int64_t{p.x});
-        Schreibe(" ");
-        Schreibe(std::int64_t{p.y});
+        SchreibeText(befehl);
+        SchreibeZahl(std::int64_t{p.x});
+        SchreibeText(" ");
+        SchreibeZahl(std::int64_t{p.y});
     };
     if (!weiter) paar("M", von);
     paar("L", nach);
@@ -127,31 +127,31 @@ void Svgflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 // --- Shapes and texts -------------------------------------------------------------------------------------
 
 void Svgflaeche::Attribut(std::string_view name, double wert) {
-    Schreibe(" ");
-    Schreibe(name);
-    Schreibe("=\"");
-    Schreibe(wert, kStellen);
-    Schreibe("\"");
+    SchreibeText(" ");
+    SchreibeText(name);
+    SchreibeText("=\"");
+    SchreibeZahl(wert, kStellen);
+    SchreibeText("\"");
 }
 
 void Svgflaeche::Attribut(std::string_view name, std::int64_t wert) {
-    Schreibe(" ");
-    Schreibe(name);
-    Schreibe("=\"");
-    Schreibe(wert);
-    Schreibe("\"");
+    SchreibeText(" ");
+    SchreibeText(name);
+    SchreibeText("=\"");
+    SchreibeZahl(wert);
+    SchreibeText("\"");
 }
 
 void Svgflaeche::Farbattribut(std::string_view name, Farbe farbe) {
     constexpr std::string_view kZiffern = "0123456789abcdef";
-    Schreibe(" ");
-    Schreibe(name);
-    Schreibe("=\"#");
+    SchreibeText(" ");
+    SchreibeText(name);
+    SchreibeText("=\"#");
     for (const std::uint8_t teil : {Rotanteil(farbe), Gruenanteil(farbe), Blauanteil(farbe)}) {
-        Schreibe(kZiffern.substr(teil >> 4U, 1));
-        Schreibe(kZiffern.substr(teil & 15U, 1));
+        SchreibeText(kZiffern.substr(teil >> 4U, 1));
+        SchreibeText(kZiffern.substr(teil & 15U, 1));
     }
-    Schreibe("\"");
+    SchreibeText("\"");
 }
 
 void Svgflaeche::Stiftattribute() {
@@ -160,23 +160,23 @@ void Svgflaeche::Stiftattribute() {
     Farbattribut("stroke", stift.farbe);
     if (stift.breite != 1) Attribut("stroke-width", breite);
     if (!Gestrichelt(stift)) return;
-    Schreibe(" stroke-linecap=\"butt\" stroke-dasharray=\"");
-    Schreibe(kStrichlaenge * stift.breite * Pixel(), kStellen);
-    Schreibe(" ");
-    Schreibe(kStrichluecke * stift.breite * Pixel(), kStellen);
-    Schreibe("\"");
+    SchreibeText(" stroke-linecap=\"butt\" stroke-dasharray=\"");
+    SchreibeZahl(kStrichlaenge * stift.breite * Pixel(), kStellen);
+    SchreibeText(" ");
+    SchreibeZahl(kStrichluecke * stift.breite * Pixel(), kStellen);
+    SchreibeText("\"");
 }
 
 void Svgflaeche::Formende() {
     Stiftattribute();
     if (!AktuellerPinsel().leer) Farbattribut("fill", AktuellerPinsel().farbe);
-    Schreibe("/>\n");
+    SchreibeText("/>\n");
 }
 
 void Svgflaeche::ZeichneRechteck(const Rechteck& r) {
-    if (!Sieht(r)) return;
+    if (!SiehtRechteck(r)) return;
     BeginneElement();
-    Schreibe("<rect");
+    SchreibeText("<rect");
     Attribut("x", std::int64_t{r.links});
     Attribut("y", std::int64_t{r.oben});
     Attribut("width", std::int64_t{r.rechts} - r.links);
@@ -185,9 +185,9 @@ void Svgflaeche::ZeichneRechteck(const Rechteck& r) {
 }
 
 void Svgflaeche::Ellipse(const Rechteck& u) {
-    if (!Sieht(u)) return;
+    if (!SiehtRechteck(u)) return;
     BeginneElement();
-    Schreibe("<ellipse");
+    SchreibeText("<ellipse");
     const Ellipsenmass m = Mass(u);
     Attribut("cx", m.mx);
     Attribut("cy", m.my);
@@ -197,43 +197,43 @@ void Svgflaeche::Ellipse(const Rechteck& u) {
 }
 
 void Svgflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
-    if (ecken.empty() || !Sieht(Umschrieben(ecken))) return;
+    if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
     BeginneElement();
-    Schreibe("<polygon points=\"");
+    SchreibeText("<polygon points=\"");
     for (const Flaechenpunkt& e : ecken) {
-        if (&e != ecken.data()) Schreibe(" ");
-        Schreibe(std::int64_t{e.x});
-        Schreibe(",");
-        Schreibe(std::int64_t{e.y});
+        if (&e != ecken.data()) SchreibeText(" ");
+        SchreibeZahl(std::int64_t{e.x});
+        SchreibeText(",");
+        SchreibeZahl(std::int64_t{e.y});
     }
-    Schreibe("\"");
+    SchreibeText("\"");
     Formende();
 }
 
-void Svgflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+void Svgflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
     const Rechteck g = Geschnitten(r, Sichtbar());
     if (g.links > g.rechts || g.oben > g.unten) return;
     BeginneElement();
-    Schreibe("<rect");
+    SchreibeText("<rect");
     Attribut("x", g.links - 0.5);
     Attribut("y", g.oben - 0.5);
     Attribut("width", std::int64_t{g.rechts} - g.links + 1);
     Attribut("height", std::int64_t{g.unten} - g.oben + 1);
     Farbattribut("fill", farbe);
-    Schreibe("/>\n");
+    SchreibeText("/>\n");
 }
 
 void Svgflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (!SiehtText(ort, text)) return;
     BeginneElement();
-    Schreibe("<text");
+    SchreibeText("<text");
     // Lines run through the middles of pixels, texts stand at their edges.
     Attribut("x", ort.x - 0.5);
     Attribut("y", static_cast<double>(ort.y) + Grundlinie() - 0.5);
     Farbattribut("fill", farbe);
-    Schreibe(">");
+    SchreibeText(">");
     Zeichen(text);
-    Schreibe("</text>\n");
+    SchreibeText("</text>\n");
 }
 
 /// Text of the network as character data.
@@ -242,16 +242,16 @@ void Svgflaeche::Zeichen(std::string_view text) {
         if (IstSteuerzeichen(c)) continue;
         switch (c) {
             case '&':
-                Schreibe("&amp;");
+                SchreibeText("&amp;");
                 break;
             case '<':
-                Schreibe("&lt;");
+                SchreibeText("&lt;");
                 break;
             case '>':
-                Schreibe("&gt;");
+                SchreibeText("&gt;");
                 break;
             default:
-                Schreibe(Cp1252NachUtf8({&c, 1}));
+                SchreibeText(Cp1252NachUtf8({&c, 1}));
         }
     }
 }

@@ -23,11 +23,11 @@ class Svgflaeche final : public Vektorflaeche {
     void ZeichneRechteck(const Rechteck& r) override;
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
-    void Fuelle(const Rechteck& r, Farbe farbe) override;
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
 
     /// Ends the picture and puts it in its place. Nothing is drawn afterwards.
-    void Beende();
+    void BeendeDatei();
 
   protected:
     void EbeneGewechselt(Ebene ebene) override;

@@ -56,13 +56,13 @@ void Vektorflaeche::BeendeStrom() {
     strom_.reset();
 }
 
-void Vektorflaeche::Schreibe(std::int64_t zahl) {
+void Vektorflaeche::SchreibeZahl(std::int64_t zahl) {
     std::array<char, 20> ziffern{};  // the lower end of 64 bits with its sign
     const char* ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), zahl).ptr;
-    Schreibe(std::string_view(ziffern.data(), static_cast<std::size_t>(ende - ziffern.data())));
+    SchreibeText(std::string_view(ziffern.data(), static_cast<std::size_t>(ende - ziffern.data())));
 }
 
-void Vektorflaeche::Schreibe(double wert, int stellen) {
+void Vektorflaeche::SchreibeZahl(double wert, int stellen) {
     std::array<char, 48> ziffern{};
     const char* ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), wert,
                                      std::chars_format::fixed, stellen)
@@ -70,19 +70,19 @@ void Vektorflaeche::Schreibe(double wert, int stellen) {
     std::string_view text(ziffern.data(), static_cast<std::size_t>(ende - ziffern.data()));
     text.remove_suffix(text.size() - 1 - text.find_last_not_of('0'));
     if (text.ends_with('.')) text.remove_suffix(1);
-    Schreibe(text == "-0" ? std::string_view("0") : text);
+    SchreibeText(text == "-0" ? std::string_view("0") : text);
 }
 
-bool Vektorflaeche::Sieht(const Rechteck& r) const {
+bool Vektorflaeche::SiehtRechteck(const Rechteck& r) const {
     const std::int64_t rand = RundeZuInt64(std::ceil(AktuellerStift().breite * strich_));
     const Rechteck s = Sichtbar();
     return r.links <= s.rechts + rand && r.rechts >= s.links - rand && r.oben <= s.unten + rand &&
            r.unten >= s.oben - rand;
 }
 
-bool Vektorflaeche::Sieht(Flaechenpunkt von, Flaechenpunkt nach) const {
-    return Sieht(Rechteck{std::min(von.x, nach.x), std::min(von.y, nach.y), std::max(von.x, nach.x),
-                          std::max(von.y, nach.y)});
+bool Vektorflaeche::SiehtStrecke(Flaechenpunkt von, Flaechenpunkt nach) const {
+    return SiehtRechteck(Rechteck{std::min(von.x, nach.x), std::min(von.y, nach.y), std::max(von.x, nach.x),
+                                  std::max(von.y, nach.y)});
 }
 
 bool Vektorflaeche::SiehtText(Flaechenpunkt ort, std::string_view text) const {

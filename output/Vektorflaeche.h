@@ -35,15 +35,15 @@ class Vektorflaeche : public Zeichenflaeche {
     ~Vektorflaeche() override = default;
 
     // The file. All of these throw a Fehler where it cannot be written.
-    void Schreibe(std::string_view text) {
+    void SchreibeText(std::string_view text) {
         if (strom_) return strom_->NimmText(text);
         geschrieben_ += text.size();
         datei_.NimmText(text);
     }
-    void Schreibe(std::int64_t zahl);
+    void SchreibeZahl(std::int64_t zahl);
     /// Fixed-point, as short as `stellen` decimals allow: "0.5", "12", never with an exponent.
     /// @param wert at most 1e15 in amount @param stellen 1 to 15
-    void Schreibe(double wert, int stellen);
+    void SchreibeZahl(double wert, int stellen);
     [[nodiscard]] std::uint64_t Geschrieben() const { return geschrieben_; }
     /// What is written from now on is compressed, up to `BeendeStrom`.
     void BeginneStrom();
@@ -54,8 +54,8 @@ class Vektorflaeche : public Zeichenflaeche {
     }
 
     // Whether a shape can be seen on the sheet. Pens reach a little further than their line.
-    [[nodiscard]] bool Sieht(const Rechteck& r) const;
-    [[nodiscard]] bool Sieht(Flaechenpunkt von, Flaechenpunkt nach) const;
+    [[nodiscard]] bool SiehtRechteck(const Rechteck& r) const;
+    [[nodiscard]] bool SiehtStrecke(Flaechenpunkt von, Flaechenpunkt nach) const;
     [[nodiscard]] bool SiehtText(Flaechenpunkt ort, std::string_view text) const;
     /// The rectangle round some corners.
     [[nodiscard]] static Rechteck Umschrieben(std::span<const Flaechenpunkt> ecken);

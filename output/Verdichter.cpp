@@ -20,7 +20,7 @@ Verdichter::Verdichter(std::function<void(std::string_view)> nimm)
     if (deflateInit(strom_.get(), Z_DEFAULT_COMPRESSION) != Z_OK) throw std::bad_alloc();
 }
 
-void Verdichter::Laufe(int art) {
+void Verdichter::VerdichteVorrat(int art) {
     std::array<unsigned char, std::size_t{1} << 14U> stueck{};
     do {
         strom_->next_out = stueck.data();
@@ -36,14 +36,14 @@ void Verdichter::SchreibeBytes(std::string_view bytes) {
         const std::string_view teil = bytes.substr(0, std::numeric_limits<uInt>::max());
         strom_->next_in = reinterpret_cast<const Bytef*>(teil.data());
         strom_->avail_in = static_cast<uInt>(teil.size());
-        Laufe(Z_NO_FLUSH);
+        VerdichteVorrat(Z_NO_FLUSH);
         bytes.remove_prefix(teil.size());
     }
 }
 
 void Verdichter::SichereDatei() {
     strom_->avail_in = 0;
-    Laufe(Z_FINISH);
+    VerdichteVorrat(Z_FINISH);
 }
 
 }  // namespace zrw

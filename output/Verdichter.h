@@ -24,7 +24,7 @@ class Verdichter final : public Dateischreiber {
     struct Ende {
         void operator()(z_stream_s* strom) const;
     };
-    void Laufe(int art);
+    void VerdichteVorrat(int art);
 
     std::function<void(std::string_view)> nimm_;
     std::unique_ptr<z_stream_s, Ende> strom_;

@@ -92,7 +92,7 @@ class Zeichenflaeche {
     virtual void Ellipse(const Rechteck& umschrieben) = 0;
     virtual void Vieleck(std::span<const Flaechenpunkt> ecken) = 0;
     /// Fills without an outline.
-    virtual void Fuelle(const Rechteck& r, Farbe farbe) = 0;
+    virtual void FuelleRechteck(const Rechteck& r, Farbe farbe) = 0;
 
     /// Text in code page 1252 with its top-left corner at `ort`, without background.
     virtual void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) = 0;

@@ -38,7 +38,7 @@ class MerkFlaeche final : public Zeichenflaeche {
         for (const Flaechenpunkt& p : ecken)
             zeilen.back() += Zahlen({p.x, p.y});
     }
-    void Fuelle(const Rechteck& r, Farbe farbe) override {
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override {
         zeilen.push_back("Fuelle " + Hex(farbe) + Zahlen({r.links, r.oben, r.rechts, r.unten}));
     }
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override {

@@ -57,7 +57,7 @@ class Rasterflaeche final : public Zeichenflaeche {
         Block(r, AktuellerPinsel().farbe.wert);
         if (!bild_.VonVorn()) rand();
     }
-    void Fuelle(const Rechteck& r, Farbe farbe) override {
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override {
         const Rechteck a = Ausschnitt();
         for (int y = std::max(r.oben, a.oben); y <= std::min(r.unten, a.unten); ++y) {
             for (int x = std::max(r.links, a.links); x <= std::min(r.rechts, a.rechts); ++x)
@@ -68,7 +68,7 @@ class Rasterflaeche final : public Zeichenflaeche {
         for (const char c : text) {
             Pixelmaske m(0, 0, 6, kSchrift);
             for (int i = 0; i < 6 * kSchrift; ++i) {
-                if ((static_cast<unsigned char>(c) * 37 + i * 11) % 5 < 2) m.Setze(i % 6, i / 6);
+                if ((static_cast<unsigned char>(c) * 37 + i * 11) % 5 < 2) m.SetzePixel(i % 6, i / 6);
             }
             bild_.Maske(m, ort.x, ort.y, farbe.wert);
             ort.x += 6;
@@ -92,7 +92,7 @@ class Rasterflaeche final : public Zeichenflaeche {
         Pixelmaske m(0, 0, r.rechts - r.links + 1, r.unten - r.oben + 1);
         for (int y = 0; y < m.hoehe; ++y) {
             for (int x = 0; x < m.weite; ++x)
-                m.Setze(x, y);
+                m.SetzePixel(x, y);
         }
         bild_.Maske(m, r.links, r.oben, farbe);
     }

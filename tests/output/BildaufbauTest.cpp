@@ -65,7 +65,7 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
             n.liste.ShowPicture(schnell.zeichner);
             ASSERT_TRUE(einfach.flaeche.Pixel() == schnell.flaeche.Pixel());
             // Any part of it drawn alone is that part.
-            schnell.flaeche.Fuelle({0, 0, kWeite, kHoehe}, kSchwarz);
+            schnell.flaeche.FuelleRechteck({0, 0, kWeite, kHoehe}, kSchwarz);
             for (const Rechteck& teil : {Rechteck{0, 0, 130, kHoehe}, Rechteck{131, 0, kWeite, 77},
                                          Rechteck{131, 78, 132, kHoehe}, Rechteck{133, 78, kWeite, kHoehe}}) {
                 schnell.flaeche.SetzeAusschnitt(teil);

@@ -60,7 +60,7 @@ std::string Tabelle(const std::string& datei, const std::string& name) {
 
 /// Glyphs with an outline in a file of so many characters.
 std::vector<std::size_t> Umrisse(const Zeichenmenge& zeichen) {
-    const std::string orte = Tabelle(Einbettschrift::Aus(Probe())->Datei(zeichen), "loca");
+    const std::string orte = Tabelle(Einbettschrift::AusQuelle(Probe())->Datei(zeichen), "loca");
     std::vector<std::size_t> da;
     for (std::size_t i = 0; i < 6; ++i) {
         if (Zahl(orte, 4 * i) != Zahl(orte, 4 * i + 4)) da.push_back(i);
@@ -76,7 +76,7 @@ TEST(Einbettschrift, NurWasGebrauchtWirdMitAllenTeilen) {
 }
 
 TEST(Einbettschrift, BreitenDesDokumentsSindDieDerSchrift) {
-    const auto schrift = Einbettschrift::Aus(Probe());
+    const auto schrift = Einbettschrift::AusQuelle(Probe());
     Speicherdateien dateien;
     Pdfflaeche flaeche(dateien.BeginneDatei("a"), {210, 297}, 96, {"T", nullptr, &*schrift});
     EXPECT_EQ(flaeche.Textbreite("A\xC4-\n"), 20) << "1.8 of 11 dots: 600, 700 and 500 of 1000 each";
@@ -88,21 +88,21 @@ TEST(Einbettschrift, BeschaedigteUndGesperrteNicht) {
         for (std::size_t laenge = 0; laenge < tabelle.size(); ++laenge) {
             Schriftquelle q = Probe();
             q.tabellen[name].resize(laenge);
-            const auto schrift = Einbettschrift::Aus(std::move(q));
+            const auto schrift = Einbettschrift::AusQuelle(std::move(q));
             EXPECT_EQ(schrift.has_value(), name == "OS/2") << name << " " << laenge;
         }
     }
     for (const int erlaubnis : {2, 0x100, 0x200}) {
         Schriftquelle q = Probe();
         q.tabellen["OS/2"] = Worte({4, 0, 0, 0, erlaubnis});
-        EXPECT_FALSE(Einbettschrift::Aus(std::move(q))) << erlaubnis;
+        EXPECT_FALSE(Einbettschrift::AusQuelle(std::move(q))) << erlaubnis;
     }
     // Parts that are cut off or do not exist are left out.
     Schriftquelle q = Probe();
     q.glyphen['B'] = 99;
     q.tabellen["glyf"].replace(24 + 12, 2, Worte({77}));
-    EXPECT_FALSE(Einbettschrift::Aus(std::move(q))->Datei(Zeichenmenge().set()).empty());
-    EXPECT_FALSE(Einbettschrift::Aus({}));
+    EXPECT_FALSE(Einbettschrift::AusQuelle(std::move(q))->Datei(Zeichenmenge().set()).empty());
+    EXPECT_FALSE(Einbettschrift::AusQuelle({}));
 }
 
 }  // namespace

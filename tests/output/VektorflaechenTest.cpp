@@ -22,7 +22,7 @@ std::string Svg(const Zeichnung& zeichne, double aufloesung = kBildaufloesung, s
     Svgflaeche flaeche(dateien.BeginneDatei("a"), {800, 600, aufloesung}, titel);
     zeichne(flaeche);
     EXPECT_TRUE(dateien.dateien.empty()) << "takes its place at the end";
-    flaeche.Beende();
+    flaeche.BeendeDatei();
     return dateien.dateien["a"];
 }
 
@@ -60,7 +60,7 @@ std::string Roh(const Zeichnung& zeichne, const Pdfangaben& angaben = {"T", null
     Speicherdateien dateien;
     Pdfflaeche flaeche(dateien.BeginneDatei("a"), {20.001 + 800 * kDot, 20.001 + 600 * kDot}, 100, angaben);
     zeichne(flaeche);
-    flaeche.Beende();
+    flaeche.BeendeDatei();
     return dateien.dateien["a"];
 }
 
@@ -166,7 +166,7 @@ TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
         f.Linie({-50, 100}, {50, 100});
         f.Ellipse({790, 590, 810, 610});
         f.Text({-f.Textbreite("WWW"), -5}, "WWW", kSchwarz);  // its last column may be on the sheet
-        f.Fuelle({-2000000000, -5, 2000000000, 10}, kSchwarz);
+        f.FuelleRechteck({-2000000000, -5, 2000000000, 10}, kSchwarz);
     };
     const Zeichnung aussen = [](Zeichenflaeche& f) {
         f.SetzeEbene(Ebene::Punkte);
@@ -178,7 +178,7 @@ TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
         f.Text({-60, 100}, "WWW", kSchwarz);
         f.Text({801, 100}, "WWW", kSchwarz);
         f.Text({2147483647, 2147483647}, "WWW", kSchwarz);
-        f.Fuelle({900, 0, 2000000000, 10}, kSchwarz);
+        f.FuelleRechteck({900, 0, 2000000000, 10}, kSchwarz);
     };
     Enthaelt(Svg(innen), {"M-50 100L50 100", "<ellipse cx=\"800\" cy=\"600\" rx=\"10\" ry=\"10\"", ">WWW<",
                           "<rect x=\"-0.5\" y=\"-0.5\" width=\"800\" height=\"11\" fill"});

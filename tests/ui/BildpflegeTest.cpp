@@ -107,7 +107,7 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
                 const Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
                 verschoben += pflege.Verschiebbar(n.liste.Vorlage()) ? 1 : 0;
                 n.liste.SetzeVersatz(n.liste.Versatz(), weg);
-                pflege.Verschiebe(n.liste.Vorlage(), weg);
+                pflege.VerschiebeBild(n.liste.Vorlage(), weg);
             } else if (wahl < 8 || !stapel.canUndo()) {
                 auto aenderung = NeueAenderung(n);
                 Netzaenderung* a = aenderung.release();

@@ -22,7 +22,7 @@ class Pixel : public testing::Test {
     bool Gleich(Zeichne zeichne) {
         maler_.SetzeSchnell(false);
         for (Bildflaeche* f : {&maler_, &schnell_}) {
-            f->Fuelle({0, 0, kWeite, kHoehe}, kWeiss);
+            f->FuelleRechteck({0, 0, kWeite, kHoehe}, kWeiss);
             zeichne(*f);
         }
         return maler_.Bild() == schnell_.Bild();
@@ -65,7 +65,7 @@ TEST_F(Pixel, FormenWieDerMalerAuchAmRand) {
         const Stift stift{Farbwahl(), 1, Strichart::Voll};
         const Pinsel pinsel{Farbwahl(), i % 3 == 0};
         const auto zeichne = [&](Bildflaeche& f, int d) {
-            f.Fuelle({0, 0, 9999, 9999}, kWeiss);
+            f.FuelleRechteck({0, 0, 9999, 9999}, kWeiss);
             f.SetzeStift(stift);
             f.SetzePinsel(pinsel);
             const Flaechenpunkt m{o.x + d, o.y + d};

@@ -14,7 +14,7 @@ class Bildflaeche final : public Pixelflaeche {
     /// The picture as it stands.
     [[nodiscard]] const QImage& Bild() const { return bild_; }
     /// Moves what is drawn; the border that it comes from keeps its old pixels.
-    void Verschiebe(int dx, int dy) { Pixel().Verschiebe(dx, dy); }
+    void VerschiebeBild(int dx, int dy) { Pixel().VerschiebeBild(dx, dy); }
     /// A new white picture.
     void SetzeGroesse(int weite, int hoehe);
 

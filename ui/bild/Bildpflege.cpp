@@ -34,7 +34,7 @@ bool Bildpflege::Verschiebbar(const Bildvorlage& v) const {
            zeichner_.NurPixel();
 }
 
-void Bildpflege::Verschiebe(const Bildvorlage& v, Bildpunkt weg) {
+void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
     const Rechteck bild = flaeche_.Sichtbar();
     if (!Verschiebbar(v) || std::llabs(weg.x) >= bild.rechts / 2 || std::llabs(weg.y) >= bild.unten / 2 ||
         !BewegtSichGleich(v.netz, gezeichnet_, v.ansicht, weg))
@@ -42,7 +42,7 @@ void Bildpflege::Verschiebe(const Bildvorlage& v, Bildpunkt weg) {
     gezeichnet_ = v.ansicht;
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
-    flaeche_.Verschiebe(dx, dy);
+    flaeche_.VerschiebeBild(dx, dy);
     Rechteck rest = bild;
     if (dy != 0) {
         ZeichneAusschnitt(v, {bild.links, dy > 0 ? bild.oben : bild.unten + dy + 1, bild.rechts,

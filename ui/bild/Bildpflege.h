@@ -20,12 +20,12 @@ class Bildpflege {
     /// The plain way: the whole picture.
     void ZeichneNeu(const Bildvorlage& v);
     /// Something was drawn over the picture that is not in the plan.
-    void Beschmutze() { gueltig_ = false; }
+    void VerwirfBild() { gueltig_ = false; }
 
     /// Whether panning can move the picture: nothing in it stands still or follows rules of its own.
     [[nodiscard]] bool Verschiebbar(const Bildvorlage& v) const;
     /// The view has new pan offsets. @param weg how far the network moves by that [px]
-    void Verschiebe(const Bildvorlage& v, Bildpunkt weg);
+    void VerschiebeBild(const Bildvorlage& v, Bildpunkt weg);
 
     // A change of some figures, or of what is left out: before it, and after it. The picture is then as if
     // drawn anew.

@@ -112,7 +112,7 @@ void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
     maler_->drawPolygon(vieleck);
 }
 
-void Malerflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
+void Malerflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
     // Cut to the picture first: a size from a file may be anything.
     maler_->fillRect(AlsQRect(Geschnitten(r, Sichtbar())), AlsQColor(farbe));
 }

@@ -27,7 +27,7 @@ class Malerflaeche : public Zeichenflaeche {
     void ZeichneRechteck(const Rechteck& r) override;
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
-    void Fuelle(const Rechteck& r, Farbe farbe) override;
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override;
     [[nodiscard]] std::int32_t Texthoehe() const override { return texthoehe_; }

@@ -30,7 +30,7 @@ Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
     Pixelmaske maske(grenzen.x() - null.x(), grenzen.y() - null.y(), grenzen.width(), grenzen.height());
     for (int y = 0; y < grenzen.height(); ++y) {
         for (int x = 0; x < grenzen.width(); ++x) {
-            if (bild.pixel(grenzen.topLeft() + QPoint(x, y)) == farbe) maske.Setze(x, y);
+            if (bild.pixel(grenzen.topLeft() + QPoint(x, y)) == farbe) maske.SetzePixel(x, y);
         }
     }
     return maske;
@@ -43,7 +43,7 @@ class Textzeile {
     static constexpr std::size_t kMeisteZeichen = 24;
 
     /// @return false: it does not fit in here
-    [[nodiscard]] bool Nimm(const Pixelglyphe& g) {
+    [[nodiscard]] bool NimmGlyphe(const Pixelglyphe& g) {
         const Pixelmaske& m = g.maske;
         const int links = stelle_ + m.links;
         stelle_ += g.vorschub;
@@ -56,12 +56,12 @@ class Textzeile {
         unten_ = std::max(unten_, m.oben + m.hoehe - 1);
         return true;
     }
-    [[nodiscard]] bool Passt() const { return rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe; }
+    [[nodiscard]] bool PasstInMaske() const { return rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe; }
     [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
     [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
         return {ort.x + links_, ort.y + oben_, ort.x + rechts_, ort.y + unten_};
     }
-    void Setze(Pixelbild& bild, Flaechenpunkt ort, std::uint32_t farbe) const {
+    void SetzeInBild(Pixelbild& bild, Flaechenpunkt ort, std::uint32_t farbe) const {
         constexpr std::size_t kMeisteWorte = std::size_t{kWeite / 64} * kHoehe;
         const std::size_t worte = static_cast<std::size_t>(rechts_ - links_) / 64 + 1;
         std::array<std::uint64_t, kMeisteWorte> bits;
@@ -139,9 +139,9 @@ void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
     schrifthoehe_ = Schrifthoehe();
 }
 
-void Pixelflaeche::Fuelle(const Rechteck& r, Farbe farbe) {
-    if (!schnell_) return Malerflaeche::Fuelle(r, farbe);
-    pixel_.Fuelle(r, Pixelfarbe(farbe));
+void Pixelflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
+    if (!schnell_) return Malerflaeche::FuelleRechteck(r, farbe);
+    pixel_.FuelleRechteck(r, Pixelfarbe(farbe));
 }
 
 void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
@@ -193,7 +193,7 @@ const Pixelmaske* Pixelflaeche::BreiterStrich(Flaechenpunkt von, Flaechenpunkt n
     return &*maske;
 }
 
-Pixelflaeche::Stempel Pixelflaeche::Praege(Form form, std::span<const Flaechenpunkt> ecken) const {
+Pixelflaeche::Stempel Pixelflaeche::PraegeStempel(Form form, std::span<const Flaechenpunkt> ecken) const {
     int links = 0;
     int oben = 0;
     int rechts = 0;
@@ -236,7 +236,7 @@ Pixelflaeche::Stempel Pixelflaeche::Praege(Form form, std::span<const Flaechenpu
     return stempel;
 }
 
-const Pixelflaeche::Stempel& Pixelflaeche::Suche(Form form, std::span<const Flaechenpunkt> ecken) {
+const Pixelflaeche::Stempel& Pixelflaeche::SucheStempel(Form form, std::span<const Flaechenpunkt> ecken) {
     const bool leer = AktuellerPinsel().leer;
     for (const Stempel& s : stempel_) {
         if (s.form != form || s.leer != leer || s.ecken.size() != ecken.size()) continue;
@@ -246,11 +246,11 @@ const Pixelflaeche::Stempel& Pixelflaeche::Suche(Form form, std::span<const Flae
         if (gleich) return s;
     }
     if (stempel_.size() == kMeisteStempel) stempel_.clear();
-    return stempel_.emplace_back(Praege(form, ecken));
+    return stempel_.emplace_back(PraegeStempel(form, ecken));
 }
 
 /// @return false: too large, or not of width 1
-bool Pixelflaeche::Stempele(Form form, std::span<const Flaechenpunkt> ecken) {
+bool Pixelflaeche::StempeleForm(Form form, std::span<const Flaechenpunkt> ecken) {
     if (!schnell_ || ecken.empty() || AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
         return false;
     for (const Flaechenpunkt& p : ecken) {
@@ -258,7 +258,7 @@ bool Pixelflaeche::Stempele(Form form, std::span<const Flaechenpunkt> ecken) {
             std::abs(std::int64_t{p.y} - ecken[0].y) > kGroessterStempel)
             return false;
     }
-    const Stempel& s = Suche(form, ecken);
+    const Stempel& s = SucheStempel(form, ecken);
     const auto fuelle = [&] {
         if (!s.leer) pixel_.Maske(s.fuellung, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerPinsel().farbe));
     };
@@ -271,16 +271,16 @@ bool Pixelflaeche::Stempele(Form form, std::span<const Flaechenpunkt> ecken) {
 
 void Pixelflaeche::ZeichneRechteck(const Rechteck& r) {
     const std::array<Flaechenpunkt, 2> ecken{{{r.links, r.oben}, {r.rechts, r.unten}}};
-    if (!Stempele(Form::Rechteck, ecken)) Malerflaeche::ZeichneRechteck(r);
+    if (!StempeleForm(Form::Rechteck, ecken)) Malerflaeche::ZeichneRechteck(r);
 }
 
 void Pixelflaeche::Ellipse(const Rechteck& u) {
     const std::array<Flaechenpunkt, 2> ecken{{{u.links, u.oben}, {u.rechts, u.unten}}};
-    if (!Stempele(Form::Ellipse, ecken)) Malerflaeche::Ellipse(u);
+    if (!StempeleForm(Form::Ellipse, ecken)) Malerflaeche::Ellipse(u);
 }
 
 void Pixelflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
-    if (!Stempele(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
+    if (!StempeleForm(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
 }
 
 const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
@@ -305,12 +305,12 @@ void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
         return Malerflaeche::Text(ort, text, farbe);
     Textzeile zeile;
     for (const char c : text) {
-        if (!zeile.Nimm(Zeichen(c))) return LangerText(ort, text, farbe);
+        if (!zeile.NimmGlyphe(Zeichen(c))) return LangerText(ort, text, farbe);
     }
     if (zeile.Leer()) return;
-    if (!zeile.Passt()) return LangerText(ort, text, farbe);
+    if (!zeile.PasstInMaske()) return LangerText(ort, text, farbe);
     if (pixel_.Verdeckt(zeile.Umfang(ort))) return;
-    zeile.Setze(pixel_, ort, Pixelfarbe(farbe));
+    zeile.SetzeInBild(pixel_, ort, Pixelfarbe(farbe));
 }
 
 void Pixelflaeche::LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {

@@ -32,7 +32,7 @@ class Pixelflaeche : public Malerflaeche {
     void BeendeVonVorn() override { pixel_.BeendeVonVorn(); }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return pixel_.Verdeckt(r); }
 
-    void Fuelle(const Rechteck& r, Farbe farbe) override;
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
     void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override;
     void ZeichneRechteck(const Rechteck& r) override;
@@ -59,9 +59,9 @@ class Pixelflaeche : public Malerflaeche {
 
     void MaleLinie(Flaechenpunkt von, Flaechenpunkt nach);
     [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
-    bool Stempele(Form form, std::span<const Flaechenpunkt> ecken);
-    [[nodiscard]] const Stempel& Suche(Form form, std::span<const Flaechenpunkt> ecken);
-    [[nodiscard]] Stempel Praege(Form form, std::span<const Flaechenpunkt> ecken) const;
+    bool StempeleForm(Form form, std::span<const Flaechenpunkt> ecken);
+    [[nodiscard]] const Stempel& SucheStempel(Form form, std::span<const Flaechenpunkt> ecken);
+    [[nodiscard]] Stempel PraegeStempel(Form form, std::span<const Flaechenpunkt> ecken) const;
     void LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
     [[nodiscard]] const Pixelglyphe& Zeichen(char c) const {
         const auto& glyphe = glyphen_[static_cast<unsigned char>(c)];

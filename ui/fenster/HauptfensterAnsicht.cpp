@@ -288,7 +288,7 @@ void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
     BrichAb();
     Ansicht& ansicht = *plan_.Daten();
     ansicht.SetzeVersatz(ansicht.Versatz(), versatz);
-    pflege_.Verschiebe(Vorlage(), versatz);
+    pflege_.VerschiebeBild(Vorlage(), versatz);
     ZeigeBild();
     ZeigeStand();
 }
@@ -334,7 +334,7 @@ void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
 bool TZrwMainDlg::FolgeZug() {
     const auto weg = ansicht_.Folge(*plan_.Daten());
     if (!weg) return false;
-    pflege_.Verschiebe(Vorlage(), *weg);
+    pflege_.VerschiebeBild(Vorlage(), *weg);
     ZeigeBild();
     return true;
 }

@@ -105,7 +105,7 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
         for (const std::int32_t r : {50, 25})
             flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
     }
-    pflege_.Beschmutze();
+    pflege_.VerwirfBild();
     bild_->update();
     ZeigeStatus(QStringLiteral("Punkt ") + gefunden +
                 (!punkt->Item->Visible
