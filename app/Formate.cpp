@@ -120,8 +120,8 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
     const std::vector<Blatt> blaetter = WaehleBlaetter(a, plan, massstab, seite, datei);
     for (std::size_t i = 0; i < blaetter.size(); ++i) {
         if (i > 0) flaeche.NeueSeite();
-        Drucke(vorlage, mittel, Geraetegroessen(groessen, Geraetefaktor(seite)), flaeche,
-               {massstab, text, seite, blaetter[i].ecke});
+        DruckePlan(vorlage, mittel, Geraetegroessen(groessen, Geraetefaktor(seite)), flaeche,
+                   {massstab, text, seite, blaetter[i].ecke});
     }
     flaeche.BeendeDatei();
 }
@@ -129,7 +129,7 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
 void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
     const Systemuhr uhr;
     auftrag.faktor = Druckfaktor(a.massstab, a.dpi);
-    Exportiere(a.liste.Vorlage(), {a.zustand, a.einstellungen, a.netz, uhr}, a.dateien, auftrag);
+    ExportierePlan(a.liste.Vorlage(), {a.zustand, a.einstellungen, a.netz, uhr}, a.dateien, auftrag);
 }
 
 void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {

@@ -49,7 +49,7 @@ int Arbeite(Tabelle& tabelle) {
             zrw::Exportauftrag auftrag{zrw::Druckfaktor(25000, 600), {}, {}};
             if (plot) auftrag.plot = plotname;
             if (dxf) auftrag.dxf = dxfname;
-            zrw::Exportiere(netz.liste->Vorlage(), {zustand, e, netz.netz, uhr}, system, auftrag);
+            zrw::ExportierePlan(netz.liste->Vorlage(), {zustand, e, netz.netz, uhr}, system, auftrag);
             return 0;
         });
     };

@@ -77,7 +77,7 @@ void GuterMaler::Kantenstriche(const Kante& kante) {
     const Kantenbild striche(kante.KAttr, kante.LAttr, kante.Position(), kante.Ende(), einstellungen_);
     for (const Zug& zug : striche.Zuege()) {
         for (const Strich& strich : Striche(zug.form)) {
-            const auto teil = Abschneiden(zug.punkte[strich.von], zug.punkte[strich.nach], sichtbar);
+            const auto teil = SchneideLinieAb(zug.punkte[strich.von], zug.punkte[strich.nach], sichtbar);
             if (!teil) continue;
             const std::uint64_t stift = farbe.wert | std::uint64_t{strich.gestrichelt} << 32U;
             if (stift != stift_) {

@@ -66,8 +66,8 @@ class Groesse {
     }
     void Exportiere() {
         zustand_.flaeche = nullptr;
-        zrw::Exportiere(netz_.liste->Vorlage(), {zustand_, e_, netz_.netz, uhr_}, dateien_,
-                        {zrw::Druckfaktor(25000, 600), plot_, dxf_});
+        zrw::ExportierePlan(netz_.liste->Vorlage(), {zustand_, e_, netz_.netz, uhr_}, dateien_,
+                            {zrw::Druckfaktor(25000, 600), plot_, dxf_});
     }
 
   private:

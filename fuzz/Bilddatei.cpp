@@ -118,7 +118,7 @@ void PruefeExport(zrw::Liste& liste, const zrw::Zeichenmittel& mittel) {
     liste.Store(vorher, {});
     zrw::Speicherdateien dateien;
     const double faktor = zrw::Druckfaktor(25000, 600);
-    zrw::Exportiere(liste.Vorlage(), mittel, dateien, {faktor, zrw::kPlotname, zrw::kDxfname});
+    zrw::ExportierePlan(liste.Vorlage(), mittel, dateien, {faktor, zrw::kPlotname, zrw::kDxfname});
     const std::size_t zeilen =
         PruefeZeilen(dateien.dateien[zrw::kDxfname], [](std::string_view zeile, std::size_t nummer) {
             zrw::fuzz::Verlange(nummer % 2 == 1 || (zeile.size() == 3 && zeile[2] >= '0' && zeile[2] <= '9'),
@@ -141,8 +141,8 @@ void PruefeBlaetter(zrw::Liste& liste, const zrw::Zeichenmittel& mittel, zrw::Ei
     const zrw::Papier papier = zrw::kPapierformate[0].hochkant;
     zrw::Pdfflaeche pdf(dateien.BeginneDatei("a.pdf"), papier, 300, {});
     const zrw::Druckseite seite = zrw::Bedruckbar(papier, 300);
-    zrw::Drucke(liste.Vorlage(), mittel, zrw::Geraetegroessen(einstellungen, zrw::Geraetefaktor(seite)), pdf,
-                {25000, "25000", seite});
+    zrw::DruckePlan(liste.Vorlage(), mittel, zrw::Geraetegroessen(einstellungen, zrw::Geraetefaktor(seite)),
+                    pdf, {25000, "25000", seite});
     pdf.BeendeDatei();
     zrw::fuzz::Verlange(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
     try {

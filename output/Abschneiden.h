@@ -47,9 +47,8 @@ inline constexpr std::int64_t kGrosszuegig = 8192;
 
 /// The piece of a line that may touch the visible rectangle. A line with both ends within a generous distance
 /// comes back as it is: the surface then sets the same dots whatever part of it is visible.
-[[nodiscard]] inline std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> Abschneiden(Bildpunkt a,
-                                                                                        Bildpunkt b,
-                                                                                        const Rechteck& s) {
+[[nodiscard]] inline std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> SchneideLinieAb(
+    Bildpunkt a, Bildpunkt b, const Rechteck& s) {
     constexpr std::int64_t kPinselrand = 4;  // wide pens reach a little further than their line
     if (!InReichweite(a, b, kPinselrand, s)) return std::nullopt;
     if (InReichweite(a, kGrosszuegig, s) && InReichweite(b, kGrosszuegig, s))

@@ -17,7 +17,7 @@ constexpr std::size_t kVoraus = 12;
 constexpr std::size_t kWenige = 16384;
 
 template <class Knoten>
-void Hole(const Knoten* knoten) {
+void HoleKnotenVor(const Knoten* knoten) {
     constexpr std::size_t kSpeicherzeile = 64;
     const auto* anfang = reinterpret_cast<const char*>(knoten);
     HoleVor(anfang);
@@ -30,7 +30,7 @@ void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) 
     const std::size_t anzahl = knoten.size();
     const auto stelle = [&](std::size_t i) { return aeltesteZuerst ? anzahl - 1 - i : i; };
     for (std::size_t i = 0; i < anzahl; ++i) {
-        if (i + kVoraus < anzahl) Hole(knoten[stelle(i + kVoraus)]);
+        if (i + kVoraus < anzahl) HoleKnotenVor(knoten[stelle(i + kVoraus)]);
         tun(stelle(i));
     }
 }
@@ -59,7 +59,7 @@ Bildbereich Bildaufbau::Bereich(std::int64_t rand) const {
 }
 
 /// Whether a shape reaching from one position to another touches the part that is drawn.
-bool Bildaufbau::Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r) {
+bool Bildaufbau::BeruehrtBereich(Bildpunkt a, Bildpunkt b, const Bildbereich& r) {
     return std::max(a.x, b.x) >= r.links && std::min(a.x, b.x) <= r.rechts && std::max(a.y, b.y) >= r.oben &&
            std::min(a.y, b.y) <= r.unten;
 }
@@ -84,7 +84,7 @@ void Bildaufbau::LasseFerneTexteWeg() {
 }
 
 /// What may have to be drawn. Only the points are looked at: how dense they lie decides how to draw.
-void Bildaufbau::Sammle() {
+void Bildaufbau::SammleFiguren() {
     const Darstellung& d = v_.darstellung;
     if (d.ShowBeob) v_.netz.SammleKanten(v_.ansicht, linien_, kanten_);
     v_.netz.SammlePunkte(v_.ansicht, symbole_, punkte_);
@@ -101,7 +101,7 @@ void Bildaufbau::Sammle() {
             orte_.NimmOrt(p.PNr, ort);
             gezeigt_.NimmAntwort(p.PNr, dargestellt);
         }
-        if (!dargestellt || !v_.Gezeichnet(p) || !Beruehrt(ort, ort, symbole_)) return;
+        if (!dargestellt || !v_.Gezeichnet(p) || !BeruehrtBereich(ort, ort, symbole_)) return;
         punkte_[anzahl++] = &p;
         punktorte_.push_back(ort);
     });
@@ -146,7 +146,7 @@ void Bildaufbau::ZeichneKante(const PunktKante& k) {
     if (!v_.Gezeichnet(k) || !gezeigt_(k)) return;
     const Bildpunkt anfang = orte_.Anfang(k);
     const Bildpunkt ende = orte_.Ende(k);
-    if (Beruehrt(anfang, ende, linien_)) zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
+    if (BeruehrtBereich(anfang, ende, linien_)) zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
 }
 
 /// Asks for the memory of both points of a line ahead of time.
@@ -159,7 +159,7 @@ void Bildaufbau::HoleOrte(std::uint32_t folge) const {
 void Bildaufbau::ZeichneKanten() {
     for (std::size_t i = 0; i < kanten_.size(); ++i) {
         if (i + kVoraus < kanten_.size()) {
-            Hole(&v_.netz.KanteNach(kanten_[i + kVoraus]));
+            HoleKnotenVor(&v_.netz.KanteNach(kanten_[i + kVoraus]));
             HoleOrte(kanten_[i + kVoraus]);
         }
         ZeichneKante(v_.netz.KanteNach(kanten_[i]));
@@ -186,7 +186,7 @@ void Bildaufbau::ZeichneKantenVonVorn() {
                 a && e ? Verdeckt(*a, *e, r_.kante) : !v_.netz.BeruehrtVielleicht(enden, dort);
             if (unsichtbar) continue;
             naechste[anzahl] = &v_.netz.KanteNach(kanten_[i]);
-            Hole(naechste[anzahl++]);
+            HoleKnotenVor(naechste[anzahl++]);
         }
         i = bis;
         for (std::size_t n = 0; n < anzahl; ++n)
@@ -200,7 +200,7 @@ void Bildaufbau::ZeichneTexte(bool vonVorn) {
         if (!v_.Gezeichnet(t) || !gezeigt_(t)) return;
         const Bildpunkt ort = orte_.Text(t);
         const Bildpunkt ecke = t.Item->Textort(ort);
-        if (Beruehrt(ecke, ecke, nummern_)) zeichner_.ZeichneText(*t.Item, ort, Gang::Zeigen);
+        if (BeruehrtBereich(ecke, ecke, nummern_)) zeichner_.ZeichneText(*t.Item, ort, Gang::Zeigen);
     });
 }
 
@@ -209,8 +209,8 @@ bool Bildaufbau::Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const {
     return flaeche_.Verdeckt(Umgebung(a, b, r));
 }
 
-void Bildaufbau::Zeichne() {
-    Sammle();
+void Bildaufbau::ZeichneNetz() {
+    SammleFiguren();
     if (zeichner_.NurPixel() && Dicht() && flaeche_.BeginneVonVorn()) {
         ZeichneTexte(true);
         ZeichnePunkte(true);

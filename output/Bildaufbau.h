@@ -29,10 +29,10 @@ class Bildaufbau {
     Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
                const Reichweiten& reichweiten, Ortsspeicher& speicher);
 
-    void Zeichne();
+    void ZeichneNetz();
 
   private:
-    void Sammle();
+    void SammleFiguren();
     void LasseFerneKantenWeg();
     void LasseFerneTexteWeg();
     [[nodiscard]] bool Dicht() const;
@@ -43,7 +43,7 @@ class Bildaufbau {
     void ZeichnePunkte(bool vonVorn);
     void ZeichneTexte(bool vonVorn);
     [[nodiscard]] bool Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const;
-    [[nodiscard]] static bool Beruehrt(Bildpunkt a, Bildpunkt b, const Bildbereich& r);
+    [[nodiscard]] static bool BeruehrtBereich(Bildpunkt a, Bildpunkt b, const Bildbereich& r);
     [[nodiscard]] Bildbereich Bereich(std::int64_t rand) const;
 
     const Bildvorlage& v_;

@@ -87,7 +87,7 @@ class Belegung final : public Messflaeche {
         for (int s = Unten(ax); s <= letzte && !Voll(); ++s) {
             const double links = s > ax ? ay + (s - ax) * steigung : ay;
             const double rechts = s + 1 < bx ? ay + (s + 1 - ax) * steigung : by;
-            Belege(Unten(std::min(links, rechts)), Unten(std::max(links, rechts)), s);
+            BelegeSpalte(Unten(std::min(links, rechts)), Unten(std::max(links, rechts)), s);
         }
     }
 
@@ -95,7 +95,7 @@ class Belegung final : public Messflaeche {
     void Kasten(const Rechteck& r) override {
         const int letzte = Unten(Spalte(r.rechts));
         for (int s = Unten(Spalte(r.links)); s <= letzte && !Voll(); ++s)
-            Belege(Unten(Zeile(r.oben)), Unten(Zeile(r.unten)), s);
+            BelegeSpalte(Unten(Zeile(r.oben)), Unten(Zeile(r.unten)), s);
     }
 
   private:
@@ -110,7 +110,7 @@ class Belegung final : public Messflaeche {
     [[nodiscard]] static int Teil(std::uint64_t s) {
         return static_cast<int>(static_cast<std::int64_t>(s) - kVersatz);
     }
-    void Belege(int von, int bis, int spalte) {
+    void BelegeSpalte(int von, int bis, int spalte) {
         for (int z = von; z <= bis && !Voll(); ++z) {
             const std::uint64_t feld = Schluessel(z) << 32U | Schluessel(spalte);
             if (feld == letztes_) continue;
@@ -126,7 +126,7 @@ class Belegung final : public Messflaeche {
 };
 
 /// Whether the plan shows the point, at a place that there is.
-bool Zaehlt(const PunktKnoten& p, const Bildvorlage& v) {
+bool ZaehltPunkt(const PunktKnoten& p, const Bildvorlage& v) {
     return std::isfinite(p.XWPu) && std::isfinite(p.YWPu) && v.Gezeichnet(p) &&
            v.darstellung.Dargestellt(*p.Item);
 }
@@ -134,7 +134,7 @@ bool Zaehlt(const PunktKnoten& p, const Bildvorlage& v) {
 /// A place within the plan that positions are measured from: the digits of far ones end somewhere.
 std::optional<Welt> Bezug(const Bildvorlage& v) {
     for (const PunktKnoten* p = v.netz.PunktKnoten; p != nullptr; p = p->Next) {
-        if (Zaehlt(*p, v)) return Welt{p->XWPu, p->YWPu};
+        if (ZaehltPunkt(*p, v)) return Welt{p->XWPu, p->YWPu};
     }
     return std::nullopt;
 }
@@ -168,7 +168,7 @@ class Messung {
     [[nodiscard]] double Hoehe() const { return hoehe_; }
     [[nodiscard]] const Zeichenflaeche& Geraet() const { return plan_.geraet; }
 
-    void Zeichne(Messflaeche& ziel) const {
+    void ZeichnePlan(Messflaeche& ziel) const {
         const Darstellung& d = vorlage_.darstellung;
         Zeichenzustand zustand = Geraetezustand(plan_.mittel.zustand, ziel, geraetefaktor_);
         Figurenzeichner zeichner(zustand, groessen_, plan_.mittel.netz, plan_.mittel.uhr);
@@ -178,14 +178,14 @@ class Messung {
         zeichner.ZeichnePunktRes(vorlage_);
     }
     /// None where nothing is drawn. @throws Fehler where points lie farther away than can be measured
-    [[nodiscard]] std::optional<Umfang> Miss() const {
+    [[nodiscard]] std::optional<Umfang> MissUmfang() const {
         constexpr std::int64_t kFern = Messflaeche::kReichweite;
         for (const PunktKnoten* p = vorlage_.netz.PunktKnoten; p != nullptr; p = p->Next) {
             const Bildpunkt ort = BildortVon(*p, ansicht_);
-            if (Zaehlt(*p, vorlage_) && !InReichweite(ort, 0, {-kFern, -kFern, kFern, kFern})) ZuViele();
+            if (ZaehltPunkt(*p, vorlage_) && !InReichweite(ort, 0, {-kFern, -kFern, kFern, kFern})) ZuViele();
         }
         Umfangmesser messer(plan_.geraet);
-        Zeichne(messer);
+        ZeichnePlan(messer);
         const Rechteck r = messer.Umfang();
         if (Leer(r)) return std::nullopt;
         return Umfang{static_cast<double>(r.links), static_cast<double>(r.oben),
@@ -201,7 +201,7 @@ class Messung {
     [[nodiscard]] std::optional<std::vector<Blatt>> Blaetter(double x0, double y0,
                                                              std::size_t hoechstens) const {
         Belegung belegung(plan_.geraet, {x0, y0, weite_, hoehe_}, hoechstens);
-        Zeichne(belegung);
+        ZeichnePlan(belegung);
         if (belegung.Voll()) return std::nullopt;
         std::vector<Blatt> blaetter;
         for (const Feld& f : belegung.Felder())
@@ -263,7 +263,7 @@ Probe BesteProbe(const std::vector<Feld>& teile, int k) {
 Probe SucheUrsprung(const Messung& m, const Umfang& umfang, int k) {
     const auto felder = static_cast<std::size_t>(k) * static_cast<std::size_t>(k) * kMeisteBlaetter;
     Belegung teile(m.Geraet(), {umfang.links, umfang.oben, m.Weite() / k, m.Hoehe() / k}, felder);
-    m.Zeichne(teile);
+    m.ZeichnePlan(teile);
     if (teile.Voll()) ZuViele();
     Probe probe = BesteProbe(teile.Felder(), k);
     if (probe.blaetter.size() > kMeisteBlaetter) ZuViele();
@@ -282,7 +282,7 @@ std::vector<Blatt> Blattschnitt(const Druckplan& plan, double massstab, const Dr
     const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return {};
     const Messung m(plan, massstab, seite, *bezug);
-    if (!m.Miss()) return {};
+    if (!m.MissUmfang()) return {};
     const double dot = Druckfaktor(massstab, seite.aufloesung);
     const double x0 = (ursprung.rechts - bezug->rechts) / dot;
     const double y0 = (bezug->hoch - ursprung.hoch) / dot;
@@ -297,7 +297,7 @@ std::vector<Blatt> Blattaufteilung(const Druckplan& plan, double massstab, const
     const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return {};
     const Messung m(plan, massstab, seite, *bezug);
-    const auto umfang = m.Miss();
+    const auto umfang = m.MissUmfang();
     if (!umfang) return {};
     const Umfang& u = *umfang;
     if (m.PasstAufEines(u)) {
@@ -326,11 +326,11 @@ std::optional<Blatt> ErstesBlatt(const Druckplan& plan, double massstab, const D
     const auto bezug = Bezug(plan.vorlage);
     if (!bezug) return std::nullopt;
     const Messung m(plan, massstab, seite, *bezug);
-    const auto umfang = m.Miss();
+    const auto umfang = m.MissUmfang();
     if (!umfang) return std::nullopt;
     const double unten = std::min(umfang->oben + m.Hoehe(), static_cast<double>(Messflaeche::kReichweite));
     Bandmesser band(plan.geraet, static_cast<std::int32_t>(unten));
-    m.Zeichne(band);
+    m.ZeichnePlan(band);
     return Blatt{0, 0, m.Weltort(band.Links(), umfang->oben)};
 }
 
@@ -339,7 +339,7 @@ std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite&
     if (!bezug) return std::nullopt;
     Weltkasten orte;
     for (const PunktKnoten* p = plan.vorlage.netz.PunktKnoten; p != nullptr; p = p->Next) {
-        if (Zaehlt(*p, plan.vorlage)) orte.NimmOrt(p->XWPu, p->YWPu);
+        if (ZaehltPunkt(*p, plan.vorlage)) orte.NimmOrt(p->XWPu, p->YWPu);
     }
     // The points alone need this one; whatever is drawn round them needs a little more.
     const double dot = Druckfaktor(1, seite.aufloesung);
@@ -355,7 +355,7 @@ std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite&
             const double massstab = ziffer * zehner;
             if (massstab < mindestens || !LiesMassstab(SchreibeReal(massstab))) continue;
             const Messung m(plan, massstab, seite, *bezug);
-            if (const auto u = m.Miss(); u && m.PasstAufEines(*u)) return massstab;
+            if (const auto u = m.MissUmfang(); u && m.PasstAufEines(*u)) return massstab;
         }
     }
     return std::nullopt;

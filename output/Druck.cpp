@@ -34,8 +34,8 @@ static Legende LegendeAufBlatt(const Legende& legende, const Druckauftrag& auftr
     return l;
 }
 
-void Drucke(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellungen& groessen,
-            Zeichenflaeche& drucker, const Druckauftrag& auftrag) {
+void DruckePlan(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellungen& groessen,
+                Zeichenflaeche& drucker, const Druckauftrag& auftrag) {
     const double geraetefaktor = Geraetefaktor(auftrag.seite);
     Ansicht ansicht =
         v.ansicht.FuerGeraet(Druckfaktor(auftrag.massstab, auftrag.seite.aufloesung), auftrag.ecke);

@@ -51,8 +51,8 @@ struct Druckauftrag {
 
 /// Draws the network with its overlays onto a sheet. @param groessen from `Geraetegroessen`, in place of the
 /// settings of `mittel`
-void Drucke(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellungen& groessen,
-            Zeichenflaeche& drucker, const Druckauftrag& auftrag);
+void DruckePlan(const Bildvorlage& v, const Zeichenmittel& mittel, const Einstellungen& groessen,
+                Zeichenflaeche& drucker, const Druckauftrag& auftrag);
 
 /// The sheet in the picture, from its top-left corner [px].
 [[nodiscard]] Bildpunkt Ausgabebereich(const Ansicht& ansicht, double massstab, const Druckseite& seite);

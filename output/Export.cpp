@@ -20,8 +20,8 @@ std::optional<double> LiesMassstab(std::string_view text) {
     return wert;
 }
 
-void Exportiere(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& dateien,
-                const Exportauftrag& auftrag) {
+void ExportierePlan(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& dateien,
+                    const Exportauftrag& auftrag) {
     const Ansicht ansicht = v.ansicht.FuerGeraet(auftrag.faktor);
     Zeichenzustand zustand = mittel.zustand;
     // Nothing of this drawing stays on the screen, so it does not go there at all.

@@ -36,7 +36,7 @@ struct Exportauftrag {
 /// Writes the files of the order; each replaces the one of its name as a whole, and only when all are
 /// written.
 /// @throws Fehler where a file cannot be written
-void Exportiere(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& dateien,
-                const Exportauftrag& auftrag);
+void ExportierePlan(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& dateien,
+                    const Exportauftrag& auftrag);
 
 }  // namespace zrw

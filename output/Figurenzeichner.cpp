@@ -155,7 +155,7 @@ void Figurenzeichner::Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt>
 
 void Figurenzeichner::ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpunkt ende, Gang gang) {
     const bool nurBild = Plot(gang) == nullptr && Dxf(gang) == nullptr;
-    if (nurBild && !Beruehrt(anfang, ende)) return;
+    if (nurBild && !BeruehrtFlaeche(anfang, ende)) return;
     SetzeEbene(Ebene::Beobachtungen);
     const Kantenbild bild(kante.KAttr, kante.LAttr, anfang, ende, einstellungen_);
     if (zustand_.flaeche != nullptr) {
@@ -181,7 +181,7 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
 }
 
 /// Whether a line with its marks may touch the surface.
-bool Figurenzeichner::Beruehrt(Bildpunkt anfang, Bildpunkt ende) const {
+bool Figurenzeichner::BeruehrtFlaeche(Bildpunkt anfang, Bildpunkt ende) const {
     if (zustand_.flaeche == nullptr) return false;
     return InReichweite(anfang, ende, Kantenreichweite(), zustand_.flaeche->Ausschnitt());
 }
@@ -204,7 +204,7 @@ void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe) {
             const Bildpunkt nach = zug.punkte[s.nach];
             if (weit && nah(von) && nah(nach)) {
                 stuecke_[anzahl++] = {Aufflaeche(von), Aufflaeche(nach), s.gestrichelt};
-            } else if (const auto teil = Abschneiden(von, nach, grenzen)) {
+            } else if (const auto teil = SchneideLinieAb(von, nach, grenzen)) {
                 stuecke_[anzahl++] = {teil->first, teil->second, s.gestrichelt};
             }
         }
@@ -275,7 +275,7 @@ bool Figurenzeichner::ZeichneNetz(const Bildvorlage& v) {
     const std::int64_t hoehe = f->Texthoehe();
     const auto laenge = static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
     Bildaufbau(v, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe}, speicher_)
-        .Zeichne();
+        .ZeichneNetz();
     return true;
 }
 
@@ -287,7 +287,7 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     SetzeEbene(Ebene::Legende);
     // Printing leaves a device factor behind that means nothing on the screen.
     const double geraetefaktor = zustand_.modus == Zeichenmodus::Drucker ? zustand_.Geraetefaktor : 1.0;
-    Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).Zeichne(legende, gang);
+    Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).ZeichneLegende(legende, gang);
 }
 
 void Figurenzeichner::GitterShow(const Bildvorlage& v) {

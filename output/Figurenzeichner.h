@@ -64,7 +64,7 @@ class Figurenzeichner final : public Zeichner {
     void Vieleck(const Symbolziel& ziel, std::span<const Bildpunkt> ecken) const;
 
     void SetzeEbene(Ebene ebene) const;
-    [[nodiscard]] bool Beruehrt(Bildpunkt anfang, Bildpunkt ende) const;
+    [[nodiscard]] bool BeruehrtFlaeche(Bildpunkt anfang, Bildpunkt ende) const;
     /// How far a line's marks reach [px].
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;

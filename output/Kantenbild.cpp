@@ -77,7 +77,7 @@ static_assert(std::equal(kLinienbilder.begin(), kLinienbilder.end(), kLinienarte
                              return b.umweg.empty() != a.indirekt;
                          }));
 
-Bildpunkt Runde(double x, double y) {
+Bildpunkt RundeOrt(double x, double y) {
     return {RundeZuInt64(x), RundeZuInt64(y)};
 }
 
@@ -128,8 +128,8 @@ struct Kantenbild::Lage {
 
     /// The point `laengs` along the line and `quer` across it from M.
     [[nodiscard]] Bildpunkt AbMitte(double laengs, double quer) const {
-        return Runde(static_cast<double>(m.x) + laengs * ux - quer * uy,
-                     static_cast<double>(m.y) + laengs * uy + quer * ux);
+        return RundeOrt(static_cast<double>(m.x) + laengs * ux - quer * uy,
+                        static_cast<double>(m.y) + laengs * uy + quer * ux);
     }
 };
 
@@ -141,16 +141,16 @@ Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang
     Linie(lAttr, gps && l.laenge > 2.0 * groessen.GPSGroesse, l);
     if (gps) {
         const Bildpunkt vorn{Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)};
-        Nimm(Zugform::GPSMarke, {vorn,
-                                 {Differenz(l.m.x, l.gy), Summe(l.m.y, l.gx)},
-                                 {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
-                                 {Summe(l.m.x, l.gy), Differenz(l.m.y, l.gx)},
-                                 vorn});
+        NimmZug(Zugform::GPSMarke, {vorn,
+                                    {Differenz(l.m.x, l.gy), Summe(l.m.y, l.gx)},
+                                    {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
+                                    {Summe(l.m.x, l.gy), Differenz(l.m.y, l.gx)},
+                                    vorn});
     }
     if (kAttr.HatArt(KanteAttr::ST)) {
         const double neben = groessen.GPSGroesse + 2.0;  // clear of the marker, whether or not there is one
         const double halb = groessen.Querstrich;
-        Nimm(Zugform::Querstrich, {l.AbMitte(neben, halb), l.AbMitte(neben, -halb)});
+        NimmZug(Zugform::Querstrich, {l.AbMitte(neben, halb), l.AbMitte(neben, -halb)});
     }
     if (kAttr.HatArt(KanteAttr::DH1)) Hoehenmarke(l.s, l.ux, l.uy, groessen);
     if (kAttr.HatArt(KanteAttr::DH2)) {
@@ -165,14 +165,14 @@ void Kantenbild::Linie(LinieAttr lAttr, bool mitMarke, const Lage& l) {
     if (!bild->umweg.empty()) return Umweg(bild->umweg, l);
     const Zugform form = mitMarke ? bild->offen : bild->ganz;
     if (Punktzahl(form) == 2) {
-        Nimm(form, {l.s, l.e});
+        NimmZug(form, {l.s, l.e});
     } else if (mitMarke) {
-        Nimm(form, {l.s,
-                    {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
-                    {Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)},
-                    l.e});
+        NimmZug(form, {l.s,
+                       {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
+                       {Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)},
+                       l.e});
     } else {
-        Nimm(form, {l.s, l.m, l.m, l.e});
+        NimmZug(form, {l.s, l.m, l.m, l.e});
     }
 }
 
@@ -195,7 +195,7 @@ void Kantenbild::Umweg(std::span<const Umwegzug> zuege, const Lage& l) {
         std::array<Bildpunkt, kMeistePunkte> punkte;
         std::transform(zug.stellen.begin(), zug.stellen.end(), punkte.begin(),
                        [&](Stelle s) { return orte[s]; });
-        Nimm(zug.form, std::span<const Bildpunkt>(punkte).first(Punktzahl(zug.form)));
+        NimmZug(zug.form, std::span<const Bildpunkt>(punkte).first(Punktzahl(zug.form)));
     }
 }
 
@@ -203,13 +203,13 @@ void Kantenbild::Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einste
     const double a = groessen.PTSize;
     const double t = groessen.Querstrich;
     const auto punkt = [&](double laengs) {
-        return Runde(static_cast<double>(bezug.x) + laengs * ux - t * uy,
-                     static_cast<double>(bezug.y) + laengs * uy + t * ux);
+        return RundeOrt(static_cast<double>(bezug.x) + laengs * ux - t * uy,
+                        static_cast<double>(bezug.y) + laengs * uy + t * ux);
     };
-    Nimm(Zugform::Hoehenmarke, {punkt(a + t), punkt(a + 2 * t)});
+    NimmZug(Zugform::Hoehenmarke, {punkt(a + t), punkt(a + 2 * t)});
 }
 
-void Kantenbild::Nimm(Zugform form, std::span<const Bildpunkt> punkte) {
+void Kantenbild::NimmZug(Zugform form, std::span<const Bildpunkt> punkte) {
     assert(anzahl_ < kMeisteZuege && punkte.size() <= kMeistePunkte);
     Bildpunkt* ziel = punkte_.data() + punktzahl_;
     std::uninitialized_copy(punkte.begin(), punkte.end(), ziel);

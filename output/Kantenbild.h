@@ -82,10 +82,10 @@ class Kantenbild {
     void Linie(LinieAttr lAttr, bool mitMarke, const Lage& l);
     void Umweg(std::span<const Umwegzug> zuege, const Lage& l);
     void Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einstellungen& groessen);
-    void Nimm(Zugform form, std::initializer_list<Bildpunkt> punkte) {
-        Nimm(form, std::span(punkte.begin(), punkte.size()));
+    void NimmZug(Zugform form, std::initializer_list<Bildpunkt> punkte) {
+        NimmZug(form, std::span(punkte.begin(), punkte.size()));
     }
-    void Nimm(Zugform form, std::span<const Bildpunkt> punkte);
+    void NimmZug(Zugform form, std::span<const Bildpunkt> punkte);
 
     // Most: two for an indirect line, marker, tick and three height marks. In unions, so that only those in
     // use are set up: clearing all of them would take longer than the line.

@@ -81,7 +81,7 @@ Welt Kartengitter::Ecke(bool rechtsUnten) const {
 
 void Kartengitter::Bildstrich(Bildpunkt von, Bildpunkt nach) const {
     if (ziel_.flaeche == nullptr) return;
-    if (const auto teil = Abschneiden(von, nach, ziel_.flaeche->Grenzen())) {
+    if (const auto teil = SchneideLinieAb(von, nach, ziel_.flaeche->Grenzen())) {
         const Stiftwechsel wechsel(*ziel_.flaeche, {ziel_.farbe, 1, Strichart::Voll}, {kWeiss, true});
         ziel_.flaeche->Linie(teil->first, teil->second);
     }

@@ -35,7 +35,7 @@ std::int32_t Legendenbild::Breite(const Legende& l) const {
     return w;
 }
 
-void Legendenbild::Zeichne(const Legende& l, Gang gang) const {
+void Legendenbild::ZeichneLegende(const Legende& l, Gang gang) const {
     const std::int32_t w = Breite(l);
     const std::int32_t h = flaeche_.Texthoehe();
     const std::int32_t s = einstellungen_.PTSize;

@@ -19,7 +19,7 @@ class Legendenbild {
 
     /// Draws the legend, or wipes it with the same shapes in white. Its position is within the drawable
     /// range.
-    void Zeichne(const Legende& legende, Gang gang) const;
+    void ZeichneLegende(const Legende& legende, Gang gang) const;
 
     /// Width of the frame beside the legend's position [dots].
     [[nodiscard]] std::int32_t Breite(const Legende& legende) const;

@@ -112,7 +112,7 @@ Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& e
       f_(geraetefaktor_ * einstellungen.ResMF) {}
 
 void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
-    if (const auto teil = Abschneiden(von, nach, flaeche_.Grenzen())) {
+    if (const auto teil = SchneideLinieAb(von, nach, flaeche_.Grenzen())) {
         flaeche_.Linie(teil->first, teil->second);
     }
 }
@@ -210,7 +210,7 @@ void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0
 
 // --- Scale bar --------------------------------------------------------------------------------------------
 
-void Residuenbild::Schreibe(Bildpunkt ort, std::string_view text) const {
+void Residuenbild::SchreibeText(Bildpunkt ort, std::string_view text) const {
     // No character is wider than twice the line height.
     const std::int64_t rand = std::int64_t{flaeche_.Texthoehe()} * 2 * static_cast<std::int64_t>(text.size());
     if (InReichweite(ort, rand, flaeche_.Sichtbar())) flaeche_.Text(Aufflaeche(ort), text, kSchwarz);
@@ -265,14 +265,14 @@ void Residuenbild::Balken(double laenge, const Balkentexte& texte) const {
                              static_cast<std::int32_t>(grund + rand)},
                             kWeiss);
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
-    Schreibe({links, oben}, titel);
-    Schreibe({einheitort, oben + h}, einheit);
+    SchreibeText({links, oben}, titel);
+    SchreibeText({einheitort, oben + h}, einheit);
     Strich({anfang, grund}, {ende, grund});
     for (std::size_t i = 0; i < texte.size(); ++i) {
         const std::int64_t x = teilpunkt(i);
         Strich({x, grund}, {x, grund - strich});
         if (alle || i == 0 || i == kTeile)
-            Schreibe({x - flaeche_.Textbreite(texte[i]) / 2, oben + h}, texte[i]);
+            SchreibeText({x - flaeche_.Textbreite(texte[i]) / 2, oben + h}, texte[i]);
     }
 }
 

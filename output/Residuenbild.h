@@ -48,7 +48,7 @@ class Residuenbild {
     void Punktbild(Bildpunkt ort, const Punktergebnis& e) const;
     void Hoehengenauigkeit(Bildpunkt ort, double mH) const;
     void Balken(double laenge, const Balkentexte& texte) const;
-    void Schreibe(Bildpunkt ort, std::string_view text) const;
+    void SchreibeText(Bildpunkt ort, std::string_view text) const;
 
     Zeichenflaeche& flaeche_;
     const Einstellungen& einstellungen_;

@@ -29,7 +29,7 @@ struct Zeichenzustand {
     bool Abkuerzungen = true;               ///< quick ways to the same picture; off for comparing with them
     Punktergebnisse* Ergebnisse = nullptr;  ///< null: no results are known
 
-    // Export: the drawing routines write to these files, too. Set by `Exportiere` only.
+    // Export: the drawing routines write to these files, too. Set by `ExportierePlan` only.
     bool ExportActive = false;
     Plotdatei* PlotFile = nullptr;           ///< null: no plotter file is asked for
     DXFUnit* Dxf = nullptr;                  ///< null: no drawing is asked for

@@ -35,8 +35,8 @@ class Druck : public testing::Test {
         return std::string(f.Inhalt()) + std::to_string(n.e.PTSize) + std::to_string(n.e.Querstrich);
     }
     void Drucke(double aufloesung) {
-        zrw::Drucke(n.l.Vorlage(), mittel, Geraetegroessen(n.e, aufloesung / kBildaufloesung), blatt,
-                    {25000, "25000", {4724, 3307, aufloesung}});
+        zrw::DruckePlan(n.l.Vorlage(), mittel, Geraetegroessen(n.e, aufloesung / kBildaufloesung), blatt,
+                        {25000, "25000", {4724, 3307, aufloesung}});
     }
 
     Probenetz n;

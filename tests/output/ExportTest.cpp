@@ -33,8 +33,8 @@ Zeilen Zerlegt(std::string_view datei) {
 class Export : public testing::Test {
   protected:
     void Exportiere() {
-        zrw::Exportiere(n.l.Vorlage(), {zustand, n.e, tafel.netz, tafel.uhr}, dateien,
-                        {Druckfaktor(25000, 600), kPlotname, kDxfname});
+        zrw::ExportierePlan(n.l.Vorlage(), {zustand, n.e, tafel.netz, tafel.uhr}, dateien,
+                            {Druckfaktor(25000, 600), kPlotname, kDxfname});
     }
     std::string Gespeichert() {
         ByteSchreiber f;

@@ -150,7 +150,7 @@ TEST(AbschneidenTest, LangeLinienKreuzenDasBildAmRechtenOrt) {
     for (const Fall& f : {Fall{{-kWeit, 300}, {kWeit, 300}, true}, Fall{{400, kWeit}, {400, -kWeit}, true},
                           Fall{{-kWeit, -kWeit}, {kWeit, kWeit}, true}, Fall{{kWeit, 0}, {0, kWeit}, false},
                           Fall{{INT64_MIN, INT64_MAX}, {INT64_MAX, INT64_MIN}, true}}) {
-        const auto teil = Abschneiden(f.a, f.b, bild);
+        const auto teil = SchneideLinieAb(f.a, f.b, bild);
         ASSERT_EQ(teil.has_value(), f.sichtbar);
         if (!teil) continue;
         for (const Flaechenpunkt& p : {teil->first, teil->second}) {
@@ -158,9 +158,9 @@ TEST(AbschneidenTest, LangeLinienKreuzenDasBildAmRechtenOrt) {
         }
     }
     using Stueck = std::pair<Flaechenpunkt, Flaechenpunkt>;
-    EXPECT_EQ(Abschneiden({-kWeit, 300}, {kWeit, 300}, bild), (Stueck{{-64, 300}, {863, 300}}));
-    EXPECT_EQ(Abschneiden({400, kWeit}, {400, -kWeit}, bild), (Stueck{{400, 663}, {400, -64}}));
-    const auto nah = Abschneiden({-5000, 10}, {700, 20}, bild);
+    EXPECT_EQ(SchneideLinieAb({-kWeit, 300}, {kWeit, 300}, bild), (Stueck{{-64, 300}, {863, 300}}));
+    EXPECT_EQ(SchneideLinieAb({400, kWeit}, {400, -kWeit}, bild), (Stueck{{400, 663}, {400, -64}}));
+    const auto nah = SchneideLinieAb({-5000, 10}, {700, 20}, bild);
     EXPECT_EQ(nah->first.x, -5000) << "left whole, so that its dots do not depend on what is visible";
 }
 

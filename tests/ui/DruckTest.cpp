@@ -175,9 +175,9 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
     const Welt ecke = liste.BildinWelt({});
     const auto drucke = [&](double massstab) {
         echter.Drucke({"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
-                           zrw::Drucke(liste.Vorlage(), {zustand, einstellungen, netz, uhr},
-                                       Geraetegroessen(einstellungen, Geraetefaktor(seite)), blatt,
-                                       {massstab, "100000", seite, ecke});
+                           zrw::DruckePlan(liste.Vorlage(), {zustand, einstellungen, netz, uhr},
+                                           Geraetegroessen(einstellungen, Geraetefaktor(seite)), blatt,
+                                           {massstab, "100000", seite, ecke});
                        }});
     };
     drucke(100000);

@@ -163,7 +163,7 @@ void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
 
 /// The painter computes exactly only near its picture.
 void Pixelflaeche::MaleLinie(Flaechenpunkt von, Flaechenpunkt nach) {
-    const auto teil = Abschneiden({von.x, von.y}, {nach.x, nach.y}, Sichtbar());
+    const auto teil = SchneideLinieAb({von.x, von.y}, {nach.x, nach.y}, Sichtbar());
     if (teil) Malerflaeche::Linie(teil->first, teil->second);
 }
 

@@ -34,7 +34,7 @@ void Druckrahmen::Zeichne(const Liste& liste, Zeichenflaeche& flaeche, Farbe far
     const Stiftwechsel stift(flaeche, {farbe, 1, Strichart::Voll}, {kWeiss, true});
     const std::array<Bildpunkt, 5> ecken{a, Bildpunkt{b.x, a.y}, b, Bildpunkt{a.x, b.y}, a};
     for (std::size_t i = 0; i + 1 < ecken.size(); ++i) {
-        if (const auto strich = Abschneiden(ecken[i], ecken[i + 1], flaeche.Sichtbar()))
+        if (const auto strich = SchneideLinieAb(ecken[i], ecken[i + 1], flaeche.Sichtbar()))
             flaeche.Linie(strich->first, strich->second);
     }
 }

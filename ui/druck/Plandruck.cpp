@@ -102,8 +102,8 @@ Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double mass
         // What is seen of a print: the legend keeps naming its scale, and the device factor stays at screen
         // to printer.
         if (liste.ShowLegende && liste.Legend) liste.Legend->Masstab = auftrag.massstabtext;
-        zrw::Drucke(liste.Vorlage(), Mittel(), Geraetegroessen(programm_.einstellungen, geraetefaktor),
-                    flaeche, auftrag);
+        zrw::DruckePlan(liste.Vorlage(), Mittel(), Geraetegroessen(programm_.einstellungen, geraetefaktor),
+                        flaeche, auftrag);
         programm_.zustand.Geraetefaktor = 1 / geraetefaktor;
     };
     return werk;

@@ -45,9 +45,9 @@ void TZrwMainDlg::SpeedButton16Click() {
     try {
         const Sanduhr sanduhr;
         const double faktor = Druckfaktor(*massstab, programm_.drucker.Aufloesung());
-        Exportiere(plan_.Daten()->Vorlage(),
-                   {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr},
-                   programm_.dateien, {faktor, kPlotname, kDxfname});
+        ExportierePlan(plan_.Daten()->Vorlage(),
+                       {programm_.zustand, programm_.einstellungen, programm_.netz, programm_.uhr},
+                       programm_.dateien, {faktor, kPlotname, kDxfname});
         if (plan_.Daten()->ShowLegende) plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
         ZeichneNeu();
     } catch (const std::exception& f) {

@@ -33,7 +33,7 @@ Vorschau MarkierePunkt(Bildpunkt ort) {
 Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende) {
     return [=](Zeichner& /*z*/, Zeichenflaeche& f) {
         const auto stift = Markierstift(f, kBreite);
-        if (const auto teil = Abschneiden(anfang, ende, f.Sichtbar())) f.Linie(teil->first, teil->second);
+        if (const auto teil = SchneideLinieAb(anfang, ende, f.Sichtbar())) f.Linie(teil->first, teil->second);
     };
 }
 
