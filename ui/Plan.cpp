@@ -22,8 +22,8 @@ Plan::~Plan() {
     schritte_.disconnect();
 }
 
-void Plan::Uebernimm(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
-                     const std::filesystem::path& datei) {
+void Plan::UebernimmListe(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
+                          const std::filesystem::path& datei) {
     assert(liste != nullptr);
     schritte_.clear();
     ungesichert_ = false;
@@ -38,7 +38,7 @@ void Plan::MerkeUngesichert() {
     beobachter_.StandGeaendert();
 }
 
-std::size_t Plan::Speichere(const std::filesystem::path& datei) {
+std::size_t Plan::SpeicherePlan(const std::filesystem::path& datei) {
     assert(Offen());
     const std::size_t weggelassen = SchreibeBilddatei(*liste_, angaben_, datei, dateien_);
     ungesichert_ = false;
@@ -47,40 +47,40 @@ std::size_t Plan::Speichere(const std::filesystem::path& datei) {
     return weggelassen;
 }
 
-/// All steps came through `Tue`.
+/// All steps came through `TueAenderung`.
 const Netzaenderung& Plan::Schritt(int i) const {
     return static_cast<const Netzaenderung&>(*schritte_.command(i));
 }
 
 template <class Tat>
-void Plan::Fuehre(const Netzaenderung& aenderung, Tat tat) {
+void Plan::FuehreAenderungAus(const Netzaenderung& aenderung, Tat tat) {
     beobachter_.VorAenderung(aenderung.Betroffene());
     tat();
     beobachter_.NachAenderung(aenderung.Betroffene());
-    Raeume(schritte_);
+    RaeumeStapel(schritte_);
 }
 
-void Plan::Tue(std::unique_ptr<Netzaenderung> aenderung) {
+void Plan::TueAenderung(std::unique_ptr<Netzaenderung> aenderung) {
     assert(Offen() && aenderung != nullptr);
     const Netzaenderung& neu = *aenderung;
-    Fuehre(neu, [&] { schritte_.push(aenderung.release()); });
+    FuehreAenderungAus(neu, [&] { schritte_.push(aenderung.release()); });
 }
 
 std::optional<QString> Plan::Rueckgaengig() {
     if (!schritte_.canUndo()) return std::nullopt;
     const QString text = schritte_.undoText();
-    Fuehre(Schritt(schritte_.index() - 1), [this] { schritte_.undo(); });
+    FuehreAenderungAus(Schritt(schritte_.index() - 1), [this] { schritte_.undo(); });
     return text;
 }
 
-std::optional<QString> Plan::Wiederhole() {
+std::optional<QString> Plan::WiederholeSchritt() {
     if (!schritte_.canRedo()) return std::nullopt;
     const QString text = schritte_.redoText();
-    Fuehre(Schritt(schritte_.index()), [this] { schritte_.redo(); });
+    FuehreAenderungAus(Schritt(schritte_.index()), [this] { schritte_.redo(); });
     return text;
 }
 
-void Plan::Zentriere(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum) {
+void Plan::ZentrierePunkte(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum) {
     assert(Offen());
     Figurenmenge figuren;
     std::set<PunktIndex> nummern;
@@ -92,7 +92,7 @@ void Plan::Zentriere(const std::vector<PPunktKnoten>& exzentren, const PunktKnot
     for (PunktKnoten* p : exzentren)
         liste_->ZentrierePunkt(*p, zentrum);
     // What came before cannot be undone at these points either.
-    Verwirf(schritte_, nummern);
+    VerwirfSchritte(schritte_, nummern);
     MerkeUngesichert();
     beobachter_.NachAenderung(figuren);
 }

@@ -47,24 +47,24 @@ class Plan {
     [[nodiscard]] const QUndoStack& Schritte() const { return schritte_; }
 
     /// Takes over what was read; nothing of the plan before is left.
-    void Uebernimm(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
-                   const std::filesystem::path& datei);
+    void UebernimmListe(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
+                        const std::filesystem::path& datei);
     /// There is something to save that no step tells of.
     void MerkeUngesichert();
     /// Saves it as picture file. @return how many labels were left out @throws Fehler: nothing is saved
-    std::size_t Speichere(const std::filesystem::path& datei);
+    std::size_t SpeicherePlan(const std::filesystem::path& datei);
 
     /// Does the change and remembers it for undoing.
-    void Tue(std::unique_ptr<Netzaenderung> aenderung);
+    void TueAenderung(std::unique_ptr<Netzaenderung> aenderung);
     // @return what was undone or done again; nothing: there was nothing
     std::optional<QString> Rueckgaengig();
-    std::optional<QString> Wiederhole();
+    std::optional<QString> WiederholeSchritt();
     /// Puts points onto another one, for good: that is no step, and steps about these points become void.
-    void Zentriere(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum);
+    void ZentrierePunkte(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum);
 
   private:
     template <class Tat>
-    void Fuehre(const Netzaenderung& aenderung, Tat tat);
+    void FuehreAenderungAus(const Netzaenderung& aenderung, Tat tat);
     [[nodiscard]] const Netzaenderung& Schritt(int i) const;
 
     Netzangaben& angaben_;

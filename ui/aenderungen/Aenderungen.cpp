@@ -14,29 +14,29 @@ NummerVersetzt::NummerVersetzt(Liste& liste, PunktString& text, Bildpunkt abstan
     setText(QStringLiteral("Punktnummer verschieben"));
 }
 
-bool SichtbarkeitGeaendert::Merke(bool& sichtbar, bool neu) {
+bool SichtbarkeitGeaendert::MerkeSchalter(bool& sichtbar, bool neu) {
     if (sichtbar == neu) return false;
     schalter_.push_back(&sichtbar);
     neu_.push_back(neu);
     return true;
 }
 
-void SichtbarkeitGeaendert::Nimm(PunktKnoten& p, bool neu) {
-    if (Merke(p.Item->Visible, neu)) figuren_.punkte.push_back(&p);
+void SichtbarkeitGeaendert::NimmFigur(PunktKnoten& p, bool neu) {
+    if (MerkeSchalter(p.Item->Visible, neu)) figuren_.punkte.push_back(&p);
 }
 
-void SichtbarkeitGeaendert::Nimm(PunktKante& k, bool neu) {
-    if (Merke(k.Item->Visible, neu)) figuren_.kanten.push_back(&k);
+void SichtbarkeitGeaendert::NimmFigur(PunktKante& k, bool neu) {
+    if (MerkeSchalter(k.Item->Visible, neu)) figuren_.kanten.push_back(&k);
 }
 
-void SichtbarkeitGeaendert::Nimm(PunktString& t, bool neu) {
-    if (Merke(t.Item->Visible, neu)) figuren_.texte.push_back(&t);
+void SichtbarkeitGeaendert::NimmFigur(PunktString& t, bool neu) {
+    if (MerkeSchalter(t.Item->Visible, neu)) figuren_.texte.push_back(&t);
 }
 
 void SichtbarkeitGeaendert::NimmPunkt(Liste& liste, PunktKnoten& punkt, bool neu) {
-    liste.FuerKantenAm(punkt.PNr, [&](PunktKante& k) { Nimm(k, neu); });
-    if (PPunktString t = liste.FindText(punkt.PNr); t != nullptr) Nimm(*t, neu);
-    Nimm(punkt, neu);
+    liste.FuerKantenAm(punkt.PNr, [&](PunktKante& k) { NimmFigur(k, neu); });
+    if (PPunktString t = liste.FindText(punkt.PNr); t != nullptr) NimmFigur(*t, neu);
+    NimmFigur(punkt, neu);
 }
 
 void SichtbarkeitGeaendert::redo() {

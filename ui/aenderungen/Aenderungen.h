@@ -23,11 +23,11 @@ class PunktVersetzt final : public Netzaenderung {
   public:
     PunktVersetzt(Liste& liste, PunktKnoten& punkt, Welt nach);
     [[nodiscard]] Figurenmenge Betroffene() const override { return liste_.Umfeld(punkt_); }
-    void redo() override { Setze(neu_); }
-    void undo() override { Setze(alt_); }
+    void redo() override { SetzeOrt(neu_); }
+    void undo() override { SetzeOrt(alt_); }
 
   private:
-    void Setze(Welt ort) { liste_.VersetzePunkt(punkt_, ort); }
+    void SetzeOrt(Welt ort) { liste_.VersetzePunkt(punkt_, ort); }
     Liste& liste_;
     PunktKnoten& punkt_;
     Welt alt_, neu_;
@@ -38,11 +38,11 @@ class NummerVersetzt final : public Netzaenderung {
   public:
     NummerVersetzt(Liste& liste, PunktString& text, Bildpunkt abstand);
     [[nodiscard]] Figurenmenge Betroffene() const override { return {{}, {}, {&text_}}; }
-    void redo() override { Setze(neu_); }
-    void undo() override { Setze(alt_); }
+    void redo() override { SetzeAbstand(neu_); }
+    void undo() override { SetzeAbstand(alt_); }
 
   private:
-    void Setze(Bildpunkt abstand) { liste_.VersetzeText(text_, abstand); }
+    void SetzeAbstand(Bildpunkt abstand) { liste_.VersetzeText(text_, abstand); }
     Liste& liste_;
     PunktString& text_;
     Bildpunkt alt_, neu_;
@@ -53,9 +53,9 @@ class SichtbarkeitGeaendert final : public Netzaenderung {
   public:
     explicit SichtbarkeitGeaendert(const QString& name) { setText(name); }
     /// Figures that are visible in that way already are left out.
-    void Nimm(PunktKnoten& p, bool neu);
-    void Nimm(PunktKante& k, bool neu);
-    void Nimm(PunktString& t, bool neu);
+    void NimmFigur(PunktKnoten& p, bool neu);
+    void NimmFigur(PunktKante& k, bool neu);
+    void NimmFigur(PunktString& t, bool neu);
     /// A point with its lines and its label, as hiding and showing points takes them.
     void NimmPunkt(Liste& liste, PunktKnoten& punkt, bool neu);
     [[nodiscard]] Figurenmenge Betroffene() const override { return figuren_; }
@@ -66,7 +66,7 @@ class SichtbarkeitGeaendert final : public Netzaenderung {
     void undo() override;
 
   private:
-    [[nodiscard]] bool Merke(bool& sichtbar, bool neu);
+    [[nodiscard]] bool MerkeSchalter(bool& sichtbar, bool neu);
     std::vector<bool*> schalter_;
     std::vector<bool> neu_;
     Figurenmenge figuren_;

@@ -13,7 +13,7 @@ namespace zrw {
 
 Punktartwahl::Punktartwahl(Werkzeugumgebung& umgebung, Dialogdienst& dialoge, QWidget* eltern)
     : umgebung_(umgebung), dialoge_(dialoge), fenster_(new TFormPunktart(eltern)) {
-    fenster_->zeichnen = [this] { Zeichne(); };
+    fenster_->zeichnen = [this] { ZeichnePunkt(); };
 }
 
 /// The window goes later, with its parent.
@@ -21,7 +21,7 @@ Punktartwahl::~Punktartwahl() {
     fenster_->zeichnen = {};
 }
 
-void Punktartwahl::Waehle(PunktKnoten& punkt) {
+void Punktartwahl::WaehlePunkt(PunktKnoten& punkt) {
     const Liste& liste = *umgebung_.AktuelleListe();
     gewaehlt_ = &punkt;
     gezeigt_ = StandVon(punkt);
@@ -36,12 +36,12 @@ void Punktartwahl::NetzGeaendert() {
         gewaehlt_ = nullptr;
         fenster_->Zeige({});
     } else if (StandVon(*gewaehlt_) != gezeigt_) {
-        Waehle(*gewaehlt_);  // the window must not put back what was undone
+        WaehlePunkt(*gewaehlt_);  // the window must not put back what was undone
     }
 }
 
 /// "Zeichnen": changes the picked point, or inserts a new one.
-void Punktartwahl::Zeichne() {
+void Punktartwahl::ZeichnePunkt() {
     Liste* liste = umgebung_.AktuelleListe();
     if (liste == nullptr) return;
     const Punkteingabe e = fenster_->Eingabe();
@@ -73,7 +73,7 @@ void Punktartwahl::Zeichne() {
                                       hier ? Welt{gewaehlt_->XWPu, gewaehlt_->YWPu} : ort};
     const Punkt& p = *gewaehlt_->Item;
     const bool gleich = hier && p.PktArt == neu.art && p.PktTyp == neu.symbol && p.Farbe == neu.farbe;
-    if (!gleich) umgebung_.Tue(std::make_unique<PunktGeaendert>(*liste, *gewaehlt_, neu));
+    if (!gleich) umgebung_.TueAenderung(std::make_unique<PunktGeaendert>(*liste, *gewaehlt_, neu));
 }
 
 void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
@@ -97,7 +97,7 @@ void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
     const Farbe farbe = umgebung_.Anzeige().*ZurArt(eingabe.art).farbe;
     Punkt punkt = Punkt::Create(eingabe.symbol, farbe, PunktAttr::Fu);
     punkt.PktArt = eingabe.art;
-    umgebung_.Tue(std::make_unique<PunktEingefuegt>(
+    umgebung_.TueAenderung(std::make_unique<PunktEingefuegt>(
         liste, punkt, PktText::Create(nummer, farbe, umgebung_.Anzeige()), ort, static_cast<PunktIndex>(nr)));
     const Bildpunkt b = liste.Bildort(ort);
     QString text = QStringLiteral("Punkt %1 eingefügt").arg(AusNetz(nummer));

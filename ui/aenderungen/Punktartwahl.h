@@ -22,10 +22,10 @@ class Punktartwahl {
     Punktartwahl& operator=(const Punktartwahl&) = delete;
 
     [[nodiscard]] TFormPunktart& Fenster() { return *fenster_; }
-    void Waehle(PunktKnoten& punkt);
+    void WaehlePunkt(PunktKnoten& punkt);
     [[nodiscard]] const PunktKnoten* Gewaehlt() const { return gewaehlt_; }
     /// Nothing is picked any more.
-    void Loese() { gewaehlt_ = nullptr; }
+    void LoesePunkt() { gewaehlt_ = nullptr; }
     /// The picked point may have moved or gone.
     void NetzGeaendert();
 
@@ -41,7 +41,7 @@ class Punktartwahl {
     [[nodiscard]] static Stand StandVon(const PunktKnoten& p) {
         return {p.XWPu, p.YWPu, p.Item->PktTyp, p.Item->Farbe};
     }
-    void Zeichne();
+    void ZeichnePunkt();
     void FuegeEin(const Punkteingabe& eingabe, Welt ort);
 
     Werkzeugumgebung& umgebung_;

@@ -26,7 +26,7 @@ std::unique_ptr<SichtbarkeitGeaendert> Aenderung(Liste& liste, const QStringList
 Punktversteck::Punktversteck(Werkzeugumgebung& umgebung, QWidget* eltern)
     : umgebung_(umgebung), auswahl_(new TFormHidePunkte(eltern)), versteckte_(new TFormHiddenPkt(eltern)) {
     versteckte_->zeige = [this](const QString& nummer) { zuZeigen_ << nummer; };
-    versteckte_->fertig = [this] { Zeige(std::exchange(zuZeigen_, {})); };
+    versteckte_->fertig = [this] { ZeigePunkte(std::exchange(zuZeigen_, {})); };
     versteckte_->hindernis = [this](const QString& nummer) {
         const Liste* netz = umgebung_.AktuelleListe();
         if (netz == nullptr) return QString();
@@ -34,7 +34,7 @@ Punktversteck::Punktversteck(Werkzeugumgebung& umgebung, QWidget* eltern)
         if (p == nullptr) return QStringLiteral("nicht im geöffneten Netz");
         return p->Item->Visible ? QStringLiteral("ist schon zu sehen") : QString();
     };
-    auswahl_->verstecken = [this](const QStringList& nummern) { Verberge(nummern); };
+    auswahl_->verstecken = [this](const QStringList& nummern) { VerbergePunkte(nummern); };
 }
 
 /// The windows go later, with their parent.
@@ -45,20 +45,21 @@ Punktversteck::~Punktversteck() {
     auswahl_->verstecken = {};
 }
 
-void Punktversteck::Verberge(PunktKnoten& punkt) {
+void Punktversteck::VerbergePunkt(PunktKnoten& punkt) {
     Liste& liste = *umgebung_.AktuelleListe();
     auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt verstecken"));
     aenderung->NimmPunkt(liste, punkt, false);
-    Verberge(std::move(aenderung), {AusNetz(liste.GetPktText(punkt.PNr))});
+    TueVerbergen(std::move(aenderung), {AusNetz(liste.GetPktText(punkt.PNr))});
 }
 
-void Punktversteck::Verberge(const QStringList& nummern) {
+void Punktversteck::VerbergePunkte(const QStringList& nummern) {
     Liste* liste = umgebung_.AktuelleListe();
     if (liste == nullptr) return;
-    Verberge(Aenderung(*liste, nummern, false), nummern);
+    TueVerbergen(Aenderung(*liste, nummern, false), nummern);
 }
 
-void Punktversteck::Verberge(std::unique_ptr<SichtbarkeitGeaendert> aenderung, const QStringList& nummern) {
+void Punktversteck::TueVerbergen(std::unique_ptr<SichtbarkeitGeaendert> aenderung,
+                                 const QStringList& nummern) {
     if (aenderung->Leer()) {
         // Hidden already: they stand in the list once more, but there is nothing to undo.
         versteckte_->Nimm(nummern);
@@ -74,11 +75,11 @@ void Punktversteck::Verberge(std::unique_ptr<SichtbarkeitGeaendert> aenderung, c
                 versteckte->Entferne(nummer);
         }
     };
-    umgebung_.Tue(std::move(aenderung));
+    umgebung_.TueAenderung(std::move(aenderung));
 }
 
 /// Numbers that this network does not have are passed over: the list of hidden points outlives a network.
-void Punktversteck::Zeige(const QStringList& nummern) {
+void Punktversteck::ZeigePunkte(const QStringList& nummern) {
     Liste* liste = umgebung_.AktuelleListe();
     if (liste == nullptr) return;
     auto aenderung = Aenderung(*liste, nummern, true);
@@ -94,7 +95,7 @@ void Punktversteck::Zeige(const QStringList& nummern) {
         }
         erstesMal = false;
     };
-    umgebung_.Tue(std::move(aenderung));
+    umgebung_.TueAenderung(std::move(aenderung));
 }
 
 void Punktversteck::ZeigeNummern() {
@@ -105,9 +106,9 @@ void Punktversteck::ZeigeNummern() {
     for (PPunktString t = liste->PktTextKnoten; t != nullptr; t = t->Next) {
         // The number of a hidden point stays with it.
         const PunktKnoten* p = liste->SuchPkt(t->TNr);
-        if (p != nullptr && p->Item->Visible) aenderung->Nimm(*t, true);
+        if (p != nullptr && p->Item->Visible) aenderung->NimmFigur(*t, true);
     }
-    if (!aenderung->Leer()) umgebung_.Tue(std::move(aenderung));
+    if (!aenderung->Leer()) umgebung_.TueAenderung(std::move(aenderung));
 }
 
 }  // namespace zrw

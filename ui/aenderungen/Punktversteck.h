@@ -30,14 +30,14 @@ class Punktversteck {
     [[nodiscard]] TFormHidePunkte& Auswahl() { return *auswahl_; }
     [[nodiscard]] TFormHiddenPkt& Versteckte() { return *versteckte_; }
 
-    void Verberge(PunktKnoten& punkt);
-    void Verberge(const QStringList& nummern);
+    void VerbergePunkt(PunktKnoten& punkt);
+    void VerbergePunkte(const QStringList& nummern);
     /// Shows all hidden numbers of points that are shown.
     void ZeigeNummern();
 
   private:
-    void Verberge(std::unique_ptr<SichtbarkeitGeaendert> aenderung, const QStringList& nummern);
-    void Zeige(const QStringList& nummern);
+    void TueVerbergen(std::unique_ptr<SichtbarkeitGeaendert> aenderung, const QStringList& nummern);
+    void ZeigePunkte(const QStringList& nummern);
 
     Werkzeugumgebung& umgebung_;
     TFormHidePunkte* auswahl_;

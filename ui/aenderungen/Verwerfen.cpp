@@ -19,9 +19,9 @@ std::set<PunktIndex> Punkte(const Netzaenderung& aenderung) {
 
 }  // namespace
 
-void Verwirf(QUndoStack& stapel, std::set<PunktIndex> nummern) {
+void VerwirfSchritte(QUndoStack& stapel, std::set<PunktIndex> nummern) {
     for (int i = stapel.count(); i-- > 0;) {
-        // The stack owns it and shows it as constant; all that is on it came through `Tue`.
+        // The stack owns it and shows it as constant; all that is on it came through `TueAenderung`.
         auto& aenderung = const_cast<Netzaenderung&>(static_cast<const Netzaenderung&>(*stapel.command(i)));
         const std::set<PunktIndex> ihre = Punkte(aenderung);
         if (std::none_of(ihre.begin(), ihre.end(), [&](PunktIndex nr) { return nummern.count(nr) != 0; }))
@@ -30,10 +30,10 @@ void Verwirf(QUndoStack& stapel, std::set<PunktIndex> nummern) {
         // An earlier step about the same numbers counts on this one being undone first.
         nummern.insert(ihre.begin(), ihre.end());
     }
-    Raeume(stapel);
+    RaeumeStapel(stapel);
 }
 
-void Raeume(QUndoStack& stapel) {
+void RaeumeStapel(QUndoStack& stapel) {
     const auto leer = [&](int i) { return i >= 0 && i < stapel.count() && stapel.command(i)->isObsolete(); };
     while (leer(stapel.index() - 1))
         stapel.undo();

@@ -11,9 +11,9 @@ namespace zrw {
 
 /// Makes void all steps that are about points of these internal numbers, and those before them that such a
 /// step builds on. The others can be undone and done again as before.
-void Verwirf(QUndoStack& stapel, std::set<PunktIndex> nummern);
+void VerwirfSchritte(QUndoStack& stapel, std::set<PunktIndex> nummern);
 
 /// Takes void steps from where the stack stands, so that the next one to undo or to do again is a real one.
-void Raeume(QUndoStack& stapel);
+void RaeumeStapel(QUndoStack& stapel);
 
 }  // namespace zrw

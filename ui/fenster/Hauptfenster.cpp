@@ -369,8 +369,8 @@ QToolButton& TZrwMainDlg::Knopf(const char* komponente) const {
 void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     BrichAb();
     if (!unten) {
-        werkzeuge_[nummer]->Beende();
-        punktart_->Loese();
+        werkzeuge_[nummer]->BeendeWerkzeug();
+        punktart_->LoesePunkt();
         if (Aktiv() == nullptr) {
             bild_->unsetCursor();
             // What the tool asked for is asked for no longer; other messages stay.
@@ -383,7 +383,7 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     for (std::size_t i = 0; i < werkzeugknoepfe_.size(); ++i) {
         if (i != nummer) werkzeugknoepfe_[i]->setChecked(false);
     }
-    werkzeuge_[nummer]->Beginne();
+    werkzeuge_[nummer]->BeginneWerkzeug();
     bild_->setCursor(werkzeuge_[nummer]->Zeiger());
     ZeigeStatus(plan_.Offen() ? werkzeuge_[nummer]->Anleitung() : kOhneNetz);
 }

@@ -147,7 +147,9 @@ class TZrwMainDlg final : public QMainWindow,
     void LasseLegendeAus(bool aus) override;
     void ZeigeVorschau(Vorschau vorschau) override;
     void ZeigeStatus(const QString& text) override;
-    void Tue(std::unique_ptr<Netzaenderung> aenderung) override { plan_.Tue(std::move(aenderung)); }
+    void TueAenderung(std::unique_ptr<Netzaenderung> aenderung) override {
+        plan_.TueAenderung(std::move(aenderung));
+    }
     void BeginneZug() override { ansicht_.BeginneZug(*plan_.Daten()); }
     void ZieheBild(Bildpunkt versatz) override;
     void BeendeZug() override;
@@ -166,7 +168,7 @@ class TZrwMainDlg final : public QMainWindow,
     void ZeigePunkt(const QString& nummer);
     const PunktKnoten* MarkierePunkt(const QString& nummer);
     void ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren);
-    void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
+    void ZentrierePunkt(PunktKnoten& exzentrum, PunktKnoten& zentrum) override;
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
     [[nodiscard]] const PunktKnoten* GewaehlterPunkt() const override;

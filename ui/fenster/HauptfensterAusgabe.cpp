@@ -137,7 +137,7 @@ void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
             zeigen ? zentrierkasten_->Zeige() : zentrierkasten_->hide();
             break;
         case Nebenfenster::Punktart:
-            punktart_->Loese();
+            punktart_->LoesePunkt();
             punktart_->Fenster().setVisible(zeigen);
             break;
         case Nebenfenster::Ergebnisse:

@@ -326,11 +326,11 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
         werkzeug->Abbrechen();
     ergebnisse_->Vergiss();
     druck_.Rahmen().Loese();
-    punktart_->Loese();
+    punktart_->LoesePunkt();
     ansicht_.NeuesNetz();
     bewahrung_.Vergiss();
     zentrierkasten_->Beginne();
-    plan_.Uebernimm(std::move(lesung.liste), lesung.netz, datei);
+    plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
     ComboBox1_->Sortiere(IstBilddatei(datei));
     FuelleNummern();
     const QStringList verborgen = Verborgene(*plan_.Daten());
@@ -356,7 +356,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     status.removeAll(QString());
     ZeigeStatus(status.join(QStringLiteral("; ")));
     // A mode that was chosen before there was a network.
-    if (Aktiv() != nullptr) Aktiv()->Beginne();
+    if (Aktiv() != nullptr) Aktiv()->BeginneWerkzeug();
     // A picture file carries its marks.
     if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
     ZeichneNeu();
@@ -373,7 +373,7 @@ bool TZrwMainDlg::Speichere() {
     std::size_t weggelassen = 0;
     try {
         const Sanduhr sanduhr;
-        weggelassen = plan_.Speichere(NachPfad(*name));
+        weggelassen = plan_.SpeicherePlan(NachPfad(*name));
     } catch (const std::exception& f) {
         ZeigeFehler(f);
         return false;

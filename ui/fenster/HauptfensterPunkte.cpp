@@ -34,7 +34,7 @@ void TZrwMainDlg::Rueckgaengig() {
 
 void TZrwMainDlg::Wiederhole() {
     BrichAb();
-    const auto text = plan_.Wiederhole();
+    const auto text = plan_.WiederholeSchritt();
     ZeigeStatus(text ? QStringLiteral("Wiederholt: ") + *text
                      : QStringLiteral("Es gibt nichts zu wiederholen."));
 }
@@ -118,8 +118,8 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
 
 // --- Centring ---------------------------------------------------------------------------------------------
 
-void TZrwMainDlg::Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
-    plan_.Zentriere({&exzentrum}, zentrum);
+void TZrwMainDlg::ZentrierePunkt(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
+    plan_.ZentrierePunkte({&exzentrum}, zentrum);
     const Liste& netz = *plan_.Daten();
     ZeigeStatus(QStringLiteral("%1 auf %2 zentriert")
                     .arg(AusNetz(netz.GetPktText(exzentrum.PNr)), AusNetz(netz.GetPktText(zentrum.PNr))));
@@ -139,7 +139,7 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
         if (PunktKnoten* p = netz.FindPunkt(AlsNummer(nummer)); p != nullptr) punkte.push_back(p);
     }
     zentrierkasten_->MerkeZentrierte(exzentren);
-    plan_.Zentriere(punkte, *ziel);
+    plan_.ZentrierePunkte(punkte, *ziel);
     ZeigeStatus(QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
 }
 
@@ -161,7 +161,7 @@ void TZrwMainDlg::SpeedButton15Click() {
 
 void TZrwMainDlg::VerbergePunkt(PunktKnoten& punkt) {
     const Sanduhr sanduhr;
-    versteck_->Verberge(punkt);
+    versteck_->VerbergePunkt(punkt);
 }
 
 void TZrwMainDlg::NummernZeigenClick() {
@@ -169,7 +169,7 @@ void TZrwMainDlg::NummernZeigenClick() {
 }
 
 void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
-    punktart_->Waehle(punkt);
+    punktart_->WaehlePunkt(punkt);
 }
 
 const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {

@@ -16,7 +16,7 @@ QString BeobachtungBearbeiten::Anleitung() const {
     return QStringLiteral("Beobachtung ändern: Linie anklicken, dann im Fenster „Beobachtungstyp“ ändern.");
 }
 
-void BeobachtungBearbeiten::Beginne() {
+void BeobachtungBearbeiten::BeginneWerkzeug() {
     TFormBeobTyp& dialog = umgebung_.Beobachtungsdialog();
     dialog.geaendert = [this] { TypGewaehlt(); };
     dialog.neuUmgeschaltet = [this] {
@@ -26,7 +26,7 @@ void BeobachtungBearbeiten::Beginne() {
     if (umgebung_.AktuelleListe() != nullptr) dialog.show();
 }
 
-void BeobachtungBearbeiten::Beende() {
+void BeobachtungBearbeiten::BeendeWerkzeug() {
     Abbrechen();
     TFormBeobTyp& dialog = umgebung_.Beobachtungsdialog();
     dialog.geaendert = {};
@@ -38,13 +38,13 @@ void BeobachtungBearbeiten::Druecken(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     if (netz == nullptr) return;
     if (!umgebung_.Beobachtungsdialog().NeueBeobachtung()) {
-        Waehle(netz->PickGezeigte(ort));
+        WaehleKante(netz->PickGezeigte(ort));
         return;
     }
     PPunktKnoten punkt = netz->ClickGezeigten(ort);
     if (punkt == nullptr) return;
     if (erster_ != nullptr) {
-        Verbinde(*netz, *punkt);
+        VerbindePunkte(*netz, *punkt);
     } else {
         erster_ = punkt;
         umgebung_.ZeigeStatus(Anleitung());
@@ -52,7 +52,7 @@ void BeobachtungBearbeiten::Druecken(Bildpunkt ort) {
     }
 }
 
-void BeobachtungBearbeiten::Waehle(PunktKante* kante) {
+void BeobachtungBearbeiten::WaehleKante(PunktKante* kante) {
     kante_ = kante;
     if (kante != nullptr)
         umgebung_.Beobachtungsdialog().Zeige(AlsWahl({kante->Item->LAttr, kante->Item->KAttr}));
@@ -65,11 +65,11 @@ void BeobachtungBearbeiten::TypGewaehlt() {
     Kante& kante = *kante_->Item;
     const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(), kante.KAttr);
     if (typ == Beobachtungstyp{kante.LAttr, kante.KAttr}) return;
-    umgebung_.Tue(
+    umgebung_.TueAenderung(
         std::make_unique<KanteGeaendert>(*umgebung_.AktuelleListe(), *kante_, typ.richtung, typ.weitere));
 }
 
-void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
+void BeobachtungBearbeiten::VerbindePunkte(Liste& netz, PunktKnoten& zweiter) {
     if (erster_->PNr == zweiter.PNr) return;  // a double click
     const PunktKnoten& erster = *std::exchange(erster_, nullptr);
     const auto melde = [&](const char* was) {
@@ -86,11 +86,12 @@ void BeobachtungBearbeiten::Verbinde(Liste& netz, PunktKnoten& zweiter) {
         const bool drehen = vorhanden->ANr != erster.PNr && (wahl.richtung == 1 || wahl.hoehe == 1);
         if (!drehen && typ == Beobachtungstyp{vorhanden->Item->LAttr, vorhanden->Item->KAttr})
             return melde("ist schon so");
-        umgebung_.Tue(std::make_unique<KanteGeaendert>(netz, *vorhanden, typ.richtung, typ.weitere, drehen));
+        umgebung_.TueAenderung(
+            std::make_unique<KanteGeaendert>(netz, *vorhanden, typ.richtung, typ.weitere, drehen));
         return melde("geändert");
     }
     const Kante neu = Kante::Create(umgebung_.Anzeige().GPSCol, typ.weitere, typ.richtung);
-    umgebung_.Tue(std::make_unique<KanteEingefuegt>(netz, neu, erster.PNr, zweiter.PNr));
+    umgebung_.TueAenderung(std::make_unique<KanteEingefuegt>(netz, neu, erster.PNr, zweiter.PNr));
     melde("eingefügt");
 }
 
@@ -124,7 +125,7 @@ void BeobachtungBearbeiten::NetzGeaendert() {
     if (erster_ != nullptr && !netz.EnthaeltPunkt(*erster_)) erster_ = nullptr;
     // Undone or done again: the dialog shows what the line has now.
     if (kante_ != nullptr) {
-        Waehle(kante_);
+        WaehleKante(kante_);
     } else {
         ZeigeGewaehltes({});
     }

@@ -10,8 +10,8 @@ class BeobachtungBearbeiten final : public Werkzeug {
   public:
     explicit BeobachtungBearbeiten(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
-    void Beginne() override;
-    void Beende() override;
+    void BeginneWerkzeug() override;
+    void BeendeWerkzeug() override;
     void Druecken(Bildpunkt ort) override;
     void Ziehen(Bildpunkt ort) override { Schweben(ort); }
     void Loslassen(Bildpunkt /*ort*/) override {}
@@ -22,9 +22,9 @@ class BeobachtungBearbeiten final : public Werkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   private:
-    void Waehle(PunktKante* kante);
+    void WaehleKante(PunktKante* kante);
     void TypGewaehlt();
-    void Verbinde(Liste& netz, PunktKnoten& zweiter);
+    void VerbindePunkte(Liste& netz, PunktKnoten& zweiter);
     void ZeigeGewaehltes(const Vorschau& dazu);
 
     Werkzeugumgebung& umgebung_;

@@ -23,26 +23,26 @@ Vorschau Punktwerkzeug::Treffer(Liste& netz, Bildpunkt ort) const {
 }
 
 void Punktwerkzeug::Klick(Liste& netz, Bildpunkt ort) {
-    if (PPunktKnoten p = netz.ClickGezeigten(ort); p != nullptr) Nimm(netz, *p);
+    if (PPunktKnoten p = netz.ClickGezeigten(ort); p != nullptr) NimmPunkt(netz, *p);
 }
 
 QString PunktLoeschen::Anleitung() const {
     return QStringLiteral("Punkt löschen: Punkt anklicken; seine Linien gehen mit.");
 }
 
-void PunktLoeschen::Nimm(Liste& netz, PunktKnoten& punkt) {
-    Umgebung().Tue(std::make_unique<PunktGeloescht>(netz, punkt));
+void PunktLoeschen::NimmPunkt(Liste& netz, PunktKnoten& punkt) {
+    Umgebung().TueAenderung(std::make_unique<PunktGeloescht>(netz, punkt));
 }
 
 QString PunktVerstecken::Anleitung() const {
     return QStringLiteral("Punkt verstecken: Punkt anklicken.");
 }
 
-void PunktVerstecken::Nimm(Liste& /*netz*/, PunktKnoten& punkt) {
+void PunktVerstecken::NimmPunkt(Liste& /*netz*/, PunktKnoten& punkt) {
     Umgebung().VerbergePunkt(punkt);
 }
 
-void PunktartWaehlen::Beende() {
+void PunktartWaehlen::BeendeWerkzeug() {
     Abbrechen();
     Umgebung().ZeigeNebenfenster(Nebenfenster::Punktart, false);
 }
@@ -56,7 +56,7 @@ Vorschau PunktartWaehlen::Treffer(Liste& netz, Bildpunkt ort) const {
     return Zusammen(MarkiereTreffer(netz, Umgebung().GewaehlterPunkt()), Punktwerkzeug::Treffer(netz, ort));
 }
 
-void PunktartWaehlen::Nimm(Liste& netz, PunktKnoten& punkt) {
+void PunktartWaehlen::NimmPunkt(Liste& netz, PunktKnoten& punkt) {
     Umgebung().WaehlePunkt(punkt);
     Umgebung().ZeigeVorschau(MarkiereTreffer(netz, &punkt));
 }
@@ -85,8 +85,8 @@ void NummerVerstecken::Klick(Liste& netz, Bildpunkt ort) {
     PPunktString text = Nummer(Umgebung(), netz, ort);
     if (text == nullptr) return;
     auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punktnummer verstecken"));
-    aenderung->Nimm(*text, false);
-    Umgebung().Tue(std::move(aenderung));
+    aenderung->NimmFigur(*text, false);
+    Umgebung().TueAenderung(std::move(aenderung));
 }
 
 QString BeobachtungLoeschen::Anleitung() const {
@@ -99,10 +99,10 @@ Vorschau BeobachtungLoeschen::Treffer(Liste& netz, Bildpunkt ort) const {
 
 void BeobachtungLoeschen::Klick(Liste& netz, Bildpunkt ort) {
     if (PPunktKante k = netz.PickGezeigte(ort); k != nullptr)
-        Umgebung().Tue(std::make_unique<KanteGeloescht>(netz, *k));
+        Umgebung().TueAenderung(std::make_unique<KanteGeloescht>(netz, *k));
 }
 
-void ErgebnisZeigen::Beende() {
+void ErgebnisZeigen::BeendeWerkzeug() {
     Abbrechen();
     Umgebung().ZeigeNebenfenster(Nebenfenster::Ergebnisse, false);
 }
@@ -122,7 +122,7 @@ void ErgebnisZeigen::Klick(Liste& netz, Bildpunkt ort) {
     if (p != nullptr || k != nullptr) Umgebung().ZeigeErgebnis(p, k);
 }
 
-void Punktzentrierung::Beende() {
+void Punktzentrierung::BeendeWerkzeug() {
     Abbrechen();
     Umgebung().ZeigeNebenfenster(Nebenfenster::Zentrierung, false);
 }

@@ -34,7 +34,7 @@ class Punktwerkzeug : public Klickwerkzeug {
   protected:
     [[nodiscard]] Vorschau Treffer(Liste& netz, Bildpunkt ort) const override;
     void Klick(Liste& netz, Bildpunkt ort) final;
-    virtual void Nimm(Liste& netz, PunktKnoten& punkt) = 0;
+    virtual void NimmPunkt(Liste& netz, PunktKnoten& punkt) = 0;
 };
 
 class PunktLoeschen final : public Punktwerkzeug {
@@ -43,7 +43,7 @@ class PunktLoeschen final : public Punktwerkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   protected:
-    void Nimm(Liste& netz, PunktKnoten& punkt) override;
+    void NimmPunkt(Liste& netz, PunktKnoten& punkt) override;
 };
 
 class PunktVerstecken final : public Punktwerkzeug {
@@ -52,19 +52,19 @@ class PunktVerstecken final : public Punktwerkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   protected:
-    void Nimm(Liste& netz, PunktKnoten& punkt) override;
+    void NimmPunkt(Liste& netz, PunktKnoten& punkt) override;
 };
 
 class PunktartWaehlen final : public Punktwerkzeug {
   public:
     using Punktwerkzeug::Punktwerkzeug;
-    void Beginne() override { Umgebung().ZeigeNebenfenster(Nebenfenster::Punktart, true); }
-    void Beende() override;
+    void BeginneWerkzeug() override { Umgebung().ZeigeNebenfenster(Nebenfenster::Punktart, true); }
+    void BeendeWerkzeug() override;
     [[nodiscard]] QString Anleitung() const override;
 
   protected:
     [[nodiscard]] Vorschau Treffer(Liste& netz, Bildpunkt ort) const override;
-    void Nimm(Liste& netz, PunktKnoten& punkt) override;
+    void NimmPunkt(Liste& netz, PunktKnoten& punkt) override;
 };
 
 /// Takes a number by itself or by its point.
@@ -92,7 +92,7 @@ class BeobachtungLoeschen final : public Klickwerkzeug {
 class ErgebnisZeigen final : public Klickwerkzeug {
   public:
     using Klickwerkzeug::Klickwerkzeug;
-    void Beende() override;
+    void BeendeWerkzeug() override;
     [[nodiscard]] QString Anleitung() const override;
 
   protected:
@@ -104,8 +104,8 @@ class ErgebnisZeigen final : public Klickwerkzeug {
 class Punktzentrierung final : public Klickwerkzeug {
   public:
     using Klickwerkzeug::Klickwerkzeug;
-    void Beginne() override { Umgebung().ZeigeNebenfenster(Nebenfenster::Zentrierung, true); }
-    void Beende() override;
+    void BeginneWerkzeug() override { Umgebung().ZeigeNebenfenster(Nebenfenster::Zentrierung, true); }
+    void BeendeWerkzeug() override;
     [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::ArrowCursor; }
     [[nodiscard]] QString Anleitung() const override;
 

@@ -48,7 +48,7 @@ void NummerVerschieben::Loslassen(Bildpunkt ort) {
     const Bildpunkt abstand{Summe(alt.x, ort.x - anfang_.x), Summe(alt.y, ort.y - anfang_.y)};
     LasseLos();
     if (abstand != alt)
-        umgebung_.Tue(std::make_unique<NummerVersetzt>(*umgebung_.AktuelleListe(), text, abstand));
+        umgebung_.TueAenderung(std::make_unique<NummerVersetzt>(*umgebung_.AktuelleListe(), text, abstand));
 }
 
 void NummerVerschieben::LasseLos() {

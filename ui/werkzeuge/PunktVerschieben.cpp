@@ -23,13 +23,13 @@ void PunktVerschieben::Druecken(Bildpunkt ort) {
     punkt_ = netz != nullptr ? netz->ClickGezeigten(ort) : nullptr;
     if (punkt_ == nullptr) return;
     anfang_ = ort;
-    Fasse(*netz);
+    FassePunkt(*netz);
     Ziehen(ort);
 }
 
 /// What lies at the place of the point, by position and not by number: it must not stay behind when the point
 /// moves.
-void PunktVerschieben::Fasse(Liste& netz) {
+void PunktVerschieben::FassePunkt(Liste& netz) {
     ort_ = BildortVon(*punkt_, netz);
     const Bildbereich dort = Fangbereich(ort_, 0);
     Figurenmenge figuren{{punkt_}, {}, {}};
@@ -88,7 +88,7 @@ void PunktVerschieben::Loslassen(Bildpunkt ort) {
     LasseLos();
     if (versatz == Bildpunkt{}) return;
     Liste& netz = *umgebung_.AktuelleListe();
-    umgebung_.Tue(
+    umgebung_.TueAenderung(
         std::make_unique<PunktVersetzt>(netz, punkt, netz.Versetzt({punkt.XWPu, punkt.YWPu}, versatz)));
 }
 

@@ -20,7 +20,7 @@ class PunktVerschieben final : public Werkzeug {
     [[nodiscard]] QString Anleitung() const override;
 
   private:
-    void Fasse(Liste& netz);
+    void FassePunkt(Liste& netz);
     void LasseLos();
     void ZeigeVerschoben(Zeichner& z, Bildpunkt versatz) const;
 

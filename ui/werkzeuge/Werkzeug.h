@@ -40,7 +40,7 @@ class Werkzeugumgebung {
     virtual void ZeigeVorschau(Vorschau vorschau) = 0;
     virtual void ZeigeStatus(const QString& text) = 0;
     /// Does the change, remembers it for undoing and redraws.
-    virtual void Tue(std::unique_ptr<Netzaenderung> aenderung) = 0;
+    virtual void TueAenderung(std::unique_ptr<Netzaenderung> aenderung) = 0;
 
     // Panning with the mouse: while it moves, the network lies `versatz` [px] from where it was at the
     // beginning.
@@ -55,7 +55,7 @@ class Werkzeugumgebung {
     virtual void AnsichtZurueck() = 0;
 
     /// Puts the eccentre onto the centre, for good.
-    virtual void Zentriere(PunktKnoten& exzentrum, PunktKnoten& zentrum) = 0;
+    virtual void ZentrierePunkt(PunktKnoten& exzentrum, PunktKnoten& zentrum) = 0;
     virtual void VerbergePunkt(PunktKnoten& punkt) = 0;
     /// Fills the dialog of the point kinds.
     virtual void WaehlePunkt(PunktKnoten& punkt) = 0;
@@ -76,8 +76,8 @@ class Werkzeug {
   public:
     virtual ~Werkzeug() = default;
     /// Its button goes down or up.
-    virtual void Beginne() {}
-    virtual void Beende() { Abbrechen(); }
+    virtual void BeginneWerkzeug() {}
+    virtual void BeendeWerkzeug() { Abbrechen(); }
     virtual void Druecken(Bildpunkt ort) = 0;
     virtual void Ziehen(Bildpunkt ort) = 0;
     virtual void Loslassen(Bildpunkt ort) = 0;

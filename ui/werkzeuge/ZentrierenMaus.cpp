@@ -23,7 +23,7 @@ void ZentrierenMaus::Druecken(Bildpunkt ort) {
     }
     if (punkt == exzentrum_) return;  // a double click
     PunktKnoten& exzentrum = *std::exchange(exzentrum_, nullptr);
-    umgebung_.Zentriere(exzentrum, *punkt);
+    umgebung_.ZentrierePunkt(exzentrum, *punkt);
 }
 
 void ZentrierenMaus::Schweben(Bildpunkt ort) {
