@@ -40,9 +40,9 @@ void Pruefe(const QString& name) {
     (void)sitzung.Stand(QStringLiteral("Fensterlage"));
     // What was read is what is written, whatever stands around it.
     Inidatei ini(name, "Sitzung");
-    const QStringList texte = ini.Lies("Dateien");
-    ini.Setze("Dateien", texte);
-    fuzz::Verlange(ini.Lies("Dateien") == texte || texte.isEmpty(), "Setzen und Lesen sind eins");
+    const QStringList texte = ini.LiesTexte("Dateien");
+    ini.SetzeTexte("Dateien", texte);
+    fuzz::Verlange(ini.LiesTexte("Dateien") == texte || texte.isEmpty(), "Setzen und Lesen sind eins");
 }
 
 }  // namespace

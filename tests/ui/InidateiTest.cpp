@@ -53,10 +53,10 @@ TEST_F(InidateiTest, LiestUndSchreibtWieQt) {
         fremde.setValue("S/x", texte.size() == 1 ? QVariant(texte[0]) : QVariant(texte));
         fremde.sync();
         Inidatei eigene(name, "S");
-        EXPECT_EQ(eigene.Lies("x"), texte) << Inhalt();
-        eigene.Setze("x", texte);
-        EXPECT_EQ(eigene.Lies("x"), texte);
-        eigene.Sichere();
+        EXPECT_EQ(eigene.LiesTexte("x"), texte) << Inhalt();
+        eigene.SetzeTexte("x", texte);
+        EXPECT_EQ(eigene.LiesTexte("x"), texte);
+        eigene.SichereDatei();
         fremde.sync();
         EXPECT_EQ(fremde.value("S/x").toStringList(), texte) << Inhalt();
     }
@@ -68,8 +68,8 @@ TEST_F(InidateiTest, FremdeWerteWerdenNieEntschluesselt) {
          {"@Variant(\\0\\0\\0\\b\\x7f\\xff\\xff\\xff)", "\\x40Variant(\\0\\0\\0\\b\\x7f\\xff\\xff\\xff)",
           "\"@Varia\"nt(x)", "@Size(1 1)", "@ByteArray(\\x1)", "@Invalid()"}) {
         Lege(std::string("[S]\nx=") + wert + "\ny=7\n");
-        EXPECT_EQ(Inidatei(name, "S").Lies("x"), QStringList()) << wert;
-        EXPECT_EQ(Inidatei(name, "S").Lies("y"), QStringList("7")) << wert;
+        EXPECT_EQ(Inidatei(name, "S").LiesTexte("x"), QStringList()) << wert;
+        EXPECT_EQ(Inidatei(name, "S").LiesTexte("y"), QStringList("7")) << wert;
     }
 }
 
@@ -77,12 +77,12 @@ TEST_F(InidateiTest, WasAnderenGehoertBleibt) {
     Lege("; von Hand\n\n[A]\nx=1\r\nunlesbar\n[B]\nx = 2\n\n[C]\nx=3");
     Inidatei eine(name, "B");
     Inidatei andere(name, "B");
-    eine.Setze("x", {"20"});
-    eine.Sichere();
-    andere.Setze("neu", {"30"});
-    andere.Sichere();
+    eine.SetzeTexte("x", {"20"});
+    eine.SichereDatei();
+    andere.SetzeTexte("neu", {"30"});
+    andere.SichereDatei();
     EXPECT_EQ(Inhalt(), "; von Hand\n\n[A]\nx=1\nunlesbar\n[B]\nx=20\nneu=30\n\n[C]\nx=3\n");
-    Inidatei(name, "D").Sichere();  // nothing set, nothing written
+    Inidatei(name, "D").SichereDatei();  // nothing set, nothing written
     EXPECT_FALSE(QString::fromStdString(Inhalt()).contains("[D]"));
 }
 

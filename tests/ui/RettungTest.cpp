@@ -22,34 +22,34 @@ TEST(Rettung, HinterlassenesWirdGefundenFremdesNicht) {
     {
         Rettung erstes(pfad, dateien);
         EXPECT_TRUE(erstes.Hinterlassene().isEmpty());
-        erstes.Bewahre("eins");
-        zweites.Bewahre("zwei");
+        erstes.BewahreBytes("eins");
+        zweites.BewahreBytes("zwei");
         EXPECT_EQ(liegt("*.rettung"), 2);
         EXPECT_TRUE(zweites.Hinterlassene().isEmpty()) << "the other one is still at work";
     }
     const QStringList gefunden = zweites.Hinterlassene();
     ASSERT_EQ(gefunden.size(), 1);
-    EXPECT_EQ(zweites.Lies(gefunden[0]), "eins");
+    EXPECT_EQ(zweites.LiesDatei(gefunden[0]), "eins");
     Rettung drittes(pfad, dateien);
     EXPECT_TRUE(drittes.Hinterlassene().isEmpty()) << "the second one is deciding about it";
     zweites.LegeAb(gefunden[0]);
     EXPECT_EQ(liegt("*.verworfen"), 1) << "kept for a change of mind";
-    zweites.Vergiss();
+    zweites.VergissDatei();
     EXPECT_EQ(liegt("*.rettung"), 0) << "a clean end leaves nothing";
-    zweites.Bewahre("zwei");
+    zweites.BewahreBytes("zwei");
     EXPECT_EQ(liegt("*.rettung"), 1) << "the same bytes again after they were forgotten";
 }
 
 TEST(Rettung, OhneOrdnerOderRechteBleibtAllesWieEsIst) {
     Systemdateien dateien;
     Rettung keine(QString(), dateien);
-    EXPECT_NO_THROW(keine.Bewahre("x"));
+    EXPECT_NO_THROW(keine.BewahreBytes("x"));
     EXPECT_TRUE(keine.Hinterlassene().isEmpty());
     const QTemporaryDir ordner;
     QFile datei(ordner.filePath("datei"));
     ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
     Rettung unmoeglich(ordner.filePath("datei/darin"), dateien);
-    EXPECT_THROW(unmoeglich.Bewahre("x"), Fehler);
+    EXPECT_THROW(unmoeglich.BewahreBytes("x"), Fehler);
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ std::optional<Fehler> Einstellungsablage::Lesefehler() const {
 
 std::optional<std::string> Einstellungsablage::LiesWert(std::string_view schluessel) const {
     const QStringList texte =
-        datei_ ? datei_->Lies(schluessel) : registry_->value(Registryname(schluessel)).toStringList();
+        datei_ ? datei_->LiesTexte(schluessel) : registry_->value(Registryname(schluessel)).toStringList();
     if (texte.isEmpty()) return std::nullopt;
     // A text with a comma comes back as several; it was one when the user wrote it.
     return NachUtf8(texte.join(QLatin1Char(',')));
@@ -44,7 +44,7 @@ std::optional<std::string> Einstellungsablage::LiesWert(std::string_view schlues
 
 void Einstellungsablage::SchreibeWert(std::string_view schluessel, const std::string& text) {
     if (datei_) {
-        datei_->Setze(schluessel, {AusUtf8(text)});
+        datei_->SetzeTexte(schluessel, {AusUtf8(text)});
     } else {
         registry_->setValue(Registryname(schluessel), AusUtf8(text));
     }
@@ -54,7 +54,7 @@ void Einstellungsablage::SichereWerte() {
     const std::string text = "Die Einstellungen konnten nicht gespeichert werden";
     if (datei_) {
         try {
-            datei_->Sichere();
+            datei_->SichereDatei();
         } catch (const Fehler& f) {
             throw Fehler(text + ". " + f.Text(), f.Datei());
         }

@@ -14,7 +14,7 @@ constexpr std::size_t kGroesste = std::size_t{1} << 20U;
 
 using Zeilen = std::vector<std::string>;
 
-Zeilen Zerlege(std::string_view inhalt) {
+Zeilen ZerlegeInhalt(std::string_view inhalt) {
     Zeilen zeilen;
     while (!inhalt.empty()) {
         const std::size_t ende = inhalt.find('\n');
@@ -33,7 +33,7 @@ struct Stelle {
     std::optional<std::string_view> wert;  ///< as it stands in the file
 };
 
-Stelle Suche(const Zeilen& zeilen, std::string_view abschnitt, std::string_view schluessel) {
+Stelle SucheSchluessel(const Zeilen& zeilen, std::string_view abschnitt, std::string_view schluessel) {
     Stelle s{zeilen.size(), false, {}};
     bool darin = false;
     for (std::size_t i = 0; i < zeilen.size(); ++i) {
@@ -54,9 +54,9 @@ Stelle Suche(const Zeilen& zeilen, std::string_view abschnitt, std::string_view 
     return s;
 }
 
-void Trage(Zeilen& zeilen, const std::string& abschnitt, const std::string& schluessel,
-           const std::string& wert) {
-    const Stelle s = Suche(zeilen, abschnitt, schluessel);
+void TrageWertEin(Zeilen& zeilen, const std::string& abschnitt, const std::string& schluessel,
+                  const std::string& wert) {
+    const Stelle s = SucheSchluessel(zeilen, abschnitt, schluessel);
     const std::string zeile = schluessel + '=' + wert;
     if (s.wert) {
         zeilen[s.zeile] = zeile;
@@ -75,7 +75,7 @@ constexpr std::u16string_view kBedeutung{u"\n\r\t\0", 4};
 }
 
 /// The character behind a backslash. @param i its place; afterwards that of the last character used
-QChar Entschluessele(const QString& text, qsizetype& i) {
+QChar EntschluesseleZeichen(const QString& text, qsizetype& i) {
     const char16_t c = text[i].unicode();
     if (c == u'x') {
         const qsizetype anfang = i + 1;
@@ -88,7 +88,7 @@ QChar Entschluessele(const QString& text, qsizetype& i) {
 }
 
 /// Appends one value, unless it is none of a text: "@Variant(...)" and its like stand for any type and size.
-void Haenge(QStringList& texte, const QString& text) {
+void HaengeTextAn(QStringList& texte, const QString& text) {
     if (text.startsWith(u"@@")) {
         texte << text.mid(1);
     } else if (!text.startsWith(u'@') || !text.endsWith(u')')) {
@@ -97,20 +97,20 @@ void Haenge(QStringList& texte, const QString& text) {
 }
 
 /// Texts separated by commas; quotes keep commas and blanks.
-QStringList Entschluessele(const QString& wert) {
+QStringList EntschluesseleTexte(const QString& wert) {
     QStringList texte;
     QString text;
     bool offen = false;       // inside quotes
     bool angefuehrt = false;  // some of the text was in quotes: blanks beside them do not count
     const auto schliesse = [&] {
-        Haenge(texte, angefuehrt ? text : text.trimmed());
+        HaengeTextAn(texte, angefuehrt ? text : text.trimmed());
         text.clear();
         angefuehrt = false;
     };
     for (qsizetype i = 0; i < wert.size(); ++i) {
         const QChar c = wert[i];
         if (c == u'\\' && i + 1 < wert.size()) {
-            text += Entschluessele(wert, ++i);
+            text += EntschluesseleZeichen(wert, ++i);
         } else if (c == u'"') {
             offen = !offen;
             if (!angefuehrt) text = text.trimmed();
@@ -125,7 +125,7 @@ QStringList Entschluessele(const QString& wert) {
     return texte;
 }
 
-QString Verschluessele(const QString& text) {
+QString VerschluesseleText(const QString& text) {
     QString aus = text.startsWith(u'@') ? QStringLiteral("@") : QString();
     bool anfuehren = text.isEmpty() || text.trimmed().size() != text.size();
     bool nachHex = false;  // a digit that follows would be taken for one more of the number
@@ -156,35 +156,35 @@ Inidatei::Inidatei(const QString& datei, std::string abschnitt)
     std::error_code fehler;
     if (std::filesystem::status(datei_, fehler).type() == std::filesystem::file_type::not_found) return;
     try {
-        zeilen_ = Zerlege(dateien_.LiesDatei(datei_, kGroesste));
+        zeilen_ = ZerlegeInhalt(dateien_.LiesDatei(datei_, kGroesste));
     } catch (const Fehler& f) {
         lesefehler_ = f;
     }
 }
 
-QStringList Inidatei::Lies(std::string_view schluessel) const {
-    const Stelle s = Suche(zeilen_, abschnitt_, schluessel);
-    return s.wert ? Entschluessele(AusUtf8(*s.wert)) : QStringList();
+QStringList Inidatei::LiesTexte(std::string_view schluessel) const {
+    const Stelle s = SucheSchluessel(zeilen_, abschnitt_, schluessel);
+    return s.wert ? EntschluesseleTexte(AusUtf8(*s.wert)) : QStringList();
 }
 
-void Inidatei::Setze(std::string_view schluessel, const QStringList& texte) {
+void Inidatei::SetzeTexte(std::string_view schluessel, const QStringList& texte) {
     QStringList teile;
     for (const QString& text : texte)
-        teile << Verschluessele(text);
+        teile << VerschluesseleText(text);
     const std::string wert = NachUtf8(teile.join(QStringLiteral(", ")));
     neu_.insert_or_assign(std::string(schluessel), wert);
-    Trage(zeilen_, abschnitt_, std::string(schluessel), wert);
+    TrageWertEin(zeilen_, abschnitt_, std::string(schluessel), wert);
 }
 
-void Inidatei::Sichere() {
+void Inidatei::SichereDatei() {
     if (neu_.empty()) return;
     Zeilen zeilen = zeilen_;
     try {
-        zeilen = Zerlege(dateien_.LiesDatei(datei_, kGroesste));
+        zeilen = ZerlegeInhalt(dateien_.LiesDatei(datei_, kGroesste));
     } catch (const Fehler&) {  // not there, or not readable before either: what is known here takes its place
     }
     for (const auto& [schluessel, wert] : neu_)
-        Trage(zeilen, abschnitt_, schluessel, wert);
+        TrageWertEin(zeilen, abschnitt_, schluessel, wert);
     std::string inhalt;
     for (const std::string& zeile : zeilen)
         inhalt += zeile + '\n';

@@ -26,12 +26,12 @@ class Inidatei {
     [[nodiscard]] const std::optional<Fehler>& Lesefehler() const { return lesefehler_; }
 
     /// The texts of a key, empty where it is not there or holds something else than texts.
-    [[nodiscard]] QStringList Lies(std::string_view schluessel) const;
-    /// @param schluessel without = and blanks. Nothing is written before `Sichere`.
-    void Setze(std::string_view schluessel, const QStringList& texte);
+    [[nodiscard]] QStringList LiesTexte(std::string_view schluessel) const;
+    /// @param schluessel without = and blanks. Nothing is written before `SichereDatei`.
+    void SetzeTexte(std::string_view schluessel, const QStringList& texte);
     /// Puts what was set into the file as it is by now; what others wrote there stays.
     /// @throws Fehler; what was set is then still there for another time
-    void Sichere();
+    void SichereDatei();
 
   private:
     std::filesystem::path datei_;

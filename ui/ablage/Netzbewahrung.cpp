@@ -15,19 +15,19 @@ namespace zrw {
 Netzbewahrung::Netzbewahrung(const Programm& programm, Fenster fenster)
     : programm_(programm), fenster_(std::move(fenster)) {
     constexpr int kMinute = 60000;
-    QObject::connect(&uhr_, &QTimer::timeout, &uhr_, [this] { Bewahre(); });
+    QObject::connect(&uhr_, &QTimer::timeout, &uhr_, [this] { BewahrePlan(); });
     uhr_.start(kMinute);
 }
 
-void Netzbewahrung::Bewahre() {
+void Netzbewahrung::BewahrePlan() {
     if (programm_.rettung == nullptr) return;
     const Plan plan = fenster_.plan();
     if (plan.liste == nullptr) return;
-    if (!plan.ungesichert) return Vergiss();
+    if (!plan.ungesichert) return VergissPlan();
     try {
         // The next run may start in another folder.
         const QString name = QFileInfo(plan.datei).absoluteFilePath();
-        programm_.rettung->Bewahre(SchreibeRettung(*plan.liste, programm_.netz, NachUtf8(name)));
+        programm_.rettung->BewahreBytes(SchreibeRettung(*plan.liste, programm_.netz, NachUtf8(name)));
         gestoert_ = false;
     } catch (const std::exception& f) {
         // Nothing is lost yet: no message box once a minute.
@@ -37,13 +37,13 @@ void Netzbewahrung::Bewahre() {
     }
 }
 
-void Netzbewahrung::Vergiss() {
-    if (programm_.rettung != nullptr) programm_.rettung->Vergiss();
+void Netzbewahrung::VergissPlan() {
+    if (programm_.rettung != nullptr) programm_.rettung->VergissDatei();
 }
 
-void Netzbewahrung::Beende(bool planBleibt) {
+void Netzbewahrung::BeendeBewahrung(bool planBleibt) {
     uhr_.stop();
-    planBleibt ? Bewahre() : Vergiss();
+    planBleibt ? BewahrePlan() : VergissPlan();
 }
 
 bool Netzbewahrung::BieteAn() {
@@ -51,7 +51,7 @@ bool Netzbewahrung::BieteAn() {
     Rettung& rettung = *programm_.rettung;
     for (const QString& datei : rettung.Hinterlassene()) {
         try {
-            std::optional<Rettungsstand> stand = Lies(datei);
+            std::optional<Rettungsstand> stand = LiesStand(datei);
             if (!stand) continue;
             const QString name = AusUtf8(stand->name);
             if (!Gewollt(name, datei)) {
@@ -62,8 +62,8 @@ bool Netzbewahrung::BieteAn() {
             lesung.liste = std::move(stand->liste);
             lesung.netz = stand->netz;
             fenster_.uebernimm(std::move(lesung), NachPfad(name));
-            Bewahre();
-            rettung.Entferne(datei);
+            BewahrePlan();
+            rettung.EntferneDatei(datei);
             return true;
         } catch (const std::exception& f) {
             fenster_.zeigeFehler(f);  // the file stays: the next start may have more luck
@@ -83,8 +83,8 @@ bool Netzbewahrung::Gewollt(const QString& name, const QString& datei) const {
 
 /// @return nothing for a damaged file, which is put aside
 /// @throws std::exception where the plot may be read another time
-std::optional<Rettungsstand> Netzbewahrung::Lies(const QString& datei) {
-    const std::string bytes = programm_.rettung->Lies(datei);
+std::optional<Rettungsstand> Netzbewahrung::LiesStand(const QString& datei) {
+    const std::string bytes = programm_.rettung->LiesDatei(datei);
     try {
         return LiesRettung(bytes, programm_.einstellungen, NachUtf8(datei));
     } catch (const Fehler& f) {

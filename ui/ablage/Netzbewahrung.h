@@ -38,16 +38,16 @@ class Netzbewahrung {
     Netzbewahrung(const Programm& programm, Fenster fenster);
 
     /// Keeps the plot where it is unsaved. Also for the moment before work that other programs take part in.
-    void Bewahre();
+    void BewahrePlan();
     /// What is kept is not needed any more.
-    void Vergiss();
+    void VergissPlan();
     /// The program ends. @param planBleibt the unsaved plot is offered at the next start
-    void Beende(bool planBleibt);
+    void BeendeBewahrung(bool planBleibt);
     /// Offers plots that an earlier run could not save. @return whether one is shown now
     [[nodiscard]] bool BieteAn();
 
   private:
-    std::optional<Rettungsstand> Lies(const QString& datei);
+    std::optional<Rettungsstand> LiesStand(const QString& datei);
     [[nodiscard]] bool Gewollt(const QString& name, const QString& datei) const;
 
     const Programm& programm_;

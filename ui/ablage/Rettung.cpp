@@ -18,7 +18,7 @@ constexpr int kTage = 7;  ///< files put aside are kept so long
 constexpr int kMeisteVersuche = 1000;
 constexpr std::size_t kGroesste = std::size_t{64} << 20U;
 
-std::unique_ptr<QLockFile> Sperre(const QString& datei) {
+std::unique_ptr<QLockFile> SperreDatei(const QString& datei) {
     auto sperre = std::make_unique<QLockFile>(datei + kSperre);
     // A lock is as old as its program; only one whose program is gone is stale.
     sperre->setStaleLockTime(0);
@@ -28,13 +28,13 @@ std::unique_ptr<QLockFile> Sperre(const QString& datei) {
 }  // namespace
 
 /// Finds a name that no other program uses.
-bool Rettung::Belege() {
+bool Rettung::BelegeDatei() {
     if (!datei_.isEmpty()) return true;
     if (ordner_.isEmpty() || !QDir().mkpath(ordner_)) return false;
     for (int i = 1; i <= kMeisteVersuche; ++i) {
         const QString datei = QDir(ordner_).filePath(
             QStringLiteral("%1-%2").arg(QCoreApplication::applicationPid()).arg(i) + kEndung);
-        auto sperre = Sperre(datei);
+        auto sperre = SperreDatei(datei);
         if (QFileInfo::exists(datei) || !sperre->tryLock()) continue;
         datei_ = datei;
         sperre_ = std::move(sperre);
@@ -43,18 +43,18 @@ bool Rettung::Belege() {
     return false;
 }
 
-void Rettung::Bewahre(const std::string& bytes) {
+void Rettung::BewahreBytes(const std::string& bytes) {
     if (ordner_.isEmpty()) return;
     const std::size_t stand = std::hash<std::string>()(bytes);
     if (bewahrt_ && stand == stand_) return;
-    if (!Belege())
+    if (!BelegeDatei())
         throw Fehler("Der Ordner für den Netzplan im Notfall ist nicht beschreibbar.", NachUtf8(ordner_));
     dateien_.ErsetzeDatei(NachPfad(datei_), bytes);
     stand_ = stand;
     bewahrt_ = true;
 }
 
-void Rettung::Vergiss() {
+void Rettung::VergissDatei() {
     if (!datei_.isEmpty()) QFile::remove(datei_);
     bewahrt_ = false;
 }
@@ -69,7 +69,7 @@ QStringList Rettung::Hinterlassene() {
     for (const QFileInfo& f :
          ordner.entryInfoList({QStringLiteral("*") + kEndung}, QDir::Files, QDir::Time | QDir::Reversed)) {
         if (f.filePath() == datei_) continue;
-        auto sperre = Sperre(f.filePath());
+        auto sperre = SperreDatei(f.filePath());
         if (!sperre->tryLock()) continue;  // its program is at work
         fremde_.push_back(std::move(sperre));
         gefunden << f.filePath();
@@ -77,7 +77,7 @@ QStringList Rettung::Hinterlassene() {
     return gefunden;
 }
 
-std::string Rettung::Lies(const QString& datei) const {
+std::string Rettung::LiesDatei(const QString& datei) const {
     return dateien_.LiesDatei(NachPfad(datei), kGroesste);
 }
 
@@ -86,7 +86,7 @@ void Rettung::LegeAb(const QString& datei) {
     QFile::rename(datei, datei + kAbgelegt);
 }
 
-void Rettung::Entferne(const QString& datei) {
+void Rettung::EntferneDatei(const QString& datei) {
     QFile::remove(datei);
 }
 

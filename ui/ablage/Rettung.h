@@ -23,20 +23,20 @@ class Rettung {
 
     /// Keeps the bytes in place of those before. What is kept already is not written again.
     /// @throws Fehler where they cannot be written
-    void Bewahre(const std::string& bytes);
+    void BewahreBytes(const std::string& bytes);
     /// Nothing needs to be kept any more.
-    void Vergiss();
+    void VergissDatei();
 
     /// Files that were left behind, oldest first. Each is this program's from now on, until it is done with.
     [[nodiscard]] QStringList Hinterlassene();
-    [[nodiscard]] std::string Lies(const QString& datei) const;
+    [[nodiscard]] std::string LiesDatei(const QString& datei) const;
     /// The file is not wanted: it is put aside for some days, in case that was an error.
     void LegeAb(const QString& datei);
     /// Its plot is kept elsewhere.
-    void Entferne(const QString& datei);
+    void EntferneDatei(const QString& datei);
 
   private:
-    [[nodiscard]] bool Belege();
+    [[nodiscard]] bool BelegeDatei();
 
     QString ordner_;
     Dateien& dateien_;

@@ -21,52 +21,52 @@ Sitzung::Sitzung() : Sitzung(EigeneDatei()) {}
 
 Sitzung::Sitzung(const QString& inidatei) : ablage_(inidatei, "Sitzung") {
     bald_.setSingleShot(true);
-    bald_.callOnTimeout([this] { Sichere(); });
+    bald_.callOnTimeout([this] { SichereAblage(); });
 }
 
 Sitzung::~Sitzung() {
-    Sichere();
+    SichereAblage();
 }
 
-void Sitzung::Setze(std::string_view schluessel, const QStringList& texte) {
-    ablage_.Setze(schluessel, texte);
+void Sitzung::SetzeTexte(std::string_view schluessel, const QStringList& texte) {
+    ablage_.SetzeTexte(schluessel, texte);
     bald_.start();
 }
 
-void Sitzung::Sichere() {
+void Sitzung::SichereAblage() {
     if (ablage_.Lesefehler()) return;
     try {
-        ablage_.Sichere();
+        ablage_.SichereDatei();
     } catch (const std::exception&) {  // the next run begins as this one did
     }
 }
 
 QStringList Sitzung::LetzteDateien() const {
-    return ablage_.Lies(kDateien).mid(0, kLetzteDateien);
+    return ablage_.LiesTexte(kDateien).mid(0, kLetzteDateien);
 }
 
 void Sitzung::NimmDatei(const QString& datei) {
     QStringList dateien = LetzteDateien();
     dateien.removeAll(datei);
     dateien.prepend(datei);
-    Setze(kDateien, dateien.mid(0, kLetzteDateien));
+    SetzeTexte(kDateien, dateien.mid(0, kLetzteDateien));
 }
 
 QString Sitzung::Ordner() const {
     // A comma in the name, written by hand, has made two of it.
-    return ablage_.Lies(kOrdner).join(QLatin1Char(','));
+    return ablage_.LiesTexte(kOrdner).join(QLatin1Char(','));
 }
 
 void Sitzung::MerkeOrdner(const QString& ordner) {
-    Setze(kOrdner, {ordner});
+    SetzeTexte(kOrdner, {ordner});
 }
 
 QByteArray Sitzung::Stand(const QString& name) const {
-    return QByteArray::fromBase64(ablage_.Lies(NachUtf8(name)).value(0).toLatin1());
+    return QByteArray::fromBase64(ablage_.LiesTexte(NachUtf8(name)).value(0).toLatin1());
 }
 
 void Sitzung::MerkeStand(const QString& name, const QByteArray& stand) {
-    Setze(NachUtf8(name), {QString::fromLatin1(stand.toBase64())});
+    SetzeTexte(NachUtf8(name), {QString::fromLatin1(stand.toBase64())});
 }
 
 }  // namespace zrw

@@ -36,8 +36,8 @@ class Sitzung {
     void MerkeStand(const QString& name, const QByteArray& stand);
 
   private:
-    void Setze(std::string_view schluessel, const QStringList& texte);
-    void Sichere();
+    void SetzeTexte(std::string_view schluessel, const QStringList& texte);
+    void SichereAblage();
 
     Inidatei ablage_;
     QTimer bald_;  ///< one action remembers several things: they are written together

@@ -38,7 +38,7 @@ void TZrwMainDlg::SpeedButton12Click() {
 
 void TZrwMainDlg::SpeedButton16Click() {
     if (!plan_.Offen()) return;
-    bewahrung_.Bewahre();
+    bewahrung_.BewahrePlan();
     BrichAb();  // what is written is what the user let go of last
     const auto massstab = druck_.Massstab();
     if (!massstab) return;

@@ -185,7 +185,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         ereignis->ignore();
         return;
     }
-    bewahrung_.Beende(planBleibt_);
+    bewahrung_.BeendeBewahrung(planBleibt_);
     LoeseWerkzeuge();
     // An open settings window keeps what was chosen in it; the help would keep the program running.
     for (QDialog* dialog : findChildren<QDialog*>())
@@ -328,7 +328,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     druck_.Rahmen().Loese();
     punktart_->LoesePunkt();
     ansicht_.NeuesNetz();
-    bewahrung_.Vergiss();
+    bewahrung_.VergissPlan();
     zentrierkasten_->Beginne();
     plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
     ComboBox1_->Sortiere(IstBilddatei(datei));
@@ -378,7 +378,7 @@ bool TZrwMainDlg::Speichere() {
         ZeigeFehler(f);
         return false;
     }
-    bewahrung_.Vergiss();
+    bewahrung_.VergissPlan();
     ordner_ = QFileInfo(*name).absolutePath();
     programm_.sitzung.MerkeOrdner(ordner_);
     programm_.sitzung.NimmDatei(QFileInfo(*name).absoluteFilePath());

@@ -19,7 +19,7 @@ static QString Titel(const std::filesystem::path& datei) {
 
 void TZrwMainDlg::SpeedButton5Click() {
     if (!plan_.Offen()) return;
-    bewahrung_.Bewahre();
+    bewahrung_.BewahrePlan();
     const auto massstab = druck_.Massstab();
     if (!massstab || !programm_.drucker.Waehle(this)) return;
     druck_.AktualisiereRahmen();  // other paper may have been chosen
@@ -37,7 +37,7 @@ void TZrwMainDlg::SpeedButton5Click() {
 
 void TZrwMainDlg::VorschauClick() {
     if (!plan_.Offen()) return;
-    bewahrung_.Bewahre();
+    bewahrung_.BewahrePlan();
     BrichAb();
     const auto massstab = druck_.Massstab();
     if (!massstab) return;
