@@ -38,8 +38,8 @@ void SetzeSchalter(const Aufruf& aufruf, Lesung& lesung, Zeichenzustand& zustand
         return std::find(namen.begin(), namen.end(), s.name) != namen.end();
     };
     for (const Schalter& s : kSchalter) {
-        Schalte(s, (s.anfangs || genannt(aufruf.ein, s)) && !genannt(aufruf.aus, s), lesung.liste.get(),
-                lesung.netz, zustand);
+        StelleEin(s, (s.anfangs || genannt(aufruf.ein, s)) && !genannt(aufruf.aus, s), lesung.liste.get(),
+                  lesung.netz, zustand);
     }
 }
 

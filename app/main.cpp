@@ -27,13 +27,13 @@ std::vector<std::string> Worte(int argc, char** argv) {
 /// What was kept and could not be read. The program runs with its defaults.
 void MeldeLesefehler(const Einstellungsablage& ablage, const Sitzung& sitzung, Dialogdienst& dialoge) {
     if (const auto f = ablage.Lesefehler()) {
-        dialoge.Melde(
+        dialoge.MeldeFehler(
             AusUtf8(f->what()) +
             QStringLiteral("\nEs gelten die üblichen Einstellungen. Die Datei bleibt, wie sie ist, bis "
                            "Einstellungen gespeichert werden."));
     }
     if (const auto& f = sitzung.Lesefehler()) {
-        dialoge.Melde(
+        dialoge.MeldeFehler(
             AusUtf8(f->what()) +
             QStringLiteral("\nDie letzten Dateien und die Lage des Fensters werden nicht gemerkt."));
     }
@@ -71,7 +71,7 @@ int Fenster(const Aufruf& aufruf) {
         [&] {
             MeldeLesefehler(ablage, sitzung, dialoge);
             if (fenster.BieteRettungAn()) return;
-            if (!aufruf.datei.empty()) fenster.Oeffne(TextPfad(aufruf.datei));
+            if (!aufruf.datei.empty()) fenster.OeffneDatei(TextPfad(aufruf.datei));
         },
         Qt::QueuedConnection);
     return QApplication::exec();

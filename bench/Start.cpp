@@ -84,7 +84,7 @@ void VollesFenster(const std::string& datei) {
     zrw::TZrwMainDlg fenster{{e, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1"}};
     fenster.resize(kWeite, kHoehe);
     fenster.show();
-    fenster.Oeffne(zrw::TextPfad(datei));
+    fenster.OeffneDatei(zrw::TextPfad(datei));
     QApplication::processEvents();
     const QWidget& bild = *fenster.findChild<QWidget*>("ImageZarwik");
     const auto pixel = static_cast<std::size_t>(bild.width()) * static_cast<std::size_t>(bild.height());

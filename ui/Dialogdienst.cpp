@@ -29,26 +29,26 @@ QWidget* QtDialogdienst::Eltern() const {
     return fenster != nullptr && fenster->isVisible() ? fenster : eltern_;
 }
 
-void QtDialogdienst::Zeige(int symbol, const QString& text) {
+void QtDialogdienst::ZeigeMeldung(int symbol, const QString& text) {
     QMessageBox box(static_cast<QMessageBox::Icon>(symbol), QStringLiteral("Zarwik"), text, QMessageBox::Ok,
                     Eltern());
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
-void QtDialogdienst::Melde(const QString& text) {
-    Zeige(QMessageBox::Warning, text);
+void QtDialogdienst::MeldeFehler(const QString& text) {
+    ZeigeMeldung(QMessageBox::Warning, text);
 }
 
-void QtDialogdienst::Sage(const QString& text) {
-    Zeige(QMessageBox::Information, text);
+void QtDialogdienst::SageErfolg(const QString& text) {
+    ZeigeMeldung(QMessageBox::Information, text);
 }
 
-bool QtDialogdienst::Frage(const QString& text) {
-    return Frage(text, false);
+bool QtDialogdienst::FrageJaNein(const QString& text) {
+    return FrageJaNein(text, false);
 }
 
-bool QtDialogdienst::Frage(const QString& text, bool escapeIstNein) {
+bool QtDialogdienst::FrageJaNein(const QString& text, bool escapeIstNein) {
     QMessageBox box(QMessageBox::Question, QStringLiteral("Zarwik"), text, QMessageBox::NoButton, Eltern());
     const auto* ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
     // Not QMessageBox::NoRole: Escape would press that, and a plot would be gone for one key too many.
@@ -106,7 +106,8 @@ std::optional<QString> QtDialogdienst::WaehleZumSpeichern(const Dateiwahl& wahl)
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString name = MitEndung(dialog.selectedFiles().front(), wahl.endung);
         const QString frage = QStringLiteral("%1 ist bereits vorhanden. Ersetzen?");
-        if (!QFileInfo::exists(name) || Frage(frage.arg(QDir::toNativeSeparators(name)), true)) return name;
+        if (!QFileInfo::exists(name) || FrageJaNein(frage.arg(QDir::toNativeSeparators(name)), true))
+            return name;
     }
     return std::nullopt;
 }

@@ -30,11 +30,11 @@ class Dialogdienst {
   public:
     virtual ~Dialogdienst() = default;
     /// What went wrong.
-    virtual void Melde(const QString& text) = 0;
+    virtual void MeldeFehler(const QString& text) = 0;
     /// What has been done.
-    virtual void Sage(const QString& text) = 0;
+    virtual void SageErfolg(const QString& text) = 0;
     /// Yes or no.
-    [[nodiscard]] virtual bool Frage(const QString& text) = 0;
+    [[nodiscard]] virtual bool FrageJaNein(const QString& text) = 0;
     /// Yes or no, or none of both: cancelled.
     [[nodiscard]] virtual std::optional<bool> FrageMitAbbruch(const QString& text) = 0;
     [[nodiscard]] virtual std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) = 0;
@@ -51,9 +51,9 @@ class QtDialogdienst final : public Dialogdienst {
   public:
     /// @param eltern may be set later, may be null
     void SetzeEltern(QWidget* eltern) { eltern_ = eltern; }
-    void Melde(const QString& text) override;
-    void Sage(const QString& text) override;
-    bool Frage(const QString& text) override;
+    void MeldeFehler(const QString& text) override;
+    void SageErfolg(const QString& text) override;
+    bool FrageJaNein(const QString& text) override;
     std::optional<bool> FrageMitAbbruch(const QString& text) override;
     std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) override;
     std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) override;
@@ -63,9 +63,9 @@ class QtDialogdienst final : public Dialogdienst {
 
   private:
     [[nodiscard]] QWidget* Eltern() const;
-    void Zeige(int symbol, const QString& text);
+    void ZeigeMeldung(int symbol, const QString& text);
     /// @param escapeIstNein where "no" loses nothing
-    [[nodiscard]] bool Frage(const QString& text, bool escapeIstNein);
+    [[nodiscard]] bool FrageJaNein(const QString& text, bool escapeIstNein);
 
     QWidget* eltern_ = nullptr;
 };

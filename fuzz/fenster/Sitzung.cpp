@@ -56,7 +56,7 @@ class Sitzungslauf {
                 Bediene(*dialog, true);
         });
         modal_.start(0);
-        fenster_.Oeffne(beispiel.toStdString());
+        fenster_.OeffneDatei(beispiel.toStdString());
     }
 
     void Ereignis() {
@@ -170,7 +170,7 @@ class Sitzungslauf {
         }};
         const auto& [taste, dazu] = kTasten[Wuerfle(kTasten.size())];
         if (taste == Qt::Key_Z) return fenster_.Rueckgaengig();
-        if (taste == Qt::Key_Y) return fenster_.Wiederhole();
+        if (taste == Qt::Key_Y) return fenster_.WiederholeSchritt();
         QTest::keyClick(&Bild(), taste, dazu);
     }
     void Knopf() { Bediene(fenster_, false); }
@@ -210,7 +210,7 @@ class Sitzungslauf {
             QFile::copy(QStringLiteral(ZRW_QUELLE "/beispiele/NETZ.EIN"), dateien_[0]);
             Lege("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, 1}));
         }
-        if (Wuerfle(20) == 0) fenster_.Oeffne(dateien_[Stelle(dateien_.size())].toStdString());
+        if (Wuerfle(20) == 0) fenster_.OeffneDatei(dateien_[Stelle(dateien_.size())].toStdString());
     }
 
     /// Uses one control of a window.

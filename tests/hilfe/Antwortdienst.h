@@ -21,8 +21,8 @@ class Antwortdienst final : public Dialogdienst {
     std::optional<QString> bitmap;  ///< for pictures in place of `datei`
     std::optional<Farbe> farbe;     ///< chosen in every colour dialog; none: cancelled
 
-    void Melde(const QString& text) override { meldungen << text; }
-    void Sage(const QString& text) override { gesagt << text; }
+    void MeldeFehler(const QString& text) override { meldungen << text; }
+    void SageErfolg(const QString& text) override { gesagt << text; }
     std::optional<bool> FrageMitAbbruch(const QString& text) override {
         fragen << text;
         return antwort;
@@ -32,7 +32,7 @@ class Antwortdienst final : public Dialogdienst {
         auswahl = texte;
         return datei;
     }
-    bool Frage(const QString& text) override {
+    bool FrageJaNein(const QString& text) override {
         fragen << text;
         return ja;
     }

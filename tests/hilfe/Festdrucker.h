@@ -20,9 +20,9 @@ class Festdrucker final : public Drucker {
 
     [[nodiscard]] int Aufloesung() const override { return 600; }
     [[nodiscard]] Druckseite Seite() const override { return {1200, 900, 600.0}; }
-    bool Waehle(QWidget* /*eltern*/) override { return angenommen; }
+    bool WaehleDrucker(QWidget* /*eltern*/) override { return angenommen; }
     bool RichteEin(QWidget* /*eltern*/) override { return angenommen; }
-    void Drucke(const Druckwerk& werk) override {
+    void DruckeBlaetter(const Druckwerk& werk) override {
         titel << werk.titel;
         Male(werk);
         if (kaputt) throw Fehler("Papierstau.");

@@ -59,7 +59,7 @@ TEST_F(Aenderungen, SternUndStandDerSicherung) {
     EXPECT_FALSE(stern());
     fenster.Rueckgaengig();
     EXPECT_TRUE(stern()) << "undone behind what is saved";
-    fenster.Wiederhole();
+    fenster.WiederholeSchritt();
     EXPECT_FALSE(stern());
     fenster.Rueckgaengig();
     Ziehe(A + QPoint(10, 0), A + QPoint(10, 30));

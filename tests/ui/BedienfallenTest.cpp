@@ -72,7 +72,7 @@ TEST_F(Bedienfallen, WiederholenMittenImZiehen) {
             Modus(f.zug);
             Druecke(f.druck);
             Bewege({200, 300});
-            fenster.Wiederhole();
+            fenster.WiederholeSchritt();
             if (abbrechen) Taste(Qt::Key_Escape);
             Lass({200, 300});
             EXPECT_EQ(Aenderung(nachher), QStringList());
@@ -91,7 +91,7 @@ TEST_F(Bedienfallen, EinfuegenZurueckMittenImZiehen) {
     Druecke(q);
     fenster.Rueckgaengig();
     Lass(q + QPoint(30, 30));
-    fenster.Wiederhole();
+    fenster.WiederholeSchritt();
     EXPECT_EQ(Aenderung(mit), QStringList());
 }
 
@@ -301,7 +301,7 @@ TEST_F(Bedienfallen, WerkzeugOhneNetzDannNetz) {
     zweites.show();
     for (const auto& [knopf, name] : kDialoge) {
         zweites.findChild<QToolButton*>(knopf)->setChecked(true);
-        zweites.Oeffne(ordner.filePath("n.EIN").toStdString());
+        zweites.OeffneDatei(ordner.filePath("n.EIN").toStdString());
         EXPECT_TRUE(zweites.findChild<QDialog*>(name)->isVisible()) << name;
     }
 }

@@ -102,7 +102,7 @@ TEST_F(Bedienwege, ZentrierenLaesstAndereSchritteRuecknehmbar) {
     fenster.Rueckgaengig();
     EXPECT_EQ(Status(), "Es gibt nichts zurückzunehmen.");
     for (int i = 0; i < 9; ++i)
-        fenster.Wiederhole();
+        fenster.WiederholeSchritt();
     EXPECT_EQ(Status(), "Es gibt nichts zu wiederholen.");
     EXPECT_EQ(fenster.Netz()->MaxPkte, 4);
     PruefeNetz();
@@ -235,7 +235,7 @@ TEST_F(Bedienwege, EinPlanUeberstehtDasEndeOhneSpeichern) {
             {einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1"}};
         leeres.SpeedButton7Click();
         EXPECT_TRUE(dialoge.fragen.isEmpty()) << "without a network there is nothing to ask";
-        zweites.Oeffne(ordner.filePath("n.EIN").toStdString());
+        zweites.OeffneDatei(ordner.filePath("n.EIN").toStdString());
         dialoge.ja = true;
         zweites.findChild<QToolButton*>("DelPunktButton")->setChecked(true);
         QTest::mouseClick(zweites.findChild<QWidget*>("ImageZarwik"), Qt::LeftButton, {},

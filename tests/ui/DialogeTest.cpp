@@ -74,7 +74,7 @@ TEST(Beobachtungstyp, WahlUndTyp) {
 TEST(TFormBeobTyp, GpsNieIndirekt) {
     Antwortdienst dialoge;
     TFormBeobTyp form(dialoge, nullptr);
-    form.Zeige({0, false, true, false, 2});
+    form.ZeigeWahl({0, false, true, false, 2});
     Klicke(form, {"CheckBoxInd"});
     EXPECT_EQ(dialoge.gesagt, QStringList{"GPS indirekt nicht möglich!"});
     EXPECT_EQ(form.Wahl(), (Beobachtungswahl{0, false, true, false, 2}));
@@ -82,7 +82,7 @@ TEST(TFormBeobTyp, GpsNieIndirekt) {
 
 TEST(TFormPunktart, FremdesSymbolUndArtNachFarbe) {
     TFormPunktart form(nullptr);
-    form.Zeige({"12", PunktArt::FH, static_cast<PunktTyp>(9), "1", "2", false});
+    form.ZeigeEingabe({"12", PunktArt::FH, static_cast<PunktTyp>(9), "1", "2", false});
     EXPECT_EQ(form.Eingabe().symbol, static_cast<PunktTyp>(9)) << "no button for it, kept";
     Einstellungen s;
     s.FHCol = s.NPCol;
@@ -95,14 +95,14 @@ TEST(TFormHidePunkte, GefiltertSortiertUndMitAllenPunktenSchnell) {
     TFormHidePunkte form(nullptr);
     TFormHiddenPkt versteckt(nullptr);
     auto& liste = Finde<QListView>(form, "ListBoxPkt");
-    form.verstecken = [&](const QStringList& nummern) { versteckt.Nimm(nummern); };
-    form.Fuelle({"B2", "a1", "C3", "A4"});
+    form.verstecken = [&](const QStringList& nummern) { versteckt.NimmNummern(nummern); };
+    form.FuelleListe({"B2", "a1", "C3", "A4"});
     Waehle(liste, {3, 0, 1});
     QTest::keyClicks(&Finde<QLineEdit>(form, "FilterPkt"), "A");
     Klicke(form, {"Button1", "Button1"});
     EXPECT_EQ(versteckt.Nummern(), (QStringList{"a1", "a1", "A4", "A4"}));
     Waehle(Finde<QListView>(versteckt, "ListBox1"), {1, 2});
-    versteckt.Nimm("a0");  // what is selected stays selected around it
+    versteckt.NimmNummer("a0");  // what is selected stays selected around it
     QStringList gezeigt;
     versteckt.zeige = [&](const QString& nummer) { gezeigt << nummer; };
     Klicke(versteckt, {"UnhiddenButton"});
@@ -114,7 +114,7 @@ TEST(TFormHidePunkte, GefiltertSortiertUndMitAllenPunktenSchnell) {
     form.show();
     QElapsedTimer uhr;
     uhr.start();
-    form.Fuelle(viele);
+    form.FuelleListe(viele);
     EXPECT_FALSE(liste.isRowHidden(0)) << "new entries, no filter";
     QTest::keyClicks(&Finde<QLineEdit>(form, "FilterPkt"), "1\b");
     liste.selectAll();

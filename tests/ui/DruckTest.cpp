@@ -24,7 +24,7 @@ class Druckfenster : public Fensterprobe {
 };
 
 TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     Taste(Qt::Key_Left);  // the sheet begins in the picture's corner: symbols need room there
     Taste(Qt::Key_Up);
     einstellungen.ResMF = 0.1;
@@ -50,7 +50,7 @@ TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
 }
 
 TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const QImage vorher = fenster.Bild().copy();
     Blattbreite(100);
     Drucke();
@@ -97,7 +97,7 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
 }
 
 TEST_F(Druckfenster, AusgabebereichLiegtUeberDemBildUndImBitmap) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const QImage ohne = fenster.Bild().copy();
     Blattbreite(400);
     Kasten("CheckBoxPreview").click();
@@ -117,7 +117,7 @@ TEST_F(Druckfenster, AusgabebereichLiegtUeberDemBildUndImBitmap) {
 }
 
 TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     Blattbreite(200);
     QCheckBox& kasten = Kasten("CheckBoxPreview");
     kasten.click();
@@ -170,15 +170,15 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
     EXPECT_EQ(seite.aufloesung, 600);
     EXPECT_NEAR(seite.weite * 25.4 / seite.aufloesung, 400, 0.5) << "Qt rounds papers to points";
     EXPECT_NEAR(seite.hoehe * 25.4 / seite.aufloesung, 277, 0.5);
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     Liste& liste = const_cast<Liste&>(*fenster.Netz());
     const Welt ecke = liste.BildinWelt({});
     const auto drucke = [&](double massstab) {
-        echter.Drucke({"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
-                           zrw::DruckePlan(liste.Vorlage(), {zustand, einstellungen, netz, uhr},
-                                           Geraetegroessen(einstellungen, Geraetefaktor(seite)), blatt,
-                                           {massstab, "100000", seite, ecke});
-                       }});
+        echter.DruckeBlaetter({"Zarwik Probe", Zeichenschrift(), 1, [&](Zeichenflaeche& blatt, int /*nr*/) {
+                                   zrw::DruckePlan(liste.Vorlage(), {zustand, einstellungen, netz, uhr},
+                                                   Geraetegroessen(einstellungen, Geraetefaktor(seite)),
+                                                   blatt, {massstab, "100000", seite, ecke});
+                               }});
     };
     drucke(100000);
     QProcess text;
@@ -212,7 +212,7 @@ TEST_F(Druckfenster, PdfHatMassstabTextUndNurDasBlatt) {
     Systemdrucker knapp(voll);
     knapp.DruckeInDatei("voll.pdf", QPageLayout());
     const auto strich = [](Zeichenflaeche& blatt, int /*nr*/) { blatt.Linie({0, 0}, {9, 9}); };
-    EXPECT_THROW(knapp.Drucke({"voll", Zeichenschrift(), 1, strich}), Fehler);
+    EXPECT_THROW(knapp.DruckeBlaetter({"voll", Zeichenschrift(), 1, strich}), Fehler);
     EXPECT_TRUE(voll.dateien.empty());
 }
 
@@ -221,12 +221,12 @@ TEST_F(Druckfenster, StricheAufDemPapierSindGanzUndSoLangWieImBild) {
     Systemdrucker echter(dateien);
     echter.DruckeInDatei(pdf, QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {10, 10, 10, 10},
                                           QPageLayout::Millimeter));
-    echter.Drucke({"Striche", Zeichenschrift(), 1, [](Zeichenflaeche& blatt, int /*nr*/) {
-                       blatt.SetzePinsel({kWeiss, true});
-                       blatt.ZeichneRechteck({0, 0, 1500, 400});
-                       blatt.SetzeStift({kSchwarz, 1, Strichart::Gestrichelt});
-                       blatt.Linie({50, 200}, {1450, 200});
-                   }});
+    echter.DruckeBlaetter({"Striche", Zeichenschrift(), 1, [](Zeichenflaeche& blatt, int /*nr*/) {
+                               blatt.SetzePinsel({kWeiss, true});
+                               blatt.ZeichneRechteck({0, 0, 1500, 400});
+                               blatt.SetzeStift({kSchwarz, 1, Strichart::Gestrichelt});
+                               blatt.Linie({50, 200}, {1450, 200});
+                           }});
     if (QProcess::execute("pdftoppm", {"-r", "600", "-mono", "-W", "2000", "-H", "800", "-singlefile", pdf,
                                        ordner.filePath("blatt")}) != 0)
         GTEST_SKIP() << "pdftoppm is not installed";

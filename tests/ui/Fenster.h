@@ -45,7 +45,7 @@ class Fensterprobe : public testing::Test {
     void Lege(const QString& name, const std::string& inhalt) const {
         std::ofstream(ordner.filePath(name).toStdString(), std::ios::binary) << inhalt;
     }
-    void Oeffne(const QString& name) { fenster.Oeffne(ordner.filePath(name).toStdString()); }
+    void Oeffne(const QString& name) { fenster.OeffneDatei(ordner.filePath(name).toStdString()); }
     template <class Teil>
     [[nodiscard]] Teil& Kind(const char* name) const {
         return *fenster.findChild<Teil*>(name);

@@ -33,7 +33,7 @@ TEST_F(Hauptfenster, OhneNetzTutKeinHandlerEtwas) {
 }
 
 TEST_F(Hauptfenster, OeffnetDasBeispielEingepasst) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     ASSERT_NE(fenster.Netz(), nullptr);
     EXPECT_TRUE(fenster.windowTitle().startsWith("Zarwik ") && fenster.windowTitle().endsWith("NETZ.EIN"));
     EXPECT_TRUE(Status().contains("165 Punkte")) << Status().toStdString();
@@ -45,7 +45,7 @@ TEST_F(Hauptfenster, OeffnetDasBeispielEingepasst) {
 }
 
 TEST_F(Hauptfenster, FehlerLassenDasNetzStehen) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const Liste* netzVorher = fenster.Netz();
     const QImage bildVorher = fenster.Bild().copy();
     const QString titel = fenster.windowTitle();
@@ -76,7 +76,7 @@ TEST_F(Hauptfenster, OhneSpeicherBleibtAllesWieEsWar) {
     enge.dateien = {{"/n.EIN", "$NT 3\n$FP A              1 1 1\n"}, {"/klein.ZRW", ""}};
     TZrwMainDlg zweites(
         {einstellungen, ablage, netz, zustand, enge, uhr, daten, drucker, dialoge, sitzung, "1.2"});
-    zweites.Oeffne("/n.EIN");
+    zweites.OeffneDatei("/n.EIN");
     const Liste* vorher = zweites.Netz();
     ASSERT_NE(vorher, nullptr);
     const QString titel = zweites.windowTitle();
@@ -85,7 +85,7 @@ TEST_F(Hauptfenster, OhneSpeicherBleibtAllesWieEsWar) {
     enge.eng = true;
     for (const char* name : {"/n.EIN", "/klein.ZRW"}) {
         dialoge.meldungen.clear();
-        zweites.Oeffne(name);
+        zweites.OeffneDatei(name);
         ASSERT_EQ(dialoge.meldungen.size(), 1);
         EXPECT_TRUE(dialoge.meldungen[0].startsWith("Der Speicher reicht nicht.")) << name;
         EXPECT_EQ(zweites.Netz(), vorher);
@@ -109,7 +109,7 @@ TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
 }
 
 TEST_F(Hauptfenster, FehlendeKoordinatendateiBeendetDasProgrammNachDerFrage) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     Lege("k.EIN", "$NT 1\n$FP A              1 1 1\n$KF fehlt.KF\n");
     Oeffne("k.EIN");
     EXPECT_EQ(dialoge.meldungen,
@@ -119,7 +119,7 @@ TEST_F(Hauptfenster, FehlendeKoordinatendateiBeendetDasProgrammNachDerFrage) {
 }
 
 TEST_F(Hauptfenster, RadHaeltDenPunktUnterDemZeiger) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const QPoint ort = Punkt();
     const double faktor = fenster.Netz()->Faktor;
     Rad(ort, -3);
@@ -141,7 +141,7 @@ TEST_F(Hauptfenster, BildVerschieben) {
     for (const auto& [werkzeug, taste, weg] : {std::tuple(true, Qt::LeftButton, QPoint(60, -25)),
                                                {false, Qt::MiddleButton, {60, -25}},
                                                {false, Qt::LeftButton, {0, 0}}}) {
-        fenster.Oeffne(kBeispiel);
+        fenster.OeffneDatei(kBeispiel);
         Knopf("PanButton").setChecked(werkzeug);
         const QPoint vorher = Punkt();
         Druecke({200, 200}, taste);
@@ -164,7 +164,7 @@ TEST_F(Hauptfenster, StatuszeileZeigtWeltUndMassstab) {
 }
 
 TEST_F(Hauptfenster, KaestenSchaltenDieDarstellung) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const QImage alles = fenster.Bild().copy();
     for (const char* name : {"CheckBoxPktNr", "CheckBoxBeob", "CheckBoxFP", "CheckBoxFL", "CheckBoxFH",
                              "CheckBoxNP", "CheckBoxHilfspunkte", "CheckBoxALKKurz"}) {
@@ -176,7 +176,7 @@ TEST_F(Hauptfenster, KaestenSchaltenDieDarstellung) {
 }
 
 TEST_F(Hauptfenster, SpeichernUndWiederLesen) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const double faktor = fenster.Netz()->Faktor;
     Speichere("bild.ZRW");
     EXPECT_EQ(dialoge.wahlen.back().vorschlag, "NETZ");
@@ -192,7 +192,7 @@ TEST_F(Hauptfenster, SpeichernUndWiederLesen) {
 }
 
 TEST_F(Hauptfenster, BeendenFragtUndHaeltWasSichNichtSpeichernLiess) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     dialoge.ja = true;
     dialoge.datei = ordner.filePath("fehlt/bild.ZRW");
     Knopf("SpeedButton7").click();
@@ -204,7 +204,7 @@ TEST_F(Hauptfenster, BeendenFragtUndHaeltWasSichNichtSpeichernLiess) {
 }
 
 TEST_F(Hauptfenster, GroesseAendernPasstDieListeAn) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     fenster.resize(800, 500);
     QCoreApplication::processEvents();
     EXPECT_EQ(fenster.Netz()->Weite, bild->width());
@@ -233,7 +233,7 @@ class Exportfenster : public Hauptfenster {
 };
 
 TEST_F(Exportfenster, SchreibtBeideDateienUndAendertNichts) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const Stand vorher = Jetzt();
     Knopf("SpeedButton16").click();
     EXPECT_EQ(dialoge.gesagt,
@@ -258,7 +258,7 @@ TEST_F(Exportfenster, SchreibtBeideDateienUndAendertNichts) {
 }
 
 TEST_F(Exportfenster, MassstabfeldNimmtNurPositiveZahlen) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     EXPECT_EQ(Feld().text(), "25000");
     Tippe("-a1,e5.0 0:0");
     EXPECT_EQ(Feld().text(), "15.000");
@@ -275,7 +275,7 @@ TEST_F(Exportfenster, MassstabfeldNimmtNurPositiveZahlen) {
 }
 
 TEST_F(Exportfenster, LegendeMitTextenUndMassstab) {
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const QImage ohne = fenster.Bild().copy();
     auto& dialog = Kind<QDialog>("TZRWLBLForm");
     auto& kasten = *dialog.findChild<QCheckBox*>("CheckBox1");
@@ -339,7 +339,7 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
     QCheckBox& tk25 = Kasten("CheckBoxGitter");
     tk25.click();
     EXPECT_FALSE(tk25.isChecked()) << "without a network";
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     const QImage ohne = fenster.Bild().copy();
     for (const char* name : {"CheckBoxGitter", "CheckBoxKMQ"}) {
         Kasten(name).click();
@@ -355,7 +355,7 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
     Kasten("CheckBoxKMQ").click();
     EXPECT_FALSE(fenster.Netz()->ShowKMQ);
     EXPECT_TRUE(Status().contains("kein Kartengitter"));
-    fenster.Oeffne(kBeispiel);
+    fenster.OeffneDatei(kBeispiel);
     EXPECT_TRUE(fenster.Netz()->ShowGitter);
     EXPECT_TRUE(Kasten("CheckBoxBlattschnitt").isHidden());
     Lege("g.EIN",

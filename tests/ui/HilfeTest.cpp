@@ -53,7 +53,7 @@ TEST(Hilfe, VerweiseUndBilderFuehrenZumZiel) {
     const QRegularExpression ziel(QStringLiteral(R"(\]\(([^)]*)\))"));
     int anzahl = 0;
     for (const Hilfethema& t : kHilfethemen) {
-        fenster.Zeige(t.kontext);
+        fenster.ZeigeSeite(t.kontext);
         EXPECT_EQ(fenster.Kontext(), t.kontext);
         EXPECT_EQ(seite->document()->toRawText().count(QChar::ObjectReplacementCharacter),
                   Seite(t).count(QStringLiteral("![")))
@@ -80,18 +80,18 @@ TEST(Hilfe, VerweiseUndBilderFuehrenZumZiel) {
 
 TEST(Hilfe, AntwortetAuchUeberEinemWartendenDialog) {
     Hilfefenster fenster;
-    fenster.Zeige(1);
+    fenster.ZeigeSeite(1);
     QDialog dialog;
     dialog.setModal(true);
     dialog.show();
-    fenster.Zeige(28);
+    fenster.ZeigeSeite(28);
     EXPECT_EQ(QApplication::activeModalWidget(), &fenster);
-    fenster.Zeige(30);
+    fenster.ZeigeSeite(30);
     EXPECT_EQ(QApplication::activeModalWidget(), &fenster);
     fenster.close();
     EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
     dialog.close();
-    fenster.Zeige(1);
+    fenster.ZeigeSeite(1);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
@@ -113,11 +113,11 @@ TEST(Hilfe, ThemaZuGehtZumNaechstenBenannten) {
 
 TEST(Hilfe, SucheFindetDieRichtigeSeite) {
     Hilfefenster fenster;
-    EXPECT_EQ(fenster.Suche("Residuenmaßstab BISHERIGE"), std::vector<int>{31});
-    EXPECT_EQ(fenster.Suche("siebenpunktzugfeder"), std::vector<int>{});
-    EXPECT_EQ(fenster.Suche(" ").size(), kHilfethemen.size());
+    EXPECT_EQ(fenster.SucheSeiten("Residuenmaßstab BISHERIGE"), std::vector<int>{31});
+    EXPECT_EQ(fenster.SucheSeiten("siebenpunktzugfeder"), std::vector<int>{});
+    EXPECT_EQ(fenster.SucheSeiten(" ").size(), kHilfethemen.size());
 
-    fenster.Zeige(5);
+    fenster.ZeigeSeite(5);
     auto* feld = fenster.findChild<QLineEdit*>("Suchfeld");
     auto* seite = fenster.findChild<QTextBrowser*>();
     QTest::keyClicks(feld, "groesse dpi stapelbetrieb");
@@ -133,7 +133,7 @@ TEST(Hilfe, SucheFindetDieRichtigeSeite) {
     EXPECT_EQ(fenster.Kontext(), 31);
     seite->backward();
     EXPECT_EQ(fenster.Kontext(), 29);
-    fenster.Zeige(999);
+    fenster.ZeigeSeite(999);
     EXPECT_EQ(fenster.Kontext(), kErsteSeite);
     EXPECT_TRUE(feld->text().isEmpty());
     QTest::keyClick(seite, Qt::Key_Escape);

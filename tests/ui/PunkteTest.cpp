@@ -144,7 +144,7 @@ TEST_F(Punkte, VerborgenUndWiederGezeigt) {
     }
     EXPECT_FALSE(fenster.Ungesichert());
     for (int i = 0; i < 4; ++i)
-        fenster.Wiederhole();
+        fenster.WiederholeSchritt();
     EXPECT_TRUE(Jetzt() == vorher);
 }
 
@@ -222,7 +222,7 @@ TEST_F(Punkte, NeuerPunkt) {
     fenster.Rueckgaengig();
     EXPECT_TRUE(Gespeichert() == bytes);
     EXPECT_EQ(Nummernfeld().findText("Süd 1"), -1);
-    fenster.Wiederhole();
+    fenster.WiederholeSchritt();
     // A line to it goes with it.
     Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
     Modus("EditBeobButton");

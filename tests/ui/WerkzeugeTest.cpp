@@ -89,7 +89,7 @@ TEST_F(Werkzeuge, ZiehenAendertDieListe) {
         EXPECT_TRUE(fenster.windowTitle().endsWith('*'));
         fenster.Rueckgaengig();
         EXPECT_TRUE(Jetzt() == vorher);
-        fenster.Wiederhole();
+        fenster.WiederholeSchritt();
         EXPECT_EQ(Aenderung(figuren), aenderung);
     }
 }

@@ -75,7 +75,7 @@ bool Netzbewahrung::BieteAn() {
 bool Netzbewahrung::Gewollt(const QString& name, const QString& datei) const {
     const QString zeit = QLocale(QLocale::German)
                              .toString(QFileInfo(datei).lastModified(), QStringLiteral("dd.MM.yyyy HH:mm"));
-    return programm_.dialoge.Frage(
+    return programm_.dialoge.FrageJaNein(
         QStringLiteral("Beim letzten Ende von Zarwik war der Netzplan\n%1\nnicht gespeichert. Er ist "
                        "vom Stand %2 Uhr noch da.\n\nWiederherstellen?")
             .arg(QFileInfo(name).fileName(), zeit));

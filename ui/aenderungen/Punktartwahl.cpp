@@ -25,16 +25,17 @@ void Punktartwahl::WaehlePunkt(PunktKnoten& punkt) {
     const Liste& liste = *umgebung_.AktuelleListe();
     gewaehlt_ = &punkt;
     gezeigt_ = StandVon(punkt);
-    fenster_->Zeige({AusNetz(liste.GetPktText(punkt.PNr)),
-                     ArtNachFarbe(punkt.Item->Farbe, umgebung_.Anzeige()), punkt.Item->PktTyp,
-                     AusUtf8(Festkomma(punkt.XWPu, 0, 4)), AusUtf8(Festkomma(punkt.YWPu, 0, 4)), false});
+    fenster_->ZeigeEingabe({AusNetz(liste.GetPktText(punkt.PNr)),
+                            ArtNachFarbe(punkt.Item->Farbe, umgebung_.Anzeige()), punkt.Item->PktTyp,
+                            AusUtf8(Festkomma(punkt.XWPu, 0, 4)), AusUtf8(Festkomma(punkt.YWPu, 0, 4)),
+                            false});
 }
 
 void Punktartwahl::NetzGeaendert() {
     if (gewaehlt_ == nullptr) return;
     if (!umgebung_.AktuelleListe()->EnthaeltPunkt(*gewaehlt_)) {
         gewaehlt_ = nullptr;
-        fenster_->Zeige({});
+        fenster_->ZeigeEingabe({});
     } else if (StandVon(*gewaehlt_) != gezeigt_) {
         WaehlePunkt(*gewaehlt_);  // the window must not put back what was undone
     }
@@ -48,7 +49,8 @@ void Punktartwahl::ZeichnePunkt() {
     const auto rechts = LiesReal(NachUtf8(e.rechts));
     const auto hoch = LiesReal(NachUtf8(e.hoch));
     if (!rechts || !hoch) {
-        dialoge_.Melde(QStringLiteral("Die Koordinaten sind keine Zahlen (Dezimaltrenner ist der Punkt)."));
+        dialoge_.MeldeFehler(
+            QStringLiteral("Die Koordinaten sind keine Zahlen (Dezimaltrenner ist der Punkt)."));
         return;
     }
     const Welt ort{*rechts, *hoch};
@@ -57,11 +59,11 @@ void Punktartwahl::ZeichnePunkt() {
         return;
     }
     if (gewaehlt_ == nullptr) {
-        dialoge_.Melde(QStringLiteral("Bitte zuerst einen Punkt im Bild anklicken."));
+        dialoge_.MeldeFehler(QStringLiteral("Bitte zuerst einen Punkt im Bild anklicken."));
         return;
     }
     if (e.nummer != AusNetz(liste->GetPktText(gewaehlt_->PNr))) {
-        dialoge_.Melde(
+        dialoge_.MeldeFehler(
             QStringLiteral("Die Nummer eines Punktes lässt sich nicht ändern. Für einen neuen Punkt "
                            "„Neupunkt“ ankreuzen."));
         return;
@@ -79,7 +81,7 @@ void Punktartwahl::ZeichnePunkt() {
 void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
     Liste& liste = *umgebung_.AktuelleListe();
     const std::string nummer(OhneRand(Utf8NachCp1252(NachUtf8(eingabe.nummer))));
-    const auto lehneAb = [&](const QString& grund) { dialoge_.Melde(grund); };
+    const auto lehneAb = [&](const QString& grund) { dialoge_.MeldeFehler(grund); };
     if (AusNetz(nummer) != AusUtf8(OhneRand(NachUtf8(eingabe.nummer))))
         return lehneAb(QStringLiteral("Die Punktnummer %1 hat ein Zeichen, das sich nicht speichern lässt. "
                                       "Möglich sind die Zeichen der Codeseite 1252.")

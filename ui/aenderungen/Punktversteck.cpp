@@ -62,17 +62,17 @@ void Punktversteck::TueVerbergen(std::unique_ptr<SichtbarkeitGeaendert> aenderun
                                  const QStringList& nummern) {
     if (aenderung->Leer()) {
         // Hidden already: they stand in the list once more, but there is nothing to undo.
-        versteckte_->Nimm(nummern);
+        versteckte_->NimmNummern(nummern);
         umgebung_.ZeichneNeu();
         return;
     }
     // The list of hidden points goes with the change, there and back.
     aenderung->danach = [versteckte = versteckte_, nummern](bool getan) {
         if (getan) {
-            versteckte->Nimm(nummern);
+            versteckte->NimmNummern(nummern);
         } else {
             for (const QString& nummer : nummern)
-                versteckte->Entferne(nummer);
+                versteckte->EntferneNummer(nummer);
         }
     };
     umgebung_.TueAenderung(std::move(aenderung));
@@ -88,10 +88,10 @@ void Punktversteck::ZeigePunkte(const QStringList& nummern) {
         return;
     }
     aenderung->danach = [versteckte = versteckte_, nummern, erstesMal = true](bool getan) mutable {
-        if (!getan) versteckte->Nimm(nummern);
+        if (!getan) versteckte->NimmNummern(nummern);
         if (getan && !erstesMal) {
             for (const QString& nummer : nummern)
-                versteckte->Entferne(nummer);
+                versteckte->EntferneNummer(nummer);
         }
         erstesMal = false;
     };

@@ -27,7 +27,7 @@ int Auswahlgruppe::Gewaehlt() const {
     return gruppe_->checkedId();
 }
 
-void Auswahlgruppe::Waehle(int nummer) {
+void Auswahlgruppe::WaehleNummer(int nummer) {
     const QSignalBlocker still(gruppe_);
     gruppe_->setExclusive(false);  // an exclusive group does not let go of its last button
     for (QAbstractButton* knopf : gruppe_->buttons())

@@ -18,7 +18,7 @@ class Auswahlgruppe final : public QGroupBox {
     /// -1 while none is chosen.
     [[nodiscard]] int Gewaehlt() const;
     /// Chooses without calling back; none for a number without a button.
-    void Waehle(int nummer);
+    void WaehleNummer(int nummer);
 
     std::function<void()> geaendert;  ///< the user has chosen another one
 

@@ -10,10 +10,10 @@ Farbfeld::Farbfeld(QWidget* eltern) : QAbstractButton(eltern) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setCursor(Qt::PointingHandCursor);
-    Setze(farbe_);
+    SetzeFarbe(farbe_);
 }
 
-void Farbfeld::Setze(Farbe farbe) {
+void Farbfeld::SetzeFarbe(Farbe farbe) {
     farbe_ = farbe;
     setAccessibleDescription(AlsQColor(farbe).name());  // for whom the paint says nothing
     update();

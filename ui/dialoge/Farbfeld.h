@@ -11,7 +11,7 @@ class Farbfeld final : public QAbstractButton {
   public:
     explicit Farbfeld(QWidget* eltern);
 
-    void Setze(Farbe farbe);
+    void SetzeFarbe(Farbe farbe);
     [[nodiscard]] Farbe Wert() const { return farbe_; }
     [[nodiscard]] QSize sizeHint() const override;
 

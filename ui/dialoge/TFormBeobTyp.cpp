@@ -47,7 +47,7 @@ TFormBeobTyp::TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern)
     setWindowTitle(QStringLiteral("Beobachtungstyp"));
     RadioGroupRichtg_->setToolTip(QStringLiteral("Art der Richtungsmessung"));
     RadioGroupZenit_->setToolTip(QStringLiteral("Gemessener Höhenmessung"));
-    RadioGroupZenit_->Waehle(0);
+    RadioGroupZenit_->WaehleNummer(0);
     CheckBoxStrecke_->setToolTip(QStringLiteral("Querstrich neben der Mitte der Linie"));
     CheckBoxGps_->setToolTip(QStringLiteral("Raute um die Mitte der Linie"));
     CheckBoxInd_->setToolTip(QStringLiteral("IÍndirekter Messung"));
@@ -81,15 +81,15 @@ void TFormBeobTyp::GpsGeschaltet(bool ein) {
 void TFormBeobTyp::IndirektGeschaltet(bool ein) {
     if (ein && CheckBoxGps_->isChecked()) {
         SchalteStill(*CheckBoxInd_, false);
-        dialoge_.Sage(QStringLiteral("GPS indirekt nicht möglich!"));
+        dialoge_.SageErfolg(QStringLiteral("GPS indirekt nicht möglich!"));
         return;  // the type is what it was
     }
     if (geaendert) geaendert();
 }
 
-void TFormBeobTyp::Zeige(const Beobachtungswahl& wahl) {
-    RadioGroupRichtg_->Waehle(wahl.richtung);
-    RadioGroupZenit_->Waehle(wahl.hoehe);
+void TFormBeobTyp::ZeigeWahl(const Beobachtungswahl& wahl) {
+    RadioGroupRichtg_->WaehleNummer(wahl.richtung);
+    RadioGroupZenit_->WaehleNummer(wahl.hoehe);
     SchalteStill(*CheckBoxStrecke_, wahl.strecke);
     SchalteStill(*CheckBoxGps_, wahl.gps);
     SchalteStill(*CheckBoxInd_, wahl.indirekt && !wahl.gps);

@@ -18,7 +18,7 @@ class TFormBeobTyp final : public QDialog {
     explicit TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern);
 
     /// Shows a type without calling back.
-    void Zeige(const Beobachtungswahl& wahl);
+    void ZeigeWahl(const Beobachtungswahl& wahl);
     [[nodiscard]] Beobachtungswahl Wahl() const;
     /// Whether lines are to be inserted.
     [[nodiscard]] bool NeueBeobachtung() const;

@@ -53,7 +53,7 @@ TFormHiddenPkt::TFormHiddenPkt(QWidget* eltern)
     knoepfe->addWidget(schliessen);
     spalte->addLayout(knoepfe);
 
-    connect(anzeigen, &QPushButton::clicked, this, [this] { Zeige(); });
+    connect(anzeigen, &QPushButton::clicked, this, [this] { ZeigeGewaehlte(); });
     connect(schliessen, &QPushButton::clicked, this, &QDialog::close);
 }
 
@@ -61,7 +61,7 @@ void TFormHiddenPkt::NetzGeaendert() {
     ListBox1_->viewport()->update();
 }
 
-void TFormHiddenPkt::Nimm(const QString& nummer) {
+void TFormHiddenPkt::NimmNummer(const QString& nummer) {
     const QStringList alle = nummern_->stringList();
     const int ort =
         static_cast<int>(std::upper_bound(alle.begin(), alle.end(), nummer, NummerVor) - alle.begin());
@@ -70,18 +70,18 @@ void TFormHiddenPkt::Nimm(const QString& nummer) {
     nummern_->setData(nummern_->index(ort), nummer);
 }
 
-void TFormHiddenPkt::Nimm(const QStringList& nummern) {
+void TFormHiddenPkt::NimmNummern(const QStringList& nummern) {
     QStringList alle = nummern_->stringList() + nummern;
     OrdneNummern(alle);
     nummern_->setStringList(alle);
 }
 
-void TFormHiddenPkt::Setze(const QStringList& nummern) {
+void TFormHiddenPkt::SetzeNummern(const QStringList& nummern) {
     nummern_->setStringList({});
-    Nimm(nummern);
+    NimmNummern(nummern);
 }
 
-void TFormHiddenPkt::Entferne(const QString& nummer) {
+void TFormHiddenPkt::EntferneNummer(const QString& nummer) {
     const auto ort = nummern_->stringList().indexOf(nummer);
     if (ort >= 0) nummern_->removeRow(static_cast<int>(ort));
 }
@@ -90,7 +90,7 @@ QStringList TFormHiddenPkt::Nummern() const {
     return nummern_->stringList();
 }
 
-void TFormHiddenPkt::Zeige() {
+void TFormHiddenPkt::ZeigeGewaehlte() {
     const QStringList alle = nummern_->stringList();
     if (alle.isEmpty()) return;
     QModelIndexList zeilen = ListBox1_->selectionModel()->selectedRows();

@@ -14,13 +14,13 @@ class TFormHiddenPkt final : public QDialog {
     explicit TFormHiddenPkt(QWidget* eltern);
 
     /// Adds a number at its sorted place, also one that stands there already.
-    void Nimm(const QString& nummer);
+    void NimmNummer(const QString& nummer);
     /// Many at once, in the time of one. Deselects.
-    void Nimm(const QStringList& nummern);
+    void NimmNummern(const QStringList& nummern);
     /// These in place of all that stand there.
-    void Setze(const QStringList& nummern);
+    void SetzeNummern(const QStringList& nummern);
     /// Removes one entry of this text, if there is one.
-    void Entferne(const QString& nummer);
+    void EntferneNummer(const QString& nummer);
     [[nodiscard]] QStringList Nummern() const;
     /// Why "Anzeigen" would change nothing for a number: it then is greyed, with this as its hint. Empty: it
     /// would.
@@ -35,7 +35,7 @@ class TFormHiddenPkt final : public QDialog {
 
   private:
     class Nummernmodell;
-    void Zeige();
+    void ZeigeGewaehlte();
 
     QListView* ListBox1_;
     Nummernmodell* nummern_;

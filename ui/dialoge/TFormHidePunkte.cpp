@@ -45,18 +45,18 @@ TFormHidePunkte::TFormHidePunkte(QWidget* eltern)
     knoepfe->addWidget(schliessen);
     spalte->addLayout(knoepfe);
 
-    connect(FilterPkt_, &QLineEdit::textChanged, this, [this](const QString& teil) { Filtere(teil); });
-    connect(verbergen, &QPushButton::clicked, this, [this] { Verstecke(); });
+    connect(FilterPkt_, &QLineEdit::textChanged, this, [this](const QString& teil) { FiltereNummern(teil); });
+    connect(verbergen, &QPushButton::clicked, this, [this] { VersteckeGewaehlte(); });
     connect(schliessen, &QPushButton::clicked, this, &QDialog::close);
 }
 
-void TFormHidePunkte::Fuelle(const QStringList& nummern) {
+void TFormHidePunkte::FuelleListe(const QStringList& nummern) {
     const QSignalBlocker still(FilterPkt_);
     FilterPkt_->clear();
     nummern_->setStringList(nummern);  // a reset, which forgets selected and filtered rows
 }
 
-void TFormHidePunkte::Filtere(const QString& teil) {
+void TFormHidePunkte::FiltereNummern(const QString& teil) {
     const QStringList alle = nummern_->stringList();
     for (int zeile = 0; zeile < alle.size(); ++zeile)
         ListBoxPkt_->setRowHidden(zeile, !alle[zeile].contains(teil, Qt::CaseInsensitive));
@@ -72,7 +72,7 @@ QStringList TFormHidePunkte::Gewaehlte() const {
     return texte;
 }
 
-void TFormHidePunkte::Verstecke() {
+void TFormHidePunkte::VersteckeGewaehlte() {
     if (nummern_->rowCount() > 0 && verstecken) verstecken(Gewaehlte());
 }
 

@@ -16,14 +16,14 @@ class TFormHidePunkte final : public QDialog {
     explicit TFormHidePunkte(QWidget* eltern);
 
     /// Replaces the entries; all of them are shown then.
-    void Fuelle(const QStringList& nummern);
+    void FuelleListe(const QStringList& nummern);
 
     /// "Verstecken" with at least one entry in the list, even if none is selected.
     std::function<void(const QStringList& gewaehlte)> verstecken;
 
   private:
-    void Filtere(const QString& teil);
-    void Verstecke();
+    void FiltereNummern(const QString& teil);
+    void VersteckeGewaehlte();
     /// Selected and not filtered away, in the order of the list.
     [[nodiscard]] QStringList Gewaehlte() const;
 

@@ -110,11 +110,11 @@ QGroupBox* TFormPunktart::BaueKoordinaten() {
     return rahmen;
 }
 
-void TFormPunktart::Zeige(const Punkteingabe& eingabe) {
+void TFormPunktart::ZeigeEingabe(const Punkteingabe& eingabe) {
     gezeigt_ = eingabe;
     PktNummer_->setText(eingabe.nummer);
-    RadioGroupPktArt_->Waehle(static_cast<int>(eingabe.art));
-    RadioGroupSymb_->Waehle(static_cast<int>(eingabe.symbol));
+    RadioGroupPktArt_->WaehleNummer(static_cast<int>(eingabe.art));
+    RadioGroupSymb_->WaehleNummer(static_cast<int>(eingabe.symbol));
     PktY_->setText(eingabe.rechts);
     PktX_->setText(eingabe.hoch);
     CheckBoxNeuPkt_->setChecked(eingabe.neu);

@@ -30,7 +30,7 @@ class TFormPunktart final : public QDialog {
   public:
     explicit TFormPunktart(QWidget* eltern);
 
-    void Zeige(const Punkteingabe& eingabe);
+    void ZeigeEingabe(const Punkteingabe& eingabe);
     /// A symbol that has no button here stays what it was shown as until the user chooses another.
     [[nodiscard]] Punkteingabe Eingabe() const;
 

@@ -46,7 +46,7 @@ TZRWLBLForm::TZRWLBLForm(QWidget* eltern)
     felder->addRow(knoepfe);
 }
 
-void TZRWLBLForm::Bearbeite(Liste& liste) {
+void TZRWLBLForm::BearbeiteLegende(Liste& liste) {
     // Only ever switched on here: a user who is filling in texts for one plot after the other wants them all.
     if (liste.ShowLegende) CheckBox1_->setChecked(true);
     Edit1_->setText(AusNetz(liste.Legend->Bez1));

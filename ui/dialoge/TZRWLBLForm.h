@@ -15,7 +15,7 @@ class TZRWLBLForm final : public QDialog {
     explicit TZRWLBLForm(QWidget* eltern);
 
     /// Shows the dialog until it is closed; then the legend of the list has its texts and its switch.
-    void Bearbeite(Liste& liste);
+    void BearbeiteLegende(Liste& liste);
 
   private:
     QLineEdit* Edit1_;

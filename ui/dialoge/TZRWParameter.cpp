@@ -109,12 +109,12 @@ void TZRWParameter::BaueFarben(QBoxLayout& links, QBoxLayout& mitte) {
         feld->setObjectName(QString::fromLatin1(z.komponente));
         feld->setAccessibleName(QStringLiteral("Farbe ") + AusUtf8(z.schild));
         form->addRow(AusUtf8(z.schild), feld);
-        anzeigen_.emplace_back([this, feld, &z] { feld->Setze(e_.*z.feld); });
+        anzeigen_.emplace_back([this, feld, &z] { feld->SetzeFarbe(e_.*z.feld); });
         connect(feld, &QAbstractButton::clicked, this, [this, feld, &z] {
             const auto neu = dialoge_.WaehleFarbe(e_.*z.feld);
             if (!neu) return;
             e_.*z.feld = *neu;
-            feld->Setze(*neu);
+            feld->SetzeFarbe(*neu);
         });
     }
 }
@@ -205,12 +205,13 @@ void TZRWParameter::UebernimmResiduenmassstab() {
     if (zahl) {
         e_.ResMF = *zahl;
         if (const std::string hinweis = Massstabhinweis(*zahl); !hinweis.empty())
-            dialoge_.Melde(AusUtf8(hinweis));
+            dialoge_.MeldeFehler(AusUtf8(hinweis));
         return;
     }
     // Before the message: it takes the focus, and the field would be left a second time with the same text.
     EditMFRes_->setText(vorher);
-    dialoge_.Melde(QStringLiteral("Der Residuenmaßstab ist keine Zahl (Dezimaltrenner ist der Punkt)."));
+    dialoge_.MeldeFehler(
+        QStringLiteral("Der Residuenmaßstab ist keine Zahl (Dezimaltrenner ist der Punkt)."));
 }
 
 void TZRWParameter::done(int ergebnis) {
@@ -219,8 +220,8 @@ void TZRWParameter::done(int ergebnis) {
         SaveSettings(e_, speicher_);
         speicher_.SichereWerte();
     } catch (const std::exception& f) {
-        dialoge_.Melde(AusUtf8(Fehlertext(f)) +
-                       QStringLiteral("\nSie gelten weiter, bis Zarwik beendet wird."));
+        dialoge_.MeldeFehler(AusUtf8(Fehlertext(f)) +
+                             QStringLiteral("\nSie gelten weiter, bis Zarwik beendet wird."));
     }
     QDialog::done(ergebnis);
     if (geschlossen) geschlossen();

@@ -121,7 +121,7 @@ Druckseite Systemdrucker::Seite() const {
     return {bereich.width(), bereich.height(), static_cast<double>(Aufloesung())};
 }
 
-bool Systemdrucker::Waehle(QWidget* eltern) {
+bool Systemdrucker::WaehleDrucker(QWidget* eltern) {
     QPrintDialog dialog(&Geraet(), eltern);
     if (dialog.exec() != QDialog::Accepted) return false;
     MerkePapier();
@@ -135,7 +135,7 @@ bool Systemdrucker::RichteEin(QWidget* eltern) {
     return true;
 }
 
-void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
+void Systemdrucker::MaleBlaetter(QPrinter& geraet, const Druckwerk& werk) const {
     const Druckseite seite = Seite();
     int erstes = 0;
     int letztes = werk.blaetter;
@@ -171,12 +171,12 @@ void Systemdrucker::Male(QPrinter& geraet, const Druckwerk& werk) const {
     if (!maler.end() || geraet.printerState() == QPrinter::Error) throw misslungen();
 }
 
-void Systemdrucker::Drucke(const Druckwerk& werk) {
+void Systemdrucker::DruckeBlaetter(const Druckwerk& werk) {
     QPrinter& geraet = Geraet();
     geraet.setDocName(werk.titel);
     const QString ziel = geraet.outputFileName();
     if (ziel.isEmpty()) {
-        Male(geraet, werk);
+        MaleBlaetter(geraet, werk);
         return;
     }
     // Into a file of its own first: the one that the user named is replaced as a whole or not at all.
@@ -188,7 +188,7 @@ void Systemdrucker::Drucke(const Druckwerk& werk) {
     const QString entwurf = ordner.filePath(QStringLiteral("druck.pdf"));
     geraet.setOutputFileName(entwurf);
     try {
-        Male(geraet, werk);
+        MaleBlaetter(geraet, werk);
     } catch (...) {
         geraet.setOutputFileName(ziel);
         throw;
@@ -212,7 +212,7 @@ bool Systemdrucker::ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const 
     Druckvorschau dialog(Geraet(), uebersicht, eltern);
     dialog.male = [&](QPrinter& geraet) {
         try {
-            Male(geraet, werk);
+            MaleBlaetter(geraet, werk);
         } catch (const std::exception& f) {
             fehler = Fehler(f.what());  // not through the widget that asked
         }

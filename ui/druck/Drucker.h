@@ -38,11 +38,11 @@ class Drucker {
     /// What can be printed on of a sheet of the chosen paper.
     [[nodiscard]] virtual Druckseite Seite() const = 0;
     /// The print dialog of the system. @return false: cancelled
-    [[nodiscard]] virtual bool Waehle(QWidget* eltern) = 0;
+    [[nodiscard]] virtual bool WaehleDrucker(QWidget* eltern) = 0;
     /// The dialog for paper and margins. @return false: cancelled
     virtual bool RichteEin(QWidget* eltern) = 0;
     /// Prints the sheets of a job. @throws Fehler where the printer does not take it or breaks it off
-    virtual void Drucke(const Druckwerk& werk) = 0;
+    virtual void DruckeBlaetter(const Druckwerk& werk) = 0;
     /// Shows the sheets as they would be printed. @param uebersicht how they lie in the plot
     /// @return whether they are to be printed
     [[nodiscard]] virtual bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk,
@@ -58,9 +58,9 @@ class Systemdrucker final : public Drucker {
     ~Systemdrucker() override;
     [[nodiscard]] int Aufloesung() const override;
     [[nodiscard]] Druckseite Seite() const override;
-    bool Waehle(QWidget* eltern) override;
+    bool WaehleDrucker(QWidget* eltern) override;
     bool RichteEin(QWidget* eltern) override;
-    void Drucke(const Druckwerk& werk) override;
+    void DruckeBlaetter(const Druckwerk& werk) override;
     bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) override;
 
     /// Makes a PDF file of what is printed, on this paper.
@@ -70,7 +70,7 @@ class Systemdrucker final : public Drucker {
     [[nodiscard]] QPrinter& Geraet() const;
     void NimmPapier(QPrinter& geraet) const;
     void MerkePapier() const;
-    void Male(QPrinter& geraet, const Druckwerk& werk) const;
+    void MaleBlaetter(QPrinter& geraet, const Druckwerk& werk) const;
 
     Dateien& dateien_;
     Sitzung* sitzung_;

@@ -28,7 +28,7 @@ bool Druckrahmen::Gefangen(const Liste& liste, Bildpunkt ort) const {
            ((nahe(ort.y, a.y) || nahe(ort.y, b.y)) && zwischen(ort.x, a.x, b.x));
 }
 
-void Druckrahmen::Zeichne(const Liste& liste, Zeichenflaeche& flaeche, Farbe farbe) const {
+void Druckrahmen::ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche, Farbe farbe) const {
     if (!stand_) return;
     const auto [a, b] = Ecken(liste);
     const Stiftwechsel stift(flaeche, {farbe, 1, Strichart::Voll}, {kWeiss, true});

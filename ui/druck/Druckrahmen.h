@@ -18,16 +18,16 @@ class Druckrahmen {
         Druckseite seite;
     };
 
-    void Setze(const std::optional<Stand>& stand) { stand_ = stand; }
+    void SetzeStand(const std::optional<Stand>& stand) { stand_ = stand; }
     /// World position of the sheet's corner; none: that of the picture.
     [[nodiscard]] const std::optional<Welt>& Ecke() const { return ecke_; }
-    void Verlege(Welt ecke) { ecke_ = ecke; }
-    void Loese() { ecke_.reset(); }
+    void VerlegeEcke(Welt ecke) { ecke_ = ecke; }
+    void LoeseEcke() { ecke_.reset(); }
 
     [[nodiscard]] Welt Ecke(const Liste& liste) const { return ecke_ ? *ecke_ : liste.BildinWelt({}); }
     /// Whether the mouse catches one of its edges.
     [[nodiscard]] bool Gefangen(const Liste& liste, Bildpunkt ort) const;
-    void Zeichne(const Liste& liste, Zeichenflaeche& flaeche, Farbe farbe) const;
+    void ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche, Farbe farbe) const;
 
   private:
     /// Top-left and bottom-right corner in the picture.

@@ -21,7 +21,7 @@ std::optional<double> Plandruck::Massstab() {
     Massstabfeld& feld = *felder_.massstab;
     auto massstab = feld.Massstab();
     if (!massstab) {
-        programm_.dialoge.Melde(QStringLiteral("Der Druckmaßstab muss eine Zahl größer als 0 sein."));
+        programm_.dialoge.MeldeFehler(QStringLiteral("Der Druckmaßstab muss eine Zahl größer als 0 sein."));
         feld.setFocus();
         feld.selectAll();
     }
@@ -34,18 +34,18 @@ std::string Plandruck::Massstabtext() const {
 
 void Plandruck::AktualisiereRahmen() {
     const bool ein = felder_.rahmen->isChecked();
-    if (!ein) rahmen_.Loese();
+    if (!ein) rahmen_.LoeseEcke();
     const auto massstab = felder_.massstab->Massstab();
     if (ein && massstab) {
-        rahmen_.Setze(Druckrahmen::Stand{*massstab, programm_.drucker.Seite()});
+        rahmen_.SetzeStand(Druckrahmen::Stand{*massstab, programm_.drucker.Seite()});
     } else {
-        rahmen_.Setze({});
+        rahmen_.SetzeStand({});
     }
     felder_.bild->update();
 }
 
 void Plandruck::ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche) const {
-    rahmen_.Zeichne(liste, flaeche, programm_.einstellungen.PPCol);
+    rahmen_.ZeichneRahmen(liste, flaeche, programm_.einstellungen.PPCol);
 }
 
 // --- Sheets -----------------------------------------------------------------------------------------------
@@ -123,8 +123,9 @@ std::optional<Bildpunkt> Plandruck::Legendenort(const Liste& liste, const Drucka
 
 // --- Printing ---------------------------------------------------------------------------------------------
 
-void Plandruck::Drucke(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
-    programm_.drucker.Drucke(Werk(liste, std::move(blaetter), massstab, titel));
+void Plandruck::DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab,
+                               const QString& titel) {
+    programm_.drucker.DruckeBlaetter(Werk(liste, std::move(blaetter), massstab, titel));
 }
 
 bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel) {

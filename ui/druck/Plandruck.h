@@ -50,7 +50,7 @@ class Plandruck {
     /// printed
     [[nodiscard]] std::optional<std::vector<Blatt>> WaehleBlaetter(Liste& liste, double massstab);
     /// @throws Fehler where the printer does not take it or breaks it off
-    void Drucke(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel);
+    void DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel);
     /// @return whether the sheets are to be printed
     [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel);
 

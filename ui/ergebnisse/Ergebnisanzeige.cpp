@@ -63,7 +63,7 @@ Ergebnisanzeige::~Ergebnisanzeige() {
     fenster_->reiterGewechselt = {};  // its parent deletes it later
 }
 
-void Ergebnisanzeige::Vergiss() {
+void Ergebnisanzeige::VergissNetz() {
     fenster_->hide();
     aufgelistet_.clear();
     zweiter_.reset();
@@ -86,22 +86,22 @@ bool Ergebnisanzeige::Vorhanden() const {
 
 void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKnoten& punkt) {
     const QString n = AusNetz(netz.GetPktText(punkt.PNr));
-    fenster_->Betitle(QStringLiteral("Abriss nach der Ausgleichung Punkt ") + n, Angaben(punkt), n);
+    fenster_->SetzeTitel(QStringLiteral("Abriss nach der Ausgleichung Punkt ") + n, Angaben(punkt), n);
     aufgelistet_ = n;
     zweiter_.reset();
     FuelleReiter();
-    fenster_->Zeige();
+    fenster_->ZeigeFenster();
 }
 
 void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKante& kante) {
     const QString a = AusNetz(netz.GetPktText(kante.ANr));
     const QString b = AusNetz(netz.GetPktText(kante.ENr));
-    fenster_->Betitle(QStringLiteral("Abriss nach der Ausgleichung P1= %1  P2= %2").arg(a, b),
-                      Angaben(netz, kante), a);
+    fenster_->SetzeTitel(QStringLiteral("Abriss nach der Ausgleichung P1= %1  P2= %2").arg(a, b),
+                         Angaben(netz, kante), a);
     aufgelistet_ = a;
     zweiter_ = b;
     FuelleReiter();
-    fenster_->Zeige();
+    fenster_->ZeigeFenster();
 }
 
 /// The results of what was listed last on the tab that is open now.
@@ -109,28 +109,28 @@ void Ergebnisanzeige::FuelleReiter() {
     const QString& a = aufgelistet_;
     const auto& b = zweiter_;
     if (a.isEmpty() || (b && b->isEmpty()))
-        return fenster_->Leere(QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse"));
+        return fenster_->LeereGitter(QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse"));
     const Ergebnisreiter& reiter = fenster_->Reiter();
     if (!programm_.daten.Vorhanden(reiter.datei)) {
-        fenster_->Leere(AusUtf8(reiter.datei) + QStringLiteral(" liegt nicht beim Netz"));
+        fenster_->LeereGitter(AusUtf8(reiter.datei) + QStringLiteral(" liegt nicht beim Netz"));
         return;
     }
     try {
         const std::string abfrage =
             b ? Abfragetext(reiter.kante, NachUtf8(a), NachUtf8(*b)) : Abfragetext(reiter.punkt, NachUtf8(a));
-        fenster_->Fuelle(programm_.daten.FrageTabelle(reiter.tabelle, abfrage));
+        fenster_->FuelleGitter(programm_.daten.FrageTabelle(reiter.tabelle, abfrage));
     } catch (const std::exception& f) {
-        fenster_->Leere(AusUtf8(Fehlertext(f)));
+        fenster_->LeereGitter(AusUtf8(Fehlertext(f)));
     }
     MeldeTabellen();
 }
 
 void Ergebnisanzeige::MarkiereFehler(Liste& netz) {
-    Melde(zrw::MarkiereFehler(netz, programm_.daten, programm_.einstellungen));
+    MeldeTabellenfehler(zrw::MarkiereFehler(netz, programm_.daten, programm_.einstellungen));
 }
 
 /// Later, outside whatever goes on: a box would let the next drawing in.
-void Ergebnisanzeige::Melde(const std::vector<Tabellenmeldung>& meldungen) {
+void Ergebnisanzeige::MeldeTabellenfehler(const std::vector<Tabellenmeldung>& meldungen) {
     if (meldungen.empty()) return;
     QStringList texte;
     for (const Tabellenmeldung& m : meldungen)
@@ -138,12 +138,12 @@ void Ergebnisanzeige::Melde(const std::vector<Tabellenmeldung>& meldungen) {
     // The dialog service outlives the window of the results, with which the call goes.
     QMetaObject::invokeMethod(
         fenster_,
-        [&dialoge = programm_.dialoge, text = texte.join(QLatin1Char('\n'))] { dialoge.Melde(text); },
+        [&dialoge = programm_.dialoge, text = texte.join(QLatin1Char('\n'))] { dialoge.MeldeFehler(text); },
         Qt::QueuedConnection);
 }
 
 void Ergebnisanzeige::MeldeTabellen() {
-    Melde(programm_.daten.NimmMeldungen());
+    MeldeTabellenfehler(programm_.daten.NimmMeldungen());
 }
 
 }  // namespace zrw

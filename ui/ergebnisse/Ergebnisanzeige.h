@@ -27,7 +27,7 @@ class Ergebnisanzeige {
 
     [[nodiscard]] TFormData& Fenster() { return *fenster_; }
     /// The network is about to be replaced.
-    void Vergiss();
+    void VergissNetz();
     /// Results lie beside the file that was opened or saved last. @return whether that is another folder now
     bool WaehleOrdner(const std::filesystem::path& datei);
     /// Whether any table lies beside the network.
@@ -42,7 +42,7 @@ class Ergebnisanzeige {
 
   private:
     void FuelleReiter();
-    void Melde(const std::vector<Tabellenmeldung>& meldungen);
+    void MeldeTabellenfehler(const std::vector<Tabellenmeldung>& meldungen);
 
     const Programm& programm_;
     TFormData* fenster_;

@@ -20,14 +20,14 @@ bool Gesetzt(const Zelle& zelle) {
 
 }  // namespace
 
-void Ergebnismodell::Setze(const Ergebnistabelle& tabelle, Antwort antwort) {
+void Ergebnismodell::SetzeTabelle(const Ergebnistabelle& tabelle, Antwort antwort) {
     beginResetModel();
     felder_ = tabelle.felder;
     antwort_ = std::move(antwort);
     endResetModel();
 }
 
-void Ergebnismodell::Leere() {
+void Ergebnismodell::LeereTabelle() {
     beginResetModel();
     felder_ = {};
     antwort_ = {};

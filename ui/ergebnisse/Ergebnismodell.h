@@ -13,8 +13,8 @@ class Ergebnismodell final : public QAbstractTableModel {
     using QAbstractTableModel::QAbstractTableModel;
 
     /// @param antwort its columns begin with the fields of the table, in their order
-    void Setze(const Ergebnistabelle& tabelle, Antwort antwort);
-    void Leere();
+    void SetzeTabelle(const Ergebnistabelle& tabelle, Antwort antwort);
+    void LeereTabelle();
     /// Raw text of a field, empty where it is none.
     [[nodiscard]] QString Text(int zeile, std::string_view feld) const;
     /// As the table names it; the heading may be another.

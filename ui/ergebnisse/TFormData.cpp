@@ -87,9 +87,9 @@ void TFormData::BaueGitter() {
     gitter_->setContextMenuPolicy(Qt::ActionsContextMenu);
     gitter_->installEventFilter(this);
     auto* kopieren = new QAction(QStringLiteral("Kopieren\tStrg+C"), gitter_);
-    connect(kopieren, &QAction::triggered, this, [this] { Kopiere(false); });
+    connect(kopieren, &QAction::triggered, this, [this] { KopiereZeilen(false); });
     auto* alles = new QAction(QStringLiteral("Alles mit Überschriften kopieren"), gitter_);
-    connect(alles, &QAction::triggered, this, [this] { Kopiere(true); });
+    connect(alles, &QAction::triggered, this, [this] { KopiereZeilen(true); });
     auto* zeigen = new QAction(QStringLiteral("Punkt im Bild zeigen"), gitter_);
     connect(zeigen, &QAction::triggered, this, [this] { ZeigeEndpunkt(gitter_->currentIndex().row()); });
     gitter_->addActions({kopieren, alles, zeigen});
@@ -100,7 +100,7 @@ bool TFormData::eventFilter(QObject* empfaenger, QEvent* ereignis) {
     const bool taste = empfaenger == gitter_ && ereignis->type() == QEvent::KeyPress;
     if (!taste || !static_cast<QKeyEvent*>(ereignis)->matches(QKeySequence::Copy))
         return QDialog::eventFilter(empfaenger, ereignis);
-    Kopiere(false);
+    KopiereZeilen(false);
     return true;
 }
 
@@ -108,7 +108,7 @@ const Ergebnisreiter& TFormData::Reiter() const {
     return kErgebnisreiter[static_cast<std::size_t>(reiter_->currentIndex())];
 }
 
-void TFormData::Betitle(const QString& titel, const QString& angaben, const QString& nummer) {
+void TFormData::SetzeTitel(const QString& titel, const QString& angaben, const QString& nummer) {
     setWindowTitle(titel);
     angaben_->setText(angaben);
     nummer_ = nummer;
@@ -140,11 +140,11 @@ void TFormData::MerkeBreite(int spalte, int weite) {
     sitzung_.MerkeStand(Spalten(reiter_->currentIndex()), breiten.join(u';').toUtf8());
 }
 
-void TFormData::Fuelle(Antwort antwort) {
+void TFormData::FuelleGitter(Antwort antwort) {
     const std::size_t zeilen = antwort.zeilen.size();
     gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);  // as the query orders them
     stelltEin_ = true;
-    modell_.Setze(Beschreibung(Reiter().tabelle), std::move(antwort));
+    modell_.SetzeTabelle(Beschreibung(Reiter().tabelle), std::move(antwort));
     stelltEin_ = false;
     StelleSpaltenEin();
     hinweis_->setText(zeilen == 0   ? QStringLiteral("Keine Ergebnisse in dieser Tabelle")
@@ -152,19 +152,19 @@ void TFormData::Fuelle(Antwort antwort) {
                                     : QStringLiteral("%1 Zeilen").arg(zeilen));
 }
 
-void TFormData::Leere(const QString& grund) {
+void TFormData::LeereGitter(const QString& grund) {
     stelltEin_ = true;
-    modell_.Leere();
+    modell_.LeereTabelle();
     stelltEin_ = false;
     hinweis_->setText(grund);
 }
 
-void TFormData::Zeige() {
+void TFormData::ZeigeFenster() {
     show();
     raise();
 }
 
-void TFormData::Kopiere(bool alles) const {
+void TFormData::KopiereZeilen(bool alles) const {
     QStringList zeilen;
     const int spalten = modell_.columnCount();
     if (alles) {

@@ -27,20 +27,20 @@ class TFormData final : public QDialog {
 
     [[nodiscard]] const Ergebnisreiter& Reiter() const;
     /// What is listed. @param angaben a line about it @param nummer its point, of a line the first one
-    void Betitle(const QString& titel, const QString& angaben, const QString& nummer);
-    void Fuelle(Antwort antwort);
+    void SetzeTitel(const QString& titel, const QString& angaben, const QString& nummer);
+    void FuelleGitter(Antwort antwort);
     /// An empty grid. @param grund told below it
-    void Leere(const QString& grund);
+    void LeereGitter(const QString& grund);
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
     /// Shows the window without taking the keyboard.
-    void Zeige();
+    void ZeigeFenster();
 
   protected:
     void showEvent(QShowEvent* ereignis) override;
 
   private:
     void BaueGitter();
-    void Kopiere(bool alles) const;
+    void KopiereZeilen(bool alles) const;
     void ZeigeEndpunkt(int zeile) const;
     void StelleSpaltenEin();
     void MerkeBreite(int spalte, int weite);

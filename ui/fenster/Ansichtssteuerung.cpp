@@ -49,7 +49,7 @@ void Ansichtssteuerung::PasseEin(const Netz& netz, Ansicht& ansicht) {
     ansicht.PasseEin();
 }
 
-void Ansichtssteuerung::Merke(const Bildlage& lage) {
+void Ansichtssteuerung::MerkeLage(const Bildlage& lage) {
     constexpr std::size_t kHoechstens = 50;
     if (ansichten_.size() == kHoechstens) ansichten_.erase(ansichten_.begin());
     ansichten_.push_back(lage);

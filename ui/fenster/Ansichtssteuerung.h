@@ -30,7 +30,7 @@ class Ansichtssteuerung {
     void PasseEin(const Netz& netz, Ansicht& ansicht);
 
     /// A view to go back to.
-    void Merke(const Bildlage& lage);
+    void MerkeLage(const Bildlage& lage);
     /// The last one, which is then forgotten.
     [[nodiscard]] std::optional<Bildlage> NimmLetzte();
 
@@ -43,7 +43,7 @@ class Ansichtssteuerung {
     // Dragging.
     void BeginneZug(const Ansicht& ansicht);
     /// @param ziel where the network is to lie, from where it was at the beginning [px]
-    void Ziehe(Bildpunkt ziel) { zugziel_ = ziel; }
+    void ZieheNach(Bildpunkt ziel) { zugziel_ = ziel; }
     /// How far the picture lies behind [px].
     [[nodiscard]] Bildpunkt Rueckstand() const { return {zugziel_.x - gezogen_.x, zugziel_.y - gezogen_.y}; }
     /// Brings the network where it is to lie. @return how far it went by that [px]; nothing: it lay there

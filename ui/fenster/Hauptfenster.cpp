@@ -65,7 +65,7 @@ constexpr auto kBefehle = std::to_array<Befehl>({
     {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click, kGruppenende},
     {"RueckgaengigButton", "Rückgängig", "rueckgaengig", "Ctrl+Z", &TZrwMainDlg::Rueckgaengig,
      kInJedemFenster},
-    {"WiederholenButton", "Wiederholen", "wiederholen", "Ctrl+Y", &TZrwMainDlg::Wiederhole,
+    {"WiederholenButton", "Wiederholen", "wiederholen", "Ctrl+Y", &TZrwMainDlg::WiederholeSchritt,
      kInJedemFenster | kGruppenende},
     {"ButtonGroesser", "Bild größer", "groesser", "+", &TZrwMainDlg::ButtonGroesserClick, kBrauchtNetz},
     {"ButtonKleiner", "Bild kleiner", "kleiner", "-", &TZrwMainDlg::ButtonKleinerClick, kBrauchtNetz},
@@ -146,7 +146,7 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
                  {[this] { return JetzigerPlan(); }, [this](const QString& text) { ZeigeStatus(text); },
                   [this](const std::exception& fehler) { ZeigeFehler(fehler); },
                   [this](Lesung&& lesung, const std::filesystem::path& datei) {
-                      Uebernimm(std::move(lesung), datei);
+                      UebernimmLesung(std::move(lesung), datei);
                       plan_.MerkeUngesichert();
                   }}) {
     programm_.zustand.flaeche = &flaeche_;
@@ -282,7 +282,7 @@ void TZrwMainDlg::BaueSchalter(QLayout& reihe) {
         kasten->setObjectName(AusUtf8(s.komponente));
         kasten->setToolTip(AusUtf8(s.hinweis));
         kasten->setChecked(s.anfangs);
-        kasten->setHidden(s.Hat(kNurBeiAbweichung));
+        kasten->setHidden(s.HatMerkmal(kNurBeiAbweichung));
         connect(kasten, &QCheckBox::toggled, this, [this, &s](bool ein) { SchalterGewaehlt(s, ein); });
         schalterkaesten_.push_back(kasten);
         reihe.addWidget(kasten);
@@ -322,7 +322,7 @@ void TZrwMainDlg::BaueDialoge() {
         ZentriereListe(zentrum, exzentren);
     };
     zentrierkasten_->bestaetige = [this](qsizetype anzahl, const QString& zentrum) {
-        return programm_.dialoge.Frage(
+        return programm_.dialoge.FrageJaNein(
             QStringLiteral("%1 Punkte auf %2 zentrieren?\nDas lässt sich nicht zurücknehmen.")
                 .arg(anzahl)
                 .arg(zentrum));
@@ -396,7 +396,7 @@ void TZrwMainDlg::LoeseWerkzeuge() {
 }
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
-    if (schalter.Hat(kImKartengitter) && ein) {
+    if (schalter.HatMerkmal(kImKartengitter) && ein) {
         if (!plan_.Offen()) {
             schalterkaesten_[static_cast<std::size_t>(&schalter - kSchalter.data())]->setChecked(false);
             return;
@@ -405,18 +405,18 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
             ZeigeStatus(QStringLiteral("Zum Koordinatensystem dieses Netzes gibt es kein Kartengitter."));
         }
     }
-    Schalte(schalter, ein, plan_.Daten(), programm_.netz, programm_.zustand);
-    if (schalter.Hat(kImKartengitter) && plan_.Offen()) {
+    StelleEin(schalter, ein, plan_.Daten(), programm_.netz, programm_.zustand);
+    if (schalter.HatMerkmal(kImKartengitter) && plan_.Offen()) {
         const auto text = Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand);
         if (!text.empty()) ZeigeStatus(AusUtf8(text));
     }
-    const bool ausTabelle = schalter.Hat(kAusErgebnissen);
+    const bool ausTabelle = schalter.HatMerkmal(kAusErgebnissen);
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
     if (ein && ausTabelle && plan_.Offen() && !programm_.daten.Vorhanden("KooTABLE.DB"))
         ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
                     QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));
-    if (schalter.Hat(kSchliesstErgebnisse)) ergebnisse_->Fenster().hide();
+    if (schalter.HatMerkmal(kSchliesstErgebnisse)) ergebnisse_->Fenster().hide();
     if (schalter.inDarstellung == nullptr && schalter.imZustand == nullptr) druck_.AktualisiereRahmen();
     if (plan_.Offen()) ZeichneNeu();
 }

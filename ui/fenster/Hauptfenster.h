@@ -53,7 +53,7 @@ class TZrwMainDlg final : public QMainWindow,
 
     /// Opens a control file or, by its extension, a picture file. Messages go to the dialog service; the
     /// previous network stays where the new one cannot be read, and where the user would lose changes.
-    void Oeffne(const std::filesystem::path& datei);
+    void OeffneDatei(const std::filesystem::path& datei);
     /// The current network, or null before one is opened.
     [[nodiscard]] const Liste* Netz() const { return plan_.Daten(); }
     [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
@@ -86,7 +86,7 @@ class TZrwMainDlg final : public QMainWindow,
     void NummernZeigenClick();  ///< shows all hidden numbers
     void LetzteDateienClick();
     void Rueckgaengig();
-    void Wiederhole();
+    void WiederholeSchritt();
 
     /// Help keys work in every window of the program.
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
@@ -112,16 +112,16 @@ class TZrwMainDlg final : public QMainWindow,
     [[nodiscard]] QToolButton& Knopf(const char* komponente) const;
 
     // HauptfensterDateien.cpp
-    void Uebernimm(Lesung&& lesung, const std::filesystem::path& datei);
+    void UebernimmLesung(Lesung&& lesung, const std::filesystem::path& datei);
     void StelleSchalter(bool ausBild);
-    [[nodiscard]] bool Speichere();
+    [[nodiscard]] bool SpeicherePlan();
     [[nodiscard]] bool DarfVerwerfen();
     [[nodiscard]] bool BereitZumEnde();
     void ZeigeTitel();
     [[nodiscard]] Netzbewahrung::Plan JetzigerPlan();
 
     // HauptfensterAnsicht.cpp
-    void Zoome(double x, double y, bool groesser);
+    void ZoomeSchritt(double x, double y, bool groesser);
     void ZoomeAuf(const Bildlage& lage);
     bool SetzeLage(const Bildlage& lage);
     void ZeichneNachRad();
@@ -155,7 +155,7 @@ class TZrwMainDlg final : public QMainWindow,
     void BeendeZug() override;
     [[nodiscard]] bool FolgeZug();
     void ZeichneStehendes(Zeichenflaeche& flaeche);
-    void Verschiebe(Bildpunkt versatz);
+    void VerschiebeBild(Bildpunkt versatz);
     void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
     void ZoomeUm(Bildpunkt ort) override;
     void AnsichtZurueck() override;

@@ -79,7 +79,7 @@ void TZrwMainDlg::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
 /// With a way back.
 void TZrwMainDlg::ZoomeAuf(const Bildlage& lage) {
     const Bildlage vorher = plan_.Daten()->Lage();
-    if (SetzeLage(lage)) ansicht_.Merke(vorher);
+    if (SetzeLage(lage)) ansicht_.MerkeLage(vorher);
 }
 
 bool TZrwMainDlg::SetzeLage(const Bildlage& lage) {
@@ -101,19 +101,19 @@ void TZrwMainDlg::AnsichtZurueck() {
 
 void TZrwMainDlg::ZoomeUm(Bildpunkt ort) {
     const Bildlage vorher = plan_.Daten()->Lage();
-    Zoome(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
-    if (plan_.Daten()->Faktor != vorher.faktor) ansicht_.Merke(vorher);
+    ZoomeSchritt(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
+    if (plan_.Daten()->Faktor != vorher.faktor) ansicht_.MerkeLage(vorher);
 }
 
 void TZrwMainDlg::ButtonGroesserClick() {
-    if (plan_.Offen()) Zoome(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, true);
+    if (plan_.Offen()) ZoomeSchritt(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, true);
 }
 
 void TZrwMainDlg::ButtonKleinerClick() {
-    if (plan_.Offen()) Zoome(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, false);
+    if (plan_.Offen()) ZoomeSchritt(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, false);
 }
 
-void TZrwMainDlg::Zoome(double x, double y, bool groesser) {
+void TZrwMainDlg::ZoomeSchritt(double x, double y, bool groesser) {
     BrichAb();
     if (!plan_.Daten()->ZoomeSchritt(x, y, groesser, programm_.einstellungen.Zoomschritt))
         return ZeigeStatus(kNichtWeiter);
@@ -248,13 +248,13 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
         const std::int64_t y = plan_.Daten()->Hoehe / kTeile;
         switch (ereignis->key()) {
             case Qt::Key_Left:
-                return Verschiebe({x, 0});
+                return VerschiebeBild({x, 0});
             case Qt::Key_Right:
-                return Verschiebe({-x, 0});
+                return VerschiebeBild({-x, 0});
             case Qt::Key_Up:
-                return Verschiebe({0, y});
+                return VerschiebeBild({0, y});
             case Qt::Key_Down:
-                return Verschiebe({0, -y});
+                return VerschiebeBild({0, -y});
             default:
                 break;
         }
@@ -284,7 +284,7 @@ void TZrwMainDlg::ImageZarwikResize(int weite, int hoehe) {
     ZeichneNeu();
 }
 
-void TZrwMainDlg::Verschiebe(Bildpunkt versatz) {
+void TZrwMainDlg::VerschiebeBild(Bildpunkt versatz) {
     BrichAb();
     Ansicht& ansicht = *plan_.Daten();
     ansicht.SetzeVersatz(ansicht.Versatz(), versatz);
@@ -316,7 +316,7 @@ void TZrwMainDlg::LasseLegendeAus(bool aus) {
 }
 
 void TZrwMainDlg::ZieheBild(Bildpunkt versatz) {
-    ansicht_.Ziehe(versatz);
+    ansicht_.ZieheNach(versatz);
     if (pflege_.Verschiebbar(Vorlage())) {
         (void)FolgeZug();
     } else {

@@ -26,12 +26,12 @@ namespace zrw {
 
 /// The one place that tells what an action could not do; its scopes have put everything back by then.
 void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
-    programm_.dialoge.Melde(AusUtf8(Fehlertext(fehler)));
+    programm_.dialoge.MeldeFehler(AusUtf8(Fehlertext(fehler)));
 }
 
 void TZrwMainDlg::SpeedButton12Click() {
     if (!plan_.Offen()) return;
-    legendentexte_->Bearbeite(*plan_.Daten());
+    legendentexte_->BearbeiteLegende(*plan_.Daten());
     plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
     ZeichneNeu();
 }
@@ -56,7 +56,7 @@ void TZrwMainDlg::SpeedButton16Click() {
     }
     ZeigeStatus(QStringLiteral("Geschrieben nach ") + QDir::toNativeSeparators(QDir::currentPath()));
     // "ZRP.PLT" is not the file's name, but what users have always read here.
-    programm_.dialoge.Sage(
+    programm_.dialoge.SageErfolg(
         QStringLiteral("Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."));
 }
 
@@ -95,7 +95,7 @@ void TZrwMainDlg::SpeedButton6Click() {
 #ifdef Q_OS_WIN
     // Offices that have a help file of their own put it where they work.
     const QString eigene = QStringLiteral("ZRWHELP.HLP");
-    if (QFileInfo::exists(eigene) && programm_.dialoge.Frage(eigene + QStringLiteral(" öffnen?"))) {
+    if (QFileInfo::exists(eigene) && programm_.dialoge.FrageJaNein(eigene + QStringLiteral(" öffnen?"))) {
         QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(eigene).absoluteFilePath()));
         return;
     }
@@ -105,7 +105,7 @@ void TZrwMainDlg::SpeedButton6Click() {
 
 void TZrwMainDlg::ZeigeHilfe(int kontext) {
     if (hilfe_ == nullptr) hilfe_ = std::make_unique<Hilfefenster>();
-    hilfe_->Zeige(kontext);
+    hilfe_->ZeigeSeite(kontext);
 }
 
 bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
@@ -134,7 +134,7 @@ void TZrwMainDlg::ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) {
     const bool zeigen = sichtbar && plan_.Offen();
     switch (welches) {
         case Nebenfenster::Zentrierung:
-            zeigen ? zentrierkasten_->Zeige() : zentrierkasten_->hide();
+            zeigen ? zentrierkasten_->ZeigeZentren() : zentrierkasten_->hide();
             break;
         case Nebenfenster::Punktart:
             punktart_->LoesePunkt();

@@ -37,12 +37,12 @@ const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien 
 /// Collects the messages of one reading into the text of one box.
 class Sammler {
   public:
-    void Nimm(const Meldung& m) {
+    void NimmMeldung(const Meldung& m) {
         if (++anzahl_ > kMeldungenInBox) return;
         text_ += AusUtf8(m.text + '\n' + m.Stelle() + '\n');
     }
     /// What ended the reading, below the rest.
-    void Schliesse(const QString& text) {
+    void SchliesseMeldungen(const QString& text) {
         if (!text.isEmpty()) schluss_ = text;
     }
     [[nodiscard]] bool Leer() const { return anzahl_ == 0 && schluss_.isEmpty(); }
@@ -68,7 +68,7 @@ class Sammler {
 class Lesebalken {
   public:
     explicit Lesebalken(QStatusBar& zeile) : zustand_(std::make_shared<Zustand>(zeile)) {}
-    bool operator()(double anteil) const { return zustand_->Zeige(anteil); }
+    bool operator()(double anteil) const { return zustand_->ZeigeAnteil(anteil); }
 
   private:
     class Zustand final : public QObject {
@@ -80,7 +80,7 @@ class Lesebalken {
         ~Zustand() override {
             if (balken_ != nullptr) zeile_.removeWidget(balken_.get());
         }
-        bool Zeige(double anteil) {
+        bool ZeigeAnteil(double anteil) {
             constexpr int kTausendstel = 1000;
             constexpr qint64 kOhneBalken = 150;  // [ms] shorter readings only flicker
             if (uhr_.elapsed() < kOhneBalken) return true;
@@ -136,17 +136,17 @@ bool OhnePunkte(const Lesung& lesung, const std::filesystem::path& datei) {
 void TZrwMainDlg::SpeedButton1Click() {
     const auto name = programm_.dialoge.WaehleZumOeffnen(
         {QStringLiteral("Zarwik erzeugen"), kSteuerfilter, ordner_, {}, {}});
-    if (name) Oeffne(NachPfad(*name));
+    if (name) OeffneDatei(NachPfad(*name));
 }
 
 void TZrwMainDlg::SpeedButton2Click() {
     const auto name = programm_.dialoge.WaehleZumOeffnen(
         {QStringLiteral("Zarwikdatei lesen"), kBildfilter, ordner_, {}, {}});
-    if (name) Oeffne(NachPfad(*name));
+    if (name) OeffneDatei(NachPfad(*name));
 }
 
 void TZrwMainDlg::SpeedButton9Click() {
-    (void)Speichere();
+    (void)SpeicherePlan();
 }
 
 void TZrwMainDlg::SpeedButton7Click() {
@@ -158,8 +158,8 @@ void TZrwMainDlg::SpeedButton7Click() {
 /// Asks whether the plot is to be saved before the program ends. Whoever wants that and then cancels the file
 /// dialog ends it all the same: the plot is kept for the next start. @return false where saving failed
 bool TZrwMainDlg::BereitZumEnde() {
-    const bool soll = programm_.dialoge.Frage(QStringLiteral("Zarwik speichern"));
-    if (soll && !Speichere()) return false;
+    const bool soll = programm_.dialoge.FrageJaNein(QStringLiteral("Zarwik speichern"));
+    if (soll && !SpeicherePlan()) return false;
     planBleibt_ = soll && Ungesichert();
     return true;
 }
@@ -169,7 +169,7 @@ void TZrwMainDlg::LetzteDateienClick() {
     if (dateien.isEmpty()) {
         ZeigeStatus(QStringLiteral("Es wurde noch keine Datei geöffnet."));
     } else if (const auto datei = programm_.dialoge.WaehleAus(dateien)) {
-        Oeffne(NachPfad(*datei));
+        OeffneDatei(NachPfad(*datei));
     }
 }
 
@@ -177,7 +177,7 @@ void TZrwMainDlg::LetzteDateienClick() {
 bool TZrwMainDlg::DarfVerwerfen() {
     if (!plan_.Offen() || !Ungesichert()) return true;
     const auto antwort = programm_.dialoge.FrageMitAbbruch(QStringLiteral("Zarwik speichern"));
-    return antwort && (!*antwort || (Speichere() && !Ungesichert()));
+    return antwort && (!*antwort || (SpeicherePlan() && !Ungesichert()));
 }
 
 void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
@@ -221,7 +221,7 @@ void TZrwMainDlg::dropEvent(QDropEvent* ereignis) {
         ZeigeStatus(QStringLiteral("Es lässt sich nur eine Datei öffnen; auf dem Fenster lagen %1.")
                         .arg(dateien.size()));
     } else {
-        Oeffne(NachPfad(dateien.front()));
+        OeffneDatei(NachPfad(dateien.front()));
     }
 }
 
@@ -234,7 +234,7 @@ Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() {
     return {plan_.Daten(), titel_.mid(QStringLiteral("Zarwik ").size()), Ungesichert()};
 }
 
-void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
+void TZrwMainDlg::OeffneDatei(const std::filesystem::path& datei) {
     if (!DarfVerwerfen()) return;
     // Closing saves what was chosen in it; reading starts from what is saved.
     if (!IstBilddatei(datei)) SchliesseEinstellungen();
@@ -249,7 +249,7 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
         if (!IstBilddatei(datei)) LoadSettings(programm_.einstellungen, programm_.ablage);
         lesung = OeffneNetz(
             datei, programm_.dateien, programm_.einstellungen, programm_.netz,
-            {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.Nimm(m); },
+            {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.NimmMeldung(m); },
             Lesebalken(*statusBar()));
     } catch (const Leseabbruch& f) {
         programm_.einstellungen = vorher;
@@ -265,12 +265,13 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
     if (!fehler.isEmpty()) {
         programm_.einstellungen = vorher;
         ZeigeStatus(fehler);
-        if (mitFenster) meldungen.Schliesse(fehler);
+        if (mitFenster) meldungen.SchliesseMeldungen(fehler);
     }
-    if (!lesung.endetext.empty()) meldungen.Schliesse(AusUtf8(lesung.endetext + '\n' + lesung.endegrund));
+    if (!lesung.endetext.empty())
+        meldungen.SchliesseMeldungen(AusUtf8(lesung.endetext + '\n' + lesung.endegrund));
     // A box lets other things happen, so it comes when the picture stands.
     const auto melde = [&] {
-        if (!meldungen.Leer()) programm_.dialoge.Melde(meldungen.Text());
+        if (!meldungen.Leer()) programm_.dialoge.MeldeFehler(meldungen.Text());
     };
     if (lesung.ende == Leseende::Programmende) {
         melde();
@@ -286,7 +287,7 @@ void TZrwMainDlg::Oeffne(const std::filesystem::path& datei) {
                         .arg(AusUtf8(PfadText(datei.filename()))));
     } else if (lesung.liste != nullptr) {
         try {
-            Uebernimm(std::move(lesung), datei);
+            UebernimmLesung(std::move(lesung), datei);
         } catch (const std::exception& f) {
             ZeigeFehler(f);
         }
@@ -312,29 +313,29 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         const bool ein =
             schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
-        Schalte(kSchalter[i], ein, plan_.Daten(), programm_.netz, programm_.zustand);
-        if (kSchalter[i].Hat(kNurBeiAbweichung))
+        StelleEin(kSchalter[i], ein, plan_.Daten(), programm_.netz, programm_.zustand);
+        if (kSchalter[i].HatMerkmal(kNurBeiAbweichung))
             schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
 }
 
-void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei) {
+void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& datei) {
     const Sanduhr sanduhr;
     // Nothing may point into the network that goes now.
     BrichAb();
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->Abbrechen();
-    ergebnisse_->Vergiss();
-    druck_.Rahmen().Loese();
+    ergebnisse_->VergissNetz();
+    druck_.Rahmen().LoeseEcke();
     punktart_->LoesePunkt();
     ansicht_.NeuesNetz();
     bewahrung_.VergissPlan();
-    zentrierkasten_->Beginne();
+    zentrierkasten_->BeginneNetz();
     plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
-    ComboBox1_->Sortiere(IstBilddatei(datei));
+    ComboBox1_->SetzeSortiert(IstBilddatei(datei));
     FuelleNummern();
     const QStringList verborgen = Verborgene(*plan_.Daten());
-    if (IstBilddatei(datei) || !verborgen.isEmpty()) versteck_->Versteckte().Setze(verborgen);
+    if (IstBilddatei(datei) || !verborgen.isEmpty()) versteck_->Versteckte().SetzeNummern(verborgen);
     versteck_->Versteckte().NetzGeaendert();
     ergebnisse_->WaehleOrdner(datei);
     StelleSchalter(IstBilddatei(datei));
@@ -362,7 +363,7 @@ void TZrwMainDlg::Uebernimm(Lesung&& lesung, const std::filesystem::path& datei)
     ZeichneNeu();
 }
 
-bool TZrwMainDlg::Speichere() {
+bool TZrwMainDlg::SpeicherePlan() {
     if (!plan_.Offen()) return true;
     QString vorschlag = QFileInfo(AusUtf8(PfadText(plan_.Datei()))).fileName();
     // Of a control file without the extension and its dot.

@@ -21,13 +21,13 @@ void TZrwMainDlg::SpeedButton5Click() {
     if (!plan_.Offen()) return;
     bewahrung_.BewahrePlan();
     const auto massstab = druck_.Massstab();
-    if (!massstab || !programm_.drucker.Waehle(this)) return;
+    if (!massstab || !programm_.drucker.WaehleDrucker(this)) return;
     druck_.AktualisiereRahmen();  // other paper may have been chosen
     auto blaetter = druck_.WaehleBlaetter(*plan_.Daten(), *massstab);
     if (!blaetter) return;
     try {
         const Sanduhr sanduhr;
-        druck_.Drucke(*plan_.Daten(), std::move(*blaetter), *massstab, Titel(plan_.Datei()));
+        druck_.DruckeBlaetter(*plan_.Daten(), std::move(*blaetter), *massstab, Titel(plan_.Datei()));
         ZeigeStatus(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
     } catch (const std::exception& f) {
         ZeigeFehler(f);

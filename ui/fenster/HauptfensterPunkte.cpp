@@ -32,7 +32,7 @@ void TZrwMainDlg::Rueckgaengig() {
                      : QStringLiteral("Es gibt nichts zurückzunehmen."));
 }
 
-void TZrwMainDlg::Wiederhole() {
+void TZrwMainDlg::WiederholeSchritt() {
     BrichAb();
     const auto text = plan_.WiederholeSchritt();
     ZeigeStatus(text ? QStringLiteral("Wiederholt: ") + *text
@@ -56,11 +56,11 @@ void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
 
 /// In all the lists.
 void TZrwMainDlg::FuelleNummern() {
-    ComboBox1_->Fuelle(*plan_.Daten());
+    ComboBox1_->FuelleListe(*plan_.Daten());
     const QStringList nummern = ComboBox1_->Nummern();
-    zentrierkasten_->Fuelle(nummern);
-    if (zentrierkasten_->isVisible()) zentrierkasten_->Zeige();
-    if (versteck_->Auswahl().isVisible()) versteck_->Auswahl().Fuelle(nummern);
+    zentrierkasten_->FuelleListen(nummern);
+    if (zentrierkasten_->isVisible()) zentrierkasten_->ZeigeZentren();
+    if (versteck_->Auswahl().isVisible()) versteck_->Auswahl().FuelleListe(nummern);
 }
 
 // --- Finding a point --------------------------------------------------------------------------------------
@@ -83,7 +83,7 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     if (!plan_.Offen() || nummer.isEmpty()) return nullptr;
     PPunktKnoten punkt = plan_.Daten()->FindPunkt(AlsNummer(nummer));
     if (punkt == nullptr) {
-        if (const auto treffer = ComboBox1_->Finde(nummer))
+        if (const auto treffer = ComboBox1_->FindeNummer(nummer))
             punkt = plan_.Daten()->FindPunkt(AlsNummer(*treffer));
     }
     if (punkt == nullptr) {
@@ -150,7 +150,7 @@ void TZrwMainDlg::SpeedButton14Click() {
         versteck_->Auswahl().hide();
         return;
     }
-    versteck_->Auswahl().Fuelle(ComboBox1_->Nummern());
+    versteck_->Auswahl().FuelleListe(ComboBox1_->Nummern());
     versteck_->Auswahl().show();
 }
 

@@ -21,7 +21,7 @@ class Massstabpruefer final : public QValidator {
     }
     /// Called where the user leaves the field in between.
     void fixup(QString& text) const override { text = zuletzt_; }
-    void Merke(const QString& text) { zuletzt_ = text; }
+    void MerkeText(const QString& text) { zuletzt_ = text; }
 
   private:
     QString zuletzt_;
@@ -36,7 +36,7 @@ Massstabfeld::Massstabfeld(QWidget* eltern) : QLineEdit(eltern) {
     setText(anfang);
     setMaxLength(kStellen);
     setValidator(pruefer);
-    connect(this, &QLineEdit::editingFinished, this, [this, pruefer] { pruefer->Merke(text()); });
+    connect(this, &QLineEdit::editingFinished, this, [this, pruefer] { pruefer->MerkeText(text()); });
 }
 
 std::optional<double> Massstabfeld::Massstab() const {

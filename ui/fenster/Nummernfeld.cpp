@@ -32,7 +32,7 @@ Nummernfeld::Nummernfeld(QWidget* eltern) : QComboBox(eltern), nummern_(new QStr
     });
 }
 
-void Nummernfeld::Fuelle(const Liste& liste) {
+void Nummernfeld::FuelleListe(const Liste& liste) {
     QStringList nummern;
     for (const PunktString* t = liste.PktTextKnoten; t != nullptr; t = t->Next)
         nummern << AusNetz(t->Item->Aus.Text());
@@ -47,7 +47,7 @@ QStringList Nummernfeld::Nummern() const {
     return nummern_->stringList();
 }
 
-std::optional<QString> Nummernfeld::Finde(const QString& teil) const {
+std::optional<QString> Nummernfeld::FindeNummer(const QString& teil) const {
     const QStringList nummern = nummern_->stringList();
     const auto treffer = std::find_if(nummern.begin(), nummern.end(), [&](const QString& nummer) {
         return nummer.contains(teil, Qt::CaseInsensitive);

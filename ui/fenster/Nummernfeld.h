@@ -21,13 +21,13 @@ class Nummernfeld final : public QComboBox {
 
     /// How the numbers of the next network stand: sorted, or in the order in which they were read. A picture
     /// file has them backwards.
-    void Sortiere(bool sortiert) { sortiert_ = sortiert; }
-    void Fuelle(const Liste& liste);
+    void SetzeSortiert(bool sortiert) { sortiert_ = sortiert; }
+    void FuelleListe(const Liste& liste);
     /// Whether points have come or gone since.
     [[nodiscard]] bool Veraltet(const Liste& liste) const { return stand_ != liste.MaxPkte; }
     [[nodiscard]] QStringList Nummern() const;
     /// The first number that holds the text, whatever its case.
-    [[nodiscard]] std::optional<QString> Finde(const QString& teil) const;
+    [[nodiscard]] std::optional<QString> FindeNummer(const QString& teil) const;
 
     /// A number was chosen, or something typed.
     std::function<void(const QString& nummer)> gewaehlt;

@@ -32,7 +32,7 @@ struct Schalter {
     bool anfangs;
     unsigned merkmale = 0;
 
-    [[nodiscard]] constexpr bool Hat(unsigned merkmal) const { return (merkmale & merkmal) != 0; }
+    [[nodiscard]] constexpr bool HatMerkmal(unsigned merkmal) const { return (merkmale & merkmal) != 0; }
 };
 
 inline constexpr auto kSchalter = std::to_array<Schalter>({
@@ -86,7 +86,7 @@ static_assert([] {
 /// Whether one of the switches with this mark is on in the plan.
 [[nodiscard]] inline bool EinerAn(const Darstellung& d, unsigned merkmal) {
     return std::any_of(kSchalter.begin(), kSchalter.end(), [&](const Schalter& s) {
-        return s.Hat(merkmal) && s.inDarstellung != nullptr && d.*s.inDarstellung;
+        return s.HatMerkmal(merkmal) && s.inDarstellung != nullptr && d.*s.inDarstellung;
     });
 }
 
@@ -106,9 +106,9 @@ static_assert([] {
 }
 
 /// Puts one switch into effect.
-inline void Schalte(const Schalter& s, bool ein, Darstellung* darstellung, const Netzangaben& netz,
-                    Zeichenzustand& zustand) {
-    if (s.Hat(kImKartengitter) && !HatKartengitter(netz.Netztyp)) ein = false;
+inline void StelleEin(const Schalter& s, bool ein, Darstellung* darstellung, const Netzangaben& netz,
+                      Zeichenzustand& zustand) {
+    if (s.HatMerkmal(kImKartengitter) && !HatKartengitter(netz.Netztyp)) ein = false;
     if (s.inDarstellung != nullptr && darstellung != nullptr) darstellung->*s.inDarstellung = ein;
     if (s.imZustand != nullptr) zustand.*s.imZustand = ein;
 }

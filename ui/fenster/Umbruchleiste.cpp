@@ -7,7 +7,7 @@ namespace zrw {
 namespace {
 
 /// Separators and containers fill the height of their row, buttons and fields keep their own.
-bool Waechst(QLayoutItem& stueck) {
+bool WaechstMit(QLayoutItem& stueck) {
     const QWidget* w = stueck.widget();
     return w == nullptr || (w->sizePolicy().verticalPolicy() & QSizePolicy::GrowFlag) != 0;
 }
@@ -36,7 +36,7 @@ QLayoutItem* Umbruchleiste::takeAt(int i) {
 }
 
 int Umbruchleiste::heightForWidth(int weite) const {
-    return Ordne({0, 0, weite, 0}, false);
+    return OrdneReihen({0, 0, weite, 0}, false);
 }
 
 QSize Umbruchleiste::sizeHint() const {
@@ -60,14 +60,14 @@ QSize Umbruchleiste::minimumSize() const {
 
 void Umbruchleiste::setGeometry(const QRect& flaeche) {
     QLayout::setGeometry(flaeche);
-    (void)Ordne(flaeche, true);
+    (void)OrdneReihen(flaeche, true);
 }
 
 QSize Umbruchleiste::MitRand(QSize innen) const {
     return innen.grownBy(contentsMargins());
 }
 
-int Umbruchleiste::Ordne(const QRect& flaeche, bool setzen) const {
+int Umbruchleiste::OrdneReihen(const QRect& flaeche, bool setzen) const {
     const QRect innen = flaeche.marginsRemoved(contentsMargins());
     std::vector<QLayoutItem*> reihe;
     int x = innen.x();
@@ -80,7 +80,7 @@ int Umbruchleiste::Ordne(const QRect& flaeche, bool setzen) const {
             QSize groesse = stueck->sizeHint();
             groesse.setWidth(
                 std::min(groesse.width(), std::max(innen.width(), stueck->minimumSize().width())));
-            if (Waechst(*stueck)) groesse.setHeight(hoehe);
+            if (WaechstMit(*stueck)) groesse.setHeight(hoehe);
             if (setzen) stueck->setGeometry({{links, y + (hoehe - groesse.height()) / 2}, groesse});
             links += groesse.width() + abstand_;
         }

@@ -29,7 +29,7 @@ class Umbruchleiste final : public QLayout {
 
   private:
     /// Lays the rows out in the width of the area and returns the height that they take.
-    int Ordne(const QRect& flaeche, bool setzen) const;
+    int OrdneReihen(const QRect& flaeche, bool setzen) const;
     [[nodiscard]] QSize MitRand(QSize innen) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> stuecke_;

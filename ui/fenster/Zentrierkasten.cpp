@@ -89,14 +89,14 @@ Zentrierkasten::Zentrierkasten(QWidget* eltern)
     connect(PZListBox_, &QListView::clicked, this, [this](const QModelIndex& stelle) {
         if (zentrumGewaehlt) zentrumGewaehlt(stelle.data().toString());
     });
-    connect(ok, &QPushButton::clicked, this, [this] { Zentriere(); });
+    connect(ok, &QPushButton::clicked, this, [this] { ZentriereGewaehlte(); });
     connect(abbruch, &QPushButton::clicked, this, [this] {
         hide();
         if (beendet) beendet();
     });
 }
 
-void Zentrierkasten::Fuelle(const QStringList& nummern) {
+void Zentrierkasten::FuelleListen(const QStringList& nummern) {
     QStringList sortiert;
     std::copy_if(nummern.begin(), nummern.end(), std::back_inserter(sortiert),
                  [this](const QString& nummer) { return !zentriert_.contains(nummer); });
@@ -110,13 +110,13 @@ void Zentrierkasten::MerkeZentrierte(const QStringList& exzentren) {
         zentriert_ << nummer;
 }
 
-void Zentrierkasten::Zeige() {
+void Zentrierkasten::ZeigeZentren() {
     zentren_->setStringList(exzentren_->stringList());
     show();
     raise();
 }
 
-void Zentrierkasten::Zentriere() {
+void Zentrierkasten::ZentriereGewaehlte() {
     QModelIndexList zeilen = ExzListBox_->selectionModel()->selectedIndexes();
     std::sort(zeilen.begin(), zeilen.end(), [](const auto& a, const auto& b) { return a.row() < b.row(); });
     QStringList exzentren;

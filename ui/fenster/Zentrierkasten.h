@@ -18,13 +18,13 @@ class Zentrierkasten final : public QGroupBox {
     explicit Zentrierkasten(QWidget* eltern);
 
     /// A new network: nothing of it has been centred.
-    void Beginne() { zentriert_.clear(); }
+    void BeginneNetz() { zentriert_.clear(); }
     /// Points that are centred now: they do not come back into the lists.
     void MerkeZentrierte(const QStringList& exzentren);
     /// The points of the network; the list of centres is empty until the box is shown.
-    void Fuelle(const QStringList& nummern);
+    void FuelleListen(const QStringList& nummern);
     /// Every eccentre may be a centre.
-    void Zeige();
+    void ZeigeZentren();
 
     /// "Zentrieren" with a centre and the selected eccentres, which leave both lists afterwards. Without a
     /// centre the first argument is empty.
@@ -39,7 +39,7 @@ class Zentrierkasten final : public QGroupBox {
     void mouseMoveEvent(QMouseEvent* ereignis) override;
 
   private:
-    void Zentriere();
+    void ZentriereGewaehlte();
 
     QListView* ExzListBox_;
     QListView* PZListBox_;

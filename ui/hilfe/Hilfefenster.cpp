@@ -68,7 +68,7 @@ class Hilfeseite final : public QTextBrowser {
     }
 
     /// Marks every place of the words and shows the first.
-    void Markiere(const QStringList& worte) {
+    void MarkiereWorte(const QStringList& worte) {
         QList<ExtraSelection> stellen;
         for (const QString& wort : worte) {
             for (QTextCursor c = document()->find(wort); !c.isNull(); c = document()->find(wort, c)) {
@@ -109,7 +109,7 @@ class Hilfeseite final : public QTextBrowser {
         if (ThemaAn(adresse) == nullptr) return;  // nothing outside the manual
         bilder_.clear();
         QTextBrowser::doSetSource(adresse, art);
-        Gestalte();
+        GestalteTabellen();
     }
 
     void resizeEvent(QResizeEvent* ereignis) override {
@@ -119,7 +119,7 @@ class Hilfeseite final : public QTextBrowser {
 
   private:
     /// What the format of the pages cannot ask for, lines round the cells above all.
-    void Gestalte() {
+    void GestalteTabellen() {
         for (QTextFrame* rahmen : document()->rootFrame()->childFrames()) {
             auto* tabelle = qobject_cast<QTextTable*>(rahmen);
             if (tabelle == nullptr) continue;
@@ -279,7 +279,7 @@ void Hilfefenster::FuelleInhalt() {
     inhalt_->expandAll();
 }
 
-void Hilfefenster::Zeige(int kontext) {
+void Hilfefenster::ZeigeSeite(int kontext) {
     const Hilfethema* thema = FindeThema(kontext);
     if (thema == nullptr) thema = FindeThema(kErsteSeite);
     suchfeld_->clear();
@@ -309,7 +309,7 @@ QStringList Hilfefenster::Worte() const {
     return suchfeld_->text().split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-std::vector<int> Hilfefenster::Suche(const QString& worte) const {
+std::vector<int> Hilfefenster::SucheSeiten(const QString& worte) const {
     const QStringList alle = worte.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     std::vector<int> treffer;
     for (std::size_t i = 0; i < kHilfethemen.size(); ++i) {
@@ -322,7 +322,7 @@ std::vector<int> Hilfefenster::Suche(const QString& worte) const {
 }
 
 void Hilfefenster::SucheGeaendert() {
-    const std::vector<int> treffer = Suche(suchfeld_->text());
+    const std::vector<int> treffer = SucheSeiten(suchfeld_->text());
     for (int g = 0; g < inhalt_->topLevelItemCount(); ++g) {
         QTreeWidgetItem* gruppe = inhalt_->topLevelItem(g);
         bool leer = true;
@@ -342,11 +342,11 @@ void Hilfefenster::SucheGeaendert() {
     } else {
         trefferzahl_->setText(QStringLiteral("%1 Seiten").arg(treffer.size()));
     }
-    seite_->Markiere(worte);
+    seite_->MarkiereWorte(worte);
 }
 
 void Hilfefenster::ZeigeNaechstenTreffer() {
-    const std::vector<int> treffer = Suche(suchfeld_->text());
+    const std::vector<int> treffer = SucheSeiten(suchfeld_->text());
     if (treffer.empty()) return;
     // From the page shown to the next, and from outside the hits to the first.
     auto ziel = std::find(treffer.begin(), treffer.end(), kontext_);
@@ -367,7 +367,7 @@ void Hilfefenster::SeiteGewechselt(const QUrl& seite) {
             inhalt_->setCurrentItem(gruppe->child(i));
         }
     }
-    seite_->Markiere(Worte());
+    seite_->MarkiereWorte(Worte());
 }
 
 }  // namespace zrw

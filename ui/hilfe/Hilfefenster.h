@@ -26,12 +26,12 @@ class Hilfefenster final : public QWidget {
 
     /// Opens the window, brings it to the front and shows the page of a help context; the first page where
     /// the number has none.
-    void Zeige(int kontext);
+    void ZeigeSeite(int kontext);
     /// Help context of the page shown.
     [[nodiscard]] int Kontext() const { return kontext_; }
     /// Help contexts of the pages in which every word stands, in the order of the contents; all pages for an
     /// empty text.
-    [[nodiscard]] std::vector<int> Suche(const QString& worte) const;
+    [[nodiscard]] std::vector<int> SucheSeiten(const QString& worte) const;
 
   protected:
     void keyPressEvent(QKeyEvent* ereignis) override;

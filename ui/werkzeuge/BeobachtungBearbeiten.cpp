@@ -55,7 +55,7 @@ void BeobachtungBearbeiten::Druecken(Bildpunkt ort) {
 void BeobachtungBearbeiten::WaehleKante(PunktKante* kante) {
     kante_ = kante;
     if (kante != nullptr)
-        umgebung_.Beobachtungsdialog().Zeige(AlsWahl({kante->Item->LAttr, kante->Item->KAttr}));
+        umgebung_.Beobachtungsdialog().ZeigeWahl(AlsWahl({kante->Item->LAttr, kante->Item->KAttr}));
     ZeigeGewaehltes({});
 }
 

@@ -20,7 +20,8 @@ void RahmenVerschieben::Druecken(Bildpunkt ort) {
 void RahmenVerschieben::Ziehen(Bildpunkt ort) {
     if (!anfang_) return;
     const Welt jetzt = umgebung_.AktuelleListe()->BildinWelt(ort);
-    rahmen_.Verlege({ecke_.rechts + jetzt.rechts - anfang_->rechts, ecke_.hoch + jetzt.hoch - anfang_->hoch});
+    rahmen_.VerlegeEcke(
+        {ecke_.rechts + jetzt.rechts - anfang_->rechts, ecke_.hoch + jetzt.hoch - anfang_->hoch});
     umgebung_.UeberlagerungGeaendert();
 }
 
@@ -36,7 +37,7 @@ void RahmenVerschieben::Loslassen(Bildpunkt ort) {
 void RahmenVerschieben::Abbrechen() {
     if (!anfang_) return;
     anfang_.reset();
-    vorher_ ? rahmen_.Verlege(*vorher_) : rahmen_.Loese();
+    vorher_ ? rahmen_.VerlegeEcke(*vorher_) : rahmen_.LoeseEcke();
     umgebung_.UeberlagerungGeaendert();
 }
 
