@@ -12,7 +12,7 @@
 namespace zrw {
 namespace {
 
-std::vector<std::string> Aufteilen(const std::string& liste) {
+std::vector<std::string> TeileListe(const std::string& liste) {
     std::vector<std::string> teile;
     std::size_t anfang = 0;
     while (anfang <= liste.size()) {
@@ -58,7 +58,7 @@ Papier LiesPapier(std::string name) {
 }
 
 std::vector<std::string> LiesFormate(const std::string& liste) {
-    auto formate = Aufteilen(liste);
+    auto formate = TeileListe(liste);
     if (formate.empty())
         throw Falschaufruf{"--export erwartet eine Liste von Formaten (" + Formatnamen() + ")"};
     for (const std::string& f : formate) {
@@ -69,7 +69,7 @@ std::vector<std::string> LiesFormate(const std::string& liste) {
 }
 
 std::vector<std::string> LiesSchalter(const std::string& liste) {
-    auto namen = Aufteilen(liste);
+    auto namen = TeileListe(liste);
     for (const std::string& n : namen) {
         if (std::none_of(kSchalter.begin(), kSchalter.end(),
                          [&](const Schalter& s) { return !n.empty() && s.name == n; })) {
@@ -79,7 +79,7 @@ std::vector<std::string> LiesSchalter(const std::string& liste) {
     return namen;
 }
 
-void Haenge(std::vector<std::string>& ziel, std::vector<std::string> neue) {
+void HaengeFormateAn(std::vector<std::string>& ziel, std::vector<std::string> neue) {
     ziel.insert(ziel.end(), neue.begin(), neue.end());
 }
 
@@ -93,7 +93,7 @@ constexpr auto kOptionen = std::to_array<Option>({
     {"--export",
      [](Aufruf& a, const std::string& w) {
          a.auftrag = Auftrag::Stapel;
-         Haenge(a.formate, LiesFormate(w));
+         HaengeFormateAn(a.formate, LiesFormate(w));
      }},
     {"--ziel", [](Aufruf& a, const std::string& w) { a.ziel = w; }},
     {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
@@ -106,8 +106,8 @@ constexpr auto kOptionen = std::to_array<Option>({
     {"--papier", [](Aufruf& a, const std::string& w) { a.papier = LiesPapier(w); }},
     {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
     {"--alle-blaetter", [](Aufruf& a, const std::string& /*w*/) { a.alleBlaetter = true; }, false},
-    {"--ein", [](Aufruf& a, const std::string& w) { Haenge(a.ein, LiesSchalter(w)); }},
-    {"--aus", [](Aufruf& a, const std::string& w) { Haenge(a.aus, LiesSchalter(w)); }},
+    {"--ein", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.ein, LiesSchalter(w)); }},
+    {"--aus", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
 });
 

@@ -52,10 +52,10 @@ void SetzeGroesse(const Aufruf& aufruf, Liste& liste) {
 }
 
 /// @return whether none is about a table that could not be read
-bool Melde(const std::vector<Tabellenmeldung>& meldungen) {
+bool MeldeTabellen(const std::vector<Tabellenmeldung>& meldungen) {
     bool lesbar = true;
     for (const Tabellenmeldung& m : meldungen) {
-        Drucke(m.text);
+        DruckeZeile(m.text);
         lesbar = lesbar && !m.unlesbar;
     }
     return lesbar;
@@ -67,11 +67,11 @@ bool WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Eins
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     std::error_code fehler;
     daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).parent_path());
-    return IstBilddatei(datei) || Melde(MarkiereFehler(liste, daten, einstellungen));
+    return IstBilddatei(datei) || MeldeTabellen(MarkiereFehler(liste, daten, einstellungen));
 }
 
 /// All formats that are asked for. @return whether every one was written
-bool Schreibe(const Aufruf& aufruf, const Ausgabe& ausgabe) {
+bool SchreibeFormate(const Aufruf& aufruf, const Ausgabe& ausgabe) {
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     bool alle = true;
     for (const std::string& name : aufruf.formate) {
@@ -83,27 +83,27 @@ bool Schreibe(const Aufruf& aufruf, const Ausgabe& ausgabe) {
         } catch (const std::exception& f) {
             // The formats do not hang on each other: the rest is written all the same.
             alle = false;
-            Drucke(Fehlertext(f));
+            DruckeZeile(Fehlertext(f));
         }
     }
     return alle;
 }
 
 /// @return whether nothing was missing
-bool Exportiere(const Aufruf& aufruf) {
+bool ExportiereNetz(const Aufruf& aufruf) {
     const Einstellungen einstellungen = LadeEinstellungen(aufruf);
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     Systemdateien dateien;
     Lesung lesung = OeffneNetz(datei, dateien, einstellungen, {}, aufruf.groesse.value_or(kUebliche),
-                               [](const Meldung& m) { Drucke(m.Zeile()); });
+                               [](const Meldung& m) { DruckeZeile(m.Zeile()); });
     if (lesung.ende != Leseende::Vollstaendig) throw Fehler(lesung.endetext + '\n' + lesung.endegrund);
     if (const std::string text = Statustext(lesung.bericht); !text.empty())
-        Drucke(Fehler::Meldung(text, PfadText(datei.filename()), 0));
+        DruckeZeile(Fehler::Meldung(text, PfadText(datei.filename()), 0));
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, lesung, zustand);
     if (const auto text = Blattschnitthinweis(*lesung.liste, lesung.netz, zustand); !text.empty())
-        Drucke(Fehler::Meldung(std::string(text), PfadText(datei.filename()), 0));
+        DruckeZeile(Fehler::Meldung(std::string(text), PfadText(datei.filename()), 0));
     TDM daten(dateien);
     const bool lesbar = WaehleErgebnisse(aufruf, daten, *lesung.liste, einstellungen);
     zustand.Ergebnisse = &daten;
@@ -126,20 +126,20 @@ bool Exportiere(const Aufruf& aufruf) {
                           .papier = aufruf.quer ? aufruf.papier.Gedreht() : aufruf.papier,
                           .alleBlaetter = aufruf.alleBlaetter,
                           .ausBild = IstBilddatei(datei),
-                          .sage = &Drucke,
+                          .sage = &DruckeZeile,
                           .eingabe = eingabe};
-    bool ganz = Schreibe(aufruf, ausgabe) && lesbar;
+    bool ganz = SchreibeFormate(aufruf, ausgabe) && lesbar;
     if (lesung.liste->ZeigtErgebnisse()) {
         const std::string massstab = Massstabhinweis(einstellungen.ResMF);
-        if (!massstab.empty()) Drucke(massstab);
+        if (!massstab.empty()) DruckeZeile(massstab);
     }
-    ganz = Melde(daten.NimmMeldungen()) && ganz;
+    ganz = MeldeTabellen(daten.NimmMeldungen()) && ganz;
     return ganz;
 }
 
 }  // namespace
 
-void Drucke(const std::string& text) {
+void DruckeZeile(const std::string& text) {
     QString zeile = AusUtf8(text);
     for (QChar& c : zeile) {
         const auto art = c.category();
@@ -153,9 +153,9 @@ void Drucke(const std::string& text) {
 
 int FuehreStapelAus(const Aufruf& aufruf) {
     try {
-        return Exportiere(aufruf) ? 0 : 1;
+        return ExportiereNetz(aufruf) ? 0 : 1;
     } catch (const std::exception& f) {
-        Drucke(Fehlertext(f));
+        DruckeZeile(Fehlertext(f));
         return 1;
     }
 }

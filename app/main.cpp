@@ -78,7 +78,7 @@ int Fenster(const Aufruf& aufruf) {
 }
 
 /// Batch output is our own lines only; what Qt says about a missing desktop helps nobody there.
-void Verschweige(QtMsgType /*art*/, const QMessageLogContext& /*stelle*/, const QString& /*text*/) {}
+void VerschweigeMeldung(QtMsgType /*art*/, const QMessageLogContext& /*stelle*/, const QString& /*text*/) {}
 
 }  // namespace
 
@@ -87,14 +87,14 @@ int main(int argc, char** argv) {
     try {
         aufruf = LiesAufruf(Worte(argc, argv));
     } catch (const Falschaufruf& f) {
-        Drucke(f.text + ". Hilfe mit --help.");
+        DruckeZeile(f.text + ". Hilfe mit --help.");
         return 2;
     }
     if (aufruf.auftrag == Auftrag::Hilfe) return std::fputs(Hilfetext().c_str(), stdout) < 0 ? 1 : 0;
     if (aufruf.auftrag == Auftrag::Version) return std::puts("Zarwik " ZRW_VERSION) < 0 ? 1 : 0;
     if (aufruf.auftrag == Auftrag::Stapel) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler(Verschweige);
+        qInstallMessageHandler(VerschweigeMeldung);
     }
     int ohneArgumente = 1;  // all options are ours; Qt would take some of them for its own
     const QApplication anwendung(ohneArgumente, argv);
