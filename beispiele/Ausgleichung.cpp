@@ -46,11 +46,11 @@ class Ausgleicher {
         korrektur_.resize(anzahl_);
     }
 
-    Ausgleichung Rechne() {
-        Normalgleichung n = Passe();
+    Ausgleichung RechneAusgleichung() {
+        Normalgleichung n = GleicheNetzAus();
         while (LassWeg())
-            n = Passe();
-        return Sammle(n);
+            n = GleicheNetzAus();
+        return SammleErgebnisse(n);
     }
 
   private:
@@ -140,7 +140,7 @@ class Ausgleicher {
 
     // The equations: their order is that of the network and never changes.
 
-    static void Nimm(Gleichung& g, std::size_t unbekannte, double ableitung) {
+    static void NimmAbleitung(Gleichung& g, std::size_t unbekannte, double ableitung) {
         if (unbekannte != kKeine) g.a.push_back({unbekannte, ableitung});
     }
 
@@ -148,8 +148,8 @@ class Ausgleicher {
     void NimmEnden(Gleichung& g, Stelle von, Stelle nach, const Ort& ableitung) const {
         for (std::size_t i = 0; i < 3; ++i) {
             if (ableitung[i] == 0.0) continue;
-            Nimm(g, unbekannt_[von][i], -ableitung[i]);
-            Nimm(g, unbekannt_[nach][i], ableitung[i]);
+            NimmAbleitung(g, unbekannt_[von][i], -ableitung[i]);
+            NimmAbleitung(g, unbekannt_[nach][i], ableitung[i]);
         }
     }
 
@@ -158,7 +158,7 @@ class Ausgleicher {
         return gleichungen_.emplace_back(Gleichung{{wert, v, sigma, 0.0, false}, gruppe});
     }
 
-    void Linearisiere() {
+    void LinearisiereNetz() {
         gleichungen_.clear();
         for (std::size_t s = 0; s < netz_.saetze.size(); ++s)
             Richtungen(netz_.saetze[s], s);
@@ -193,7 +193,7 @@ class Ausgleicher {
             const double s2 = d[0] * d[0] + d[1] * d[1];
             Gleichung& g = Neu(z.wert, UmNull(winkel - z.wert), z.sigma);
             NimmEnden(g, satz.stand, z.punkt, {d[1] / s2 * kGonJeRadiant, -d[0] / s2 * kGonJeRadiant, 0.0});
-            if (!z.azimut) Nimm(g, orientierung_[nummer], -1.0);
+            if (!z.azimut) NimmAbleitung(g, orientierung_[nummer], -1.0);
         }
     }
 
@@ -213,8 +213,8 @@ class Ausgleicher {
             gruppe = k == 0 ? g.gruppe : gruppe;
             g.gruppe = gruppe;
             for (std::size_t i = 0; i < 3; ++i) {
-                Nimm(g, unbekannt_[v.von][i], -erdachsen_[v.von][k][i]);
-                Nimm(g, unbekannt_[v.nach][i], erdachsen_[v.nach][k][i]);
+                NimmAbleitung(g, unbekannt_[v.von][i], -erdachsen_[v.von][k][i]);
+                NimmAbleitung(g, unbekannt_[v.nach][i], erdachsen_[v.nach][k][i]);
             }
         }
     }
@@ -222,14 +222,14 @@ class Ausgleicher {
     // Adjusting and testing.
 
     /// Adjusts without what is left out. @return the normal equations of the last step
-    Normalgleichung Passe() {
+    Normalgleichung GleicheNetzAus() {
         for (int schritt = 0;; ++schritt) {
-            Linearisiere();
+            LinearisiereNetz();
             Normalgleichung n(anzahl_);
             for (const Gleichung& g : gleichungen_) {
-                if (!g.ergebnis.grob) n.Addiere(g.a, g.ergebnis.v, g.ergebnis.sigma);
+                if (!g.ergebnis.grob) n.AddiereGleichung(g.a, g.ergebnis.v, g.ergebnis.sigma);
             }
-            n.Zerlege();
+            n.ZerlegeMatrix();
             if (schritt == kSchritte) {
                 for (Gleichung& g : gleichungen_) {
                     const std::vector<double> y = n.Vorwaerts(g.a);
@@ -237,7 +237,7 @@ class Ausgleicher {
                 }
                 return n;
             }
-            const std::vector<double> x = n.Loese();
+            const std::vector<double> x = n.LoeseSystem();
             for (std::size_t i = 0; i < anzahl_; ++i)
                 korrektur_[i] += x[i];
         }
@@ -258,7 +258,7 @@ class Ausgleicher {
         return schlimmste != nullptr;
     }
 
-    Ausgleichung Sammle(const Normalgleichung& n) {
+    Ausgleichung SammleErgebnisse(const Normalgleichung& n) {
         Ausgleichung e;
         for (Stelle p = 0; p < netz_.punkte.size(); ++p) {
             const Ort k = Korrektur(p);
@@ -268,7 +268,7 @@ class Ausgleicher {
             std::array<std::vector<double>, 3> y;
             for (std::size_t i = 0; i < 3; ++i) {
                 Gleichung g;
-                Nimm(g, unbekannt_[p][i], 1.0);
+                NimmAbleitung(g, unbekannt_[p][i], 1.0);
                 y[i] = n.Vorwaerts(g.a);
             }
             lagen_[p].qyy = Produkt(y[0], y[0]);
@@ -331,7 +331,7 @@ std::array<Ort, 3> Erdachsen(const NetzPunkt& p) {
 }
 
 Ausgleichung GleicheAus(const Netz& netz) {
-    return Ausgleicher(netz).Rechne();
+    return Ausgleicher(netz).RechneAusgleichung();
 }
 
 }  // namespace zrw::beispiel

@@ -94,7 +94,7 @@ class Zufall;
 [[nodiscard]] Rollen LegePunkteAn(Netz& netz, Zufall& zufall);
 
 /// Everything observed between the points of `netz`.
-void Beobachte(Netz& netz, const Rollen& rollen, Zufall& zufall);
+void BeobachteNetz(Netz& netz, const Rollen& rollen, Zufall& zufall);
 
 /// Writes NETZ.EIN and the two files it includes, RICHT.SF and KOORD.KF, into `ordner`.
 /// @return false when a file cannot be written
@@ -110,6 +110,6 @@ void Beobachte(Netz& netz, const Rollen& rollen, Zufall& zufall);
 [[nodiscard]] double ErdkruemmungUndRefraktion(double strecke);
 
 /// Rounded to `stellen` decimals, never a negative zero.
-[[nodiscard]] double Runde(double wert, int stellen);
+[[nodiscard]] double RundeZahl(double wert, int stellen);
 
 }  // namespace zrw::beispiel

@@ -78,7 +78,8 @@ class Feldbuch {
     void MissStrecke(Stelle a, Stelle b, double festerAnteil = 0.003) {
         const double soll = Abstand(netz_.punkte[a], netz_.punkte[b]);
         const double sigma = festerAnteil + 2e-6 * soll;
-        netz_.strecken.push_back({a, b, Runde(soll + zufall_.Normal(sigma), 4), Runde(sigma, 4), false});
+        netz_.strecken.push_back(
+            {a, b, RundeZahl(soll + zufall_.Normal(sigma), 4), RundeZahl(sigma, 4), false});
     }
 
     void MissZenitdistanz(Stelle a, Stelle b) {
@@ -86,21 +87,21 @@ class Feldbuch {
         const double s = Abstand(p, q);
         const double hoeher = q.hoehe - p.hoehe - ErdkruemmungUndRefraktion(s);
         const double wert = 100.0 - std::atan2(hoeher, s) * kGonJeRadiant + zufall_.Normal(0.0010);
-        netz_.zenite.push_back({a, b, Runde(wert, 4), 0.0010});
+        netz_.zenite.push_back({a, b, RundeZahl(wert, 4), 0.0010});
     }
 
     void MissHoehe(Stelle a, Stelle b) {
         const NetzPunkt &p = netz_.punkte[a], &q = netz_.punkte[b];
         const double sigma = std::max(0.0002, 0.0012 * std::sqrt(Abstand(p, q) / 1000.0));
         netz_.hoehen.push_back(
-            {a, b, Runde(q.hoehe - p.hoehe + zufall_.Normal(sigma), 4), Runde(sigma, 4), false});
+            {a, b, RundeZahl(q.hoehe - p.hoehe + zufall_.Normal(sigma), 4), RundeZahl(sigma, 4), false});
     }
 
     GpsVektor Vektor(Stelle a, Stelle b) {
         const auto von = Geozentrisch(netz_.punkte[a]), nach = Geozentrisch(netz_.punkte[b]);
         GpsVektor v{a, b, {}, 0.005, false};
         for (std::size_t i = 0; i < 3; ++i)
-            v.d[i] = Runde(nach[i] - von[i] + zufall_.Normal(v.sigma), 4);
+            v.d[i] = RundeZahl(nach[i] - von[i] + zufall_.Normal(v.sigma), 4);
         return v;
     }
 
@@ -129,12 +130,12 @@ class Feldbuch {
         beide.insert(beide.end(), rollen_.ordnung2.begin(), rollen_.ordnung2.end());
         for (const auto& [a, b] : Seiten(Dreiecke(netz_.punkte, beide))) {
             if (Verbunden(a, b)) continue;
-            if (zufall_.Trifft(0.7)) {
+            if (zufall_.TrifftZu(0.7)) {
                 Gegenseitig(a, b, kSigmaNetz);
             } else {
                 Einseitig(a, b, kSigmaNetz);
             }
-            if (zufall_.Trifft(0.4)) MissStrecke(a, b);
+            if (zufall_.TrifftZu(0.4)) MissStrecke(a, b);
         }
     }
 
@@ -180,7 +181,7 @@ class Feldbuch {
         const std::vector<Stelle> tp = Trigonometrisch();
         for (const auto& [zentrum, exz] : rollen_.exzentren) {
             const double s = Abstand(netz_.punkte[zentrum], netz_.punkte[exz]);
-            const double sigma = std::max(kSigmaZug, Runde(0.0004 / s * kGonJeRadiant, 4));
+            const double sigma = std::max(kSigmaZug, RundeZahl(0.0004 / s * kGonJeRadiant, 4));
             Gegenseitig(zentrum, exz, sigma);
             MissStrecke(zentrum, exz, 0.0004);
             MissHoehe(zentrum, exz);
@@ -272,7 +273,7 @@ class Feldbuch {
             for (const Sicht& s : sichten) {
                 const double t = Richtungswinkel(p, netz_.punkte[s.ziel]) + zufall_.Normal(s.sigma);
                 const double wert = s.azimut ? t : &s == &sichten.front() ? 0.0 : t - null;
-                satz.ziele.push_back({s.ziel, InVollkreis(Runde(wert, 4)), s.sigma, s.azimut});
+                satz.ziele.push_back({s.ziel, InVollkreis(RundeZahl(wert, 4)), s.sigma, s.azimut});
             }
             netz_.saetze.push_back(std::move(satz));
         }
@@ -287,7 +288,7 @@ class Feldbuch {
 
 }  // namespace
 
-double Runde(double wert, int stellen) {
+double RundeZahl(double wert, int stellen) {
     const double zehner = std::pow(10.0, stellen);
     return std::round(wert * zehner) / zehner + 0.0;
 }
@@ -305,7 +306,7 @@ std::array<double, 3> Geozentrisch(const NetzPunkt& p) {
             (n * (1.0 - e.f) * (1.0 - e.f) + p.hoehe) * std::sin(b)};
 }
 
-void Beobachte(Netz& netz, const Rollen& rollen, Zufall& zufall) {
+void BeobachteNetz(Netz& netz, const Rollen& rollen, Zufall& zufall) {
     Feldbuch(netz, rollen, zufall).Alles();
 }
 

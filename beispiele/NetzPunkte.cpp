@@ -130,7 +130,7 @@ class Anlage {
         return punkte_.size() - 1;
     }
 
-    Stelle Suche(std::string_view nummer) const {
+    Stelle SuchePunkt(std::string_view nummer) const {
         const auto p = std::find_if(punkte_.begin(), punkte_.end(),
                                     [&](const NetzPunkt& q) { return q.nummer == nummer; });
         return static_cast<Stelle>(p - punkte_.begin());
@@ -183,7 +183,7 @@ class Anlage {
     // Points along a winding road from one point to another, about 1150 m apart.
     void Zuege() {
         for (const Zugvorgabe& z : kZuege) {
-            const Stelle von = Suche(z.von), nach = Suche(z.nach);
+            const Stelle von = SuchePunkt(z.von), nach = SuchePunkt(z.nach);
             const double laenge = Abstand(punkte_[von], punkte_[nach]);
             const double ey = (punkte_[nach].rechts - punkte_[von].rechts) / laenge;
             const double ex = (punkte_[nach].hoch - punkte_[von].hoch) / laenge;
@@ -231,7 +231,7 @@ class Anlage {
 
     void Exzentren() {
         for (const Exzentrumvorgabe& v : kExzentren) {
-            const Stelle zentrum = Suche(v.zentrum);
+            const Stelle zentrum = SuchePunkt(v.zentrum);
             int nummer = 1;
             for (const double abstand : v.abstaende) {
                 if (abstand == 0.0) continue;

@@ -10,7 +10,7 @@ namespace zrw::beispiel {
 Normalgleichung::Normalgleichung(std::size_t unbekannte)
     : dreieck_(unbekannte * (unbekannte + 1) / 2), rechts_(unbekannte) {}
 
-void Normalgleichung::Addiere(std::span<const Koeffizient> a, double v, double sigma) {
+void Normalgleichung::AddiereGleichung(std::span<const Koeffizient> a, double v, double sigma) {
     const double gewicht = 1.0 / (sigma * sigma);
     for (const Koeffizient& i : a) {
         rechts_[i.unbekannte] -= i.wert * gewicht * v;
@@ -21,7 +21,7 @@ void Normalgleichung::Addiere(std::span<const Koeffizient> a, double v, double s
     }
 }
 
-void Normalgleichung::Zerlege() {
+void Normalgleichung::ZerlegeMatrix() {
     for (std::size_t i = 0; i < rechts_.size(); ++i) {
         for (std::size_t j = 0; j <= i; ++j) {
             double rest = Element(i, j);
@@ -38,7 +38,7 @@ void Normalgleichung::Zerlege() {
     }
 }
 
-std::vector<double> Normalgleichung::Loese() const {
+std::vector<double> Normalgleichung::LoeseSystem() const {
     std::vector<double> x = rechts_;
     for (std::size_t i = 0; i < x.size(); ++i) {
         for (std::size_t k = 0; k < i; ++k)

@@ -19,11 +19,11 @@ class Normalgleichung {
     explicit Normalgleichung(std::size_t unbekannte);
 
     /// Takes in one observation. @param v computed minus observed value @param sigma of the observation, > 0
-    void Addiere(std::span<const Koeffizient> a, double v, double sigma);
-    /// To be called once, after the last `Addiere`. @throws Fehler where the datum is incomplete
-    void Zerlege();
+    void AddiereGleichung(std::span<const Koeffizient> a, double v, double sigma);
+    /// To be called once, after the last `AddiereGleichung`. @throws Fehler where the datum is incomplete
+    void ZerlegeMatrix();
     /// Corrections of the unknowns that make the weighted sum of squares smallest.
-    [[nodiscard]] std::vector<double> Loese() const;
+    [[nodiscard]] std::vector<double> LoeseSystem() const;
     /// Solution of L y = a with the triangle L of the normal matrix: the cofactor of two functions of the
     /// unknowns is the product of their vectors.
     [[nodiscard]] std::vector<double> Vorwaerts(std::span<const Koeffizient> a) const;

@@ -46,7 +46,7 @@ std::string_view Kuerzel(Art art) {
 void Lage(Tabellenbogen& b, const Punktlage& p) {
     if (p.lage == Bestimmung::Offen) return;
     // From the rounded corrections, so that the differences of the coordinates are these to the digit.
-    const double dy = Runde(p.dy * kMm, 1), dx = Runde(p.dx * kMm, 1);
+    const double dy = RundeZahl(p.dy * kMm, 1), dx = RundeZahl(p.dx * kMm, 1);
     b.Real("dY", dy, 1);
     b.Real("dX", dx, 1);
     b.Real("dP", std::hypot(dy, dx), 2);
@@ -173,11 +173,11 @@ void Test(Tabellenbogen& b, const Pruefung& p, const std::string& achse) {
 /// A length measured for a check and the length from the coordinates.
 /// @param grob puts in an error beyond what is allowed
 void Kontrolle(Tabellenbogen& b, const Auswertung& a, Stelle von, Stelle nach, Zufall& zufall, bool grob) {
-    const double gerechnet = Runde(a.Entfernung(von, nach), 3);
-    const double zulaessig = Runde(0.020 + 1e-5 * gerechnet, 3);
+    const double gerechnet = RundeZahl(a.Entfernung(von, nach), 3);
+    const double zulaessig = RundeZahl(0.020 + 1e-5 * gerechnet, 3);
     const double fehler = zufall.Normal(zulaessig / 6.0) + (grob ? 2.5 * zulaessig : 0.0);
-    const double gemessen = Runde(gerechnet + fehler, 3);
-    const double v = Runde(gerechnet - gemessen, 3);
+    const double gemessen = RundeZahl(gerechnet + fehler, 3);
+    const double v = RundeZahl(gerechnet - gemessen, 3);
     b.Real("Sgem", gemessen, 3);
     b.Real("Sger", gerechnet, 3);
     b.Real("vS", v, 3);
@@ -216,7 +216,7 @@ Tabellenbogen GpsPunkte3D(const Auswertung& a) {
         const Ort ort = Geozentrisch(a.punkte[g.punkt]);
         for (std::size_t k = 0; k < 3; ++k) {
             const std::string achse = kAchse[k];
-            b.Real(achse + "(GPS)", ort[k] - Runde(g.v[k], 4), 4);
+            b.Real(achse + "(GPS)", ort[k] - RundeZahl(g.v[k], 4), 4);
             b.Real("v" + achse + "(GPS)", g.v[k] * kMm, 1);
             Test(b, g.Anteil(kErdachse[k]), achse);
         }

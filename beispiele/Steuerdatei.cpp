@@ -160,7 +160,7 @@ void Gps(Blatt& b, const Netz& netz) {
     }
 }
 
-bool Schreibe(const std::filesystem::path& pfad, const Blatt& b) {
+bool SchreibeBlatt(const std::filesystem::path& pfad, const Blatt& b) {
     std::ofstream datei(pfad, std::ios::binary | std::ios::trunc);
     datei << b.Text();
     datei.close();
@@ -183,8 +183,8 @@ bool SchreibeSteuerdatei(const Netz& netz, const std::filesystem::path& ordner) 
     Paare(haupt, netz, "$ZD", netz.zenite);
     Gps(haupt, netz);
     haupt.Zeile("$$$");
-    return Schreibe(ordner / "NETZ.EIN", haupt) && Schreibe(ordner / kRichtungsdatei, richtungen) &&
-           Schreibe(ordner / kKoordinatendatei, koordinaten);
+    return SchreibeBlatt(ordner / "NETZ.EIN", haupt) && SchreibeBlatt(ordner / kRichtungsdatei, richtungen) &&
+           SchreibeBlatt(ordner / kKoordinatendatei, koordinaten);
 }
 
 }  // namespace zrw::beispiel

@@ -102,9 +102,9 @@ void GpsVektorzeile(Tabellenbogen& b, const Auswertung& a, const GpsVektor& vekt
 
 Auswertung::Auswertung(const Netz& n, const Ausgleichung& a) : netz(n), ausgleichung(a), punkte(n.punkte) {
     for (Stelle i = 0; i < punkte.size(); ++i) {
-        punkte[i].rechts = Runde(punkte[i].rechts + Runde(a.punkte[i].dy, 4), 4);
-        punkte[i].hoch = Runde(punkte[i].hoch + Runde(a.punkte[i].dx, 4), 4);
-        punkte[i].hoehe = Runde(punkte[i].hoehe + Runde(a.punkte[i].dh, 4), 4);
+        punkte[i].rechts = RundeZahl(punkte[i].rechts + RundeZahl(a.punkte[i].dy, 4), 4);
+        punkte[i].hoch = RundeZahl(punkte[i].hoch + RundeZahl(a.punkte[i].dx, 4), 4);
+        punkte[i].hoehe = RundeZahl(punkte[i].hoehe + RundeZahl(a.punkte[i].dh, 4), 4);
         reihenfolge.push_back(i);
     }
     // The new points of no order stand in the coordinate file, which comes last.
@@ -212,7 +212,7 @@ Tabellenbogen GpsVektoren(const Auswertung& a) {
 void SchreibeTabellen(const Auswertung& a, Dateien& dateien, const std::filesystem::path& ordner) {
     for (const auto bogen : {GpsVektoren, Strecken, Hoehenunterschiede, Richtungen, Koordinaten, GpsPunkte3D,
                              GpsPunkte2D, Linienkontrollen, Streckenkontrollen, WeitereKoordinaten})
-        bogen(a).Schreibe(dateien, ordner);
+        bogen(a).SchreibeDateien(dateien, ordner);
 }
 
 }  // namespace zrw::beispiel

@@ -30,14 +30,14 @@ void Tabellenbogen::Ganz(std::string_view feld, std::int64_t wert) {
 }
 
 void Tabellenbogen::Real(std::string_view feld, double wert, int stellen) {
-    Feld(feld) = Runde(wert, stellen);
+    Feld(feld) = RundeZahl(wert, stellen);
 }
 
 void Tabellenbogen::Flag(std::string_view feld, bool wert) {
     Feld(feld) = wert;
 }
 
-void Tabellenbogen::Schreibe(Dateien& dateien, const std::filesystem::path& ordner) const {
+void Tabellenbogen::SchreibeDateien(Dateien& dateien, const std::filesystem::path& ordner) const {
     ErzeugeTabelle(dateien, ordner, tabelle_, zeilen_, kErzeugt);
 }
 

@@ -26,7 +26,7 @@ class Tabellenbogen {
     void Real(std::string_view feld, double wert, int stellen);
     void Flag(std::string_view feld, bool wert);
     /// @throws Fehler where the files cannot be written
-    void Schreibe(Dateien& dateien, const std::filesystem::path& ordner) const;
+    void SchreibeDateien(Dateien& dateien, const std::filesystem::path& ordner) const;
 
   private:
     [[nodiscard]] paradox::Wert& Feld(std::string_view name);

@@ -25,7 +25,7 @@ class Zufall {
     }
 
     /// True in `anteil` of the cases.
-    [[nodiscard]] bool Trifft(double anteil) { return Gleich(0.0, 1.0) < anteil; }
+    [[nodiscard]] bool TrifftZu(double anteil) { return Gleich(0.0, 1.0) < anteil; }
 
   private:
     std::mt19937 quelle_;

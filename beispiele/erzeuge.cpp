@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     netz.titel = "Netz Vogelsberg (frei erfunden)";
     Zufall zufall(19741104);
     const Rollen rollen = LegePunkteAn(netz, zufall);
-    Beobachte(netz, rollen, zufall);
+    BeobachteNetz(netz, rollen, zufall);
     const std::filesystem::path ziel(argv[1]);
     if (!SchreibeSteuerdatei(netz, ziel) || !SchreibeLinientafel(ziel)) {
         std::cerr << "Kann in den Ordner " << argv[1] << " nicht schreiben.\n";

@@ -82,9 +82,9 @@ class Generator {
             folge[i] = i;
         Mische(folge, zufall_);
         for (const std::size_t i : folge) {
-            text_ += kArten[zufall_.Trifft(0.9) ? 3 : Index(zufall_, 3)];
+            text_ += kArten[zufall_.TrifftZu(0.9) ? 3 : Index(zufall_, 3)];
             Nummer(i, 14);
-            text_ += zufall_.Trifft(0.9) ? " 1" : " 0";
+            text_ += zufall_.TrifftZu(0.9) ? " 1" : " 0";
             const auto ort = [&](std::size_t platz) {
                 return (static_cast<double>(platz) + zufall_.Gleich(-0.3, 0.3)) * schritt;
             };
@@ -119,7 +119,7 @@ class Generator {
         alle.reserve(mass_.beobachtungen);
         while (alle.size() < mass_.beobachtungen && !paare.empty()) {
             Paar p = paare[alle.size() < paare.size() ? alle.size() : Index(zufall_, paare.size())];
-            if (zufall_.Trifft(0.5)) std::swap(p.first, p.second);
+            if (zufall_.TrifftZu(0.5)) std::swap(p.first, p.second);
             const double los = zufall_.Gleich(0.0, 1.0);
             alle.push_back({p, los < 0.6    ? Art::Richtung
                                : los < 0.85 ? Art::Strecke
