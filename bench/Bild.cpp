@@ -27,7 +27,7 @@ struct Unterschied {
     int innen = 0;
 };
 
-Unterschied Vergleiche(const QImage& bild, const GuterMaler& gut) {
+Unterschied VergleicheBilder(const QImage& bild, const GuterMaler& gut) {
     zrw::Bildflaeche rand(kWeite, kHoehe);
     for (const bool schnell : {true, false}) {
         rand.SetzeSchnell(schnell);
@@ -62,44 +62,44 @@ class Vergleich {
         maler_.SetzeSchnell(false);
     }
 
-    void Miss(const Ansicht& a, bool nummern) {
+    void MissAnsicht(const Ansicht& a, bool nummern) {
         SetzeAnsicht(liste_, a);
         liste_.ShowPktText = nummern;
         std::vector<Schritt> schritte{
             {"Maler von Qt, gut genutzt", 0,
              [&] {
-                 return zrw::bench::Miss([&] {
+                 return zrw::bench::MissZeit([&] {
                      liste_.WeltinBild();
-                     gut_.Zeichne();
+                     gut_.ZeichneBild();
                      return 0;
                  });
              }},
-            {"eigene Fläche", 0, [&] { return Zeichne(eigene_); }},
-            {"Maler von Qt, alles hingegeben", 0, [&] { return Zeichne(alles_); }},
+            {"eigene Fläche", 0, [&] { return MissZeichnen(eigene_); }},
+            {"Maler von Qt, alles hingegeben", 0, [&] { return MissZeichnen(alles_); }},
         };
         if (!tabelle_.kurz)
-            schritte.push_back({"Maler an Stelle der Fläche", 0, [&] { return Zeichne(maler_); }});
-        Laufe(schritte, tabelle_.runden);
+            schritte.push_back({"Maler an Stelle der Fläche", 0, [&] { return MissZeichnen(maler_); }});
+        LaufeSchritte(schritte, tabelle_.runden);
         const std::string name = std::string("Bild ") + a.name + (nummern ? " mit Nummern" : " ohne Nummern");
-        const Unterschied u = Vergleiche(eigene_.Bild(), gut_);
+        const Unterschied u = VergleicheBilder(eigene_.Bild(), gut_);
         std::printf(
             "%s (%s); %d Pixel anders als gut genutzter Maler, %d davon nicht an Strichen über den Rand\n",
             name.c_str(), a.was, u.alle, u.innen);
-        Drucke(schritte);
+        DruckeSchritte(schritte);
         const std::size_t i = nummern ? 0 : 1;
         const auto ziel = [](double grenze) { return grenze > 0 ? Verhaeltnis(grenze) : Ziel{}; };
-        tabelle_.Nimm(
+        tabelle_.NimmZeile(
             {name + ": zum gut genutzten Maler", schritte[1].zeiten, schritte[0].zeiten, ziel(a.gut[i])});
-        tabelle_.Nimm(
+        tabelle_.NimmZeile(
             {name + ": zum Maler, schlicht", schritte[1].zeiten, schritte[2].zeiten, ziel(a.schlicht[i])});
-        tabelle_.Nimm({name + ": Richtwert", schritte[1].zeiten, {}, Hoechstwert(a.richtwert)});
-        tabelle_.Nimm(
+        tabelle_.NimmZeile({name + ": Richtwert", schritte[1].zeiten, {}, Hoechstwert(a.richtwert)});
+        tabelle_.NimmZeile(
             {name + ": andere Pixel innen", {static_cast<double>(u.innen)}, {}, Hoechstwert(0), "px"});
     }
 
   private:
-    double Zeichne(zrw::Zeichenflaeche& f) {
-        return zrw::bench::Miss([&] {
+    double MissZeichnen(zrw::Zeichenflaeche& f) {
+        return zrw::bench::MissZeit([&] {
             zustand_.flaeche = &f;
             liste_.ShowPicture(zeichner_);
             return 0;
@@ -122,11 +122,11 @@ class Vergleich {
     zrw::Figurenzeichner zeichner_{zustand_, einstellungen_, netz_.netz, uhr_};
 };
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     Vergleich vergleich(tabelle);
     for (const Ansicht& a : kAnsichten) {
         for (const bool nummern : {true, false})
-            vergleich.Miss(a, nummern);
+            vergleich.MissAnsicht(a, nummern);
     }
     return 0;
 }
@@ -136,5 +136,5 @@ int Arbeite(Tabelle& tabelle) {
 int main(int anzahl, char** worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication anwendung(anzahl, worte);
-    return Fuehre(anzahl, worte, 5, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 5, MissAlles);
 }

@@ -16,7 +16,7 @@ namespace {
 
 using namespace zrw::bench;
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     const zrw::Einstellungen e;
     const Zwischenordner ordner;
     const auto datei = ordner.Pfad() / "N.ZRW";
@@ -34,35 +34,35 @@ int Arbeite(Tabelle& tabelle) {
     std::vector<Schritt> schritte{
         {"(a) dieselben Bytes schreiben", bytes.size(),
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  system.ErsetzeDatei(schlicht, bytes);
                  return 0;
              });
          }},
         {"(b) Zarwikdatei speichern", bytes.size(),
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  zrw::SchreibeBilddatei(*netz.liste, netz.netz, datei, system);
                  return 0;
              });
          }},
         {"    in den Speicher", bytes.size(),
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  zrw::SchreibeBilddatei(*netz.liste, netz.netz, "N.ZRW", speicher);
                  return 0;
              });
          }},
         {"(c) dieselben Bytes lesen", bytes.size(),
-         [&] { return Miss([&] { return system.LiesDatei(schlicht, bytes.size()); }); }},
+         [&] { return MissZeit([&] { return system.LiesDatei(schlicht, bytes.size()); }); }},
         {"(d) Zarwikdatei öffnen", bytes.size(),
-         [&] { return Miss([&] { return zrw::LiesBilddatei(datei, system, e, gelesen); }); }},
+         [&] { return MissZeit([&] { return zrw::LiesBilddatei(datei, system, e, gelesen); }); }},
     };
-    Laufe(schritte, tabelle.runden);
-    Drucke(schritte);
-    tabelle.Nimm({"Zarwikdatei speichern: zum Schreiben der Bytes", schritte[1].zeiten, schritte[0].zeiten,
-                  Verhaeltnis(3)});
-    tabelle.Nimm(
+    LaufeSchritte(schritte, tabelle.runden);
+    DruckeSchritte(schritte);
+    tabelle.NimmZeile({"Zarwikdatei speichern: zum Schreiben der Bytes", schritte[1].zeiten,
+                       schritte[0].zeiten, Verhaeltnis(3)});
+    tabelle.NimmZeile(
         {"Zarwikdatei öffnen: zum Lesen der Bytes", schritte[4].zeiten, schritte[3].zeiten, Verhaeltnis(3)});
     return 0;
 }
@@ -70,5 +70,5 @@ int Arbeite(Tabelle& tabelle) {
 }  // namespace
 
 int main(int anzahl, char** worte) {
-    return Fuehre(anzahl, worte, 9, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 9, MissAlles);
 }

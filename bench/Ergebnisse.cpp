@@ -74,7 +74,7 @@ void SchreibeTabelle(const zrw::Liste& liste, zrw::Dateien& dateien, const std::
     zrw::ErzeugeTabelle(dateien, ordner, zrw::Tabelle::Koordinaten, zeilen, 0);
 }
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     int worte = 1;
     char name[] = "bench_ergebnisse";
     char* argumente[] = {name, nullptr};
@@ -99,7 +99,7 @@ int Arbeite(Tabelle& tabelle) {
     };
     const auto zeichne = [&](bool mit) {
         schalte(mit);
-        return Miss([&] {
+        return MissZeit([&] {
             liste.ShowPicture(zeichner);
             return 0;
         });
@@ -115,7 +115,7 @@ int Arbeite(Tabelle& tabelle) {
         {"(a) Bild ohne Ergebnisse", 0, [&] { return zeichne(false); }},
         {"(b) Striche der Ergebnisse allein", 0,
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  for (const Strich& s : mitschrift.striche) {
                      flaeche.SetzeStift(s.stift);
                      flaeche.Linie(s.von, s.nach);
@@ -126,7 +126,7 @@ int Arbeite(Tabelle& tabelle) {
         {"(c) Bild mit Ergebnissen", 0, [&] { return zeichne(true); }},
         {"(d) erstes Mal: Tabelle lesen und Ergebnisse zeichnen", 0,
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  auto neu = std::make_unique<zrw::TDM>(dateien);
                  neu->SetzeOrdner(ordner.path().toStdString());
                  zustand.Ergebnisse = neu.get();
@@ -138,7 +138,7 @@ int Arbeite(Tabelle& tabelle) {
          }},
         {"    davon die Tabelle", 0,
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  auto neu = std::make_unique<zrw::TDM>(dateien);
                  neu->SetzeOrdner(ordner.path().toStdString());
                  neu->ErneuereErgebnisse();
@@ -146,14 +146,15 @@ int Arbeite(Tabelle& tabelle) {
              });
          }},
     };
-    Laufe(schritte, tabelle.runden);
-    Drucke(schritte);
+    LaufeSchritte(schritte, tabelle.runden);
+    DruckeSchritte(schritte);
     std::vector<double> getrennt;
     for (std::size_t i = 0; i < schritte[0].zeiten.size(); ++i)
         getrennt.push_back(schritte[0].zeiten[i] + schritte[1].zeiten[i]);
-    tabelle.Nimm({"Bild mit Ergebnissen: zum Bild ohne und den Strichen allein", schritte[2].zeiten, getrennt,
-                  Verhaeltnis(1.5)});
-    tabelle.Nimm({"Ergebnisse zum ersten Mal, mit der Tabelle", schritte[3].zeiten, {}, Hoechstwert(400)});
+    tabelle.NimmZeile({"Bild mit Ergebnissen: zum Bild ohne und den Strichen allein", schritte[2].zeiten,
+                       getrennt, Verhaeltnis(1.5)});
+    tabelle.NimmZeile(
+        {"Ergebnisse zum ersten Mal, mit der Tabelle", schritte[3].zeiten, {}, Hoechstwert(400)});
     return 0;
 }
 
@@ -161,5 +162,5 @@ int Arbeite(Tabelle& tabelle) {
 
 int main(int anzahl, char** worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    return Fuehre(anzahl, worte, 5, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 5, MissAlles);
 }

@@ -30,11 +30,11 @@ void SchreibeSchlicht(const fs::path& name, const std::string& bytes) {
     }
 }
 
-std::string Lies(const fs::path& name) {
+std::string LiesDatei(const fs::path& name) {
     return zrw::Systemdateien().LiesDatei(name, std::size_t{1} << 32U);
 }
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     const zrw::Einstellungen e;
     zrw::Systemdateien system;
     const Zwischenordner ordner;
@@ -45,7 +45,7 @@ int Arbeite(Tabelle& tabelle) {
     const fs::path plotname = ordner.Pfad() / zrw::kPlotname;
     const fs::path dxfname = ordner.Pfad() / zrw::kDxfname;
     const auto exportiere = [&](bool plot, bool dxf) {
-        return Miss([&] {
+        return MissZeit([&] {
             zrw::Exportauftrag auftrag{zrw::Druckfaktor(25000, 600), {}, {}};
             if (plot) auftrag.plot = plotname;
             if (dxf) auftrag.dxf = dxfname;
@@ -60,8 +60,8 @@ int Arbeite(Tabelle& tabelle) {
     const auto klein = fs::file_size(dxfname) + fs::file_size(plotname);
     netz.liste->ShowBeob = true;
     (void)exportiere(true, true);
-    const std::string plotbytes = Lies(plotname);
-    const std::string dxfbytes = Lies(dxfname);
+    const std::string plotbytes = LiesDatei(plotname);
+    const std::string dxfbytes = LiesDatei(dxfname);
     const std::size_t bytes = plotbytes.size() + dxfbytes.size();
     std::printf("%d Punkte, %d Linien -> %.1f MB DXF, %.1f MB PLT\n", netz.liste->MaxPkte,
                 netz.liste->MaxKant, MB(dxfbytes.size()), MB(plotbytes.size()));
@@ -75,14 +75,14 @@ int Arbeite(Tabelle& tabelle) {
     std::vector<Schritt> schritte{
         {"(a) dieselben Bytes, gepuffert, Zeile um Zeile", bytes,
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  schlicht();
                  return 0;
              });
          }},
         {"(b) dieselben Bytes ersetzt, auf die Platte", bytes,
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  system.ErsetzeDatei(plotname, plotbytes);
                  system.ErsetzeDatei(dxfname, dxfbytes);
                  return 0;
@@ -94,16 +94,16 @@ int Arbeite(Tabelle& tabelle) {
         {"    ohne Datei: nur zeichnen", 0, [&] { return exportiere(false, false); }},
     };
     if (tabelle.kurz) schritte.resize(3);
-    Laufe(schritte, tabelle.runden);
-    Drucke(schritte);
-    tabelle.Nimm({"Export DXF und PLT: zum Schreiben der Bytes", schritte[2].zeiten, schritte[1].zeiten,
-                  Verhaeltnis(6)});
-    tabelle.Nimm({"Export DXF und PLT: Speicher", {MB(speicher)}, {}, {}, "MB"});
+    LaufeSchritte(schritte, tabelle.runden);
+    DruckeSchritte(schritte);
+    tabelle.NimmZeile({"Export DXF und PLT: zum Schreiben der Bytes", schritte[2].zeiten, schritte[1].zeiten,
+                       Verhaeltnis(6)});
+    tabelle.NimmZeile({"Export DXF und PLT: Speicher", {MB(speicher)}, {}, {}, "MB"});
     return 0;
 }
 
 }  // namespace
 
 int main(int anzahl, char** worte) {
-    return Fuehre(anzahl, worte, 5, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 5, MissAlles);
 }

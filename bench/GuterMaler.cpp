@@ -45,7 +45,7 @@ GuterMaler::GuterMaler(Liste& liste, const Einstellungen& einstellungen, int wei
     maler_.setFont(schrift_);
 }
 
-void GuterMaler::Zeichne() {
+void GuterMaler::ZeichneBild() {
     randstriche_.clear();
     bild_.fill(Qt::white);
     stift_ = kKeinStift;
@@ -68,7 +68,7 @@ void GuterMaler::Linien() {
             continue;
         Kantenstriche(kante);
     }
-    Gib();
+    GibBildAus();
 }
 
 void GuterMaler::Kantenstriche(const Kante& kante) {
@@ -81,7 +81,7 @@ void GuterMaler::Kantenstriche(const Kante& kante) {
             if (!teil) continue;
             const std::uint64_t stift = farbe.wert | std::uint64_t{strich.gestrichelt} << 32U;
             if (stift != stift_) {
-                Gib();
+                GibBildAus();
                 const auto [platz, neu] = stifte_.try_emplace(stift);
                 if (neu)
                     platz->second =
@@ -98,7 +98,7 @@ void GuterMaler::Kantenstriche(const Kante& kante) {
 }
 
 /// Hands over the lines of one pen.
-void GuterMaler::Gib() {
+void GuterMaler::GibBildAus() {
     if (!linien_.empty()) maler_.drawLines(linien_.data(), static_cast<int>(linien_.size()));
     linien_.clear();
 }

@@ -24,7 +24,7 @@ class GuterMaler {
     GuterMaler(Liste& liste, const Einstellungen& einstellungen, int weite, int hoehe);
 
     /// The whole picture with its current switches for lines and labels, without overlays.
-    void Zeichne();
+    void ZeichneBild();
     [[nodiscard]] const QImage& Bild() const { return bild_; }
     /// Strokes of the last picture that reach over its border.
     struct Randstrich {
@@ -40,7 +40,7 @@ class GuterMaler {
     };
     void Linien();
     void Kantenstriche(const Kante& kante);
-    void Gib();
+    void GibBildAus();
     void Punkte();
     void Texte();
     const Stempel& Symbol(const Punkt& punkt);

@@ -28,7 +28,7 @@ class Handgriffe {
         einfach_.flaeche = &vergleich_;
     }
 
-    void Miss(const Ansicht& a) {
+    void MissHandgriffe(const Ansicht& a) {
         ansicht_ = std::string("Bild ") + a.name + ": ";
         SetzeAnsicht(liste_, a);
         pflege_.ZeichneNeu(liste_.Vorlage());
@@ -67,7 +67,7 @@ class Handgriffe {
         int anders = 0;
         // An even number of times, so that the view is as before.
         for (int i = 0; i < 2 * tabelle_.runden + 2; ++i) {
-            const double ms = zrw::bench::Miss([&] {
+            const double ms = zrw::bench::MissZeit([&] {
                 tat(i);
                 return 0;
             });
@@ -77,8 +77,8 @@ class Handgriffe {
         }
         std::printf("%s%s: %.2f ms, %d Bilder anders\n", ansicht_.c_str(), was.c_str(), Median(zeiten),
                     anders);
-        tabelle_.Nimm({ansicht_ + was, zeiten, {}, Hoechstwert(grenze)});
-        tabelle_.Nimm(
+        tabelle_.NimmZeile({ansicht_ + was, zeiten, {}, Hoechstwert(grenze)});
+        tabelle_.NimmZeile(
             {ansicht_ + was + ", andere Bilder", {static_cast<double>(anders)}, {}, Hoechstwert(0), ""});
     }
 
@@ -86,7 +86,7 @@ class Handgriffe {
         constexpr int kOrte = 200;
         std::vector<double> zeiten;
         for (int runde = 0; runde < tabelle_.runden; ++runde) {
-            zeiten.push_back(zrw::bench::Miss([&] {
+            zeiten.push_back(zrw::bench::MissZeit([&] {
                                  std::size_t treffer = 0;
                                  for (int i = 0; i < kOrte; ++i) {
                                      const zrw::Bildpunkt maus{i * 37 % kWeite, i * 91 % kHoehe};
@@ -99,7 +99,7 @@ class Handgriffe {
                              kOrte);
         }
         std::printf("%sPunkt, Nummer und Linie unter der Maus: %.4f ms\n", ansicht_.c_str(), Median(zeiten));
-        tabelle_.Nimm({ansicht_ + "was unter der Maus liegt", zeiten, {}, Hoechstwert(0.1)});
+        tabelle_.NimmZeile({ansicht_ + "was unter der Maus liegt", zeiten, {}, Hoechstwert(0.1)});
     }
 
     zrw::PunktKnoten* Mitte() {
@@ -127,10 +127,10 @@ class Handgriffe {
     zrw::Bildpflege pflege_{zustand_, bild_, zeichner_};
 };
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     Handgriffe handgriffe(tabelle);
     for (const Ansicht& a : kAnsichten) {
-        if (!tabelle.kurz || a.name[0] != 'b') handgriffe.Miss(a);
+        if (!tabelle.kurz || a.name[0] != 'b') handgriffe.MissHandgriffe(a);
     }
     return 0;
 }
@@ -140,5 +140,5 @@ int Arbeite(Tabelle& tabelle) {
 int main(int anzahl, char** argumente) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication anwendung(anzahl, argumente);
-    return Fuehre(anzahl, argumente, 9, Arbeite);
+    return FuehreMessungAus(anzahl, argumente, 9, MissAlles);
 }

@@ -28,7 +28,7 @@ double Kleinster(const std::vector<double>& werte) {
     return *std::min_element(werte.begin(), werte.end());
 }
 
-void Laufe(std::vector<Schritt>& schritte, int runden) {
+void LaufeSchritte(std::vector<Schritt>& schritte, int runden) {
     for (Schritt& s : schritte)
         (void)s.messe();
     const Uhr::time_point anfang = Uhr::now();
@@ -41,7 +41,7 @@ void Laufe(std::vector<Schritt>& schritte, int runden) {
     }
 }
 
-void Drucke(const std::vector<Schritt>& schritte) {
+void DruckeSchritte(const std::vector<Schritt>& schritte) {
     std::printf("%-46s %9s %9s %8s %8s\n", "Schritt", "min ms", "Median ms", "MB/s", "zu (a)");
     for (const Schritt& s : schritte) {
         std::vector<double> verhaeltnisse;

@@ -21,7 +21,7 @@ using Uhr = std::chrono::steady_clock;
 /// Time that the work takes [ms]; its result lives on until the clock has stopped, so that tearing down what
 /// was built is not part of the building.
 template <class Arbeit>
-[[nodiscard]] double Miss(Arbeit arbeit) {
+[[nodiscard]] double MissZeit(Arbeit arbeit) {
     const Uhr::time_point anfang = Uhr::now();
     const auto ergebnis = arbeit();
     const Uhr::time_point ende = Uhr::now();
@@ -37,10 +37,10 @@ struct Schritt {
 };
 
 /// One unmeasured round, then `runden` rounds of all steps in turn; up to five times as many of quick ones.
-void Laufe(std::vector<Schritt>& schritte, int runden);
+void LaufeSchritte(std::vector<Schritt>& schritte, int runden);
 
 /// Prints a row per step: minimum and median [ms], MB/s from the median, median ratio to the first step.
-void Drucke(const std::vector<Schritt>& schritte);
+void DruckeSchritte(const std::vector<Schritt>& schritte);
 
 [[nodiscard]] double Median(std::vector<double> werte);
 [[nodiscard]] double Kleinster(const std::vector<double>& werte);

@@ -36,7 +36,7 @@ std::size_t Index(Zufall& zufall, std::size_t anzahl) {
 
 /// The library's own shuffling differs from library to library.
 template <class T>
-void Mische(std::vector<T>& liste, Zufall& zufall) {
+void MischeListe(std::vector<T>& liste, Zufall& zufall) {
     for (std::size_t n = liste.size(); n > 1; --n)
         std::swap(liste[n - 1], liste[Index(zufall, n)]);
 }
@@ -49,7 +49,7 @@ class Generator {
           spalten_(static_cast<std::size_t>(
               std::ceil(std::sqrt(static_cast<double>(mass.punkte) * kWeite / kTiefe)))) {}
 
-    std::string Erzeuge() {
+    std::string ErzeugeText() {
         text_.reserve(mass_.punkte * 80 + mass_.beobachtungen * 48);
         text_ += "$AU Messnetz\n$NT 3\n$PF 0\n$EL 1\n$KS 9 0\n";
         Punkte();
@@ -80,7 +80,7 @@ class Generator {
         std::vector<std::size_t> folge(mass_.punkte);
         for (std::size_t i = 0; i < folge.size(); ++i)
             folge[i] = i;
-        Mische(folge, zufall_);
+        MischeListe(folge, zufall_);
         for (const std::size_t i : folge) {
             text_ += kArten[zufall_.TrifftZu(0.9) ? 3 : Index(zufall_, 3)];
             Nummer(i, 14);
@@ -106,7 +106,7 @@ class Generator {
                 const std::size_t ziel = i + hoch * spalten_ + rechts;
                 if (i % spalten_ + rechts < spalten_ && ziel < mass_.punkte) gruppe.emplace_back(i, ziel);
             }
-            Mische(gruppe, zufall_);
+            MischeListe(gruppe, zufall_);
             gruppe.resize(std::min(gruppe.size(), mass_.paare - paare.size()));
             paare.insert(paare.end(), gruppe.begin(), gruppe.end());
         }
@@ -126,7 +126,7 @@ class Generator {
                                : los < 0.95 ? Art::Hoehe
                                             : Art::GPS});
         }
-        Mische(alle, zufall_);
+        MischeListe(alle, zufall_);
         return alle;
     }
 
@@ -189,7 +189,7 @@ class Generator {
 }  // namespace
 
 std::string ErzeugeSteuerdatei(const Netzmass& mass) {
-    return Generator(mass).Erzeuge();
+    return Generator(mass).ErzeugeText();
 }
 
 Lesung BaueNetz(const Netzmass& mass, const Einstellungen& einstellungen, Bildgroesse bild) {

@@ -75,7 +75,7 @@ class Zufallsergebnisse final : public zrw::Punktergebnisse {
     std::unordered_map<std::string, zrw::Punktergebnis> werte_;
 };
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     const zrw::Einstellungen e;
     const zrw::Lesung netz = BaueNetz({}, e, {1200, 800});
     zrw::Liste& liste = *netz.liste;
@@ -92,7 +92,7 @@ int Arbeite(Tabelle& tabelle) {
         const auto zeichne = [&](bool alle) {
             liste.ShowLGGen = true;
             liste.ShowLgRes = liste.ShowHRes = liste.ShowHGen = alle;
-            return Miss([&] {
+            return MissZeit([&] {
                 zeichner.ZeichnePunktRes(liste.Vorlage());
                 return 0;
             });
@@ -106,7 +106,7 @@ int Arbeite(Tabelle& tabelle) {
         std::vector<Schritt> schritte{
             {"(a) dieselben Striche aus einer Liste", 0,
              [&] {
-                 return Miss([&] {
+                 return MissZeit([&] {
                      for (const Strich& s : striche) {
                          flaeche.SetzeStift(s.stift);
                          flaeche.Linie(s.von, s.nach);
@@ -117,10 +117,10 @@ int Arbeite(Tabelle& tabelle) {
             {"(b) alle vier Darstellungen", 0, [&] { return zeichne(true); }},
             {"    nur die Ellipsen", 0, [&] { return zeichne(false); }},
         };
-        Laufe(schritte, tabelle.runden);
-        Drucke(schritte);
+        LaufeSchritte(schritte, tabelle.runden);
+        DruckeSchritte(schritte);
         std::printf("\n");
-        tabelle.Nimm(
+        tabelle.NimmZeile(
             {"Ergebnisse bis " + std::to_string(static_cast<int>(achse)) + " px: zu den Strichen allein",
              schritte[1].zeiten, schritte[0].zeiten});
     }
@@ -130,5 +130,5 @@ int Arbeite(Tabelle& tabelle) {
 }  // namespace
 
 int main(int anzahl, char** worte) {
-    return Fuehre(anzahl, worte, 7, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 7, MissAlles);
 }

@@ -27,13 +27,13 @@ using Meldungen = zrw::Meldungsempfaenger;
 constexpr int kWeite = 1920;
 constexpr int kHoehe = 1080;
 
-void Drucke(double wert) {
+void DruckeZahl(double wert) {
     std::printf("%f\n", wert);
 }
 
 /// Time from the file to the picture [ms].
 void ErstesBild(const std::string& datei) {
-    Drucke(Miss([&] {
+    DruckeZahl(MissZeit([&] {
         const zrw::Einstellungen e;
         const zrw::Systemdateien dateien;
         const zrw::Systemuhr uhr;
@@ -54,9 +54,9 @@ void Netzspeicher(const std::string& datei) {
     const std::size_t vorher = Speicherbedarf();
     const zrw::Lesung netz = zrw::OeffneNetz(datei, dateien, e, {}, {kWeite, kHoehe}, {});
     const std::size_t nachher = Speicherbedarf();
-    Drucke(MB(nachher > vorher ? nachher - vorher : 0));
-    Drucke(netz.liste->MaxPkte);
-    Drucke(netz.liste->MaxKant);
+    DruckeZahl(MB(nachher > vorher ? nachher - vorher : 0));
+    DruckeZahl(netz.liste->MaxPkte);
+    DruckeZahl(netz.liste->MaxKant);
 }
 
 /// Memory of an empty window of the same size [MB].
@@ -65,7 +65,7 @@ void LeeresFenster(const std::string& /*datei*/) {
     fenster.resize(kWeite, kHoehe);
     fenster.show();
     QApplication::processEvents();
-    Drucke(MB(Speicherbedarf()));
+    DruckeZahl(MB(Speicherbedarf()));
 }
 
 /// Memory of the program with the network in its window, without the picture [MB].
@@ -88,7 +88,7 @@ void VollesFenster(const std::string& datei) {
     QApplication::processEvents();
     const QWidget& bild = *fenster.findChild<QWidget*>("ImageZarwik");
     const auto pixel = static_cast<std::size_t>(bild.width()) * static_cast<std::size_t>(bild.height());
-    Drucke(MB(Speicherbedarf() - 4 * pixel));
+    DruckeZahl(MB(Speicherbedarf() - 4 * pixel));
 }
 
 int Frisch(const Tabelle& tabelle) {
@@ -106,7 +106,7 @@ int Frisch(const Tabelle& tabelle) {
     return 0;
 }
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     if (!tabelle.aufgabe.empty()) return Frisch(tabelle);
     const Zwischenordner ordner;
     const auto datei = ordner.Pfad() / "N.EIN";
@@ -127,11 +127,11 @@ int Arbeite(Tabelle& tabelle) {
         jeLinie.push_back((mit[0] - ohne[0]) * 1e6 / mit[2]);
         programm.push_back(FrischerProzess("voll", datei)[0] - FrischerProzess("leer", datei)[0]);
     }
-    tabelle.Nimm({"Steuerdatei bis zum ersten Bild, frischer Prozess", bild, {}, Hoechstwert(150)});
-    tabelle.Nimm({"Speicher des Netzes", netz, {}, Hoechstwert(40), "MB"});
-    tabelle.Nimm({"    je Punkt mit Nummer", jePunkt, {}, {}, "B"});
-    tabelle.Nimm({"    je Linie", jeLinie, {}, {}, "B"});
-    tabelle.Nimm({"Speicher über leerem Fenster, ohne Bild", programm, {}, Hoechstwert(64), "MB"});
+    tabelle.NimmZeile({"Steuerdatei bis zum ersten Bild, frischer Prozess", bild, {}, Hoechstwert(150)});
+    tabelle.NimmZeile({"Speicher des Netzes", netz, {}, Hoechstwert(40), "MB"});
+    tabelle.NimmZeile({"    je Punkt mit Nummer", jePunkt, {}, {}, "B"});
+    tabelle.NimmZeile({"    je Linie", jeLinie, {}, {}, "B"});
+    tabelle.NimmZeile({"Speicher über leerem Fenster, ohne Bild", programm, {}, Hoechstwert(64), "MB"});
     return 0;
 }
 
@@ -139,5 +139,5 @@ int Arbeite(Tabelle& tabelle) {
 
 int main(int anzahl, char** worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    return Fuehre(anzahl, worte, 9, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 9, MissAlles);
 }

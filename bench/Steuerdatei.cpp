@@ -26,7 +26,7 @@ struct Rohergebnis {
     double summe = 0.0;
 };
 
-void Zerlege(const char* p, const char* ende, Rohergebnis& r) {
+void ZerlegeZahlen(const char* p, const char* ende, Rohergebnis& r) {
     while (p != ende) {
         while (p != ende && (*p == ' ' || *p == '\t'))
             ++p;
@@ -49,7 +49,7 @@ Rohergebnis Rohgrenze(std::string_view bytes) {
             static_cast<const char*>(std::memchr(p, '\n', static_cast<std::size_t>(ende - p)));
         if (zeilenende == nullptr) zeilenende = ende;
         ++r.zeilen;
-        Zerlege(p, zeilenende, r);
+        ZerlegeZahlen(p, zeilenende, r);
         p = zeilenende == ende ? ende : zeilenende + 1;
     }
     return r;
@@ -58,8 +58,8 @@ Rohergebnis Rohgrenze(std::string_view bytes) {
 constexpr std::size_t kGrenze = std::size_t{1} << 30U;
 
 /// As opening does it: read, take the extents, fit.
-zrw::Lesung Lade(const std::filesystem::path& datei, const zrw::Dateien& dateien,
-                 const zrw::Einstellungen& e) {
+zrw::Lesung LadeNetz(const std::filesystem::path& datei, const zrw::Dateien& dateien,
+                     const zrw::Einstellungen& e) {
     zrw::Lesung lesung = zrw::LeseSteuerdatei(datei, dateien, e, {});
     lesung.liste->Weite = 1200;
     lesung.liste->Hoehe = 800;
@@ -75,13 +75,14 @@ int Frisch(const Tabelle& tabelle) {
     const zrw::Einstellungen e;
     const zrw::Systemdateien system;
     const bool roh = tabelle.aufgabe == "roh";
-    const double zeit = roh ? Miss([&] { return Rohgrenze(system.LiesDatei(tabelle.datei, kGrenze)).summe; })
-                            : Miss([&] { return Lade(tabelle.datei, system, e); });
+    const double zeit =
+        roh ? MissZeit([&] { return Rohgrenze(system.LiesDatei(tabelle.datei, kGrenze)).summe; })
+            : MissZeit([&] { return LadeNetz(tabelle.datei, system, e); });
     std::printf("%f\n", zeit);
     return 0;
 }
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     if (!tabelle.aufgabe.empty()) return Frisch(tabelle);
     const zrw::Einstellungen e;
     zrw::Speicherdateien dateien;
@@ -92,48 +93,49 @@ int Arbeite(Tabelle& tabelle) {
     zrw::Systemdateien system;
     system.ErsetzeDatei(datei, bytes);
 
-    const zrw::Lesung netz = Lade(datei, system, e);
+    const zrw::Lesung netz = LadeNetz(datei, system, e);
     const Rohergebnis roh = Rohgrenze(bytes);
     std::printf("Steuerdatei %.2f MB, %zu Zeilen, %zu Felder; Netz %d Punkte, %d Linien\n", MB(bytes.size()),
                 roh.zeilen, roh.felder, netz.liste->MaxPkte, netz.liste->MaxKant);
     std::vector<Schritt> schritte{
         {"(a) Zeilen und Zahlen, nichts behalten", bytes.size(),
-         [&] { return Miss([&] { return Rohgrenze(bytes).summe; }); }},
+         [&] { return MissZeit([&] { return Rohgrenze(bytes).summe; }); }},
         {"(b) Steuerdatei aus dem Speicher -> Netz", bytes.size(),
-         [&] { return Miss([&] { return Lade(kNetz, dateien, e); }); }},
-        {"    davon Kopie der Bytes", bytes.size(), [&] { return Miss([&] { return std::string(bytes); }); }},
+         [&] { return MissZeit([&] { return LadeNetz(kNetz, dateien, e); }); }},
+        {"    davon Kopie der Bytes", bytes.size(),
+         [&] { return MissZeit([&] { return std::string(bytes); }); }},
         {"(c) Steuerdatei von der Platte -> Netz", bytes.size(),
-         [&] { return Miss([&] { return Lade(datei, system, e); }); }},
+         [&] { return MissZeit([&] { return LadeNetz(datei, system, e); }); }},
         {"    davon Lesen der Bytes", bytes.size(),
-         [&] { return Miss([&] { return system.LiesDatei(datei, bytes.size()); }); }},
+         [&] { return MissZeit([&] { return system.LiesDatei(datei, bytes.size()); }); }},
         {"(d) WeltinBild", 0,
          [&] {
-             return Miss([&] {
+             return MissZeit([&] {
                  netz.liste->WeltinBild();
                  return 0;
              });
          }},
     };
-    Laufe(schritte, tabelle.runden);
+    LaufeSchritte(schritte, tabelle.runden);
     std::vector<Schritt> frisch{
         {"(a) frischer Prozess: lesen, Zeilen und Zahlen", bytes.size(),
          [&] { return FrischerProzess("roh", datei)[0]; }},
         {"(b) frischer Prozess: Steuerdatei -> Netz", bytes.size(),
          [&] { return FrischerProzess("netz", datei)[0]; }},
     };
-    Laufe(frisch, tabelle.runden);
-    Drucke(schritte);
-    Drucke(frisch);
-    tabelle.Nimm({"Steuerdatei -> Netz: zum Teilen und Umwandeln", schritte[3].zeiten, schritte[0].zeiten,
-                  Verhaeltnis(2)});
-    tabelle.Nimm({"Steuerdatei -> Netz: dasselbe, frischer Prozess", frisch[1].zeiten, frisch[0].zeiten,
-                  Verhaeltnis(2.5)});
-    tabelle.Nimm({"WeltinBild, alle Bildörter", schritte[5].zeiten, {}, Hoechstwert(8)});
+    LaufeSchritte(frisch, tabelle.runden);
+    DruckeSchritte(schritte);
+    DruckeSchritte(frisch);
+    tabelle.NimmZeile({"Steuerdatei -> Netz: zum Teilen und Umwandeln", schritte[3].zeiten,
+                       schritte[0].zeiten, Verhaeltnis(2)});
+    tabelle.NimmZeile({"Steuerdatei -> Netz: dasselbe, frischer Prozess", frisch[1].zeiten, frisch[0].zeiten,
+                       Verhaeltnis(2.5)});
+    tabelle.NimmZeile({"WeltinBild, alle Bildörter", schritte[5].zeiten, {}, Hoechstwert(8)});
     return 0;
 }
 
 }  // namespace
 
 int main(int anzahl, char** worte) {
-    return Fuehre(anzahl, worte, 9, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 9, MissAlles);
 }

@@ -38,7 +38,7 @@ Tabelle::Tabelle(int anzahl, char** worte, int ueblich) : runden(ueblich) {
     }
 }
 
-void Tabelle::Nimm(const Zeile& z) {
+void Tabelle::NimmZeile(const Zeile& z) {
     std::string text = "{\"was\": \"" + z.was + "\", \"einheit\": \"" + z.einheit + "\"";
     text += Paar("eigene", z.eigene);
     double gemessen = Kleinster(z.eigene);
@@ -59,7 +59,7 @@ void Tabelle::Nimm(const Zeile& z) {
     if (strom_.is_open()) strom_ << text << "}\n" << std::flush;
 }
 
-int Fuehre(int anzahl, char** worte, int ueblicheRunden, int (*arbeit)(Tabelle&)) {
+int FuehreMessungAus(int anzahl, char** worte, int ueblicheRunden, int (*arbeit)(Tabelle&)) {
     try {
         Tabelle tabelle(anzahl, worte, ueblicheRunden);
         return arbeit(tabelle);

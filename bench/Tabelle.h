@@ -1,5 +1,5 @@
-// The rows that a benchmark program has for the common table: one call of `Nimm` each. bench/run collects the
-// rows of all programs and prints them; a program alone prints its own details only.
+// The rows that a benchmark program has for the common table: one call of `NimmZeile` each. bench/run
+// collects the rows of all programs and prints them; a program alone prints its own details only.
 #pragma once
 
 #include <cstdint>
@@ -43,13 +43,13 @@ class Tabelle {
     Tabelle(int anzahl, char** worte, int ueblich);
 
     /// Adds a row, here and in the file that collects them.
-    void Nimm(const Zeile& zeile);
+    void NimmZeile(const Zeile& zeile);
 
   private:
     std::ofstream strom_;
 };
 
 /// The `main` of every benchmark: reads the command line and says what went wrong.
-int Fuehre(int anzahl, char** worte, int ueblicheRunden, int (*arbeit)(Tabelle&));
+int FuehreMessungAus(int anzahl, char** worte, int ueblicheRunden, int (*arbeit)(Tabelle&));
 
 }  // namespace zrw::bench

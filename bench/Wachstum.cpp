@@ -43,7 +43,7 @@ class Groesse {
         dateien_.ErsetzeDatei(
             steuerdatei_,
             ErzeugeSteuerdatei({.punkte = punkte, .paare = 3 * punkte, .beobachtungen = 4 * punkte}));
-        Speichere();
+        SpeichereNetz();
     }
 
     [[nodiscard]] double NLogN() const {
@@ -52,19 +52,19 @@ class Groesse {
     }
     [[nodiscard]] std::string Name() const { return std::to_string(punkte_); }
 
-    void Lies() const { (void)zrw::OeffneNetz(steuerdatei_, dateien_, e_, {}, {kWeite, kHoehe}, {}); }
+    void LiesNetz() const { (void)zrw::OeffneNetz(steuerdatei_, dateien_, e_, {}, {kWeite, kHoehe}, {}); }
     void WeltinBild() { netz_.liste->WeltinBild(); }
-    void Zeichne() {
+    void ZeichneNetz() {
         zustand_.flaeche = &flaeche_;
         netz_.liste->ShowPicture(zeichner_);
     }
     /// With one line a point: a picture file counts at most 65535.
-    void Speichere() { zrw::SchreibeBilddatei(*duenn_.liste, duenn_.netz, bilddatei_, dateien_); }
-    void Oeffne() {
+    void SpeichereNetz() { zrw::SchreibeBilddatei(*duenn_.liste, duenn_.netz, bilddatei_, dateien_); }
+    void OeffneBilddatei() {
         zrw::Netzangaben gelesen;
         (void)zrw::LiesBilddatei(bilddatei_, dateien_, e_, gelesen);
     }
-    void Exportiere() {
+    void ExportiereNetz() {
         zustand_.flaeche = nullptr;
         zrw::ExportierePlan(netz_.liste->Vorlage(), {zustand_, e_, netz_.netz, uhr_}, dateien_,
                             {zrw::Druckfaktor(25000, 600), plot_, dxf_});
@@ -89,15 +89,15 @@ struct Arbeit {
 };
 
 constexpr Arbeit kArbeiten[]{
-    {"Lesen", [](Groesse& g) { g.Lies(); }},
+    {"Lesen", [](Groesse& g) { g.LiesNetz(); }},
     {"WeltinBild", [](Groesse& g) { g.WeltinBild(); }},
-    {"Bild a mit Nummern", [](Groesse& g) { g.Zeichne(); }},
-    {"Zarwikdatei speichern", [](Groesse& g) { g.Speichere(); }},
-    {"Zarwikdatei öffnen", [](Groesse& g) { g.Oeffne(); }},
-    {"Export", [](Groesse& g) { g.Exportiere(); }},
+    {"Bild a mit Nummern", [](Groesse& g) { g.ZeichneNetz(); }},
+    {"Zarwikdatei speichern", [](Groesse& g) { g.SpeichereNetz(); }},
+    {"Zarwikdatei öffnen", [](Groesse& g) { g.OeffneBilddatei(); }},
+    {"Export", [](Groesse& g) { g.ExportiereNetz(); }},
 };
 
-int Arbeite(Tabelle& tabelle) {
+int MissAlles(Tabelle& tabelle) {
     int worte = 1;
     char name[] = "bench_wachstum";
     char* argumente[] = {name, nullptr};
@@ -110,14 +110,14 @@ int Arbeite(Tabelle& tabelle) {
         std::vector<Schritt> schritte;
         for (const auto& g : groessen) {
             schritte.push_back({std::string(a.was) + ", " + g->Name() + " Punkte", 0, [&a, &g] {
-                                    return Miss([&] {
+                                    return MissZeit([&] {
                                         a.tue(*g);
                                         return 0;
                                     });
                                 }});
         }
-        Laufe(schritte, tabelle.runden);
-        Drucke(schritte);
+        LaufeSchritte(schritte, tabelle.runden);
+        DruckeSchritte(schritte);
         // Against the best of all smaller networks: what every run costs would hide growth in the smallest.
         double bisher = 1e300;
         double groesstes = 0.0;
@@ -126,13 +126,13 @@ int Arbeite(Tabelle& tabelle) {
             if (i > 0) groesstes = std::max(groesstes, jeNLogN / bisher);
             bisher = std::min(bisher, jeNLogN);
             std::printf("%-46s %9.2f ns\n", "    je n log n", jeNLogN * 1e6);
-            tabelle.Nimm({"Wachstum, " + schritte[i].name, schritte[i].zeiten});
+            tabelle.NimmZeile({"Wachstum, " + schritte[i].name, schritte[i].zeiten});
         }
-        tabelle.Nimm({std::string("Wachstum, ") + a.was + ": je n log n, zum besten kleineren",
-                      {groesstes},
-                      {},
-                      Hoechstwert(kSpielraum),
-                      "fach"});
+        tabelle.NimmZeile({std::string("Wachstum, ") + a.was + ": je n log n, zum besten kleineren",
+                           {groesstes},
+                           {},
+                           Hoechstwert(kSpielraum),
+                           "fach"});
     }
     return 0;
 }
@@ -141,5 +141,5 @@ int Arbeite(Tabelle& tabelle) {
 
 int main(int anzahl, char** worte) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    return Fuehre(anzahl, worte, 5, Arbeite);
+    return FuehreMessungAus(anzahl, worte, 5, MissAlles);
 }

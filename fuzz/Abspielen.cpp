@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<fs::path> Sammle(int anzahl, char** namen) {
+std::vector<fs::path> SammleDateien(int anzahl, char** namen) {
     std::vector<fs::path> dateien;
     for (int i = 1; i < anzahl; ++i) {
         if (!fs::is_directory(namen[i])) {
@@ -32,7 +32,7 @@ std::vector<fs::path> Sammle(int anzahl, char** namen) {
 }  // namespace
 
 int main(int anzahl, char** namen) {
-    const std::vector<fs::path> dateien = Sammle(anzahl, namen);
+    const std::vector<fs::path> dateien = SammleDateien(anzahl, namen);
     for (const fs::path& datei : dateien) {
         std::ifstream strom(datei, std::ios::binary);
         if (!strom) {

@@ -32,19 +32,19 @@ class Pruefflaeche final : public zrw::Zeichenflaeche {
   public:
     [[nodiscard]] zrw::Rechteck Sichtbar() const override { return {0, 0, kWeite - 1, kHoehe - 1}; }
     void Linie(zrw::Flaechenpunkt von, zrw::Flaechenpunkt nach) override {
-        Pruefe(von);
-        Pruefe(nach);
+        PruefeOrt(von);
+        PruefeOrt(nach);
     }
-    void ZeichneRechteck(const zrw::Rechteck& r) override { Pruefe(r); }
-    void Ellipse(const zrw::Rechteck& r) override { Pruefe(r); }
+    void ZeichneRechteck(const zrw::Rechteck& r) override { PruefeRechteck(r); }
+    void Ellipse(const zrw::Rechteck& r) override { PruefeRechteck(r); }
     void Vieleck(std::span<const zrw::Flaechenpunkt> ecken) override {
         for (const zrw::Flaechenpunkt p : ecken)
-            Pruefe(p);
+            PruefeOrt(p);
     }
-    void FuelleRechteck(const zrw::Rechteck& r, zrw::Farbe /*farbe*/) override { Pruefe(r); }
+    void FuelleRechteck(const zrw::Rechteck& r, zrw::Farbe /*farbe*/) override { PruefeRechteck(r); }
     void Text(zrw::Flaechenpunkt ort, std::string_view text, zrw::Farbe /*farbe*/) override {
-        Pruefe(ort);
-        zrw::fuzz::Verlange(text.size() <= kLaengsterText, "kein Text ist zu lang");
+        PruefeOrt(ort);
+        zrw::fuzz::VerlangeBedingung(text.size() <= kLaengsterText, "kein Text ist zu lang");
     }
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override {
         return static_cast<std::int32_t>(text.size()) * 6;
@@ -56,15 +56,15 @@ class Pruefflaeche final : public zrw::Zeichenflaeche {
   private:
     static constexpr std::size_t kLaengsterText = 40;  // the title of the legend with its time
 
-    static void Pruefe(zrw::Flaechenpunkt p) {
+    static void PruefeOrt(zrw::Flaechenpunkt p) {
         constexpr std::int32_t kReichweite = 20000;
-        zrw::fuzz::Verlange(
+        zrw::fuzz::VerlangeBedingung(
             p.x >= -kReichweite && p.x <= kReichweite && p.y >= -kReichweite && p.y <= kReichweite,
             "jede Koordinate liegt nahe der Flaeche");
     }
-    static void Pruefe(const zrw::Rechteck& r) {
-        Pruefe(zrw::Flaechenpunkt{r.links, r.oben});
-        Pruefe(zrw::Flaechenpunkt{r.rechts, r.unten});
+    static void PruefeRechteck(const zrw::Rechteck& r) {
+        PruefeOrt(zrw::Flaechenpunkt{r.links, r.oben});
+        PruefeOrt(zrw::Flaechenpunkt{r.rechts, r.unten});
     }
 };
 
@@ -105,7 +105,7 @@ std::size_t PruefeZeilen(std::string_view datei, Pruefung pruefung) {
     std::size_t zeilen = 0;
     while (!datei.empty()) {
         const std::size_t ende = datei.find("\r\n");
-        zrw::fuzz::Verlange(ende != std::string_view::npos, "jede Zeile hat ihr Ende");
+        zrw::fuzz::VerlangeBedingung(ende != std::string_view::npos, "jede Zeile hat ihr Ende");
         pruefung(datei.substr(0, ende), zeilen++);
         datei.remove_prefix(ende + 2);
     }
@@ -121,16 +121,18 @@ void PruefeExport(zrw::Liste& liste, const zrw::Zeichenmittel& mittel) {
     zrw::ExportierePlan(liste.Vorlage(), mittel, dateien, {faktor, zrw::kPlotname, zrw::kDxfname});
     const std::size_t zeilen =
         PruefeZeilen(dateien.dateien[zrw::kDxfname], [](std::string_view zeile, std::size_t nummer) {
-            zrw::fuzz::Verlange(nummer % 2 == 1 || (zeile.size() == 3 && zeile[2] >= '0' && zeile[2] <= '9'),
-                                "jede zweite Zeile ist ein Gruppencode");
+            zrw::fuzz::VerlangeBedingung(
+                nummer % 2 == 1 || (zeile.size() == 3 && zeile[2] >= '0' && zeile[2] <= '9'),
+                "jede zweite Zeile ist ein Gruppencode");
         });
-    zrw::fuzz::Verlange(zeilen % 2 == 0, "die Zeichnung besteht aus Paaren");
+    zrw::fuzz::VerlangeBedingung(zeilen % 2 == 0, "die Zeichnung besteht aus Paaren");
     PruefeZeilen(dateien.dateien[zrw::kPlotname], [](std::string_view zeile, std::size_t /*nummer*/) {
-        zrw::fuzz::Verlange(zeile.ends_with("PU;") || zeile.ends_with("PU; LT;"), "der Stift ist oben");
+        zrw::fuzz::VerlangeBedingung(zeile.ends_with("PU;") || zeile.ends_with("PU; LT;"),
+                                     "der Stift ist oben");
     });
     zrw::ByteSchreiber nachher;
     liste.Store(nachher, {});
-    zrw::fuzz::Verlange(vorher.Inhalt() == nachher.Inhalt(), "der Export aendert nichts");
+    zrw::fuzz::VerlangeBedingung(vorher.Inhalt() == nachher.Inhalt(), "der Export aendert nichts");
 }
 
 /// The vector outputs end properly whatever they are given, and the print leaves the network as it was.
@@ -144,27 +146,28 @@ void PruefeBlaetter(zrw::Liste& liste, const zrw::Zeichenmittel& mittel, zrw::Ei
     zrw::DruckePlan(liste.Vorlage(), mittel, zrw::Geraetegroessen(einstellungen, zrw::Geraetefaktor(seite)),
                     pdf, {25000, "25000", seite});
     pdf.BeendeDatei();
-    zrw::fuzz::Verlange(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
+    zrw::fuzz::VerlangeBedingung(dateien.dateien["a.pdf"].ends_with("%%EOF\n"), "das Blatt ist ganz");
     try {
         const zrw::Druckplan plan{liste.Vorlage(), mittel, pdf};
         const bool leer = zrw::Blattschnitt(plan, 25000, seite, liste.BildinWelt({})).empty();
-        zrw::fuzz::Verlange(zrw::Blattaufteilung(plan, 25000, seite).empty() == leer, "beide finden etwas");
+        zrw::fuzz::VerlangeBedingung(zrw::Blattaufteilung(plan, 25000, seite).empty() == leer,
+                                     "beide finden etwas");
         (void)zrw::PassenderMassstab(plan, seite);
     } catch (const zrw::Fehler&) {  // too many sheets
     }
     zrw::SchreibeGeojson(liste, mittel.netz, einstellungen, mittel.zustand.Ergebnisse, dateien, "a.geojson");
-    zrw::fuzz::Verlange(dateien.dateien["a.geojson"].ends_with("]}\n"), "das Netz ist ganz");
+    zrw::fuzz::VerlangeBedingung(dateien.dateien["a.geojson"].ends_with("]}\n"), "das Netz ist ganz");
     zrw::ByteSchreiber nachher;
     liste.Store(nachher, {});
-    zrw::fuzz::Verlange(vorher.Inhalt() == nachher.Inhalt(), "der Druck aendert nichts");
+    zrw::fuzz::VerlangeBedingung(vorher.Inhalt() == nachher.Inhalt(), "der Druck aendert nichts");
 }
 
-void Pruefe(std::string_view eingabe) {
+void PruefeEingabe(std::string_view eingabe) {
     zrw::Einstellungen einstellungen;
     zrw::Netzangaben netz;
     zrw::ByteLeser leser(eingabe);
     const std::unique_ptr<zrw::Liste> liste = zrw::Liste::Load(leser, einstellungen, netz, "bild.zrw");
-    zrw::fuzz::Verlange(leser.Gut(), "Laden liest nicht ueber das Ende");
+    zrw::fuzz::VerlangeBedingung(leser.Gut(), "Laden liest nicht ueber das Ende");
     zrw::fuzz::PruefeListe(*liste);
     zrw::fuzz::PruefeSpeichern(*liste, netz);
     const double faktor = liste->Faktor;
@@ -183,7 +186,7 @@ void Pruefe(std::string_view eingabe) {
     zustand.Ergebnisse = &ergebnisse;
     netz.Abbildungsmodus = static_cast<std::uint8_t>(netz.Netztyp & 3);
     liste->ShowPicture(z);
-    zrw::fuzz::Bediene(*liste, z);
+    zrw::fuzz::BedieneListe(*liste, z);
     zustand.modus = zrw::Zeichenmodus::Drucker;
     zustand.Geraetefaktor = 6.25;
     zustand.KurzeNummern = true;
@@ -191,7 +194,7 @@ void Pruefe(std::string_view eingabe) {
     const zrw::Zeichenmittel mittel{zustand, einstellungen, netz, uhr};
     PruefeExport(*liste, mittel);
     PruefeBlaetter(*liste, mittel, einstellungen);
-    zrw::fuzz::Bearbeite(*liste, z);
+    zrw::fuzz::BearbeiteListe(*liste, z);
 }
 
 }  // namespace
@@ -199,7 +202,7 @@ void Pruefe(std::string_view eingabe) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
     try {
-        Pruefe(eingabe);
+        PruefeEingabe(eingabe);
     } catch (const zrw::Fehler&) {  // refused with a message
     }
     return 0;

@@ -16,7 +16,7 @@ namespace {
 
 using namespace zrw;
 
-Speichereinstellungen Lies(std::string_view eingabe) {
+Speichereinstellungen LiesEinstellungen(std::string_view eingabe) {
     Speichereinstellungen speicher;
     while (!eingabe.empty()) {
         const std::string_view zeile = eingabe.substr(0, eingabe.find('\n'));
@@ -28,17 +28,17 @@ Speichereinstellungen Lies(std::string_view eingabe) {
     return speicher;
 }
 
-void Pruefe(std::string_view eingabe) {
+void PruefeEingabe(std::string_view eingabe) {
     Einstellungen e;
-    LoadSettings(e, Lies(eingabe));
+    LoadSettings(e, LiesEinstellungen(eingabe));
     Speichereinstellungen erste;
     SaveSettings(e, erste);
-    fuzz::Verlange(erste.geschrieben.size() == 21, "jeder Schlüssel wird geschrieben");
+    fuzz::VerlangeBedingung(erste.geschrieben.size() == 21, "jeder Schlüssel wird geschrieben");
     Einstellungen gelesen;
     LoadSettings(gelesen, erste);
     Speichereinstellungen zweite;
     SaveSettings(gelesen, zweite);
-    fuzz::Verlange(erste.werte == zweite.werte, "gesichert und gelesen bleibt alles gleich");
+    fuzz::VerlangeBedingung(erste.werte == zweite.werte, "gesichert und gelesen bleibt alles gleich");
     for (const double faktor : {6.25, 1.0 / 6.25, 1e300, std::nan(""), -1.0})
         e.ScaleSizes(faktor);
 }
@@ -47,6 +47,6 @@ void Pruefe(std::string_view eingabe) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
-    Pruefe(eingabe);
+    PruefeEingabe(eingabe);
     return 0;
 }

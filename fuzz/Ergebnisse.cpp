@@ -29,20 +29,20 @@ constexpr const char* kNetz =
     "$ST A B 1414.2\n$ST B C 1118.0\n$RS A\n$RZ C 50.0\n$DH B C 1.0\n";
 
 /// Every value of an answer as the results window would show it.
-void Zeige(const Antwort& antwort, std::span<const Tabellenfeld> felder) {
+void ZeigeAntwort(const Antwort& antwort, std::span<const Tabellenfeld> felder) {
     for (const auto& zeile : antwort.zeilen) {
-        fuzz::Verlange(zeile.size() == antwort.spalten.size(), "ein Wert je Spalte");
+        fuzz::VerlangeBedingung(zeile.size() == antwort.spalten.size(), "ein Wert je Spalte");
         for (std::size_t i = 0; i < zeile.size(); ++i) {
             const auto* zahl = std::get_if<double>(&zeile[i]);
             if (zahl == nullptr) continue;
             const std::string text = Anzeigetext(*zahl, i < felder.size() ? felder[i].format : "#.000");
-            fuzz::Verlange(text.size() < 400, "eine Zahl ist kein Roman");
-            fuzz::Verlange(AnzeigeZeitpunkt(*zahl).size() < 30, "ein Zeitpunkt ist kurz");
+            fuzz::VerlangeBedingung(text.size() < 400, "eine Zahl ist kein Roman");
+            fuzz::VerlangeBedingung(AnzeigeZeitpunkt(*zahl).size() < 30, "ein Zeitpunkt ist kurz");
         }
     }
 }
 
-void Frage(TDM& daten, Tabelle tabelle) {
+void FrageTabelle(TDM& daten, Tabelle tabelle) {
     const Ergebnistabelle& t = Beschreibung(tabelle);
     std::vector<std::string> abfragen{std::string(t.alles)};
     for (const Ergebnisreiter& r : kErgebnisreiter) {
@@ -52,14 +52,14 @@ void Frage(TDM& daten, Tabelle tabelle) {
     }
     for (const std::string& abfrage : abfragen) {
         try {
-            Zeige(daten.FrageTabelle(tabelle, abfrage), t.felder);
+            ZeigeAntwort(daten.FrageTabelle(tabelle, abfrage), t.felder);
         } catch (const Fehler& f) {
-            fuzz::Verlange(!f.Text().empty(), "ein Fehler sagt etwas");
+            fuzz::VerlangeBedingung(!f.Text().empty(), "ein Fehler sagt etwas");
         }
     }
 }
 
-void Pruefe(Tabelle tabelle, std::string_view bytes) {
+void PruefeTabelle(Tabelle tabelle, std::string_view bytes) {
     Speicherdateien dateien;
     const std::string ordner = std::string(kOrdner) + "/";
     dateien.dateien[ordner + "NETZ.EIN"] = kNetz;
@@ -76,7 +76,7 @@ void Pruefe(Tabelle tabelle, std::string_view bytes) {
     for (const std::size_t laenge : {bytes.size(), bytes.size() / 2}) {
         dateien.dateien[name] = bytes.substr(0, laenge);
         (void)MarkiereFehler(liste, daten, einstellungen);
-        Frage(daten, tabelle);
+        FrageTabelle(daten, tabelle);
         daten.ErneuereErgebnisse();
         for (const char* nummer : {"A", "B", "", "14 Zeichen lang"})
             (void)daten.ErgebnisZu(nummer);
@@ -92,6 +92,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
     const std::string eingabe(daten, daten + groesse);
     if (eingabe.empty()) return 0;
     const auto nummer = static_cast<unsigned char>(eingabe.front()) % kErgebnistabellen.size();
-    Pruefe(static_cast<Tabelle>(nummer), std::string_view(eingabe).substr(1));
+    PruefeTabelle(static_cast<Tabelle>(nummer), std::string_view(eingabe).substr(1));
     return 0;
 }

@@ -35,7 +35,7 @@ bool HatEnde(const PunktKante& k, PunktIndex nr) {
     return k.ANr == nr || k.ENr == nr;
 }
 
-bool Verbindet(const PunktKante& k, PunktIndex a, PunktIndex b) {
+bool VerbindetPunkte(const PunktKante& k, PunktIndex a, PunktIndex b) {
     return (k.ANr == a && k.ENr == b) || (k.ANr == b && k.ENr == a);
 }
 
@@ -43,7 +43,8 @@ void PruefePunktsuche(const Liste& l) {
     int n = 0;
     for (const PunktKnoten* p = l.PunktKnoten; p != nullptr && n < kStichprobe; p = p->Next, ++n) {
         const auto gleich = [&](const PunktKnoten& x) { return x.PNr == p->PNr; };
-        Verlange(l.SuchPkt(p->PNr) == Erster(l.PunktKnoten, gleich), "SuchPkt findet den ersten Punkt");
+        VerlangeBedingung(l.SuchPkt(p->PNr) == Erster(l.PunktKnoten, gleich),
+                          "SuchPkt findet den ersten Punkt");
     }
 }
 
@@ -53,19 +54,20 @@ void PruefeTextsuche(const Liste& l) {
         const PunktNummernTyp& text = t->Item->Aus;
         const auto* ersterMitNr =
             Erster(l.PktTextKnoten, [&](const PunktString& x) { return x.TNr == t->TNr; });
-        Verlange(l.FindPktText(t->TNr) == ersterMitNr->Item, "FindPktText findet den ersten Text");
+        VerlangeBedingung(l.FindPktText(t->TNr) == ersterMitNr->Item, "FindPktText findet den ersten Text");
         const auto* ersterText =
             Erster(l.PktTextKnoten, [&](const PunktString& x) { return x.Item->Aus == text; });
-        Verlange(l.FindPunkt(text.Text()) == l.SuchPkt(ersterText->TNr), "FindPunkt findet den ersten Text");
+        VerlangeBedingung(l.FindPunkt(text.Text()) == l.SuchPkt(ersterText->TNr),
+                          "FindPunkt findet den ersten Text");
     }
 }
 
 void PruefeKantensuche(const Liste& l) {
     int n = 0;
     for (const PunktKante* k = l.KanteKnoten; k != nullptr && n < kStichprobe; k = k->Next, ++n) {
-        const auto passt = [&](const PunktKante& x) { return Verbindet(x, k->ANr, k->ENr); };
-        Verlange(l.FindKante(k->ENr, k->ANr) == Erster(l.KanteKnoten, passt),
-                 "FindKante findet die erste Linie");
+        const auto passt = [&](const PunktKante& x) { return VerbindetPunkte(x, k->ANr, k->ENr); };
+        VerlangeBedingung(l.FindKante(k->ENr, k->ANr) == Erster(l.KanteKnoten, passt),
+                          "FindKante findet die erste Linie");
     }
 }
 
@@ -75,8 +77,8 @@ std::unique_ptr<Liste> Kopie(const Liste& liste, const Netzangaben& netz) {
     ByteLeser leser(bytes);
     Netzangaben gelesen;
     std::unique_ptr<Liste> kopie = Liste::Load(leser, liste.Anzeige(), gelesen, "kopie.zrw");
-    Verlange(leser.Rest() == 0, "Laden liest, was gespeichert wurde");
-    Verlange(gelesen.Netztyp == netz.Netztyp, "der Netztyp bleibt");
+    VerlangeBedingung(leser.Rest() == 0, "Laden liest, was gespeichert wurde");
+    VerlangeBedingung(gelesen.Netztyp == netz.Netztyp, "der Netztyp bleibt");
     PruefeListe(*kopie);
     return kopie;
 }
@@ -86,23 +88,25 @@ void ZeigeUndVerberge(Liste& l, Zeichner& z) {
     for (PPunktKnoten p = l.PunktKnoten; p != nullptr && n < 4; p = p->Next, ++n) {
         l.HidePunkt(*p, z);
         for (const PunktKante* k = l.KanteKnoten; k != nullptr; k = k->Next) {
-            Verlange(!HatEnde(*k, p->PNr) || !k->Item->Visible, "HidePunkt verbirgt alle Linien des Punktes");
+            VerlangeBedingung(!HatEnde(*k, p->PNr) || !k->Item->Visible,
+                              "HidePunkt verbirgt alle Linien des Punktes");
         }
         l.ShowPunkt(*p, z);
         for (const PunktKante* k = l.KanteKnoten; k != nullptr; k = k->Next) {
-            Verlange(!HatEnde(*k, p->PNr) || k->Item->Visible, "ShowPunkt zeigt alle Linien des Punktes");
+            VerlangeBedingung(!HatEnde(*k, p->PNr) || k->Item->Visible,
+                              "ShowPunkt zeigt alle Linien des Punktes");
         }
     }
 }
 
 /// @param maus a position on the picture or far beyond it [px]
-void Klicke(Liste& l, Bildpunkt maus, Zeichner& z) {
+void KlickeMaus(Liste& l, Bildpunkt maus, Zeichner& z) {
     const PPunktKante kante = l.PickKante(maus);
     if (kante != nullptr) kante->Item->Hide(z);
     if (const PPunktString text = l.MausPktText(maus); text != nullptr) l.DragPktText(*text, z);
     PPunktKnoten punkt = nullptr;
     if (l.MausPunkt(maus, punkt, z)) {
-        Verlange(punkt == l.ClickPunkt(maus), "MausPunkt und ClickPunkt fangen denselben Punkt");
+        VerlangeBedingung(punkt == l.ClickPunkt(maus), "MausPunkt und ClickPunkt fangen denselben Punkt");
         l.MovePunkt(*punkt, 17, -5);
         l.ZentrierPunkt(*punkt, *l.PunktKnoten, z);
     }
@@ -111,16 +115,16 @@ void Klicke(Liste& l, Bildpunkt maus, Zeichner& z) {
 
 }  // namespace
 
-void Verlange(bool bedingung, const char* was) {
+void VerlangeBedingung(bool bedingung, const char* was) {
     if (bedingung) return;
     std::fprintf(stderr, "verletzt: %s\n", was);
     std::abort();
 }
 
 void PruefeListe(const Liste& liste) {
-    Verlange(Laenge(liste.PunktKnoten) == liste.MaxPkte, "MaxPkte ist die Zahl der Punkte");
-    Verlange(Laenge(liste.PktTextKnoten) == liste.MaxPkte, "MaxPkte ist die Zahl der Texte");
-    Verlange(Laenge(liste.KanteKnoten) == liste.MaxKant, "MaxKant ist die Zahl der Linien");
+    VerlangeBedingung(Laenge(liste.PunktKnoten) == liste.MaxPkte, "MaxPkte ist die Zahl der Punkte");
+    VerlangeBedingung(Laenge(liste.PktTextKnoten) == liste.MaxPkte, "MaxPkte ist die Zahl der Texte");
+    VerlangeBedingung(Laenge(liste.KanteKnoten) == liste.MaxKant, "MaxKant ist die Zahl der Linien");
     PruefePunktsuche(liste);
     PruefeTextsuche(liste);
     PruefeKantensuche(liste);
@@ -129,16 +133,17 @@ void PruefeListe(const Liste& liste) {
 void PruefeNetz(const Liste& liste) {
     for (const PunktString* t = liste.PktTextKnoten; t != nullptr; t = t->Next) {
         const PunktKnoten* p = liste.FindPunkt(t->Item->Aus.Text());
-        Verlange(p != nullptr && p->PNr == t->TNr, "jede Punktnummer gibt es einmal");
+        VerlangeBedingung(p != nullptr && p->PNr == t->TNr, "jede Punktnummer gibt es einmal");
     }
     for (const PunktKnoten* p = liste.PunktKnoten; p != nullptr; p = p->Next) {
-        Verlange(liste.SuchPkt(p->PNr) == p, "jede innere Nummer gibt es einmal");
-        Verlange(liste.FindPktText(p->PNr) != nullptr, "jeder Punkt hat einen Text");
+        VerlangeBedingung(liste.SuchPkt(p->PNr) == p, "jede innere Nummer gibt es einmal");
+        VerlangeBedingung(liste.FindPktText(p->PNr) != nullptr, "jeder Punkt hat einen Text");
     }
     for (const PunktKante* k = liste.KanteKnoten; k != nullptr; k = k->Next) {
-        Verlange(liste.SuchPkt(k->ANr) != nullptr && liste.SuchPkt(k->ENr) != nullptr, "beide Enden gibt es");
-        Verlange(k->ANr != k->ENr, "keine Linie von einem Punkt zu sich selbst");
-        Verlange(liste.FindKante(k->ANr, k->ENr) == k, "jedes Punktpaar hat eine Linie");
+        VerlangeBedingung(liste.SuchPkt(k->ANr) != nullptr && liste.SuchPkt(k->ENr) != nullptr,
+                          "beide Enden gibt es");
+        VerlangeBedingung(k->ANr != k->ENr, "keine Linie von einem Punkt zu sich selbst");
+        VerlangeBedingung(liste.FindKante(k->ANr, k->ENr) == k, "jedes Punktpaar hat eine Linie");
     }
 }
 
@@ -150,10 +155,11 @@ std::string Gespeichert(const Liste& liste, const Netzangaben& netz) {
 
 void PruefeSpeichern(const Liste& liste, const Netzangaben& netz) {
     const std::unique_ptr<Liste> zweimal = Kopie(*Kopie(liste, netz), netz);
-    Verlange(Gespeichert(*zweimal, netz) == Gespeichert(liste, netz), "zweimal laden gibt dieselbe Datei");
+    VerlangeBedingung(Gespeichert(*zweimal, netz) == Gespeichert(liste, netz),
+                      "zweimal laden gibt dieselbe Datei");
 }
 
-void Bediene(Liste& liste, Zeichner& z) {
+void BedieneListe(Liste& liste, Zeichner& z) {
     liste.ShowFL = liste.ShowGitter = liste.ShowKMQ = liste.ShowLegende = true;
     liste.ShowPicture(z);
     for (const double stufe : {1.0, 1e-6, 1e-15, 1e12}) {
@@ -172,17 +178,17 @@ void Bediene(Liste& liste, Zeichner& z) {
     constexpr auto kMin = std::numeric_limits<std::int64_t>::min();
     for (const Bildpunkt maus :
          {Bildpunkt{400, 300}, Bildpunkt{2, 2}, Bildpunkt{kMax, kMin}, Bildpunkt{kMin, kMax}}) {
-        Klicke(liste, maus, z);
+        KlickeMaus(liste, maus, z);
     }
-    if (liste.PunktKnoten != nullptr) Klicke(liste, liste.PunktKnoten->Item->Position(), z);
-    if (liste.KanteKnoten != nullptr) Klicke(liste, liste.KanteKnoten->Item->Ende(), z);
+    if (liste.PunktKnoten != nullptr) KlickeMaus(liste, liste.PunktKnoten->Item->Position(), z);
+    if (liste.KanteKnoten != nullptr) KlickeMaus(liste, liste.KanteKnoten->Item->Ende(), z);
     for (const LinieAttr attr : {LinieAttr::AR2, LinieAttr::ARI1, LinieAttr::ARI2, LinieAttr::ASTI}) {
         liste.ChKante(attr, z);
     }
     liste.WeltinBild();  // dragging leaves the other figures at the moved position where they were
 }
 
-void Bearbeite(Liste& liste, Zeichner& z) {
+void BearbeiteListe(Liste& liste, Zeichner& z) {
     bool weg = false;
     for (PPunktKante k = liste.KanteKnoten; k != nullptr;) {
         const PPunktKante naechste = k->Next;
@@ -203,9 +209,9 @@ void Bearbeite(Liste& liste, Zeichner& z) {
     PruefeListe(liste);
     ZeigeUndVerberge(liste, z);
     liste.Done(z);
-    Verlange(liste.SuchPkt(1) == nullptr && liste.PunktKnoten == nullptr && liste.KanteKnoten == nullptr &&
-                 liste.PktTextKnoten == nullptr,
-             "Done leert alles");
+    VerlangeBedingung(liste.SuchPkt(1) == nullptr && liste.PunktKnoten == nullptr &&
+                          liste.KanteKnoten == nullptr && liste.PktTextKnoten == nullptr,
+                      "Done leert alles");
 }
 
 }  // namespace zrw::fuzz

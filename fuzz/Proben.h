@@ -11,7 +11,7 @@
 namespace zrw::fuzz {
 
 /// Ends the process with the text where the condition does not hold.
-void Verlange(bool bedingung, const char* was);
+void VerlangeBedingung(bool bedingung, const char* was);
 
 /// The counts are those of the lists, and every look-up answers what a walk from the head finds first.
 void PruefeListe(const Liste& liste);
@@ -27,9 +27,9 @@ void PruefeNetz(const Liste& liste);
 void PruefeSpeichern(const Liste& liste, const Netzangaben& netz);
 
 /// View, switches and hit-tests. Adds and removes nothing.
-void Bediene(Liste& liste, Zeichner& z);
+void BedieneListe(Liste& liste, Zeichner& z);
 
 /// Turns and deletes lines, deletes points, wipes the rest.
-void Bearbeite(Liste& liste, Zeichner& z);
+void BearbeiteListe(Liste& liste, Zeichner& z);
 
 }  // namespace zrw::fuzz

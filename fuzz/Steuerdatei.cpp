@@ -23,15 +23,15 @@ class StummerZeichner final : public zrw::Zeichner {
     void ZeichneText(const zrw::PktText& /*text*/, zrw::Bildpunkt /*ort*/, zrw::Gang /*gang*/) override {}
 };
 
-void Pruefe(std::string_view eingabe) {
+void PruefeEingabe(std::string_view eingabe) {
     const zrw::fuzz::Speicher dateien(eingabe);
     const zrw::Einstellungen einstellungen;
     std::size_t meldungen = 0;
     zrw::Lesung lesung = zrw::LeseSteuerdatei(zrw::fuzz::kSteuerdatei, dateien, einstellungen,
                                               [&](const zrw::Meldung& m) { meldungen += m.text.size(); });
-    zrw::fuzz::Verlange(lesung.liste != nullptr, "eine Lesung hat eine Liste");
-    zrw::fuzz::Verlange((lesung.ende == zrw::Leseende::Vollstaendig) == lesung.endetext.empty(),
-                        "nur ein anderes Ende hat einen Text");
+    zrw::fuzz::VerlangeBedingung(lesung.liste != nullptr, "eine Lesung hat eine Liste");
+    zrw::fuzz::VerlangeBedingung((lesung.ende == zrw::Leseende::Vollstaendig) == lesung.endetext.empty(),
+                                 "nur ein anderes Ende hat einen Text");
     zrw::Liste& liste = *lesung.liste;
     zrw::fuzz::PruefeListe(liste);
     zrw::fuzz::PruefeNetz(liste);
@@ -41,10 +41,10 @@ void Pruefe(std::string_view eingabe) {
     liste.PasseEin();
     zrw::fuzz::PruefeSpeichern(liste, lesung.netz);
     StummerZeichner z;
-    zrw::fuzz::Bediene(liste, z);
+    zrw::fuzz::BedieneListe(liste, z);
     zrw::fuzz::PruefeNetz(liste);
     zrw::fuzz::PruefeSpeichern(liste, lesung.netz);
-    zrw::fuzz::Bearbeite(liste, z);
+    zrw::fuzz::BearbeiteListe(liste, z);
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ void Pruefe(std::string_view eingabe) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
     try {
-        Pruefe(eingabe);
+        PruefeEingabe(eingabe);
     } catch (const zrw::Fehler&) {  // refused with a message
     }
     return 0;

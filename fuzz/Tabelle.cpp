@@ -23,7 +23,7 @@ struct Inhalt {
 };
 
 /// What may stand in a field of a type, whatever the bytes.
-bool Passt(const Feld& feld, const Wert& wert) {
+bool PasstZumFeld(const Feld& feld, const Wert& wert) {
     const bool real =
         feld.typ == Feldtyp::Zahl || feld.typ == Feldtyp::Waehrung || feld.typ == Feldtyp::Zeitpunkt;
     if (const auto* text = std::get_if<std::string_view>(&wert)) {
@@ -36,32 +36,33 @@ bool Passt(const Feld& feld, const Wert& wert) {
     return std::holds_alternative<std::monostate>(wert) || (!real && feld.typ != Feldtyp::Alpha);
 }
 
-Inhalt Lies(std::string_view bytes) {
+Inhalt LiesInhalt(std::string_view bytes) {
     const Leser leser(bytes, "A.DB");
     Inhalt inhalt{leser.Felder(), {}, {}};
-    zrw::fuzz::Verlange(!inhalt.felder.empty(), "eine Tabelle hat Felder");
-    zrw::fuzz::Verlange(leser.Zeilen() <= bytes.size(), "nicht mehr Reihen, als die Datei fasst");
+    zrw::fuzz::VerlangeBedingung(!inhalt.felder.empty(), "eine Tabelle hat Felder");
+    zrw::fuzz::VerlangeBedingung(leser.Zeilen() <= bytes.size(), "nicht mehr Reihen, als die Datei fasst");
     leser.FuerJedeZeile([&](std::span<const Wert> werte) {
-        zrw::fuzz::Verlange(werte.size() == inhalt.felder.size(), "ein Wert je Feld");
+        zrw::fuzz::VerlangeBedingung(werte.size() == inhalt.felder.size(), "ein Wert je Feld");
         std::vector<Wert>& zeile = inhalt.zeilen.emplace_back(werte.begin(), werte.end());
         for (std::size_t i = 0; i < zeile.size(); ++i) {
-            zrw::fuzz::Verlange(Passt(inhalt.felder[i], zeile[i]), "der Wert passt zur Art des Feldes");
+            zrw::fuzz::VerlangeBedingung(PasstZumFeld(inhalt.felder[i], zeile[i]),
+                                         "der Wert passt zur Art des Feldes");
             if (auto* text = std::get_if<std::string_view>(&zeile[i]))
                 *text = inhalt.texte.emplace_back(*text);
         }
     });
-    zrw::fuzz::Verlange(inhalt.zeilen.size() == leser.Zeilen(), "so viele Reihen wie angekündigt");
+    zrw::fuzz::VerlangeBedingung(inhalt.zeilen.size() == leser.Zeilen(), "so viele Reihen wie angekündigt");
     return inhalt;
 }
 
 /// Once written, reading and writing change nothing.
 void PruefeSchreiben(const Inhalt& inhalt, Stufe stufe) {
     const Dateipaar erstes = SchreibeTabelle("A", inhalt.felder, inhalt.zeilen, 0, stufe);
-    const Inhalt gelesen = Lies(erstes.db);
-    zrw::fuzz::Verlange(gelesen.zeilen.size() == inhalt.zeilen.size(), "keine Reihe geht verloren");
+    const Inhalt gelesen = LiesInhalt(erstes.db);
+    zrw::fuzz::VerlangeBedingung(gelesen.zeilen.size() == inhalt.zeilen.size(), "keine Reihe geht verloren");
     const Dateipaar zweites = SchreibeTabelle("A", gelesen.felder, gelesen.zeilen, 0, stufe);
-    zrw::fuzz::Verlange(erstes.db == zweites.db && erstes.px == zweites.px,
-                        "dieselben Bytes beim zweiten Mal");
+    zrw::fuzz::VerlangeBedingung(erstes.db == zweites.db && erstes.px == zweites.px,
+                                 "dieselben Bytes beim zweiten Mal");
 }
 
 }  // namespace
@@ -69,7 +70,7 @@ void PruefeSchreiben(const Inhalt& inhalt, Stufe stufe) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
     try {
-        const Inhalt inhalt = Lies(eingabe);
+        const Inhalt inhalt = LiesInhalt(eingabe);
         PruefeSchreiben(inhalt, groesse % 2 == 0 ? Stufe::Fuenf : Stufe::Sieben);
     } catch (const zrw::Fehler&) {  // refused with a message
     }

@@ -42,8 +42,9 @@ class Sitzungslauf {
             QFile::copy(QStringLiteral(ZRW_QUELLE "/beispiele/") + name, ordner_.filePath(name));
         LegeTabellen();
         const QString beispiel = ordner_.filePath("NETZ.EIN");
-        dateien_ << beispiel << Lege("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, saat}))
-                 << Lege("leer.EIN", "$NT 3\n") << Lege("kaputt.EIN", "$NT x\n") << "fehlt.EIN"
+        dateien_ << beispiel
+                 << LegeDateiAn("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, saat}))
+                 << LegeDateiAn("leer.EIN", "$NT 3\n") << LegeDateiAn("kaputt.EIN", "$NT x\n") << "fehlt.EIN"
                  << "bild.ZRW";
         // Not onto a picture file: a bitmap with a coloured pixel in its corner can be read as one, with the
         // same number at every point.
@@ -53,7 +54,7 @@ class Sitzungslauf {
         // A modal dialog runs a loop of its own: this answers it.
         QObject::connect(&modal_, &QTimer::timeout, [this] {
             if (QWidget* dialog = QApplication::activeModalWidget(); dialog != nullptr)
-                Bediene(*dialog, true);
+                BedieneFenster(*dialog, true);
         });
         modal_.start(0);
         fenster_.OeffneDatei(beispiel.toStdString());
@@ -65,32 +66,32 @@ class Sitzungslauf {
                                          &Sitzungslauf::Rad,     &Sitzungslauf::Taste, &Sitzungslauf::Taste,
                                          &Sitzungslauf::Knopf,   &Sitzungslauf::Knopf, &Sitzungslauf::Fenster,
                                          &Sitzungslauf::Fenster, &Sitzungslauf::Datei};
-        Antworte();
-        (this->*kTun[Wuerfle(kTun.size())])();
+        WaehleAntworten();
+        (this->*kTun[WuerfleZahl(kTun.size())])();
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
         if (!fenster_.isVisible()) fenster_.show();
-        Pruefe();
+        PruefePlan();
     }
     [[nodiscard]] const TZrwMainDlg& DasFenster() const { return fenster_; }
 
   private:
-    std::size_t Wuerfle(std::size_t n) { return zufall_() % n; }
+    std::size_t WuerfleZahl(std::size_t n) { return zufall_() % n; }
     /// A place in a container or file of the toolkit, whose sizes have signs.
-    qsizetype Stelle(qsizetype n) { return static_cast<qsizetype>(Wuerfle(static_cast<std::size_t>(n))); }
-    QString Lege(const char* name, const std::string& inhalt) {
+    qsizetype Stelle(qsizetype n) { return static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(n))); }
+    QString LegeDateiAn(const char* name, const std::string& inhalt) {
         const QString pfad = ordner_.filePath(name);
         std::ofstream(pfad.toStdString(), std::ios::binary) << inhalt;
         return pfad;
     }
 
-    void Antworte() {
-        dialoge_.ja = Wuerfle(4) == 0;
+    void WaehleAntworten() {
+        dialoge_.ja = WuerfleZahl(4) == 0;
         dialoge_.antwort.reset();
-        if (const std::size_t a = Wuerfle(3); a > 0) dialoge_.antwort = a == 1;
+        if (const std::size_t a = WuerfleZahl(3); a > 0) dialoge_.antwort = a == 1;
         dialoge_.datei.reset();
-        if (Wuerfle(2) == 0) dialoge_.datei = dateien_[Stelle(dateien_.size())];
-        dialoge_.farbe = Farbe{static_cast<std::uint32_t>(Wuerfle(0x1000000))};
+        if (WuerfleZahl(2) == 0) dialoge_.datei = dateien_[Stelle(dateien_.size())];
+        dialoge_.farbe = Farbe{static_cast<std::uint32_t>(WuerfleZahl(0x1000000))};
         dialoge_.meldungen.clear();
         dialoge_.gesagt.clear();
         dialoge_.fragen.clear();
@@ -100,56 +101,56 @@ class Sitzungslauf {
     /// A place in the picture, half of the time one where a figure is.
     QPoint Ort() {
         const QRect r = Bild().rect();
-        const QPoint irgendwo(static_cast<int>(Wuerfle(static_cast<std::size_t>(r.width()))),
-                              static_cast<int>(Wuerfle(static_cast<std::size_t>(r.height()))));
+        const QPoint irgendwo(static_cast<int>(WuerfleZahl(static_cast<std::size_t>(r.width()))),
+                              static_cast<int>(WuerfleZahl(static_cast<std::size_t>(r.height()))));
         const Liste* netz = fenster_.Netz();
-        if (netz == nullptr || netz->MaxPkte == 0 || Wuerfle(2) == 0) return irgendwo;
+        if (netz == nullptr || netz->MaxPkte == 0 || WuerfleZahl(2) == 0) return irgendwo;
         const PunktKnoten* p = netz->PunktKnoten;
-        for (std::size_t i = Wuerfle(static_cast<std::size_t>(netz->MaxPkte)); i > 0; --i)
+        for (std::size_t i = WuerfleZahl(static_cast<std::size_t>(netz->MaxPkte)); i > 0; --i)
             p = p->Next;
         const Bildpunkt b = BildortVon(*p, *netz);
         const QPoint ort(static_cast<int>(b.x % 100000), static_cast<int>(b.y % 100000));
-        const QPoint daneben(static_cast<int>(Wuerfle(3)) * 10, -static_cast<int>(Wuerfle(2)) * 5);
+        const QPoint daneben(static_cast<int>(WuerfleZahl(3)) * 10, -static_cast<int>(WuerfleZahl(2)) * 5);
         return r.contains(ort) ? ort + daneben : irgendwo;
     }
     QWidget& Bild() { return *fenster_.findChild<QWidget*>("ImageZarwik"); }
     Qt::MouseButton Maustaste() {
         static constexpr std::array kTasten{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
                                             Qt::MiddleButton};
-        return kTasten[Wuerfle(kTasten.size())];
+        return kTasten[WuerfleZahl(kTasten.size())];
     }
-    void Sende(QEvent::Type art, QPoint ort, Qt::MouseButton taste, Qt::MouseButtons gedrueckt) {
+    void SendeMaus(QEvent::Type art, QPoint ort, Qt::MouseButton taste, Qt::MouseButtons gedrueckt) {
         QMouseEvent e(art, ort, Bild().mapToGlobal(ort), taste, gedrueckt, Qt::NoModifier);
         QCoreApplication::sendEvent(&Bild(), &e);
     }
     /// One event alone: presses without release, releases without press.
     void Maus() {
         const Qt::MouseButton taste = Maustaste();
-        switch (Wuerfle(5)) {
+        switch (WuerfleZahl(5)) {
             case 0:
-                return Sende(QEvent::MouseButtonPress, Ort(), taste, taste);
+                return SendeMaus(QEvent::MouseButtonPress, Ort(), taste, taste);
             case 1:
-                return Sende(QEvent::MouseButtonRelease, Ort(), taste, Qt::NoButton);
+                return SendeMaus(QEvent::MouseButtonRelease, Ort(), taste, Qt::NoButton);
             default:
-                return Sende(QEvent::MouseMove, Ort(), Qt::NoButton, Qt::NoButton);
+                return SendeMaus(QEvent::MouseMove, Ort(), Qt::NoButton, Qt::NoButton);
         }
     }
     void Klick() {
         const Qt::MouseButton taste = Maustaste();
         const QPoint ort = Ort();
-        Sende(QEvent::MouseMove, ort, Qt::NoButton, Qt::NoButton);
-        Sende(QEvent::MouseButtonPress, ort, taste, taste);
-        const QPoint ende = Wuerfle(2) == 0 ? ort : Ort();
-        if (ende != ort) Sende(QEvent::MouseMove, ende, Qt::NoButton, taste);
-        Sende(QEvent::MouseButtonRelease, ende, taste, Qt::NoButton);
+        SendeMaus(QEvent::MouseMove, ort, Qt::NoButton, Qt::NoButton);
+        SendeMaus(QEvent::MouseButtonPress, ort, taste, taste);
+        const QPoint ende = WuerfleZahl(2) == 0 ? ort : Ort();
+        if (ende != ort) SendeMaus(QEvent::MouseMove, ende, Qt::NoButton, taste);
+        SendeMaus(QEvent::MouseButtonRelease, ende, taste, Qt::NoButton);
     }
     void Rad() {
         const QPoint ort = Ort();
-        const int schritte = static_cast<int>(Wuerfle(7)) - 3;
+        const int schritte = static_cast<int>(WuerfleZahl(7)) - 3;
         QWheelEvent e(ort, Bild().mapToGlobal(ort), {}, {0, schritte * 120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&Bild(), &e);
-        if (Wuerfle(8) == 0) fenster_.SpeedButton3Click();  // else most sessions end lost in space
+        if (WuerfleZahl(8) == 0) fenster_.SpeedButton3Click();  // else most sessions end lost in space
     }
     void Taste() {
         static constexpr std::array<std::pair<Qt::Key, Qt::KeyboardModifier>, 14> kTasten{{
@@ -168,18 +169,19 @@ class Sitzungslauf {
             {Qt::Key_Return, Qt::NoModifier},
             {Qt::Key_Tab, Qt::NoModifier},
         }};
-        const auto& [taste, dazu] = kTasten[Wuerfle(kTasten.size())];
+        const auto& [taste, dazu] = kTasten[WuerfleZahl(kTasten.size())];
         if (taste == Qt::Key_Z) return fenster_.Rueckgaengig();
         if (taste == Qt::Key_Y) return fenster_.WiederholeSchritt();
         QTest::keyClick(&Bild(), taste, dazu);
     }
-    void Knopf() { Bediene(fenster_, false); }
+    void Knopf() { BedieneFenster(fenster_, false); }
     void Fenster() {
         const QWidgetList alle = QApplication::topLevelWidgets();
-        QWidget* w = alle[static_cast<qsizetype>(Wuerfle(static_cast<std::size_t>(alle.size())))];
-        if (w->isVisible() && w != &fenster_) Bediene(*w, false);
-        if (Wuerfle(50) == 0)
-            fenster_.resize(300 + static_cast<int>(Wuerfle(1200)), 200 + static_cast<int>(Wuerfle(800)));
+        QWidget* w = alle[static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(alle.size())))];
+        if (w->isVisible() && w != &fenster_) BedieneFenster(*w, false);
+        if (WuerfleZahl(50) == 0)
+            fenster_.resize(300 + static_cast<int>(WuerfleZahl(1200)),
+                            200 + static_cast<int>(WuerfleZahl(800)));
     }
     void LegeTabellen() {
         const QDir beispiele(QStringLiteral(ZRW_QUELLE "/beispiele"));
@@ -191,60 +193,61 @@ class Sitzungslauf {
     /// One table goes, is cut short or holds something else; sometimes all come back.
     void Tabelle() {
         const QStringList namen = QDir(ordner_.path()).entryList({"*.DB"});
-        if (namen.isEmpty() || Wuerfle(4) == 0) return LegeTabellen();
+        if (namen.isEmpty() || WuerfleZahl(4) == 0) return LegeTabellen();
         QFile datei(ordner_.filePath(namen[Stelle(namen.size())]));
-        if (Wuerfle(3) == 0) {
+        if (WuerfleZahl(3) == 0) {
             datei.remove();
         } else if (datei.open(QIODevice::ReadWrite)) {
             datei.seek(Stelle(datei.size() + 1));
-            datei.putChar(static_cast<char>(Wuerfle(256)));
-            if (Wuerfle(2) == 0) datei.resize(Stelle(datei.size() + 1));
+            datei.putChar(static_cast<char>(WuerfleZahl(256)));
+            if (WuerfleZahl(2) == 0) datei.resize(Stelle(datei.size() + 1));
         }
     }
 
     void Datei() {
-        if (Wuerfle(20) == 0) Tabelle();
+        if (WuerfleZahl(20) == 0) Tabelle();
         // What was saved over is put back, else the session ends with picture files alone.
-        if (Wuerfle(200) == 0) {
+        if (WuerfleZahl(200) == 0) {
             QFile::remove(dateien_[0]);
             QFile::copy(QStringLiteral(ZRW_QUELLE "/beispiele/NETZ.EIN"), dateien_[0]);
-            Lege("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, 1}));
+            LegeDateiAn("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, 1}));
         }
-        if (Wuerfle(20) == 0) fenster_.OeffneDatei(dateien_[Stelle(dateien_.size())].toStdString());
+        if (WuerfleZahl(20) == 0) fenster_.OeffneDatei(dateien_[Stelle(dateien_.size())].toStdString());
     }
 
     /// Uses one control of a window.
-    void Bediene(QWidget& fenster, bool schliesse) {
+    void BedieneFenster(QWidget& fenster, bool schliesse) {
         QWidgetList felder;
         for (QWidget* w : fenster.findChildren<QWidget*>()) {
             if (w->isVisible() && w->isEnabled() && w->window() == &fenster) felder << w;
         }
         if (!felder.isEmpty())
-            Bediene(felder[static_cast<qsizetype>(Wuerfle(static_cast<std::size_t>(felder.size())))]);
-        if (schliesse && Wuerfle(3) == 0) fenster.close();
+            BedieneFeld(felder[static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(felder.size())))]);
+        if (schliesse && WuerfleZahl(3) == 0) fenster.close();
     }
-    void Bediene(QWidget* w) {
+    void BedieneFeld(QWidget* w) {
         static const QStringList kTexte{"",   "0", "500", "12.5", "abc", "1", "HOHFELS", "99999999999999999",
                                         "-5", "Ü"};
         if (auto* knopf = qobject_cast<QAbstractButton*>(w)) {
             // Ending the program ends nothing here, but hides the window for a moment; now and then is
             // enough.
-            if (knopf->objectName() == "SpeedButton7" && Wuerfle(20) != 0) return;
+            if (knopf->objectName() == "SpeedButton7" && WuerfleZahl(20) != 0) return;
             knopf->click();
         } else if (auto* feld = qobject_cast<QLineEdit*>(w)) {
-            feld->setText(kTexte[static_cast<qsizetype>(Wuerfle(static_cast<std::size_t>(kTexte.size())))]);
-            if (Wuerfle(2) == 0) QTest::keyClick(feld, Qt::Key_Return);
+            feld->setText(
+                kTexte[static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(kTexte.size())))]);
+            if (WuerfleZahl(2) == 0) QTest::keyClick(feld, Qt::Key_Return);
         } else if (auto* liste = qobject_cast<QListView*>(w); liste != nullptr && liste->model() != nullptr) {
             const int zeilen = liste->model()->rowCount();
             if (zeilen == 0) return;
             const QModelIndex zeile =
-                liste->model()->index(static_cast<int>(Wuerfle(static_cast<std::size_t>(zeilen))), 0);
+                liste->model()->index(static_cast<int>(WuerfleZahl(static_cast<std::size_t>(zeilen))), 0);
             liste->selectionModel()->select(zeile, QItemSelectionModel::Toggle);
             emit liste->clicked(zeile);
         }
     }
 
-    void Pruefe() {
+    void PruefePlan() {
         const Liste* netz = fenster_.Netz();
         if (netz == nullptr) return;
         fuzz::PruefeListe(*netz);

@@ -22,17 +22,18 @@ bool Bekannt(const std::vector<std::string>& schalter) {
     });
 }
 
-void Pruefe(const std::vector<std::string>& worte) {
+void PruefeWorte(const std::vector<std::string>& worte) {
     const Aufruf a = LiesAufruf(worte);
-    fuzz::Verlange(a.auftrag != Auftrag::Stapel || (!a.datei.empty() && !a.formate.empty()),
-                   "der Stapelbetrieb hat eine Datei und ein Format");
+    fuzz::VerlangeBedingung(a.auftrag != Auftrag::Stapel || (!a.datei.empty() && !a.formate.empty()),
+                            "der Stapelbetrieb hat eine Datei und ein Format");
     for (const std::string& f : a.formate)
-        fuzz::Verlange(FindeFormat(f) != nullptr, "jedes Format ist bekannt");
-    fuzz::Verlange(!a.groesse || (BrauchbareGroesse(a.groesse->weite) && BrauchbareGroesse(a.groesse->hoehe)),
-                   "die Größe ist brauchbar");
-    fuzz::Verlange(LiesMassstab(a.massstab).has_value(), "der Maßstab ist lesbar");
-    fuzz::Verlange(a.dpi >= 1 && a.dpi <= 100000, "die Auflösung ist brauchbar");
-    fuzz::Verlange(Bekannt(a.ein) && Bekannt(a.aus), "jeder Schalter ist bekannt");
+        fuzz::VerlangeBedingung(FindeFormat(f) != nullptr, "jedes Format ist bekannt");
+    fuzz::VerlangeBedingung(
+        !a.groesse || (BrauchbareGroesse(a.groesse->weite) && BrauchbareGroesse(a.groesse->hoehe)),
+        "die Größe ist brauchbar");
+    fuzz::VerlangeBedingung(LiesMassstab(a.massstab).has_value(), "der Maßstab ist lesbar");
+    fuzz::VerlangeBedingung(a.dpi >= 1 && a.dpi <= 100000, "die Auflösung ist brauchbar");
+    fuzz::VerlangeBedingung(Bekannt(a.ein) && Bekannt(a.aus), "jeder Schalter ist bekannt");
 }
 
 }  // namespace
@@ -46,9 +47,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
         i = ende + 1;
     }
     try {
-        Pruefe(worte);
+        PruefeWorte(worte);
     } catch (const Falschaufruf& f) {
-        fuzz::Verlange(!f.text.empty(), "ein falscher Aufruf wird erklärt");
+        fuzz::VerlangeBedingung(!f.text.empty(), "ein falscher Aufruf wird erklärt");
     }
     return 0;
 }

@@ -17,17 +17,18 @@ namespace {
 
 using namespace zrw;
 
-QString Lege(const char* daten, std::size_t groesse) {
+QString LegeDateiAn(const char* daten, std::size_t groesse) {
     static const QTemporaryDir kOrdner;
     const QString name = kOrdner.filePath(QStringLiteral("x.ini"));
     QFile datei(name);
-    fuzz::Verlange(datei.open(QIODevice::WriteOnly) &&
-                       datei.write(daten, static_cast<qint64>(groesse)) == static_cast<qint64>(groesse),
-                   "die Eingabe liegt bereit");
+    fuzz::VerlangeBedingung(
+        datei.open(QIODevice::WriteOnly) &&
+            datei.write(daten, static_cast<qint64>(groesse)) == static_cast<qint64>(groesse),
+        "die Eingabe liegt bereit");
     return name;
 }
 
-void Pruefe(const QString& name) {
+void PruefeDatei(const QString& name) {
     Einstellungen e;
     {
         const Einstellungsablage ablage(name);
@@ -35,23 +36,25 @@ void Pruefe(const QString& name) {
         (void)TavelinOrdner(ablage);
     }
     const Sitzung sitzung(name);
-    fuzz::Verlange(sitzung.LetzteDateien().size() <= Sitzung::kLetzteDateien, "nicht zu viele Dateien");
+    fuzz::VerlangeBedingung(sitzung.LetzteDateien().size() <= Sitzung::kLetzteDateien,
+                            "nicht zu viele Dateien");
     (void)sitzung.Ordner();
     (void)sitzung.Stand(QStringLiteral("Fensterlage"));
     // What was read is what is written, whatever stands around it.
     Inidatei ini(name, "Sitzung");
     const QStringList texte = ini.LiesTexte("Dateien");
     ini.SetzeTexte("Dateien", texte);
-    fuzz::Verlange(ini.LiesTexte("Dateien") == texte || texte.isEmpty(), "Setzen und Lesen sind eins");
+    fuzz::VerlangeBedingung(ini.LiesTexte("Dateien") == texte || texte.isEmpty(),
+                            "Setzen und Lesen sind eins");
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
-    const QString name = Lege(eingabe.data(), eingabe.size());
+    const QString name = LegeDateiAn(eingabe.data(), eingabe.size());
     try {
-        Pruefe(name);
+        PruefeDatei(name);
     } catch (const Fehler&) {  // refused with a message
     }
     QFile::remove(name);
