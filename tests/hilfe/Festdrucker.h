@@ -24,17 +24,17 @@ class Festdrucker final : public Drucker {
     bool RichteEin(QWidget* /*eltern*/) override { return angenommen; }
     void DruckeBlaetter(const Druckwerk& werk) override {
         titel << werk.titel;
-        Male(werk);
+        MaleBlaetter(werk);
         if (kaputt) throw Fehler("Papierstau.");
     }
     bool ZeigeVorschau(QWidget* /*eltern*/, const Druckwerk& werk, const QImage& bild) override {
         uebersicht = bild;
-        Male(werk);
+        MaleBlaetter(werk);
         return false;
     }
 
   private:
-    void Male(const Druckwerk& werk) {
+    void MaleBlaetter(const Druckwerk& werk) {
         blaetter.clear();
         for (int i = 0; i < werk.blaetter; ++i) {
             QImage blatt(1200, 900, QImage::Format_RGB32);

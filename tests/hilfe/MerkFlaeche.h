@@ -22,7 +22,7 @@ class MerkFlaeche final : public Zeichenflaeche {
     std::vector<std::string> zeilen;
     Rechteck sichtbar{0, 0, 799, 599};
 
-    [[nodiscard]] std::vector<std::string> Nimm() { return std::exchange(zeilen, {}); }
+    [[nodiscard]] std::vector<std::string> NimmZeilen() { return std::exchange(zeilen, {}); }
 
     [[nodiscard]] Rechteck Sichtbar() const override { return sichtbar; }
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override {

@@ -27,7 +27,7 @@ class MerkZeichner final : public Zeichner {
     Zeilen zeilen;
 
     /// What was drawn since the last call.
-    [[nodiscard]] Zeilen Nimm() { return std::exchange(zeilen, {}); }
+    [[nodiscard]] Zeilen NimmZeilen() { return std::exchange(zeilen, {}); }
 
     void ClearPicture(std::int32_t weite, std::int32_t hoehe) override {
         zeilen.push_back("Leeren" + Zahlen({weite, hoehe}));

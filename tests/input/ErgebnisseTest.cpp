@@ -26,7 +26,7 @@ class Ergebnisse : public testing::Test {
     Ergebnisse() { daten.SetzeOrdner("netz"); }
 
     /// A table whose rows have the given values in the named fields and null elsewhere, IDs from 1 on.
-    void Lege(Tabelle t, const std::vector<std::vector<std::pair<std::string_view, Wert>>>& zeilen) {
+    void LegeTabelleAn(Tabelle t, const std::vector<std::vector<std::pair<std::string_view, Wert>>>& zeilen) {
         std::vector<std::vector<Wert>> alle;
         for (const auto& zeile : zeilen) {
             std::vector<Wert> werte(Beschreibung(t).felder.size());
@@ -64,7 +64,7 @@ class Ergebnisse : public testing::Test {
 };
 
 TEST_F(Ergebnisse, ErzeugteTabellenSindLeerUndVollstaendig) {
-    Lege(Tabelle::Strecken, {{{"P1", "A"}}});
+    LegeTabelleAn(Tabelle::Strecken, {{{"P1", "A"}}});
     for (int mal = 0; mal < 2; ++mal)
         ErzeugeTabellen(dateien, "netz", 0);
     EXPECT_EQ(dateien.dateien.size(), 20U);
@@ -100,7 +100,7 @@ TEST_F(Ergebnisse, AuflistungenAllerReiter) {
                     {{satz ? "PS" : "P1", std::string_view(a)}, {satz ? "PZ" : "P2", std::string_view(b)}});
             }
         }
-        Lege(r.tabelle, zeilen);
+        LegeTabelleAn(r.tabelle, zeilen);
         const bool gerichtet = r.tabelle == Tabelle::Gps;
         for (const std::string n :
              {"1", "2", "3", "O'B", "KÜHBG", "12345678901234", "fehlt", "1' OR '1'='1"}) {
@@ -162,8 +162,9 @@ TEST_F(Ergebnisse, SpaltenWerdenBeimNamenGefunden) {
 }
 
 TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
-    Lege(Tabelle::Koordinaten,
-         {{{"PKT", "A"}, {"dY", 3.0}}, {{"PKT", "A"}, {"dY", 4.0}}, {{"PKT", "K\xC3\x9C"}, {"A", 5.0}}});
+    LegeTabelleAn(
+        Tabelle::Koordinaten,
+        {{{"PKT", "A"}, {"dY", 3.0}}, {{"PKT", "A"}, {"dY", 4.0}}, {{"PKT", "K\xC3\x9C"}, {"A", 5.0}}});
     daten.ErneuereErgebnisse();
     EXPECT_EQ(daten.ErgebnisZu("A")->dY, 3.0) << "the first row of a number";
     EXPECT_EQ(daten.ErgebnisZu("K\xDC")->A, 5.0) << "labels are code page 1252";
@@ -199,7 +200,7 @@ TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
     ASSERT_EQ(meldungen.size(), 1U);
     EXPECT_TRUE(meldungen[0].unlesbar);
 
-    Lege(Tabelle::Koordinaten, {{{"PKT", "A"}, {"dY", 9.0}}});
+    LegeTabelleAn(Tabelle::Koordinaten, {{{"PKT", "A"}, {"dY", 9.0}}});
     daten.ErneuereErgebnisse();
     EXPECT_EQ(daten.ErgebnisZu("A")->dY, 9.0) << "a new calculation is seen";
     EXPECT_EQ(Ids(kErgebnisreiter[0], "A").size(), 1U);
@@ -229,18 +230,18 @@ TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
                           std::string_view flag, bool grob) {
         return std::vector<std::pair<std::string_view, Wert>>{{p, von}, {q, nach}, {flag, grob}};
     };
-    Lege(Tabelle::Richtungen, {zeile("PS", "2", "PZ", "3", "FF", true)});
-    Lege(Tabelle::Hoehenunterschiede, {zeile("P1", "3", "P2", "4", "FF", true)});
-    Lege(Tabelle::Gps, {zeile("P1", "5", "P2", "4", "FF", true)});
-    Lege(Tabelle::Streckenkontrollen, {zeile("P1", "5", "P2", "6", "GF", true)});
-    Lege(Tabelle::Linien, {zeile("PA", "6", "PE", "7", "GF", true)});
+    LegeTabelleAn(Tabelle::Richtungen, {zeile("PS", "2", "PZ", "3", "FF", true)});
+    LegeTabelleAn(Tabelle::Hoehenunterschiede, {zeile("P1", "3", "P2", "4", "FF", true)});
+    LegeTabelleAn(Tabelle::Gps, {zeile("P1", "5", "P2", "4", "FF", true)});
+    LegeTabelleAn(Tabelle::Streckenkontrollen, {zeile("P1", "5", "P2", "6", "GF", true)});
+    LegeTabelleAn(Tabelle::Linien, {zeile("PA", "6", "PE", "7", "GF", true)});
     EXPECT_TRUE(MarkiereFehler(n.l, daten, n.e).empty());
     EXPECT_EQ(marken(), (std::set{3, 4, 5, 6})) << "no direction without the table of distances";
 
     // Not flagged, unknown points, no line between them, and one in the other orientation.
-    Lege(Tabelle::Strecken,
-         {zeile("P1", "4", "P2", "5", "FF", false), zeile("P1", "1", "P2", "99", "FF", true),
-          zeile("P1", "1", "P2", "7", "FF", true), zeile("P1", "1", "P2", "2", "FF", true)});
+    LegeTabelleAn(Tabelle::Strecken,
+                  {zeile("P1", "4", "P2", "5", "FF", false), zeile("P1", "1", "P2", "99", "FF", true),
+                   zeile("P1", "1", "P2", "7", "FF", true), zeile("P1", "1", "P2", "2", "FF", true)});
     EXPECT_TRUE(MarkiereFehler(n.l, daten, n.e).empty());
     EXPECT_EQ(marken(), (std::set{1, 2, 3, 4, 5, 6}));
 

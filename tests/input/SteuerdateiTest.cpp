@@ -15,7 +15,7 @@ namespace {
 
 class Steuerdatei : public testing::Test {
   protected:
-    Lesung Lies(const std::string& inhalt) {
+    Lesung LiesText(const std::string& inhalt) {
         dateien.dateien["netz/NETZ.EIN"] = inhalt;
         meldungen.clear();
         return LeseSteuerdatei("netz/NETZ.EIN", dateien, einstellungen,
@@ -23,7 +23,7 @@ class Steuerdatei : public testing::Test {
     }
     std::string FehlerBei(const std::string& inhalt) {
         try {
-            (void)Lies(inhalt);
+            (void)LiesText(inhalt);
         } catch (const Fehler& f) {
             return f.what();
         }
@@ -95,7 +95,7 @@ TEST_F(Steuerdatei, MeldungenNennenOrtUndGrund) {
            "k.KF, Zeile 1: Zeichen, die es in der Codepage 1252 nicht gibt, gelten als \"?\": 2, das erste "
            "in "
            "dieser Zeile."}}}) {
-        (void)Lies(f.inhalt);
+        (void)LiesText(f.inhalt);
         EXPECT_EQ(meldungen, f.meldungen);
     }
 }
@@ -110,7 +110,7 @@ TEST_F(Steuerdatei, ZeichensaetzeUndZeilenendenSindGleich) {
     for (const std::string& haupt : {cp1252, utf8, marke + utf8, cr}) {
         for (const std::string& einfuegung : {std::string("$ST A\xC4\xD6\xDC B"), marke + "$ST AÄÖÜ B\r"}) {
             dateien.dateien["netz/hö.sf"] = einfuegung;
-            const Lesung l = Lies(haupt);
+            const Lesung l = LiesText(haupt);
             EXPECT_NE(l.liste->FindPunkt("A\xC4\xD6\xDC"), nullptr) << haupt;
             EXPECT_EQ(l.liste->MaxKant, 1) << haupt << einfuegung;
             EXPECT_TRUE(meldungen.empty());
@@ -119,7 +119,7 @@ TEST_F(Steuerdatei, ZeichensaetzeUndZeilenendenSindGleich) {
     for (const std::string& utf16 : {std::string("\xFF\xFE$\0N\0", 6), std::string("\0$\0N", 4)}) {
         EXPECT_NE(FehlerBei(utf16).find("UTF-16"), std::string::npos);
         dateien.dateien["netz/hö.sf"] = utf16;
-        EXPECT_NE(Lies(utf8).endegrund.find("Zeile 4: Die Datei ist in UTF-16"), std::string::npos);
+        EXPECT_NE(LiesText(utf8).endegrund.find("Zeile 4: Die Datei ist in UTF-16"), std::string::npos);
     }
 }
 
@@ -142,7 +142,7 @@ TEST_F(Steuerdatei, FehlendeEinfuegungLaesstDasGelesene) {
           Fall{anfang + "$CC\n$KF K.KF\n", Leseende::Programmende, "Kann Datei K.KF nicht öffnen!",
                "NETZ.EIN, Zeile 4: nicht vorhanden"}}) {
         dateien.dateien["netz/A.SF"] = "\n";
-        const Lesung l = Lies(f.inhalt);
+        const Lesung l = LiesText(f.inhalt);
         EXPECT_EQ(l.ende, f.ende);
         EXPECT_EQ(l.endetext, f.text);
         EXPECT_EQ(l.endegrund, f.grund);
@@ -152,7 +152,7 @@ TEST_F(Steuerdatei, FehlendeEinfuegungLaesstDasGelesene) {
 
 TEST_F(Steuerdatei, EinfuegungenSchachtelnNicht) {
     dateien.dateien["netz/A.SF"] = "$FP A              1 1 2\n$RF A.SF\n$FP B              1 5 2\n";
-    const Lesung l = Lies("$NT 1\n$SF A.SF\n$ST A B\n");
+    const Lesung l = LiesText("$NT 1\n$SF A.SF\n$ST A B\n");
     EXPECT_EQ(l.liste->MaxPkte, 2);
     EXPECT_EQ(l.liste->MaxKant, 1);
     // All that they bring together is bounded.
@@ -165,18 +165,18 @@ TEST_F(Steuerdatei, EinfuegungenSchachtelnNicht) {
 
 TEST_F(Steuerdatei, BerichtZaehltWasOhneWirkungBleibt) {
     dateien.dateien["netz/A.SF"] = "$RS A\n$RZ\n$RZ X\n";
-    const Lesung l = Lies(
+    const Lesung l = LiesText(
         "$NT 3\n$FP A              1 1 1\n    A              1 2 2\n$SF A.SF\n$ST A A\n$DH Y Z\n"
         "$SH 1 1\n$SV 1 1 A              W\n$RS V\n$RZ A\n");
     EXPECT_EQ(Statustext(l.bericht),
               "4 Beobachtungen nennen unbekannte Punkte (zuerst A.SF, Zeile 3); 1 Punktnummer kommt noch "
               "einmal vor "
               "(zuerst NETZ.EIN, Zeile 3)");
-    EXPECT_EQ(Statustext(Lies("$NT 3\n$FP A              1 1 1\n").bericht), "");
+    EXPECT_EQ(Statustext(LiesText("$NT 3\n$FP A              1 1 1\n").bericht), "");
 }
 
 TEST_F(Steuerdatei, TitelStehtInDerLegende) {
-    const Lesung l = Lies("$AU Netz H\xF6he 2024  \n   \n$EL 9\n");
+    const Lesung l = LiesText("$AU Netz H\xF6he 2024  \n   \n$EL 9\n");
     EXPECT_EQ(l.liste->Legend->Bez1, "Netz H\xF6he 2024") << "a blank line behind it does not take it away";
     EXPECT_EQ(meldungen, std::vector<std::string>{"NETZ.EIN, Zeile 3: Fehler : Unbekanntes Elliposid."});
 }
@@ -185,8 +185,8 @@ TEST_F(Steuerdatei, HoechstensSovielePunkteWieNummern) {
     std::string inhalt = "$NT 1\n$FP";
     for (int i = 0; i < 65535; ++i)
         inhalt += "    " + std::to_string(100000 + i) + "         0 " + std::to_string(i) + " 1\n";
-    EXPECT_EQ(Lies(inhalt).liste->MaxPkte, 65535);
-    EXPECT_EQ(Lies(inhalt + "    100000         0 5 5\n").liste->MaxPkte, 65535)
+    EXPECT_EQ(LiesText(inhalt).liste->MaxPkte, 65535);
+    EXPECT_EQ(LiesText(inhalt + "    100000         0 5 5\n").liste->MaxPkte, 65535)
         << "a repeated number is no new point";
     EXPECT_NE(FehlerBei(inhalt + "    X              0 5 5\n").find("mehr als 65535 Punkte"),
               std::string::npos);

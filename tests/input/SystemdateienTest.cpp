@@ -27,7 +27,7 @@ class Systemdatei : public testing::Test {
     }
     ~Systemdatei() override { fs::remove_all(ordner); }
 
-    void Lege(const fs::path& name, const std::string& inhalt) const {
+    void LegeDateiAn(const fs::path& name, const std::string& inhalt) const {
         std::ofstream(ordner / name, std::ios::binary) << inhalt;
     }
     [[nodiscard]] std::string Inhalt(const fs::path& name) const {
@@ -48,7 +48,7 @@ class Systemdatei : public testing::Test {
 };
 
 TEST_F(Systemdatei, LiestNurWasEineDateiIst) {
-    Lege("a", std::string("x\0y", 3));
+    LegeDateiAn("a", std::string("x\0y", 3));
     EXPECT_EQ(dateien.LiesDatei(ordner / "a", 3), std::string("x\0y", 3));
     EXPECT_EQ(FehlerBei("a", 2), "Die Datei ist mit 3 Bytes zu groß (höchstens 2).");
     EXPECT_EQ(FehlerBei("fehlt"), "Kann Datei nicht öffnen (nicht vorhanden).");
@@ -62,7 +62,7 @@ TEST_F(Systemdatei, LiestNurWasEineDateiIst) {
 }
 
 TEST_F(Systemdatei, MerktDassWaehrendDesLesensGeschriebenWird) {
-    Lege("a", std::string(std::size_t{4} << 20U, 'x'));
+    LegeDateiAn("a", std::string(std::size_t{4} << 20U, 'x'));
     std::atomic<bool> ende = false;
     std::thread schreiber([&] {
         std::ofstream s(ordner / "a", std::ios::binary | std::ios::app);
@@ -79,7 +79,7 @@ TEST_F(Systemdatei, MerktDassWaehrendDesLesensGeschriebenWird) {
 }
 
 TEST_F(Systemdatei, ErsetztAlsGanzes) {
-    Lege("alt", "vorher");
+    LegeDateiAn("alt", "vorher");
     fs::permissions(ordner / "alt", fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
     fs::create_symlink("alt", ordner / "verweis");
     dateien.ErsetzeDatei(ordner / "verweis", "nachher");
@@ -101,7 +101,7 @@ TEST_F(Systemdatei, ErsetztAlsGanzes) {
 }
 
 TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
-    Lege("alt", "vorher");
+    LegeDateiAn("alt", "vorher");
     for (const fs::path& ziel : {ordner / "Unter\xC3\x84", ordner / "fehlt" / "x", ordner / "alt" / "x"}) {
         EXPECT_THROW(dateien.ErsetzeDatei(ziel, "neu"), Fehler) << ziel;
     }
@@ -126,9 +126,9 @@ TEST_F(Systemdatei, FehlerLassenAllesWieEsWar) {
 }
 
 TEST_F(Systemdatei, FindetInJederSchreibweise) {
-    Lege("Unter\xC3\x84/Tief/Daten.SF", "");
-    Lege("GENAU", "");
-    Lege("genau", "");
+    LegeDateiAn("Unter\xC3\x84/Tief/Daten.SF", "");
+    LegeDateiAn("GENAU", "");
+    LegeDateiAn("genau", "");
     struct Fall {
         const char* name;
         const char* fund;

@@ -55,14 +55,14 @@ TEST(Ansicht, VergroessernLeertUndVerkleinernNicht) {
                       "Residuenmassstab"};
     Zeilen zweimal{bild[0]};
     zweimal.insert(zweimal.end(), bild.begin(), bild.end());
-    EXPECT_EQ(n.z.Nimm(), zweimal);
+    EXPECT_EQ(n.z.NimmZeilen(), zweimal);
     n.l.ZoomUp(n.z);
-    EXPECT_EQ(n.z.Nimm(),
+    EXPECT_EQ(n.z.NimmZeilen(),
               (Zeilen{bild[0], "Kante zeigen 0x000000 Null ST 180 90 585 285",
                       "Punkt zeigen 0x000000 Krei Em 585 285", "Punkt zeigen 0x000000 Krei Em 180 90",
                       "Text zeigen 0x000000 1 213 85", bild[5], bild[6]}));
     n.l.ZoomDown(n.z);
-    EXPECT_EQ(n.z.Nimm(), Zeilen(bild.begin() + 1, bild.end()));
+    EXPECT_EQ(n.z.NimmZeilen(), Zeilen(bild.begin() + 1, bild.end()));
     EXPECT_DOUBLE_EQ(n.l.Faktor, 10);
 }
 
@@ -84,9 +84,9 @@ TEST(Ansicht, SchiebenVersetzenEinpassen) {
     EXPECT_EQ(p.Item->Position(), (Bildpunkt{125, 67}));
     EXPECT_EQ(n.l.FindKante(1, 2)->Item->Position(), (Bildpunkt{125, 67}));
     EXPECT_TRUE(p.XWPu == 1250 && p.YWPu == 3330) << p.XWPu << " " << p.YWPu;
-    EXPECT_EQ(n.z.Nimm(), Zeilen{});
+    EXPECT_EQ(n.z.NimmZeilen(), Zeilen{});
     n.l.ZentrierPunkt(p, *n.l.SuchPkt(2), n.z);
-    EXPECT_EQ(n.z.Nimm(), Zeilen{"Text wischen 1 158 62"});
+    EXPECT_EQ(n.z.NimmZeilen(), Zeilen{"Text wischen 1 158 62"});
     EXPECT_EQ(p.Item->Position(), (Bildpunkt{390, 190}));
     EXPECT_TRUE(p.XWPu == 3900 && p.YWPu == 2100) << p.XWPu << " " << p.YWPu;
     n.l.DragPktText(*n.l.PktTextKnoten, n.z);

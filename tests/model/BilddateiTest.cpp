@@ -81,11 +81,11 @@ struct Dateinetz : Probenetz {
         l.WeltinBild();
     }
 
-    std::unique_ptr<Liste> Lies(const std::string& inhalt) {
+    std::unique_ptr<Liste> LiesListe(const std::string& inhalt) {
         d.dateien[kName] = inhalt;
         return LiesBilddatei(kName, d, e, netz);
     }
-    std::string Schreibe(Liste& liste) {
+    std::string SchreibeListe(Liste& liste) {
         SchreibeBilddatei(liste, netz, kName, d);
         return d.dateien[kName];
     }
@@ -93,7 +93,7 @@ struct Dateinetz : Probenetz {
 
 TEST(Bilddatei, SchreibtDiesesByteFuerByte) {
     Dateinetz n;
-    const std::string inhalt = n.Schreibe(n.l);
+    const std::string inhalt = n.SchreibeListe(n.l);
     ASSERT_EQ(inhalt.size(), 455U);
     const auto [ist, soll] = std::mismatch(inhalt.begin(), inhalt.end(), kDatei.begin(), kDatei.end());
     EXPECT_EQ(ist, inhalt.end()) << "offset " << ist - inhalt.begin();
@@ -102,7 +102,8 @@ TEST(Bilddatei, SchreibtDiesesByteFuerByte) {
 TEST(Bilddatei, LadenKehrtDieListenUmUndVergisstArtUndLegende) {
     Dateinetz n;
     n.netz.Netztyp = 0;
-    const auto l = n.Lies(std::string(kDatei).replace(109, 2, "xy") + "Anhang");  // stored place of a point
+    const auto l =
+        n.LiesListe(std::string(kDatei).replace(109, 2, "xy") + "Anhang");  // stored place of a point
     EXPECT_EQ(n.netz.Netztyp, 51);
     EXPECT_EQ(l->PktTextKnoten->TNr, 1);
     EXPECT_EQ(l->KanteKnoten->ANr, 1);
@@ -110,13 +111,13 @@ TEST(Bilddatei, LadenKehrtDieListenUmUndVergisstArtUndLegende) {
     l->SuchPkt(2)->Item->Visible = true;
     l->ShowNP = l->ShowFH = false;  // every loaded point counts as FP
     l->DisplayPunkte(n.z);
-    EXPECT_EQ(n.z.Nimm(),
+    EXPECT_EQ(n.z.NimmZeilen(),
               (Zeilen{"Punkt zeigen 0x000000 Krei Fu 180 192", "Punkt zeigen 0x0000FF Drei Fu 381 392",
                       "Punkt zeigen 0x808080 Pkt Em -22 592"}));
     l->SuchPkt(2)->Item->Visible = false;
-    const std::string umgekehrt = n.Schreibe(*l);
+    const std::string umgekehrt = n.SchreibeListe(*l);
     EXPECT_NE(umgekehrt, kDatei);
-    EXPECT_EQ(n.Schreibe(*n.Lies(umgekehrt)), kDatei);
+    EXPECT_EQ(n.SchreibeListe(*n.LiesListe(umgekehrt)), kDatei);
 }
 
 // Records with odd values come back through the corpus of the fuzz target.
@@ -129,15 +130,15 @@ TEST(Bilddatei, UnbrauchbareAnsichtenUndTexteUeberIhremFeld) {
                                         {48U, "000000000000F8FF"},
                                         {84U, "000000000000F07F"}}) {  // the first point is no part of it
         Dateinetz n;
-        const auto l = n.Lies(std::string(kDatei).replace(stelle, 8, Bytes(bytes)));
+        const auto l = n.LiesListe(std::string(kDatei).replace(stelle, 8, Bytes(bytes)));
         EXPECT_EQ(l->Brauchbar(), stelle == 84) << stelle << " " << bytes;
     }
     Dateinetz n;
     std::string inhalt = kDatei;
     inhalt[84 + 3 * 41 + 2] = '\xFF';  // a label longer than its field
-    EXPECT_EQ(n.Lies(inhalt)->GetPktText(65535), "A\xF6 45678901234");
+    EXPECT_EQ(n.LiesListe(inhalt)->GetPktText(65535), "A\xF6 45678901234");
     inhalt.replace(369, 2, Bytes("0900"));  // a line without its start keeps what was stored
-    EXPECT_EQ(n.Lies(inhalt)->KanteKnoten->Next->Item->Position(), (Bildpunkt{381, 392}));
+    EXPECT_EQ(n.LiesListe(inhalt)->KanteKnoten->Next->Item->Position(), (Bildpunkt{381, 392}));
 }
 
 TEST(Bilddatei, JedeKuerzungUndJedeZuGrosseZahlWirdGemeldet) {
@@ -153,7 +154,7 @@ TEST(Bilddatei, JedeKuerzungUndJedeZuGrosseZahlWirdGemeldet) {
     inhalte.emplace_back(std::size_t{17} << 20U, '\0');
     for (const std::string& inhalt : inhalte) {
         try {
-            (void)n.Lies(inhalt);
+            (void)n.LiesListe(inhalt);
             ADD_FAILURE() << inhalt.size();
         } catch (const Fehler& f) {
             EXPECT_EQ(f.Datei(), kName);
@@ -161,8 +162,8 @@ TEST(Bilddatei, JedeKuerzungUndJedeZuGrosseZahlWirdGemeldet) {
         ASSERT_EQ(n.netz.Netztyp, 7) << inhalt.size();
     }
     // Only the low 16 bits count.
-    const auto l = n.Lies(std::string(kDatei).replace(56, 8, Bytes("0300FF7F 02000080")));
-    EXPECT_EQ(n.Schreibe(*n.Lies(n.Schreibe(*l))), kDatei);
+    const auto l = n.LiesListe(std::string(kDatei).replace(56, 8, Bytes("0300FF7F 02000080")));
+    EXPECT_EQ(n.SchreibeListe(*n.LiesListe(n.SchreibeListe(*l))), kDatei);
 }
 
 TEST(Bilddatei, WasNichtPasstLaesstDieAlteDateiStehen) {
@@ -172,7 +173,7 @@ TEST(Bilddatei, WasNichtPasstLaesstDieAlteDateiStehen) {
         n.d.platz = kanten == punkte - 1 ? 0 : SIZE_MAX;
         n.l.MaxPkte = punkte;
         n.l.MaxKant = kanten;
-        EXPECT_THROW(n.Schreibe(n.l), Fehler) << punkte << " " << kanten;
+        EXPECT_THROW(n.SchreibeListe(n.l), Fehler) << punkte << " " << kanten;
         EXPECT_EQ(n.d.dateien[kName], "alt");
     }
 }
@@ -191,11 +192,11 @@ TEST(Bilddatei, HerrenloseNummernBleibenNachDemLoeschenWeg) {
         const std::string nr{static_cast<char>(f.statt), 0};
         inhalt.replace(84 + 3 * 41 + 2 * 54, 2, nr);
         if (f.beide) inhalt.replace(84 + 3 * 41, 2, nr);
-        const auto l = n.Lies(inhalt);
+        const auto l = n.LiesListe(inhalt);
         EXPECT_EQ(SchreibeBilddatei(*l, n.netz, kName, n.d), 0U);
         (void)l->NimmHeraus(*l->SuchPkt(f.geloescht));
         EXPECT_EQ(SchreibeBilddatei(*l, n.netz, kName, n.d), f.weg) << f.geloescht;
-        const auto wieder = n.Lies(n.d.dateien[kName]);
+        const auto wieder = n.LiesListe(n.d.dateien[kName]);
         EXPECT_EQ(wieder->MaxPkte, 2);
         EXPECT_EQ(wieder->FindPktText(f.geloescht), nullptr);
         EXPECT_EQ(SchreibeRettung(*l, n.netz, "").substr(18), n.d.dateien[kName]) << "kept plot";

@@ -27,10 +27,10 @@ TEST(FigListe, JedeArtHatIhrenSchalter) {
         n.l.ShowFL = true;
         n.l.*schalter = false;
         n.l.ShowPicture(n.z);
-        EXPECT_EQ(n.z.Nimm().size(), 4U);  // the other point between background and results
+        EXPECT_EQ(n.z.NimmZeilen().size(), 4U);  // the other point between background and results
         n.l.*schalter = true;
         n.l.ShowPicture(n.z);
-        EXPECT_EQ(n.z.Nimm().size(), 8U);
+        EXPECT_EQ(n.z.NimmZeilen().size(), 8U);
     }
 }
 
@@ -49,7 +49,7 @@ TEST(FigListe, HilfspunkteEndenAufWKH) {
         EXPECT_TRUE(p.Item->Visible && t.Item->Visible && verwaist.Item->Visible) << nummer;
         n.l.ShowHilfP = false;  // hides every label, not only those of auxiliary points
         n.l.DisplayPktText(n.z);
-        EXPECT_EQ(n.z.Nimm(), Zeilen{});
+        EXPECT_EQ(n.z.NimmZeilen(), Zeilen{});
     }
 }
 
@@ -64,7 +64,7 @@ TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
     n.K(1, 7);  // a line without a second point stays away
     n.K(1, 2, LinieAttr::AR1);
     n.l.ChKante(LinieAttr::ASTI, n.z);
-    EXPECT_EQ(n.z.Nimm().size(), 4U);
+    EXPECT_EQ(n.z.NimmZeilen().size(), 4U);
     n.l.ShowGitter = n.l.ShowKMQ = n.l.ShowLegende = true;
     const Zeilen alles{"Leeren 100 80",
                        "Gitter",
@@ -78,18 +78,19 @@ TEST(FigListe, DasBildEntstehtInFesterReihenfolgeUndEndetGewischt) {
                        "Residuenmassstab"};
     n.l.Legend.reset();  // comes back when it is needed
     n.l.ShowPicture(n.z);
-    EXPECT_EQ(n.z.Nimm(), alles);
+    EXPECT_EQ(n.z.NimmZeilen(), alles);
     n.l.ShowGitter = n.l.ShowLegende = n.l.ShowBeob = n.l.ShowPktText = false;
     n.l.ShowPicture(n.z);
-    EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[0], alles[2], alles[4], alles[5], alles[8], alles[9]}));
+    EXPECT_EQ(n.z.NimmZeilen(), (Zeilen{alles[0], alles[2], alles[4], alles[5], alles[8], alles[9]}));
     n.l.SuchPkt(1)->Item->Visible = false;
     n.l.ShowPunkt(*n.l.SuchPkt(1), n.z);
-    EXPECT_EQ(n.z.Nimm(), (Zeilen{alles[3], "Kante zeigen 0x000000 ASTI ST 0 0 0 0", alles[6], alles[5]}));
+    EXPECT_EQ(n.z.NimmZeilen(),
+              (Zeilen{alles[3], "Kante zeigen 0x000000 ASTI ST 0 0 0 0", alles[6], alles[5]}));
 
     n.l.Done(n.z);
-    EXPECT_EQ(n.z.Nimm(), (Zeilen{"Text wischen 1 10 -5", "Text wischen verwaist 10 -5",
-                                  "Kante wischen ASTI ST 0 0 0 0", "Kante wischen ASTI ST 0 0 0 0",
-                                  "Punkt wischen Drei Em 0 0", "Punkt wischen Krei Em 0 0"}));
+    EXPECT_EQ(n.z.NimmZeilen(), (Zeilen{"Text wischen 1 10 -5", "Text wischen verwaist 10 -5",
+                                        "Kante wischen ASTI ST 0 0 0 0", "Kante wischen ASTI ST 0 0 0 0",
+                                        "Punkt wischen Drei Em 0 0", "Punkt wischen Krei Em 0 0"}));
     EXPECT_EQ(n.l.MaxPkte, 2);
     EXPECT_EQ(n.l.MaxKant, 2);
     EXPECT_TRUE(n.l.Legend.has_value());

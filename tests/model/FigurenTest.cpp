@@ -65,7 +65,7 @@ TEST(Figuren, JedeOperationZeichnetUndZeigtWasSieSagt) {
         {[&] { l.Drag(-3, 2147483647, z); }, {"Legende wischen -3 5"}, l.Visible, true}};
     for (const auto& f : faelle) {
         f.tu();
-        EXPECT_EQ(z.Nimm(), f.gezeichnet) << &f - faelle;
+        EXPECT_EQ(z.NimmZeilen(), f.gezeichnet) << &f - faelle;
         EXPECT_EQ(f.sichtbar, f.danach) << &f - faelle;
     }
 }

@@ -27,7 +27,7 @@ PPunktKante Linie(Liste& l, PunktIndex a, PunktIndex b) {
     });
 }
 
-void Vergleiche(Probenetz& n, PunktIndex nummern, int texte) {
+void VergleicheIndex(Probenetz& n, PunktIndex nummern, int texte) {
     Liste& l = n.l;
     for (PunktIndex nr = 0; nr <= nummern; ++nr) {
         PPunktKnoten p = Erster(l.PunktKnoten, [=](const PunktKnoten& k) { return k.PNr == nr; });
@@ -43,9 +43,9 @@ void Vergleiche(Probenetz& n, PunktIndex nummern, int texte) {
         }
         if (t != nullptr) n.z.ZeichneText(*t->Item, t->Item->Position(), Gang::Wischen);
         n.z.ZeichnePunkt(*p->Item, p->Item->Position(), Gang::Wischen);
-        const Zeilen erwartet = n.z.Nimm();
+        const Zeilen erwartet = n.z.NimmZeilen();
         l.HidePunkt(*p, n.z);
-        ASSERT_EQ(n.z.Nimm(), erwartet) << nr;
+        ASSERT_EQ(n.z.NimmZeilen(), erwartet) << nr;
     }
     for (int i = 0; i <= texte; ++i) {
         const std::string text = "T" + std::to_string(i);
@@ -127,7 +127,7 @@ TEST(Figurenindex, FindetWasEinGangVomKopfFaende) {
             }
             n.z.zeilen.clear();
             if (i % f.takt != 0) continue;
-            Vergleiche(n, f.nummern, f.texte);
+            VergleicheIndex(n, f.nummern, f.texte);
             if (HasFatalFailure()) FAIL() << "step " << i << " with " << f.nummern << " numbers";
         }
     }

@@ -146,8 +146,8 @@ TEST(Treffer, MausPunktVerstecktWasAmOrtLiegtUndBehaeltDenKnotenBeiFehlgriff) {
     EXPECT_TRUE(n.l.MausPunkt({14, -2}, u, n.z));
     EXPECT_FALSE(n.l.MausPunkt({500, 500}, u, n.z));
     EXPECT_EQ(u, &p);
-    EXPECT_EQ(n.z.Nimm(), (Zeilen{"Kante wischen Null ST 60 60 12 0", "Kante wischen Null ST 12 0 50 50",
-                                  "Text wischen fremd 22 -5"}));
+    EXPECT_EQ(n.z.NimmZeilen(), (Zeilen{"Kante wischen Null ST 60 60 12 0",
+                                        "Kante wischen Null ST 12 0 50 50", "Text wischen fremd 22 -5"}));
 }
 
 TEST(Treffer, LinienZaehlenGanzePixel) {

@@ -23,7 +23,7 @@ class Blattschnitt : public testing::Test {
     static constexpr Druckseite kSeite{1000, 500, 96};
 
     /// From (0, 0) on, as (row, column).
-    Lagen Schneide() {
+    Lagen SchneideBlaetter() {
         Lagen lagen;
         for (const Blatt& b : zrw::Blattschnitt(plan, kMassstab, kSeite, {0, 0})) {
             EXPECT_NEAR(b.ecke.rechts, b.spalte * 1000.0, 1e-6);
@@ -39,28 +39,28 @@ class Blattschnitt : public testing::Test {
 };
 
 TEST_F(Blattschnitt, BlaetterMitPunktenUndGequertenLinien) {
-    EXPECT_EQ(Schneide(), Lagen{});
+    EXPECT_EQ(SchneideBlaetter(), Lagen{});
     n.P(1, 10, -10);
     n.P(2, 990, -490);
-    EXPECT_EQ(Schneide(), (Lagen{{0, 0}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}}));
     n.P(3, -10, 10);
-    EXPECT_EQ(Schneide(), (Lagen{{-1, -1}, {0, 0}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{-1, -1}, {0, 0}}));
     n.P(4, 3500, -1900);
-    EXPECT_EQ(Schneide(), (Lagen{{-1, -1}, {0, 0}, {3, 3}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{-1, -1}, {0, 0}, {3, 3}}));
     // From (10, -10) to (3500, -1900) the line passes y = -500 at x = 915, -546 at 1000, -1000 at 1838 ...
     n.K(4, 1);
     const Lagen mitLinie{{-1, -1}, {0, 0}, {1, 0}, {1, 1}, {2, 1}, {2, 2}, {3, 2}, {3, 3}};
-    EXPECT_EQ(Schneide(), mitLinie);
+    EXPECT_EQ(SchneideBlaetter(), mitLinie);
     n.l.ShowBeob = false;
-    EXPECT_EQ(Schneide(), (Lagen{{-1, -1}, {0, 0}, {3, 3}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{-1, -1}, {0, 0}, {3, 3}}));
     n.l.ShowBeob = true;
     n.l.SuchPkt(4)->Item->Visible = false;
     n.l.KanteKnoten->Item->Visible = false;
-    EXPECT_EQ(Schneide(), (Lagen{{-1, -1}, {0, 0}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{-1, -1}, {0, 0}}));
     // Straight up, through three sheets.
     n.P(5, 500, 900);
     n.K(1, 5);
-    EXPECT_EQ(Schneide(), (Lagen{{-2, 0}, {-1, -1}, {-1, 0}, {0, 0}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{-2, 0}, {-1, -1}, {-1, 0}, {0, 0}}));
 }
 
 class EinErgebnis final : public Punktergebnisse {
@@ -74,22 +74,22 @@ class EinErgebnis final : public Punktergebnisse {
 
 TEST_F(Blattschnitt, WasUeberDenRandRagtBrauchtSeinBlatt) {
     n.P(1, 100, -496);
-    EXPECT_EQ(Schneide(), (Lagen{{0, 0}, {1, 0}})) << "half a symbol";
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}, {1, 0}})) << "half a symbol";
     n.l.VersetzePunkt(*n.l.SuchPkt(1), {100, -490});
-    EXPECT_EQ(Schneide(), (Lagen{{0, 0}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}}));
     n.T(1, "123456").Item->XBiO = 860;  // 36 dots wide
-    EXPECT_EQ(Schneide(), (Lagen{{0, 0}}));
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}}));
     n.l.PktTextKnoten->Item->XBiO = 870;
-    EXPECT_EQ(Schneide(), (Lagen{{0, 0}, {0, 1}})) << "half a number";
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}, {0, 1}})) << "half a number";
     n.l.ShowPktText = false;
     EinErgebnis ergebnis;
     ergebnis.werte.A = 20;
     tafel.zustand.Ergebnisse = &ergebnis;
     n.l.ShowLGGen = true;
-    EXPECT_EQ(Schneide(), (Lagen{{0, 0}, {1, 0}})) << "an ellipse";
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}, {1, 0}})) << "an ellipse";
     ergebnis.werte = {.dY = -101};
     n.l.ShowLgRes = true;
-    EXPECT_EQ(Schneide(), (Lagen{{0, -1}, {0, 0}})) << "a residual";
+    EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, -1}, {0, 0}})) << "a residual";
 }
 
 TEST_F(Blattschnitt, WenigsteBlaetterUndDerPlanInDerenMitte) {
@@ -104,7 +104,7 @@ TEST_F(Blattschnitt, WenigsteBlaetterUndDerPlanInDerenMitte) {
     EXPECT_TRUE(ecken().empty());
     n.P(1, -300, 300);
     n.P(2, 300, 100);
-    ASSERT_EQ(Schneide().size(), 2U) << "from the corner";
+    ASSERT_EQ(SchneideBlaetter().size(), 2U) << "from the corner";
     ASSERT_EQ(ecken().size(), 1U);
     EXPECT_NEAR(ecken()[0].rechts, -500, 1);
     EXPECT_NEAR(ecken()[0].hoch, 450, 1);
@@ -153,12 +153,12 @@ TEST_F(Blattschnitt, LehntUnsinnigVieleAb) {
          {std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
         n.l.VersetzePunkt(p, {nirgends, p.YWPu});
         k.Item->Visible = false;
-        EXPECT_EQ(Schneide(), (Lagen{{0, 0}})) << nirgends;
+        EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}})) << nirgends;
     }
     k.Item->Visible = true;
     for (const double fern : {401e3, -1e9, 1e10, -1e300}) {
         n.l.VersetzePunkt(p, {fern, p.YWPu});
-        EXPECT_THROW(static_cast<void>(Schneide()), Fehler) << fern;
+        EXPECT_THROW(static_cast<void>(SchneideBlaetter()), Fehler) << fern;
         EXPECT_THROW(static_cast<void>(Blattaufteilung(plan, kMassstab, kSeite)), Fehler) << fern;
     }
     // One sheet of so many is at the top and holds something.

@@ -34,7 +34,7 @@ class Druck : public testing::Test {
         n.l.Store(f, tafel.netz);
         return std::string(f.Inhalt()) + std::to_string(n.e.PTSize) + std::to_string(n.e.Querstrich);
     }
-    void Drucke(double aufloesung) {
+    void DruckeBlatt(double aufloesung) {
         zrw::DruckePlan(n.l.Vorlage(), mittel, Geraetegroessen(n.e, aufloesung / kBildaufloesung), blatt,
                         {25000, "25000", {4724, 3307, aufloesung}});
     }
@@ -50,7 +50,7 @@ TEST_F(Druck, MassstabSymboleUndSchriftAufDemBlatt) {
     // 250 m at 1:25000 are 10 mm: 236 dots of 600 to the inch. The circle of 4 px becomes one of 25 dots, the
     // label's offset (10, -5) px becomes (62, -31) dots, halves to even.
     const std::string vorher = Stand();
-    Drucke(600);
+    DruckeBlatt(600);
     const auto enthaelt = [&](const char* zeile) {
         return std::find(blatt.zeilen.begin(), blatt.zeilen.end(), zeile) != blatt.zeilen.end();
     };
@@ -65,7 +65,7 @@ TEST_F(Druck, MassstabSymboleUndSchriftAufDemBlatt) {
 TEST_F(Druck, LegendeStehtImSelbenEckUndBehaeltDenMassstab) {
     n.l.ShowLegende = true;
     n.l.Legend = Legende::Create();
-    Drucke(600);
+    DruckeBlatt(600);
     const auto rahmen = std::find_if(blatt.zeilen.begin(), blatt.zeilen.end(),
                                      [](const std::string& z) { return z.starts_with("Rechteck"); });
     ASSERT_NE(rahmen, blatt.zeilen.end());

@@ -32,7 +32,7 @@ Zeilen Zerlegt(std::string_view datei) {
 
 class Export : public testing::Test {
   protected:
-    void Exportiere() {
+    void ExportierePlan() {
         zrw::ExportierePlan(n.l.Vorlage(), {zustand, n.e, tafel.netz, tafel.uhr}, dateien,
                             {Druckfaktor(25000, 600), kPlotname, kDxfname});
     }
@@ -80,7 +80,7 @@ TEST_F(Export, LaesstNetzAnsichtUndZustandWieSieWaren) {
     n.l.KanteKnoten->Item->XBiE = -4711;
     zustand.modus = Zeichenmodus::Drucker;
     const std::string vorher = Gespeichert();
-    Exportiere();
+    ExportierePlan();
     const std::size_t bytes = dateien.dateien[kPlotname].size() + dateien.dateien[kDxfname].size();
     ASSERT_GT(bytes, 200000U) << "several pieces";
     const auto unveraendert = [&](std::size_t platz) {
@@ -90,13 +90,13 @@ TEST_F(Export, LaesstNetzAnsichtUndZustandWieSieWaren) {
         EXPECT_FALSE(zustand.ExportActive);
         EXPECT_TRUE(zustand.PlotFile == nullptr && zustand.Dxf == nullptr &&
                     zustand.Exportansicht == nullptr);
-        EXPECT_EQ(tafel.flaeche.Nimm(), Zeilen{}) << "the screen has seen nothing of it";
+        EXPECT_EQ(tafel.flaeche.NimmZeilen(), Zeilen{}) << "the screen has seen nothing of it";
     };
     unveraendert(SIZE_MAX);
     for (const std::size_t platz : {std::size_t{0}, std::size_t{70000}, bytes - 1}) {
         dateien.dateien = {{kPlotname, "alt"}, {kDxfname, "alt"}};
         dateien.platz = platz;
-        EXPECT_THROW(Exportiere(), Fehler) << platz;
+        EXPECT_THROW(ExportierePlan(), Fehler) << platz;
         EXPECT_EQ(dateien.dateien[kPlotname] + dateien.dateien[kDxfname], "altalt") << platz;
         unveraendert(platz);
     }

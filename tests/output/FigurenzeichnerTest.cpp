@@ -25,7 +25,7 @@ class Zeichnen : public testing::Test {
         k.YBiE = e.y;
         k.Show(zeichner);
         Zeilen striche;
-        for (const std::string& z : flaeche.Nimm()) {
+        for (const std::string& z : flaeche.NimmZeilen()) {
             if (z.starts_with("Stift")) gestrichelt_ = z.ends_with("gestrichelt");
             if (z.starts_with("Linie")) striche.push_back((gestrichelt_ ? "~" : "-") + z.substr(5));
         }
@@ -62,18 +62,18 @@ TEST_F(Zeichnen, SymboleInGroesseUndFuellung) {
         p.XO = 100;
         p.YO = 50;
         p.Show(zeichner);
-        EXPECT_EQ(flaeche.Nimm(), f.erwartet) << static_cast<int>(f.typ);
+        EXPECT_EQ(flaeche.NimmZeilen(), f.erwartet) << static_cast<int>(f.typ);
     }
 }
 
 TEST_F(Zeichnen, WischenIstDasselbeInWeiss) {
     Punkt p = Punkt::Create(PunktTyp::Krei, kRot, PunktAttr::Fu);
     p.Hide(zeichner);
-    EXPECT_EQ(flaeche.Nimm(), (Zeilen{"Stift 0xFFFFFF 1", "Pinsel 0xFFFFFF", "Ellipse -4 -4 4 4"}));
+    EXPECT_EQ(flaeche.NimmZeilen(), (Zeilen{"Stift 0xFFFFFF 1", "Pinsel 0xFFFFFF", "Ellipse -4 -4 4 4"}));
     PktText t = PktText::Create("12W", kRot, einstellungen);
     t.Show(zeichner);
     t.Hide(zeichner);
-    EXPECT_EQ(flaeche.Nimm(), (Zeilen{"Text 0x0000FF 10 -5 12W", "Text 0xFFFFFF 10 -5 12W"}));
+    EXPECT_EQ(flaeche.NimmZeilen(), (Zeilen{"Text 0x0000FF 10 -5 12W", "Text 0xFFFFFF 10 -5 12W"}));
 }
 
 // On the screen as in the files, where tests/golden_export holds every style with every decoration. The line
@@ -105,7 +105,7 @@ TEST_F(Zeichnen, LinieOhneRichtungUndGPSIstWeiss) {
     Kante k = Kante::Create(kRot, KanteAttr::ST, LinieAttr::Null);
     k.XBiE = 50;
     k.Show(zeichner);
-    for (const std::string& z : flaeche.Nimm()) {
+    for (const std::string& z : flaeche.NimmZeilen()) {
         if (!z.starts_with("Stift")) continue;
         EXPECT_EQ(z, "Stift 0xFFFFFF 1");
     }
@@ -116,15 +116,15 @@ TEST_F(Zeichnen, TextNachModusUndKurzschalter) {
     PktText t = PktText::Create("12340056", kRot, einstellungen);
     zustand.KurzeNummern = true;
     t.Show(zeichner);
-    EXPECT_EQ(flaeche.Nimm(), Zeilen{"Text 0x0000FF 10 -5 0056"});
+    EXPECT_EQ(flaeche.NimmZeilen(), Zeilen{"Text 0x0000FF 10 -5 0056"});
     t.Aus = PunktNummernTyp("1234");
     t.Show(zeichner);
-    EXPECT_EQ(flaeche.Nimm(), Zeilen{}) << "four characters and fewer leave nothing";
+    EXPECT_EQ(flaeche.NimmZeilen(), Zeilen{}) << "four characters and fewer leave nothing";
     zustand.KurzeNummern = false;
     zustand.modus = Zeichenmodus::Drucker;
     zustand.Geraetefaktor = 6.25;
     t.Show(zeichner);
-    EXPECT_EQ(flaeche.Nimm(), Zeilen{"Text 0x0000FF 62 -31 1234"}) << "62.5 and -31.25";
+    EXPECT_EQ(flaeche.NimmZeilen(), Zeilen{"Text 0x0000FF 62 -31 1234"}) << "62.5 and -31.25";
 }
 
 TEST_F(Zeichnen, FigurenWeitDraussenErreichenDieFlaecheNicht) {
@@ -137,7 +137,7 @@ TEST_F(Zeichnen, FigurenWeitDraussenErreichenDieFlaecheNicht) {
     EXPECT_TRUE(Kantenstriche({}, LinieAttr::AR2, {-100, -5000}, {-5, 5000}).empty());
     EXPECT_TRUE(
         Kantenstriche(KanteAttr::AusMaske(255), LinieAttr::ARI2, {kMax, kMax}, {kMax - 5, kMax}).empty());
-    EXPECT_EQ(flaeche.Nimm(), Zeilen{});
+    EXPECT_EQ(flaeche.NimmZeilen(), Zeilen{});
 }
 
 TEST(AbschneidenTest, LangeLinienKreuzenDasBildAmRechtenOrt) {

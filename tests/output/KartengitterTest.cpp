@@ -18,7 +18,7 @@ constexpr Farbe kBlau{0xFF0000};
 class Gitter : public testing::Test {
   protected:
     /// A picture of 800 x 600 pixels with its top-left corner at a world position.
-    void Schaue(Welt ecke, double faktor) {
+    void SetzeAusschnitt(Welt ecke, double faktor) {
         l.Weite = 800;
         l.Hoehe = 600;
         l.MinXW = ecke.rechts;
@@ -33,11 +33,11 @@ class Gitter : public testing::Test {
     }
     Zeilen Blaetter() {
         Kartengitter({&flaeche, nullptr, kBlau}, l).Kartenblaetter(netz);
-        return flaeche.Nimm();
+        return flaeche.NimmZeilen();
     }
     Zeilen Quadrate() {
         Kartengitter({&flaeche, nullptr, kBlau}, l).Kilometerquadrate();
-        return flaeche.Nimm();
+        return flaeche.NimmZeilen();
     }
     /// Numbers among drawn lines.
     static std::multiset<std::string> Nummern(const Zeilen& zeilen) {
@@ -57,7 +57,7 @@ class Gitter : public testing::Test {
 // Sheets that everybody can look up: 5521 Gedern, 5421 Ulrichstein, 5422 Herbstein, 5522 Freiensteinau.
 TEST_F(Gitter, BlattnummernStehenInIhremBlatt) {
     // Ulrichstein reaches from 9°10' to 9°20' E and from 50°36' to 50°30' N.
-    Schaue(Ort(50.62, 9.1), 40);
+    SetzeAusschnitt(Ort(50.62, 9.1), 40);
     const Zeilen zeilen = Blaetter();
     EXPECT_EQ(zeilen[0], "Stift 0xFF0000 1");
     const auto nummern = Nummern(zeilen);
@@ -85,7 +85,7 @@ TEST_F(Gitter, BeginntMitDemBlattDerEcke) {
     for (const Fall& f :
          {Fall{50.5999, 9.1667, "5421"}, Fall{50.6001, 9.1667, "5321"}, Fall{50.5999, 9.1666, "5420"},
           Fall{56.25, 9.1667, "-179"}, Fall{50.5999, 5.4, "5399"}}) {
-        Schaue(Ort(f.breite, f.laenge), 20);
+        SetzeAusschnitt(Ort(f.breite, f.laenge), 20);
         Speicherdateien d;
         DXFUnit dxf(d);
         dxf.DxfFileName = "a";
@@ -101,7 +101,7 @@ TEST_F(Gitter, BeginntMitDemBlattDerEcke) {
 }
 
 TEST_F(Gitter, KilometerquadrateMitNummern) {
-    Schaue({3512400, 5679800}, 5);  // 4 km by 3 km
+    SetzeAusschnitt({3512400, 5679800}, 5);  // 4 km by 3 km
     const Zeilen zeilen = Quadrate();
     // Numbers begin at the first whole kilometre below the top, lines at the top.
     EXPECT_EQ(zeilen[0], "Text 0xFF0000 -64 338 35561278");
@@ -112,14 +112,14 @@ TEST_F(Gitter, KilometerquadrateMitNummern) {
                                           "35561577", "35561578", "35561676", "35561677", "35561678"}));
     EXPECT_TRUE(std::find(zeilen.begin(), zeilen.end(), "Linie -80 160 120 160") != zeilen.end());
     EXPECT_EQ(std::count(zeilen.begin(), zeilen.end(), "Linie 120 -40 120 160"), 1);
-    Schaue({-1500, 1500}, 5);
+    SetzeAusschnitt({-1500, 1500}, 5);
     const Zeilen westlich = Quadrate();
     EXPECT_EQ(std::count(westlich.begin(), westlich.end(), "Linie -100 100 100 100"), 1);
     // Fewer digits give what there is.
-    Schaue({-500, 1500}, 5);
+    SetzeAusschnitt({-500, 1500}, 5);
     EXPECT_TRUE(Nummern(Quadrate()).contains("00") && Nummern(Quadrate()).contains("10"));
     // Too narrow for their numbers: 48 dots a number, 40 a square.
-    Schaue({3512400, 5679800}, 25);
+    SetzeAusschnitt({3512400, 5679800}, 25);
     const Zeilen eng = Quadrate();
     EXPECT_TRUE(Nummern(eng).empty());
     EXPECT_GT(eng.size(), 300U);

@@ -24,7 +24,7 @@ TEST_F(Legendentest, RahmenTexteUndSignaturen) {
     l.Masstab = "500";
     l.Show(tafel.zeichner);
     EXPECT_TRUE(l.Visible);
-    const Zeilen gezeigt = flaeche.Nimm();
+    const Zeilen gezeigt = flaeche.NimmZeilen();
     EXPECT_EQ(gezeigt, (Zeilen{"Stift 0x000000 1",
                                "Pinsel leer",
                                "Rechteck 0 0 152 98",
@@ -53,7 +53,7 @@ TEST_F(Legendentest, RahmenTexteUndSignaturen) {
     EXPECT_FALSE(l.Visible);
     EXPECT_EQ(l.Zeit, "21.11.2026 09:05:00");
     Zeilen weiss;
-    for (const std::string& z : flaeche.Nimm()) {
+    for (const std::string& z : flaeche.NimmZeilen()) {
         EXPECT_TRUE(z.find("0x") == std::string::npos || z.find("0xFFFFFF") != std::string::npos) << z;
         if (!z.starts_with("Stift") && !z.starts_with("Pinsel")) weiss.push_back(z.substr(z.find(' ', 5)));
     }
@@ -77,13 +77,13 @@ TEST_F(Legendentest, BreiteNachDenBeschreibungen) {
 TEST_F(Legendentest, AusserhalbGiltSieAlsSichtbarUndZeichnetNicht) {
     for (const std::int32_t x : {2147483647, -2147483647 - 1, 2147483646, 5000, -5000}) {
         l.Drag(x, 10, tafel.zeichner);
-        (void)flaeche.Nimm();
+        (void)flaeche.NimmZeilen();
         l.Show(tafel.zeichner);
-        EXPECT_EQ(flaeche.Nimm(), Zeilen{}) << x;
+        EXPECT_EQ(flaeche.NimmZeilen(), Zeilen{}) << x;
         EXPECT_TRUE(l.Visible);
     }
     l.Drag(-140, 10, tafel.zeichner);
-    EXPECT_FALSE(flaeche.Nimm().empty()) << "partly inside";
+    EXPECT_FALSE(flaeche.NimmZeilen().empty()) << "partly inside";
 }
 
 }  // namespace

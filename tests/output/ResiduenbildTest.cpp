@@ -43,17 +43,17 @@ class Residuen : public testing::Test {
         n.T(nr, nummer);
         return *p.Item;
     }
-    void Zeige(bool strich, bool ellipse) {
+    void ZeigeResiduen(bool strich, bool ellipse) {
         n.l.ShowLgRes = n.l.ShowHRes = n.l.ShowHGen = strich;
         n.l.ShowLGGen = ellipse;
     }
     Zeilen Gezeichnet() {
         zeichner.ZeichnePunktRes(n.l.Vorlage());
-        return flaeche.Nimm();
+        return flaeche.NimmZeilen();
     }
     Zeilen Massstab() {
         zeichner.DrawResMasstab(n.l.Vorlage());
-        return flaeche.Nimm();
+        return flaeche.NimmZeilen();
     }
     /// Ends of the lines, without pens.
     static Zeilen Linien(Zeilen alle) {
@@ -65,7 +65,7 @@ class Residuen : public testing::Test {
     Zeilen Ellipse(double phi, double a, double b, double x = 400, double y = 300) {
         const Bildvorlage vorlage = n.l.Vorlage();
         Residuenbild(zustand, n.e, vorlage).DrawEllipse(Gon{phi}, a, b, x, y);
-        return Linien(flaeche.Nimm());
+        return Linien(flaeche.NimmZeilen());
     }
 
     Probenetz n;
@@ -84,7 +84,7 @@ TEST_F(Residuen, StricheUndBalken) {
         ergebnisse.werte["12"] = {.dY = dY, .dX = dX, .dH = dH, .mH = mH};
         EXPECT_EQ(Linien(Gezeichnet()), linien) << f << " " << dY;
     };
-    Zeige(true, false);
+    ZeigeResiduen(true, false);
     zustand.Geraetefaktor = 6.25;  // left behind by a print
     pruefe(1, 10.9, 5.9, 7.9, 5,
            {"100 100 110 95", "100 100 100 93", "100 98 100 102", "98 98 102 98", "98 102 102 102"});
@@ -100,7 +100,7 @@ TEST_F(Residuen, StricheUndBalken) {
 
 TEST_F(Residuen, StifteUndReihenfolge) {
     std::tie(n.e.LGRCol.wert, n.e.HRCol.wert, n.e.LGGCol.wert, n.e.HGCol.wert) = std::tuple(1, 2, 3, 4);
-    Zeige(true, true);
+    ZeigeResiduen(true, true);
     for (const auto& [mL, breite] : {std::pair{0.0, "1"}, {20.0, "1"}, {20.01, "2"}, {kNan, "2"}}) {
         ergebnisse.werte["12"] = {.A = 9, .B = 5, .mL = mL};
         Zeilen stifte = Gezeichnet();
@@ -114,7 +114,7 @@ TEST_F(Residuen, StifteUndReihenfolge) {
 // Corners computed with another program. The long axis points 30 gon east of north.
 TEST_F(Residuen, EllipseEckeUmEcke) {
     ergebnisse.werte["12"] = {.A = 10, .B = 4, .Phi = 30};
-    Zeige(false, true);
+    ZeigeResiduen(false, true);
     const Zeilen ecken{"95 109",  "95 108",  "94 107",  "94 105",  "95 102", "96 100", "97 97",  "99 95",
                        "100 93",  "102 92",  "103 91",  "104 91",  "105 92", "106 93", "106 95", "105 98",
                        "104 100", "103 103", "102 105", "100 107", "98 108", "97 109", "96 109", "95 108"};
@@ -162,7 +162,7 @@ TEST_F(Residuen, NurGezeigtePunkteMitNummer) {
     Punkt(6, "verborgen", PunktArt::FP).Visible = false;
     n.P(7);
     n.l.ShowFL = true;
-    Zeige(true, false);
+    ZeigeResiduen(true, false);
     (void)Gezeichnet();
     EXPECT_EQ(std::exchange(ergebnisse.gefragt, {}), (Zeilen{"N", "H", "L", "12"}));
     const std::array kSchalter{&Liste::ShowFP, &Liste::ShowFL, &Liste::ShowFH, &Liste::ShowNP};
@@ -181,8 +181,8 @@ TEST_F(Residuen, NurGezeigtePunkteMitNummer) {
 TEST_F(Residuen, QuelleWirdNurGefragtWennNoetig) {
     n.l.LGGenOn = true;
     n.l.ShowPicture(zeichner);
-    (void)flaeche.Nimm();
-    Zeige(true, true);
+    (void)flaeche.NimmZeilen();
+    ZeigeResiduen(true, true);
     zustand.ExportActive = true;
     EXPECT_EQ(Gezeichnet(), Zeilen{});
     EXPECT_EQ(Massstab(), Zeilen{});
@@ -194,7 +194,7 @@ TEST_F(Residuen, QuelleWirdNurGefragtWennNoetig) {
     n.l.ShowPicture(zeichner);
     EXPECT_EQ(ergebnisse.erneuert, 1);
     zustand.Ergebnisse = nullptr;
-    (void)flaeche.Nimm();
+    (void)flaeche.NimmZeilen();
     EXPECT_EQ(Gezeichnet(), Zeilen{});
 }
 

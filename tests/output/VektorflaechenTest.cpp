@@ -68,7 +68,7 @@ std::string Pdf(const Zeichnung& zeichne, const Pdfangaben& angaben = {"T", null
     return Ausgepackt(Roh(zeichne, angaben));
 }
 
-void Enthaelt(const std::string& datei, std::initializer_list<std::string> teile) {
+void ErwarteTeile(const std::string& datei, std::initializer_list<std::string> teile) {
     for (const std::string& teil : teile)
         EXPECT_NE(datei.find(teil), std::string::npos) << teil;
 }
@@ -108,7 +108,7 @@ TEST(Vektorflaechen, JedeFigurStehtAufIhrerEbene) {
     const std::string svg = Svg(zeichne);
     EXPECT_EQ(Alle(svg, "\" class=\"", "\""), ebenen);
     EXPECT_EQ(Alle(svg, "<g id", ">").size(), Alle(svg, "</g", ">").size());
-    Enthaelt(svg, {"id=\"PUNKTE_2\""});
+    ErwarteTeile(svg, {"id=\"PUNKTE_2\""});
     const std::string pdf = Pdf(zeichne);
     EXPECT_EQ(Alle(pdf, "/OC/", " BDC\n"), ebenen);
     EXPECT_EQ(Alle(pdf, "EMC", "\n").size(), ebenen.size());
@@ -128,14 +128,15 @@ TEST(Vektorflaechen, TexteSindZeichenUndNichtsBrichtAus) {
             z.SetzeEbene(Ebene::Punktnummern);
             z.Text({20, 30}, f.text, Farbe{0x0080FF});
         };
-        Enthaelt(Svg(zeichne, kBildaufloesung, f.text),
-                 {"<title>" + f.svg + "</title>",
-                  "<text x=\"19.5\" y=\"39.5\" fill=\"#ff8000\">" + f.svg + "</text>"});
-        Enthaelt(Pdf(zeichne), {"1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"});
+        ErwarteTeile(Svg(zeichne, kBildaufloesung, f.text),
+                     {"<title>" + f.svg + "</title>",
+                      "<text x=\"19.5\" y=\"39.5\" fill=\"#ff8000\">" + f.svg + "</text>"});
+        ErwarteTeile(Pdf(zeichne),
+                     {"1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"});
     }
     const Festuhr uhr;
-    Enthaelt(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr, nullptr}),
-             {"<</Title<FEFF00C420AC>/Creator(Zarwik)/CreationDate(D:20261121090500)>>"});
+    ErwarteTeile(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr, nullptr}),
+                 {"<</Title<FEFF00C420AC>/Creator(Zarwik)/CreationDate(D:20261121090500)>>"});
 }
 
 TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
@@ -151,14 +152,14 @@ TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
         for (int i = 0; i < kLinienJePfad + 1; ++i)
             f.Linie({i, 7}, {i + 1, 7});
     };
-    Enthaelt(Svg(zeichne), {"<path stroke=\"#000000\" stroke-width=\"2\" d=\"M0 0L10 0L10 5M1 2L3 4\"/>",
-                            "<path stroke=\"#000000\" stroke-linecap=\"butt\" stroke-dasharray=\"4 2\" "
-                            "d=\"M3 4L9 9M9 9L8 8\"/>",
-                            "<path stroke=\"#000000\" d=\"M500 7L501 7\"/>"});
+    ErwarteTeile(Svg(zeichne), {"<path stroke=\"#000000\" stroke-width=\"2\" d=\"M0 0L10 0L10 5M1 2L3 4\"/>",
+                                "<path stroke=\"#000000\" stroke-linecap=\"butt\" stroke-dasharray=\"4 2\" "
+                                "d=\"M3 4L9 9M9 9L8 8\"/>",
+                                "<path stroke=\"#000000\" d=\"M500 7L501 7\"/>"});
     // 0.15 mm of 100 dots to the inch are 0.591 dots.
-    Enthaelt(Pdf(zeichne),
-             {"1.181 w\n1 J[]0 d\n0 0 m 10 0 l\n10 5 l\n1 2 m 3 4 l\nS\n",
-              "0.591 w\n0 J[4.167 2.083]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n", "S\n500 7 m 501 7 l\nS\n"});
+    ErwarteTeile(Pdf(zeichne),
+                 {"1.181 w\n1 J[]0 d\n0 0 m 10 0 l\n10 5 l\n1 2 m 3 4 l\nS\n",
+                  "0.591 w\n0 J[4.167 2.083]0 d\n3 4 m 9 9 l\n9 9 m 8 8 l\nS\n", "S\n500 7 m 501 7 l\nS\n"});
 }
 
 TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
@@ -180,10 +181,10 @@ TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
         f.Text({2147483647, 2147483647}, "WWW", kSchwarz);
         f.FuelleRechteck({900, 0, 2000000000, 10}, kSchwarz);
     };
-    Enthaelt(Svg(innen), {"M-50 100L50 100", "<ellipse cx=\"800\" cy=\"600\" rx=\"10\" ry=\"10\"", ">WWW<",
-                          "<rect x=\"-0.5\" y=\"-0.5\" width=\"800\" height=\"11\" fill"});
-    Enthaelt(Pdf(innen), {"-50 100 m 50 100 l", "810 600 m 810 605.5228 805.5228 610 800 610 c", "(WWW)Tj",
-                          "0 0 800 11 re f"});
+    ErwarteTeile(Svg(innen), {"M-50 100L50 100", "<ellipse cx=\"800\" cy=\"600\" rx=\"10\" ry=\"10\"",
+                              ">WWW<", "<rect x=\"-0.5\" y=\"-0.5\" width=\"800\" height=\"11\" fill"});
+    ErwarteTeile(Pdf(innen), {"-50 100 m 50 100 l", "810 600 m 810 605.5228 805.5228 610 800 610 c",
+                              "(WWW)Tj", "0 0 800 11 re f"});
     const Zeichnung nichts = [](Zeichenflaeche&) {};
     EXPECT_EQ(Svg(aussen), Svg(nichts));
     EXPECT_EQ(Pdf(aussen), Pdf(nichts));
@@ -198,12 +199,13 @@ TEST(Vektorflaechen, UmrissUndFuellung) {
         f.Vieleck(std::array<Flaechenpunkt, 3>{{{5, 10}, {9, 10}, {9, 20}}});
         f.Ellipse({90, 190, 110, 200});
     };
-    Enthaelt(Svg(zeichne),
-             {"<rect x=\"1\" y=\"2\" width=\"10\" height=\"20\" stroke=\"#ff0000\" fill=\"#0000ff\"/>",
-              "<polygon points=\"5,10 9,10 9,20\" stroke=\"#ff0000\"/>"});
-    Enthaelt(Pdf(zeichne), {"0 0 1 rg\n1 2 m 11 2 l 11 22 l 1 22 l b\n5 10 m 9 10 l 9 20 l s\n",
-                            "110 195 m 110 197.7614 105.5228 200 100 200 c 94.4772 200 90 197.7614 90 195 c "
-                            "90 192.2386 94.4772 190 100 190 c 105.5228 190 110 192.2386 110 195 c s\n"});
+    ErwarteTeile(Svg(zeichne),
+                 {"<rect x=\"1\" y=\"2\" width=\"10\" height=\"20\" stroke=\"#ff0000\" fill=\"#0000ff\"/>",
+                  "<polygon points=\"5,10 9,10 9,20\" stroke=\"#ff0000\"/>"});
+    ErwarteTeile(Pdf(zeichne),
+                 {"0 0 1 rg\n1 2 m 11 2 l 11 22 l 1 22 l b\n5 10 m 9 10 l 9 20 l s\n",
+                  "110 195 m 110 197.7614 105.5228 200 100 200 c 94.4772 200 90 197.7614 90 195 c "
+                  "90 192.2386 94.4772 190 100 190 c 105.5228 190 110 192.2386 110 195 c s\n"});
 }
 
 TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
@@ -224,7 +226,7 @@ TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
         EXPECT_EQ(pdf.substr(Ganzzahl(zeile.substr(0, 10)), anfang.size()), anfang);
     }
     pdf = Ausgepackt(pdf);
-    Enthaelt(pdf, {"/Type/Pages/Count 2/Kids["});
+    ErwarteTeile(pdf, {"/Type/Pages/Count 2/Kids["});
     // The second page sets up its own pen and layer.
     EXPECT_EQ(Alle(pdf, "/OC/PUNKTE BDC\n0 0 0 RG", "\n").size(), 2U);
     EXPECT_EQ(Alle(pdf, "/Name(PUNKTE)", "\n").size(), 1U);
@@ -232,8 +234,8 @@ TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
 
 TEST(Vektorflaechen, DasBildHatDieGroesseSeinerAufloesung) {
     const Zeichnung nichts = [](Zeichenflaeche&) {};
-    Enthaelt(Svg(nichts, 600), {"width=\"33.867mm\" height=\"25.4mm\""});
-    Enthaelt(Svg(nichts), {"width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""});
+    ErwarteTeile(Svg(nichts, 600), {"width=\"33.867mm\" height=\"25.4mm\""});
+    ErwarteTeile(Svg(nichts), {"width=\"800\" height=\"600\" viewBox=\"-0.5 -0.5 800 600\""});
 }
 
 }  // namespace

@@ -12,9 +12,9 @@ namespace {
 class Aenderungen : public Netzprobe {};
 
 TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
-    Lege("leer.ZRW", std::string(84, '\0'));
-    Lege("ohne.EIN",
-         "$NT 3\n$FP A              1         1000         1000\n    B              1 3000 2000\n");
+    LegeDateiAn("leer.ZRW", std::string(84, '\0'));
+    LegeDateiAn("ohne.EIN",
+                "$NT 3\n$FP A              1         1000         1000\n    B              1 3000 2000\n");
     Probenetz n;  // labels that belong to no point
     n.P(1, 1000, 1000);
     n.P(2, 3000, 2000);
@@ -26,7 +26,7 @@ TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
     OeffneAlsBilddatei(n.l);
     for (const char* datei : {"leer.ZRW", "ohne.EIN", "o.ZRW"}) {
         SCOPED_TRACE(datei);
-        Oeffne(datei);
+        OeffneDatei(datei);
         const std::int32_t punkte = fenster.Netz()->MaxPkte;
         for (const char* knopf : {"EinpassenButton", "ButtonGroesser", "ButtonKleiner", "SpeedButton3",
                                   "NummernZeigenButton", "SpeedButton10"}) {
@@ -36,7 +36,7 @@ TEST_F(Aenderungen, LeereNetzeUndNetzeOhneLinienUndNummern) {
         for (const Werkzeugzeile& w : kWerkzeuge) {
             Modus(w.komponente.data());
             for (const QPoint p : {A, B, E, (A + B) / 2, (A + E) / 2, nummer, QPoint(700, 500)}) {
-                Ziehe(p, p + QPoint(20, 20));
+                ZieheMaus(p, p + QPoint(20, 20));
                 Klick(p);
                 Klick(p, Qt::RightButton);
             }
@@ -52,25 +52,25 @@ TEST_F(Aenderungen, SternUndStandDerSicherung) {
     EXPECT_FALSE(stern());
     EXPECT_FALSE(Knopf("RueckgaengigButton").isEnabled());
     Modus("MovePktButton");
-    Ziehe(A, A + QPoint(10, 0));
-    Ziehe(B, B + QPoint(10, 0));
+    ZieheMaus(A, A + QPoint(10, 0));
+    ZieheMaus(B, B + QPoint(10, 0));
     EXPECT_TRUE(stern());
-    Speichere("x.ZRW");
+    SpeichereDatei("x.ZRW");
     EXPECT_FALSE(stern());
     fenster.Rueckgaengig();
     EXPECT_TRUE(stern()) << "undone behind what is saved";
     fenster.WiederholeSchritt();
     EXPECT_FALSE(stern());
     fenster.Rueckgaengig();
-    Ziehe(A + QPoint(10, 0), A + QPoint(10, 30));
+    ZieheMaus(A + QPoint(10, 0), A + QPoint(10, 30));
     fenster.Rueckgaengig();
     EXPECT_TRUE(stern()) << "the saved state cannot be reached any more";
-    Speichere("fehlt/x.ZRW");
+    SpeichereDatei("fehlt/x.ZRW");
     EXPECT_TRUE(stern()) << "not saved";
-    Speichere({});
+    SpeichereDatei({});
     EXPECT_TRUE(stern()) << "cancelled";
     dialoge.antwort = false;
-    Oeffne("n.EIN");
+    OeffneDatei("n.EIN");
     EXPECT_FALSE(stern());
     EXPECT_FALSE(Knopf("RueckgaengigButton").isEnabled() || Knopf("WiederholenButton").isEnabled());
     Modus("ZentrierButton");
@@ -83,7 +83,7 @@ TEST_F(Aenderungen, SternUndStandDerSicherung) {
 TEST_F(Aenderungen, MehrSchritteAlsBehaltenWerden) {
     Modus("MovePktButton");
     for (int i = 0; i < 520; ++i)
-        Ziehe(Ort("E"), Ort("E") + QPoint(i % 2 == 0 ? 9 : -8, 0));
+        ZieheMaus(Ort("E"), Ort("E") + QPoint(i % 2 == 0 ? 9 : -8, 0));
     int schritte = 0;
     for (; Knopf("RueckgaengigButton").isEnabled(); ++schritte)
         fenster.Rueckgaengig();
@@ -117,7 +117,7 @@ TEST_F(Aenderungen, FrageVorDemVerwerfen) {
             dialoge.fragen.clear();
             dialoge.antwort = f.antwort;
             dialoge.datei = f.datei;
-            schliessen ? (void)fenster.close() : Oeffne("a.EIN");
+            schliessen ? (void)fenster.close() : OeffneDatei("a.EIN");
             EXPECT_EQ(dialoge.fragen, QStringList{"Zarwik speichern"});
             EXPECT_EQ(QFile::exists(gut), f.antwort == true && f.verworfen);
             if (schliessen) {
@@ -136,7 +136,7 @@ TEST_F(Aenderungen, FrageVorDemVerwerfen) {
     fenster.show();
     Neu();
     dialoge.fragen.clear();
-    Oeffne("a.EIN");
+    OeffneDatei("a.EIN");
     fenster.close();
     EXPECT_TRUE(dialoge.fragen.isEmpty()) << "nothing has been changed";
 }
@@ -144,11 +144,11 @@ TEST_F(Aenderungen, FrageVorDemVerwerfen) {
 TEST_F(Aenderungen, LetzteDateien) {
     for (int i = 0; i < 12; ++i) {
         const QString name = QString("m%1.EIN").arg(i);
-        Lege(name, kAnderes);
-        Oeffne(name);
+        LegeDateiAn(name, kAnderes);
+        OeffneDatei(name);
     }
-    Oeffne("m5.EIN");
-    Oeffne("fehlt.EIN");
+    OeffneDatei("m5.EIN");
+    OeffneDatei("fehlt.EIN");
     Knopf("LetzteDateienButton").click();
     ASSERT_EQ(dialoge.auswahl.size(), 9);
     EXPECT_EQ(dialoge.auswahl[0], ordner.filePath("m5.EIN"));

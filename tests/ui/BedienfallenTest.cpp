@@ -22,14 +22,14 @@ class Bedienfallen : public Netzprobe {
     static constexpr std::pair<const char*, const char*> kDialoge[] = {{"EditBeobButton", "TFormBeobTyp"},
                                                                        {"PunktartButton", "TFormPunktart"}};
 
-    void Verstecke(const char* nummer) const {
-        Waehle("TFormHidePunkte", "ListBoxPkt", {nummer});
-        Finde("TFormHidePunkte", "Button1").click();
+    void VersteckePunkt(const char* nummer) const {
+        WaehleTexte("TFormHidePunkte", "ListBoxPkt", {nummer});
+        FindeTeil("TFormHidePunkte", "Button1").click();
     }
     void NeueBeobachtung(QPoint von, QPoint nach) const {
         Modus("EditBeobButton");
-        Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
-        Finde("TFormBeobTyp", "RadioGroupRichtg1").click();
+        FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+        FindeTeil("TFormBeobTyp", "RadioGroupRichtg1").click();
         Klick(von);
         Klick(nach);
     }
@@ -40,14 +40,14 @@ TEST_F(Bedienfallen, EinDialogBeendetDasZiehen) {
     Modus("MovePktButton");
     const QStringList vorher = Figuren();
     const QImage bildVorher = fenster.Bild().copy();
-    Druecke(A);
-    Bewege(A + QPoint(40, 20));
+    DrueckeTaste(A);
+    BewegeMaus(A + QPoint(40, 20));
     QDialog dialog(&fenster);
     dialog.setModal(true);
     dialog.show();
     EXPECT_EQ(fenster.Bild(), bildVorher) << "the point is back";
     dialog.close();
-    Lass(A + QPoint(60, 30));
+    LassTasteLos(A + QPoint(60, 30));
     EXPECT_EQ(Aenderung(vorher), QStringList());
 }
 
@@ -70,11 +70,11 @@ TEST_F(Bedienfallen, WiederholenMittenImZiehen) {
             const QStringList nachher = Figuren();
             fenster.Rueckgaengig();
             Modus(f.zug);
-            Druecke(f.druck);
-            Bewege({200, 300});
+            DrueckeTaste(f.druck);
+            BewegeMaus({200, 300});
             fenster.WiederholeSchritt();
             if (abbrechen) Taste(Qt::Key_Escape);
-            Lass({200, 300});
+            LassTasteLos({200, 300});
             EXPECT_EQ(Aenderung(nachher), QStringList());
             NimmAllesZurueck();
             EXPECT_EQ(Aenderung(vorher), QStringList());
@@ -88,21 +88,21 @@ TEST_F(Bedienfallen, EinfuegenZurueckMittenImZiehen) {
     const QStringList mit = Figuren();
     Modus("MovePktButton");
     const QPoint q = Ort("Q");
-    Druecke(q);
+    DrueckeTaste(q);
     fenster.Rueckgaengig();
-    Lass(q + QPoint(30, 30));
+    LassTasteLos(q + QPoint(30, 30));
     fenster.WiederholeSchritt();
     EXPECT_EQ(Aenderung(mit), QStringList());
 }
 
 TEST_F(Bedienfallen, SpeichernMittenImZiehen) {
     Modus("MovePktButton");
-    Druecke(A);
-    Bewege({200, 300});
-    Speichere("x.ZRW");  // by its shortcut
-    Lass({200, 300});
+    DrueckeTaste(A);
+    BewegeMaus({200, 300});
+    SpeichereDatei("x.ZRW");  // by its shortcut
+    LassTasteLos({200, 300});
     dialoge.antwort = false;
-    Oeffne("x.ZRW");
+    OeffneDatei("x.ZRW");
     for (const QString& figur : Figuren())
         EXPECT_FALSE(figur.endsWith(" -")) << figur.toStdString() << " is saved hidden for good";
 }
@@ -117,19 +117,19 @@ TEST_F(Bedienfallen, ExportMittenImZiehen) {
     };
     EXPECT_EQ(nummern(), 5);
     Modus("MoveTextButton");
-    Druecke(Textort("A"));
-    Bewege({200, 300});
+    DrueckeTaste(Textort("A"));
+    BewegeMaus({200, 300});
     EXPECT_EQ(nummern(), 5);
     QDir::setCurrent(hier);
 }
 
 TEST_F(Bedienfallen, NeuerPunktWeitWegIstZuZeigen) {
-    Lege("leer.ZRW", std::string(84, '\0'));
+    LegeDateiAn("leer.ZRW", std::string(84, '\0'));
     for (const auto& [datei, rechts, hoch] :
          {std::tuple{"leer.ZRW", "3500000", "5600000"}, {"n.EIN", "50000", "1500"}}) {
         SCOPED_TRACE(datei);
         dialoge.antwort = false;
-        Oeffne(datei);
+        OeffneDatei(datei);
         NeuerPunkt("Q", rechts, hoch);
         ASSERT_NE(Punkt("Q"), nullptr);
         Knopf("SpeedButton3").click();
@@ -140,13 +140,13 @@ TEST_F(Bedienfallen, NeuerPunktWeitWegIstZuZeigen) {
 
 TEST_F(Bedienfallen, RueckgaengigMitVeraltetemDialog) {
     Modus("MovePktButton");
-    Ziehe(A, A + QPoint(40, 0));
+    ZieheMaus(A, A + QPoint(40, 0));
     Modus("PunktartButton");
     Klick(A + QPoint(40, 0));
     fenster.Rueckgaengig();
     EXPECT_EQ(Ort("A"), A);
-    Finde("TFormPunktart", "RadioGroupPktArt1").click();
-    Finde("TFormPunktart", "DrawButton").click();
+    FindeTeil("TFormPunktart", "RadioGroupPktArt1").click();
+    FindeTeil("TFormPunktart", "DrawButton").click();
     EXPECT_EQ(Ort("A"), A) << "only the kind was changed";
 }
 
@@ -164,28 +164,28 @@ TEST_F(Bedienfallen, HervorhebungFolgtDerAnsicht) {
     const std::function<void()> wege[] = {[this] { Knopf("ButtonGroesser").click(); },
                                           [this] { Taste(Qt::Key_Left); },
                                           [this] {
-                                              Druecke({300, 300}, Qt::MiddleButton);
-                                              Lass({350, 350}, Qt::MiddleButton);
+                                              DrueckeTaste({300, 300}, Qt::MiddleButton);
+                                              LassTasteLos({350, 350}, Qt::MiddleButton);
                                           },
                                           [this] { fenster.Rueckgaengig(); }};
     for (std::size_t i = 0; i < std::size(wege); ++i) {
         Neu();
         Modus("MovePktButton");
-        Ziehe(A, A + QPoint(40, 0));
-        Bewege({400, 400});
-        Bewege(A + QPoint(40, 0));
+        ZieheMaus(A, A + QPoint(40, 0));
+        BewegeMaus({400, 400});
+        BewegeMaus(A + QPoint(40, 0));
         wege[i]();
         const QImage gezeigt = bild->grab().toImage();
-        Bewege({795, 5});
+        BewegeMaus({795, 5});
         EXPECT_TRUE(gezeigt == bild->grab().toImage()) << i;
     }
 }
 
 TEST_F(Bedienfallen, ZentrierteBleibenAusDenListen) {
     Modus("SpeedButton13");
-    Waehle("GroupBox1", "ExzListBox", {"A"});
-    Waehle("GroupBox1", "PZListBox", {"B"});
-    Finde("GroupBox1", "OkButton").click();
+    WaehleTexte("GroupBox1", "ExzListBox", {"A"});
+    WaehleTexte("GroupBox1", "PZListBox", {"B"});
+    FindeTeil("GroupBox1", "OkButton").click();
     const QStringList ohneA{"B", "C", "D", "E"};
     EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), ohneA);
     Modus("DelPunktButton");
@@ -201,20 +201,20 @@ TEST_F(Bedienfallen, OffenerVersteckdialogFolgtDemNetz) {
     Klick(A);
     EXPECT_FALSE(Eintraege("TFormHidePunkte", "ListBoxPkt").contains("A"));
     dialoge.antwort = false;
-    Oeffne("a.EIN");
+    OeffneDatei("a.EIN");
     EXPECT_EQ(Eintraege("TFormHidePunkte", "ListBoxPkt"), (QStringList{"A", "Z"}));
 }
 
 TEST_F(Bedienfallen, DoppeltVerborgenUndZurueck) {
     const auto& verborgene = static_cast<TFormHiddenPkt&>(Kind<QDialog>("TFormHiddenPkt"));
     Knopf("SpeedButton14").click();
-    Verstecke("A");
-    Verstecke("A");
+    VersteckePunkt("A");
+    VersteckePunkt("A");
     EXPECT_EQ(verborgene.Nummern(), (QStringList{"A", "A"}));
-    auto& liste = Finde<QListView>("TFormHiddenPkt", "ListBox1");
+    auto& liste = FindeTeil<QListView>("TFormHiddenPkt", "ListBox1");
     for (int i = 0; i < 2; ++i) {
         liste.setCurrentIndex(liste.model()->index(0, 0));
-        Finde("TFormHiddenPkt", "UnhiddenButton").click();
+        FindeTeil("TFormHiddenPkt", "UnhiddenButton").click();
     }
     EXPECT_TRUE(Punkt("A")->Item->Visible);
     fenster.Rueckgaengig();
@@ -231,15 +231,15 @@ TEST_F(Bedienfallen, NeueBeobachtungGegenDieRichtungDerLinie) {
 TEST_F(Bedienfallen, NichtsGeaendertIstKeineAenderung) {
     Modus("PunktartButton");
     Klick(A);
-    Finde("TFormPunktart", "RadioGroupPktArt0").click();
-    Finde("TFormPunktart", "DrawButton").click();
+    FindeTeil("TFormPunktart", "RadioGroupPktArt0").click();
+    FindeTeil("TFormPunktart", "DrawButton").click();
     EXPECT_FALSE(fenster.Ungesichert()) << "the same kind";
     NeueBeobachtung(A, B);
     EXPECT_FALSE(fenster.Ungesichert()) << "an observation that is there";
     Knopf("SpeedButton14").click();
-    Verstecke("A");
-    Speichere("x.ZRW");
-    Verstecke("A");
+    VersteckePunkt("A");
+    SpeichereDatei("x.ZRW");
+    VersteckePunkt("A");
     EXPECT_FALSE(fenster.Ungesichert()) << "hiding what is hidden";
 }
 
@@ -308,24 +308,24 @@ TEST_F(Bedienfallen, WerkzeugOhneNetzDannNetz) {
 
 TEST_F(Bedienfallen, StatusBeimZiehenMitErstemPunkt) {
     Modus("ZentrierButton");
-    Druecke(A);
-    Bewege(A + QPoint(2, 2));
+    DrueckeTaste(A);
+    BewegeMaus(A + QPoint(2, 2));
     EXPECT_EQ(Status(), "Exzentrum gewählt, bitte Zentrum wählen.");
-    Lass(A + QPoint(2, 2));
+    LassTasteLos(A + QPoint(2, 2));
 }
 
 TEST_F(Bedienfallen, SchriftBleibtWennDieDateiFehlt) {
     dialoge.schrift = QFont("Sans", 30);
     Knopf("SpeedButton8").click();
     const QImage gross = fenster.Bild().copy();
-    Oeffne("fehlt.EIN");
+    OeffneDatei("fehlt.EIN");
     Knopf("SpeedButton3").click();
     EXPECT_TRUE(fenster.Bild() == gross);
 }
 
 TEST_F(Bedienfallen, SpeichernMerktDenOrdner) {
     QDir(ordner.path()).mkdir("unter");
-    Speichere("unter/x.ZRW");
+    SpeichereDatei("unter/x.ZRW");
     EXPECT_EQ(sitzung.Ordner(), ordner.filePath("unter"));
     EXPECT_EQ(sitzung.LetzteDateien().front(), ordner.filePath("unter/x.ZRW"));
 }
@@ -333,10 +333,10 @@ TEST_F(Bedienfallen, SpeichernMerktDenOrdner) {
 TEST_F(Bedienfallen, GewaehltesExzentrumBleibtMarkiert) {
     const auto ring = [this] { return bild->grab().toImage().pixelColor(A + QPoint(9, 0)); };
     Modus("MovePktButton");
-    Ziehe(E, E + QPoint(20, 20));
+    ZieheMaus(E, E + QPoint(20, 20));
     Modus("ZentrierButton");
     Klick(A);
-    Bewege({600, 400});
+    BewegeMaus({600, 400});
     ASSERT_EQ(ring(), QColor(255, 165, 0));
     fenster.Rueckgaengig();
     EXPECT_EQ(ring(), QColor(255, 165, 0)) << "still chosen";
@@ -344,14 +344,14 @@ TEST_F(Bedienfallen, GewaehltesExzentrumBleibtMarkiert) {
 
 TEST_F(Bedienfallen, ZarwikdateiBringtIhreVerstecktenMit) {
     const auto versteckte = [this] { return Eintraege("TFormHiddenPkt", "ListBox1"); };
-    Speichere("alle.ZRW");
+    SpeichereDatei("alle.ZRW");
     Modus("HidePktButton");
     Klick(E);
     Klick(A);
-    Speichere("ohne.ZRW");
-    Oeffne("alle.ZRW");
+    SpeichereDatei("ohne.ZRW");
+    OeffneDatei("alle.ZRW");
     EXPECT_EQ(versteckte(), QStringList());
-    Oeffne("ohne.ZRW");
+    OeffneDatei("ohne.ZRW");
     EXPECT_EQ(versteckte(), (QStringList{"A", "E"}));
     const auto& nummern = Kind<QComboBox>("ComboBox1");
     for (int i = 1; i < nummern.count(); ++i)
@@ -380,16 +380,16 @@ TEST_F(Bedienfallen, TastenAusFeldernUndFenstern) {
     const QStringList vorher = Figuren();
     Modus("PunktartButton");
     Klick(A);
-    Finde("TFormPunktart", "RadioGroupPktArt2").click();
-    Finde("TFormPunktart", "DrawButton").click();
+    FindeTeil("TFormPunktart", "RadioGroupPktArt2").click();
+    FindeTeil("TFormPunktart", "DrawButton").click();
     ASSERT_NE(Aenderung(vorher), QStringList());
     auto& dialog = Kind<QDialog>("TFormPunktart");
     dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-    QTest::keyClick(&Finde("TFormPunktart", "DrawButton"), Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&FindeTeil("TFormPunktart", "DrawButton"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Aenderung(vorher), QStringList());
-    Finde<QLineEdit>("TFormPunktart", "PktNummer").setText("A2");
-    Finde("TFormPunktart", "DrawButton").click();
+    FindeTeil<QLineEdit>("TFormPunktart", "PktNummer").setText("A2");
+    FindeTeil("TFormPunktart", "DrawButton").click();
     EXPECT_EQ(dialoge.meldungen.size(), 1) << "the number is not changed without a word";
 }
 

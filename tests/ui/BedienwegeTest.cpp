@@ -20,10 +20,10 @@ class Bedienwege : public Netzprobe {
         QMouseEvent zweiter(QEvent::MouseButtonDblClick, ort, bild->mapToGlobal(ort), Qt::LeftButton,
                             Qt::LeftButton, {});
         QCoreApplication::sendEvent(bild, &zweiter);
-        Lass(ort);
+        LassTasteLos(ort);
     }
     [[nodiscard]] QImage Gezeigt() const { return bild->grab().toImage(); }
-    void Verlasse() const {
+    void VerlasseBild() const {
         QEvent weg(QEvent::Leave);
         QCoreApplication::sendEvent(bild, &weg);
     }
@@ -50,8 +50,8 @@ TEST_F(Bedienwege, EinDoppelklickIstEinKlick) {
         fenster.Rueckgaengig();
     }
     Modus("EditBeobButton");
-    Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
-    Finde("TFormBeobTyp", "CheckBoxStrecke").setChecked(true);
+    FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+    FindeTeil("TFormBeobTyp", "CheckBoxStrecke").setChecked(true);
     Doppelklick(A);
     EXPECT_EQ(Status(), "Beobachtung einfügen P1 gesetzt P2 anklicken");
     Klick(E);
@@ -64,28 +64,28 @@ TEST_F(Bedienwege, EinDoppelklickIstEinKlick) {
 
 TEST_F(Bedienwege, WasDieMausZeigtGehtMitIhr) {
     Modus("PunktartButton");
-    Bewege({600, 400});
+    BewegeMaus({600, 400});
     const QImage ohne = Gezeigt();
-    Bewege(A);
+    BewegeMaus(A);
     EXPECT_NE(Gezeigt(), ohne);
-    Verlasse();
+    VerlasseBild();
     EXPECT_EQ(Gezeigt(), ohne);
     EXPECT_TRUE(Status().startsWith(" M=1:")) << "no place any more";
     // The point that the window of kinds shows stays marked.
     Klick(A);
-    Verlasse();
+    VerlasseBild();
     EXPECT_NE(Gezeigt(), ohne);
-    Finde("TFormPunktart", "RadioGroupSymb5").click();
-    Finde("TFormPunktart", "DrawButton").click();
+    FindeTeil("TFormPunktart", "RadioGroupSymb5").click();
+    FindeTeil("TFormPunktart", "DrawButton").click();
     fenster.Rueckgaengig();
-    EXPECT_FALSE(Finde("TFormPunktart", "RadioGroupSymb5").isChecked()) << "the window follows";
+    EXPECT_FALSE(FindeTeil("TFormPunktart", "RadioGroupSymb5").isChecked()) << "the window follows";
 }
 
 TEST_F(Bedienwege, ZentrierenLaesstAndereSchritteRuecknehmbar) {
     const QStringList vorher = Figuren();
     VerbirgNummer("E");
     Modus("MovePktButton");
-    Ziehe(A, A + QPoint(40, 60));
+    ZieheMaus(A, A + QPoint(40, 60));
     Modus("DelPunktButton");
     Klick(C);  // the newest of two: D
     Modus("DelBeobButton");
@@ -112,37 +112,37 @@ TEST_F(Bedienwege, VielesAufEinmalZentrierenFragtVorher) {
     std::string datei = "$NT 3\n";
     for (int i = 10; i < 22; ++i)
         datei += "$FP " + std::to_string(i) + "             1 " + std::to_string(i * 100) + " 1000\n";
-    Lege("viele.EIN", datei);
-    Oeffne("viele.EIN");
+    LegeDateiAn("viele.EIN", datei);
+    OeffneDatei("viele.EIN");
     Modus("SpeedButton13");
-    Finde<QListView>("GroupBox1", "ExzListBox").selectAll();
-    Waehle("GroupBox1", "PZListBox", {"10"});
+    FindeTeil<QListView>("GroupBox1", "ExzListBox").selectAll();
+    WaehleTexte("GroupBox1", "PZListBox", {"10"});
     const std::string bytes = Gespeichert();
-    Finde("GroupBox1", "OkButton").click();
+    FindeTeil("GroupBox1", "OkButton").click();
     EXPECT_EQ(dialoge.fragen.size(), 1);
     EXPECT_EQ(Gespeichert(), bytes);
     EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox").size(), 12) << "nothing was done";
     dialoge.ja = true;
-    Finde("GroupBox1", "OkButton").click();
+    FindeTeil("GroupBox1", "OkButton").click();
     EXPECT_NE(Gespeichert(), bytes);
     // Keys without Ctrl are the list's own, and moving on in it moves the proposal.
     Neu();
-    auto& liste = Finde<QListView>("GroupBox1", "ExzListBox");
+    auto& liste = FindeTeil<QListView>("GroupBox1", "ExzListBox");
     QKeyEvent f(QEvent::ShortcutOverride, Qt::Key_F, Qt::NoModifier, "f");
     f.ignore();
     QCoreApplication::sendEvent(&liste, &f);
     EXPECT_TRUE(f.isAccepted());
     liste.setCurrentIndex(liste.model()->index(0, 0));
     QTest::keyClick(&liste, Qt::Key_Down);
-    EXPECT_EQ(Finde<QListView>("GroupBox1", "PZListBox").currentIndex().row(), 1);
+    EXPECT_EQ(FindeTeil<QListView>("GroupBox1", "PZListBox").currentIndex().row(), 1);
 }
 
 TEST_F(Bedienwege, EineNummerWirdAmGanzenTextGegriffen) {
-    Lege("lang.EIN", "$NT 3\n$FP LANGE_NUMMER   1 1000 1000\n    Z              1 3000 2000\n");
-    Oeffne("lang.EIN");
+    LegeDateiAn("lang.EIN", "$NT 3\n$FP LANGE_NUMMER   1 1000 1000\n    Z              1 3000 2000\n");
+    OeffneDatei("lang.EIN");
     const QPoint amEnde = Textort("LANGE_NUMMER") + QPoint(50, 6);
     Modus("MoveTextButton");
-    Ziehe(amEnde, amEnde + QPoint(30, 20));
+    ZieheMaus(amEnde, amEnde + QPoint(30, 20));
     EXPECT_EQ(Textort("LANGE_NUMMER"), amEnde + QPoint(-20, 14));
     Klick(amEnde);  // there is nothing now
     Kasten("CheckBoxALKKurz").setChecked(true);
@@ -159,16 +159,16 @@ TEST_F(Bedienwege, WasNichtZuSehenIstWirdGesagt) {
     NeuerPunkt(QString::fromUtf8("Ω7"), "1500", "1500");
     ASSERT_EQ(dialoge.meldungen.size(), 1);
     EXPECT_EQ(Punkt("?7"), nullptr);
-    Verbirg("E");
-    auto& versteckt = Finde<QListView>("TFormHiddenPkt", "ListBox1");
+    VerbirgPunkt("E");
+    auto& versteckt = FindeTeil<QListView>("TFormHiddenPkt", "ListBox1");
     const auto grau = [&] { return versteckt.model()->index(0, 0).data(Qt::ForegroundRole).isValid(); };
     EXPECT_FALSE(grau());
     emit Kind<QComboBox>("ComboBox1").textActivated("E");
     EXPECT_TRUE(Status().startsWith("Punkt E ist versteckt"));
     fenster.Rueckgaengig();
-    Verbirg("B");
+    VerbirgPunkt("B");
     dialoge.antwort = false;
-    Oeffne("a.EIN");
+    OeffneDatei("a.EIN");
     EXPECT_EQ(Eintraege("TFormHiddenPkt", "ListBox1"), QStringList{"B"});
     EXPECT_TRUE(grau()) << "not in this network";
 }
@@ -191,8 +191,8 @@ TEST_F(Bedienwege, DieLegendeStehtBeimZiehenStill) {
     const QRect ecke(0, 0, 120, 40);
     const QImage vorher = Gezeigt();
     Modus("PanButton");
-    Druecke({600, 400});
-    Bewege({500, 300});
+    DrueckeTaste({600, 400});
+    BewegeMaus({500, 300});
     EXPECT_EQ(Gezeigt().copy(ecke), vorher.copy(ecke));
     EXPECT_NE(Gezeigt(), vorher);
     Taste(Qt::Key_Escape);
@@ -200,27 +200,28 @@ TEST_F(Bedienwege, DieLegendeStehtBeimZiehenStill) {
 }
 
 TEST_F(Bedienwege, AllesDarstellenTrautFremdenAusdehnungenNicht) {
-    Speichere("p.ZRW");
+    SpeichereDatei("p.ZRW");
     const std::string gut = [&] {
         std::ifstream datei(ordner.filePath("p.ZRW").toStdString(), std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(datei), {});
     }();
     for (const auto& [von, bytes] : {std::pair{8, 32}, {8, 8}, {24, 8}}) {  // all four; MaxXW; MaxYW
-        Lege("q.ZRW", std::string(gut).replace(static_cast<std::size_t>(von), static_cast<std::size_t>(bytes),
-                                               static_cast<std::size_t>(bytes), '\0'));
-        Oeffne("q.ZRW");
+        LegeDateiAn("q.ZRW",
+                    std::string(gut).replace(static_cast<std::size_t>(von), static_cast<std::size_t>(bytes),
+                                             static_cast<std::size_t>(bytes), '\0'));
+        OeffneDatei("q.ZRW");
         Knopf("SpeedButton3").click();
         for (const char* nummer : {"A", "B", "C", "E"})
             EXPECT_TRUE(bild->rect().contains(Ort(nummer))) << nummer << " " << von;
     }
-    Speichere(std::nullopt);
+    SpeichereDatei(std::nullopt);
     EXPECT_EQ(dialoge.wahlen.back().vorschlag, "q.ZRW") << "the name of the picture file";
 }
 
 TEST_F(Bedienwege, OffeneEinstellungenWerdenVorDemLesenGesichert) {
     Knopf("ColorButton").click();
-    Finde<QSpinBox>("TZRWParameter", "SpinEdit3").setValue(17);
-    Oeffne("a.EIN");
+    FindeTeil<QSpinBox>("TZRWParameter", "SpinEdit3").setValue(17);
+    OeffneDatei("a.EIN");
     EXPECT_EQ(einstellungen.Fang, 17);
     EXPECT_EQ(ablage.werte["Fang"], "17");
 }

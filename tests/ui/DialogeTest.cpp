@@ -23,18 +23,18 @@ namespace zrw {
 namespace {
 
 template <class Teil = QAbstractButton>
-Teil& Finde(const QWidget& dialog, const char* name) {
+Teil& FindeTeil(const QWidget& dialog, const char* name) {
     auto* teil = dialog.findChild<Teil*>(name);
     if (teil == nullptr) throw std::runtime_error(std::string("no component ") + name);
     return *teil;
 }
 
-void Klicke(const QWidget& dialog, std::initializer_list<const char*> namen) {
+void KlickeKnoepfe(const QWidget& dialog, std::initializer_list<const char*> namen) {
     for (const char* name : namen)
-        Finde(dialog, name).click();
+        FindeTeil(dialog, name).click();
 }
 
-void Waehle(const QListView& liste, std::initializer_list<int> zeilen) {
+void WaehleZeilen(const QListView& liste, std::initializer_list<int> zeilen) {
     for (const int zeile : zeilen)
         liste.selectionModel()->select(liste.model()->index(zeile, 0), QItemSelectionModel::Select);
 }
@@ -75,7 +75,7 @@ TEST(TFormBeobTyp, GpsNieIndirekt) {
     Antwortdienst dialoge;
     TFormBeobTyp form(dialoge, nullptr);
     form.ZeigeWahl({0, false, true, false, 2});
-    Klicke(form, {"CheckBoxInd"});
+    KlickeKnoepfe(form, {"CheckBoxInd"});
     EXPECT_EQ(dialoge.gesagt, QStringList{"GPS indirekt nicht möglich!"});
     EXPECT_EQ(form.Wahl(), (Beobachtungswahl{0, false, true, false, 2}));
 }
@@ -94,18 +94,18 @@ TEST(TFormPunktart, FremdesSymbolUndArtNachFarbe) {
 TEST(TFormHidePunkte, GefiltertSortiertUndMitAllenPunktenSchnell) {
     TFormHidePunkte form(nullptr);
     TFormHiddenPkt versteckt(nullptr);
-    auto& liste = Finde<QListView>(form, "ListBoxPkt");
+    auto& liste = FindeTeil<QListView>(form, "ListBoxPkt");
     form.verstecken = [&](const QStringList& nummern) { versteckt.NimmNummern(nummern); };
     form.FuelleListe({"B2", "a1", "C3", "A4"});
-    Waehle(liste, {3, 0, 1});
-    QTest::keyClicks(&Finde<QLineEdit>(form, "FilterPkt"), "A");
-    Klicke(form, {"Button1", "Button1"});
+    WaehleZeilen(liste, {3, 0, 1});
+    QTest::keyClicks(&FindeTeil<QLineEdit>(form, "FilterPkt"), "A");
+    KlickeKnoepfe(form, {"Button1", "Button1"});
     EXPECT_EQ(versteckt.Nummern(), (QStringList{"a1", "a1", "A4", "A4"}));
-    Waehle(Finde<QListView>(versteckt, "ListBox1"), {1, 2});
+    WaehleZeilen(FindeTeil<QListView>(versteckt, "ListBox1"), {1, 2});
     versteckt.NimmNummer("a0");  // what is selected stays selected around it
     QStringList gezeigt;
     versteckt.zeige = [&](const QString& nummer) { gezeigt << nummer; };
-    Klicke(versteckt, {"UnhiddenButton"});
+    KlickeKnoepfe(versteckt, {"UnhiddenButton"});
     EXPECT_EQ(gezeigt, (QStringList{"a1", "A4"}));
 
     QStringList viele;
@@ -116,9 +116,9 @@ TEST(TFormHidePunkte, GefiltertSortiertUndMitAllenPunktenSchnell) {
     uhr.start();
     form.FuelleListe(viele);
     EXPECT_FALSE(liste.isRowHidden(0)) << "new entries, no filter";
-    QTest::keyClicks(&Finde<QLineEdit>(form, "FilterPkt"), "1\b");
+    QTest::keyClicks(&FindeTeil<QLineEdit>(form, "FilterPkt"), "1\b");
     liste.selectAll();
-    Klicke(form, {"Button1"});
+    KlickeKnoepfe(form, {"Button1"});
     QCoreApplication::processEvents();
     EXPECT_LT(uhr.elapsed(), 1000);
     EXPECT_EQ(versteckt.Nummern().size(), 65535 + 3);
@@ -143,7 +143,7 @@ TEST_F(Parameter, JedesFeldAendertSeineEinstellungSofort) {
         {"PPPanel", &E::PPCol},     {"LGResPanel", &E::LGRCol}, {"HresPanel", &E::HRCol},
         {"LGGenPanel", &E::LGGCol}, {"HgenPanel", &E::HGCol},   {"GFPanel", &E::GFCol}};
     for (const auto& [name, feld] : felder) {
-        auto& panel = dynamic_cast<Farbfeld&>(Finde(*form, name));
+        auto& panel = dynamic_cast<Farbfeld&>(FindeTeil(*form, name));
         dialoge.farbe = Farbe{++farbe};
         QTest::keyClick(&panel, Qt::Key_Space);
         dialoge.farbe.reset();
@@ -154,7 +154,7 @@ TEST_F(Parameter, JedesFeldAendertSeineEinstellungSofort) {
     EXPECT_EQ(e.TXCol.wert, 0x102031U) << "no panel has changed another's";
     int zahl = 10;
     for (const char* name : {"SpinEdit1", "SpinEdit2", "SpinEdit3", "SpinEdit4", "SpinEdit5"})
-        Finde<QSpinBox>(*form, name).setValue(++zahl);
+        FindeTeil<QSpinBox>(*form, name).setValue(++zahl);
     EXPECT_TRUE(e.PTSize == 11 && e.HPSize == 12 && e.Fang == 13 && e.PXOff == 14 && e.PYOff == 15);
 
     // What another part of the program changed is shown on activation, and not cut to the range by that.
@@ -162,12 +162,12 @@ TEST_F(Parameter, JedesFeldAendertSeineEinstellungSofort) {
     e.PXOff = -7;
     QEvent aktiv(QEvent::WindowActivate);
     QCoreApplication::sendEvent(form, &aktiv);
-    EXPECT_EQ(Finde<QSpinBox>(*form, "SpinEdit4").value(), -7);
+    EXPECT_EQ(FindeTeil<QSpinBox>(*form, "SpinEdit4").value(), -7);
     EXPECT_EQ(e.PTSize, 300);
 }
 
 TEST_F(Parameter, ZoomfaktorWirdBeimTippenGeprueft) {
-    auto& feld = Finde<QLineEdit>(*form, "EditZoomfaktor");
+    auto& feld = FindeTeil<QLineEdit>(*form, "EditZoomfaktor");
     EXPECT_EQ(feld.text(), "1.5");
     const QColor normal = feld.palette().color(QPalette::Base);
     for (const char* text : {"1.01", "100", "2.5"}) {
@@ -186,7 +186,7 @@ TEST_F(Parameter, ResiduenmassstabBeimVerlassenUndSichernBeimSchliessen) {
     form->geschlossen = [&] { gesichert += ablage.geschrieben.size(); };
     form->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    auto& feld = Finde<QLineEdit>(*form, "EditMFRes");
+    auto& feld = FindeTeil<QLineEdit>(*form, "EditMFRes");
     EXPECT_EQ(feld.text(), "1");
     const auto tippe = [&](const char* text) {
         feld.setFocus();
@@ -217,8 +217,8 @@ TEST_F(Parameter, ResiduenmassstabBeimVerlassenUndSichernBeimSchliessen) {
 
 TEST(TAboutBox, NenntVersionUndZeigtDasBild) {
     const TAboutBox box("1.2", nullptr);
-    EXPECT_EQ(Finde<QLabel>(box, "VersionLabel").text(), "Version 1.2");
-    EXPECT_FALSE(Finde<QLabel>(box, "ProgramIcon").pixmap().toImage().allGray());
+    EXPECT_EQ(FindeTeil<QLabel>(box, "VersionLabel").text(), "Version 1.2");
+    EXPECT_FALSE(FindeTeil<QLabel>(box, "ProgramIcon").pixmap().toImage().allGray());
 }
 
 }  // namespace

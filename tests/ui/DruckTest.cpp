@@ -15,7 +15,7 @@ class Druckfenster : public Fensterprobe {
     }
     /// The sheet of 1200 x 900 dots, 0.0508 M by 0.0381 M metres, is so many pixels wide.
     void Blattbreite(double pixel) const { Massstab(fenster.Netz()->Faktor * pixel / 0.0508); }
-    void Drucke() const { Knopf("SpeedButton5").click(); }
+    void DruckePlan() const { Knopf("SpeedButton5").click(); }
     static bool Leer(const QImage& blatt) {
         QImage weiss(blatt.size(), blatt.format());
         weiss.fill(Qt::white);
@@ -32,20 +32,20 @@ TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
         Kasten(kasten).click();
     const Stand vorher = Jetzt();
     drucker.angenommen = false;
-    Drucke();
+    DruckePlan();
     EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled";
     drucker.angenommen = true;
     Massstab(2000000);
-    Drucke();
+    DruckePlan();
     ASSERT_EQ(drucker.titel, QStringList("Zarwik NETZ.EIN"));
     EXPECT_TRUE(dialoge.fragen.isEmpty()) << "it fits one sheet";
     EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
     drucker.kaputt = true;
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(dialoge.meldungen, QStringList("Papierstau."));
     EXPECT_TRUE(Jetzt() == vorher);
     Massstab(0);
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(drucker.titel.size(), 2) << "no job without a scale";
 }
 
@@ -53,11 +53,11 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     fenster.OeffneDatei(kBeispiel);
     const QImage vorher = fenster.Bild().copy();
     Blattbreite(100);
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(dialoge.fragen.size(), 1);
     EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled at the question";
     dialoge.antwort = true;
-    Drucke();
+    DruckePlan();
     const auto blaetter = drucker.blaetter;
     ASSERT_GT(blaetter.size(), 20);
     ASSERT_LT(blaetter.size(), 60) << "corners of the plot hold nothing";
@@ -65,12 +65,12 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
         EXPECT_FALSE(Leer(b));
     for (int i = 0; i < 3; ++i)
         Taste(Qt::Key_Right);
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(drucker.blaetter, blaetter) << "wherever the picture stands";
     for (int i = 0; i < 3; ++i)
         Taste(Qt::Key_Left);
     dialoge.antwort = false;
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(drucker.blaetter.size(), 1) << "the sheet of the output area";
     Knopf("VorschauButton").click();
     EXPECT_EQ(drucker.blaetter, blaetter) << "the preview shows what would be printed";
@@ -82,17 +82,17 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     for (int i = 0; i < 20; ++i)
         Taste(Qt::Key_Left);
     const auto fragen = dialoge.fragen.size();
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(dialoge.fragen.size(), fragen + 1);
     EXPECT_TRUE(Leer(drucker.blaetter.at(0))) << "No: the sheet in the corner";
     dialoge.antwort = true;
-    Drucke();
+    DruckePlan();
     ASSERT_EQ(drucker.blaetter.size(), 1);
     EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
     dialoge.antwort = false;
     // Thousands of sheets are no offer.
     Massstab(10);
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(drucker.blaetter.size(), 1);
 }
 
@@ -124,20 +124,20 @@ TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
     const auto rot = [this](QPoint ort) { return bild->grab().toImage().pixelColor(ort) == QColor(Qt::red); };
     const QPoint leer{bild->width() - 30, 40};  // beside the network
     dialoge.antwort = false;
-    Drucke();
+    DruckePlan();
     const QImage ecke = drucker.blaetter.at(0);
 
-    Bewege({200, 60});
+    BewegeMaus({200, 60});
     EXPECT_EQ(bild->cursor().shape(), Qt::SizeAllCursor);
-    Druecke({200, 60});
-    Bewege({300, 260});
+    DrueckeTaste({200, 60});
+    BewegeMaus({300, 260});
     EXPECT_TRUE(rot({300, 260}));
     Taste(Qt::Key_Escape);
     EXPECT_TRUE(rot({200, 60})) << "put back";
-    Lass({300, 260});
-    Ziehe({200, 60}, {300, 260});
+    LassTasteLos({300, 260});
+    ZieheMaus({200, 60}, {300, 260});
     EXPECT_TRUE(rot({300, 260}));
-    Drucke();
+    DruckePlan();
     EXPECT_NE(drucker.blaetter.at(0), ecke) << "another part of the plot";
 
     // A legend within the frame stands there on the paper: here in its very corner.
@@ -145,7 +145,7 @@ TEST_F(Druckfenster, RahmenWirdGezogenUndBestimmtDasBlatt) {
     liste.ShowLegende = true;
     liste.Legend->XO = 112;  // 12 px right of the frame of 200 px for 1200 dots
     liste.Legend->YO = 212;
-    Drucke();
+    DruckePlan();
     EXPECT_EQ(drucker.blaetter.at(0).pixelColor(72 + 300, 72 - 12), QColor(Qt::black))
         << "upper edge of its box";
     liste.ShowLegende = false;

@@ -46,7 +46,7 @@ class Ergebnisfenster : public Netzprobe {
         punkt[7] = 40.0;
         punkt[8] = 0.0;
         Tabelle(zrw::Tabelle::Koordinaten, {punkt});
-        Oeffne("n.EIN");
+        OeffneDatei("n.EIN");
     }
     void Tabelle(zrw::Tabelle t, const std::vector<std::vector<Wert>>& zeilen) {
         ErzeugeTabelle(dateien, ordner.path().toStdString(), t, zeilen, 0);
@@ -129,7 +129,7 @@ TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
     Reiter(2);
     ASSERT_EQ(Gitter().model()->rowCount(), 2);
     // Damaged after it was read: the old rows answer, those of the right point.
-    Lege("STRTABLE.DB", "halb");
+    LegeDateiAn("STRTABLE.DB", "halb");
     Klick(A);
     QCoreApplication::processEvents();
     EXPECT_EQ(Fenster().windowTitle(), "Abriss nach der Ausgleichung Punkt A");
@@ -139,7 +139,7 @@ TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
     Klick(E);
     EXPECT_EQ(Gitter().model()->rowCount(), 2) << "the click after the message counts";
     // Damaged before it was ever read: nothing is listed.
-    Lege("DHTABLE.DB", "halb");
+    LegeDateiAn("DHTABLE.DB", "halb");
     Reiter(3);
     EXPECT_EQ(Gitter().model()->rowCount(), 0);
     QCoreApplication::processEvents();
@@ -152,7 +152,7 @@ TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {
                                             {"PKT", paradox::Feldtyp::Alpha, 14}};
     const auto paar =
         paradox::SchreibeTabelle("KOO", felder, std::vector<std::vector<Wert>>{{std::int64_t{1}, "E"}}, 0);
-    Lege("KooTABLE.DB", paar.db);
+    LegeDateiAn("KooTABLE.DB", paar.db);
     Klick(E);
     ASSERT_EQ(Gitter().model()->rowCount(), 1);
     EXPECT_EQ(Gitter().columnWidth(1), 333);
@@ -172,7 +172,7 @@ TEST_F(Ergebnisfenster, DieWahlEinerNummerListetUndDieMausVerbirgt) {
     auto& nummern = Kind<QComboBox>("ComboBox1");
     emit nummern.textActivated("E");
     EXPECT_TRUE(Fenster().isVisible());
-    Bewege({30, 30});
+    BewegeMaus({30, 30});
     EXPECT_FALSE(Fenster().isVisible());
     for (const char* tafel : {"KooTABLE.DB", "STRTABLE.DB", "GPSTABLE.DB"})
         QFile::remove(ordner.filePath(tafel));
@@ -197,7 +197,7 @@ TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
 
     // The other program rewrites the table: told once, outside the drawing.
     kasten.click();
-    Lege("KooTABLE.DB", "halb");
+    LegeDateiAn("KooTABLE.DB", "halb");
     Knopf("SpeedButton3").click();
     Knopf("SpeedButton3").click();
     QCoreApplication::processEvents();
@@ -208,10 +208,10 @@ TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
 TEST_F(Ergebnisfenster, TabellenLiegenBeiDerDateiDieZuletztGeoeffnetOderGespeichertWurde) {
     QTemporaryDir anderswo;
     ablage.werte["TAVELIN"] = anderswo.path().toStdString();  // counts before anything is opened
-    Speichere("plan.ZRW");
+    SpeichereDatei("plan.ZRW");
     EXPECT_TRUE(daten.Vorhanden("STRTable.DB"));
     EXPECT_FALSE(Status().contains("gesucht")) << "the same folder";
-    Oeffne("plan.ZRW");
+    OeffneDatei("plan.ZRW");
     EXPECT_TRUE(daten.Vorhanden("STRTable.DB"));
     EXPECT_TRUE(Markiert("C", "E")) << "the picture carries its marks";
     dialoge.datei = anderswo.filePath("plan.ZRW");

@@ -42,10 +42,10 @@ class Fensterprobe : public testing::Test {
         bild = fenster.findChild<QWidget*>("ImageZarwik");
     }
 
-    void Lege(const QString& name, const std::string& inhalt) const {
+    void LegeDateiAn(const QString& name, const std::string& inhalt) const {
         std::ofstream(ordner.filePath(name).toStdString(), std::ios::binary) << inhalt;
     }
-    void Oeffne(const QString& name) { fenster.OeffneDatei(ordner.filePath(name).toStdString()); }
+    void OeffneDatei(const QString& name) { fenster.OeffneDatei(ordner.filePath(name).toStdString()); }
     template <class Teil>
     [[nodiscard]] Teil& Kind(const char* name) const {
         return *fenster.findChild<Teil*>(name);
@@ -54,28 +54,28 @@ class Fensterprobe : public testing::Test {
     [[nodiscard]] QCheckBox& Kasten(const char* name) const { return Kind<QCheckBox>(name); }
     void Modus(const char* knopf) const { Knopf(knopf).setChecked(true); }
     /// Saves as a picture file of that name, or not at all.
-    void Speichere(const std::optional<QString>& name) {
+    void SpeichereDatei(const std::optional<QString>& name) {
         dialoge.datei = name ? std::optional(ordner.filePath(*name)) : std::nullopt;
         Knopf("SpeedButton9").click();
     }
     [[nodiscard]] QString Status() const { return fenster.statusBar()->currentMessage(); }
     void Taste(Qt::Key taste) const { QTest::keyClick(bild, taste); }
-    void Bewege(QPoint ort) const { QTest::mouseMove(bild, ort); }
-    void Druecke(QPoint ort, Qt::MouseButton taste = Qt::LeftButton) const {
+    void BewegeMaus(QPoint ort) const { QTest::mouseMove(bild, ort); }
+    void DrueckeTaste(QPoint ort, Qt::MouseButton taste = Qt::LeftButton) const {
         QTest::mousePress(bild, taste, {}, ort);
     }
-    void Lass(QPoint ort, Qt::MouseButton taste = Qt::LeftButton) const {
+    void LassTasteLos(QPoint ort, Qt::MouseButton taste = Qt::LeftButton) const {
         QTest::mouseRelease(bild, taste, {}, ort);
     }
     void Klick(QPoint ort, Qt::MouseButton taste = Qt::LeftButton) const {
-        Druecke(ort, taste);
-        Lass(ort, taste);
+        DrueckeTaste(ort, taste);
+        LassTasteLos(ort, taste);
     }
-    void Ziehe(QPoint von, QPoint nach) const {
-        Druecke(von);
-        Bewege((von + nach) / 2);
-        Bewege(nach);
-        Lass(nach);
+    void ZieheMaus(QPoint von, QPoint nach) const {
+        DrueckeTaste(von);
+        BewegeMaus((von + nach) / 2);
+        BewegeMaus(nach);
+        LassTasteLos(nach);
     }
     void Rad(QPoint ort, int schritte) const {
         QWheelEvent e(ort, bild->mapToGlobal(ort), {}, {0, schritte * 120}, Qt::NoButton, Qt::NoModifier,

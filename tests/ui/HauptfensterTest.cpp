@@ -23,9 +23,9 @@ TEST_F(Hauptfenster, OhneNetzTutKeinHandlerEtwas) {
         kasten->toggle();
     Rad({100, 100}, 3);
     for (const auto taste : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
-        Druecke({10, 10}, taste);
-        Bewege({20, 20});
-        Lass({20, 20}, taste);
+        DrueckeTaste({10, 10}, taste);
+        BewegeMaus({20, 20});
+        LassTasteLos({20, 20}, taste);
     }
     fenster.resize(300, 300);
     EXPECT_EQ(fenster.Netz(), nullptr);
@@ -50,18 +50,18 @@ TEST_F(Hauptfenster, FehlerLassenDasNetzStehen) {
     const QImage bildVorher = fenster.Bild().copy();
     const QString titel = fenster.windowTitle();
 
-    Oeffne("fehlt.EIN");
+    OeffneDatei("fehlt.EIN");
     EXPECT_TRUE(dialoge.meldungen.isEmpty()) << "a control file that cannot be opened shows no box";
     EXPECT_TRUE(Status().contains("fehlt.EIN")) << Status().toStdString();
-    Lege("kaputt.EIN", "$NT 1\n$EL x\n");
-    Oeffne("kaputt.EIN");
+    LegeDateiAn("kaputt.EIN", "$NT 1\n$EL x\n");
+    OeffneDatei("kaputt.EIN");
     ASSERT_EQ(dialoge.meldungen.size(), 1);
     EXPECT_TRUE(dialoge.meldungen[0].contains("kaputt.EIN, Zeile 2"));
-    Lege("kurz.zrw", std::string(90, '\1'));
-    Oeffne("kurz.zrw");
-    Oeffne("fehlt.zrw");
-    Lege("leer.EIN", "$NT 3\n");
-    Oeffne("leer.EIN");
+    LegeDateiAn("kurz.zrw", std::string(90, '\1'));
+    OeffneDatei("kurz.zrw");
+    OeffneDatei("fehlt.zrw");
+    LegeDateiAn("leer.EIN", "$NT 3\n");
+    OeffneDatei("leer.EIN");
     EXPECT_EQ(dialoge.meldungen.size(), 4);
     EXPECT_FALSE(sitzung.LetzteDateien().front().endsWith("leer.EIN"));
 
@@ -98,8 +98,8 @@ TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
     std::string inhalt = "$NT 1\n$FP";
     for (int i = 0; i < 25; ++i)
         inhalt += "    P" + std::to_string(i) + "            x\n";
-    Lege("n.EIN", inhalt);
-    Oeffne("n.EIN");
+    LegeDateiAn("n.EIN", inhalt);
+    OeffneDatei("n.EIN");
     ASSERT_EQ(dialoge.meldungen.size(), 1);
     const QString& text = dialoge.meldungen[0];
     EXPECT_TRUE(text.contains("Lesefehler bei PunktP0\nn.EIN, Zeile 2: Punktcode \"x\" ist keine ganze Zahl"))
@@ -110,8 +110,8 @@ TEST_F(Hauptfenster, VieleMeldungenInEinemFenster) {
 
 TEST_F(Hauptfenster, FehlendeKoordinatendateiBeendetDasProgrammNachDerFrage) {
     fenster.OeffneDatei(kBeispiel);
-    Lege("k.EIN", "$NT 1\n$FP A              1 1 1\n$KF fehlt.KF\n");
-    Oeffne("k.EIN");
+    LegeDateiAn("k.EIN", "$NT 1\n$FP A              1 1 1\n$KF fehlt.KF\n");
+    OeffneDatei("k.EIN");
     EXPECT_EQ(dialoge.meldungen,
               QStringList{"Kann Datei fehlt.KF nicht öffnen!\nk.EIN, Zeile 3: nicht vorhanden"});
     EXPECT_EQ(dialoge.fragen, QStringList{"Zarwik speichern"});
@@ -144,17 +144,17 @@ TEST_F(Hauptfenster, BildVerschieben) {
         fenster.OeffneDatei(kBeispiel);
         Knopf("PanButton").setChecked(werkzeug);
         const QPoint vorher = Punkt();
-        Druecke({200, 200}, taste);
-        Bewege({230, 190});
-        Lass({260, 175}, taste);
+        DrueckeTaste({200, 200}, taste);
+        BewegeMaus({230, 190});
+        LassTasteLos({260, 175}, taste);
         EXPECT_EQ(Punkt() - vorher, weg) << werkzeug << " " << taste;
     }
 }
 
 TEST_F(Hauptfenster, StatuszeileZeigtWeltUndMassstab) {
-    Lege("n.EIN", "$NT 1\n$PF 1\n$FP A              1 5600000 3500000\n");
-    Oeffne("n.EIN");
-    Bewege({100, 60});
+    LegeDateiAn("n.EIN", "$NT 1\n$PF 1\n$FP A              1 5600000 3500000\n");
+    OeffneDatei("n.EIN");
+    BewegeMaus({100, 60});
     const Liste& l = *fenster.Netz();
     const double faktor = l.Faktor;
     EXPECT_EQ(Status(), QString("%1 %2  M=1:%3")
@@ -178,7 +178,7 @@ TEST_F(Hauptfenster, KaestenSchaltenDieDarstellung) {
 TEST_F(Hauptfenster, SpeichernUndWiederLesen) {
     fenster.OeffneDatei(kBeispiel);
     const double faktor = fenster.Netz()->Faktor;
-    Speichere("bild.ZRW");
+    SpeichereDatei("bild.ZRW");
     EXPECT_EQ(dialoge.wahlen.back().vorschlag, "NETZ");
     Kasten("CheckBoxBeob").setChecked(false);
     Knopf("SpeedButton2").click();
@@ -187,7 +187,7 @@ TEST_F(Hauptfenster, SpeichernUndWiederLesen) {
     EXPECT_EQ(fenster.Netz()->Faktor, faktor);
     EXPECT_TRUE(fenster.Netz()->ShowBeob) << "reading a picture file switches the observations on";
     EXPECT_TRUE(dialoge.meldungen.isEmpty());
-    Speichere("fehlt/bild.ZRW");
+    SpeichereDatei("fehlt/bild.ZRW");
     EXPECT_EQ(dialoge.meldungen.size(), 1);
 }
 
@@ -219,7 +219,7 @@ class Exportfenster : public Hauptfenster {
     ~Exportfenster() override { QDir::setCurrent(vorher_); }
 
     QLineEdit& Feld() const { return Kind<QLineEdit>("EditMasstab"); }
-    void Tippe(const char* text) const {
+    void TippeText(const char* text) const {
         Feld().selectAll();
         QTest::keyClicks(&Feld(), text);
     }
@@ -260,15 +260,15 @@ TEST_F(Exportfenster, SchreibtBeideDateienUndAendertNichts) {
 TEST_F(Exportfenster, MassstabfeldNimmtNurPositiveZahlen) {
     fenster.OeffneDatei(kBeispiel);
     EXPECT_EQ(Feld().text(), "25000");
-    Tippe("-a1,e5.0 0:0");
+    TippeText("-a1,e5.0 0:0");
     EXPECT_EQ(Feld().text(), "15.000");
-    Tippe("0");
+    TippeText("0");
     Knopf("SpeedButton16").click();
     EXPECT_EQ(dialoge.meldungen, QStringList{"Der Druckmaßstab muss eine Zahl größer als 0 sein."});
     EXPECT_EQ(Inhalt("ZRW.PLT"), "fehlt");
     QTest::keyClick(&Feld(), Qt::Key_Return);
     EXPECT_EQ(Feld().text(), "25000") << "what is no scale does not stay in the field";
-    Tippe("500\r");
+    TippeText("500\r");
     Feld().clear();
     QTest::keyClick(&Feld(), Qt::Key_Return);
     EXPECT_EQ(Feld().text(), "500");
@@ -305,25 +305,25 @@ TEST_F(Exportfenster, LegendeMitTextenUndMassstab) {
     // Dragged by its corner while no tool is down; Escape puts it back.
     const QImage mit = fenster.Bild().copy();
     const double links = fenster.Netz()->XOffset;
-    Bewege({4, 5});
+    BewegeMaus({4, 5});
     EXPECT_EQ(bild->cursor().shape(), Qt::SizeAllCursor);
-    Druecke({4, 5});
+    DrueckeTaste({4, 5});
     EXPECT_TRUE(l.Move);
-    Bewege({104, 205});
+    BewegeMaus({104, 205});
     EXPECT_EQ(fenster.Bild(), ohne) << "no traces of the legend on its way";
     EXPECT_EQ(bild->grab().toImage().pixelColor(130, 200), QColor(Qt::black)) << "its frame, as a preview";
     Taste(Qt::Key_Escape);
     EXPECT_EQ(l.Position(), (Bildpunkt{2, 2}));
     EXPECT_EQ(fenster.Bild(), mit);
-    Lass({104, 205});
-    Druecke({4, 5});
-    Lass({104, 205});
+    LassTasteLos({104, 205});
+    DrueckeTaste({4, 5});
+    LassTasteLos({104, 205});
     EXPECT_EQ(l.Position(), (Bildpunkt{102, 202}));
     EXPECT_FALSE(l.Move);
     Knopf("PanButton").setChecked(true);
-    Druecke({102, 202});
+    DrueckeTaste({102, 202});
     EXPECT_FALSE(l.Move) << "the tool has the mouse";
-    Lass({102, 202});
+    LassTasteLos({102, 202});
     EXPECT_EQ(fenster.Netz()->XOffset, links) << "the view has not moved";
 
     // The export names the scale of the print in the next picture, and is not in the files.
@@ -348,8 +348,8 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
         EXPECT_EQ(fenster.Bild(), ohne) << name;
     }
     tk25.click();
-    Lege("n.EIN", "$NT 1\n$FP A              1 5600000 3500000\n");
-    Oeffne("n.EIN");
+    LegeDateiAn("n.EIN", "$NT 1\n$FP A              1 5600000 3500000\n");
+    OeffneDatei("n.EIN");
     EXPECT_TRUE(tk25.isChecked()) << "the box stays";
     EXPECT_FALSE(fenster.Netz()->ShowGitter);
     Kasten("CheckBoxKMQ").click();
@@ -358,10 +358,10 @@ TEST_F(Hauptfenster, KartengitterNurFuerNetzeInDerKartenprojektion) {
     fenster.OeffneDatei(kBeispiel);
     EXPECT_TRUE(fenster.Netz()->ShowGitter);
     EXPECT_TRUE(Kasten("CheckBoxBlattschnitt").isHidden());
-    Lege("g.EIN",
-         "$NT 7\n$EL 5\n$KS 9 1\n$FP A              1 3951726.0582 650661.4740 4947789.9729\n"
-         "    B              1 3972637.1050 629203.9045 4933700.0494\n");
-    Oeffne("g.EIN");
+    LegeDateiAn("g.EIN",
+                "$NT 7\n$EL 5\n$KS 9 1\n$FP A              1 3951726.0582 650661.4740 4947789.9729\n"
+                "    B              1 3972637.1050 629203.9045 4933700.0494\n");
+    OeffneDatei("g.EIN");
     EXPECT_TRUE(Status().contains("Blattschnitt in der Abbildung der Punkte")) << Status().toStdString();
     ASSERT_FALSE(Kasten("CheckBoxBlattschnitt").isHidden());
     const QImage daneben = fenster.Bild().copy();

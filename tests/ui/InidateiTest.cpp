@@ -22,7 +22,7 @@ namespace {
 
 class InidateiTest : public testing::Test {
   protected:
-    void Lege(const std::string& inhalt) const {
+    void LegeDateiAn(const std::string& inhalt) const {
         std::ofstream(name.toStdString(), std::ios::binary) << inhalt;
     }
     [[nodiscard]] std::string Inhalt() const {
@@ -67,14 +67,14 @@ TEST_F(InidateiTest, FremdeWerteWerdenNieEntschluesselt) {
     for (const char* wert :
          {"@Variant(\\0\\0\\0\\b\\x7f\\xff\\xff\\xff)", "\\x40Variant(\\0\\0\\0\\b\\x7f\\xff\\xff\\xff)",
           "\"@Varia\"nt(x)", "@Size(1 1)", "@ByteArray(\\x1)", "@Invalid()"}) {
-        Lege(std::string("[S]\nx=") + wert + "\ny=7\n");
+        LegeDateiAn(std::string("[S]\nx=") + wert + "\ny=7\n");
         EXPECT_EQ(Inidatei(name, "S").LiesTexte("x"), QStringList()) << wert;
         EXPECT_EQ(Inidatei(name, "S").LiesTexte("y"), QStringList("7")) << wert;
     }
 }
 
 TEST_F(InidateiTest, WasAnderenGehoertBleibt) {
-    Lege("; von Hand\n\n[A]\nx=1\r\nunlesbar\n[B]\nx = 2\n\n[C]\nx=3");
+    LegeDateiAn("; von Hand\n\n[A]\nx=1\r\nunlesbar\n[B]\nx = 2\n\n[C]\nx=3");
     Inidatei eine(name, "B");
     Inidatei andere(name, "B");
     eine.SetzeTexte("x", {"20"});
@@ -126,7 +126,7 @@ TEST_F(InidateiTest, UnlesbaresHaeltNichtAufUndBleibt) {
 }
 
 TEST_F(InidateiTest, ZuGrossesErsetztNurWerSpeichert) {
-    Lege("[ZRWPAR]\nFang=9\n" + std::string(2 << 20, ';'));
+    LegeDateiAn("[ZRWPAR]\nFang=9\n" + std::string(2 << 20, ';'));
     Sitzung(name).MerkeOrdner("weg");
     Einstellungsablage ablage(name);
     ASSERT_TRUE(ablage.Lesefehler());

@@ -33,9 +33,9 @@ class Netzprobe : public Fensterprobe {
 
     Netzprobe() {
         Bildgroesse({800, 530});
-        Lege("n.EIN", kNetz);
-        Lege("a.EIN", kAnderes);
-        Oeffne("n.EIN");
+        LegeDateiAn("n.EIN", kNetz);
+        LegeDateiAn("a.EIN", kAnderes);
+        OeffneDatei("n.EIN");
     }
 
     void Bildgroesse(QSize groesse) {
@@ -124,21 +124,21 @@ class Netzprobe : public Fensterprobe {
     }
 
     template <class Teil = QAbstractButton>
-    [[nodiscard]] Teil& Finde(const char* dialog, const char* name) const {
+    [[nodiscard]] Teil& FindeTeil(const char* dialog, const char* name) const {
         auto* teil = fenster.findChild<QWidget*>(dialog)->findChild<Teil*>(name);
         if (teil == nullptr) throw std::runtime_error(std::string("no component ") + name);
         return *teil;
     }
     [[nodiscard]] QStringList Eintraege(const char* kasten, const char* liste) const {
-        const QAbstractItemModel& modell = *Finde<QListView>(kasten, liste).model();
+        const QAbstractItemModel& modell = *FindeTeil<QListView>(kasten, liste).model();
         QStringList texte;
         for (int i = 0; i < modell.rowCount(); ++i)
             texte << modell.index(i, 0).data().toString();
         return texte;
     }
     /// Selects exactly these entries.
-    void Waehle(const char* kasten, const char* liste, const QStringList& texte) const {
-        auto& ansicht = Finde<QListView>(kasten, liste);
+    void WaehleTexte(const char* kasten, const char* liste, const QStringList& texte) const {
+        auto& ansicht = FindeTeil<QListView>(kasten, liste);
         ansicht.clearSelection();
         for (int i = 0; i < ansicht.model()->rowCount(); ++i) {
             const QModelIndex stelle = ansicht.model()->index(i, 0);
@@ -146,16 +146,16 @@ class Netzprobe : public Fensterprobe {
                 ansicht.selectionModel()->select(stelle, QItemSelectionModel::Select);
         }
     }
-    void Zeichne(const QString& nummer, const QString& rechts, const QString& hoch) const {
-        Finde<QLineEdit>("TFormPunktart", "PktNummer").setText(nummer);
-        Finde<QLineEdit>("TFormPunktart", "PktY").setText(rechts);
-        Finde<QLineEdit>("TFormPunktart", "PktX").setText(hoch);
-        Finde("TFormPunktart", "DrawButton").click();
+    void ZeichnePunkt(const QString& nummer, const QString& rechts, const QString& hoch) const {
+        FindeTeil<QLineEdit>("TFormPunktart", "PktNummer").setText(nummer);
+        FindeTeil<QLineEdit>("TFormPunktart", "PktY").setText(rechts);
+        FindeTeil<QLineEdit>("TFormPunktart", "PktX").setText(hoch);
+        FindeTeil("TFormPunktart", "DrawButton").click();
     }
     void NeuerPunkt(const QString& nummer, const QString& rechts, const QString& hoch) const {
         Modus("PunktartButton");
-        Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
-        Zeichne(nummer, rechts, hoch);
+        FindeTeil("TFormPunktart", "CheckBoxNeuPkt").setChecked(true);
+        ZeichnePunkt(nummer, rechts, hoch);
     }
     /// A network that no control file gives, as a picture file may hold it.
     void OeffneAlsBilddatei(Liste& l) {
@@ -165,16 +165,16 @@ class Netzprobe : public Fensterprobe {
         l.PasseEin();
         ByteSchreiber f;
         l.Store(f, netz);
-        Lege("o.ZRW", std::string(f.Inhalt()));
-        Oeffne("o.ZRW");
+        LegeDateiAn("o.ZRW", std::string(f.Inhalt()));
+        OeffneDatei("o.ZRW");
     }
     /// The network as read, without asking.
     void Neu() {
         dialoge.antwort = false;
-        Oeffne("n.EIN");
+        OeffneDatei("n.EIN");
         Bildgroesse({800, 530});
     }
-    void Verbirg(const char* nummer) {
+    void VerbirgPunkt(const char* nummer) {
         Modus("HidePktButton");
         Klick(Ort(nummer));
     }

@@ -13,7 +13,7 @@ namespace {
 
 class Pixel : public testing::Test {
   protected:
-    int Wuerfle(int von, int bis) {
+    int WuerfleZahl(int von, int bis) {
         return von + static_cast<int>(zufall_() % static_cast<unsigned>(bis - von + 1));
     }
     Farbe Farbwahl() { return Farbe{static_cast<std::uint32_t>(zufall_()) & 0xFFFFFFU}; }
@@ -42,9 +42,9 @@ TEST_F(Pixel, StricheWieDerMaler) {
         const bool breit = i % 6 == 5;
         const int rand = breit ? 50 : 0;
         const int weit = i % 2 == 0 ? 1000 : breit && i % 4 == 1 ? 40 : 9;
-        const Flaechenpunkt a{Wuerfle(rand, kWeite - 1 - rand), Wuerfle(rand, kHoehe - 1 - rand)};
-        const Flaechenpunkt b{std::clamp(a.x + Wuerfle(-weit, weit), 0, kWeite - 1),
-                              std::clamp(a.y + Wuerfle(-weit, weit), 0, kHoehe - 1)};
+        const Flaechenpunkt a{WuerfleZahl(rand, kWeite - 1 - rand), WuerfleZahl(rand, kHoehe - 1 - rand)};
+        const Flaechenpunkt b{std::clamp(a.x + WuerfleZahl(-weit, weit), 0, kWeite - 1),
+                              std::clamp(a.y + WuerfleZahl(-weit, weit), 0, kHoehe - 1)};
         const Stift stift{Farbwahl(), breit ? 2 : 1, i % 3 == 0 ? Strichart::Gestrichelt : Strichart::Voll};
         ASSERT_TRUE(Gleich([&](Zeichenflaeche& f) {
             f.SetzeStift(stift);
@@ -60,8 +60,8 @@ TEST_F(Pixel, FormenWieDerMalerAuchAmRand) {
     Bildflaeche gross(kWeite + 2 * kRand, kHoehe + 2 * kRand);
     gross.SetzeSchnell(false);
     for (int i = 0; i < 6000; ++i) {
-        const Flaechenpunkt o{Wuerfle(-20, kWeite + 20), Wuerfle(-20, kHoehe + 20)};
-        const int r = Wuerfle(0, 12);
+        const Flaechenpunkt o{WuerfleZahl(-20, kWeite + 20), WuerfleZahl(-20, kHoehe + 20)};
+        const int r = WuerfleZahl(0, 12);
         const Stift stift{Farbwahl(), 1, Strichart::Voll};
         const Pinsel pinsel{Farbwahl(), i % 3 == 0};
         const auto zeichne = [&](Bildflaeche& f, int d) {
@@ -87,9 +87,9 @@ TEST_F(Pixel, FormenWieDerMalerAuchAmRand) {
 TEST_F(Pixel, ZehntausendTexteWieDerMaler) {
     for (int i = 0; i < 10000; ++i) {
         std::string text;
-        for (int n = Wuerfle(1, 14); n > 0; --n)
-            text += static_cast<char>(i % 2 == 0 ? Wuerfle(0x20, 0x7E) : Wuerfle(0xA1, 0xFF));
-        const Flaechenpunkt o{Wuerfle(-60, kWeite), Wuerfle(-15, kHoehe)};
+        for (int n = WuerfleZahl(1, 14); n > 0; --n)
+            text += static_cast<char>(i % 2 == 0 ? WuerfleZahl(0x20, 0x7E) : WuerfleZahl(0xA1, 0xFF));
+        const Flaechenpunkt o{WuerfleZahl(-60, kWeite), WuerfleZahl(-15, kHoehe)};
         const Farbe farbe = Farbwahl();
         ASSERT_TRUE(Gleich([&](Zeichenflaeche& f) { f.Text(o, text, farbe); })) << text;
     }

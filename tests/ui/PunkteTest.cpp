@@ -13,10 +13,10 @@ namespace {
 class Punkte : public Netzprobe {
   protected:
     [[nodiscard]] QStringList Verborgene() const { return Eintraege("TFormHiddenPkt", "ListBox1"); }
-    QLineEdit& Feld(const char* name) const { return Finde<QLineEdit>("TFormPunktart", name); }
-    void Zeige(const QStringList& nummern) const {
-        Waehle("TFormHiddenPkt", "ListBox1", nummern);
-        Finde("TFormHiddenPkt", "UnhiddenButton").click();
+    QLineEdit& Feld(const char* name) const { return FindeTeil<QLineEdit>("TFormPunktart", name); }
+    void ZeigePunkte(const QStringList& nummern) const {
+        WaehleTexte("TFormHiddenPkt", "ListBox1", nummern);
+        FindeTeil("TFormHiddenPkt", "UnhiddenButton").click();
     }
     QComboBox& Nummernfeld() const { return Kind<QComboBox>("ComboBox1"); }
 };
@@ -29,10 +29,10 @@ TEST_F(Punkte, ZentrierenMitDerMaus) {
     Klick({700, 500});
     Klick(A);
     EXPECT_EQ(Status(), "Zentrierung Exzentrum gewählt, bitte Zentrum anklicken.");
-    Bewege({600, 400});
+    BewegeMaus({600, 400});
     EXPECT_EQ(Status(), "Exzentrum gewählt, bitte Zentrum wählen.");
     Klick({700, 500}, Qt::RightButton);
-    Bewege({610, 400});
+    BewegeMaus({610, 400});
     EXPECT_TRUE(Status().contains("M=1:")) << "dropped";
     Klick(B);
     Taste(Qt::Key_Escape);
@@ -75,10 +75,10 @@ TEST_F(Punkte, ZentrierenMitDenListen) {
         Modus("SpeedButton13");
         EXPECT_TRUE(Kind<QWidget>("GroupBox1").isVisible());
         EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), alle);
-        Waehle("GroupBox1", "ExzListBox", f.exzentren);
-        Waehle("GroupBox1", "PZListBox", f.zentrum);
+        WaehleTexte("GroupBox1", "ExzListBox", f.exzentren);
+        WaehleTexte("GroupBox1", "PZListBox", f.zentrum);
         const std::string bytes = Gespeichert();
-        Finde("GroupBox1", "OkButton").click();
+        FindeTeil("GroupBox1", "OkButton").click();
         EXPECT_EQ(Eintraege("GroupBox1", "ExzListBox"), f.bleiben);
         EXPECT_EQ(Eintraege("GroupBox1", "PZListBox"), f.bleiben);
         PruefeNetz();
@@ -88,7 +88,7 @@ TEST_F(Punkte, ZentrierenMitDenListen) {
         }
         EXPECT_EQ(fenster.Ungesichert(), f.bleiben != alle);
         EXPECT_EQ(Gespeichert() == bytes, f.bleiben == alle);
-        Finde("GroupBox1", "Abbruch").click();
+        FindeTeil("GroupBox1", "Abbruch").click();
         EXPECT_FALSE(Kind<QWidget>("GroupBox1").isVisible());
         EXPECT_FALSE(Knopf("SpeedButton13").isChecked());
         EXPECT_TRUE(Knopf("SpeedButton13").isVisible());
@@ -96,8 +96,8 @@ TEST_F(Punkte, ZentrierenMitDenListen) {
     // A click in the eccentres proposes the centre of the same row; one in the centres shows its number.
     Neu();
     Modus("SpeedButton13");
-    auto& exzentren = Finde<QListView>("GroupBox1", "ExzListBox");
-    auto& zentren = Finde<QListView>("GroupBox1", "PZListBox");
+    auto& exzentren = FindeTeil<QListView>("GroupBox1", "ExzListBox");
+    auto& zentren = FindeTeil<QListView>("GroupBox1", "PZListBox");
     const auto klick = [](QListView& l, int zeile) {
         QTest::mouseClick(l.viewport(), Qt::LeftButton, {},
                           l.visualRect(l.model()->index(zeile, 0)).center());
@@ -112,28 +112,28 @@ TEST_F(Punkte, ZentrierenMitDenListen) {
 
 TEST_F(Punkte, VerborgenUndWiederGezeigt) {
     const Stand vorher = Jetzt();
-    Verbirg("E");
+    VerbirgPunkt("E");
     EXPECT_EQ(Verborgene(), QStringList{"E"});
     Knopf("SpeedButton14").click();
     EXPECT_EQ(Eintraege("TFormHidePunkte", "ListBoxPkt"), (QStringList{"A", "B", "C", "D", "E"}));
-    Finde("TFormHidePunkte", "Button1").click();  // none selected
+    FindeTeil("TFormHidePunkte", "Button1").click();  // none selected
     EXPECT_EQ(Verborgene(), QStringList{"E"});
-    Waehle("TFormHidePunkte", "ListBoxPkt", {"B", "C", "D"});
-    Finde("TFormHidePunkte", "Button1").click();
+    WaehleTexte("TFormHidePunkte", "ListBoxPkt", {"B", "C", "D"});
+    FindeTeil("TFormHidePunkte", "Button1").click();
     EXPECT_EQ(Verborgene(), (QStringList{"B", "C", "D", "E"}));
     EXPECT_EQ(Eintraege("TFormHidePunkte", "ListBoxPkt").size(), 5) << "they stay in the list";
     EXPECT_EQ(Figuren().filter("L ").size(), 4);
     for (const QString& zeile : Figuren().filter("L "))
         EXPECT_TRUE(zeile.endsWith(" -")) << zeile.toStdString() << " ends at a hidden point";
-    Finde("TFormHidePunkte", "Button2").click();
+    FindeTeil("TFormHidePunkte", "Button2").click();
     EXPECT_FALSE(Knopf("SpeedButton14").isChecked());
 
     Knopf("SpeedButton15").click();
-    Zeige({});
+    ZeigePunkte({});
     EXPECT_EQ(Verborgene().size(), 4);
-    Zeige({"B", "C", "D"});  // in a row
+    ZeigePunkte({"B", "C", "D"});  // in a row
     EXPECT_EQ(Verborgene(), QStringList{"E"});
-    Zeige({"E"});
+    ZeigePunkte({"E"});
     EXPECT_EQ(Verborgene(), QStringList());
     EXPECT_TRUE(Jetzt() == vorher);
 
@@ -149,13 +149,13 @@ TEST_F(Punkte, VerborgenUndWiederGezeigt) {
 }
 
 TEST_F(Punkte, VerborgeneEinesAnderenNetzes) {
-    Verbirg("E");
-    Verbirg("A");
+    VerbirgPunkt("E");
+    VerbirgPunkt("A");
     dialoge.antwort = false;
-    Oeffne("a.EIN");
+    OeffneDatei("a.EIN");
     EXPECT_EQ(Verborgene(), (QStringList{"A", "E"})) << "the list outlives the network";
     const std::string bytes = Gespeichert();
-    Zeige({"A", "E"});
+    ZeigePunkte({"A", "E"});
     EXPECT_EQ(Verborgene(), QStringList());
     EXPECT_TRUE(Gespeichert() == bytes);
     EXPECT_FALSE(fenster.Ungesichert());
@@ -168,12 +168,12 @@ TEST_F(Punkte, NummernKommenWieder) {
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ N A 10 -5 -", "+ N B 10 -5 -", "+ N E 10 -5 -",
                                               "- N A 10 -5", "- N B 10 -5", "- N E 10 -5"}));
     EXPECT_EQ(Verborgene(), QStringList());
-    Verbirg("B");
-    Zeige({"B"});
+    VerbirgPunkt("B");
+    ZeigePunkte({"B"});
     EXPECT_EQ(Aenderung(vorher),
               (QStringList{"+ N A 10 -5 -", "+ N E 10 -5 -", "- N A 10 -5", "- N E 10 -5"}))
         << "a number comes with its point";
-    Verbirg("E");
+    VerbirgPunkt("E");
     Knopf("NummernZeigenButton").click();
     EXPECT_EQ(Figuren().filter("N A"), QStringList{"N A 10 -5"});
     EXPECT_EQ(Figuren().filter("N E"), QStringList{"N E 10 -5 -"}) << "its point is hidden";
@@ -190,16 +190,16 @@ TEST_F(Punkte, ArtUndOrtAendern) {
     EXPECT_EQ(Feld("PktNummer").text(), "A");
     EXPECT_EQ(Feld("PktY").text(), "1000.0000");
     EXPECT_EQ(Feld("PktX").text(), "1000.0000");
-    EXPECT_TRUE(Finde("TFormPunktart", "RadioGroupPktArt0").isChecked());
-    EXPECT_TRUE(Finde("TFormPunktart", "RadioGroupSymb1").isChecked());
-    Finde("TFormPunktart", "RadioGroupPktArt2").click();
-    Finde("TFormPunktart", "RadioGroupSymb5").click();
+    EXPECT_TRUE(FindeTeil("TFormPunktart", "RadioGroupPktArt0").isChecked());
+    EXPECT_TRUE(FindeTeil("TFormPunktart", "RadioGroupSymb1").isChecked());
+    FindeTeil("TFormPunktart", "RadioGroupPktArt2").click();
+    FindeTeil("TFormPunktart", "RadioGroupSymb5").click();
     EXPECT_EQ(Aenderung(vorher), QStringList()) << "not before \"Zeichnen\"";
-    Finde("TFormPunktart", "DrawButton").click();
+    FindeTeil("TFormPunktart", "DrawButton").click();
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ P A 125 250 FH Drei", "- P A 125 250 FP Krei"}));
     EXPECT_EQ(Punkt("A")->Item->Farbe, einstellungen.FHCol);
     EXPECT_EQ(fenster.Netz()->FindPktText(Punkt("A")->PNr)->Col, einstellungen.FHCol);
-    Zeichne("A", "1080", " 1.16D+03 ");
+    ZeichnePunkt("A", "1080", " 1.16D+03 ");
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ P A 135 230 FH Drei", "- P A 125 250 FP Krei"}));
     PruefeNetz();
     NimmAllesZurueck();
@@ -211,8 +211,8 @@ TEST_F(Punkte, ArtUndOrtAendern) {
 TEST_F(Punkte, NeuerPunkt) {
     const std::string bytes = Gespeichert();
     const QStringList vorher = Figuren();
-    Finde("TFormPunktart", "RadioGroupPktArt1").click();
-    Finde("TFormPunktart", "RadioGroupSymb3").click();
+    FindeTeil("TFormPunktart", "RadioGroupPktArt1").click();
+    FindeTeil("TFormPunktart", "RadioGroupSymb3").click();
     NeuerPunkt(" Süd 1 ", "2800", "1400");
     EXPECT_EQ(Aenderung(vorher), (QStringList{"+ N Süd 1 10 -5", "+ P Süd 1 350 200 FL Qua"}));
     PruefeNetz();
@@ -224,7 +224,7 @@ TEST_F(Punkte, NeuerPunkt) {
     EXPECT_EQ(Nummernfeld().findText("Süd 1"), -1);
     fenster.WiederholeSchritt();
     // A line to it goes with it.
-    Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+    FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
     Modus("EditBeobButton");
     Klick({350, 200});
     Klick(A);
@@ -261,8 +261,8 @@ TEST_F(Punkte, AbgelehnteAngaben) {
     for (const auto& f : faelle) {
         SCOPED_TRACE(f.meldung.toStdString());
         dialoge.meldungen.clear();
-        Finde("TFormPunktart", "CheckBoxNeuPkt").setChecked(f.neu);
-        Zeichne(f.nummer, f.rechts, f.hoch);
+        FindeTeil("TFormPunktart", "CheckBoxNeuPkt").setChecked(f.neu);
+        ZeichnePunkt(f.nummer, f.rechts, f.hoch);
         EXPECT_EQ(dialoge.meldungen, QStringList{f.meldung});
         EXPECT_TRUE(Gespeichert() == bytes);
         EXPECT_FALSE(fenster.Ungesichert());
@@ -273,7 +273,7 @@ TEST_F(Punkte, AbgelehnteAngaben) {
     Klick(A);
     Modus("PunktartButton");
     dialoge.meldungen.clear();
-    Zeichne("A", "1500", "1500");
+    ZeichnePunkt("A", "1500", "1500");
     EXPECT_EQ(dialoge.meldungen, QStringList{faelle[std::size(faelle) - 1].meldung});
 }
 
@@ -284,8 +284,8 @@ TEST_F(Punkte, VollesNetz) {
         inhalt += (i == 1 ? " " : "    ") + nummer + std::string(15 - nummer.size(), ' ') + "1 " +
                   std::to_string(1000 + i % 256) + " " + std::to_string(1000 + i / 256) + "\n";
     }
-    Lege("voll.EIN", inhalt + "$$$\n");
-    Oeffne("voll.EIN");
+    LegeDateiAn("voll.EIN", inhalt + "$$$\n");
+    OeffneDatei("voll.EIN");
     ASSERT_EQ(fenster.Netz()->MaxPkte, 65535);
     dialoge.meldungen.clear();
     NeuerPunkt("Q", "1500", "1500");
@@ -295,17 +295,18 @@ TEST_F(Punkte, VollesNetz) {
     Modus("DelPunktButton");
     Klick(Ort("65535"));
     Modus("PunktartButton");
-    Zeichne("Q", "1500", "1500");
+    ZeichnePunkt("Q", "1500", "1500");
     EXPECT_NE(Punkt("Q"), nullptr);
     EXPECT_EQ(fenster.Netz()->MaxPkte, 65535);
 }
 
 TEST_F(Punkte, NummernfeldSuchtUndZeigt) {
-    Lege("s.EIN",
-         "$NT 3\n$FP A              1         1000         1000\n"
-         "    ROTST          1         3000         1000\n    ROTEN          1         3000         2000\n"
-         "    Tal            1         2000         1500\n$$$\n");
-    Oeffne("s.EIN");
+    LegeDateiAn(
+        "s.EIN",
+        "$NT 3\n$FP A              1         1000         1000\n"
+        "    ROTST          1         3000         1000\n    ROTEN          1         3000         2000\n"
+        "    Tal            1         2000         1500\n$$$\n");
+    OeffneDatei("s.EIN");
     auto& feld = Nummernfeld();
     EXPECT_EQ(feld.count(), 4);
     bild->setFocus();
@@ -387,8 +388,8 @@ TEST_F(Punkte, TastenDerAnsicht) {
     };
     for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
-        Lege("f.EIN", std::string("$NT 3\n$FP ") + f.netz + "$$$\n");
-        Oeffne("f.EIN");
+        LegeDateiAn("f.EIN", std::string("$NT 3\n$FP ") + f.netz + "$$$\n");
+        OeffneDatei("f.EIN");
         ASSERT_NE(Punkt("A"), nullptr);
         taste(Qt::Key_F);
         QRect rahmen(Ort("A"), QSize(1, 1));
@@ -396,8 +397,8 @@ TEST_F(Punkte, TastenDerAnsicht) {
         EXPECT_EQ(rahmen, f.rahmen);
     }
     Neu();
-    Verbirg("A");
-    Verbirg("B");
+    VerbirgPunkt("A");
+    VerbirgPunkt("B");
     taste(Qt::Key_F);
     EXPECT_EQ(Ort("C").x(), 40) << "hidden points do not count";
     EXPECT_EQ(Ort("E").x(), 760);

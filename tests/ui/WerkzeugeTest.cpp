@@ -21,15 +21,15 @@ class Werkzeuge : public Netzprobe {
         for (const auto& [nummer, ort] : {std::pair{"A", A}, {"B", B}, {"C", C}, {"D", C}, {"E", E}})
             ASSERT_EQ(Ort(nummer), ort) << nummer;
     }
-    void Beende(QPoint ort, Ende ende) {
+    void BeendeZug(QPoint ort, Ende ende) {
         if (ende == Ende::Escape) Taste(Qt::Key_Escape);
-        if (ende == Ende::Rechts) Druecke(ort, Qt::RightButton);
-        if (ende == Ende::Mitte) Druecke(ort, Qt::MiddleButton);
+        if (ende == Ende::Rechts) DrueckeTaste(ort, Qt::RightButton);
+        if (ende == Ende::Mitte) DrueckeTaste(ort, Qt::MiddleButton);
         if (ende == Ende::Groesse) Bildgroesse({820, 540});
         if (ende == Ende::Werkzeug) Modus("DataButton");
-        Lass(ort);
-        if (ende == Ende::Rechts) Lass(ort, Qt::RightButton);
-        if (ende == Ende::Mitte) Lass(ort, Qt::MiddleButton);
+        LassTasteLos(ort);
+        if (ende == Ende::Rechts) LassTasteLos(ort, Qt::RightButton);
+        if (ende == Ende::Mitte) LassTasteLos(ort, Qt::MiddleButton);
     }
 };
 
@@ -39,7 +39,7 @@ TEST_F(Werkzeuge, ZiehenAendertDieListe) {
     const QPoint nrA = Textort("A");
     const QPoint nrD = Textort("D");
     const auto nichts = [] {};
-    const auto ohne = [this](const char* nr) { return [this, nr] { Verbirg(nr); }; };
+    const auto ohne = [this](const char* nr) { return [this, nr] { VerbirgPunkt(nr); }; };
     const auto ohneNummer = [this] { VerbirgNummer("A"); };
     const struct {
         const char* name;
@@ -73,10 +73,10 @@ TEST_F(Werkzeuge, ZiehenAendertDieListe) {
         Modus(f.modus);
         const QStringList figuren = Figuren();
         const Stand vorher = Jetzt();
-        Druecke(f.druck);
+        DrueckeTaste(f.druck);
         for (const QPoint p : f.weg)
-            Bewege(p);
-        Lass(f.weg.empty() ? f.druck : f.weg.back());
+            BewegeMaus(p);
+        LassTasteLos(f.weg.empty() ? f.druck : f.weg.back());
         const QStringList aenderung = Aenderung(figuren);
         PruefeNetz();
         if (f.neu == nullptr) {
@@ -105,11 +105,11 @@ TEST_F(Werkzeuge, WasGezogenWirdFolgtDerMaus) {
         Neu();
         Modus(f.modus);
         const QImage vorher = bild->grab().toImage().copy(f.dort);
-        Druecke(f.druck);
-        Bewege(f.druck + QPoint(-20, 110));
+        DrueckeTaste(f.druck);
+        BewegeMaus(f.druck + QPoint(-20, 110));
         const QImage dabei = bild->grab().toImage().copy(f.dort);
         EXPECT_FALSE(dabei == vorher) << f.modus;
-        Lass(f.druck + QPoint(-20, 110));
+        LassTasteLos(f.druck + QPoint(-20, 110));
         EXPECT_TRUE(fenster.Bild().copy(f.dort).convertToFormat(dabei.format()) == dabei) << f.modus;
     }
 }
@@ -130,16 +130,16 @@ TEST_F(Werkzeuge, AbbruchLaesstAllesWieVorher) {
             Modus(f.modus);
             const QStringList vorher = Figuren();
             const QImage bildVorher = fenster.Bild().copy();
-            Druecke(f.druck);
-            Bewege(f.druck + QPoint(30, 40));
-            Beende(f.druck + QPoint(50, 20), ende);
+            DrueckeTaste(f.druck);
+            BewegeMaus(f.druck + QPoint(30, 40));
+            BeendeZug(f.druck + QPoint(50, 20), ende);
             EXPECT_EQ(Aenderung(vorher), QStringList());
             EXPECT_FALSE(fenster.Ungesichert());
             EXPECT_EQ(fenster.Netz()->Faktor, 8);
             Bildgroesse({800, 530});
             EXPECT_TRUE(fenster.Bild() == bildVorher);
             // Nothing is left of the preview either.
-            Bewege({790, 520});
+            BewegeMaus({790, 520});
             const QImage gezeigt = bild->grab().toImage();
             EXPECT_TRUE(gezeigt == bildVorher.convertToFormat(gezeigt.format()));
         }
@@ -147,7 +147,7 @@ TEST_F(Werkzeuge, AbbruchLaesstAllesWieVorher) {
 }
 
 TEST_F(Werkzeuge, EinAnderesNetzMittenImZiehen) {
-    Oeffne("a.EIN");
+    OeffneDatei("a.EIN");
     const QStringList anderes = Figuren();
     const std::string bytes = Gespeichert();
     for (const Werkzeugzeile& w : kWerkzeuge) {
@@ -157,12 +157,12 @@ TEST_F(Werkzeuge, EinAnderesNetzMittenImZiehen) {
                 Neu();
                 Modus(w.komponente.data());
                 if (vorherKlick) Klick(E);
-                Druecke(druck);
-                Bewege(druck + QPoint(40, 30));
-                Oeffne("a.EIN");
+                DrueckeTaste(druck);
+                BewegeMaus(druck + QPoint(40, 30));
+                OeffneDatei("a.EIN");
                 ASSERT_EQ(Aenderung(anderes), QStringList());
-                Bewege(druck + QPoint(60, 30));
-                Lass(druck + QPoint(60, 30));
+                BewegeMaus(druck + QPoint(60, 30));
+                LassTasteLos(druck + QPoint(60, 30));
                 // A release of the old press does nothing to the new network.
                 EXPECT_TRUE(Gespeichert() == bytes);
                 EXPECT_FALSE(fenster.Ungesichert());
@@ -206,14 +206,14 @@ TEST_F(Werkzeuge, BeobachtungAendern) {
         EXPECT_FALSE(fenster.Ungesichert()) << "picking changes nothing";
         for (const char* knopf : f.wahl) {
             const QStringList davor = Figuren();
-            Finde("TFormBeobTyp", knopf).click();
+            FindeTeil("TFormBeobTyp", knopf).click();
             EXPECT_EQ(Aenderung(davor).size(), 2) << knopf << " changes the line at once";
         }
         const QStringList erwartet{QString("+ L ") + f.nachher, QString("- L ") + f.vorher};
         EXPECT_EQ(Aenderung(vorher), erwartet);
         // Undone, the dialog shows what the line has: the same choice leads to the same line again.
         fenster.Rueckgaengig();
-        Finde("TFormBeobTyp", f.wahl.back()).click();
+        FindeTeil("TFormBeobTyp", f.wahl.back()).click();
         EXPECT_EQ(Aenderung(vorher), erwartet);
         NimmAllesZurueck();
         EXPECT_TRUE(Gespeichert() == bytes);
@@ -221,15 +221,15 @@ TEST_F(Werkzeuge, BeobachtungAendern) {
     // Dropped: nothing changes any more.
     const std::function<void()> loesen[] = {
         [this] { Taste(Qt::Key_Escape); }, [this] { Klick(kLeer, Qt::RightButton); },
-        [this] { Klick(kLeer); }, [this] { Finde("TFormBeobTyp", "CheckBoxNeuBeob").click(); }};
+        [this] { Klick(kLeer); }, [this] { FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").click(); }};
     for (const auto& loese : loesen) {
         Neu();
         Modus("EditBeobButton");
         Klick(ab);
         loese();
         const QStringList vorher = Figuren();
-        Finde("TFormBeobTyp", "RadioGroupRichtg2").click();
-        Finde("TFormBeobTyp", "RadioGroupRichtg0").click();
+        FindeTeil("TFormBeobTyp", "RadioGroupRichtg2").click();
+        FindeTeil("TFormBeobTyp", "RadioGroupRichtg0").click();
         EXPECT_EQ(Aenderung(vorher), QStringList());
     }
     Knopf("EditBeobButton").click();
@@ -241,9 +241,9 @@ TEST_F(Werkzeuge, BeobachtungEinfuegen) {
     const QStringList statt{"+ L A-B AR2 1", "- L A-B AR1 0"};
     const auto nichts = [] {};
     const auto beideTasten = [this] {
-        Druecke(kLeer);
+        DrueckeTaste(kLeer);
         Klick(kLeer, Qt::RightButton);
-        Lass(kLeer);
+        LassTasteLos(kLeer);
     };
     const struct {
         const char* name;
@@ -261,18 +261,18 @@ TEST_F(Werkzeuge, BeobachtungEinfuegen) {
         {"rechte Taste", A, [this] { Klick(kLeer, Qt::RightButton); }, E, {}},
         {"zweite Taste", A, beideTasten, E, {}},
         {"anderes Werkzeug", A, [this] { Modus("PanButton"), Modus("EditBeobButton"); }, E, {}},
-        {"verborgener Punkt", A, [this] { Verbirg("E"), Modus("EditBeobButton"); }, E, {}},
+        {"verborgener Punkt", A, [this] { VerbirgPunkt("E"), Modus("EditBeobButton"); }, E, {}},
     };
     for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
         Neu();
         Modus("EditBeobButton");
-        Finde("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
-        Finde("TFormBeobTyp", "RadioGroupRichtg2").click();
-        Finde("TFormBeobTyp", "CheckBoxStrecke").setChecked(true);
+        FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+        FindeTeil("TFormBeobTyp", "RadioGroupRichtg2").click();
+        FindeTeil("TFormBeobTyp", "CheckBoxStrecke").setChecked(true);
         const std::string bytes = Gespeichert();
         Klick(f.erster);
-        Bewege({600, 400});
+        BewegeMaus({600, 400});
         EXPECT_EQ(Status(), "Beobachtung einfügen P1 gesetzt P2 anklicken");
         f.dazwischen();
         const QStringList vorher = Figuren();
@@ -328,9 +328,9 @@ TEST_F(Werkzeuge, KlickeLoeschenUndVerbergen) {
         Modus(f.modus);
         const QStringList vorher = Figuren();
         const Stand stand = Jetzt();
-        Bewege({790, 5});
+        BewegeMaus({790, 5});
         const QImage ohne = bild->grab().toImage();
-        Bewege(f.klick);
+        BewegeMaus(f.klick);
         EXPECT_TRUE(erwartet.isEmpty() || bild->grab().toImage() != ohne) << "the hit is highlighted";
         Klick(f.klick);
         EXPECT_EQ(Aenderung(vorher), erwartet);
@@ -364,7 +364,7 @@ TEST_F(Werkzeuge, ZoomenMitRechteckUndKlick) {
         const QImage vorher = fenster.Bild().copy();
         const Liste& l = *fenster.Netz();
         const Welt ort = l.BildinWelt({f.bleibt.x(), f.bleibt.y()});
-        Ziehe(f.von, f.nach);
+        ZieheMaus(f.von, f.nach);
         EXPECT_NEAR(l.Faktor, f.faktor, 1e-9);
         const Welt danach = l.BildinWelt({f.dort.x(), f.dort.y()});
         EXPECT_NEAR(danach.rechts, ort.rechts, 8) << "within a pixel";
