@@ -33,7 +33,7 @@ class Raumbaum {
         eintraege_.clear();
         ebenen_.clear();
     }
-    /// Calls `tun(entry)` at least for every entry whose box touches the rectangle.
+    /// Calls `tun(eintrag)` at least for every entry whose box touches the rectangle.
     template <class Tun>
     void SucheEintraege(const Weltkasten& wo, Tun tun) const {
         if (!ebenen_.empty()) SucheInEbene(ebenen_.size() - 1, 0, ebenen_.back().size(), wo, tun);

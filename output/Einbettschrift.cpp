@@ -63,7 +63,7 @@ bool Erlaubt(std::string_view os2) {
     return (e & kArten) != kGesperrt && (e & kNurGanzOderBitmap) == 0;
 }
 
-/// Calls `tun(glyph)` for the parts of a glyph that is put together from others.
+/// Calls `tun(glyphe)` for the parts of a glyph that is put together from others.
 template <class Tun>
 void FuerTeile(std::string_view umriss, Tun tun) {
     constexpr std::uint32_t kWorte = 0x0001;

@@ -66,8 +66,8 @@ struct Umwegzug;
 
 class Kantenbild {
   public:
-    /// @param a, e ends of the line [px]; equal ends give nothing
-    /// @param e sizes in dots of the device that is drawn on
+    /// @param anfang, ende ends of the line [px]; equal ends give nothing
+    /// @param groessen sizes in dots of the device that is drawn on
     Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang, const Bildpunkt& ende,
                const Einstellungen& groessen);
 
