@@ -29,13 +29,13 @@ class Nummerntafel {
                                 [this](std::uint32_t nr) { return nummern_[nr].nummer.Streuwert(saat_); });
         if (nummern_.capacity() <= punkte) nummern_.reserve(std::max(punkte + 1, 2 * nummern_.size()));
     }
-    /// Announces a search. @return what the others need beside the number
+    /// Prefetches for a search. @return what the others need beside the number
     [[nodiscard]] std::uint64_t HoleNummerVor(const PunktNummernTyp& nummer) const {
         const std::uint64_t streuwert = nummer.Streuwert(saat_);
         tafel_.HoleFachVor(streuwert);
         return streuwert;
     }
-    /// The second announcement, a while after the first.
+    /// Prefetches what the search will look at next, a while after the first.
     void HoleEintragVor(std::uint64_t streuwert) const { HoleVor(&nummern_[tafel_.Erstes(streuwert)]); }
     /// Internal number of the point, `kKeinPunkt` if there is none.
     [[nodiscard]] PunktIndex FindePunkt(std::uint64_t streuwert, const PunktNummernTyp& nummer) const {
@@ -80,13 +80,13 @@ class Kantentafel {
         });
         if (kanten_.capacity() <= kanten) kanten_.reserve(std::max(kanten + 1, 2 * kanten_.size()));
     }
-    /// Announces a search. @return what the others need beside the points
+    /// Prefetches for a search. @return what the others need beside the points
     [[nodiscard]] std::uint64_t HoleKanteVor(PunktIndex a, PunktIndex b) const {
         const std::uint64_t streuwert = Streuwert(a, b);
         tafel_.HoleFachVor(streuwert);
         return streuwert;
     }
-    /// The second announcement, a while after the first.
+    /// Prefetches what the search will look at next, a while after the first.
     void HoleEintragVor(std::uint64_t streuwert) const { HoleVor(&kanten_[tafel_.Erstes(streuwert)]); }
     /// The line between the two points of `neu`, in either orientation; where there is none, `neu` enters.
     /// @return null then

@@ -1,5 +1,5 @@
 // Where the figures of a network lie in a view. Positions are worked out when somebody asks, each point once:
-// lines ask for their points in any order, and would wait for the memory of each.
+// lines ask for their points in any order, and would take a cache miss for each.
 #pragma once
 
 #include <cstdint>
@@ -71,7 +71,7 @@ class Bildorte {
         s_.orte[nr] =
             nah ? Platz{static_cast<std::int32_t>(ort.x), static_cast<std::int32_t>(ort.y)} : Platz{kFern, 0};
     }
-    /// Asks for the memory of a number ahead of time.
+    /// Prefetches the place of a number.
     void HoleOrtVor(PunktIndex nr) const { HoleVor(&s_.orte[nr]); }
     /// Of the newest point of the number, nothing where there is none.
     [[nodiscard]] std::optional<Bildpunkt> FindeOrt(PunktIndex nr) {

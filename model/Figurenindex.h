@@ -49,8 +49,8 @@ class Figurenindex {
     [[nodiscard]] PunktKnoten* FindePunkt(PunktIndex nr) const {
         return nr < punkte_.size() ? punkte_[nr] : nullptr;
     }
-    /// Where that point lies in the world; not-a-number where there is none. All of them stand in one row:
-    /// lines ask in any order, and would wait for the memory of each node.
+    /// Where that point lies in the world; not-a-number where there is none. All in an array of their own:
+    /// lines ask in any order, and would take a cache miss for each node.
     [[nodiscard]] Welt OrtVon(PunktIndex nr) const { return nr < orte_.size() ? orte_[nr] : kNirgends; }
     /// The point has other world coordinates.
     void VerlegePunkt(const PunktKnoten& p) {

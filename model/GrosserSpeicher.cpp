@@ -11,7 +11,7 @@
 namespace zrw {
 namespace {
 
-[[maybe_unused]] constexpr std::size_t kSeite = std::size_t{2} << 20U;  ///< a large page
+[[maybe_unused]] constexpr std::size_t kSeite = std::size_t{2} << 20U;  ///< a huge page
 
 void* NimmBytes(std::size_t bytes) {
 #ifdef MADV_HUGEPAGE

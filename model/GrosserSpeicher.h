@@ -1,5 +1,5 @@
-// Memory for what grows large: in few large pages where the system has them. To touch four kilobytes at a
-// time takes a multiple of the time that filling them takes.
+// Memory for what grows large: in huge pages where the system has them. Page faults of four kilobytes each
+// take a multiple of the time that filling the memory takes.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@ namespace zrw {
 /// Memory for any type. @throws std::bad_alloc @param genutzt how many of the bytes are expected to be
 /// written; the rest costs nothing before it is
 [[nodiscard]] void* NimmSpeicher(std::size_t bytes, std::size_t genutzt);
-/// Asks for large pages behind memory that is already there, as far as it covers whole ones.
+/// Asks for huge pages behind memory that is already there, as far as it covers whole ones.
 void FasseInGrosseSeiten(void* speicher, std::size_t bytes);
 void GibSpeicher(void* speicher) noexcept;
 

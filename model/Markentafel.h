@@ -43,9 +43,9 @@ class Markentafel {
     [[nodiscard]] std::size_t Anzahl() const { return anzahl_; }
     void LeereTafel() { *this = {}; }
 
-    /// Announces a search.
+    /// Prefetches for a search.
     void HoleFachVor(std::uint64_t streuwert) const { HoleVor(&faecher_[streuwert & Rest()]); }
-    /// What a search will probably look at, where the memory of the announcement has come meanwhile.
+    /// What a search will probably look at; quick where that was prefetched.
     [[nodiscard]] std::uint32_t Erstes(std::uint64_t streuwert) const {
         return faecher_[streuwert & Rest()] & nummer_;
     }

@@ -10,8 +10,8 @@
 namespace zrw {
 namespace {
 
-/// How many figures ahead memory is asked for. Nodes lie all over it: what comes next is on its way while the
-/// ones before are being drawn.
+/// How many figures ahead is prefetched. Nodes lie all over the memory: what comes next is on its way while
+/// the ones before are being drawn.
 constexpr std::size_t kVoraus = 12;
 /// So many lines or labels are looked over before they are drawn; more lie in the picture for the most part.
 constexpr std::size_t kWenige = 16384;
@@ -24,7 +24,7 @@ void HoleKnotenVor(const Knoten* knoten) {
     HoleVor(anfang + kSpeicherzeile);
 }
 
-/// Calls `tun(place)` for nodes, newest first or oldest first.
+/// Calls `tun(stelle)` for nodes, newest first or oldest first.
 template <class Knoten, class Tun>
 void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) {
     const std::size_t anzahl = knoten.size();
@@ -149,7 +149,7 @@ void Bildaufbau::ZeichneKante(const PunktKante& k) {
     if (BeruehrtBereich(anfang, ende, linien_)) zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
 }
 
-/// Asks for the memory of both points of a line ahead of time.
+/// Prefetches both points of a line.
 void Bildaufbau::HoleOrte(std::uint32_t folge) const {
     const Punktenden enden = v_.netz.Enden(folge);
     orte_.HoleOrtVor(enden.a);
@@ -170,7 +170,7 @@ void Bildaufbau::ZeichneKanten() {
 void Bildaufbau::ZeichneKantenVonVorn() {
     const Bildlage lage = v_.ansicht.Lage();
     const Weltkasten dort = Brauchbar(lage) ? WeltUnter(lage, linien_) : kGanzeWelt;
-    // In batches, so that the memory of the next ones is under way.
+    // In batches, so that the next ones are being prefetched.
     std::array<PPunktKante, 4 * kVoraus> naechste;
     for (std::size_t i = kanten_.size(); i > 0;) {
         const std::size_t bis = i - std::min(i, naechste.size());
