@@ -7,13 +7,13 @@
 
 namespace zrw {
 
-/// For assertions: row n is the row of member n, and there is one for every member up to the last.
+/// For assertions: row n is the row of member n, and there is one for every member before `Anzahl`.
 template <class Zeile, std::size_t N, class Glied>
-[[nodiscard]] consteval bool InReihe(const std::array<Zeile, N>& tafel, Glied Zeile::*glied, Glied letztes) {
+[[nodiscard]] consteval bool InReihe(const std::array<Zeile, N>& tafel, Glied Zeile::*glied) {
     for (std::size_t i = 0; i < N; ++i) {
         if (static_cast<std::size_t>(tafel[i].*glied) != i) return false;
     }
-    return N == static_cast<std::size_t>(letztes) + 1;
+    return N == static_cast<std::size_t>(Glied::Anzahl);
 }
 
 /// For assertions: no two rows have the same key.

@@ -2,6 +2,7 @@
 // Figures know the picture positions that the face of the plan (FigListe.h) and picture files keep; world
 // coordinates live in their nodes (Knoten.h).
 // How a figure looks is the business of the `Zeichner` it is shown with.
+// Enumerations that have a table end with `Anzahl`: no value, but the number of rows there.
 #pragma once
 
 #include <cstdint>
@@ -19,20 +20,20 @@ struct Einstellungen;
 
 /// Point symbol: dot, circle, cross, square, rhombus, triangle; see Punktsymbole.h. Bytes of a picture file
 /// may hold other values; they are kept and draw nothing.
-enum class PunktTyp : std::uint8_t { Pkt, Krei, Kreu, Qua, Rau, Drei };
+enum class PunktTyp : std::uint8_t { Pkt, Krei, Kreu, Qua, Rau, Drei, Anzahl };
 /// Point kind: fixed point (position and height), horizontal-control, height-control and new point.
-enum class PunktArt : std::uint8_t { FP, FL, FH, NP };
+enum class PunktArt : std::uint8_t { FP, FL, FH, NP, Anzahl };
 /// Outline only, or filled.
 enum class PunktAttr : std::uint8_t { Em, Fu };
 /// Direction observations of a line: none, one-sided, two-sided, without direction; I = indirect. What is
 /// known of them: Linienarten.h.
-enum class LinieAttr : std::uint8_t { Null, AR1, AR2, AST, ARI1, ARI2, ASTI };
+enum class LinieAttr : std::uint8_t { Null, AR1, AR2, AST, ARI1, ARI2, ASTI, Anzahl };
 
 /// Set of the other observation kinds of a line: distance, GPS vector, height difference along and against
 /// the line. One byte, bit n for the n-th member; bits without a member survive loading and saving.
 class KanteAttr {
   public:
-    enum Art : std::uint8_t { ST, GPS, DH1, DH2 };
+    enum Art : std::uint8_t { ST, GPS, DH1, DH2, Anzahl };
 
     constexpr KanteAttr() = default;
     /// Implicit, so that {ST} and ST alone read as sets.

@@ -28,7 +28,7 @@ inline constexpr auto kLinienarten = std::to_array<Linienart>({
     {LinieAttr::ARI2, "ARI2", "Richtung zweiseitig", 2, true},
     {LinieAttr::ASTI, "ASTI", "", 0, true},
 });
-static_assert(InReihe(kLinienarten, &Linienart::attr, LinieAttr::ASTI));
+static_assert(InReihe(kLinienarten, &Linienart::attr), "a row for each LinieAttr, in its order");
 
 /// Bytes of a picture file that name no kind count as none.
 [[nodiscard]] constexpr const Linienart& ZurLinie(LinieAttr attr) {
@@ -49,7 +49,8 @@ inline constexpr auto kBeobachtungsarten = std::to_array<Beobachtungsart>({
     {KanteAttr::DH1, "DH1", "Höhenunterschied einseitig", "Einseitig"},
     {KanteAttr::DH2, "DH2", "Höhenunterschied zweiseitig", "Zweiseitig"},
 });
-static_assert(InReihe(kBeobachtungsarten, &Beobachtungsart::art, KanteAttr::DH2));
+static_assert(InReihe(kBeobachtungsarten, &Beobachtungsart::art),
+              "a row for each KanteAttr::Art, in its order");
 
 /// Bits of the set that stand for no observation; picture files keep them.
 inline constexpr auto kUnbenannteBits = static_cast<std::uint8_t>(0xFFU << kBeobachtungsarten.size());

@@ -26,7 +26,7 @@ inline constexpr auto kPunktarten = std::to_array<Punktart>({
     {PunktArt::FH, "FH", "Höhenfestpunkt", "Anschlußpunkt Höhe", &Einstellungen::FHCol, &Darstellung::ShowFH},
     {PunktArt::NP, "NP", "Neupunkt", "Neupunkt", &Einstellungen::NPCol, &Darstellung::ShowNP},
 });
-static_assert(InReihe(kPunktarten, &Punktart::art, PunktArt::NP));
+static_assert(InReihe(kPunktarten, &Punktart::art), "a row for each PunktArt, in its order");
 
 [[nodiscard]] constexpr const Punktart& ZurArt(PunktArt art) {
     return kPunktarten[static_cast<std::size_t>(art)];

@@ -62,7 +62,7 @@ inline constexpr auto kPunktsymbole = std::to_array<Punktsymbol>({
     {PunktTyp::Drei, "Dreieck", "Dreieck", Symbolform::Vieleck, &Einstellungen::Dreieckgroesse,
      &Einstellungen::Dreieckgroesse, kDreiecksecken},
 });
-static_assert(InReihe(kPunktsymbole, &Punktsymbol::typ, PunktTyp::Drei));
+static_assert(InReihe(kPunktsymbole, &Punktsymbol::typ), "a row for each PunktTyp, in its order");
 static_assert(std::all_of(kPunktsymbole.begin(), kPunktsymbole.end(), [](const Punktsymbol& s) {
     const bool rund = s.form == Symbolform::Scheibe || s.form == Symbolform::Kreis;
     return s.ecken.empty() == rund && s.ecken.size() <= kMeisteEcken;

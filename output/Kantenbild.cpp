@@ -26,7 +26,7 @@ constexpr auto kVollDash = std::to_array<Strich>({{0, 1, false}, {2, 3, true}});
 /// In the order of `Zugform`.
 constexpr auto kStriche = std::to_array<std::span<const Strich>>(
     {kVoll, kMarke, kSieben, kSiebenHalb, kZweiVoll, kZweiDash, kVollDash, kVollDash, kDash, kVoll, kVoll});
-static_assert(kStriche.size() == kZugformen);
+static_assert(kStriche.size() == kZugformen, "the strokes of each Zugform");
 
 constexpr std::size_t Punktzahl(Zugform form) {
     return kStriche[static_cast<std::size_t>(form)].back().nach + std::size_t{1};
@@ -71,11 +71,12 @@ constexpr auto kLinienbilder = std::to_array<Linienbild>({
     {LinieAttr::ARI2, {}, {}, kGanzerUmweg},
     {LinieAttr::ASTI, {}, {}, kGestrichelterUmweg},
 });
-static_assert(InReihe(kLinienbilder, &Linienbild::attr, LinieAttr::ASTI));
+static_assert(InReihe(kLinienbilder, &Linienbild::attr), "a row for each LinieAttr, in its order");
 static_assert(std::equal(kLinienbilder.begin(), kLinienbilder.end(), kLinienarten.begin(), kLinienarten.end(),
                          [](const Linienbild& b, const Linienart& a) {
                              return b.umweg.empty() != a.indirekt;
-                         }));
+                         }),
+              "indirect kinds of line are drawn with a detour, the others without");
 
 Bildpunkt RundeOrt(double x, double y) {
     return {RundeZuInt64(x), RundeZuInt64(y)};

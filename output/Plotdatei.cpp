@@ -21,7 +21,7 @@ constexpr auto kLinien = std::to_array<std::string_view>({
     " PA %d,%d;PD %d,%d; PU;",
     " PA %d,%d; PD %d,%d; PU;",
 });
-static_assert(kLinien.size() == kZugformen);
+static_assert(kLinien.size() == kZugformen, "a line of the plotter file for each Zugform");
 
 constexpr std::string_view kPunkt = " PA %d,%d; PD;PU;";
 constexpr std::string_view kKreis = " PA %d,%d;CI %d;PU;";
