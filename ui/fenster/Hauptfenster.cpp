@@ -91,6 +91,10 @@ constexpr auto kBefehle = std::to_array<Befehl>({
     {"SpeedButton10", "Punkt anzeigen", "punkt_anzeigen", "", nullptr},
 });
 
+static_assert(HabenSeiten(kBefehle, &Befehl::komponente) && HabenSeiten(kSchalter, &Schalter::komponente) &&
+                  HabenSeiten(kWerkzeuge, &Werkzeugzeile::komponente),
+              "each button and each check box has a row in ui/hilfe/Hilfethemen.h");
+
 const QString kOhneNetz = QStringLiteral(
     "Dazu muss ein Netz geöffnet sein: Steuerdatei mit Strg+O, Zarwikdatei mit Strg+Umschalt+O");
 

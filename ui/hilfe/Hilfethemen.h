@@ -132,6 +132,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     // Switches
     {"CheckBoxGitter", 4},
     {"CheckBoxKMQ", 4},
+    {"CheckBoxBlattschnitt", 4},
     {"CheckBoxPktNr", 25},
     {"CheckBoxBeob", 25},
     {"CheckBoxPreview", 35},
@@ -160,6 +161,16 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
 });
 
 static_assert(Verschieden(kHilfekomponenten, &Hilfekomponente::komponente));
+
+/// For assertions: every component that a table names has its page.
+template <class Zeile, std::size_t N, class Name>
+[[nodiscard]] consteval bool HabenSeiten(const std::array<Zeile, N>& tafel, Name Zeile::*komponente) {
+    return std::all_of(tafel.begin(), tafel.end(), [&](const Zeile& z) {
+        const std::string_view name = z.*komponente;
+        return name.empty() || std::any_of(kHilfekomponenten.begin(), kHilfekomponenten.end(),
+                                           [&](const Hilfekomponente& h) { return h.komponente == name; });
+    });
+}
 
 /// Row of a help context, or null.
 [[nodiscard]] constexpr const Hilfethema* FindeThema(int kontext) {
