@@ -1,6 +1,8 @@
 // The type of an observation as the network keeps it, and as the dialog offers it.
 #pragma once
 
+#include <algorithm>
+
 #include "model/Figuren.h"
 #include "model/Linienarten.h"
 
@@ -54,5 +56,20 @@ struct Beobachtungswahl {
     }
     return w;
 }
+
+// What the choice cannot say is lost with the first change of a line.
+static_assert(std::all_of(kBeobachtungsarten.begin(), kBeobachtungsarten.end(),
+                          [](const Beobachtungsart& b) {
+                              return AlsTyp(AlsWahl({LinieAttr::AST, b.art})).weitere.Hat(b.art);
+                          }),
+              "the choice, AlsTyp and AlsWahl know each observation");
+static_assert(
+    std::all_of(
+        kLinienarten.begin(), kLinienarten.end(),
+        [](const Linienart& a) {
+            const bool nurGps = a.attr == LinieAttr::Null;
+            return AlsTyp(AlsWahl({a.attr, nurGps ? KanteAttr::GPS : KanteAttr::ST})).richtung == a.attr;
+        }),
+    "the choice tells each kind of line from the others");
 
 }  // namespace zrw
