@@ -63,10 +63,13 @@ inline constexpr auto kPunktsymbole = std::to_array<Punktsymbol>({
      &Einstellungen::Dreieckgroesse, kDreiecksecken},
 });
 static_assert(InReihe(kPunktsymbole, &Punktsymbol::typ), "a row for each PunktTyp, in its order");
-static_assert(std::all_of(kPunktsymbole.begin(), kPunktsymbole.end(), [](const Punktsymbol& s) {
-    const bool rund = s.form == Symbolform::Scheibe || s.form == Symbolform::Kreis;
-    return s.ecken.empty() == rund && s.ecken.size() <= kMeisteEcken;
-}));
+static_assert(std::all_of(kPunktsymbole.begin(), kPunktsymbole.end(),
+                          [](const Punktsymbol& s) {
+                              const bool rund = s.form == Symbolform::Scheibe || s.form == Symbolform::Kreis;
+                              const bool drei = s.form == Symbolform::Vieleck && s.ecken.size() == 3;
+                              return rund ? s.ecken.empty() : drei || s.ecken.size() == kMeisteEcken;
+                          }),
+              "a plotter file knows crosses of four ends and polygons of three or four corners");
 
 /// Null for bytes that name no symbol: they draw nothing and have no name.
 [[nodiscard]] constexpr const Punktsymbol* ZumSymbol(PunktTyp typ) {
