@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "input/tabellen/Paradox.h"
+#include "model/Aufzaehltafel.h"
 
 namespace zrw {
 
@@ -21,7 +22,23 @@ struct Tabellenfeld {
     std::string_view nkFlag = {};  ///< flag that shows "NK" in place of the number
 };
 
+/// Index into `kErgebnistabellen`; `Anzahl` is no table, but the number of its rows.
+enum class Tabelle : std::uint8_t {
+    Gps,
+    Strecken,
+    Hoehenunterschiede,
+    Richtungen,
+    Koordinaten,
+    GpsPunkte3D,
+    GpsPunkte2D,
+    Linien,
+    Streckenkontrollen,
+    WeitereKoordinaten,
+    Anzahl
+};
+
 struct Ergebnistabelle {
+    Tabelle tabelle;
     std::string_view name;
     std::span<const Tabellenfeld> felder;
     std::string_view alles;  ///< query of all rows in order
@@ -125,32 +142,21 @@ inline constexpr F kWeitereKoordinaten[]{
 
 /// In the order in which they are created; a table's file is its name with ".DB".
 inline constexpr auto kErgebnistabellen = std::to_array<Ergebnistabelle>({
-    {"GPSTABLE", tabellen::kGps, "Select * from GPSTable order by ID"},
-    {"STRTABLE", tabellen::kStrecken, "SELECT * from STRTABLE ORDER BY ID"},
-    {"DHTABLE", tabellen::kHoehenunterschiede, "select * from DHTable order by ID"},
-    {"RTGTABLE", tabellen::kRichtungen, "select * from RTGTable order by id"},
-    {"KooTABLE", tabellen::kKoordinaten, "SELECT * from KooTable order by ID"},
-    {"WGSTABLE", tabellen::kGpsPunkte3D, "SELECT * from WGSTable order by ID"},
-    {"WGSYXTABLE", tabellen::kGpsPunkte2D, "SELECT * from WGSYXTable order by ID"},
-    {"MLTABLE", tabellen::kLinien, "SELECT * FROM MLTABLE ORDER BY ID"},
-    {"STRKTRTable", tabellen::kStreckenkontrollen, "SELECT * FROM STRKTRTABLE ORDER BY ID"},
-    {"PostKooTABLE", tabellen::kWeitereKoordinaten, "SELECT * FROM POSTKOOTABLE ORDER BY ID"},
+    {Tabelle::Gps, "GPSTABLE", tabellen::kGps, "Select * from GPSTable order by ID"},
+    {Tabelle::Strecken, "STRTABLE", tabellen::kStrecken, "SELECT * from STRTABLE ORDER BY ID"},
+    {Tabelle::Hoehenunterschiede, "DHTABLE", tabellen::kHoehenunterschiede,
+     "select * from DHTable order by ID"},
+    {Tabelle::Richtungen, "RTGTABLE", tabellen::kRichtungen, "select * from RTGTable order by id"},
+    {Tabelle::Koordinaten, "KooTABLE", tabellen::kKoordinaten, "SELECT * from KooTable order by ID"},
+    {Tabelle::GpsPunkte3D, "WGSTABLE", tabellen::kGpsPunkte3D, "SELECT * from WGSTable order by ID"},
+    {Tabelle::GpsPunkte2D, "WGSYXTABLE", tabellen::kGpsPunkte2D, "SELECT * from WGSYXTable order by ID"},
+    {Tabelle::Linien, "MLTABLE", tabellen::kLinien, "SELECT * FROM MLTABLE ORDER BY ID"},
+    {Tabelle::Streckenkontrollen, "STRKTRTable", tabellen::kStreckenkontrollen,
+     "SELECT * FROM STRKTRTABLE ORDER BY ID"},
+    {Tabelle::WeitereKoordinaten, "PostKooTABLE", tabellen::kWeitereKoordinaten,
+     "SELECT * FROM POSTKOOTABLE ORDER BY ID"},
 });
-
-/// Index into `kErgebnistabellen`.
-enum class Tabelle : std::uint8_t {
-    Gps,
-    Strecken,
-    Hoehenunterschiede,
-    Richtungen,
-    Koordinaten,
-    GpsPunkte3D,
-    GpsPunkte2D,
-    Linien,
-    Streckenkontrollen,
-    WeitereKoordinaten
-};
-static_assert(kErgebnistabellen.size() == static_cast<std::size_t>(Tabelle::WeitereKoordinaten) + 1);
+static_assert(InReihe(kErgebnistabellen, &Ergebnistabelle::tabelle), "a row for each Tabelle, in its order");
 
 [[nodiscard]] constexpr const Ergebnistabelle& Beschreibung(Tabelle t) {
     return kErgebnistabellen[static_cast<std::size_t>(t)];
