@@ -34,19 +34,23 @@ class Zufallsnetz {
     }
 
     int W(int von, int bis) { return std::uniform_int_distribution(von, bis)(zufall_); }
+    template <class Glied>
+    Glied Eines() {
+        return static_cast<Glied>(W(0, static_cast<int>(Glied::Anzahl) - 1));
+    }
     double Ort() { return 5000.0 + (W(0, 2) == 0 ? W(0, 60000) : W(20000, 26000)) / 10.0; }
     Kante NeueKante() {
-        Kante k = Kante::Create(Farbe{static_cast<std::uint32_t>(W(0, 0xFFFFFF))},
-                                KanteAttr::AusMaske(static_cast<std::uint8_t>(W(0, 15))),
-                                static_cast<LinieAttr>(W(0, indirekte_ ? 6 : 3)));
+        Kante k =
+            Kante::Create(Farbe{static_cast<std::uint32_t>(W(0, 0xFFFFFF))},
+                          KanteAttr::AusMaske(static_cast<std::uint8_t>(W(0, (1 << KanteAttr::Anzahl) - 1))),
+                          indirekte_ ? Eines<LinieAttr>() : static_cast<LinieAttr>(W(0, 3)));
         k.Visible = W(0, 9) != 0;
         return k;
     }
     PunktKnoten& NeuerPunkt(PunktIndex nr, Welt ort) {
-        Punkt p =
-            Punkt::Create(static_cast<PunktTyp>(W(0, 5)), Farbe{static_cast<std::uint32_t>(W(0, 0xFFFFFF))},
-                          static_cast<PunktAttr>(W(0, 1)));
-        p.PktArt = static_cast<PunktArt>(W(0, 3));
+        Punkt p = Punkt::Create(Eines<PunktTyp>(), Farbe{static_cast<std::uint32_t>(W(0, 0xFFFFFF))},
+                                static_cast<PunktAttr>(W(0, 1)));
+        p.PktArt = Eines<PunktArt>();
         p.Visible = W(0, 9) != 0;
         PktText t = PktText::Create("P" + std::to_string(nr % 2900), Farbe{0x700070}, e);
         t.Visible = W(0, 9) != 0;
