@@ -5,7 +5,8 @@ A second, deliberately plain implementation: it shares nothing with the program,
 made twice to go unseen. It only reads, fits and stores a network; it does not draw.
 
     erwartung.py              compares with the committed files, exit code 1 on any difference
-    erwartung.py --schreiben  writes erwartet.ZRW anew (meldungen.txt stays written by hand)
+    erwartung.py --schreiben  writes erwartet.ZRW anew (meldungen.txt stays written by hand, or absent where
+                              there are no messages)
 """
 import math
 import re
@@ -383,7 +384,8 @@ def pruefe(ordner, schreiben):
     if ist != soll:
         stelle = next((i for i, (x, y) in enumerate(zip(ist or b"", soll or b"")) if x != y), "Ende")
         yield f"{ordner.name}: erwartet.ZRW weicht ab (Byte {stelle})"
-    meldungen = (ordner / "meldungen.txt").read_text(encoding="utf-8").splitlines()
+    erwartet = ordner / "meldungen.txt"
+    meldungen = erwartet.read_text(encoding="utf-8").splitlines() if erwartet.is_file() else []
     if meldungen != leser.meldungen:
         yield f"{ordner.name}: meldungen.txt hat {meldungen} statt {leser.meldungen}"
 
