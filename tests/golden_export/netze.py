@@ -36,9 +36,9 @@ class Bild:
 
 def symbole():
     b = Bild()
-    for typ in range(7):  # 6 is no symbol and draws nothing
+    for i, typ in enumerate((0, 1, 2, 3, 4, 5, 255)):  # the last is no symbol and draws nothing
         for attr in (0, 1):
-            b.punkt(100 + 40 * typ, 50 + 30 * attr, typ, attr, text=b'%d%d' % (typ, attr))
+            b.punkt(100 + 40 * i, 50 + 30 * attr, typ, attr, text=b'%d%d' % (i, attr))
     return b
 
 
