@@ -391,6 +391,7 @@ TEST_F(Werkzeuge, ZeigerUndStatustextJederArt) {
     for (const Werkzeugzeile& w : kWerkzeuge) {
         Modus(w.komponente.data());
         EXPECT_GT(Status().size(), 20) << w.komponente;
+        EXPECT_FALSE(Knopf(w.komponente.data()).icon().isNull()) << w.bild << " is no picture";
         texte << Status();
         for (const Werkzeugzeile& anderes : kWerkzeuge)
             EXPECT_EQ(Knopf(anderes.komponente.data()).isChecked(), &anderes == &w);
