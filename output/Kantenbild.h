@@ -37,9 +37,10 @@ enum class Zugform : std::uint8_t {
     Gestrichelt,            ///< one dashed stroke
     Querstrich,             ///< tick across the line
     Hoehenmarke,            ///< height-difference mark beside the line
+    Anzahl,                 ///< no form, but how many there are
 };
 
-inline constexpr std::size_t kZugformen = static_cast<std::size_t>(Zugform::Hoehenmarke) + 1;
+inline constexpr std::size_t kZugformen = static_cast<std::size_t>(Zugform::Anzahl);
 
 /// One stroke of a form, between two of its points.
 struct Strich {
