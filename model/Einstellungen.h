@@ -67,7 +67,7 @@ class EinstellungsSpeicher {
 /// 16-bit sizes keep the low 16 bits of what is read; a malformed "ResMF" becomes 1.0.
 void LoadSettings(Einstellungen& e, const EinstellungsSpeicher& speicher);
 
-/// Writes all twenty-one persistent settings as text.
+/// Writes all persistent settings as text.
 void SaveSettings(const Einstellungen& e, EinstellungsSpeicher& speicher);
 
 }  // namespace zrw
