@@ -60,7 +60,7 @@ struct Beobachtungswahl {
 // What the choice cannot say is lost with the first change of a line.
 static_assert(std::all_of(kBeobachtungsarten.begin(), kBeobachtungsarten.end(),
                           [](const Beobachtungsart& b) {
-                              return AlsTyp(AlsWahl({LinieAttr::AST, b.art})).weitere.Hat(b.art);
+                              return AlsTyp(AlsWahl({LinieAttr::AST, b.art})).weitere.HatArt(b.art);
                           }),
               "the choice, AlsTyp and AlsWahl know each observation");
 static_assert(
