@@ -141,10 +141,9 @@ class Werkzeugleiste final : public QWidget {
 TZrwMainDlg::TZrwMainDlg(const Programm& programm)
     : programm_(programm),
       plan_(programm.netz, programm.dateien, *this),
-      flaeche_(1, 1),
-      zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
-      pflege_(programm.zustand, flaeche_, zeichner_),
-      druck_(programm_, flaeche_),
+      planbild_(programm_, plan_, *this),
+      druck_(programm_, planbild_.Flaeche()),
+      werkzeuge_(*this, druck_.Rahmen()),
       ordner_(programm.sitzung.Ordner()),
       bewahrung_(programm_,
                  {[this] { return JetzigerPlan(); }, [this](const QString& text) { ZeigeStatus(text); },
@@ -153,15 +152,12 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
                       UebernimmLesung(std::move(lesung), datei);
                       plan_.MerkeUngesichert();
                   }}) {
-    programm_.zustand.flaeche = &flaeche_;
     BaueFenster();
     BaueDialoge();
     qApp->installEventFilter(this);
 }
 
-TZrwMainDlg::~TZrwMainDlg() {
-    programm_.zustand.flaeche = nullptr;
-}
+TZrwMainDlg::~TZrwMainDlg() = default;
 
 void TZrwMainDlg::BaueFenster() {
     MeldeBilderAn();
@@ -189,11 +185,12 @@ void TZrwMainDlg::BaueFenster() {
     BaueSchalter(*kaesten);
     reihen->addLayout(kaesten);
     spalte->addWidget(leiste);
-    bild_ = new ImageZarwik(flaeche_, *this, mitte);
+    bild_ = new ImageZarwik(planbild_.Flaeche(), *this, mitte);
+    planbild_.SetzeAnzeige(*bild_);
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
         if (!plan_.Offen()) return;
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
-        ZeichneStehendes(flaeche);
+        planbild_.ZeichneStehendes(flaeche);
     });
     druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
     spalte->addWidget(bild_, 1);
@@ -260,13 +257,8 @@ void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
 }
 
 void TZrwMainDlg::BaueWerkzeuge(QLayout& reihe) {
-    mitteltaste_ = NeuesWerkzeug<BildVerschieben>(*this);
-    Werkzeugumgebung& umgebung = *this;  // the base is private
-    legendenecke_ = std::make_unique<LegendeVerschieben>(umgebung);
-    rahmenrand_ = std::make_unique<RahmenVerschieben>(umgebung, druck_.Rahmen());
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
         const Werkzeugzeile& zeile = kWerkzeuge[i];
-        werkzeuge_.push_back(zeile.neu(*this));
         auto* knopf = NeuerKnopf(zeile.komponente, zeile.hinweis, zeile.bild, this);
         knopf->setCheckable(true);
         connect(knopf, &QToolButton::toggled, this, [this, i](bool unten) { WerkzeugGewaehlt(i, unten); });
@@ -371,15 +363,16 @@ QToolButton& TZrwMainDlg::Knopf(const char* komponente) const {
 }
 
 void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
-    BrichAb();
+    werkzeuge_.SetzeAktiv(nummer, unten);
+    Werkzeug& werkzeug = werkzeuge_.NachNummer(nummer);
     if (!unten) {
-        werkzeuge_[nummer]->BeendeWerkzeug();
+        werkzeug.BeendeWerkzeug();
         punktart_->LoesePunkt();
-        if (Aktiv() == nullptr) {
+        if (werkzeuge_.Aktiv() == nullptr) {
             bild_->unsetCursor();
             // What the tool asked for is asked for no longer; other messages stay.
             anleitung_->clear();
-            if (statusBar()->currentMessage() == werkzeuge_[nummer]->Anleitung()) ZeigeStatus(QString());
+            if (statusBar()->currentMessage() == werkzeug.Anleitung()) ZeigeStatus(QString());
         }
         return;
     }
@@ -387,9 +380,9 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
     for (std::size_t i = 0; i < werkzeugknoepfe_.size(); ++i) {
         if (i != nummer) werkzeugknoepfe_[i]->setChecked(false);
     }
-    werkzeuge_[nummer]->BeginneWerkzeug();
-    bild_->setCursor(werkzeuge_[nummer]->Zeiger());
-    ZeigeStatus(plan_.Offen() ? werkzeuge_[nummer]->Anleitung() : kOhneNetz);
+    werkzeug.BeginneWerkzeug();
+    bild_->setCursor(werkzeug.Zeiger());
+    ZeigeStatus(plan_.Offen() ? werkzeug.Anleitung() : kOhneNetz);
 }
 
 void TZrwMainDlg::LoeseWerkzeuge() {

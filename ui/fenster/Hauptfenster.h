@@ -1,6 +1,6 @@
-// The main window: tool panel, picture and status line. Owns the current network and the classes that do the
-// work, and forwards to them. By topic: building and switches in Hauptfenster.cpp, files in
-// HauptfensterDateien.cpp, view, mouse and keys in HauptfensterAnsicht.cpp, points and what follows a
+// The main window: tool panel, picture and status line. Owns the plan and the classes that do the work, and
+// forwards to them. By topic: building and switches in Hauptfenster.cpp, files in
+// HauptfensterDateien.cpp, mouse, keys and status line in HauptfensterAnsicht.cpp, points and what follows a
 // change in HauptfensterPunkte.cpp, legend, export and dialogs in HauptfensterAusgabe.cpp, printing and
 // bitmaps in HauptfensterDruck.cpp.
 #pragma once
@@ -13,20 +13,16 @@
 #include <optional>
 #include <vector>
 
-#include "output/Figurenzeichner.h"
 #include "ui/Plan.h"
 #include "ui/Programm.h"
 #include "ui/ablage/Netzbewahrung.h"
-#include "ui/bild/Bildflaeche.h"
-#include "ui/bild/Bildpflege.h"
+#include "ui/bild/Ansichtssteuerung.h"
 #include "ui/bild/ImageZarwik.h"
+#include "ui/bild/Planbild.h"
 #include "ui/druck/Plandruck.h"
-#include "ui/fenster/Ansichtssteuerung.h"
 #include "ui/fenster/Massstabfeld.h"
 #include "ui/fenster/Schalter.h"
-#include "ui/werkzeuge/LegendeVerschieben.h"
-#include "ui/werkzeuge/RahmenVerschieben.h"
-#include "ui/werkzeuge/Werkzeug.h"
+#include "ui/werkzeuge/Werkzeugkasten.h"
 
 class QCheckBox;
 class QLabel;
@@ -46,7 +42,8 @@ class Zentrierkasten;
 class TZrwMainDlg final : public QMainWindow,
                           private Bildempfaenger,
                           private Werkzeugumgebung,
-                          private Plan::Beobachter {
+                          private Plan::Beobachter,
+                          private Planbild::Beobachter {
   public:
     explicit TZrwMainDlg(const Programm& programm);
     ~TZrwMainDlg() override;
@@ -56,34 +53,34 @@ class TZrwMainDlg final : public QMainWindow,
     void OeffneDatei(const std::filesystem::path& datei);
     /// The current network, or null before one is opened.
     [[nodiscard]] const Liste* Netz() const { return plan_.Daten(); }
-    [[nodiscard]] const QImage& Bild() const { return flaeche_.Bild(); }
+    [[nodiscard]] const QImage& Bild() const { return planbild_.Flaeche().Bild(); }
     /// Offers plots that an earlier run could not save. @return whether one is shown now
     bool BieteRettungAn() { return bewahrung_.BieteAn(); }
     [[nodiscard]] bool Ungesichert() const { return plan_.Ungesichert(); }
 
     // Click handlers, by component.
-    void SpeedButton1Click();        ///< open a control file
-    void SpeedButton2Click();        ///< "Zarwik lesen"
-    void SpeedButton9Click();        ///< "Zarwik speichern"
-    void SpeedButton7Click();        ///< "Zarwik beenden"
-    void SpeedButton3Click();        ///< "Alles darstellen"
-    void SpeedButton4Click();        ///< "Programminfo"
-    void SpeedButton5Click();        ///< "Zarwik drucken"
-    void SpeedButton6Click();        ///< "Hilfe"
-    void SpeedButton8Click();        ///< "Zeichenfont wählen"
-    void SpeedButton10Click();       ///< "Punkt anzeigen"
-    void SpeedButton11Click();       ///< "Druckereinstellungen"
-    void SpeedButton12Click();       ///< "Legendentexte"
-    void SpeedButton14Click();       ///< "Punkte verstecken"
-    void SpeedButton15Click();       ///< "Versteckte Punkte"
-    void SpeedButton16Click();       ///< "DXF und HPGL Format ausgeben"
-    void VorschauClick();            ///< "Druckvorschau"
-    void SpeedButtonClipbrdClick();  ///< "Grafik als Bitmap speichern"
+    void SpeedButton1Click();                           ///< open a control file
+    void SpeedButton2Click();                           ///< "Zarwik lesen"
+    void SpeedButton9Click();                           ///< "Zarwik speichern"
+    void SpeedButton7Click();                           ///< "Zarwik beenden"
+    void SpeedButton3Click() { planbild_.PasseEin(); }  ///< "Alles darstellen"
+    void SpeedButton4Click();                           ///< "Programminfo"
+    void SpeedButton5Click();                           ///< "Zarwik drucken"
+    void SpeedButton6Click();                           ///< "Hilfe"
+    void SpeedButton8Click();                           ///< "Zeichenfont wählen"
+    void SpeedButton10Click();                          ///< "Punkt anzeigen"
+    void SpeedButton11Click();                          ///< "Druckereinstellungen"
+    void SpeedButton12Click();                          ///< "Legendentexte"
+    void SpeedButton14Click();                          ///< "Punkte verstecken"
+    void SpeedButton15Click();                          ///< "Versteckte Punkte"
+    void SpeedButton16Click();                          ///< "DXF und HPGL Format ausgeben"
+    void VorschauClick();                               ///< "Druckvorschau"
+    void SpeedButtonClipbrdClick();                     ///< "Grafik als Bitmap speichern"
     void ColorButtonClick();
-    void ButtonGroesserClick();
-    void ButtonKleinerClick();
-    void EinpassenClick();      ///< fits the visible points
-    void NummernZeigenClick();  ///< shows all hidden numbers
+    void ButtonGroesserClick() { planbild_.ZoomeUmMitte(true); }
+    void ButtonKleinerClick() { planbild_.ZoomeUmMitte(false); }
+    void EinpassenClick() { planbild_.PasseGezeigtesEin(); }  ///< fits the visible points
+    void NummernZeigenClick();                                ///< shows all hidden numbers
     void LetzteDateienClick();
     void Rueckgaengig();
     void WiederholeSchritt();
@@ -121,47 +118,47 @@ class TZrwMainDlg final : public QMainWindow,
     [[nodiscard]] Netzbewahrung::Plan JetzigerPlan();
 
     // HauptfensterAnsicht.cpp
-    void ZoomeSchritt(double x, double y, bool groesser);
-    void ZoomeAuf(const Bildlage& lage);
-    bool SetzeLage(const Bildlage& lage);
-    void ZeichneNachRad();
-    void ZeigeBild();
     void ZeigeStand();
     void ZeigeZeiger(Bildpunkt ort);
-    [[nodiscard]] Werkzeug* Aktiv() const;
-    [[nodiscard]] Werkzeug* Zustaendig(Bildpunkt ort) const;
-    void BrichAb();
+    void VorAnsichtswechsel() override { werkzeuge_.BrichAb(); }
+    void NachAnsichtswechsel() override { ZeigeStand(); }
+    void BildGezeichnet() override;
+    void MeldeStatus(const QString& text) override { ZeigeStatus(text); }
     void ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikMouseLeave() override;
     void ImageZarwikMouseMove(Bildpunkt ort) override;
     void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikWheel(Bildpunkt ort, int schritte) override;
-    void ImageZarwikResize(int weite, int hoehe) override;
+    void ImageZarwikResize(int weite, int hoehe) override { planbild_.SetzeGroesse(weite, hoehe); }
+
+    // What tools may do.
     [[nodiscard]] Liste* AktuelleListe() override { return plan_.Daten(); }
     [[nodiscard]] const Einstellungen& Anzeige() const override { return programm_.einstellungen; }
-    [[nodiscard]] Bildvorlage Vorlage();
     void UeberlagerungGeaendert() override { bild_->update(); }
-    void ZeichneNeu() override;
-    void LasseAus(Figurenmenge figuren) override;
-    void LasseLegendeAus(bool aus) override;
-    void ZeigeVorschau(Vorschau vorschau) override;
+    void ZeichneNeu() override { planbild_.ZeichneNeu(); }
+    void LasseAus(Figurenmenge figuren) override { planbild_.LasseAus(std::move(figuren)); }
+    void LasseLegendeAus(bool aus) override { planbild_.LasseLegendeAus(aus); }
+    void ZeigeVorschau(Vorschau vorschau) override { planbild_.ZeigeVorschau(std::move(vorschau)); }
     void ZeigeStatus(const QString& text) override;
     void TueAenderung(std::unique_ptr<Netzaenderung> aenderung) override {
         plan_.TueAenderung(std::move(aenderung));
     }
-    void BeginneZug() override { ansicht_.BeginneZug(*plan_.Daten()); }
-    void ZieheBild(Bildpunkt versatz) override;
-    void BeendeZug() override;
-    [[nodiscard]] bool FolgeZug();
-    void ZeichneStehendes(Zeichenflaeche& flaeche);
-    void VerschiebeBild(Bildpunkt versatz);
-    void ZoomeAuf(Bildpunkt a, Bildpunkt b) override;
-    void ZoomeUm(Bildpunkt ort) override;
-    void AnsichtZurueck() override;
+    void BeginneZug() override { planbild_.BeginneZug(); }
+    void ZieheBild(Bildpunkt versatz) override { planbild_.ZieheBild(versatz); }
+    void BeendeZug() override { planbild_.BeendeZug(); }
+    void ZoomeAuf(Bildpunkt a, Bildpunkt b) override { planbild_.ZoomeAuf(a, b); }
+    void ZoomeUm(Bildpunkt ort) override { planbild_.ZoomeUm(ort); }
+    void AnsichtZurueck() override { planbild_.GeheZurueck(); }
+    [[nodiscard]] Bildbereich Textrahmen(const PunktString& text) const override {
+        return planbild_.Textrahmen(text);
+    }
+    [[nodiscard]] Bildpunkt Textgroesse(std::string_view text) const override {
+        return planbild_.Textgroesse(text);
+    }
 
     // HauptfensterPunkte.cpp
-    void VorAenderung(const Figurenmenge& figuren) override;
+    void VorAenderung(const Figurenmenge& figuren) override { planbild_.VorAenderung(figuren); }
     void NachAenderung(const Figurenmenge& figuren) override;
     void StandGeaendert() override { ZeigeTitel(); }
     void FuelleNummern();
@@ -172,8 +169,6 @@ class TZrwMainDlg final : public QMainWindow,
     void VerbergePunkt(PunktKnoten& punkt) override;
     void WaehlePunkt(PunktKnoten& punkt) override;
     [[nodiscard]] const PunktKnoten* GewaehlterPunkt() const override;
-    [[nodiscard]] Bildbereich Textrahmen(const PunktString& text) const override;
-    [[nodiscard]] Bildpunkt Textgroesse(std::string_view text) const override;
     void ZeigeErgebnis(const PunktKnoten* punkt, const PunktKante* kante) override;
     void ZeigeNebenfenster(Nebenfenster welches, bool sichtbar) override;
     [[nodiscard]] TFormBeobTyp& Beobachtungsdialog() override { return *beobachtungstyp_; }
@@ -187,22 +182,10 @@ class TZrwMainDlg final : public QMainWindow,
     Plan plan_;
     bool beendet_ = false;     ///< closing has been asked about
     bool planBleibt_ = false;  ///< at the end the unsaved plot is kept for the next start
-    Bildflaeche flaeche_;
-    Figurenzeichner zeichner_;
-    Bildpflege pflege_;
-    Ansichtssteuerung ansicht_;
-    Figurenmenge ausgelassene_;                         ///< what a tool has in hand
-    Auslassung ohne_;                                   ///< the same for drawing
-    std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;  ///< in the order of `kWerkzeuge`
-    std::unique_ptr<Werkzeug> mitteltaste_;             ///< panning, whatever mode is on
-    std::unique_ptr<LegendeVerschieben> legendenecke_;
+    Planbild planbild_;
     Plandruck druck_;
-    std::unique_ptr<RahmenVerschieben> rahmenrand_;
-    Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
-    Qt::MouseButton taste_ = Qt::NoButton;
-    std::optional<Bildpunkt> maus_;  ///< position of the mouse while it is over the picture [px]
-    bool stehendesLose_ = false;     ///< legend and scale bar lie over the picture that is being dragged
-    QString ortstext_;               ///< what the status line said about that
+    Werkzeugkasten werkzeuge_;
+    QString ortstext_;  ///< what the status line said about that
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;

@@ -39,7 +39,7 @@ void TZrwMainDlg::SpeedButton12Click() {
 void TZrwMainDlg::SpeedButton16Click() {
     if (!plan_.Offen()) return;
     bewahrung_.BewahrePlan();
-    BrichAb();  // what is written is what the user let go of last
+    werkzeuge_.BrichAb();  // what is written is what the user let go of last
     const auto massstab = druck_.Massstab();
     if (!massstab) return;
     try {
@@ -76,11 +76,11 @@ void TZrwMainDlg::ColorButtonClick() {
 }
 
 void TZrwMainDlg::SpeedButton8Click() {
-    if (const auto schrift = programm_.dialoge.WaehleSchrift(flaeche_.Schrift())) {
+    if (const auto schrift = programm_.dialoge.WaehleSchrift(planbild_.Flaeche().Schrift())) {
         // Drawing in white must wipe every pixel of a text.
         QFont ohneGlaettung = *schrift;
         ohneGlaettung.setStyleStrategy(Zeichenschrift().styleStrategy());
-        flaeche_.SetzeSchrift(ohneGlaettung);
+        planbild_.Flaeche().SetzeSchrift(ohneGlaettung);
         ZeichneNeu();
     }
 }

@@ -308,7 +308,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         // A control file starts from screen sizes and the usual font.
         programm_.zustand.Geraetefaktor = 1.0;
         programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
-        flaeche_.SetzeSchrift(Zeichenschrift());
+        planbild_.Flaeche().SetzeSchrift(Zeichenschrift());
     }
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         const bool ein =
@@ -322,13 +322,11 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
 void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& datei) {
     const Sanduhr sanduhr;
     // Nothing may point into the network that goes now.
-    BrichAb();
-    for (const auto& werkzeug : werkzeuge_)
-        werkzeug->Abbrechen();
+    werkzeuge_.VergissNetz();
     ergebnisse_->VergissNetz();
     druck_.Rahmen().LoeseEcke();
     punktart_->LoesePunkt();
-    ansicht_.NeuesNetz();
+    planbild_.BeginneNetz();
     bewahrung_.VergissPlan();
     zentrierkasten_->BeginneNetz();
     plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
@@ -357,7 +355,7 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     status.removeAll(QString());
     ZeigeStatus(status.join(QStringLiteral("; ")));
     // A mode that was chosen before there was a network.
-    if (Aktiv() != nullptr) Aktiv()->BeginneWerkzeug();
+    if (Werkzeug* werkzeug = werkzeuge_.Aktiv(); werkzeug != nullptr) werkzeug->BeginneWerkzeug();
     // A picture file carries its marks.
     if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
     ZeichneNeu();

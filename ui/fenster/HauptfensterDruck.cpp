@@ -38,7 +38,7 @@ void TZrwMainDlg::SpeedButton5Click() {
 void TZrwMainDlg::VorschauClick() {
     if (!plan_.Offen()) return;
     bewahrung_.BewahrePlan();
-    BrichAb();
+    werkzeuge_.BrichAb();
     const auto massstab = druck_.Massstab();
     if (!massstab) return;
     bool drucken = false;
@@ -66,10 +66,11 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
                                               {},
                                               QStringLiteral("bmp;png")});
     if (!name) return;
-    QImage bild = flaeche_.Bild().copy();
+    QImage bild = Bild().copy();
     {
         QPainter maler(&bild);
-        Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1}, flaeche_.Schrift());
+        Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1},
+                             planbild_.Flaeche().Schrift());
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
     }
     // Other programs place the picture in the size that it has on the screen.

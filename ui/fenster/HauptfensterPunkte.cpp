@@ -1,6 +1,5 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
 #include "model/Bildorte.h"
-#include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktartwahl.h"
@@ -16,8 +15,6 @@
 namespace zrw {
 namespace {
 
-constexpr Farbe kSuchfarbe{0xFF0000};
-
 std::string AlsNummer(const QString& text) {
     return Utf8NachCp1252(NachUtf8(text));
 }
@@ -26,32 +23,25 @@ std::string AlsNummer(const QString& text) {
 
 // A drag under way ends first: what is changed may be what it has in hand.
 void TZrwMainDlg::Rueckgaengig() {
-    BrichAb();
+    werkzeuge_.BrichAb();
     const auto text = plan_.Rueckgaengig();
     ZeigeStatus(text ? QStringLiteral("Rückgängig: ") + *text
                      : QStringLiteral("Es gibt nichts zurückzunehmen."));
 }
 
 void TZrwMainDlg::WiederholeSchritt() {
-    BrichAb();
+    werkzeuge_.BrichAb();
     const auto text = plan_.WiederholeSchritt();
     ZeigeStatus(text ? QStringLiteral("Wiederholt: ") + *text
                      : QStringLiteral("Es gibt nichts zu wiederholen."));
 }
 
-void TZrwMainDlg::VorAenderung(const Figurenmenge& figuren) {
-    pflege_.Vorher(Vorlage(), figuren);
-}
-
 void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
-    ansicht_.NetzGeaendert();
     punktart_->NetzGeaendert();
     versteck_->Versteckte().NetzGeaendert();
     if (ComboBox1_->Veraltet(*plan_.Daten())) FuelleNummern();
-    pflege_.Nachher(Vorlage(), figuren);
-    ZeigeBild();
-    for (const auto& werkzeug : werkzeuge_)
-        werkzeug->NetzGeaendert();
+    planbild_.NachAenderung(figuren);
+    werkzeuge_.NetzGeaendert();
 }
 
 /// In all the lists.
@@ -90,23 +80,13 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
         ZeigeStatus(QStringLiteral("Einen Punkt %1 gibt es nicht.").arg(nummer));
         return nullptr;
     }
-    BrichAb();
+    werkzeuge_.BrichAb();
     const QString gefunden = AusNetz(plan_.Daten()->GetPktText(punkt->PNr));
     ComboBox1_->setEditText(gefunden);
-    const Rechteck bild = flaeche_.Sichtbar();
-    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, bild)) {
+    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, planbild_.Flaeche().Sichtbar()))
         plan_.Daten()->SetzeMitte({punkt->XWPu, punkt->YWPu});
-    }
     ZeichneNeu();
-    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, bild)) return punkt;
-    const Flaechenpunkt m = Aufflaeche(BildortVon(*punkt, *plan_.Daten()));
-    {
-        const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
-        for (const std::int32_t r : {50, 25})
-            flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
-    }
-    pflege_.VerwirfBild();
-    bild_->update();
+    if (!planbild_.MarkierePunkt(*punkt)) return punkt;
     ZeigeStatus(QStringLiteral("Punkt ") + gefunden +
                 (!punkt->Item->Visible
                      ? QStringLiteral(" ist versteckt („Versteckte Punkte“ zeigt ihn wieder)")
@@ -174,16 +154,6 @@ void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
 
 const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {
     return punktart_->Gewaehlt();
-}
-
-Bildbereich TZrwMainDlg::Textrahmen(const PunktString& text) const {
-    const Bildpunkt ort = text.Item->Textort(BildortVon(text, *plan_.Daten(), *plan_.Daten()));
-    const Bildpunkt groesse = Textgroesse(programm_.zustand.Gezeigt(*text.Item));
-    return {ort.x, ort.y, Summe(ort.x, groesse.x), Summe(ort.y, groesse.y)};
-}
-
-Bildpunkt TZrwMainDlg::Textgroesse(std::string_view text) const {
-    return {flaeche_.Textbreite(text), flaeche_.Texthoehe()};
 }
 
 }  // namespace zrw

@@ -13,6 +13,7 @@ class NummerVerschieben final : public Werkzeug {
     void Ziehen(Bildpunkt ort) override;
     void Loslassen(Bildpunkt ort) override;
     void Schweben(Bildpunkt ort) override;
+    [[nodiscard]] bool LaesstLegendeZu() const override { return true; }
     void Abbrechen() override;
     [[nodiscard]] Qt::CursorShape Zeiger() const override { return Qt::CrossCursor; }
     [[nodiscard]] QString Anleitung() const override;

@@ -83,6 +83,8 @@ class Werkzeug {
     virtual void Loslassen(Bildpunkt ort) = 0;
     /// One press does all there is to do; the second of a double click is not meant.
     [[nodiscard]] virtual bool EinKlickGenuegt() const { return false; }
+    /// The legend's corner can be caught while its mode is on.
+    [[nodiscard]] virtual bool LaesstLegendeZu() const { return false; }
     /// The mouse moves with no button down, or has left the picture for a position far outside.
     virtual void Schweben(Bildpunkt /*ort*/) {}
     /// The right button without a drag under way.

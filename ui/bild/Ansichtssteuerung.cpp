@@ -1,4 +1,4 @@
-#include "ui/fenster/Ansichtssteuerung.h"
+#include "ui/bild/Ansichtssteuerung.h"
 
 #include <algorithm>
 #include <cstdlib>

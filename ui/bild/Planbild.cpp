@@ -1,0 +1,248 @@
+#include "ui/bild/Planbild.h"
+
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <utility>
+
+#include "model/Bildorte.h"
+#include "model/Ganzzahl.h"
+#include "output/Abschneiden.h"
+#include "output/Residuenbild.h"
+
+namespace zrw {
+namespace {
+
+constexpr Farbe kSuchfarbe{0xFF0000};
+
+const QString kNichtWeiter = QStringLiteral("Weiter lässt sich das Bild nicht zoomen.");
+
+}  // namespace
+
+Planbild::Planbild(const Programm& programm, Plan& plan, Beobachter& beobachter)
+    : programm_(programm),
+      plan_(plan),
+      beobachter_(beobachter),
+      zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
+      pflege_(programm.zustand, flaeche_, zeichner_) {
+    programm_.zustand.flaeche = &flaeche_;
+}
+
+Planbild::~Planbild() {
+    programm_.zustand.flaeche = nullptr;
+}
+
+Bildvorlage Planbild::Vorlage() {
+    Bildvorlage v = plan_.Daten()->Vorlage();
+    v.ohne = &ohne_;
+    return v;
+}
+
+Zeichenzustand Planbild::ZustandFuer(Zeichenflaeche& flaeche) const {
+    Zeichenzustand zustand = programm_.zustand;
+    zustand.flaeche = &flaeche;
+    return zustand;
+}
+
+Bildbereich Planbild::Textrahmen(const PunktString& text) const {
+    const Liste& netz = *plan_.Daten();
+    const Bildpunkt ort = text.Item->Textort(BildortVon(text, netz, netz));
+    const Bildpunkt groesse = Textgroesse(programm_.zustand.Gezeigt(*text.Item));
+    return {ort.x, ort.y, Summe(ort.x, groesse.x), Summe(ort.y, groesse.y)};
+}
+
+// --- Drawing ----------------------------------------------------------------------------------------------
+
+void Planbild::ZeichneNeu() {
+    if (!plan_.Offen()) return;
+    steuerung_.SchliesseRad();
+    pflege_.ZeichneNeu(Vorlage());
+    ZeigeBild();
+}
+
+/// After every drawing of the network.
+void Planbild::ZeigeBild() {
+    bild_->update();
+    beobachter_.BildGezeichnet();
+}
+
+void Planbild::NachAenderung(const Figurenmenge& figuren) {
+    steuerung_.NetzGeaendert();
+    pflege_.Nachher(Vorlage(), figuren);
+    ZeigeBild();
+}
+
+void Planbild::LasseAus(Figurenmenge figuren) {
+    if (!plan_.Offen()) return;
+    Figurenmenge beide = figuren;
+    beide.NimmFiguren(ausgelassene_);
+    pflege_.Vorher(Vorlage(), beide);
+    ausgelassene_ = std::move(figuren);
+    ohne_.SetzeFiguren(ausgelassene_);
+    pflege_.Nachher(Vorlage(), beide);
+    ZeigeBild();
+}
+
+void Planbild::LasseLegendeAus(bool aus) {
+    ohne_.legende = aus;
+    ZeichneNeu();
+}
+
+void Planbild::ZeigeVorschau(Vorschau vorschau) {
+    if (!vorschau) {
+        bild_->SetzeVorschau({});
+        return;
+    }
+    bild_->SetzeVorschau([this, vorschau = std::move(vorschau)](Zeichenflaeche& flaeche) {
+        Zeichenzustand zustand = ZustandFuer(flaeche);
+        Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+        vorschau(zeichner, flaeche);
+    });
+}
+
+bool Planbild::MarkierePunkt(const PunktKnoten& punkt) {
+    const Bildpunkt ort = BildortVon(punkt, *plan_.Daten());
+    if (!InReichweite(ort, 0, flaeche_.Sichtbar())) return false;
+    const Flaechenpunkt m = Aufflaeche(ort);
+    {
+        const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
+        for (const std::int32_t r : {50, 25})
+            flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
+    }
+    pflege_.VerwirfBild();
+    bild_->update();
+    return true;
+}
+
+void Planbild::ZeichneStehendes(Zeichenflaeche& flaeche) {
+    if (!stehendesLose_) return;
+    Zeichenzustand zustand = ZustandFuer(flaeche);
+    Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
+    if (plan_.Daten()->ShowLegende) plan_.Daten()->SetLegende(zeichner);
+    zeichner.DrawResMasstab(plan_.Daten()->Vorlage());
+}
+
+// --- The view ---------------------------------------------------------------------------------------------
+
+void Planbild::SetzeGroesse(int weite, int hoehe) {
+    beobachter_.VorAnsichtswechsel();
+    flaeche_.SetzeGroesse(weite, hoehe);
+    if (!plan_.Offen()) return;
+    plan_.Daten()->Weite = weite;
+    plan_.Daten()->Hoehe = hoehe;
+    ZeichneNeu();
+}
+
+void Planbild::PasseEin() {
+    if (!plan_.Offen()) return;
+    beobachter_.VorAnsichtswechsel();
+    steuerung_.PasseEin(*plan_.Daten(), *plan_.Daten());
+    ZeichneNeu();
+    beobachter_.NachAnsichtswechsel();
+}
+
+void Planbild::PasseGezeigtesEin() {
+    if (!plan_.Offen()) return;
+    const Liste& netz = *plan_.Daten();
+    if (const auto lage = Ansichtssteuerung::Eingepasst(netz, netz, netz)) {
+        ZoomeAuf(*lage);
+    } else {
+        beobachter_.MeldeStatus(QStringLiteral("Es ist kein Punkt sichtbar."));
+    }
+}
+
+void Planbild::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
+    ZoomeAuf(plan_.Daten()->Ausschnitt(a, b));
+}
+
+/// With a way back.
+void Planbild::ZoomeAuf(const Bildlage& lage) {
+    const Bildlage vorher = plan_.Daten()->Lage();
+    if (SetzeLage(lage)) steuerung_.MerkeLage(vorher);
+}
+
+bool Planbild::SetzeLage(const Bildlage& lage) {
+    if (!ErlaubteLage(lage)) {
+        beobachter_.MeldeStatus(kNichtWeiter);
+        return false;
+    }
+    beobachter_.VorAnsichtswechsel();
+    plan_.Daten()->SetzeLage(lage);
+    ZeichneNeu();
+    beobachter_.NachAnsichtswechsel();
+    return true;
+}
+
+void Planbild::GeheZurueck() {
+    if (!plan_.Offen()) return;
+    if (const auto vorige = steuerung_.NimmLetzte()) SetzeLage(*vorige);
+}
+
+void Planbild::ZoomeUm(Bildpunkt ort) {
+    const Bildlage vorher = plan_.Daten()->Lage();
+    ZoomeSchritt(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
+    if (plan_.Daten()->Faktor != vorher.faktor) steuerung_.MerkeLage(vorher);
+}
+
+void Planbild::ZoomeUmMitte(bool groesser) {
+    if (plan_.Offen()) ZoomeSchritt(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, groesser);
+}
+
+void Planbild::ZoomeSchritt(double x, double y, bool groesser) {
+    beobachter_.VorAnsichtswechsel();
+    if (!plan_.Daten()->ZoomeSchritt(x, y, groesser, programm_.einstellungen.Zoomschritt))
+        return beobachter_.MeldeStatus(kNichtWeiter);
+    ZeichneNeu();
+    beobachter_.NachAnsichtswechsel();
+}
+
+void Planbild::RolleUm(Bildpunkt ort, int schritte) {
+    if (!Ansichtssteuerung::Rolle(*plan_.Daten(), ort, schritte, programm_.einstellungen.Zoomschritt))
+        return beobachter_.MeldeStatus(kNichtWeiter);
+    beobachter_.NachAnsichtswechsel();
+    if (!steuerung_.OeffneRad()) QTimer::singleShot(0, bild_, [this] { ZeichneNachRad(); });
+}
+
+void Planbild::ZeichneNachRad() {
+    if (steuerung_.SchliesseRad()) ZeichneNeu();
+}
+
+void Planbild::VerschiebeBild(Bildpunkt versatz) {
+    beobachter_.VorAnsichtswechsel();
+    Ansicht& ansicht = *plan_.Daten();
+    ansicht.SetzeVersatz(ansicht.Versatz(), versatz);
+    pflege_.VerschiebeBild(Vorlage(), versatz);
+    ZeigeBild();
+    beobachter_.NachAnsichtswechsel();
+}
+
+void Planbild::ZieheBild(Bildpunkt versatz) {
+    steuerung_.ZieheNach(versatz);
+    if (pflege_.Verschiebbar(Vorlage())) {
+        (void)FolgeZug();
+    } else {
+        // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
+        if (!stehendesLose_ && (plan_.Daten()->ShowLegende || plan_.Daten()->ZeigtErgebnisse())) {
+            stehendesLose_ = true;
+            const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
+            pflege_.ZeichneNeu(Vorlage());
+        }
+        bild_->SetzeVerschiebung(steuerung_.Rueckstand());
+    }
+}
+
+/// The picture goes where it is dragged. @return whether it was not there
+bool Planbild::FolgeZug() {
+    const auto weg = steuerung_.Folge(*plan_.Daten());
+    if (!weg) return false;
+    pflege_.VerschiebeBild(Vorlage(), *weg);
+    ZeigeBild();
+    return true;
+}
+
+void Planbild::BeendeZug() {
+    bild_->SetzeVerschiebung({});
+    const bool stand = std::exchange(stehendesLose_, false);
+    if (!FolgeZug() && stand) ZeichneNeu();
+}
+
+}  // namespace zrw
