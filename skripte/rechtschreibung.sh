@@ -21,16 +21,27 @@ MELDUNG = re.compile(r"(Fehler|Meldung)[({][^;]*$")
 KEIN_TEXT = re.compile(r"SELECT |CREATE |DROP |INSERT |PRAGMA |order by|[{};]\s*$|^[%&#<@:/\\]|://|\w\(\)|^[a-z]+$")
 
 
+def zusicherungen(text):
+    """(start, end) of what stands between the brackets of static_assert."""
+    for m in re.finditer(r"static_assert\(", text):
+        ende, tiefe = m.end(), 1
+        while tiefe > 0 and ende < len(text):
+            tiefe += {"(": 1, ")": -1}.get(text[ende], 0)
+            ende += 1
+        yield m.start(), ende
+
+
 def quelltext(zeilen, nur_meldungen):
     """(line, text) of the strings of a C++ source; neighbouring literals belong together, comments are left out."""
     text = "".join(zeilen)
     teile = re.compile(r'//[^\n]*|/\*.*?\*/|\'(?:\\.|[^\'\\\n])\'|R"\((.*?)\)"|"((?:\\.|[^"\\\n])*)"|'
                        r'#include[^\n]*', re.S)
+    nicht = list(zusicherungen(text))
     gesammelt, anfang, ende = "", 0, -1
     for m in teile.finditer(text):
         inhalt = m.group(1) if m.group(1) is not None else m.group(2)
         davor = text[max(0, m.start() - 200):m.start()]
-        if inhalt is None or re.search(r"static_assert\([^;]*$", davor) or \
+        if inhalt is None or any(a <= m.start() < e for a, e in nicht) or \
                 nur_meldungen and not MELDUNG.search(davor):
             continue
         inhalt = re.sub(r"\\x[0-9A-Fa-f]+|\\u[0-9A-Fa-f]{4}|\\.", " ", inhalt)
