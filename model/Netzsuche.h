@@ -120,7 +120,7 @@ struct Netzsuche {
     Suchmenge kanten;
     Suchmenge texte;
     std::vector<Punktenden> enden;  ///< of the lines by `Folge`: quicker to ask than the lines
-    Bildbereich abstaende;          ///< holds 0 and the offsets of all labels in the tree from their points [px]
+    Bildbereich abstaende;          ///< holds 0 and all offsets of labels in the tree from their points [px]
     bool gebaut = false;
     std::size_t bauten = 0;           ///< how often it was built
     std::optional<Weltkasten> alles;  ///< round all points, as far as one knows: when it was built, or before
