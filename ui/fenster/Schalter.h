@@ -72,8 +72,8 @@ inline constexpr auto kSchalter = std::to_array<Schalter>({
     {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "Punktnummern ohne ihre ersten vier Zeichen", nullptr,
      &Zeichenzustand::KurzeNummern, false},
 });
-/// No two switches of one name, and each switches one thing at most.
-static_assert([] {
+/// For assertions: no two switches of one name, and each switches one thing at most.
+[[nodiscard]] consteval bool SchalterEindeutig() {
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         if (kSchalter[i].inDarstellung != nullptr && kSchalter[i].imZustand != nullptr) return false;
         for (std::size_t k = 0; k < i; ++k) {
@@ -81,7 +81,8 @@ static_assert([] {
         }
     }
     return true;
-}());
+}
+static_assert(SchalterEindeutig(), "a name and a switch of its own for each row");
 
 /// Whether one of the switches with this mark is on in the plan.
 [[nodiscard]] inline bool EinerAn(const Darstellung& d, unsigned merkmal) {
