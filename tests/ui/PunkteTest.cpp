@@ -318,7 +318,9 @@ TEST_F(Punkte, NummernfeldSuchtUndZeigt) {
                                             {"ROT", "ROTST"},
                                             {"al", "Tal"},
                                             {"A", "A"},
-                                            {"TAL", "Tal"}}) {
+                                            {"TAL", "Tal"},
+                                            {"t", "Tal"},
+                                            {"?O*n", "ROTEN"}}) {
         SCOPED_TRACE(getippt);
         for (int i = 0; i < weg; ++i)
             Taste(Qt::Key_Left);

@@ -8,6 +8,8 @@
 #include <QStringListModel>
 #include <algorithm>
 
+#include "ui/Nummernmuster.h"
+
 namespace zrw {
 
 TFormHidePunkte::TFormHidePunkte(QWidget* eltern)
@@ -20,6 +22,7 @@ TFormHidePunkte::TFormHidePunkte(QWidget* eltern)
     FilterPkt_->setObjectName(QStringLiteral("FilterPkt"));
     FilterPkt_->setPlaceholderText(QStringLiteral("Nummern filtern"));
     FilterPkt_->setAccessibleName(QStringLiteral("Nummern filtern"));
+    FilterPkt_->setToolTip(QStringLiteral("Teil der Nummer; * steht für beliebige Zeichen, ? für eines"));
     FilterPkt_->setClearButtonEnabled(true);
     ListBoxPkt_->setObjectName(QStringLiteral("ListBoxPkt"));
     ListBoxPkt_->setAccessibleName(QStringLiteral("Punktnummern"));
@@ -57,9 +60,12 @@ void TFormHidePunkte::FuelleListe(const QStringList& nummern) {
 }
 
 void TFormHidePunkte::FiltereNummern(const QString& teil) {
+    const Nummernmuster muster(teil);
     const QStringList alle = nummern_->stringList();
-    for (int zeile = 0; zeile < alle.size(); ++zeile)
-        ListBoxPkt_->setRowHidden(zeile, !alle[zeile].contains(teil, Qt::CaseInsensitive));
+    for (int zeile = 0; zeile < alle.size(); ++zeile) {
+        ListBoxPkt_->setRowHidden(zeile, !muster.Passt(alle[zeile]));
+        if (muster.IstNummer(alle[zeile])) ListBoxPkt_->scrollTo(nummern_->index(zeile));
+    }
 }
 
 QStringList TFormHidePunkte::Gewaehlte() const {

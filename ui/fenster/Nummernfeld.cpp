@@ -5,12 +5,17 @@
 #include <QStringListModel>
 #include <algorithm>
 
+#include "ui/Nummernmuster.h"
 #include "ui/Umwandlung.h"
 #include "ui/fenster/Nummernordnung.h"
 
 namespace zrw {
 
-Nummernfeld::Nummernfeld(QWidget* eltern) : QComboBox(eltern), nummern_(new QStringListModel(this)) {
+/// More nobody looks through.
+static constexpr qsizetype kMeisteTreffer = 500;
+
+Nummernfeld::Nummernfeld(QWidget* eltern)
+    : QComboBox(eltern), nummern_(new QStringListModel(this)), treffer_(new QStringListModel(this)) {
     setObjectName(QStringLiteral("ComboBox1"));
     setToolTip(QStringLiteral("Punkt aus Liste anzeigen"));
     setAccessibleName(toolTip());
@@ -20,9 +25,12 @@ Nummernfeld::Nummernfeld(QWidget* eltern) : QComboBox(eltern), nummern_(new QStr
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(static_cast<int>(PunktNummernTyp::kLaenge));
     setModel(nummern_);
-    setCompleter(new QCompleter(nummern_, this));
-    completer()->setFilterMode(Qt::MatchContains);
-    completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    // What fits is chosen here: the completer's own filter knows neither wildcards nor the best first.
+    setCompleter(new QCompleter(treffer_, this));
+    completer()->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+        treffer_->setStringList(Nummernmuster(text).Treffer(nummern_->stringList(), kMeisteTreffer));
+    });
     setEditText(QStringLiteral("Punktnummern"));
     connect(this, &QComboBox::textActivated, this, [this](const QString& nummer) {
         if (gewaehlt) gewaehlt(nummer);
@@ -48,11 +56,8 @@ QStringList Nummernfeld::Nummern() const {
 }
 
 std::optional<QString> Nummernfeld::FindeNummer(const QString& teil) const {
-    const QStringList nummern = nummern_->stringList();
-    const auto treffer = std::find_if(nummern.begin(), nummern.end(), [&](const QString& nummer) {
-        return nummer.contains(teil, Qt::CaseInsensitive);
-    });
-    return treffer != nummern.end() ? std::optional(*treffer) : std::nullopt;
+    const QStringList treffer = Nummernmuster(teil).Treffer(nummern_->stringList(), 1);
+    return !treffer.isEmpty() ? std::optional(treffer.front()) : std::nullopt;
 }
 
 }  // namespace zrw

@@ -1,4 +1,4 @@
-// The field "Punktnummern": the numbers of all points, to choose one or to type a part of one. It knows
+// The field "Punktnummern": the numbers of all points, to choose one or to type what it is like. It knows
 // numbers only; whoever owns it shows the point.
 #pragma once
 
@@ -26,7 +26,7 @@ class Nummernfeld final : public QComboBox {
     /// Whether points have come or gone since.
     [[nodiscard]] bool Veraltet(const Liste& liste) const { return stand_ != liste.MaxPkte; }
     [[nodiscard]] QStringList Nummern() const;
-    /// The first number that holds the text, whatever its case.
+    /// The number that fits best what was typed.
     [[nodiscard]] std::optional<QString> FindeNummer(const QString& teil) const;
 
     /// A number was chosen, or something typed.
@@ -34,6 +34,7 @@ class Nummernfeld final : public QComboBox {
 
   private:
     QStringListModel* nummern_;
+    QStringListModel* treffer_;  ///< those that fit what is typed
     bool sortiert_ = false;
     std::int32_t stand_ = 0;  ///< number of points that they were made from
 };
