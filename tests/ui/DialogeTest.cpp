@@ -128,9 +128,10 @@ class Parameter : public testing::Test {
   protected:
     ~Parameter() override { delete form; }
     Einstellungen e;
+    Vorlieben vorlieben;
     Speichereinstellungen ablage;
     Antwortdienst dialoge;
-    QPointer<TZRWParameter> form = new TZRWParameter(e, ablage, dialoge, nullptr);
+    QPointer<TZRWParameter> form = new TZRWParameter(e, vorlieben, ablage, dialoge, nullptr);
 };
 
 TEST_F(Parameter, JedesFeldAendertSeineEinstellungSofort) {

@@ -105,8 +105,9 @@ TEST_F(InidateiTest, UnlesbaresHaeltNichtAufUndBleibt) {
         // The dialog that saves tells it, and what was chosen stays.
         Einstellungen e;
         e.Fang = 9;
+        Vorlieben vorlieben;
         Antwortdienst dialoge;
-        auto* form = new TZRWParameter(e, ablage, dialoge, nullptr);
+        auto* form = new TZRWParameter(e, vorlieben, ablage, dialoge, nullptr);
         form->show();
         form->close();
         ASSERT_EQ(dialoge.meldungen.size(), 1);

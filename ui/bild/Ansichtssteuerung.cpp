@@ -38,7 +38,9 @@ bool Ansichtssteuerung::Rolle(Ansicht& ansicht, Bildpunkt ort, int schritte, dou
 }
 
 void Ansichtssteuerung::NeuesNetz() {
-    ansichten_.clear();
+    fruehere_.clear();
+    spaetere_.clear();
+    inBewegung_ = false;
     ausdehnungAlt_ = false;
 }
 
@@ -49,17 +51,34 @@ void Ansichtssteuerung::PasseEin(const Netz& netz, Ansicht& ansicht) {
     ansicht.PasseEin();
 }
 
-void Ansichtssteuerung::MerkeLage(const Bildlage& lage) {
+void Ansichtssteuerung::MerkeLage(const Bildlage& lage, Wechsel wechsel) {
     constexpr std::size_t kHoechstens = 50;
-    if (ansichten_.size() == kHoechstens) ansichten_.erase(ansichten_.begin());
-    ansichten_.push_back(lage);
+    const bool weiter = inBewegung_ && wechsel == Wechsel::Bewegung;
+    inBewegung_ = wechsel == Wechsel::Bewegung;
+    spaetere_.clear();
+    if (weiter) return;
+    if (fruehere_.size() == kHoechstens) fruehere_.erase(fruehere_.begin());
+    fruehere_.push_back(lage);
 }
 
-std::optional<Bildlage> Ansichtssteuerung::NimmLetzte() {
-    if (ansichten_.empty()) return std::nullopt;
-    const Bildlage letzte = ansichten_.back();
-    ansichten_.pop_back();
-    return letzte;
+/// The last of one row, where the present view goes to the end of the other.
+static std::optional<Bildlage> TauscheLage(std::vector<Bildlage>& von, std::vector<Bildlage>& nach,
+                                           const Bildlage& jetzt) {
+    if (von.empty()) return std::nullopt;
+    nach.push_back(jetzt);
+    const Bildlage lage = von.back();
+    von.pop_back();
+    return lage;
+}
+
+std::optional<Bildlage> Ansichtssteuerung::NimmFruehere(const Bildlage& jetzt) {
+    inBewegung_ = false;
+    return TauscheLage(fruehere_, spaetere_, jetzt);
+}
+
+std::optional<Bildlage> Ansichtssteuerung::NimmSpaetere(const Bildlage& jetzt) {
+    inBewegung_ = false;
+    return TauscheLage(spaetere_, fruehere_, jetzt);
 }
 
 void Ansichtssteuerung::BeginneZug(const Ansicht& ansicht) {

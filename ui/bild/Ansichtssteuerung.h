@@ -2,6 +2,7 @@
 // Changes views only; whoever calls lets the picture follow.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -29,10 +30,13 @@ class Ansichtssteuerung {
     /// the view of an empty network alone.
     void PasseEin(const Netz& netz, Ansicht& ansicht);
 
-    /// A view to go back to.
-    void MerkeLage(const Bildlage& lage);
-    /// The last one, which is then forgotten.
-    [[nodiscard]] std::optional<Bildlage> NimmLetzte();
+    /// How a view was left: at once, or by one of many small moves, which together are one.
+    enum class Wechsel : std::uint8_t { Sprung, Bewegung };
+    /// A view to go back to. Later ones are then forgotten.
+    void MerkeLage(const Bildlage& lage, Wechsel wechsel);
+    /// The view before this one, or after it; none where there is none.
+    [[nodiscard]] std::optional<Bildlage> NimmFruehere(const Bildlage& jetzt);
+    [[nodiscard]] std::optional<Bildlage> NimmSpaetere(const Bildlage& jetzt);
 
     // Steps of the wheel that arrive while a picture is being drawn are drawn together with the next.
     /// The view has changed, the picture has not. @return false: nor had it before
@@ -51,7 +55,9 @@ class Ansichtssteuerung {
     [[nodiscard]] std::optional<Bildpunkt> Folge(Ansicht& ansicht);
 
   private:
-    std::vector<Bildlage> ansichten_;
+    std::vector<Bildlage> fruehere_;  ///< the last one at the end
+    std::vector<Bildlage> spaetere_;  ///< the next one at the end
+    bool inBewegung_ = false;
     bool ausdehnungAlt_ = false;
     bool radOffen_ = false;
     Welt zuganfang_;     ///< pan offsets before the picture was dragged [m]

@@ -10,6 +10,9 @@
 #include "output/Residuenbild.h"
 
 namespace zrw {
+
+using Wechsel = Ansichtssteuerung::Wechsel;
+
 namespace {
 
 constexpr Farbe kSuchfarbe{0xFF0000};
@@ -100,8 +103,15 @@ void Planbild::ZeigeVorschau(Vorschau vorschau) {
 }
 
 bool Planbild::MarkierePunkt(const PunktKnoten& punkt) {
-    const Bildpunkt ort = BildortVon(punkt, *plan_.Daten());
-    if (!InReichweite(ort, 0, flaeche_.Sichtbar())) return false;
+    Liste& netz = *plan_.Daten();
+    const Rechteck bild = flaeche_.Sichtbar();
+    if (!InReichweite(BildortVon(punkt, netz), 0, bild)) {
+        steuerung_.MerkeLage(netz.Lage(), Wechsel::Sprung);
+        netz.SetzeMitte({punkt.XWPu, punkt.YWPu});
+    }
+    ZeichneNeu();
+    const Bildpunkt ort = BildortVon(punkt, netz);
+    if (!InReichweite(ort, 0, bild)) return false;
     const Flaechenpunkt m = Aufflaeche(ort);
     {
         const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
@@ -111,6 +121,18 @@ bool Planbild::MarkierePunkt(const PunktKnoten& punkt) {
     pflege_.VerwirfBild();
     bild_->update();
     return true;
+}
+
+Planbild::Punktzahl Planbild::ZaehlePunkte() const {
+    const Liste& netz = *plan_.Daten();
+    const Rechteck bild = flaeche_.Sichtbar();
+    Punktzahl zahl;
+    netz.FuerAllePunkte([&](const PunktKnoten& p) {
+        if (!p.Item->Visible || !netz.Dargestellt(*p.Item)) return;
+        ++zahl.gezeigt;
+        if (!InReichweite(BildortVon(p, netz), 0, bild)) ++zahl.draussen;
+    });
+    return zahl;
 }
 
 void Planbild::ZeichneStehendes(Zeichenflaeche& flaeche) {
@@ -135,7 +157,9 @@ void Planbild::SetzeGroesse(int weite, int hoehe) {
 void Planbild::PasseEin() {
     if (!plan_.Offen()) return;
     beobachter_.VorAnsichtswechsel();
+    const Bildlage vorher = plan_.Daten()->Lage();
     steuerung_.PasseEin(*plan_.Daten(), *plan_.Daten());
+    if (!(plan_.Daten()->Lage() == vorher)) steuerung_.MerkeLage(vorher, Wechsel::Sprung);
     ZeichneNeu();
     beobachter_.NachAnsichtswechsel();
 }
@@ -150,6 +174,12 @@ void Planbild::PasseGezeigtesEin() {
     }
 }
 
+void Planbild::SetzeEingepasst() {
+    Liste& netz = *plan_.Daten();
+    const auto lage = Ansichtssteuerung::Eingepasst(netz, netz, netz);
+    if (lage && ErlaubteLage(*lage)) netz.SetzeLage(*lage);
+}
+
 void Planbild::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
     ZoomeAuf(plan_.Daten()->Ausschnitt(a, b));
 }
@@ -157,7 +187,7 @@ void Planbild::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
 /// With a way back.
 void Planbild::ZoomeAuf(const Bildlage& lage) {
     const Bildlage vorher = plan_.Daten()->Lage();
-    if (SetzeLage(lage)) steuerung_.MerkeLage(vorher);
+    if (!(lage == vorher) && SetzeLage(lage)) steuerung_.MerkeLage(vorher, Wechsel::Sprung);
 }
 
 bool Planbild::SetzeLage(const Bildlage& lage) {
@@ -172,32 +202,46 @@ bool Planbild::SetzeLage(const Bildlage& lage) {
     return true;
 }
 
-void Planbild::GeheZurueck() {
-    if (!plan_.Offen()) return;
-    if (const auto vorige = steuerung_.NimmLetzte()) SetzeLage(*vorige);
+bool Planbild::GeheZurueck() {
+    const auto lage = plan_.Offen() ? steuerung_.NimmFruehere(plan_.Daten()->Lage()) : std::nullopt;
+    return lage && SetzeLage(*lage);
+}
+
+bool Planbild::GeheVor() {
+    const auto lage = plan_.Offen() ? steuerung_.NimmSpaetere(plan_.Daten()->Lage()) : std::nullopt;
+    return lage && SetzeLage(*lage);
 }
 
 void Planbild::ZoomeUm(Bildpunkt ort) {
     const Bildlage vorher = plan_.Daten()->Lage();
-    ZoomeSchritt(static_cast<double>(ort.x), static_cast<double>(ort.y), true);
-    if (plan_.Daten()->Faktor != vorher.faktor) steuerung_.MerkeLage(vorher);
+    if (ZoomeSchritt(static_cast<double>(ort.x), static_cast<double>(ort.y), true))
+        steuerung_.MerkeLage(vorher, Wechsel::Sprung);
 }
 
 void Planbild::ZoomeUmMitte(bool groesser) {
-    if (plan_.Offen()) ZoomeSchritt(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, groesser);
+    if (!plan_.Offen()) return;
+    const Bildlage vorher = plan_.Daten()->Lage();
+    if (ZoomeSchritt(plan_.Daten()->Weite / 2.0, plan_.Daten()->Hoehe / 2.0, groesser))
+        steuerung_.MerkeLage(vorher, Wechsel::Bewegung);
 }
 
-void Planbild::ZoomeSchritt(double x, double y, bool groesser) {
+/// @return false: zooming ends here
+bool Planbild::ZoomeSchritt(double x, double y, bool groesser) {
     beobachter_.VorAnsichtswechsel();
-    if (!plan_.Daten()->ZoomeSchritt(x, y, groesser, programm_.einstellungen.Zoomschritt))
-        return beobachter_.MeldeStatus(kNichtWeiter);
+    if (!plan_.Daten()->ZoomeSchritt(x, y, groesser, programm_.einstellungen.Zoomschritt)) {
+        beobachter_.MeldeStatus(kNichtWeiter);
+        return false;
+    }
     ZeichneNeu();
     beobachter_.NachAnsichtswechsel();
+    return true;
 }
 
 void Planbild::RolleUm(Bildpunkt ort, int schritte) {
+    const Bildlage vorher = plan_.Daten()->Lage();
     if (!Ansichtssteuerung::Rolle(*plan_.Daten(), ort, schritte, programm_.einstellungen.Zoomschritt))
         return beobachter_.MeldeStatus(kNichtWeiter);
+    steuerung_.MerkeLage(vorher, Wechsel::Bewegung);
     beobachter_.NachAnsichtswechsel();
     if (!steuerung_.OeffneRad()) QTimer::singleShot(0, bild_, [this] { ZeichneNachRad(); });
 }
@@ -209,10 +253,16 @@ void Planbild::ZeichneNachRad() {
 void Planbild::VerschiebeBild(Bildpunkt versatz) {
     beobachter_.VorAnsichtswechsel();
     Ansicht& ansicht = *plan_.Daten();
+    steuerung_.MerkeLage(ansicht.Lage(), Wechsel::Bewegung);
     ansicht.SetzeVersatz(ansicht.Versatz(), versatz);
     pflege_.VerschiebeBild(Vorlage(), versatz);
     ZeigeBild();
     beobachter_.NachAnsichtswechsel();
+}
+
+void Planbild::BeginneZug() {
+    zuglage_ = plan_.Daten()->Lage();
+    steuerung_.BeginneZug(*plan_.Daten());
 }
 
 void Planbild::ZieheBild(Bildpunkt versatz) {
@@ -243,6 +293,7 @@ void Planbild::BeendeZug() {
     bild_->SetzeVerschiebung({});
     const bool stand = std::exchange(stehendesLose_, false);
     if (!FolgeZug() && stand) ZeichneNeu();
+    if (!(plan_.Daten()->Lage() == zuglage_)) steuerung_.MerkeLage(zuglage_, Wechsel::Bewegung);
 }
 
 }  // namespace zrw

@@ -58,8 +58,15 @@ class Planbild {
     void LasseAus(Figurenmenge figuren);
     void LasseLegendeAus(bool aus);
     void ZeigeVorschau(Vorschau vorschau);
-    /// Circles round a point, until the next drawing. @return whether it lies in the picture
+    /// Circles round a point, until the next drawing. Brings it into the middle where it lies outside.
+    /// @return false: not even there
     bool MarkierePunkt(const PunktKnoten& punkt);
+    /// How many of the points that are shown lie outside the picture, and how many there are.
+    struct Punktzahl {
+        std::size_t draussen = 0;
+        std::size_t gezeigt = 0;
+    };
+    [[nodiscard]] Punktzahl ZaehlePunkte() const;
     /// Legend and scale bar over a picture that is dragged without them.
     void ZeichneStehendes(Zeichenflaeche& flaeche);
 
@@ -70,21 +77,24 @@ class Planbild {
     void PasseEin();
     /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
     void PasseGezeigtesEin();
+    /// The same for a network that is being opened: draws nothing and keeps no view to go back to.
+    void SetzeEingepasst();
     /// Fills the picture with a rectangle of it, given by two corners.
     void ZoomeAuf(Bildpunkt a, Bildpunkt b);
     /// One step in about a position, with a way back.
     void ZoomeUm(Bildpunkt ort);
     /// One step about the middle.
     void ZoomeUmMitte(bool groesser);
-    /// The view before the last zoom.
-    void GeheZurueck();
+    /// To the view before this one, or after it. @return false: there is none
+    bool GeheZurueck();
+    bool GeheVor();
     /// Steps of the wheel about a position; drawn when the events that wait have been heard.
     void RolleUm(Bildpunkt ort, int schritte);
     /// Draws what the wheel has left to be drawn.
     void ZeichneNachRad();
     void VerschiebeBild(Bildpunkt versatz);
     // Panning with the mouse.
-    void BeginneZug() { steuerung_.BeginneZug(*plan_.Daten()); }
+    void BeginneZug();
     void ZieheBild(Bildpunkt versatz);
     void BeendeZug();
 
@@ -94,7 +104,7 @@ class Planbild {
     bool FolgeZug();
     void ZoomeAuf(const Bildlage& lage);
     bool SetzeLage(const Bildlage& lage);
-    void ZoomeSchritt(double x, double y, bool groesser);
+    bool ZoomeSchritt(double x, double y, bool groesser);
     [[nodiscard]] Zeichenzustand ZustandFuer(Zeichenflaeche& flaeche) const;
 
     const Programm& programm_;
@@ -106,6 +116,7 @@ class Planbild {
     Ansichtssteuerung steuerung_;
     Figurenmenge ausgelassene_;   ///< what a tool has in hand
     Auslassung ohne_;             ///< the same for drawing
+    Bildlage zuglage_;            ///< the view before the picture was dragged
     bool stehendesLose_ = false;  ///< legend and scale bar lie over the picture that is being dragged
     ImageZarwik* bild_ = nullptr;
 };

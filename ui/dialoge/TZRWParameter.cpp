@@ -1,5 +1,6 @@
 #include "ui/dialoge/TZRWParameter.h"
 
+#include <QCheckBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -61,9 +62,9 @@ QFormLayout* NeueGruppe(const QString& titel, QBoxLayout& spalte, QWidget* elter
 
 }  // namespace
 
-TZRWParameter::TZRWParameter(Einstellungen& einstellungen, EinstellungsSpeicher& speicher,
-                             Dialogdienst& dialoge, QWidget* eltern)
-    : QDialog(eltern), e_(einstellungen), speicher_(speicher), dialoge_(dialoge) {
+TZRWParameter::TZRWParameter(Einstellungen& einstellungen, Vorlieben& vorlieben,
+                             EinstellungsSpeicher& speicher, Dialogdienst& dialoge, QWidget* eltern)
+    : QDialog(eltern), e_(einstellungen), vorlieben_(vorlieben), speicher_(speicher), dialoge_(dialoge) {
     setObjectName(QStringLiteral("TZRWParameter"));
     setWindowTitle(QStringLiteral("Zarwikeinstellungen"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -78,6 +79,7 @@ TZRWParameter::TZRWParameter(Einstellungen& einstellungen, EinstellungsSpeicher&
     }
     BaueFarben(*spalte[0], *spalte[1]);
     BaueZahlen(*spalte[2]);
+    BaueVorlieben(*spalte[1]);
     for (QVBoxLayout* s : spalte)
         s->addStretch();
     auto* schliessen = new QPushButton(QStringLiteral("Schließen"), this);
@@ -175,6 +177,18 @@ void TZRWParameter::BaueZahlen(QBoxLayout& spalte) {
     anzeigen_.emplace_back([this] { EditMFRes_->setText(AusUtf8(SchreibeReal(e_.ResMF))); });
 }
 
+void TZRWParameter::BaueVorlieben(QBoxLayout& spalte) {
+    auto* gruppe = NeueGruppe(QStringLiteral("Fenster"), spalte, this);
+    auto* kasten = new QCheckBox(QStringLiteral("Nach dem Öffnen einpassen"), this);
+    kasten->setObjectName(QStringLiteral("CheckBoxEinpassen"));
+    kasten->setToolTip(
+        QStringLiteral("Steuerdateien öffnen mit allen sichtbaren Punkten im Bild, statt auf volle "
+                       "Kilometer erweitert"));
+    gruppe->addRow(kasten);
+    anzeigen_.emplace_back([this, kasten] { kasten->setChecked(vorlieben_.EinpassenNachOeffnen); });
+    connect(kasten, &QCheckBox::toggled, this, [this](bool ein) { vorlieben_.EinpassenNachOeffnen = ein; });
+}
+
 void TZRWParameter::ZeigeEinstellungen() {
     for (const auto& zeige : anzeigen_)
         zeige();
@@ -218,6 +232,7 @@ void TZRWParameter::done(int ergebnis) {
     UebernimmResiduenmassstab();  // Escape and the window's cross leave no field before
     try {
         SaveSettings(e_, speicher_);
+        SchreibeVorlieben(vorlieben_, speicher_);
         speicher_.SichereWerte();
     } catch (const std::exception& f) {
         dialoge_.MeldeFehler(AusUtf8(Fehlertext(f)) +

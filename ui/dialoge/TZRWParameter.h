@@ -7,6 +7,7 @@
 
 #include "model/Einstellungen.h"
 #include "ui/Dialogdienst.h"
+#include "ui/ablage/Vorlieben.h"
 
 class QBoxLayout;
 class QFormLayout;
@@ -17,8 +18,8 @@ namespace zrw {
 class TZRWParameter final : public QDialog {
   public:
     /// Deletes itself when closed.
-    TZRWParameter(Einstellungen& einstellungen, EinstellungsSpeicher& speicher, Dialogdienst& dialoge,
-                  QWidget* eltern);
+    TZRWParameter(Einstellungen& einstellungen, Vorlieben& vorlieben, EinstellungsSpeicher& speicher,
+                  Dialogdienst& dialoge, QWidget* eltern);
 
     std::function<void()> geschlossen;  ///< after the settings were saved
 
@@ -33,11 +34,13 @@ class TZRWParameter final : public QDialog {
     template <class Zahl>
     void BaueZahl(QFormLayout& form, const QString& name, const QString& schild, Zahl Einstellungen::*feld,
                   int von, int bis);
+    void BaueVorlieben(QBoxLayout& spalte);
     void ZeigeEinstellungen();
     void ZoomfaktorGetippt(const QString& text);
     void UebernimmResiduenmassstab();
 
     Einstellungen& e_;
+    Vorlieben& vorlieben_;
     EinstellungsSpeicher& speicher_;
     Dialogdienst& dialoge_;
     std::vector<std::function<void()>> anzeigen_;  ///< one for each control: shows its setting

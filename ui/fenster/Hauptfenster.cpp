@@ -25,6 +25,7 @@
 #include "ui/dialoge/TZRWLBLForm.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/TFormData.h"
+#include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Fensterort.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Umbruchleiste.h"
@@ -152,6 +153,7 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
                       UebernimmLesung(std::move(lesung), datei);
                       plan_.MerkeUngesichert();
                   }}) {
+    LadeVorlieben(vorlieben_, programm_.ablage);
     BaueFenster();
     BaueDialoge();
     qApp->installEventFilter(this);
@@ -187,6 +189,8 @@ void TZrwMainDlg::BaueFenster() {
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(planbild_.Flaeche(), *this, mitte);
     planbild_.SetzeAnzeige(*bild_);
+    aussenhinweis_ = new Aussenhinweis(bild_);
+    aussenhinweis_->einpassen = [this] { EinpassenClick(); };
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
         if (!plan_.Offen()) return;
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);

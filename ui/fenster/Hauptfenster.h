@@ -16,6 +16,7 @@
 #include "ui/Plan.h"
 #include "ui/Programm.h"
 #include "ui/ablage/Netzbewahrung.h"
+#include "ui/ablage/Vorlieben.h"
 #include "ui/bild/Ansichtssteuerung.h"
 #include "ui/bild/ImageZarwik.h"
 #include "ui/bild/Planbild.h"
@@ -30,6 +31,7 @@ class QLayout;
 
 namespace zrw {
 
+class Aussenhinweis;
 class Ergebnisanzeige;
 class Hilfefenster;
 class Nummernfeld;
@@ -149,7 +151,7 @@ class TZrwMainDlg final : public QMainWindow,
     void BeendeZug() override { planbild_.BeendeZug(); }
     void ZoomeAuf(Bildpunkt a, Bildpunkt b) override { planbild_.ZoomeAuf(a, b); }
     void ZoomeUm(Bildpunkt ort) override { planbild_.ZoomeUm(ort); }
-    void AnsichtZurueck() override { planbild_.GeheZurueck(); }
+    void AnsichtZurueck() override { (void)planbild_.GeheZurueck(); }
     [[nodiscard]] Bildbereich Textrahmen(const PunktString& text) const override {
         return planbild_.Textrahmen(text);
     }
@@ -179,6 +181,7 @@ class TZrwMainDlg final : public QMainWindow,
     void SchliesseEinstellungen();
 
     Programm programm_;
+    Vorlieben vorlieben_;
     Plan plan_;
     bool beendet_ = false;     ///< closing has been asked about
     bool planBleibt_ = false;  ///< at the end the unsaved plot is kept for the next start
@@ -189,6 +192,7 @@ class TZrwMainDlg final : public QMainWindow,
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
+    Aussenhinweis* aussenhinweis_ = nullptr;
     QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
     Massstabfeld* EditMasstab_ = nullptr;
     Nummernfeld* ComboBox1_ = nullptr;

@@ -7,6 +7,7 @@
 #include "ui/Umwandlung.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/TFormData.h"
+#include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
 
 namespace zrw {
@@ -15,6 +16,7 @@ namespace zrw {
 void TZrwMainDlg::BildGezeichnet() {
     werkzeuge_.Schwebe();
     ergebnisse_->MeldeTabellen();
+    if (aussenhinweis_->isVisible()) aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
 }
 
 void TZrwMainDlg::ZeigeStatus(const QString& text) {
@@ -113,6 +115,14 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
             default:
                 break;
         }
+    }
+    if (ereignis->modifiers() == Qt::AltModifier && ereignis->key() == Qt::Key_Left) {
+        if (!planbild_.GeheZurueck()) ZeigeStatus(QStringLiteral("Eine frühere Ansicht gibt es nicht."));
+        return;
+    }
+    if (ereignis->modifiers() == Qt::AltModifier && ereignis->key() == Qt::Key_Right) {
+        if (!planbild_.GeheVor()) ZeigeStatus(QStringLiteral("Eine spätere Ansicht gibt es nicht."));
+        return;
     }
     QMainWindow::keyPressEvent(ereignis);
 }

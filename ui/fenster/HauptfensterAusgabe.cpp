@@ -70,7 +70,8 @@ void TZrwMainDlg::SchliesseEinstellungen() {
 void TZrwMainDlg::ColorButtonClick() {
     // One at a time: two would not show each other's changes. Closing saves.
     SchliesseEinstellungen();
-    auto* dialog = new TZRWParameter(programm_.einstellungen, programm_.ablage, programm_.dialoge, this);
+    auto* dialog =
+        new TZRWParameter(programm_.einstellungen, vorlieben_, programm_.ablage, programm_.dialoge, this);
     dialog->geschlossen = [this] { ZeichneNeu(); };
     dialog->show();
 }

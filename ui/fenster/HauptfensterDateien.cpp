@@ -19,6 +19,7 @@
 #include "ui/aenderungen/Punktversteck.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Sanduhr.h"
@@ -358,7 +359,10 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     if (Werkzeug* werkzeug = werkzeuge_.Aktiv(); werkzeug != nullptr) werkzeug->BeginneWerkzeug();
     // A picture file carries its marks.
     if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
+    // A picture file keeps the view that it was saved with.
+    if (vorlieben_.EinpassenNachOeffnen && !IstBilddatei(datei)) planbild_.SetzeEingepasst();
     ZeichneNeu();
+    aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
 }
 
 bool TZrwMainDlg::SpeicherePlan() {

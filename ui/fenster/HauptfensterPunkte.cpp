@@ -1,6 +1,4 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
-#include "model/Bildorte.h"
-#include "output/Abschneiden.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktartwahl.h"
 #include "ui/aenderungen/Punktversteck.h"
@@ -83,9 +81,6 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     werkzeuge_.BrichAb();
     const QString gefunden = AusNetz(plan_.Daten()->GetPktText(punkt->PNr));
     ComboBox1_->setEditText(gefunden);
-    if (!InReichweite(BildortVon(*punkt, *plan_.Daten()), 0, planbild_.Flaeche().Sichtbar()))
-        plan_.Daten()->SetzeMitte({punkt->XWPu, punkt->YWPu});
-    ZeichneNeu();
     if (!planbild_.MarkierePunkt(*punkt)) return punkt;
     ZeigeStatus(QStringLiteral("Punkt ") + gefunden +
                 (!punkt->Item->Visible

@@ -1,0 +1,17 @@
+// What users set about the program itself and not about the plan. Stored beside the settings of the plan,
+// under names of their own.
+#pragma once
+
+#include "model/Einstellungen.h"
+
+namespace zrw {
+
+struct Vorlieben {
+    bool EinpassenNachOeffnen = false;  ///< fits the points of a control file instead of whole kilometres
+};
+
+/// Anything but "1" and "0" leaves a setting as it is.
+void LadeVorlieben(Vorlieben& v, const EinstellungsSpeicher& speicher);
+void SchreibeVorlieben(const Vorlieben& v, EinstellungsSpeicher& speicher);
+
+}  // namespace zrw
