@@ -102,6 +102,8 @@ bool ExportiereNetz(const Aufruf& aufruf) {
     SetzeGroesse(aufruf, *lesung.liste);
     Zeichenzustand zustand;
     SetzeSchalter(aufruf, lesung, zustand);
+    if (lesung.liste->ShowMassbalken && !InMetern(lesung.netz.Netztyp))
+        DruckeZeile(Fehler::Meldung(std::string(kKeineMeter), PfadText(datei.filename()), 0));
     if (const auto text = Blattschnitthinweis(*lesung.liste, lesung.netz, zustand); !text.empty())
         DruckeZeile(Fehler::Meldung(std::string(text), PfadText(datei.filename()), 0));
     TDM daten(dateien);

@@ -24,6 +24,7 @@ struct Darstellung {
     bool ShowFH = true;
     bool ShowNP = true;
     bool ShowHilfP = true;
+    bool ShowMassbalken = false;
     std::optional<Legende> Legend{Legende::Create()};
 
     /// The point's kind is switched on.

@@ -38,6 +38,11 @@ inline constexpr Netzart kUnbekannteNetzart{0, Koordinaten::Keine, false, false,
     return art != kNetzarten.end() ? *art : kUnbekannteNetzart;
 }
 
+/// Lengths in the plan are lengths on earth; else coordinates are angles.
+[[nodiscard]] constexpr bool InMetern(std::int32_t netztyp) {
+    return ZumTyp(netztyp).koordinaten != Koordinaten::Winkel;
+}
+
 [[nodiscard]] constexpr bool PunkteInGaussKrueger(std::int32_t netztyp) {
     return ZumTyp(netztyp).gaussKrueger;
 }

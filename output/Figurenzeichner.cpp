@@ -10,6 +10,7 @@
 #include "model/Ganzzahl.h"
 #include "model/Punktsymbole.h"
 #include "output/Abschneiden.h"
+#include "output/Balkenbild.h"
 #include "output/Bildaufbau.h"
 #include "output/Kartengitter.h"
 #include "output/Legendenbild.h"
@@ -317,6 +318,20 @@ void Figurenzeichner::DrawResMasstab(const Bildvorlage& v) {
     if (!ZeigtResiduen() || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Ergebnisse);
     Residuenbild(zustand_, einstellungen_, v).DrawResMasstab();
+}
+
+void Figurenzeichner::ZeichneMassbalken(const Bildvorlage& v) {
+    if (!ZeigtResiduen() || zustand_.OhneStehendes || !InMetern(netz_.Netztyp)) return;
+    SetzeEbene(Ebene::Legende);
+    const auto balken = MetrischerBalken(v.ansicht.Faktor);
+    if (!balken) return;
+    // Both bars need so much room beside each other; else they stand one above the other.
+    constexpr int kZeilen = 60;
+    Zeichenflaeche& f = *zustand_.flaeche;
+    const Rechteck s = f.Sichtbar();
+    const std::int64_t hoehe = f.Texthoehe();
+    const bool eng = v.darstellung.ZeigtErgebnisse() && s.rechts - s.links < kZeilen * hoehe;
+    ZeichneBalken(f, *balken, eng ? 4 * hoehe : 0);
 }
 
 }  // namespace zrw

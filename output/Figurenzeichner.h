@@ -42,6 +42,7 @@ class Figurenzeichner final : public Zeichner {
     void KMGitterShow(const Bildvorlage& v) override;
     void ZeichnePunktRes(const Bildvorlage& v) override;
     void DrawResMasstab(const Bildvorlage& v) override;
+    void ZeichneMassbalken(const Bildvorlage& v) override;
 
     // Where a figure may show on the screen [px], with some room to spare.
     [[nodiscard]] Rechteck Punktumfang(Bildpunkt ort) const;

@@ -12,6 +12,7 @@
 #include "model/Ganzzahl.h"
 #include "model/Zahlentext.h"
 #include "output/Abschneiden.h"
+#include "output/Balkenbild.h"
 
 namespace zrw {
 namespace {
@@ -66,31 +67,10 @@ std::int64_t Ganze(double v) {
     return RundeZuInt64(std::trunc(v));
 }
 
-/// Step of the scale bar: ziffer * 10^exponent [cm].
-struct Teilung {
-    int ziffer = 1;
-    int exponent = 0;
-
-    /// So many steps, as the decimal number that it is; nothing beyond the numbers there are.
-    [[nodiscard]] std::optional<double> Mal(int schritte) const {
-        return LiesReal(std::to_string(ziffer * schritte) + "e" + std::to_string(exponent));
-    }
-};
-
 /// @param pixel width of a bar of whole centimetres on the screen, positive
 Teilung WaehleTeilung(double pixel) {
     if (pixel >= kSchmalste && pixel <= kBreiteste) return {};
-    // A product may fall short of its round value in the last place.
-    const double genug = kAndereSchmalste * (1 - 1e-9);
-    const int kleinster = static_cast<int>(std::floor(std::log10(kAndereSchmalste) - std::log10(pixel))) - 1;
-    for (int exponent = kleinster; exponent <= kleinster + 2; ++exponent) {
-        for (const int ziffer : {1, 2, 5}) {
-            const Teilung t{ziffer, exponent};
-            const auto k = t.Mal(1);
-            if (k && *k * pixel >= genug) return t;
-        }
-    }
-    return {1, kleinster + 3};
+    return KleinsteTeilung(pixel, kAndereSchmalste);
 }
 
 }  // namespace
@@ -210,70 +190,21 @@ void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0
 
 // --- Scale bar --------------------------------------------------------------------------------------------
 
-void Residuenbild::SchreibeText(Bildpunkt ort, std::string_view text) const {
-    // No character is wider than twice the line height.
-    const std::int64_t rand = std::int64_t{flaeche_.Texthoehe()} * 2 * static_cast<std::int64_t>(text.size());
-    if (InReichweite(ort, rand, flaeche_.Sichtbar())) flaeche_.Text(Aufflaeche(ort), text, kSchwarz);
-}
-
 void Residuenbild::DrawResMasstab() const {
     if (!v_.darstellung.ZeigtErgebnisse()) return;
     // On the screen, whatever the device: paper has the same numbers.
     const double pixel = kTeile * kMillimeter * einstellungen_.ResMF;
     if (!(pixel > 0.0) || !std::isfinite(pixel)) return;
     const Teilung teilung = WaehleTeilung(pixel);
-    Balkentexte texte;
+    Balken balken{Utf8NachCp1252("Residuenmaßstab"), "cm", {}, 0.0, false};
     for (int i = 0; i <= kTeile; ++i) {
         const auto wert = teilung.Mal(i);
         if (!wert) return;
-        texte[static_cast<std::size_t>(i)] = SchreibeReal(*wert);
+        balken.werte.push_back(SchreibeReal(*wert));
     }
-    const double laenge = teilung.Mal(1).value_or(0.0) * pixel * geraetefaktor_;
-    if (laenge >= kTeile && laenge < static_cast<double>(kZeichengrenze)) Balken(laenge, texte);
-}
-
-/// From the bottom: a margin of a line of text, the bar, its labels, the caption.
-void Residuenbild::Balken(double laenge, const Balkentexte& texte) const {
-    const std::string titel = Utf8NachCp1252("Residuenmaßstab");
-    const std::string_view einheit = "cm";
-    const Rechteck s = flaeche_.Sichtbar();
-    const std::int64_t h = flaeche_.Texthoehe();
-    const std::int64_t rand = h / 4;
-    const std::int64_t strich = std::max<std::int64_t>(h / 3, 2);
-    const std::int64_t fuge = flaeche_.Textbreite(" ");
-    const std::int64_t links = s.links + h;
-    const std::int64_t grund = s.unten - h;
-    const std::int64_t oben = grund - strich - 2 * h;
-    if (oben - rand < s.oben || links > s.rechts) return;  // no room
-
-    std::int64_t breiteste = 0;
-    for (const std::string& t : texte)
-        breiteste = std::max<std::int64_t>(breiteste, flaeche_.Textbreite(t));
-    const bool alle = laenge > static_cast<double>(kTeile * (breiteste + fuge));
-    const std::int64_t anfang = links + flaeche_.Textbreite(texte.front()) / 2;
-    const auto teilpunkt = [&](std::size_t i) {
-        return anfang + RundeZuInt64(laenge * static_cast<double>(i) / kTeile);
-    };
-    const std::int64_t ende = teilpunkt(kTeile);
-    const std::int64_t einheitort = ende + flaeche_.Textbreite(texte.back()) / 2 + fuge;
-    const std::int64_t rechts =
-        std::max(einheitort + flaeche_.Textbreite(einheit), links + flaeche_.Textbreite(titel)) + rand;
-
-    // Network and grids would make it unreadable.
-    flaeche_.FuelleRechteck({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
-                             static_cast<std::int32_t>(std::min<std::int64_t>(rechts, s.rechts)),
-                             static_cast<std::int32_t>(grund + rand)},
-                            kWeiss);
-    const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
-    SchreibeText({links, oben}, titel);
-    SchreibeText({einheitort, oben + h}, einheit);
-    Strich({anfang, grund}, {ende, grund});
-    for (std::size_t i = 0; i < texte.size(); ++i) {
-        const std::int64_t x = teilpunkt(i);
-        Strich({x, grund}, {x, grund - strich});
-        if (alle || i == 0 || i == kTeile)
-            SchreibeText({x - flaeche_.Textbreite(texte[i]) / 2, oben + h}, texte[i]);
-    }
+    balken.laenge = teilung.Mal(1).value_or(0.0) * pixel * geraetefaktor_;
+    if (balken.laenge >= kTeile && balken.laenge < static_cast<double>(kZeichengrenze))
+        ZeichneBalken(flaeche_, balken);
 }
 
 }  // namespace zrw

@@ -3,7 +3,6 @@
 // 1 and 2 on every surface: printers widen all pens of the plot alike.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -42,13 +41,10 @@ class Residuenbild {
 
   private:
     static constexpr int kTeile = 5;  ///< of the scale bar
-    using Balkentexte = std::array<std::string, kTeile + 1>;
 
     void Strich(Bildpunkt von, Bildpunkt nach) const;
     void Punktbild(Bildpunkt ort, const Punktergebnis& e) const;
     void Hoehengenauigkeit(Bildpunkt ort, double mH) const;
-    void Balken(double laenge, const Balkentexte& texte) const;
-    void SchreibeText(Bildpunkt ort, std::string_view text) const;
 
     Zeichenflaeche& flaeche_;
     const Einstellungen& einstellungen_;

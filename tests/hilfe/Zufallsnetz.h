@@ -63,7 +63,7 @@ class Zufallsnetz {
         for (bool Darstellung::*s : {&Liste::ShowPktText, &Liste::ShowBeob, &Liste::ShowFP, &Liste::ShowFL,
                                      &Liste::ShowFH, &Liste::ShowNP, &Liste::ShowHilfP})
             liste.*s = W(0, 4) != 0;
-        for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende})
+        for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende, &Liste::ShowMassbalken})
             liste.*s = W(0, 4) == 0;
     }
     /// From the whole network to a few metres in the picture.

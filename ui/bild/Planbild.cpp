@@ -141,6 +141,7 @@ void Planbild::ZeichneStehendes(Zeichenflaeche& flaeche) {
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
     if (plan_.Daten()->ShowLegende) plan_.Daten()->SetLegende(zeichner);
     zeichner.DrawResMasstab(plan_.Daten()->Vorlage());
+    if (plan_.Daten()->ShowMassbalken) zeichner.ZeichneMassbalken(plan_.Daten()->Vorlage());
 }
 
 // --- The view ---------------------------------------------------------------------------------------------
@@ -271,7 +272,8 @@ void Planbild::ZieheBild(Bildpunkt versatz) {
         (void)FolgeZug();
     } else {
         // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
-        if (!stehendesLose_ && (plan_.Daten()->ShowLegende || plan_.Daten()->ZeigtErgebnisse())) {
+        const Darstellung& d = *plan_.Daten();
+        if (!stehendesLose_ && (d.ShowLegende || d.ZeigtErgebnisse() || d.ShowMassbalken)) {
             stehendesLose_ = true;
             const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
             pflege_.ZeichneNeu(Vorlage());

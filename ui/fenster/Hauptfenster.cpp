@@ -28,6 +28,7 @@
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Fensterort.h"
 #include "ui/fenster/Nummernfeld.h"
+#include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Umbruchleiste.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
@@ -206,6 +207,8 @@ void TZrwMainDlg::BaueFenster() {
     anleitung_->setMinimumWidth(1);  // a long text must not widen the window
     anleitung_->setContentsMargins(0, 0, 6, 0);
     statusBar()->addPermanentWidget(anleitung_);
+    standfelder_ = new Standfelder(this);
+    statusBar()->addPermanentWidget(standfelder_);
     ZeigeStatus(QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
     if (!restoreGeometry(programm_.sitzung.Stand(QStringLiteral("Fensterlage")))) {
         // The whole screen but for a strip that the system's own bar may need.
@@ -411,6 +414,8 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         const auto text = Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand);
         if (!text.empty()) ZeigeStatus(AusUtf8(text));
     }
+    if (ein && schalter.HatMerkmal(kInMetern) && plan_.Offen() && !InMetern(programm_.netz.Netztyp))
+        ZeigeStatus(AusUtf8(kKeineMeter));
     const bool ausTabelle = schalter.HatMerkmal(kAusErgebnissen);
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));

@@ -36,6 +36,7 @@ class Ergebnisanzeige;
 class Hilfefenster;
 class Nummernfeld;
 class Punktartwahl;
+class Standfelder;
 class Punktversteck;
 class TFormBeobTyp;
 class TZRWLBLForm;
@@ -193,6 +194,7 @@ class TZrwMainDlg final : public QMainWindow,
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
     Aussenhinweis* aussenhinweis_ = nullptr;
+    Standfelder* standfelder_ = nullptr;
     QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
     Massstabfeld* EditMasstab_ = nullptr;
     Nummernfeld* ComboBox1_ = nullptr;

@@ -9,6 +9,7 @@
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
+#include "ui/fenster/Standfelder.h"
 
 namespace zrw {
 
@@ -16,6 +17,7 @@ namespace zrw {
 void TZrwMainDlg::BildGezeichnet() {
     werkzeuge_.Schwebe();
     ergebnisse_->MeldeTabellen();
+    standfelder_->ZeigeMassstab(*plan_.Daten(), programm_.netz);
     if (aussenhinweis_->isVisible()) aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
 }
 

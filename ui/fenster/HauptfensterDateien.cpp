@@ -23,6 +23,7 @@
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Sanduhr.h"
+#include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
 
@@ -363,6 +364,7 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     if (vorlieben_.EinpassenNachOeffnen && !IstBilddatei(datei)) planbild_.SetzeEingepasst();
     ZeichneNeu();
     aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
+    standfelder_->ZeigeZahlen(*plan_.Daten());
 }
 
 bool TZrwMainDlg::SpeicherePlan() {

@@ -8,6 +8,7 @@
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Sanduhr.h"
+#include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Zentrierkasten.h"
 
 namespace zrw {
@@ -39,6 +40,7 @@ void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
     versteck_->Versteckte().NetzGeaendert();
     if (ComboBox1_->Veraltet(*plan_.Daten())) FuelleNummern();
     planbild_.NachAenderung(figuren);
+    standfelder_->ZeigeZahlen(*plan_.Daten());
     werkzeuge_.NetzGeaendert();
 }
 

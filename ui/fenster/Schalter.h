@@ -22,6 +22,8 @@ inline constexpr unsigned kAusErgebnissen = 8;  ///< shows what the adjustment's
 inline constexpr unsigned kBewegtSichNicht =
     16;  ///< while the picture is panned it stands still or is drawn anew
 
+inline constexpr unsigned kInMetern = 32;  ///< nothing where coordinates are angles
+
 struct Schalter {
     std::string_view name;             ///< on the command line; empty: not there
     std::string_view komponente;       ///< object name of the check box; empty: no check box
@@ -66,6 +68,9 @@ inline constexpr auto kSchalter = std::to_array<Schalter>({
      kSchliesstErgebnisse},
     {"hilfspunkte", "CheckBoxHilfspunkte", "Hilfspunkte", "Hilfspunkte darstellen", &Darstellung::ShowHilfP,
      nullptr, true, kSchliesstErgebnisse},
+    {"massbalken", "CheckBoxMassbalken", "Maßstabsbalken",
+     "Balken runder Länge in Metern unten rechts im Bild", &Darstellung::ShowMassbalken, nullptr, false,
+     kInMetern | kBewegtSichNicht},
     {"blattschnitt", "CheckBoxBlattschnitt", "Blattschnitt in der Abbildung der Punkte",
      "TK25 in Gauß-Krüger wie die Punkte, nicht in der Abbildung aus $KS", nullptr,
      &Zeichenzustand::BlattschnittWiePunkte, false, kNurBeiAbweichung},
@@ -105,6 +110,10 @@ static_assert(SchalterEindeutig(), "a name and a switch of its own for each row"
            "beim "
            "Netz. Schalter „Blattschnitt in der Abbildung der Punkte“ legt sie darunter.";
 }
+
+/// Why lengths mean nothing in a network whose coordinates are angles, UTF-8.
+inline constexpr std::string_view kKeineMeter =
+    "Die Koordinaten dieses Netzes sind Winkel: Es gibt keinen Maßstab in Metern.";
 
 /// Puts one switch into effect.
 inline void StelleEin(const Schalter& s, bool ein, Darstellung* darstellung, const Netzangaben& netz,

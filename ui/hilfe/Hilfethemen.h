@@ -133,6 +133,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"CheckBoxGitter", 4},
     {"CheckBoxKMQ", 4},
     {"CheckBoxBlattschnitt", 4},
+    {"CheckBoxMassbalken", 25},
     {"CheckBoxPktNr", 25},
     {"CheckBoxBeob", 25},
     {"CheckBoxPreview", 35},
