@@ -102,7 +102,7 @@ TEST_F(Ansichten, MassbalkenUndWahrerMassstab) {
     const QImage ohne = fenster.Bild().copy();
     Kasten("CheckBoxMassbalken").setChecked(true);
     // Eight metres a pixel: steps of 500 m, 62.5 px each; kilometres from 2 km on.
-    const QRect balken(550, 495, 250, 35);
+    const QRect balken(450, 480, 350, 50);
     EXPECT_FALSE(fenster.Bild().copy(balken) == ohne.copy(balken));
     int laengster = 0;  // stroke in black
     for (int y = balken.top(); y < balken.bottom(); ++y) {
@@ -113,19 +113,18 @@ TEST_F(Ansichten, MassbalkenUndWahrerMassstab) {
         }
     }
     EXPECT_EQ(laengster, 251);
-    EXPECT_TRUE(fenster.Bild().copy(0, 0, 540, 480) == ohne.copy(0, 0, 540, 480));
+    EXPECT_TRUE(fenster.Bild().copy(0, 0, 450, 530) == ohne.copy(0, 0, 450, 530));
     EXPECT_EQ(Kind<QLabel>("StandZahlen").text(), "5 Punkte, 4 Linien");
     EXPECT_TRUE(Kind<QLabel>("StandVersteckte").isHidden());
     Modus("HidePktButton");
     Klick(A);
     EXPECT_EQ(Kind<QLabel>("StandVersteckte").text(), "1 versteckt");
     EXPECT_TRUE(Kind<QLabel>("StandMassstab").text().startsWith("1:"));
-    LegeDateiAn("w.EIN", "$NT 50
-$FP A                1   48 59 59.999          8 0 0
-"
-                         "    B                1         48 0 0      8 59 59.5
-$$$
-");
+    Knopf("RueckgaengigButton").click();
+    EXPECT_TRUE(Kind<QLabel>("StandVersteckte").isHidden());
+    LegeDateiAn("w.EIN",
+                "$NT 50\n$FP A                1   48 59 59.999          8 0 0\n"
+                "    B                1         48 0 0      8 59 59.5\n$$$\n");
     OeffneDatei("w.EIN");
     ASSERT_TRUE(!InMetern(50) && fenster.Netz()->MaxPkte > 0);
     EXPECT_EQ(Kind<QLabel>("StandMassstab").text(), "ohne Maßstab");
