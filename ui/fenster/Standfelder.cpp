@@ -38,6 +38,9 @@ Standfelder::Standfelder(QWidget* eltern)
 }
 
 void Standfelder::ZeigeMassstab(const Ansicht& ansicht, const Netzangaben& netz) {
+    // In narrow windows the messages need the room.
+    constexpr int kGenug = 700;
+    setVisible(window()->width() >= kGenug);
     if (!InMetern(netz.Netztyp)) {
         massstab_->setText(QStringLiteral("ohne Maßstab"));
         massstab_->setToolTip(AusUtf8(kKeineMeter));
@@ -54,7 +57,6 @@ void Standfelder::ZeigeZahlen(const Liste& liste) {
     zahlen_->setText(QStringLiteral("%1 Punkte, %2 Linien").arg(liste.MaxPkte).arg(liste.MaxKant));
     versteckte_->setText(QStringLiteral("%1 versteckt").arg(versteckt));
     versteckte_->setVisible(versteckt > 0);
-    show();
 }
 
 }  // namespace zrw
