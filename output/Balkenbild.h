@@ -29,8 +29,8 @@ struct Balken {
     bool rechts = false;             ///< in the right corner, else in the left one
 };
 
-/// For a picture of this scale [m/dot]: four steps, long enough to measure with, in metres or kilometres; none
-/// where there is no such length.
+/// For a picture of this scale [m/dot]: four steps, long enough to measure with, in metres or kilometres;
+/// none where there is no such length.
 [[nodiscard]] std::optional<Balken> MetrischerBalken(double faktor);
 
 /// Clears its place and draws it, black. Nothing where the picture is too small.

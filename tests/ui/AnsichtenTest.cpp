@@ -18,7 +18,7 @@ class Ansichten : public Netzprobe {
         "9000\n"
         "    C              1         1000        17000\n    D              1         1000        "
         "25000\n$$$\n";
-    QWidget& Hinweis() { return Kind<QWidget>("Aussenhinweis"); }
+    QWidget& Hinweis() { return Kind<QWidget>("AussenHinweis"); }
     Bildlage Lage() { return fenster.Netz()->Lage(); }
     /// One step of a pan with the middle button.
     void Ziehe() {

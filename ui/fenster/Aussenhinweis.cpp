@@ -9,7 +9,7 @@
 namespace zrw {
 
 Aussenhinweis::Aussenhinweis(QWidget* bild) : QFrame(bild), text_(new QLabel(this)) {
-    setObjectName(QStringLiteral("Aussenhinweis"));
+    setObjectName(QStringLiteral("AussenHinweis"));
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     auto* knopf = new QToolButton(this);
