@@ -46,7 +46,7 @@ void Pixelbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
     assert(!VonVorn());
     const Rechteck teil = Geschnitten(r, ausschnitt_);
     if (Leer(teil)) return;
-    const auto weite = static_cast<std::size_t>(teil.rechts - teil.links + 1);
+    const std::int32_t weite = teil.rechts - teil.links + 1;
     std::uint32_t* const erste = bild_ + static_cast<std::size_t>(teil.oben) * zeile_ + teil.links;
     std::fill_n(erste, weite, farbe);
     // Copied, not filled: compilers make vector code of the one, and a loop of the other.
