@@ -2,6 +2,15 @@
 
 namespace zrw {
 
+void Bildorte::SucheOrt(PunktIndex nr) {
+    if (const auto w = netz_.Weltort(nr)) {
+        NimmOrt(nr, ansicht_.Bildort(*w));
+    } else {
+        s_.bekannt[nr] = true;
+        s_.orte[nr] = {kKeiner, 0};
+    }
+}
+
 bool BewegtSichGleich(const Netz& netz, const Ansicht& vorher, const Ansicht& nachher, Bildpunkt weg) {
     // What belongs to no point does not move. The detours of indirect lines are rounded with halves to the
     // even neighbour, which an odd way swaps.

@@ -103,14 +103,8 @@ class Bildorte {
     [[nodiscard]] static bool Nah(std::int64_t v) {
         return v > kFern && v <= std::numeric_limits<std::int32_t>::max();
     }
-    void SucheOrt(PunktIndex nr) {
-        if (const auto w = netz_.Weltort(nr)) {
-            NimmOrt(nr, ansicht_.Bildort(*w));
-        } else {
-            s_.bekannt[nr] = true;
-            s_.orte[nr] = {kKeiner, 0};
-        }
-    }
+    /// Not in line: it runs once a point, and the look-up in the loops around it stays short.
+    void SucheOrt(PunktIndex nr);
 
     const Netz& netz_;
     const Ansicht& ansicht_;
