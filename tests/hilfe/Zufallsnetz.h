@@ -63,8 +63,9 @@ class Zufallsnetz {
         for (bool Darstellung::*s : {&Liste::ShowPktText, &Liste::ShowBeob, &Liste::ShowFP, &Liste::ShowFL,
                                      &Liste::ShowFH, &Liste::ShowNP, &Liste::ShowHilfP})
             liste.*s = W(0, 4) != 0;
-        for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende, &Liste::ShowMassbalken})
+        for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende})
             liste.*s = W(0, 4) == 0;
+        liste.ShowMassbalken = liste.ShowLegende;  // corners of the picture, both of them
     }
     /// From the whole network to a few metres in the picture.
     void WuerfleAnsicht() {
