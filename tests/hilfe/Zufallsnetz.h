@@ -65,7 +65,7 @@ class Zufallsnetz {
             liste.*s = W(0, 4) != 0;
         for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende})
             liste.*s = W(0, 4) == 0;
-        liste.ShowMassbalken = liste.ShowLegende;  // corners of the picture, both of them
+        liste.ShowMassbalken = liste.ShowKMQ;
     }
     /// From the whole network to a few metres in the picture.
     void WuerfleAnsicht() {
