@@ -8,9 +8,14 @@ namespace zrw {
 Nummernmuster::Nummernmuster(const QString& eingabe) : eingabe_(eingabe) {
     if (!eingabe.contains(QLatin1Char('*')) && !eingabe.contains(QLatin1Char('?'))) return;
     // Not Qt's own wildcards: numbers may hold the brackets and slashes that mean something there.
-    QString muster = QRegularExpression::escape(eingabe);
-    muster.replace(QStringLiteral("\\*"), QStringLiteral(".*"))
-        .replace(QStringLiteral("\\?"), QStringLiteral("."));
+    QStringList teile;
+    for (const QString& teil : eingabe.split(QLatin1Char('*')))
+        teile << QRegularExpression::escape(teil).replace(QStringLiteral("\\?"), QStringLiteral("."));
+    // Each part where it comes first, for good (atomic groups): many stars would try all ways otherwise.
+    QString muster = teile.front();
+    for (qsizetype i = 1; i + 1 < teile.size(); ++i)
+        muster += QStringLiteral("(?>.*?") + teile[i] + QLatin1Char(')');
+    if (teile.size() > 1) muster += QStringLiteral(".*") + teile.back();
     muster_ = QRegularExpression(QRegularExpression::anchoredPattern(muster),
                                  QRegularExpression::CaseInsensitiveOption);
 }

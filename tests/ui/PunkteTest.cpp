@@ -320,7 +320,8 @@ TEST_F(Punkte, NummernfeldSuchtUndZeigt) {
                                             {"A", "A"},
                                             {"TAL", "Tal"},
                                             {"t", "Tal"},
-                                            {"?O*n", "ROTEN"}}) {
+                                            {"?O*n", "ROTEN"},
+                                            {"r**t*t*", "ROTST"}}) {
         SCOPED_TRACE(getippt);
         for (int i = 0; i < weg; ++i)
             Taste(Qt::Key_Left);
