@@ -73,7 +73,7 @@ std::optional<Balken> MetrischerBalken(double faktor) {
 }
 
 /// From the bottom: a margin of a line of text, the bar, its numbers, the caption.
-std::int64_t ZeichneBalken(Zeichenflaeche& f, const Balken& b, std::int64_t hoeher) {
+void ZeichneBalken(Zeichenflaeche& f, const Balken& b, std::int64_t hoeher) {
     const Rechteck s = f.Sichtbar();
     const std::int64_t h = f.Texthoehe();
     const std::int64_t rand = h / 4;
@@ -83,8 +83,7 @@ std::int64_t ZeichneBalken(Zeichenflaeche& f, const Balken& b, std::int64_t hoeh
     const std::int64_t links = b.rechts ? s.rechts - h - l.weite : s.links + h;
     const std::int64_t grund = s.unten - h - hoeher;
     const std::int64_t oben = grund - strich - zeilen * h;
-    const std::int64_t hoehe = s.unten - oben + rand - hoeher;
-    if (oben - rand < s.oben || links > s.rechts || (b.rechts && links - rand < s.links)) return hoehe;
+    if (oben - rand < s.oben || links > s.rechts || (b.rechts && links - rand < s.links)) return;
 
     // Network and grids would make it unreadable.
     f.FuelleRechteck({static_cast<std::int32_t>(links - rand), static_cast<std::int32_t>(oben - rand),
@@ -113,7 +112,6 @@ std::int64_t ZeichneBalken(Zeichenflaeche& f, const Balken& b, std::int64_t hoeh
         if (alle || i == 0 || i == letzter)
             SchreibeText(f, {x - f.Textbreite(b.werte[i]) / 2, zahlen}, b.werte[i]);
     }
-    return hoehe;
 }
 
 }  // namespace zrw

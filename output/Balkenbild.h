@@ -35,7 +35,6 @@ struct Balken {
 
 /// Clears its place and draws it, black. Nothing where the picture is too small.
 /// @param hoeher how far above the corner [dots]
-/// @return height that it takes, with the margin below [dots]
-std::int64_t ZeichneBalken(Zeichenflaeche& f, const Balken& balken, std::int64_t hoeher = 0);
+void ZeichneBalken(Zeichenflaeche& f, const Balken& balken, std::int64_t hoeher = 0);
 
 }  // namespace zrw
