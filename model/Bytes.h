@@ -56,7 +56,8 @@ class ByteSchreiber {
         laenge_ += bytes;
         return platz;
     }
-    void VergroesserePuffer(std::size_t bytes) { puffer_.resize(2 * puffer_.size() + bytes + 256); }
+    /// Not in line: it is rare, and `Platz` stays short enough to be.
+    void VergroesserePuffer(std::size_t bytes);
 
     std::string puffer_;  ///< appending to a text would cost more than the bytes
     std::size_t laenge_ = 0;
