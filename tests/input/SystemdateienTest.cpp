@@ -129,13 +129,15 @@ TEST_F(Systemdatei, FindetInJederSchreibweise) {
     LegeDateiAn("Unter\xC3\x84/Tief/Daten.SF", "");
     LegeDateiAn("GENAU", "");
     LegeDateiAn("genau", "");
+    LegeDateiAn("\xC3\x9E\xC3\x97", "");
     struct Fall {
         const char* name;
         const char* fund;
     };
     for (const Fall& f : {Fall{"UNTER\xC3\xA4/tief/DATEN.sf", "Unter\xC3\x84/Tief/Daten.SF"},
                           Fall{"genau", "genau"}, Fall{"GENAU", "GENAU"}, Fall{"Genau", "GENAU"},
-                          Fall{"Unter\xC3\x84", nullptr}, Fall{"nichts", nullptr}, Fall{"", nullptr}}) {
+                          Fall{"Unter\xC3\x84", nullptr}, Fall{"\xC3\xBE\xC3\x97", "\xC3\x9E\xC3\x97"},
+                          Fall{"\xC3\x9E\xC3\xB7", nullptr}, Fall{"nichts", nullptr}, Fall{"", nullptr}}) {
         const auto fund = dateien.FindeDatei(ordner, f.name);
         if (f.fund == nullptr) {
             EXPECT_FALSE(fund) << f.name;

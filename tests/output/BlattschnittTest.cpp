@@ -99,6 +99,7 @@ TEST_F(Blattschnitt, WenigsteBlaetterUndDerPlanInDerenMitte) {
         std::vector<Welt> orte;
         for (const Blatt& b : Blattaufteilung(plan, kMassstab, kSeite))
             orte.push_back(b.ecke);
+        EXPECT_TRUE(orte.size() != 1 || Blattaufteilung(plan, kMassstab, kSeite)[0] == Blatt{});
         return orte;
     };
     EXPECT_TRUE(ecken().empty());

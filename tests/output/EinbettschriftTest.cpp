@@ -83,6 +83,19 @@ TEST(Einbettschrift, BreitenDesDokumentsSindDieDerSchrift) {
     EXPECT_EQ(flaeche.Texthoehe(), 11);
 }
 
+TEST(Einbettschrift, LangeOrteSindDieselben) {
+    Schriftquelle lang = Probe();
+    const std::string kurze = lang.tabellen["loca"];
+    std::string& loca = lang.tabellen["loca"];
+    loca.clear();
+    for (std::size_t i = 0; i < kurze.size(); i += 2)
+        loca += Worte({0, 2 * static_cast<unsigned char>(kurze[i + 1])});
+    lang.tabellen["head"].replace(50, 2, Worte({1}));
+    const Zeichenmenge zeichen = Zeichenmenge().set(0xC4);
+    EXPECT_EQ(Einbettschrift::AusQuelle(std::move(lang)).value().Datei(zeichen),
+              Einbettschrift::AusQuelle(Probe()).value().Datei(zeichen));
+}
+
 TEST(Einbettschrift, BeschaedigteUndGesperrteNicht) {
     for (const auto& [name, tabelle] : Probe().tabellen) {
         for (std::size_t laenge = 0; laenge < tabelle.size(); ++laenge) {

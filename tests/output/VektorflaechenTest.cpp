@@ -134,9 +134,12 @@ TEST(Vektorflaechen, TexteSindZeichenUndNichtsBrichtAus) {
         ErwarteTeile(Pdf(zeichne),
                      {"1 0.502 0 rg\nBT/F 11.4583333333 Tf 1 0 0 -1 20 40 Tm(" + f.pdf + ")Tj ET"});
     }
-    const Festuhr uhr;
+    Festuhr uhr;
     ErwarteTeile(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr, nullptr}),
                  {"<</Title<FEFF00C420AC>/Creator(Zarwik)/CreationDate(D:20261121090500)>>"});
+    uhr.zeit = "21.11.2026 09.05:00";
+    ErwarteTeile(Pdf([](Zeichenflaeche&) {}, {"\xC4\n\x80", &uhr, nullptr}),
+                 {"<</Title<FEFF00C420AC>/Creator(Zarwik)>>"});
 }
 
 TEST(Vektorflaechen, LinienEinesStiftsSindEinPfadUndGestrichelteBeginnenNeu) {
@@ -186,6 +189,7 @@ TEST(Vektorflaechen, WasNebenDemBlattLiegtFehlt) {
     ErwarteTeile(Pdf(innen), {"-50 100 m 50 100 l", "810 600 m 810 605.5228 805.5228 610 800 610 c",
                               "(WWW)Tj", "0 0 800 11 re f"});
     const Zeichnung nichts = [](Zeichenflaeche&) {};
+    ErwarteTeile(Pdf(nichts), {"-0.5906 -0.5906 801.1811 601.1811 re W n"});
     EXPECT_EQ(Svg(aussen), Svg(nichts));
     EXPECT_EQ(Pdf(aussen), Pdf(nichts));
 }

@@ -1,0 +1,164 @@
+// Smooth edges: sharp where a stroke runs along the rows, and the same pixels whatever number of cores and
+// whatever part of the picture draws them.
+#include "output/Glattbild.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <random>
+
+namespace zrw {
+namespace {
+
+constexpr int kWeite = 160;
+constexpr int kHoehe = 200;
+constexpr std::uint32_t kLeer = 0xFFFFFFFF;
+constexpr std::uint32_t kTinte = 0xFF000000;
+
+struct Blatt {
+    std::vector<std::uint32_t> pixel = std::vector<std::uint32_t>(std::size_t{kWeite} * kHoehe, kLeer);
+    Glattbild bild;
+
+    explicit Blatt(double dichte = 1.0, unsigned helfer = 0)
+        : bild(pixel.data(), kWeite, kHoehe, kWeite, dichte, helfer) {}
+    [[nodiscard]] std::uint32_t Pixel(int x, int y) const {
+        return pixel[static_cast<std::size_t>(y) * kWeite + static_cast<std::size_t>(x)];
+    }
+    [[nodiscard]] int Grau(int x, int y) const { return static_cast<int>(Pixel(x, y) & 0xFFU); }
+};
+
+Deckmaske Probemaske() {
+    Deckmaske m{-3, -2, 9, 7, {}};
+    for (int i = 0; i < m.weite * m.hoehe; ++i)
+        m.werte.push_back(static_cast<std::uint8_t>(i * 37 % 256));
+    return m;
+}
+
+/// Strokes, dashes, masks and rectangles all over the picture and beside it, the same for each number.
+void ZeichneZufall(Glattbild& b, const Deckmaske& maske, unsigned saat, bool mitRechtecken) {
+    std::minstd_rand zufall(saat);
+    const auto zahl = [&](int von, int bis) {
+        return von + static_cast<int>(zufall() % static_cast<unsigned>(bis - von + 1));
+    };
+    for (int i = 0; i < 600; ++i) {
+        const int weit = i % 50 == 0 ? 100000000 : 60;
+        const int x = zahl(-40, kWeite + 40);
+        const int y = zahl(-40, kHoehe + 40);
+        const Flaechenpunkt nach{x + zahl(-weit, weit), y + zahl(-weit, weit)};
+        const auto farbe = kTinte | static_cast<std::uint32_t>(zahl(0, 0xFFFFFF));
+        if (i % 7 == 0) {
+            b.Maske(maske, {x, y}, farbe);
+        } else if (i % 31 == 0 && mitRechtecken) {
+            b.FuelleRechteck({x, y, x + 12, y + 9}, farbe);
+        } else {
+            b.Linie({x, y}, nach, farbe, 1 + i % 2, i % 3 == 0);
+        }
+    }
+}
+
+TEST(Glattbild, StrokesAlongTheRowsAreSharp) {
+    struct Fall {
+        double dichte;
+        int erste;  ///< row that is drawn, from that of the stroke
+        int letzte;
+    };
+    for (const Fall& f : {Fall{1.0, 0, 0}, {1.25, 0, 0}, {1.5, -1, 0}, {2.0, -1, 0}, {3.0, -1, 1}}) {
+        Blatt b(f.dichte);
+        b.bild.Linie({20, 50}, {60, 50}, kTinte, 1, false);
+        b.bild.Linie({100, 40}, {100, 10}, kTinte, 1, false);
+        b.bild.SchliesseAb();
+        for (int y = 45; y < 55; ++y)
+            EXPECT_EQ(b.Pixel(40, y), y >= 50 + f.erste && y <= 50 + f.letzte ? kTinte : kLeer)
+                << f.dichte << " " << y;
+        for (int x = 95; x < 105; ++x)
+            EXPECT_EQ(b.Pixel(x, 25), x >= 100 + f.erste && x <= 100 + f.letzte ? kTinte : kLeer)
+                << f.dichte << " " << x;
+        EXPECT_EQ(b.Pixel(20, 50), kTinte);
+        EXPECT_EQ(b.Pixel(19, 50), kLeer);
+        EXPECT_EQ(b.Pixel(61, 50), kLeer);
+    }
+}
+
+/// What a stroke covers is its length times its width; dashes leave a third of it.
+TEST(Glattbild, StrokesCoverTheirWidth) {
+    for (const Flaechenpunkt nach : {Flaechenpunkt{130, 30}, {130, 77}, {130, 130}, {40, 150}, {11, 160}}) {
+        for (const double breite : {1.0, 1.5, 2.0}) {
+            for (const bool gestrichelt : {false, true}) {
+                Blatt b(breite);
+                b.bild.Linie({10, 10}, nach, kTinte, 1, gestrichelt);
+                b.bild.SchliesseAb();
+                double bedeckt = 0;
+                for (const std::uint32_t p : b.pixel)
+                    bedeckt += (255 - static_cast<int>(p & 0xFFU)) / 255.0;
+                const double laenge = std::hypot(nach.x - 10, nach.y - 10);
+                const double anteil = gestrichelt ? kStrichlaenge / (kStrichlaenge + kStrichluecke) : 1.0;
+                EXPECT_NEAR(bedeckt, laenge * breite * anteil, 0.05 * laenge * breite + 3 * breite)
+                    << nach.x << " " << nach.y << " " << breite << " " << gestrichelt;
+            }
+        }
+    }
+}
+
+TEST(Glattbild, SamePixelsFromAnyCoresAndParts) {
+    const Deckmaske maske = Probemaske();
+    for (unsigned saat = 1; saat <= 4; ++saat) {
+        const double dichte = saat % 2 == 0 ? 1.5 : 1.0;
+        Blatt einer(dichte);
+        ZeichneZufall(einer.bild, maske, saat, true);
+        einer.bild.SchliesseAb();
+        Blatt mehrere(dichte, 3);
+        ZeichneZufall(mehrere.bild, maske, saat, true);
+        mehrere.bild.SchliesseAb();
+        EXPECT_EQ(mehrere.pixel, einer.pixel);
+        Blatt stueckweise(dichte);
+        for (const Rechteck r : {Rechteck{0, 0, 90, 70},
+                                 {91, 0, kWeite - 1, 70},
+                                 {0, 71, kWeite - 1, 73},
+                                 {0, 74, kWeite - 1, kHoehe - 1}}) {
+            stueckweise.bild.SetzeAusschnitt(r);
+            ZeichneZufall(stueckweise.bild, maske, saat, true);
+        }
+        stueckweise.bild.SchliesseAb();
+        EXPECT_EQ(stueckweise.pixel, einer.pixel);
+    }
+}
+
+/// Drawn in turn from the front, the picture is the same but for rounding, and what is said to be hidden is.
+TEST(Glattbild, FromTheFrontGivesTheSamePicture) {
+    for (const unsigned helfer : {0U, 2U}) {
+        std::minstd_rand zufall(7);
+        std::vector<std::array<int, 4>> striche(8000);
+        for (auto& s : striche) {
+            for (int& v : s)
+                v = static_cast<int>(zufall() % 280U) - 60;
+        }
+        const auto farbe = [](std::size_t i) { return kTinte | static_cast<std::uint32_t>(i * 4057); };
+        Blatt hinten(1.0, helfer);
+        for (std::size_t i = 0; i < striche.size(); ++i)
+            hinten.bild.Linie({striche[i][0], striche[i][1]}, {striche[i][2], striche[i][3]}, farbe(i), 1,
+                              false);
+        hinten.bild.SchliesseAb();
+        Blatt vorn(1.0, helfer);
+        ASSERT_TRUE(vorn.bild.BeginneVonVorn());
+        const Rechteck kern{70, 90, 110, 110};
+        EXPECT_FALSE(vorn.bild.Verdeckt(kern));
+        for (std::size_t i = striche.size(); i-- > 0;) {
+            vorn.bild.Linie({striche[i][0], striche[i][1]}, {striche[i][2], striche[i][3]}, farbe(i), 1,
+                            false);
+        }
+        vorn.bild.SchliesseAb();
+        EXPECT_TRUE(vorn.bild.Verdeckt(kern));
+        vorn.bild.Linie({70, 95}, {110, 95}, kTinte, 1, false);
+        vorn.bild.BeendeVonVorn();
+        int groesster = 0;
+        for (int y = 0; y < kHoehe; ++y) {
+            for (int x = 0; x < kWeite; ++x)
+                groesster = std::max(groesster, std::abs(vorn.Grau(x, y) - hinten.Grau(x, y)));
+        }
+        EXPECT_LE(groesster, 12);
+    }
+}
+
+}  // namespace
+}  // namespace zrw
