@@ -106,6 +106,7 @@ constexpr auto kOptionen = std::to_array<Option>({
     {"--papier", [](Aufruf& a, const std::string& w) { a.papier = LiesPapier(w); }},
     {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
     {"--alle-blaetter", [](Aufruf& a, const std::string& /*w*/) { a.alleBlaetter = true; }, false},
+    {"--kantig", [](Aufruf& a, const std::string& /*w*/) { a.kantig = true; }, false},
     {"--ein", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
@@ -175,6 +176,7 @@ std::string Hilfetext() {
            "  --papier FORMAT        Papier für pdf: A4, A3, A2, A1 oder A0 (sonst A4)\n"
            "  --quer                 Papier im Querformat\n"
            "  --alle-blaetter        so viele Blätter, wie der Plan im Maßstab braucht (pdf)\n"
+           "  --kantig               Bilder (png, bmp) ohne geglättete Kanten\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"

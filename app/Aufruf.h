@@ -32,6 +32,7 @@ struct Aufruf {
     Papier papier = kPapierformate[0].hochkant;  ///< upright
     bool quer = false;                           ///< the paper lies on its long side
     bool alleBlaetter = false;                   ///< print over as many sheets as it takes
+    bool kantig = false;                         ///< pictures without smooth edges
     std::vector<std::string> ein;                ///< switches by name
     std::vector<std::string> aus;
     std::optional<std::string> einstellungen;

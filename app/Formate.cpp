@@ -42,6 +42,7 @@ void ZeichneAuf(Zeichenflaeche& flaeche, const Ausgabe& a) {
 /// Draws the picture as the window would show it and writes it in one of Qt's picture formats.
 void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const char* art) {
     Bildflaeche flaeche(a.liste.Weite, a.liste.Hoehe);
+    flaeche.SetzeGlatt(!a.kantig);
     ZeichneAuf(flaeche, a);
     QByteArray bytes;
     QBuffer puffer(&bytes);

@@ -25,6 +25,7 @@ struct Ausgabe {
     int dpi;            ///< resolution of the print [dots per inch]
     Papier papier;      ///< as it lies
     bool alleBlaetter;  ///< every sheet of the print that holds something, not the first alone
+    bool kantig;        ///< pictures without smooth edges
     bool ausBild;       ///< from a picture file
     void (*sage)(const std::string& text);  ///< what the user should know of, UTF-8
     std::string_view eingabe;               ///< name of the input without folder and extension, UTF-8

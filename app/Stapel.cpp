@@ -127,6 +127,7 @@ bool ExportiereNetz(const Aufruf& aufruf) {
                           .dpi = aufruf.dpi,
                           .papier = aufruf.quer ? aufruf.papier.Gedreht() : aufruf.papier,
                           .alleBlaetter = aufruf.alleBlaetter,
+                          .kantig = aufruf.kantig,
                           .ausBild = IstBilddatei(datei),
                           .sage = &DruckeZeile,
                           .eingabe = eingabe};

@@ -28,11 +28,11 @@ QRect Sichtbares(const QImage& bild) {
 
 }  // namespace
 
-GuterMaler::GuterMaler(Liste& liste, const Einstellungen& einstellungen, int weite, int hoehe)
+GuterMaler::GuterMaler(Liste& liste, const Einstellungen& einstellungen, int weite, int hoehe, bool glatt)
     : liste_(liste),
       einstellungen_(einstellungen),
       bild_(weite, hoehe, QImage::Format_RGB32),
-      schrift_(Zeichenschrift()) {
+      schrift_(Bildschrift(Zeichenschrift(), 1.0, glatt)) {
     for (const PunktString* t = liste.PktTextKnoten; t != nullptr; t = t->Next) {
         QStaticText& text = texte_.emplace_back(AusNetz(t->Item->Aus.Text()));
         text.setTextFormat(Qt::PlainText);
@@ -40,8 +40,8 @@ GuterMaler::GuterMaler(Liste& liste, const Einstellungen& einstellungen, int wei
         text.prepare({}, schrift_);
     }
     maler_.begin(&bild_);
-    maler_.setRenderHint(QPainter::Antialiasing, false);
-    maler_.setRenderHint(QPainter::TextAntialiasing, false);
+    maler_.setRenderHint(QPainter::Antialiasing, glatt);
+    maler_.setRenderHint(QPainter::TextAntialiasing, glatt);
     maler_.setFont(schrift_);
 }
 

@@ -21,7 +21,7 @@ namespace zrw::bench {
 class GuterMaler {
   public:
     /// Lays out the labels of the list; the list and its labels must stay as they are.
-    GuterMaler(Liste& liste, const Einstellungen& einstellungen, int weite, int hoehe);
+    GuterMaler(Liste& liste, const Einstellungen& einstellungen, int weite, int hoehe, bool glatt = false);
 
     /// The whole picture with its current switches for lines and labels, without overlays.
     void ZeichneBild();

@@ -51,6 +51,14 @@ bool Ansicht::Brauchbar() const {
     return true;
 }
 
+Ansicht Ansicht::InDichte(double dichte) const {
+    Ansicht a = *this;
+    a.Faktor /= dichte;
+    a.Weite = static_cast<std::int32_t>(std::lround(Weite * dichte));
+    a.Hoehe = static_cast<std::int32_t>(std::lround(Hoehe * dichte));
+    return a;
+}
+
 Ansicht Ansicht::FuerGeraet(double faktor, const std::optional<Welt>& ecke) const {
     Ansicht a = *this;
     a.Faktor = faktor;

@@ -53,6 +53,9 @@ struct Ansicht {
     /// The rectangle with these two corners [px], as large as the picture holds it.
     [[nodiscard]] Bildlage Ausschnitt(Bildpunkt a, Bildpunkt b) const;
 
+    /// The same part of the world in a picture of so many dots per pixel.
+    [[nodiscard]] Ansicht InDichte(double dichte) const;
+
     // --- Changing the view
     void SetzeLage(const Bildlage& lage);
     /// The world position in the middle of the picture, at the same scale.

@@ -55,13 +55,13 @@ Teilung KleinsteTeilung(double dots, double mindestens) {
     return {1, kleinster + 3};
 }
 
-std::optional<Balken> MetrischerBalken(double faktor) {
-    constexpr double kSchritt = 30.0;  ///< at least [dots]
+std::optional<Balken> MetrischerBalken(double faktor, double dichte) {
+    constexpr double kSchritt = 30.0;  ///< at least [px]
     constexpr int kTeile = 4;
     constexpr double kInKilometern = 2000.0;  ///< from this length on [m]
     constexpr int kTausend = 3;
     if (!(faktor > 0.0) || !std::isfinite(faktor) || !std::isfinite(1 / faktor)) return std::nullopt;
-    const Teilung meter = KleinsteTeilung(1 / faktor, kSchritt);
+    const Teilung meter = KleinsteTeilung(1 / faktor, kSchritt * dichte);
     const auto ganz = meter.Mal(kTeile);
     if (!ganz) return std::nullopt;
     const bool kilometer = *ganz >= kInKilometern;

@@ -31,7 +31,7 @@ struct Balken {
 
 /// For a picture of this scale [m/dot]: four steps, long enough to measure with, in metres or kilometres;
 /// none where there is no such length.
-[[nodiscard]] std::optional<Balken> MetrischerBalken(double faktor);
+[[nodiscard]] std::optional<Balken> MetrischerBalken(double faktor, double dichte = 1.0);
 
 /// Clears its place and draws it, black. Nothing where the picture is too small.
 /// @param hoeher how far above the corner [dots]

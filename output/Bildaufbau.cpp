@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
+#include "model/Ganzzahl.h"
 #include "model/Vorabruf.h"
 #include "output/Abschneiden.h"
 #include "output/Figurenzeichner.h"
@@ -79,8 +81,29 @@ void Bildaufbau::LasseFerneTexteWeg() {
     const Bildlage lage = v_.ansicht.Lage();
     if (texte_.size() > kWenige || !Brauchbar(lage)) return;
     const Weltkasten dort = WeltUnter(lage, nummern_);
+    const double jePixel = lage.faktor * zeichner_.Dichte();
     std::erase_if(texte_,
-                  [&](const PunktString* t) { return !v_.netz.BeruehrtVielleicht(*t, dort, lage.faktor); });
+                  [&](const PunktString* t) { return !v_.netz.BeruehrtVielleicht(*t, dort, jePixel); });
+}
+
+/// Labels keep their distances from their points in pixels, however fine the screen is.
+void Bildaufbau::SammleTexte() {
+    const double dichte = zeichner_.Dichte();
+    if (dichte == 1.0) {
+        v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
+    } else {
+        Ansicht grob = v_.ansicht;
+        grob.Faktor *= dichte;
+        const auto ab = [&](std::int64_t dots) {
+            return RundeZuInt64(std::floor(static_cast<double>(dots) / dichte)) - 1;
+        };
+        const auto auf = [&](std::int64_t dots) {
+            return RundeZuInt64(std::ceil(static_cast<double>(dots) / dichte)) + 1;
+        };
+        v_.netz.SammleTexte(
+            grob, {ab(nummern_.links), ab(nummern_.oben), auf(nummern_.rechts), auf(nummern_.unten)}, texte_);
+    }
+    LasseFerneTexteWeg();
 }
 
 /// What may have to be drawn. Only the points are looked at: how dense they lie decides how to draw.
@@ -88,8 +111,7 @@ void Bildaufbau::SammleFiguren() {
     const Darstellung& d = v_.darstellung;
     if (d.ShowBeob) v_.netz.SammleKanten(v_.ansicht, linien_, kanten_);
     v_.netz.SammlePunkte(v_.ansicht, symbole_, punkte_);
-    if (d.ZeigtNummern()) v_.netz.SammleTexte(v_.ansicht, nummern_, texte_);
-    LasseFerneTexteWeg();
+    if (d.ZeigtNummern()) SammleTexte();
     punktorte_.reserve(punkte_.size());
     std::size_t anzahl = 0;
     FuerAlle(punkte_, false, [&](std::size_t i) {
@@ -199,7 +221,7 @@ void Bildaufbau::ZeichneTexte(bool vonVorn) {
         const PunktString& t = *texte_[i];
         if (!v_.Gezeichnet(t) || !gezeigt_(t)) return;
         const Bildpunkt ort = orte_.Text(t);
-        const Bildpunkt ecke = t.Item->Textort(ort);
+        const Bildpunkt ecke = zeichner_.Textecke(*t.Item, ort);
         if (BeruehrtBereich(ecke, ecke, nummern_)) zeichner_.ZeichneText(*t.Item, ort, Gang::Zeigen);
     });
 }

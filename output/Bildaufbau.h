@@ -33,6 +33,7 @@ class Bildaufbau {
 
   private:
     void SammleFiguren();
+    void SammleTexte();
     void LasseFerneKantenWeg();
     void LasseFerneTexteWeg();
     [[nodiscard]] bool Dicht() const;

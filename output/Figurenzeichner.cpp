@@ -64,11 +64,18 @@ Rechteck Figurenzeichner::Kantenumfang(Bildpunkt anfang, Bildpunkt ende) const {
 
 Rechteck Figurenzeichner::Textumfang(const PktText& text, Bildpunkt ort) const {
     if (zustand_.flaeche == nullptr) return kKeinRechteck;
-    const Bildpunkt ecke = text.Textort(ort);
+    const Bildpunkt ecke = Textecke(text, ort);
     const Bildpunkt ende{Summe(ecke.x, zustand_.flaeche->Textbreite(text.Aus.Text())),
                          Summe(ecke.y, zustand_.flaeche->Texthoehe())};
     // Glyphs may stand out of their line.
     return Umgebung(ecke, ende, zustand_.flaeche->Texthoehe());
+}
+
+Bildpunkt Figurenzeichner::Textecke(const PktText& text, Bildpunkt stelle) const {
+    const double dichte = zustand_.Dichte();
+    if (dichte == 1.0) return text.Textort(stelle);
+    const auto dots = [&](std::int64_t v) { return RundeZuInt64(static_cast<double>(v) * dichte); };
+    return {Summe(stelle.x, dots(text.XBiO)), Summe(stelle.y, dots(text.YBiO))};
 }
 
 void Figurenzeichner::SetzeEbene(Ebene ebene) const {
@@ -82,6 +89,11 @@ void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
 
 // --- Points -----------------------------------------------------------------------------------------------
 
+/// What pens add on screens finer than the plan's sizes [dots].
+std::int64_t Figurenzeichner::Stiftrand() const {
+    return zustand_.Pixeldichte > 1.0 ? static_cast<std::int64_t>(std::ceil(zustand_.Pixeldichte)) : 0;
+}
+
 /// Asked for every point: in registers, row by row.
 std::int64_t Figurenzeichner::Symbolreichweite() const {
     const Einstellungen& e = einstellungen_;
@@ -89,7 +101,7 @@ std::int64_t Figurenzeichner::Symbolreichweite() const {
     std::apply(
         [&](const auto&... s) { ((groesste = std::max(groesste, std::max(e.*s.quer, e.*s.laengs))), ...); },
         kPunktsymbole);
-    return groesste + 1;
+    return groesste + 1 + Stiftrand();
 }
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
@@ -177,8 +189,9 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
     const Einstellungen& e = einstellungen_;
     // Tick beside the marker, height marks before the symbol, detour; rounding moves each by a pixel.
     constexpr std::int64_t kRunden = 2;
-    return kRunden + std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich,
-                               e.PTSize + std::int64_t{3} * e.Querstrich, std::int64_t{e.Umweggroesse}});
+    return kRunden + Stiftrand() +
+           std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich, e.PTSize + std::int64_t{3} * e.Querstrich,
+                     std::int64_t{e.Umweggroesse}});
 }
 
 /// Whether a line with its marks may touch the surface.
@@ -250,13 +263,7 @@ void Figurenzeichner::ZeichneText(const PktText& text, Bildpunkt stelle, Gang ga
 
 void Figurenzeichner::ZeigeText(const PktText& text, Bildpunkt stelle, Farbe farbe) {
     Zeichenflaeche& f = *zustand_.flaeche;
-    Bildpunkt ort = text.Textort(stelle);
-    if (zustand_.modus == Zeichenmodus::Drucker) {
-        const auto dots = [&](std::int64_t v) {
-            return RundeZuInt64(static_cast<double>(v) * zustand_.Geraetefaktor);
-        };
-        ort = {Summe(stelle.x, dots(text.XBiO)), Summe(stelle.y, dots(text.YBiO))};
-    }
+    const Bildpunkt ort = Textecke(text, stelle);
     const std::string_view zeichen = zustand_.Gezeigt(text);
     // No character is wider than twice the line height.
     const std::int64_t rand =
@@ -286,9 +293,7 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     if (gang == Gang::Zeigen) legende.Zeit = uhr_.DatumZeit();
     if (zustand_.flaeche == nullptr || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Legende);
-    // Printing leaves a device factor behind that means nothing on the screen.
-    const double geraetefaktor = zustand_.modus == Zeichenmodus::Drucker ? zustand_.Geraetefaktor : 1.0;
-    Legendenbild(*zustand_.flaeche, einstellungen_, geraetefaktor).ZeichneLegende(legende, gang);
+    Legendenbild(*zustand_.flaeche, einstellungen_, zustand_.Dichte()).ZeichneLegende(legende, gang);
 }
 
 void Figurenzeichner::GitterShow(const Bildvorlage& v) {
@@ -323,7 +328,7 @@ void Figurenzeichner::DrawResMasstab(const Bildvorlage& v) {
 void Figurenzeichner::ZeichneMassbalken(const Bildvorlage& v) {
     if (!ZeigtResiduen() || zustand_.OhneStehendes || !InMetern(netz_.Netztyp)) return;
     SetzeEbene(Ebene::Legende);
-    const auto balken = MetrischerBalken(v.ansicht.Faktor);
+    const auto balken = MetrischerBalken(v.ansicht.Faktor, zustand_.Dichte());
     if (!balken) return;
     // Both bars need so much room beside each other; else they stand one above the other.
     constexpr int kZeilen = 60;

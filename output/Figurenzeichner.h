@@ -3,6 +3,7 @@
 // surface, shapes that cannot touch it are left out; the files get all of them.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
@@ -44,12 +45,19 @@ class Figurenzeichner final : public Zeichner {
     void DrawResMasstab(const Bildvorlage& v) override;
     void ZeichneMassbalken(const Bildvorlage& v) override;
 
+    /// Where a label begins, whose point lies at `stelle` [dots].
+    [[nodiscard]] Bildpunkt Textecke(const PktText& text, Bildpunkt stelle) const;
+    /// Device dots per screen pixel [-].
+    [[nodiscard]] double Dichte() const { return zustand_.Dichte(); }
     // Where a figure may show on the screen [px], with some room to spare.
     [[nodiscard]] Rechteck Punktumfang(Bildpunkt ort) const;
     [[nodiscard]] Rechteck Kantenumfang(Bildpunkt anfang, Bildpunkt ende) const;
     [[nodiscard]] Rechteck Textumfang(const PktText& text, Bildpunkt ort) const;
     /// Symbols are small enough for the surface to set their pixels itself.
-    [[nodiscard]] bool NurPixel() const { return Symbolreichweite() <= kGroesstesSymbol; }
+    [[nodiscard]] bool NurPixel() const {
+        return static_cast<double>(Symbolreichweite()) <=
+               static_cast<double>(kGroesstesSymbol) * std::min(zustand_.Pixeldichte, 2.0);
+    }
 
   private:
     /// Where a point symbol is drawn to: what is null is left out.
@@ -69,6 +77,7 @@ class Figurenzeichner final : public Zeichner {
     /// How far a line's marks reach [px].
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;
+    [[nodiscard]] std::int64_t Stiftrand() const;
     void ZeigeZuege(std::span<const Zug> zuege, Farbe farbe);
     void SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt ende);
     void ZeigeText(const PktText& text, Bildpunkt stelle, Farbe farbe);

@@ -87,8 +87,7 @@ Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& e
     : flaeche_(*zustand.flaeche),
       einstellungen_(einstellungen),
       v_(v),
-      // Printing leaves a device factor behind that means nothing on the screen.
-      geraetefaktor_(zustand.modus == Zeichenmodus::Drucker ? zustand.Geraetefaktor : 1.0),
+      geraetefaktor_(zustand.Dichte()),
       f_(geraetefaktor_ * einstellungen.ResMF) {}
 
 void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {

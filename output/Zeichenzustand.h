@@ -22,7 +22,8 @@ enum class Zeichenmodus : std::uint8_t { Bildschirm = 0, Drucker = 1 };
 struct Zeichenzustand {
     Zeichenflaeche* flaeche = nullptr;  ///< null: no device, only the export files are drawn to
     Zeichenmodus modus = Zeichenmodus::Bildschirm;
-    double Geraetefaktor = 1.0;             ///< device dots per screen pixel [-]
+    double Geraetefaktor = 1.0;             ///< printer's dots per screen pixel [-]
+    double Pixeldichte = 1.0;               ///< the same of a screen finer than the plan's sizes [-]
     bool KurzeNummern = false;              ///< labels without their first four characters
     bool BlattschnittWiePunkte = false;     ///< map sheets in the projection of the points, not that of "$KS"
     bool OhneStehendes = false;             ///< without what stands still while the picture is dragged
@@ -35,6 +36,10 @@ struct Zeichenzustand {
     DXFUnit* Dxf = nullptr;                  ///< null: no drawing is asked for
     const Ansicht* Exportansicht = nullptr;  ///< turns picture positions into world positions
 
+    /// Device dots per screen pixel. Printing leaves a factor behind that means nothing on the screen.
+    [[nodiscard]] double Dichte() const {
+        return modus == Zeichenmodus::Drucker ? Geraetefaktor : Pixeldichte;
+    }
     /// What a label shows.
     [[nodiscard]] std::string_view Gezeigt(const PktText& text) const {
         constexpr std::size_t kKurzeStelle = 4;

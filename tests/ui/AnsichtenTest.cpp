@@ -1,4 +1,5 @@
 // What is in view: points outside after opening, earlier and later views, scale bar and true scale.
+#include <QDialog>
 #include <QLabel>
 #include <algorithm>
 
@@ -142,6 +143,36 @@ TEST(Standfelder, MassstabHatDreiGueltigeZiffern) {
                                          {1.0, 0.0, 0.0},
                                          {1e308, 1e9, 0.0}})
         EXPECT_NEAR(WahrerMassstab(faktor, dpi), n, n * 1e-9) << faktor;
+}
+
+/// Pixels that are neither ink nor ground.
+bool HatWeicheKanten(const QImage& bild) {
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x) {
+            const QColor c = bild.pixelColor(x, y);
+            if (c.red() > 140 && c.red() < 250 && c.green() == c.red() && c.blue() == c.red()) return true;
+        }
+    }
+    return false;
+}
+
+TEST_F(Ansichten, KantenWerdenGeglaettet) {
+    const auto stelle = [&](bool glatt) {
+        Knopf("ColorButton").click();
+        auto& dialog = Kind<QDialog>("TZRWParameter");
+        dialog.findChild<QCheckBox*>("CheckBoxGlaetten")->setChecked(glatt);
+        dialog.close();
+        QTest::qWait(300);  // longer than the rest after which rough parts become smooth
+    };
+    const QImage eckig = fenster.Bild().copy();
+    EXPECT_FALSE(HatWeicheKanten(eckig));
+    stelle(true);
+    const QImage glatt = fenster.Bild().copy();
+    EXPECT_TRUE(HatWeicheKanten(glatt));
+    const std::string bytes = Gespeichert();
+    stelle(false);
+    EXPECT_EQ(fenster.Bild(), eckig);
+    EXPECT_EQ(Gespeichert(), bytes);
 }
 
 }  // namespace

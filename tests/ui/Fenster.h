@@ -98,7 +98,13 @@ class Fensterprobe : public testing::Test {
 
     QTemporaryDir ordner;
     Einstellungen einstellungen;
-    Speichereinstellungen ablage;
+    // Pictures are compared pixel by pixel: what lies over them comes from the painter, which has its own
+    // idea of smooth edges.
+    Speichereinstellungen ablage = [] {
+        Speichereinstellungen eckig;
+        eckig.werte["KantenGlaetten"] = "0";
+        return eckig;
+    }();
     Netzangaben netz;
     Zeichenzustand zustand;
     Systemdateien dateien;

@@ -12,6 +12,7 @@ struct Vorliebe {
 };
 constexpr auto kVorlieben = std::to_array<Vorliebe>({
     {"EinpassenNachOeffnen", &Vorlieben::EinpassenNachOeffnen},
+    {"KantenGlaetten", &Vorlieben::KantenGlaetten},
 });
 
 }  // namespace

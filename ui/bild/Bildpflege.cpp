@@ -1,5 +1,8 @@
 #include "ui/bild/Bildpflege.h"
 
+#include <algorithm>
+#include <chrono>
+#include <cmath>
 #include <cstdlib>
 
 #include "model/Bildorte.h"
@@ -10,20 +13,73 @@ namespace {
 
 /// More are drawn faster with all others.
 constexpr std::size_t kMeisteFiguren = 5000;
+/// A smooth drawing may take so long under the hand: one frame of a screen [ms].
+constexpr double kBildzeit = 16.0;
+/// Smooth edges take at most so many times as long as plain ones.
+constexpr double kGlattZuEckig = 4.0;
+/// Making rows smooth gives way to the user after so long [ms].
+constexpr double kZeilenzeit = 4.0;
+constexpr double kErsteZeilen = 32;
+constexpr double kWenigsteZeilen = 8;
 
 }  // namespace
 
 void Bildpflege::ZeichneNeu(const Bildvorlage& v) {
-    ZeichneBild(v, zeichner_);
+    rauh_ = kKeinRechteck;
+    ZeichneAusschnitt(v, flaeche_.Sichtbar());
     gezeichnet_ = v.ansicht;
     gueltig_ = true;
 }
 
 void Bildpflege::ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r) {
     if (Leer(r)) return;
+    bool glatt = glaetten_ && SchnellGlatt(r);
+    const double zeit = ZeichneBereich(v, r, glatt);
+    if (!glaetten_ || glatt) return;
+    glatt = !glattzeit_ && zeit / Anteil(r) * kGlattZuEckig <= kBildzeit;
+    if (glatt) {
+        ZeichneBereich(v, r, true);
+    } else {
+        rauh_ = Vereint(rauh_, r);
+    }
+}
+
+/// @return how long it took [ms]
+double Bildpflege::ZeichneBereich(const Bildvorlage& v, const Rechteck& r, bool glatt) {
+    constexpr double kGenug = 0.25;  ///< of the picture, to tell from
+    const auto anfang = std::chrono::steady_clock::now();
+    flaeche_.SetzeGlatt(glatt);
     flaeche_.SetzeAusschnitt(r);
     ZeichneBild(v, zeichner_);
     flaeche_.SetzeAusschnitt(flaeche_.Sichtbar());
+    flaeche_.SchliesseAb();
+    const std::chrono::duration<double, std::milli> zeit = std::chrono::steady_clock::now() - anfang;
+    if (glatt && Anteil(r) >= kGenug) glattzeit_ = zeit.count() / Anteil(r);
+    return zeit.count();
+}
+
+double Bildpflege::Anteil(const Rechteck& r) const {
+    const auto inhalt = [](const Rechteck& q) {
+        return static_cast<double>(q.rechts - q.links + 1) * static_cast<double>(q.unten - q.oben + 1);
+    };
+    return inhalt(r) / inhalt(flaeche_.Sichtbar());
+}
+
+/// Whether a part can be drawn smooth while the user waits.
+bool Bildpflege::SchnellGlatt(const Rechteck& r) const {
+    return glattzeit_ && *glattzeit_ * Anteil(r) <= kBildzeit;
+}
+
+void Bildpflege::GlaetteZeilen(const Bildvorlage& v) {
+    if (!Rauh()) return;
+    if (zeilen_ == 0) zeilen_ = kErsteZeilen;
+    Rechteck teil = rauh_;
+    teil.unten =
+        static_cast<std::int32_t>(std::min<double>(rauh_.unten, rauh_.oben + std::ceil(zeilen_) - 1));
+    const double zeit = ZeichneBereich(v, teil, true);
+    // At most twice as many next time: rows differ in how much lies in them.
+    zeilen_ = std::max(zeilen_ * std::clamp(kZeilenzeit / std::max(zeit, 0.01), 0.25, 2.0), kWenigsteZeilen);
+    rauh_.oben = teil.unten + 1;
 }
 
 // --- Panning ----------------------------------------------------------------------------------------------
@@ -43,6 +99,8 @@ void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
     flaeche_.VerschiebeBild(dx, dy);
+    if (Rauh())
+        rauh_ = Geschnitten({rauh_.links + dx, rauh_.oben + dy, rauh_.rechts + dx, rauh_.unten + dy}, bild);
     Rechteck rest = bild;
     if (dy != 0) {
         ZeichneAusschnitt(v, {bild.links, dy > 0 ? bild.oben : bild.unten + dy + 1, bild.rechts,

@@ -2,7 +2,12 @@
 // panning moves the picture and draws the strips that come in, a change draws its neighbourhood. The quick
 // ways in here and in Bildaufbau.h are all there are; `Zeichenzustand::Abkuerzungen` switches them off
 // together.
+//
+// Smooth edges take longer than plain ones. What would keep the user waiting is drawn plain first and made
+// smooth later, a few rows at a time, whenever the caller has nothing else to do.
 #pragma once
+
+#include <optional>
 
 #include "model/Bildvorlage.h"
 #include "output/Figurenzeichner.h"
@@ -16,6 +21,15 @@ class Bildpflege {
     /// All must outlive it.
     Bildpflege(const Zeichenzustand& zustand, Bildflaeche& flaeche, Figurenzeichner& zeichner)
         : zustand_(zustand), flaeche_(flaeche), zeichner_(zeichner) {}
+
+    /// Whether edges shall be smooth. From the next drawing on.
+    void SetzeGlatt(bool glatt) { glaetten_ = glatt; }
+    /// Another network: nothing is known of how long it takes to draw.
+    void VergissZeiten() { glattzeit_.reset(); }
+    /// A part of the picture has still to be made smooth.
+    [[nodiscard]] bool Rauh() const { return !Leer(rauh_); }
+    /// Makes a few rows smooth, in a few milliseconds.
+    void GlaetteZeilen(const Bildvorlage& v);
 
     /// The plain way: the whole picture.
     void ZeichneNeu(const Bildvorlage& v);
@@ -34,6 +48,9 @@ class Bildpflege {
 
   private:
     void ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r);
+    double ZeichneBereich(const Bildvorlage& v, const Rechteck& r, bool glatt);
+    [[nodiscard]] bool SchnellGlatt(const Rechteck& r) const;
+    [[nodiscard]] double Anteil(const Rechteck& r) const;
     [[nodiscard]] Rechteck Umfang(const Bildvorlage& v, const Figurenmenge& figuren) const;
     [[nodiscard]] bool Oertlich(const Bildvorlage& v) const;
 
@@ -44,6 +61,10 @@ class Bildpflege {
     bool gueltig_ = false;  ///< the picture is what a plain redraw draws
     bool oertlich_ = false;
     Rechteck vorher_;
+    bool glaetten_ = false;
+    Rechteck rauh_ = kKeinRechteck;    ///< what was drawn plain and shall become smooth
+    std::optional<double> glattzeit_;  ///< that a whole smooth picture takes [ms]
+    double zeilen_ = 0;                ///< made smooth at a time
 };
 
 }  // namespace zrw

@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace zrw {
@@ -34,6 +35,11 @@ void ImageZarwik::SetzeVorschau(std::function<void(Zeichenflaeche&)> vorschau) {
     update();
 }
 
+void ImageZarwik::SetzeGlatt(bool glatt) {
+    glatt_ = glatt;
+    update();
+}
+
 void ImageZarwik::SetzeVerschiebung(Bildpunkt versatz) {
     versatz_ = QPoint(static_cast<int>(versatz.x), static_cast<int>(versatz.y));
     update();
@@ -42,14 +48,29 @@ void ImageZarwik::SetzeVerschiebung(Bildpunkt versatz) {
 void ImageZarwik::paintEvent(QPaintEvent* /*ereignis*/) {
     QPainter maler(this);
     if (!versatz_.isNull()) maler.fillRect(rect(), Qt::white);
-    maler.drawImage(versatz_, flaeche_.Bild());
-    Malerflaeche flaeche(maler, {0, 0, width() - 1, height() - 1}, flaeche_.Schrift());
+    // The same rows in a picture that knows its density: setting that in the kept one would copy it.
+    const QImage& bild = flaeche_.Bild();
+    QImage dort(const_cast<uchar*>(bild.constBits()),  // NOLINT: read only
+                bild.width(), bild.height(), bild.bytesPerLine(), bild.format());
+    dort.setDevicePixelRatio(flaeche_.Dichte());
+    maler.drawImage(versatz_, dort);
+    if (flaeche_.Dichte() != devicePixelRatioF()) {
+        // The window has come to another screen.
+        QTimer::singleShot(0, this, [this] { MeldeGroesse(); });
+    }
+    Malerflaeche flaeche(maler, {0, 0, width() - 1, height() - 1},
+                         Bildschrift(flaeche_.Planschrift(), 1.0, glatt_));
+    flaeche.SetzeGlatt(glatt_);
     if (ueberlagerung_) ueberlagerung_(flaeche);
     if (vorschau_ && versatz_.isNull()) vorschau_(flaeche);
 }
 
-void ImageZarwik::resizeEvent(QResizeEvent* ereignis) {
-    empfaenger_.ImageZarwikResize(ereignis->size().width(), ereignis->size().height());
+void ImageZarwik::resizeEvent(QResizeEvent* /*ereignis*/) {
+    MeldeGroesse();
+}
+
+void ImageZarwik::MeldeGroesse() {
+    empfaenger_.ImageZarwikResize(width(), height(), devicePixelRatioF());
 }
 
 void ImageZarwik::mousePressEvent(QMouseEvent* ereignis) {

@@ -22,7 +22,8 @@ class Bildempfaenger {
     virtual void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) = 0;
     /// @param schritte wheel steps, positive away from the user
     virtual void ImageZarwikWheel(Bildpunkt ort, int schritte) = 0;
-    virtual void ImageZarwikResize(int weite, int hoehe) = 0;
+    /// @param dichte pixels of the screen for each pixel of the picture
+    virtual void ImageZarwikResize(int weite, int hoehe, double dichte) = 0;
 };
 
 class ImageZarwik final : public QWidget {
@@ -36,6 +37,8 @@ class ImageZarwik final : public QWidget {
     void SetzeUeberlagerung(std::function<void(Zeichenflaeche&)> ueberlagerung) {
         ueberlagerung_ = std::move(ueberlagerung);
     }
+    /// Preview and what lies over the picture have smooth edges.
+    void SetzeGlatt(bool glatt);
     /// Shows the picture shifted, while it is being dragged.
     void SetzeVerschiebung(Bildpunkt versatz);
     [[nodiscard]] QSize sizeHint() const override { return {900, 600}; }
@@ -51,9 +54,12 @@ class ImageZarwik final : public QWidget {
     void wheelEvent(QWheelEvent* ereignis) override;
 
   private:
+    void MeldeGroesse();
+
     Bildflaeche& flaeche_;
     Bildempfaenger& empfaenger_;
     QPoint versatz_;
+    bool glatt_ = false;
     std::function<void(Zeichenflaeche&)> vorschau_;
     std::function<void(Zeichenflaeche&)> ueberlagerung_;
     int radrest_ = 0;  ///< fine wheels report parts of a step

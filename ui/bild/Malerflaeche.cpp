@@ -4,6 +4,7 @@
 #include <QPen>
 #include <QPolygon>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/Umwandlung.h"
 
@@ -33,6 +34,20 @@ QFont Zeichenschrift() {
     return schrift;
 }
 
+QFont Bildschrift(const QFont& schrift, double dichte, bool glatt) {
+    QFont f = schrift;
+    if (dichte != 1.0)
+        f.setPixelSize(std::max(1, static_cast<int>(std::lround(QFontInfo(schrift).pixelSize() * dichte))));
+    if (glatt)
+        f.setStyleStrategy(
+            static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    return f;
+}
+
+double Stiftmitte(double breite) {
+    return std::lround(breite) % 2 == 0 ? 0.0 : 0.5;
+}
+
 Malerflaeche::Malerflaeche() : schrift_(Zeichenschrift()), masse_(schrift_), texthoehe_(masse_.height()) {}
 
 Malerflaeche::Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift)
@@ -43,8 +58,7 @@ Malerflaeche::Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFon
 void Malerflaeche::BindeAn(QPainter& maler, const Rechteck& sichtbar) {
     maler_ = &maler;
     sichtbar_ = sichtbar;
-    maler_->setRenderHint(QPainter::Antialiasing, false);
-    maler_->setRenderHint(QPainter::TextAntialiasing, false);
+    SetzeGlatt(glatt_);
     maler_->setFont(schrift_);
     stift_.reset();
     pinsel_.reset();
@@ -57,6 +71,13 @@ void Malerflaeche::SetzeSchrift(const QFont& schrift) {
     maler_->setFont(schrift_);
 }
 
+void Malerflaeche::SetzeGlatt(bool glatt) {
+    glatt_ = glatt;
+    stift_.reset();
+    maler_->setRenderHint(QPainter::Antialiasing, glatt);
+    maler_->setRenderHint(QPainter::TextAntialiasing, glatt);
+}
+
 void Malerflaeche::SetzeMalerausschnitt(const Rechteck& r) {
     maler_->setClipRect(AlsQRect(r));
 }
@@ -64,9 +85,14 @@ void Malerflaeche::SetzeMalerausschnitt(const Rechteck& r) {
 void Malerflaeche::WendeStiftAn(const Stift& stift) {
     if (stift_ == stift) return;
     QPen pen(AlsQColor(stift.farbe));
-    const int breite = stift.breite * strichbreite_;
-    pen.setWidth(breite > 1 ? breite : 0);
-    pen.setCosmetic(breite <= 1);
+    if (glatt_) {
+        pen.setWidthF(stift.breite * strichbreite_);
+        pen.setJoinStyle(Qt::MiterJoin);
+    } else {
+        const auto breite = static_cast<int>(std::lround(stift.breite * strichbreite_));
+        pen.setWidth(breite > 1 ? breite : 0);
+        pen.setCosmetic(breite <= 1);
+    }
     if (stift.art == Strichart::Gestrichelt) {
         pen.setStyle(Qt::DashLine);
         if (strichbreite_ > 1) {
@@ -88,19 +114,33 @@ void Malerflaeche::WendePinselAn(const Pinsel& pinsel) {
 
 void Malerflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     WendeStiftAn(AktuellerStift());
-    maler_->drawLine(von.x, von.y, nach.x, nach.y);
+    if (glatt_) {
+        maler_->drawLine(QLineF(von.x, von.y, nach.x, nach.y).translated(Mitte()));
+    } else {
+        maler_->drawLine(von.x, von.y, nach.x, nach.y);
+    }
 }
 
 void Malerflaeche::ZeichneRechteck(const Rechteck& r) {
     WendeStiftAn(AktuellerStift());
     WendePinselAn(AktuellerPinsel());
-    maler_->drawRect(QRect(r.links, r.oben, r.rechts - r.links, r.unten - r.oben));
+    const QRect q(r.links, r.oben, r.rechts - r.links, r.unten - r.oben);
+    if (glatt_) {
+        maler_->drawRect(QRectF(q).translated(Mitte()));
+    } else {
+        maler_->drawRect(q);
+    }
 }
 
 void Malerflaeche::Ellipse(const Rechteck& u) {
     WendeStiftAn(AktuellerStift());
     WendePinselAn(AktuellerPinsel());
-    maler_->drawEllipse(QRect(u.links, u.oben, u.rechts - u.links, u.unten - u.oben));
+    const QRect q(u.links, u.oben, u.rechts - u.links, u.unten - u.oben);
+    if (glatt_) {
+        maler_->drawEllipse(QRectF(q).translated(Mitte()));
+    } else {
+        maler_->drawEllipse(q);
+    }
 }
 
 void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
@@ -109,7 +149,11 @@ void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
     QPolygon vieleck;
     for (const Flaechenpunkt& p : ecken)
         vieleck << QPoint(p.x, p.y);
-    maler_->drawPolygon(vieleck);
+    if (glatt_) {
+        maler_->drawPolygon(QPolygonF(vieleck).translated(Mitte()));
+    } else {
+        maler_->drawPolygon(vieleck);
+    }
 }
 
 void Malerflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {

@@ -1,5 +1,6 @@
 // A painter of Qt as a drawing surface: what picture, preview and every device that Qt paints on share.
-// Without antialiasing, for text too, so that drawing in white wipes exactly what was drawn.
+// Without antialiasing, for text too, so that drawing in white wipes exactly what was drawn; smooth where
+// nothing is wiped.
 #pragma once
 
 #include <QFont>
@@ -13,6 +14,12 @@ namespace zrw {
 
 /// The drawing font: "Arial" or its metric twin, with the settings that keep its pixels reproducible.
 [[nodiscard]] QFont Zeichenschrift();
+/// A drawing font in the size that it has on a screen of so many dots per pixel. @param glatt with smooth
+/// edges
+[[nodiscard]] QFont Bildschrift(const QFont& schrift, double dichte, bool glatt);
+
+/// Where the middle of a smooth stroke lies in its pixel: between two for an even width. @param breite [px]
+[[nodiscard]] double Stiftmitte(double breite);
 
 class Malerflaeche : public Zeichenflaeche {
   public:
@@ -20,6 +27,15 @@ class Malerflaeche : public Zeichenflaeche {
     Malerflaeche(QPainter& maler, const Rechteck& sichtbar, const QFont& schrift = Zeichenschrift());
 
     virtual void SetzeSchrift(const QFont& schrift);
+    /// With smooth edges, from now on.
+    void SetzeGlatt(bool glatt);
+    /// For devices whose dots are finer than pixels.
+    /// @param dots width of a pen of width 1 @param pixel a pixel of the screen [dots]
+    void SetzeStrichbreite(double dots, double pixel) {
+        strichbreite_ = dots;
+        pixel_ = pixel;
+        stift_.reset();
+    }
     [[nodiscard]] const QFont& Schrift() const { return schrift_; }
 
     [[nodiscard]] Rechteck Sichtbar() const override { return sichtbar_; }
@@ -37,12 +53,6 @@ class Malerflaeche : public Zeichenflaeche {
   protected:
     /// For surfaces that own their painter and begin it later.
     Malerflaeche();
-    /// For devices whose dots are too fine to be seen.
-    /// @param dots width of a pen of width 1 @param pixel a pixel of the screen [dots]
-    void SetzeStrichbreite(int dots, double pixel) {
-        strichbreite_ = dots;
-        pixel_ = pixel;
-    }
     /// Restricts what the painter draws to a rectangle.
     void SetzeMalerausschnitt(const Rechteck& r);
     /// Takes a painter that has just begun.
@@ -51,14 +61,19 @@ class Malerflaeche : public Zeichenflaeche {
   private:
     void WendeStiftAn(const Stift& stift);
     void WendePinselAn(const Pinsel& pinsel);
-
+    /// Where pixels have their middles for the current pen.
+    [[nodiscard]] QPointF Mitte() const {
+        const double m = Stiftmitte(AktuellerStift().breite * strichbreite_);
+        return {m, m};
+    }
     QPainter* maler_ = nullptr;
     Rechteck sichtbar_;
     QFont schrift_;
     QFontMetrics masse_;
     std::int32_t texthoehe_;  ///< asked for with every label; the font locks itself for each answer
-    int strichbreite_ = 1;
+    double strichbreite_ = 1.0;
     double pixel_ = 1.0;
+    bool glatt_ = false;
     // What the painter holds now; none after it began.
     std::optional<Stift> stift_;
     std::optional<Pinsel> pinsel_;

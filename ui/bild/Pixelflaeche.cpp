@@ -1,6 +1,7 @@
 #include "ui/bild/Pixelflaeche.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "output/Abschneiden.h"
@@ -107,17 +108,33 @@ class Textzeile {
 
 }  // namespace
 
-void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild) {
+void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild, double dichte) {
+    dichte_ = dichte;
     // The rows belong to the picture alone here, so that asking for them copies nothing.
-    pixel_ = Pixelbild(reinterpret_cast<std::uint32_t*>(bild.bits()), bild.width(), bild.height(),
-                       static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t));
+    auto* zeilen = reinterpret_cast<std::uint32_t*>(bild.bits());
+    const auto zeile = static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t);
+    pixel_ = Pixelbild(zeilen, bild.width(), bild.height(), zeile);
+    glattstempel_.SetzeDichte(dichte);
+    glattbild_ = Glattbild(zeilen, bild.width(), bild.height(), zeile, dichte, helfer_);
+    stempel_.clear();
+    breite_.clear();
     schrifthoehe_ = Schrifthoehe();
     maler.begin(&bild);
+    SetzeStrichbreite(dichte, dichte);
     BindeAn(maler, {0, 0, bild.width() - 1, bild.height() - 1});
+}
+
+void Pixelflaeche::SetzeKanten(bool glatt) {
+    SchliesseAb();
+    glatt_ = glatt;
+    SetzeGlatt(glatt);
+    Malerflaeche::SetzeSchrift(glatt ? glatteSchrift_ : eckigeSchrift_);
+    schrifthoehe_ = Schrifthoehe();
 }
 
 void Pixelflaeche::SetzeAusschnitt(const Rechteck& r) {
     pixel_.SetzeAusschnitt(r);
+    glattbild_.SetzeAusschnitt(pixel_.Ausschnitt());
     SetzeMalerausschnitt(pixel_.Ausschnitt());
 }
 
@@ -127,28 +144,45 @@ Rechteck Pixelflaeche::Grenzen() const {
 }
 
 bool Pixelflaeche::BeginneVonVorn() {
+    if (Glaettet()) return glattstempel_.SetztZeichen() && glattbild_.BeginneVonVorn();
     if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift) return false;
     pixel_.BeginneVonVorn();
     return true;
 }
 
-void Pixelflaeche::SetzeSchrift(const QFont& schrift) {
+void Pixelflaeche::BeendeVonVorn() {
+    if (Glaettet()) return glattbild_.BeendeVonVorn();
+    pixel_.BeendeVonVorn();
+}
+
+void Pixelflaeche::SetzeSchriften(const QFont& eckige, const QFont& glatte) {
     glyphen_.fill({});
-    zeichenweise_ = !schrift.kerning() && schrift.hintingPreference() == QFont::PreferFullHinting;
-    Malerflaeche::SetzeSchrift(schrift);
+    zeichenweise_ = !eckige.kerning() && eckige.hintingPreference() == QFont::PreferFullHinting;
+    eckigeSchrift_ = eckige;
+    glatteSchrift_ = glatte;
+    glattstempel_.SetzeSchrift(glatte, zeichenweise_);
+    Malerflaeche::SetzeSchrift(glatt_ ? glatte : eckige);
     schrifthoehe_ = Schrifthoehe();
 }
 
 void Pixelflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
     if (!schnell_) return Malerflaeche::FuelleRechteck(r, farbe);
+    if (glatt_) return glattbild_.FuelleRechteck(r, Pixelfarbe(farbe));
     pixel_.FuelleRechteck(r, Pixelfarbe(farbe));
 }
 
 void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     const Stift& stift = AktuellerStift();
     if (!schnell_) return MaleLinie(von, nach);
-    if (stift.breite <= 1) {
+    if (glatt_) {
+        return glattbild_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.breite,
+                                stift.art == Strichart::Gestrichelt);
+    }
+    const auto breite = static_cast<int>(std::lround(stift.breite * dichte_));
+    if (breite <= 1) {
         pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
+    } else if (dichte_ != 1.0) {
+        BreiteLinie(von, nach, breite, stift);
     } else if (const Pixelmaske* maske = BreiterStrich(von, nach)) {
         pixel_.Maske(*maske, von.x, von.y, Pixelfarbe(stift.farbe));
     } else {
@@ -158,13 +192,32 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 
 void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
     if (!schnell_) return Malerflaeche::Linien(stuecke, farbe);
+    if (glatt_) {
+        for (const Linienstueck& s : stuecke)
+            glattbild_.Linie(s.von, s.nach, Pixelfarbe(farbe), 1, s.gestrichelt);
+        return;
+    }
+    if (std::lround(dichte_) > 1) return Zeichenflaeche::Linien(stuecke, farbe);
     pixel_.Linien(stuecke, Pixelfarbe(farbe));
+}
+
+/// Beside each other across the longer axis, as the thin ones are set.
+void Pixelflaeche::BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, const Stift& stift) {
+    const bool senkrecht =
+        std::llabs(std::int64_t{nach.x} - von.x) < std::llabs(std::int64_t{nach.y} - von.y);
+    for (int i = -(breite / 2); i < breite - breite / 2; ++i) {
+        const Flaechenpunkt weg = senkrecht ? Flaechenpunkt{i, 0} : Flaechenpunkt{0, i};
+        pixel_.Linie({von.x + weg.x, von.y + weg.y}, {nach.x + weg.x, nach.y + weg.y},
+                     Pixelfarbe(stift.farbe), stift.art);
+    }
 }
 
 /// The painter computes exactly only near its picture.
 void Pixelflaeche::MaleLinie(Flaechenpunkt von, Flaechenpunkt nach) {
     const auto teil = SchneideLinieAb({von.x, von.y}, {nach.x, nach.y}, Sichtbar());
-    if (teil) Malerflaeche::Linie(teil->first, teil->second);
+    if (!teil) return;
+    SchliesseAb();
+    Malerflaeche::Linie(teil->first, teil->second);
 }
 
 /// Short strokes of double width, of which large ellipses consist; null for others.
@@ -209,6 +262,7 @@ Pixelflaeche::Stempel Pixelflaeche::PraegeStempel(Form form, std::span<const Fla
     bild.fill(Qt::white);
     QPainter maler(&bild);
     Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1});
+    flaeche.SetzeStrichbreite(dichte_, dichte_);
     const bool leer = AktuellerPinsel().leer;
     flaeche.SetzeStift({Farbe{0x0000FF}, 1, Strichart::Voll});
     flaeche.SetzePinsel({Farbe{0xFF0000}, leer});
@@ -249,9 +303,24 @@ const Pixelflaeche::Stempel& Pixelflaeche::SucheStempel(Form form, std::span<con
     return stempel_.emplace_back(PraegeStempel(form, ecken));
 }
 
+bool Pixelflaeche::StempeleGlatt(Form form, std::span<const Flaechenpunkt> ecken) {
+    const Glattform* f = glattstempel_.SucheForm(form, ecken, AktuellerPinsel().leer);
+    if (f == nullptr) return false;
+    const auto fuelle = [&] { glattbild_.Maske(f->fuellung, ecken[0], Pixelfarbe(AktuellerPinsel().farbe)); };
+    if (!glattbild_.VonVorn()) fuelle();
+    glattbild_.Maske(f->rand, ecken[0], Pixelfarbe(AktuellerStift().farbe));
+    if (glattbild_.VonVorn()) fuelle();
+    return true;
+}
+
 /// @return false: too large, or not of width 1
 bool Pixelflaeche::StempeleForm(Form form, std::span<const Flaechenpunkt> ecken) {
-    if (!schnell_ || ecken.empty() || AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
+    if (Glaettet() && AktuellerStift() == Stift{AktuellerStift().farbe, 1, Strichart::Voll} &&
+        StempeleGlatt(form, ecken))
+        return true;
+    if (Glaettet()) SchliesseAb();
+    if (!schnell_ || glatt_ || ecken.empty() ||
+        AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
         return false;
     for (const Flaechenpunkt& p : ecken) {
         if (std::abs(std::int64_t{p.x} - ecken[0].x) > kGroessterStempel ||
@@ -301,6 +370,7 @@ const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
 }
 
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    if (Glaettet()) return GlatterText(ort, text, farbe);
     if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift)
         return Malerflaeche::Text(ort, text, farbe);
     Textzeile zeile;
@@ -311,6 +381,28 @@ void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (!zeile.PasstInMaske()) return LangerText(ort, text, farbe);
     if (pixel_.Verdeckt(zeile.Umfang(ort))) return;
     zeile.SetzeInBild(pixel_, ort, Pixelfarbe(farbe));
+}
+
+void Pixelflaeche::GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    if (!glattstempel_.SetztZeichen()) {
+        SchliesseAb();
+        return Malerflaeche::Text(ort, text, farbe);
+    }
+    if (glattbild_.VonVorn()) {
+        // Glyphs may stand out of their line.
+        constexpr std::int32_t kUeberstand = 4;
+        std::int32_t breite = 0;
+        for (const char c : text)
+            breite += glattstempel_.Zeichen(c).vorschub;
+        if (glattbild_.Verdeckt({ort.x - kUeberstand, ort.y - kUeberstand, ort.x + breite + kUeberstand,
+                                 ort.y + Texthoehe() + kUeberstand}))
+            return;
+    }
+    for (const char c : text) {
+        const Glattglyphe& g = glattstempel_.Zeichen(c);
+        glattbild_.Maske(g.maske, ort, Pixelfarbe(farbe));
+        ort.x += g.vorschub;
+    }
 }
 
 void Pixelflaeche::LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {

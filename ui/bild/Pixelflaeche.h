@@ -1,6 +1,7 @@
 // The painter's surface with the common small figures set pixel by pixel: thin lines, symbols and texts.
 // Shapes and glyphs are drawn once by the painter and kept as masks, so that both give the same picture;
-// everything else still goes to the painter.
+// everything else still goes to the painter. With smooth edges the same figures are drawn by how much of each
+// pixel they cover (output/Glattbild.h).
 #pragma once
 
 #include <QImage>
@@ -8,7 +9,9 @@
 #include <optional>
 #include <vector>
 
+#include "output/Glattbild.h"
 #include "output/Pixelbild.h"
+#include "ui/bild/Glattstempel.h"
 #include "ui/bild/Malerflaeche.h"
 
 namespace zrw {
@@ -23,14 +26,18 @@ class Pixelflaeche : public Malerflaeche {
   public:
     /// Leaves everything to the painter, for comparison.
     void SetzeSchnell(bool schnell) { schnell_ = schnell; }
+    /// How many threads draw smooth edges beside the caller; the pixels are the same.
+    void SetzeHelfer(unsigned helfer) { helfer_ = helfer; }
     /// Restricts drawing to a part of the picture.
     void SetzeAusschnitt(const Rechteck& r);
     [[nodiscard]] Rechteck Ausschnitt() const override { return pixel_.Ausschnitt(); }
     /// Thin lines are clipped pixel by pixel, so that they look the same whatever part of them is seen.
     [[nodiscard]] Rechteck Grenzen() const override;
     bool BeginneVonVorn() override;
-    void BeendeVonVorn() override { pixel_.BeendeVonVorn(); }
-    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override { return pixel_.Verdeckt(r); }
+    void BeendeVonVorn() override;
+    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
+        return Glaettet() ? glattbild_.Verdeckt(r) : pixel_.Verdeckt(r);
+    }
 
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
@@ -39,15 +46,24 @@ class Pixelflaeche : public Malerflaeche {
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
-    void SetzeSchrift(const QFont& schrift) override;
+    void SetzeSchrift(const QFont& schrift) override {
+        SetzeSchriften(schrift, Bildschrift(schrift, 1.0, true));
+    }
 
   protected:
-    /// Takes a painter that has just begun on the picture.
-    void BindeAnBild(QPainter& maler, QImage& bild);
+    /// Takes a painter that has just begun on the picture. @param dichte its pixels for each pixel of the
+    /// plan's sizes
+    void BindeAnBild(QPainter& maler, QImage& bild, double dichte);
     [[nodiscard]] Pixelbild& Pixel() { return pixel_; }
+    /// @param eckige, glatte the same font for both kinds of edges, in pixels of the picture
+    void SetzeSchriften(const QFont& eckige, const QFont& glatte);
+    void SetzeKanten(bool glatt);
+    [[nodiscard]] bool Glatt() const { return glatt_; }
+    /// Everything that was drawn is in the picture.
+    void SchliesseAb() { glattbild_.SchliesseAb(); }
 
   private:
-    enum class Form : std::uint8_t { Rechteck, Ellipse, Vieleck };
+    using Form = Stempelform;
     /// A shape at the place of its first corner.
     struct Stempel {
         Form form;
@@ -57,6 +73,10 @@ class Pixelflaeche : public Malerflaeche {
         Pixelmaske fuellung;
     };
 
+    [[nodiscard]] bool Glaettet() const { return glatt_ && schnell_; }
+    bool StempeleGlatt(Form form, std::span<const Flaechenpunkt> ecken);
+    void GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
+    void BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, const Stift& stift);
     void MaleLinie(Flaechenpunkt von, Flaechenpunkt nach);
     [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
     bool StempeleForm(Form form, std::span<const Flaechenpunkt> ecken);
@@ -70,9 +90,16 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] const Pixelglyphe& NeuesZeichen(char c) const;
 
     bool schnell_ = true;
+    bool glatt_ = false;
+    double dichte_ = 1.0;
+    unsigned helfer_ = Zeilenhelfer::HelferHier();
     bool zeichenweise_ = true;  ///< characters of the font stand whole pixels apart, whatever is beside them
-    int schrifthoehe_ = 0;      ///< [px]
+    QFont eckigeSchrift_;
+    QFont glatteSchrift_;
+    int schrifthoehe_ = 0;  ///< [px]
     Pixelbild pixel_;
+    Glattbild glattbild_;
+    Glattstempel glattstempel_{[this] { glattbild_.SchliesseAb(); }};
     std::vector<Stempel> stempel_;
     std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
     mutable std::array<std::optional<Pixelglyphe>, 256>

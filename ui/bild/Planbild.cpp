@@ -1,7 +1,7 @@
 #include "ui/bild/Planbild.h"
 
 #include <QScopedValueRollback>
-#include <QTimer>
+#include <cmath>
 #include <utility>
 
 #include "model/Bildorte.h"
@@ -16,6 +16,8 @@ using Wechsel = Ansichtssteuerung::Wechsel;
 namespace {
 
 constexpr Farbe kSuchfarbe{0xFF0000};
+/// What was drawn plain becomes smooth after so long without a drawing [ms].
+constexpr int kRuhe = 100;
 
 const QString kNichtWeiter = QStringLiteral("Weiter lässt sich das Bild nicht zoomen.");
 
@@ -25,9 +27,11 @@ Planbild::Planbild(const Programm& programm, Plan& plan, Beobachter& beobachter)
     : programm_(programm),
       plan_(plan),
       beobachter_(beobachter),
-      zeichner_(programm.zustand, programm.einstellungen, programm.netz, programm.uhr),
-      pflege_(programm.zustand, flaeche_, zeichner_) {
+      zeichner_(bildzustand_, groessen_, programm.netz, programm.uhr),
+      pflege_(bildzustand_, flaeche_, zeichner_) {
     programm_.zustand.flaeche = &flaeche_;
+    ruhe_.setSingleShot(true);
+    QObject::connect(&ruhe_, &QTimer::timeout, [this] { GlaetteWeiter(); });
 }
 
 Planbild::~Planbild() {
@@ -35,9 +39,26 @@ Planbild::~Planbild() {
 }
 
 Bildvorlage Planbild::Vorlage() {
+    const double dichte = flaeche_.Dichte();
+    bildzustand_ = programm_.zustand;
+    bildzustand_.Pixeldichte = dichte;
+    groessen_ = programm_.einstellungen;
     Bildvorlage v = plan_.Daten()->Vorlage();
     v.ohne = &ohne_;
-    return v;
+    if (dichte == 1.0) return v;
+    groessen_.ScaleSizes(dichte);
+    bildansicht_ = v.ansicht.InDichte(dichte);
+    bildlegende_.reset();
+    if (v.legende != nullptr) {
+        bildlegende_ = *v.legende;
+        bildlegende_->XO = RundeZuInt64(static_cast<double>(v.legende->XO) * dichte);
+        bildlegende_->YO = RundeZuInt64(static_cast<double>(v.legende->YO) * dichte);
+    }
+    return {v.netz, bildansicht_, v.darstellung, bildlegende_ ? &*bildlegende_ : nullptr, &ohne_};
+}
+
+Rechteck Planbild::Sicht() const {
+    return {0, 0, plan_.Daten()->Weite - 1, plan_.Daten()->Hoehe - 1};
 }
 
 Zeichenzustand Planbild::ZustandFuer(Zeichenflaeche& flaeche) const {
@@ -64,8 +85,32 @@ void Planbild::ZeichneNeu() {
 
 /// After every drawing of the network.
 void Planbild::ZeigeBild() {
+    if (bildlegende_ && plan_.Daten()->Legend) plan_.Daten()->Legend->Zeit = bildlegende_->Zeit;
+    if (pflege_.Rauh()) ruhe_.start(kRuhe);
     bild_->update();
     beobachter_.BildGezeichnet();
+}
+
+void Planbild::SetzeGlatt(bool glatt) {
+    pflege_.SetzeGlatt(glatt);
+    bild_->SetzeGlatt(glatt);
+    ZeichneNeu();
+}
+
+/// A few rows, then whatever the user wants first: a drawing starts the rest anew.
+void Planbild::GlaetteWeiter() {
+    if (!plan_.Offen() || !pflege_.Rauh() || stehendesLose_) return;
+    pflege_.GlaetteZeilen(Vorlage());
+    if (pflege_.Rauh()) {
+        ruhe_.start(0);
+    } else {
+        bild_->update();  // all at once, without a flash
+    }
+}
+
+void Planbild::GlaetteAlles() {
+    while (pflege_.Rauh())
+        pflege_.GlaetteZeilen(Vorlage());
 }
 
 void Planbild::NachAenderung(const Figurenmenge& figuren) {
@@ -104,19 +149,21 @@ void Planbild::ZeigeVorschau(Vorschau vorschau) {
 
 bool Planbild::MarkierePunkt(const PunktKnoten& punkt) {
     Liste& netz = *plan_.Daten();
-    const Rechteck bild = flaeche_.Sichtbar();
+    const Rechteck bild = Sicht();
     if (!InReichweite(BildortVon(punkt, netz), 0, bild)) {
         steuerung_.MerkeLage(netz.Lage(), Wechsel::Sprung);
         netz.SetzeMitte({punkt.XWPu, punkt.YWPu});
     }
     ZeichneNeu();
-    const Bildpunkt ort = BildortVon(punkt, netz);
-    if (!InReichweite(ort, 0, bild)) return false;
-    const Flaechenpunkt m = Aufflaeche(ort);
+    if (!InReichweite(BildortVon(punkt, netz), 0, bild)) return false;
+    GlaetteAlles();  // later it would go over the mark
+    const Flaechenpunkt m = Aufflaeche(BildortVon(punkt, Vorlage().ansicht));
     {
         const Stiftwechsel stift(flaeche_, {kSuchfarbe, 2, Strichart::Voll}, {kWeiss, true});
-        for (const std::int32_t r : {50, 25})
+        for (const double pixel : {50.0, 25.0}) {
+            const auto r = static_cast<std::int32_t>(std::lround(pixel * flaeche_.Dichte()));
             flaeche_.Ellipse({m.x - r, m.y - r, m.x + r, m.y + r});
+        }
     }
     pflege_.VerwirfBild();
     bild_->update();
@@ -125,7 +172,7 @@ bool Planbild::MarkierePunkt(const PunktKnoten& punkt) {
 
 Planbild::Punktzahl Planbild::ZaehlePunkte() const {
     const Liste& netz = *plan_.Daten();
-    const Rechteck bild = flaeche_.Sichtbar();
+    const Rechteck bild = Sicht();
     Punktzahl zahl;
     netz.FuerAllePunkte([&](const PunktKnoten& p) {
         if (!p.Item->Visible || !netz.Dargestellt(*p.Item)) return;
@@ -146,9 +193,15 @@ void Planbild::ZeichneStehendes(Zeichenflaeche& flaeche) {
 
 // --- The view ---------------------------------------------------------------------------------------------
 
-void Planbild::SetzeGroesse(int weite, int hoehe) {
+void Planbild::BeginneNetz() {
+    steuerung_.NeuesNetz();
+    pflege_.VergissZeiten();
+}
+
+void Planbild::SetzeGroesse(int weite, int hoehe, double dichte) {
     beobachter_.VorAnsichtswechsel();
-    flaeche_.SetzeGroesse(weite, hoehe);
+    flaeche_.SetzeGroesse(weite, hoehe, dichte);
+    pflege_.VergissZeiten();
     if (!plan_.Offen()) return;
     plan_.Daten()->Weite = weite;
     plan_.Daten()->Hoehe = hoehe;
@@ -256,9 +309,20 @@ void Planbild::VerschiebeBild(Bildpunkt versatz) {
     Ansicht& ansicht = *plan_.Daten();
     steuerung_.MerkeLage(ansicht.Lage(), Wechsel::Bewegung);
     ansicht.SetzeVersatz(ansicht.Versatz(), versatz);
-    pflege_.VerschiebeBild(Vorlage(), versatz);
+    ZieheBildNach(versatz);
     ZeigeBild();
     beobachter_.NachAnsichtswechsel();
+}
+
+/// The picture goes with its network: as it is where that are whole pixels of the screen.
+void Planbild::ZieheBildNach(Bildpunkt versatz) {
+    const double x = static_cast<double>(versatz.x) * flaeche_.Dichte();
+    const double y = static_cast<double>(versatz.y) * flaeche_.Dichte();
+    if (x == std::floor(x) && y == std::floor(y)) {
+        pflege_.VerschiebeBild(Vorlage(), {RundeZuInt64(x), RundeZuInt64(y)});
+    } else {
+        pflege_.ZeichneNeu(Vorlage());
+    }
 }
 
 void Planbild::BeginneZug() {
@@ -286,7 +350,7 @@ void Planbild::ZieheBild(Bildpunkt versatz) {
 bool Planbild::FolgeZug() {
     const auto weg = steuerung_.Folge(*plan_.Daten());
     if (!weg) return false;
-    pflege_.VerschiebeBild(Vorlage(), *weg);
+    ZieheBildNach(*weg);
     ZeigeBild();
     return true;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QTimer>
 #include <optional>
 #include <string_view>
 
@@ -43,13 +44,13 @@ class Planbild {
     [[nodiscard]] Bildflaeche& Flaeche() { return flaeche_; }
     [[nodiscard]] const Bildflaeche& Flaeche() const { return flaeche_; }
     /// Width and height of a text in the picture [px].
-    [[nodiscard]] Bildpunkt Textgroesse(std::string_view text) const {
-        return {flaeche_.Textbreite(text), flaeche_.Texthoehe()};
-    }
+    [[nodiscard]] Bildpunkt Textgroesse(std::string_view text) const { return flaeche_.Textgroesse(text); }
     /// How much of the picture a label takes [px].
     [[nodiscard]] Bildbereich Textrahmen(const PunktString& text) const;
 
     // --- Drawing. Nothing happens before a file is opened.
+    /// Smooth edges: at once where that is quick, else as soon as nothing moves any more.
+    void SetzeGlatt(bool glatt);
     void ZeichneNeu();
     /// Before a change of figures, and after it.
     void VorAenderung(const Figurenmenge& figuren) { pflege_.Vorher(Vorlage(), figuren); }
@@ -71,8 +72,9 @@ class Planbild {
     void ZeichneStehendes(Zeichenflaeche& flaeche);
 
     // --- The view
-    void BeginneNetz() { steuerung_.NeuesNetz(); }
-    void SetzeGroesse(int weite, int hoehe);
+    void BeginneNetz();
+    /// @param dichte pixels of the screen for each of them
+    void SetzeGroesse(int weite, int hoehe, double dichte);
     /// Fits the whole kilometres round the network.
     void PasseEin();
     /// Fits exactly what is shown: networks that the whole-kilometre fit leaves tiny or cut off.
@@ -101,7 +103,11 @@ class Planbild {
   private:
     [[nodiscard]] Bildvorlage Vorlage();
     void ZeigeBild();
+    void GlaetteWeiter();
+    void GlaetteAlles();
+    [[nodiscard]] Rechteck Sicht() const;
     bool FolgeZug();
+    void ZieheBildNach(Bildpunkt versatz);
     void ZoomeAuf(const Bildlage& lage);
     bool SetzeLage(const Bildlage& lage);
     bool ZoomeSchritt(double x, double y, bool groesser);
@@ -111,6 +117,11 @@ class Planbild {
     Plan& plan_;
     Beobachter& beobachter_;
     Bildflaeche flaeche_{1, 1};
+    // What the plan is drawn with in the pixels of the screen, brought up to date before each drawing.
+    Zeichenzustand bildzustand_;
+    Einstellungen groessen_;
+    Ansicht bildansicht_;
+    std::optional<Legende> bildlegende_;
     Figurenzeichner zeichner_;
     Bildpflege pflege_;
     Ansichtssteuerung steuerung_;
@@ -119,6 +130,7 @@ class Planbild {
     Bildlage zuglage_;            ///< the view before the picture was dragged
     bool stehendesLose_ = false;  ///< legend and scale bar lie over the picture that is being dragged
     ImageZarwik* bild_ = nullptr;
+    QTimer ruhe_;  ///< nothing has moved for a while
 };
 
 }  // namespace zrw

@@ -179,14 +179,23 @@ void TZRWParameter::BaueZahlen(QBoxLayout& spalte) {
 
 void TZRWParameter::BaueVorlieben(QBoxLayout& spalte) {
     auto* gruppe = NeueGruppe(QStringLiteral("Fenster"), spalte, this);
-    auto* kasten = new QCheckBox(QStringLiteral("Nach dem Öffnen einpassen"), this);
-    kasten->setObjectName(QStringLiteral("CheckBoxEinpassen"));
-    kasten->setToolTip(
-        QStringLiteral("Steuerdateien öffnen mit allen sichtbaren Punkten im Bild, statt auf volle "
-                       "Kilometer erweitert"));
-    gruppe->addRow(kasten);
-    anzeigen_.emplace_back([this, kasten] { kasten->setChecked(vorlieben_.EinpassenNachOeffnen); });
-    connect(kasten, &QCheckBox::toggled, this, [this](bool ein) { vorlieben_.EinpassenNachOeffnen = ein; });
+    const auto neuerKasten = [&](const char* name, const char* text, const char* hinweis,
+                                 bool Vorlieben::*feld) {
+        auto* kasten = new QCheckBox(QString::fromUtf8(text), this);
+        kasten->setObjectName(QString::fromUtf8(name));
+        kasten->setToolTip(QString::fromUtf8(hinweis));
+        gruppe->addRow(kasten);
+        anzeigen_.emplace_back([this, kasten, feld] { kasten->setChecked(vorlieben_.*feld); });
+        connect(kasten, &QCheckBox::toggled, this, [this, feld](bool ein) { vorlieben_.*feld = ein; });
+    };
+    neuerKasten("CheckBoxEinpassen", "Nach dem Öffnen einpassen",
+                "Steuerdateien öffnen mit allen sichtbaren Punkten im Bild, statt auf volle Kilometer "
+                "erweitert",
+                &Vorlieben::EinpassenNachOeffnen);
+    neuerKasten("CheckBoxGlaetten", "Kanten glätten",
+                "Linien, Symbole und Schrift mit weichen Kanten zeichnen; bei großen Netzen erst, wenn sich "
+                "nichts mehr bewegt",
+                &Vorlieben::KantenGlaetten);
 }
 
 void TZRWParameter::ZeigeEinstellungen() {

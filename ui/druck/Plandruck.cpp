@@ -58,7 +58,7 @@ Plandruck::Wahl Plandruck::Blaetter(Liste& liste, double massstab) {
     // Texts are as wide as on paper only in the font of the print.
     QImage nichts(1, 1, QImage::Format_RGB32);
     QPainter maler(&nichts);
-    const Malerflaeche schrift(maler, {}, Druckschrift(flaeche_.Schrift(), seite.aufloesung));
+    const Malerflaeche schrift(maler, {}, Druckschrift(flaeche_.Planschrift(), seite.aufloesung));
     const Druckplan plan{liste.Vorlage(), Mittel(), schrift};
     try {
         const auto dort = Blattschnitt(plan, massstab, seite, ecke);
@@ -91,7 +91,7 @@ std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double
 Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
     Druckwerk werk;
     werk.titel = titel;
-    werk.schrift = flaeche_.Schrift();
+    werk.schrift = flaeche_.Planschrift();
     werk.blaetter = static_cast<int>(blaetter.size());
     Druckauftrag auftrag{massstab, Massstabtext(), programm_.drucker.Seite()};
     auftrag.legende = Legendenort(liste, auftrag);
@@ -152,6 +152,7 @@ QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, d
     const double jePixel = std::max((ru.rechts - lo.rechts) / kWeite, (lo.hoch - ru.hoch) / kHoehe);
     const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / jePixel)); };
     Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
+    bild.SetzeGlatt(true);
     const Ansicht ansicht = liste.FuerGeraet(jePixel, lo);
     const Bildvorlage vorlage = liste.Vorlage().InAnsicht(ansicht);
     Zeichenzustand zustand = programm_.zustand;

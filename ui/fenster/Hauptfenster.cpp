@@ -190,6 +190,7 @@ void TZrwMainDlg::BaueFenster() {
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(planbild_.Flaeche(), *this, mitte);
     planbild_.SetzeAnzeige(*bild_);
+    planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
     aussenhinweis_ = new Aussenhinweis(bild_);
     aussenhinweis_->einpassen = [this] { EinpassenClick(); };
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {

@@ -133,7 +133,9 @@ class TZrwMainDlg final : public QMainWindow,
     void ImageZarwikMouseMove(Bildpunkt ort) override;
     void ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) override;
     void ImageZarwikWheel(Bildpunkt ort, int schritte) override;
-    void ImageZarwikResize(int weite, int hoehe) override { planbild_.SetzeGroesse(weite, hoehe); }
+    void ImageZarwikResize(int weite, int hoehe, double dichte) override {
+        planbild_.SetzeGroesse(weite, hoehe, dichte);
+    }
 
     // What tools may do.
     [[nodiscard]] Liste* AktuelleListe() override { return plan_.Daten(); }

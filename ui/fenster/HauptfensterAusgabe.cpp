@@ -72,16 +72,16 @@ void TZrwMainDlg::ColorButtonClick() {
     SchliesseEinstellungen();
     auto* dialog =
         new TZRWParameter(programm_.einstellungen, vorlieben_, programm_.ablage, programm_.dialoge, this);
-    dialog->geschlossen = [this] { ZeichneNeu(); };
+    dialog->geschlossen = [this] { planbild_.SetzeGlatt(vorlieben_.KantenGlaetten); };
     dialog->show();
 }
 
 void TZrwMainDlg::SpeedButton8Click() {
-    if (const auto schrift = programm_.dialoge.WaehleSchrift(planbild_.Flaeche().Schrift())) {
+    if (const auto schrift = programm_.dialoge.WaehleSchrift(planbild_.Flaeche().Planschrift())) {
         // Drawing in white must wipe every pixel of a text.
         QFont ohneGlaettung = *schrift;
         ohneGlaettung.setStyleStrategy(Zeichenschrift().styleStrategy());
-        planbild_.Flaeche().SetzeSchrift(ohneGlaettung);
+        planbild_.Flaeche().SetzePlanschrift(ohneGlaettung);
         ZeichneNeu();
     }
 }

@@ -310,7 +310,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         // A control file starts from screen sizes and the usual font.
         programm_.zustand.Geraetefaktor = 1.0;
         programm_.einstellungen.ScaleSizes(programm_.zustand.Geraetefaktor);
-        planbild_.Flaeche().SetzeSchrift(Zeichenschrift());
+        planbild_.Flaeche().SetzePlanschrift(Zeichenschrift());
     }
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         const bool ein =

@@ -70,7 +70,7 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
     {
         QPainter maler(&bild);
         Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1},
-                             planbild_.Flaeche().Schrift());
+                             planbild_.Flaeche().Planschrift());
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
     }
     // Other programs place the picture in the size that it has on the screen.
