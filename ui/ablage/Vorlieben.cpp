@@ -13,6 +13,7 @@ struct Vorliebe {
 constexpr auto kVorlieben = std::to_array<Vorliebe>({
     {"EinpassenNachOeffnen", &Vorlieben::EinpassenNachOeffnen},
     {"KantenGlaetten", &Vorlieben::KantenGlaetten},
+    {"RadUmgekehrt", &Vorlieben::RadUmgekehrt},
 });
 
 }  // namespace

@@ -179,23 +179,25 @@ void TZRWParameter::BaueZahlen(QBoxLayout& spalte) {
 
 void TZRWParameter::BaueVorlieben(QBoxLayout& spalte) {
     auto* gruppe = NeueGruppe(QStringLiteral("Fenster"), spalte, this);
-    const auto neuerKasten = [&](const char* name, const char* text, const char* hinweis,
-                                 bool Vorlieben::*feld) {
-        auto* kasten = new QCheckBox(QString::fromUtf8(text), this);
-        kasten->setObjectName(QString::fromUtf8(name));
-        kasten->setToolTip(QString::fromUtf8(hinweis));
-        gruppe->addRow(kasten);
-        anzeigen_.emplace_back([this, kasten, feld] { kasten->setChecked(vorlieben_.*feld); });
-        connect(kasten, &QCheckBox::toggled, this, [this, feld](bool ein) { vorlieben_.*feld = ein; });
+    const auto kasten = [this, gruppe](const char* name, const char* schild, const char* hinweis,
+                                       bool Vorlieben::*feld) {
+        auto* k = new QCheckBox(AusUtf8(schild), this);
+        k->setObjectName(QString::fromLatin1(name));
+        k->setToolTip(AusUtf8(hinweis));
+        gruppe->addRow(k);
+        anzeigen_.emplace_back([this, k, feld] { k->setChecked(vorlieben_.*feld); });
+        connect(k, &QCheckBox::toggled, this, [this, feld](bool ein) { vorlieben_.*feld = ein; });
     };
-    neuerKasten("CheckBoxEinpassen", "Nach dem Öffnen einpassen",
-                "Steuerdateien öffnen mit allen sichtbaren Punkten im Bild, statt auf volle Kilometer "
-                "erweitert",
-                &Vorlieben::EinpassenNachOeffnen);
-    neuerKasten("CheckBoxGlaetten", "Kanten glätten",
-                "Linien, Symbole und Schrift mit weichen Kanten zeichnen; bei großen Netzen erst, wenn sich "
-                "nichts mehr bewegt",
-                &Vorlieben::KantenGlaetten);
+    kasten("CheckBoxEinpassen", "Nach dem Öffnen einpassen",
+           "Steuerdateien öffnen mit allen sichtbaren Punkten im Bild, statt auf volle Kilometer erweitert",
+           &Vorlieben::EinpassenNachOeffnen);
+    kasten(
+        "CheckBoxGlaetten", "Kanten glätten",
+        "Linien, Symbole und Schrift mit weichen Kanten zeichnen; bei großen Netzen erst, wenn sich nichts "
+        "mehr bewegt",
+        &Vorlieben::KantenGlaetten);
+    kasten("CheckBoxMausrad", "Mausrad umkehren", "Rad nach oben vergrößert, Rad nach unten verkleinert",
+           &Vorlieben::RadUmgekehrt);
 }
 
 void TZRWParameter::ZeigeEinstellungen() {

@@ -86,7 +86,7 @@ void TZrwMainDlg::ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) {
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
     if (!plan_.Offen() || werkzeuge_.Zieht()) return;
     werkzeuge_.MerkeMaus(ort);
-    planbild_.RolleUm(ort, schritte);
+    planbild_.RolleUm(ort, vorlieben_.RadUmgekehrt ? -schritte : schritte);
 }
 
 void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
