@@ -1,6 +1,7 @@
 // The small windows around the main window, each driven by its own controls.
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <QSpinBox>
 #include <QTest>
 
+#include "model/Farbpaletten.h"
 #include "tests/hilfe/Antwortdienst.h"
 #include "tests/hilfe/Speicherdateien.h"
 #include "ui/dialoge/Farbfeld.h"
@@ -165,6 +167,29 @@ TEST_F(Parameter, JedesFeldAendertSeineEinstellungSofort) {
     QCoreApplication::sendEvent(form, &aktiv);
     EXPECT_EQ(FindeTeil<QSpinBox>(*form, "SpinEdit4").value(), -7);
     EXPECT_EQ(e.PTSize, 300);
+}
+
+TEST_F(Parameter, PalettenUndVorgaben) {
+    auto& palette = FindeTeil<QComboBox>(*form, "FarbPalette");
+    EXPECT_EQ(palette.currentText(), "Vorgabe");
+    QTest::keyClicks(&palette, "K");
+    EXPECT_EQ(FarbenAus(e), kFarbpaletten[1].farben);
+    EXPECT_EQ(dynamic_cast<Farbfeld&>(FindeTeil(*form, "NPPanel")).Wert(), e.NPCol) << "shown at once";
+    dialoge.farbe = Farbe{0x123456};
+    KlickeKnoepfe(*form, {"TKPanel"});
+    EXPECT_EQ(palette.currentText(), "Eigene");
+    for (const Qt::Key taste : {Qt::Key_Up, Qt::Key_Down})
+        QTest::keyClick(&palette, taste);
+    EXPECT_EQ(palette.currentText(), "Schwarzweiß") << "nobody chooses his own";
+    FindeTeil<QSpinBox>(*form, "SpinEdit3").setValue(9);
+    FindeTeil<QLineEdit>(*form, "EditZoomfaktor").setText("4");
+    KlickeKnoepfe(*form, {"CheckBoxMausrad", "VorgabenKnopf"});
+    EXPECT_EQ(e.Fang, 9) << "answered with no";
+    dialoge.ja = true;
+    KlickeKnoepfe(*form, {"VorgabenKnopf"});
+    EXPECT_TRUE(palette.currentText() == "Vorgabe" && e.Fang == 5 && !vorlieben.RadUmgekehrt);
+    EXPECT_EQ(e.Zoomschritt, Einstellungen{}.Zoomschritt);
+    EXPECT_EQ(FindeTeil<QLineEdit>(*form, "EditZoomfaktor").text(), "1.5");
 }
 
 TEST_F(Parameter, ZoomfaktorWirdBeimTippenGeprueft) {

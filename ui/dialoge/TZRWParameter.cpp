@@ -18,6 +18,7 @@
 #include "ui/Umwandlung.h"
 #include "ui/ablage/Einstellungsablage.h"
 #include "ui/dialoge/Farbfeld.h"
+#include "ui/dialoge/Palettenkasten.h"
 
 namespace zrw {
 namespace {
@@ -70,6 +71,13 @@ TZRWParameter::TZRWParameter(Einstellungen& einstellungen, Vorlieben& vorlieben,
     setAttribute(Qt::WA_DeleteOnClose);
 
     auto* alles = new QVBoxLayout(this);
+    palette_ = new Palettenkasten(e_, this);
+    palette_->gewaehlt = [this] { ZeigeEinstellungen(); };
+    palette_->anwenden = [this] {
+        if (anwenden) anwenden();
+    };
+    anzeigen_.emplace_back([this] { palette_->ZeigePalette(); });
+    alles->addWidget(palette_);
     auto* spalten = new QHBoxLayout;
     alles->addLayout(spalten);
     std::array<QVBoxLayout*, 3> spalte{};
@@ -82,11 +90,17 @@ TZRWParameter::TZRWParameter(Einstellungen& einstellungen, Vorlieben& vorlieben,
     BaueVorlieben(*spalte[1]);
     for (QVBoxLayout* s : spalte)
         s->addStretch();
+    auto* vorgaben = new QPushButton(QStringLiteral("Vorgaben"), this);
+    vorgaben->setObjectName(QStringLiteral("VorgabenKnopf"));
+    vorgaben->setToolTip(QStringLiteral("Alle Einstellungen dieses Fensters auf ihre Vorgaben zurücksetzen"));
+    vorgaben->setAutoDefault(false);
+    connect(vorgaben, &QPushButton::clicked, this, [this] { SetzeVorgaben(); });
     auto* schliessen = new QPushButton(QStringLiteral("Schließen"), this);
     schliessen->setObjectName(QStringLiteral("Button1"));
     schliessen->setAutoDefault(false);  // Enter ends the input in a field
     connect(schliessen, &QPushButton::clicked, this, &QDialog::accept);
     auto* unten = new QHBoxLayout;
+    unten->addWidget(vorgaben);
     unten->addStretch();
     unten->addWidget(schliessen);
     alles->addLayout(unten);
@@ -117,6 +131,7 @@ void TZRWParameter::BaueFarben(QBoxLayout& links, QBoxLayout& mitte) {
             if (!neu) return;
             e_.*z.feld = *neu;
             feld->SetzeFarbe(*neu);
+            palette_->ZeigePalette();
         });
     }
 }
@@ -203,6 +218,15 @@ void TZRWParameter::BaueVorlieben(QBoxLayout& spalte) {
 void TZRWParameter::ZeigeEinstellungen() {
     for (const auto& zeige : anzeigen_)
         zeige();
+}
+
+/// There is no way back, so it asks.
+void TZRWParameter::SetzeVorgaben() {
+    if (!dialoge_.FrageJaNein(QStringLiteral("Alle Einstellungen auf die Vorgaben zurücksetzen?"))) return;
+    e_ = {};
+    vorlieben_ = {};
+    EditZoomfaktor_->setText(QStringLiteral("1.5"));
+    ZeigeEinstellungen();
 }
 
 bool TZRWParameter::event(QEvent* ereignis) {

@@ -15,6 +15,8 @@ class QLineEdit;
 
 namespace zrw {
 
+class Palettenkasten;
+
 class TZRWParameter final : public QDialog {
   public:
     /// Deletes itself when closed.
@@ -22,6 +24,7 @@ class TZRWParameter final : public QDialog {
                   Dialogdienst& dialoge, QWidget* eltern);
 
     std::function<void()> geschlossen;  ///< after the settings were saved
+    std::function<void()> anwenden;     ///< the colours, on the open network
 
     void done(int ergebnis) override;
 
@@ -36,6 +39,7 @@ class TZRWParameter final : public QDialog {
                   int von, int bis);
     void BaueVorlieben(QBoxLayout& spalte);
     void ZeigeEinstellungen();
+    void SetzeVorgaben();
     void ZoomfaktorGetippt(const QString& text);
     void UebernimmResiduenmassstab();
 
@@ -44,6 +48,7 @@ class TZRWParameter final : public QDialog {
     EinstellungsSpeicher& speicher_;
     Dialogdienst& dialoge_;
     std::vector<std::function<void()>> anzeigen_;  ///< one for each control: shows its setting
+    Palettenkasten* palette_ = nullptr;
     QLineEdit* EditZoomfaktor_ = nullptr;
     QLineEdit* EditMFRes_ = nullptr;
 };

@@ -17,6 +17,7 @@
 #include "ui/Programm.h"
 #include "ui/ablage/Netzbewahrung.h"
 #include "ui/ablage/Vorlieben.h"
+#include "ui/aenderungen/Farbuebernahme.h"
 #include "ui/bild/Ansichtssteuerung.h"
 #include "ui/bild/ImageZarwik.h"
 #include "ui/bild/Planbild.h"
@@ -191,6 +192,7 @@ class TZrwMainDlg final : public QMainWindow,
     Planbild planbild_;
     Plandruck druck_;
     Werkzeugkasten werkzeuge_;
+    Farbuebernahme farben_{*this};
     QString ortstext_;  ///< what the status line said about that
     std::vector<QToolButton*> werkzeugknoepfe_;
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box

@@ -73,6 +73,7 @@ void TZrwMainDlg::ColorButtonClick() {
     auto* dialog =
         new TZRWParameter(programm_.einstellungen, vorlieben_, programm_.ablage, programm_.dialoge, this);
     dialog->geschlossen = [this] { planbild_.SetzeGlatt(vorlieben_.KantenGlaetten); };
+    dialog->anwenden = [this] { farben_.FaerbeNetz(); };
     dialog->show();
 }
 

@@ -332,6 +332,7 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     bewahrung_.VergissPlan();
     zentrierkasten_->BeginneNetz();
     plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
+    farben_.BeginneNetz();
     ComboBox1_->SetzeSortiert(IstBilddatei(datei));
     FuelleNummern();
     const QStringList verborgen = Verborgene(*plan_.Daten());
