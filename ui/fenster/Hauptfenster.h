@@ -141,6 +141,7 @@ class TZrwMainDlg final : public QMainWindow,
     // What tools may do.
     [[nodiscard]] Liste* AktuelleListe() override { return plan_.Daten(); }
     [[nodiscard]] const Einstellungen& Anzeige() const override { return programm_.einstellungen; }
+    [[nodiscard]] const Netzangaben& Angaben() const override { return programm_.netz; }
     void UeberlagerungGeaendert() override { bild_->update(); }
     void ZeichneNeu() override { planbild_.ZeichneNeu(); }
     void LasseAus(Figurenmenge figuren) override { planbild_.LasseAus(std::move(figuren)); }

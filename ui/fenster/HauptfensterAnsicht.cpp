@@ -40,8 +40,20 @@ void TZrwMainDlg::ZeigeStand() {
         anleitung_->setText(werkzeug->Anleitung());
 }
 
-/// A dialog that opens during a drag gets the release of its button.
+static std::optional<Werkzeugtaste> AlsWerkzeugtaste(const QKeyEvent& ereignis) {
+    if (ereignis.matches(QKeySequence::Copy)) return Werkzeugtaste::Kopieren;
+    const bool zurueck = ereignis.key() == Qt::Key_Backspace && ereignis.modifiers() == Qt::NoModifier;
+    return zurueck ? std::optional(Werkzeugtaste::Zuruecknehmen) : std::nullopt;
+}
+
+/// A dialog that opens during a drag gets the release of its button. The keys of a tool come before shortcuts
+/// of the window.
 bool TZrwMainDlg::event(QEvent* ereignis) {
+    if (ereignis->type() == QEvent::ShortcutOverride && werkzeuge_.BrauchtTasten() &&
+        AlsWerkzeugtaste(static_cast<QKeyEvent&>(*ereignis))) {
+        ereignis->accept();
+        return true;
+    }
     if (ereignis->type() == QEvent::WindowBlocked) werkzeuge_.BrichAb();
     return QMainWindow::event(ereignis);
 }
@@ -100,6 +112,8 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
         bild_->setFocus();  // out of the fields of the panel, whose keys are their own
         return;
     }
+    if (const auto taste = AlsWerkzeugtaste(*ereignis); taste && werkzeuge_.BrauchtTasten())
+        return werkzeuge_.Aktiv()->DrueckeTaste(*taste);
     // A tenth of the picture at a time.
     constexpr int kTeile = 10;
     if (nurTaste && plan_.Offen()) {

@@ -56,6 +56,7 @@ inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {17, "17_punktzentrierung.md", "Punktzentrierung", kMausbedienung},
     {18, "18_punkt_verstecken.md", "Punkt verstecken", kMausbedienung},
     {21, "21_punktnummer_verstecken.md", "Punktnummer verstecken", kMausbedienung},
+    {37, "37_strecken_messen.md", "Strecken messen", kMausbedienung},
     {24, "24_ergebnisse.md", "Ausgleichungsergebnisse zeigen", kMausbedienung},
 
     {20, "20_beobachtungstyp.md", "Fenster „Beobachtungstyp“", kDialogfenster},
@@ -111,6 +112,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"HidePktButton", 18},
     {"HidePktNrButton", 21},
     {"NummernZeigenButton", 21},
+    {"MessenButton", 37},
     {"DataButton", 24},
     {"SpeedButton14", 22},
     {"SpeedButton15", 23},

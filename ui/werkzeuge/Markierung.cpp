@@ -9,14 +9,12 @@
 namespace zrw {
 namespace {
 
-/// Stands out from every colour that figures have by default.
-constexpr Farbe kMarkierung{0x00A5FF};
 constexpr std::int32_t kBreite = 3;
 constexpr std::int32_t kRadius = 9;
 constexpr std::int32_t kRand = 2;
 
 Stiftwechsel Markierstift(Zeichenflaeche& f, std::int32_t breite) {
-    return {f, {kMarkierung, breite, Strichart::Voll}, {kWeiss, true}};
+    return {f, {kMarkierfarbe, breite, Strichart::Voll}, {kWeiss, true}};
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 
 namespace zrw {
 
+/// Stands out from every colour that figures have by default.
+inline constexpr Farbe kMarkierfarbe{0x00A5FF};
+
 [[nodiscard]] Vorschau MarkierePunkt(Bildpunkt ort);
 [[nodiscard]] Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende);
 /// Frame round a label; nothing for null.

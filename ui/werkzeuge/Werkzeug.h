@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "model/FigListe.h"
+#include "model/Netzangaben.h"
 #include "model/Zeichner.h"
 #include "output/Zeichenflaeche.h"
 
@@ -23,6 +24,9 @@ using Vorschau = std::function<void(Zeichner&, Zeichenflaeche&)>;
 /// Windows that some modes work with, shown while their button is down.
 enum class Nebenfenster : std::uint8_t { Zentrierung, Punktart, Ergebnisse };
 
+/// Keys that a tool may have a use for: backspace, and those that copy.
+enum class Werkzeugtaste : std::uint8_t { Zuruecknehmen, Kopieren };
+
 /// What a tool may do to the window.
 class Werkzeugumgebung {
   public:
@@ -30,6 +34,8 @@ class Werkzeugumgebung {
     /// The current network, or null before one is opened.
     [[nodiscard]] virtual Liste* AktuelleListe() = 0;
     [[nodiscard]] virtual const Einstellungen& Anzeige() const = 0;
+    /// What is known about the network as a whole.
+    [[nodiscard]] virtual const Netzangaben& Angaben() const = 0;
     /// Something that lies over the picture has changed.
     virtual void UeberlagerungGeaendert() = 0;
     /// Draws the whole picture anew.
@@ -89,6 +95,9 @@ class Werkzeug {
     virtual void Schweben(Bildpunkt /*ort*/) {}
     /// The right button without a drag under way.
     virtual void RechteTaste() { Abbrechen(); }
+    /// @return false: it has no use for any key, others may have it
+    [[nodiscard]] virtual bool BrauchtTasten() const { return false; }
+    virtual void DrueckeTaste(Werkzeugtaste /*taste*/) {}
     /// Ends what is under way and leaves everything as before the press. Also when the network is about to be
     /// replaced: afterwards the tool holds nothing of it.
     virtual void Abbrechen() = 0;

@@ -23,6 +23,7 @@ class Werkzeugkasten {
     [[nodiscard]] Werkzeug& NachNummer(std::size_t nummer) const { return *werkzeuge_[nummer]; }
     /// The tool whose mode is on, null without one.
     [[nodiscard]] Werkzeug* Aktiv() const { return aktiv_; }
+    [[nodiscard]] bool BrauchtTasten() const { return aktiv_ != nullptr && aktiv_->BrauchtTasten(); }
     /// Its mode goes on or off. What is under way ends.
     void SetzeAktiv(std::size_t nummer, bool ein);
 

@@ -8,6 +8,7 @@
 #include "ui/werkzeuge/BeobachtungBearbeiten.h"
 #include "ui/werkzeuge/BildVerschieben.h"
 #include "ui/werkzeuge/Klickwerkzeuge.h"
+#include "ui/werkzeuge/Messen.h"
 #include "ui/werkzeuge/NummerVerschieben.h"
 #include "ui/werkzeuge/PunktVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
@@ -41,6 +42,7 @@ inline constexpr auto kWerkzeuge = std::to_array<Werkzeugzeile>({
     {"SpeedButton13", "Punktzentrierung", "zentrieren", &NeuesWerkzeug<Punktzentrierung>},
     {"HidePktNrButton", "Punktnummer verstecken", "nummer_verstecken", &NeuesWerkzeug<NummerVerstecken>},
     {"HidePktButton", "Punkt verstecken", "punkt_verstecken", &NeuesWerkzeug<PunktVerstecken>},
+    {"MessenButton", "Strecken messen", "messen", &NeuesWerkzeug<Messen>},
     {"DataButton", "Ausgleichungsergebnisse zeigen", "ergebnisse", &NeuesWerkzeug<ErgebnisZeigen>},
 });
 
