@@ -29,6 +29,7 @@
 #include "ui/fenster/Fensterort.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Standfelder.h"
+#include "ui/fenster/Startseite.h"
 #include "ui/fenster/Umbruchleiste.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
@@ -193,6 +194,7 @@ void TZrwMainDlg::BaueFenster() {
     planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
     aussenhinweis_ = new Aussenhinweis(bild_);
     aussenhinweis_->einpassen = [this] { EinpassenClick(); };
+    BaueStartseite();
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
         if (!plan_.Offen()) return;
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
@@ -217,7 +219,7 @@ void TZrwMainDlg::BaueFenster() {
         move(schirm.topLeft());
         resize(schirm.width(), schirm.height() - 30);
     }
-    bild_->setFocus();
+    startseite_->setFocus();
 }
 
 /// Key names as they stand on a German keyboard.

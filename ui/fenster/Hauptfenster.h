@@ -38,6 +38,7 @@ class Hilfefenster;
 class Nummernfeld;
 class Punktartwahl;
 class Standfelder;
+class Startseite;
 class Punktversteck;
 class TFormBeobTyp;
 class TZRWLBLForm;
@@ -113,6 +114,7 @@ class TZrwMainDlg final : public QMainWindow,
     [[nodiscard]] QToolButton& Knopf(const char* komponente) const;
 
     // HauptfensterDateien.cpp
+    void BaueStartseite();
     void UebernimmLesung(Lesung&& lesung, const std::filesystem::path& datei);
     void StelleSchalter(bool ausBild);
     [[nodiscard]] bool SpeicherePlan();
@@ -199,6 +201,7 @@ class TZrwMainDlg final : public QMainWindow,
     std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
     ImageZarwik* bild_ = nullptr;
     Aussenhinweis* aussenhinweis_ = nullptr;
+    Startseite* startseite_ = nullptr;  ///< over the picture, until a network is open
     Standfelder* standfelder_ = nullptr;
     QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
     Massstabfeld* EditMasstab_ = nullptr;

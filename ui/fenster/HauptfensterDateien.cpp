@@ -24,6 +24,7 @@
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Sanduhr.h"
 #include "ui/fenster/Standfelder.h"
+#include "ui/fenster/Startseite.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
 
@@ -134,6 +135,15 @@ bool OhnePunkte(const Lesung& lesung, const std::filesystem::path& datei) {
 }
 
 }  // namespace
+
+void TZrwMainDlg::BaueStartseite() {
+    startseite_ =
+        new Startseite(bild_,
+                       {[this] { SpeedButton1Click(); }, [this] { SpeedButton2Click(); },
+                        [this](const QString& datei) { OeffneDatei(NachPfad(datei)); }},
+                       programm_.sitzung.LetzteDateien(),
+                       FindeBeispiel(QCoreApplication::applicationDirPath()), programm_.einstellungen);
+}
 
 void TZrwMainDlg::SpeedButton1Click() {
     const auto name = programm_.dialoge.WaehleZumOeffnen(
@@ -333,6 +343,7 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     zentrierkasten_->BeginneNetz();
     plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
     farben_.BeginneNetz();
+    startseite_->BeendeSeite();
     ComboBox1_->SetzeSortiert(IstBilddatei(datei));
     FuelleNummern();
     const QStringList verborgen = Verborgene(*plan_.Daten());

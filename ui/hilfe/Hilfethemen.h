@@ -88,6 +88,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"SpeedButton9", 5},
     {"SpeedButton7", 5},
     {"LetzteDateienButton", 5},
+    {"StartSeite", 5},
     // View
     {"ImageZarwik", 6},
     {"StatusBar1", 6},
