@@ -53,6 +53,8 @@ class Sitzungslauf {
         fenster_.show();
         // A modal dialog runs a loop of its own: this answers it.
         QObject::connect(&modal_, &QTimer::timeout, [this] {
+            // A menu that a button opened: its entries are the buttons again.
+            if (QWidget* menue = QApplication::activePopupWidget(); menue != nullptr) menue->close();
             if (QWidget* dialog = QApplication::activeModalWidget(); dialog != nullptr)
                 BedieneFenster(*dialog, true);
         });

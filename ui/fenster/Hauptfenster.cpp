@@ -10,8 +10,10 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "output/Residuenbild.h"
@@ -25,8 +27,10 @@
 #include "ui/dialoge/TZRWLBLForm.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/TFormData.h"
+#include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Fensterort.h"
+#include "ui/fenster/Menueleiste.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Startseite.h"
@@ -43,76 +47,8 @@ static void MeldeBilderAn() {
 namespace zrw {
 namespace {
 
-// What a command button may be besides.
-constexpr unsigned kGruppenende = 1;
-constexpr unsigned kBrauchtNetz = 2;
-constexpr unsigned kInJedemFenster = 4;  ///< its shortcut works while a dialog of a tool has the keyboard
-
-/// A command button of the tool panel.
-struct Befehl {
-    const char* komponente;
-    const char* hinweis;
-    const char* bild;
-    const char* taste;  ///< shortcut in Qt's portable form, or empty
-    void (TZrwMainDlg::*klick)();
-    unsigned merkmale = 0;
-};
-
-constexpr auto kBefehle = std::to_array<Befehl>({
-    {"SpeedButton1", "Zarwik erzeugen (Steuerdatei öffnen)", "steuerdatei", "Ctrl+O",
-     &TZrwMainDlg::SpeedButton1Click},
-    {"SpeedButton2", "Zarwik lesen", "lesen", "Ctrl+Shift+O", &TZrwMainDlg::SpeedButton2Click},
-    {"LetzteDateienButton", "Letzte Dateien", "letzte_dateien", "", &TZrwMainDlg::LetzteDateienClick},
-    {"SpeedButton9", "Zarwik speichern", "speichern", "Ctrl+S", &TZrwMainDlg::SpeedButton9Click,
-     kBrauchtNetz | kInJedemFenster},
-    {"SpeedButton7", "Zarwik beenden", "beenden", "Ctrl+Q", &TZrwMainDlg::SpeedButton7Click, kGruppenende},
-    {"RueckgaengigButton", "Rückgängig", "rueckgaengig", "Ctrl+Z", &TZrwMainDlg::Rueckgaengig,
-     kInJedemFenster},
-    {"WiederholenButton", "Wiederholen", "wiederholen", "Ctrl+Y", &TZrwMainDlg::WiederholeSchritt,
-     kInJedemFenster | kGruppenende},
-    {"ButtonGroesser", "Bild größer", "groesser", "+", &TZrwMainDlg::ButtonGroesserClick, kBrauchtNetz},
-    {"ButtonKleiner", "Bild kleiner", "kleiner", "-", &TZrwMainDlg::ButtonKleinerClick, kBrauchtNetz},
-    {"SpeedButton3", "Alles darstellen", "alles", "Home", &TZrwMainDlg::SpeedButton3Click, kBrauchtNetz},
-    {"EinpassenButton", "Sichtbare Punkte einpassen", "einpassen", "F", &TZrwMainDlg::EinpassenClick,
-     kBrauchtNetz | kGruppenende},
-    {"SpeedButton14", "Punkte verstecken", "punkte_verstecken", "", &TZrwMainDlg::SpeedButton14Click},
-    {"SpeedButton15", "Versteckte Punkte", "versteckte_punkte", "", &TZrwMainDlg::SpeedButton15Click},
-    {"NummernZeigenButton", "Versteckte Punktnummern zeigen", "nummern_zeigen", "",
-     &TZrwMainDlg::NummernZeigenClick, kBrauchtNetz | kGruppenende},
-    {"SpeedButton12", "Legendentexte", "legende", "Ctrl+L", &TZrwMainDlg::SpeedButton12Click, kBrauchtNetz},
-    {"SpeedButton5", "Zarwik drucken", "drucken", "Ctrl+P", &TZrwMainDlg::SpeedButton5Click, kBrauchtNetz},
-    {"VorschauButton", "Druckvorschau", "vorschau", "", &TZrwMainDlg::VorschauClick, kBrauchtNetz},
-    {"SpeedButton11", "Druckereinstellungen", "drucker", "", &TZrwMainDlg::SpeedButton11Click},
-    {"SpeedButtonClipbrd", "Grafik als Bitmap speichern", "bitmap", "", &TZrwMainDlg::SpeedButtonClipbrdClick,
-     kBrauchtNetz},
-    {"SpeedButton16", "DXF und HPGL Format ausgeben", "dxf", "Ctrl+E", &TZrwMainDlg::SpeedButton16Click,
-     kBrauchtNetz | kGruppenende},
-    {"SpeedButton8", "Zeichenfont wählen", "schrift", "", &TZrwMainDlg::SpeedButton8Click},
-    {"ColorButton", "Zarwikeinstellungen", "einstellungen", "", &TZrwMainDlg::ColorButtonClick},
-    {"SpeedButton4", "Programminfo", "info", "", &TZrwMainDlg::SpeedButton4Click},
-    {"SpeedButton6", "Hilfe", "hilfe", "F1", &TZrwMainDlg::SpeedButton6Click, kGruppenende},
-    {"SpeedButton10", "Punkt anzeigen", "punkt_anzeigen", "", nullptr},
-});
-
-static_assert(HabenSeiten(kBefehle, &Befehl::komponente) && HabenSeiten(kSchalter, &Schalter::komponente) &&
-                  HabenSeiten(kWerkzeuge, &Werkzeugzeile::komponente),
-              "each button and each check box has a row in ui/hilfe/Hilfethemen.h");
-
 const QString kOhneNetz = QStringLiteral(
     "Dazu muss ein Netz geöffnet sein: Steuerdatei mit Strg+O, Zarwikdatei mit Strg+Umschalt+O");
-
-QToolButton* NeuerKnopf(std::string_view komponente, std::string_view hinweis, std::string_view bild,
-                        QWidget* eltern) {
-    auto* knopf = new QToolButton(eltern);
-    knopf->setObjectName(AusUtf8(komponente));
-    knopf->setToolTip(AusUtf8(hinweis));
-    knopf->setAccessibleName(AusUtf8(hinweis));
-    knopf->setIcon(QIcon(QStringLiteral(":/bilder/") + AusUtf8(bild) + QStringLiteral(".svg")));
-    knopf->setIconSize(QSize(24, 24));
-    knopf->setAutoRaise(true);
-    knopf->setFocusPolicy(Qt::TabFocus);
-    return knopf;
-}
 
 QFrame* Trennstrich(QWidget* eltern) {
     auto* strich = new QFrame(eltern);
@@ -172,6 +108,7 @@ void TZrwMainDlg::BaueFenster() {
     setAcceptDrops(true);
     setAttribute(Qt::WA_AlwaysShowToolTips);  // also while the dialog of a tool has the keyboard
 
+    BaueAktionen();
     auto* mitte = new QWidget(this);
     auto* spalte = new QVBoxLayout(mitte);
     spalte->setContentsMargins(0, 0, 0, 0);
@@ -181,8 +118,7 @@ void TZrwMainDlg::BaueFenster() {
     reihen->setContentsMargins(6, 4, 6, 4);
     reihen->setSpacing(2);
     auto* knoepfe = new Umbruchleiste(nullptr, 2, 2);
-    BaueBefehle(*knoepfe);
-    BaueWerkzeuge(*knoepfe);
+    BaueKnoepfe(*knoepfe);
     BaueFelder(*knoepfe);
     reihen->addLayout(knoepfe);
     auto* kaesten = new Umbruchleiste(nullptr, 12, 2);
@@ -222,76 +158,43 @@ void TZrwMainDlg::BaueFenster() {
     startseite_->setFocus();
 }
 
-/// Key names as they stand on a German keyboard.
-static QString Tastenname(const QKeySequence& taste) {
-    return taste.toString(QKeySequence::NativeText)
-        .replace(QStringLiteral("Ctrl"), QStringLiteral("Strg"))
-        .replace(QStringLiteral("Shift"), QStringLiteral("Umschalt"))
-        .replace(QStringLiteral("Home"), QStringLiteral("Pos1"));
+void TZrwMainDlg::BaueAktionen() {
+    aktionen_ =
+        new Aktionen(*this, plan_.Schritte(),
+                     {[this](const Befehl& befehl) { FuehreAus(befehl); },
+                      [this](std::size_t nummer, bool unten) { WerkzeugGewaehlt(nummer, unten); },
+                      [this](const Schalter& schalter, bool ein) { SchalterGewaehlt(schalter, ein); }});
+    BaueMenues(*menuBar(), *aktionen_);
+    BaueDateimenue(
+        aktionen_->NachName("LetzteDateienButton"), *this,
+        [this] { return programm_.sitzung.LetzteDateien(); },
+        [this](const QString& datei) { OeffneDatei(NachPfad(datei)); });
+    BewahreMeldung(*this, *statusBar());
+    auto* menues = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(menues, &QShortcut::activated, this,
+            [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
 }
 
-void TZrwMainDlg::BaueBefehle(QLayout& reihe) {
-    for (const Befehl& b : kBefehle) {
-        const auto tue = [this, &b] {
-            if ((b.merkmale & kBrauchtNetz) != 0 && !plan_.Offen()) {
-                ZeigeStatus(kOhneNetz);
-            } else {
-                (this->*b.klick)();
-            }
-        };
-        auto* knopf = NeuerKnopf(b.komponente, b.hinweis, b.bild, this);
-        const QKeySequence taste(QString::fromLatin1(b.taste));
-        if (!taste.isEmpty()) {
-            // Not the button's own shortcut: it plays the click, and a second press within that is lost.
-            auto* kuerzel = new QShortcut(taste, this);
-            if ((b.merkmale & kInJedemFenster) != 0) kuerzel->setContext(Qt::ApplicationShortcut);
-            connect(kuerzel, &QShortcut::activated, this, tue);
-            knopf->setToolTip(QString::fromUtf8(b.hinweis) + QStringLiteral(" (") + Tastenname(taste) +
-                              QLatin1Char(')'));
-        }
-        if (b.klick == nullptr) continue;  // stands beside the field that it belongs to
-        connect(knopf, &QToolButton::clicked, this, tue);
+void TZrwMainDlg::BaueKnoepfe(QLayout& reihe) {
+    for (std::size_t i = 0; i < kBefehle.size(); ++i) {
+        const Befehl& b = kBefehle[i];
+        if (b.HatMerkmal(kOhneKnopf)) continue;
+        QToolButton* knopf = NeuerKnopf(*aktionen_->Befehle()[i], b.komponente, b.hinweis, this);
+        if (b.HatMerkmal(kBeimFeld)) continue;
         reihe.addWidget(knopf);
-        if ((b.merkmale & kGruppenende) != 0) reihe.addWidget(Trennstrich(this));
+        if (b.HatMerkmal(kGruppenende)) reihe.addWidget(Trennstrich(this));
     }
-    Knopf("SpeedButton14").setCheckable(true);
-    // Shows the point when the mouse button comes up, also with the keyboard.
-    connect(&Knopf("SpeedButton10"), &QToolButton::released, this, [this] { SpeedButton10Click(); });
-    for (const auto& [name, geht, ereignis] :
-         {std::tuple{"RueckgaengigButton", &QUndoStack::canUndo, &QUndoStack::canUndoChanged},
-          {"WiederholenButton", &QUndoStack::canRedo, &QUndoStack::canRedoChanged}}) {
-        QToolButton& knopf = Knopf(name);
-        knopf.setEnabled((plan_.Schritte().*geht)());
-        connect(&plan_.Schritte(), ereignis, &knopf, &QToolButton::setEnabled);
-    }
-}
-
-void TZrwMainDlg::BaueWerkzeuge(QLayout& reihe) {
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
-        const Werkzeugzeile& zeile = kWerkzeuge[i];
-        auto* knopf = NeuerKnopf(zeile.komponente, zeile.hinweis, zeile.bild, this);
-        knopf->setCheckable(true);
-        connect(knopf, &QToolButton::toggled, this, [this, i](bool unten) { WerkzeugGewaehlt(i, unten); });
-        werkzeugknoepfe_.push_back(knopf);
-        reihe.addWidget(knopf);
+        const Werkzeugzeile& w = kWerkzeuge[i];
+        reihe.addWidget(NeuerKnopf(*aktionen_->Werkzeuge()[i], w.komponente, w.hinweis, this));
     }
     reihe.addWidget(Trennstrich(this));
 }
 
 void TZrwMainDlg::BaueSchalter(QLayout& reihe) {
-    for (const Schalter& s : kSchalter) {
-        if (s.komponente.empty()) {
-            schalterkaesten_.push_back(nullptr);
-            continue;
-        }
-        auto* kasten = new QCheckBox(AusUtf8(s.beschriftung), this);
-        kasten->setObjectName(AusUtf8(s.komponente));
-        kasten->setToolTip(AusUtf8(s.hinweis));
-        kasten->setChecked(s.anfangs);
-        kasten->setHidden(s.HatMerkmal(kNurBeiAbweichung));
-        connect(kasten, &QCheckBox::toggled, this, [this, &s](bool ein) { SchalterGewaehlt(s, ein); });
-        schalterkaesten_.push_back(kasten);
-        reihe.addWidget(kasten);
+    for (std::size_t i = 0; i < kSchalter.size(); ++i) {
+        if (QAction* aktion = aktionen_->Schalterliste()[i]; aktion != nullptr)
+            reihe.addWidget(NeuerSchaltkasten(*aktion, kSchalter[i], this));
     }
 }
 
@@ -312,14 +215,10 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
 
     ComboBox1_ = new Nummernfeld(this);
     ComboBox1_->gewaehlt = [this](const QString& nummer) { ZeigePunkt(nummer); };
-    auto* suche = new QShortcut(QKeySequence(QStringLiteral("Ctrl+F")), this);
-    connect(suche, &QShortcut::activated, this, [this] {
-        ComboBox1_->setFocus();
-        ComboBox1_->lineEdit()->selectAll();
-    });
     reihe.addWidget(ComboBox1_);
-    reihe.addWidget(&Knopf("SpeedButton10"));
-    setTabOrder(ComboBox1_, &Knopf("SpeedButton10"));  // made with the commands, which come first
+    auto* anzeigen = findChild<QToolButton*>(QStringLiteral("SpeedButton10"));
+    reihe.addWidget(anzeigen);
+    setTabOrder(ComboBox1_, anzeigen);  // made with the commands, which come first
 }
 
 void TZrwMainDlg::BaueDialoge() {
@@ -337,13 +236,13 @@ void TZrwMainDlg::BaueDialoge() {
         ComboBox1_->setCurrentIndex(ComboBox1_->findText(nummer));
     };
     zentrierkasten_->beendet = [this] {
-        Knopf("SpeedButton13").setChecked(false);
+        aktionen_->NachName("SpeedButton13").setChecked(false);
         ZeichneNeu();
     };
     legendentexte_ = new TZRWLBLForm(this);
     versteck_ = std::make_unique<Punktversteck>(static_cast<Werkzeugumgebung&>(*this), this);
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
-            [this] { Knopf("SpeedButton14").setChecked(false); });
+            [this] { aktionen_->NachName("SpeedButton14").setChecked(false); });
     ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, this);
     ergebnisse_->Fenster().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
@@ -363,13 +262,18 @@ void TZrwMainDlg::BaueDialoge() {
         new Fensterort(*dialog, Rand::RechtsOben);
     // Closing the window of a mode ends the mode.
     connect(&punktart_->Fenster(), &QDialog::finished, this,
-            [this] { Knopf("PunktartButton").setChecked(false); });
+            [this] { aktionen_->NachName("PunktartButton").setChecked(false); });
     connect(beobachtungstyp_, &QDialog::finished, this,
-            [this] { Knopf("EditBeobButton").setChecked(false); });
+            [this] { aktionen_->NachName("EditBeobButton").setChecked(false); });
+    aktionen_->ErklaereWerkzeuge(werkzeuge_);
 }
 
-QToolButton& TZrwMainDlg::Knopf(const char* komponente) const {
-    return *findChild<QToolButton*>(QString::fromUtf8(komponente));
+void TZrwMainDlg::FuehreAus(const Befehl& befehl) {
+    if (befehl.HatMerkmal(kBrauchtNetz) && !plan_.Offen()) {
+        ZeigeStatus(kOhneNetz);
+    } else {
+        (this->*befehl.klick)();
+    }
 }
 
 void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
@@ -387,8 +291,8 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
         return;
     }
     // One mode at most; none is allowed, which an exclusive button group is not.
-    for (std::size_t i = 0; i < werkzeugknoepfe_.size(); ++i) {
-        if (i != nummer) werkzeugknoepfe_[i]->setChecked(false);
+    for (std::size_t i = 0; i < aktionen_->Werkzeuge().size(); ++i) {
+        if (i != nummer) aktionen_->Werkzeuge()[i]->setChecked(false);
     }
     werkzeug.BeginneWerkzeug();
     bild_->setCursor(werkzeug.Zeiger());
@@ -396,16 +300,16 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
 }
 
 void TZrwMainDlg::LoeseWerkzeuge() {
-    for (QToolButton* knopf : werkzeugknoepfe_)
-        knopf->setChecked(false);
-    Knopf("SpeedButton14").setChecked(false);
+    for (QAction* werkzeug : aktionen_->Werkzeuge())
+        werkzeug->setChecked(false);
+    aktionen_->NachName("SpeedButton14").setChecked(false);
     zentrierkasten_->hide();
 }
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
     if (schalter.HatMerkmal(kImKartengitter) && ein) {
         if (!plan_.Offen()) {
-            schalterkaesten_[static_cast<std::size_t>(&schalter - kSchalter.data())]->setChecked(false);
+            aktionen_->NachName(schalter.komponente).setChecked(false);
             return;
         }
         if (!HatKartengitter(programm_.netz.Netztyp)) {

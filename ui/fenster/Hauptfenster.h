@@ -7,11 +7,9 @@
 
 #include <QMainWindow>
 #include <QStatusBar>
-#include <QToolButton>
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "ui/Plan.h"
 #include "ui/Programm.h"
@@ -26,13 +24,14 @@
 #include "ui/fenster/Schalter.h"
 #include "ui/werkzeuge/Werkzeugkasten.h"
 
-class QCheckBox;
 class QLabel;
 class QLayout;
 
 namespace zrw {
 
+class Aktionen;
 class Aussenhinweis;
+struct Befehl;
 class Ergebnisanzeige;
 class Hilfefenster;
 class Nummernfeld;
@@ -87,6 +86,10 @@ class TZrwMainDlg final : public QMainWindow,
     void EinpassenClick() { planbild_.PasseGezeigtesEin(); }  ///< fits the visible points
     void NummernZeigenClick();                                ///< shows all hidden numbers
     void LetzteDateienClick();
+    void FruehereAnsichtClick();
+    void SpaetereAnsichtClick();
+    void PunktSucheClick();
+    void LoeseWerkzeuge();
     void Rueckgaengig();
     void WiederholeSchritt();
 
@@ -103,15 +106,14 @@ class TZrwMainDlg final : public QMainWindow,
   private:
     // Hauptfenster.cpp
     void BaueFenster();
-    void BaueBefehle(QLayout& reihe);
-    void BaueWerkzeuge(QLayout& reihe);
+    void BaueAktionen();
+    void BaueKnoepfe(QLayout& reihe);
     void BaueSchalter(QLayout& reihe);
     void BaueFelder(QLayout& reihe);
     void BaueDialoge();
+    void FuehreAus(const Befehl& befehl);
     void WerkzeugGewaehlt(std::size_t nummer, bool unten);
     void SchalterGewaehlt(const Schalter& schalter, bool ein);
-    void LoeseWerkzeuge();
-    [[nodiscard]] QToolButton& Knopf(const char* komponente) const;
 
     // HauptfensterDateien.cpp
     void BaueStartseite();
@@ -197,8 +199,7 @@ class TZrwMainDlg final : public QMainWindow,
     Werkzeugkasten werkzeuge_;
     Farbuebernahme farben_{*this};
     QString ortstext_;  ///< what the status line said about that
-    std::vector<QToolButton*> werkzeugknoepfe_;
-    std::vector<QCheckBox*> schalterkaesten_;  ///< in the order of `kSchalter`, null for those without a box
+    Aktionen* aktionen_ = nullptr;
     ImageZarwik* bild_ = nullptr;
     Aussenhinweis* aussenhinweis_ = nullptr;
     Startseite* startseite_ = nullptr;  ///< over the picture, until a network is open

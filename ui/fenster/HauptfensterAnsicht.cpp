@@ -7,6 +7,7 @@
 #include "ui/Umwandlung.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/TFormData.h"
+#include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Standfelder.h"
@@ -82,7 +83,7 @@ void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
     ZeigeStand();
     if (!werkzeuge_.Zieht()) ZeigeZeiger(ort);
     werkzeuge_.FolgeMaus(ort);
-    if (!Knopf("DataButton").isChecked()) ergebnisse_->Fenster().hide();
+    if (!aktionen_->NachName("DataButton").isChecked()) ergebnisse_->Fenster().hide();
 }
 
 /// The pointer tells what a press would do here.
@@ -132,15 +133,17 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
                 break;
         }
     }
-    if (ereignis->modifiers() == Qt::AltModifier && ereignis->key() == Qt::Key_Left) {
-        if (!planbild_.GeheZurueck()) ZeigeStatus(QStringLiteral("Eine frühere Ansicht gibt es nicht."));
-        return;
-    }
-    if (ereignis->modifiers() == Qt::AltModifier && ereignis->key() == Qt::Key_Right) {
-        if (!planbild_.GeheVor()) ZeigeStatus(QStringLiteral("Eine spätere Ansicht gibt es nicht."));
-        return;
-    }
+    if (const Befehl* befehl = aktionen_->AusgeschalteterBefehl(QKeySequence(ereignis->keyCombination())))
+        return FuehreAus(*befehl);  // which says why it cannot
     QMainWindow::keyPressEvent(ereignis);
+}
+
+void TZrwMainDlg::FruehereAnsichtClick() {
+    if (!planbild_.GeheZurueck()) ZeigeStatus(QStringLiteral("Eine frühere Ansicht gibt es nicht."));
+}
+
+void TZrwMainDlg::SpaetereAnsichtClick() {
+    if (!planbild_.GeheVor()) ZeigeStatus(QStringLiteral("Eine spätere Ansicht gibt es nicht."));
 }
 
 }  // namespace zrw

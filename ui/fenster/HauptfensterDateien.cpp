@@ -1,6 +1,5 @@
 // Main window: opening, saving, ending.
 #include <QApplication>
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
@@ -19,6 +18,7 @@
 #include "ui/aenderungen/Punktversteck.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
@@ -314,7 +314,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         for (std::size_t i = 0; i < kSchalter.size(); ++i) {
             if (kSchalter[i].inDarstellung == &Darstellung::ShowPktText ||
                 kSchalter[i].inDarstellung == &Darstellung::ShowBeob)
-                schalterkaesten_[i]->setChecked(true);
+                aktionen_->Schalterliste()[i]->setChecked(true);
         }
     } else {
         // A control file starts from screen sizes and the usual font.
@@ -323,11 +323,11 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         planbild_.Flaeche().SetzePlanschrift(Zeichenschrift());
     }
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-        const bool ein =
-            schalterkaesten_[i] != nullptr ? schalterkaesten_[i]->isChecked() : kSchalter[i].anfangs;
+        QAction* const aktion = aktionen_->Schalterliste()[i];
+        const bool ein = aktion != nullptr ? aktion->isChecked() : kSchalter[i].anfangs;
         StelleEin(kSchalter[i], ein, plan_.Daten(), programm_.netz, programm_.zustand);
         if (kSchalter[i].HatMerkmal(kNurBeiAbweichung))
-            schalterkaesten_[i]->setVisible(BlattschnittWeichtAb(programm_.netz));
+            aktion->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
 }
 

@@ -1,10 +1,13 @@
 // Main window: point numbers, centring, hidden points, point kinds, and what follows a change.
+#include <QLineEdit>
+
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktartwahl.h"
 #include "ui/aenderungen/Punktversteck.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/dialoge/TFormHidePunkte.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Sanduhr.h"
@@ -55,6 +58,11 @@ void TZrwMainDlg::FuelleNummern() {
 
 // --- Finding a point --------------------------------------------------------------------------------------
 
+void TZrwMainDlg::PunktSucheClick() {
+    ComboBox1_->setFocus();
+    ComboBox1_->lineEdit()->selectAll();
+}
+
 void TZrwMainDlg::SpeedButton10Click() {
     ZeigePunkt(ComboBox1_->currentText());
 }
@@ -64,7 +72,7 @@ void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
     const PunktKnoten* punkt = MarkierePunkt(nummer);
     if (punkt == nullptr) return;
     // A window without any results would only be in the way.
-    if (Knopf("DataButton").isChecked() || ergebnisse_->Vorhanden())
+    if (aktionen_->NachName("DataButton").isChecked() || ergebnisse_->Vorhanden())
         ergebnisse_->ListeAuf(*plan_.Daten(), *punkt);
 }
 
@@ -123,7 +131,7 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
 // --- Hiding -----------------------------------------------------------------------------------------------
 
 void TZrwMainDlg::SpeedButton14Click() {
-    if (!Knopf("SpeedButton14").isChecked()) {
+    if (!aktionen_->NachName("SpeedButton14").isChecked()) {
         versteck_->Auswahl().hide();
         return;
     }

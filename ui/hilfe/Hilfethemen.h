@@ -96,9 +96,13 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"ButtonKleiner", 6},
     {"SpeedButton3", 6},
     {"EinpassenButton", 6},
+    {"FruehereAnsicht", 6},
+    {"SpaetereAnsicht", 6},
+    {"PunktSuche", 9},
     {"ComboBox1", 9},
     {"SpeedButton10", 9},
     // Tools
+    {"WerkzeugAus", 34},
     {"PanButton", 7},
     {"ZoomInButton", 8},
     {"MovePktButton", 10},
