@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusTipEvent>
+#include <map>
 #include <set>
 
 #include "tests/ui/Netzprobe.h"
@@ -101,6 +102,30 @@ TEST_F(Menues, LetzteDateienUndTipps) {
     zeige("Tipp 3");
     Taste(Qt::Key_Left);
     EXPECT_NE(zeige(""), meldung) << "a newer message stays";
+}
+
+TEST_F(Menues, DieKnopfleisteLaesstKeinenKnopfAllein) {
+    auto& rahmen = Kind<QWidget>("WerkzeugRahmen");
+    for (const int breite : {300, 420, 600, 800, 1180, 1600}) {
+        fenster.resize(breite, 700);
+        QCoreApplication::processEvents();
+        std::map<int, int> reihen;
+        std::set<QAction*> sichtbar;
+        for (QToolButton* k : fenster.findChildren<QToolButton*>()) {
+            if (!k->isVisible() || k->defaultAction() == nullptr) continue;
+            sichtbar.insert(k->defaultAction());
+            EXPECT_TRUE(k->parentWidget()->rect().contains(k->geometry())) << breite;
+            reihen[k->mapTo(&fenster, QPoint()).y()] += k->objectName() == "SpeedButton10" ? 2 : 1;
+        }
+        for (const auto& [y, anzahl] : reihen)
+            EXPECT_GT(anzahl, 1) << breite << " " << y;
+        const auto* mehr = rahmen.findChild<QToolButton*>("MehrKnoepfe");
+        for (const Werkzeugzeile& w : kWerkzeuge) {
+            QAction* a = &Aktion(w.komponente);
+            EXPECT_TRUE(sichtbar.contains(a) || mehr->menu()->actions().contains(a)) << w.komponente;
+        }
+        EXPECT_EQ(mehr->isVisible(), breite < 500);
+    }
 }
 
 TEST(Menuebuchstaben, JederBekommtEinenWennEsGeht) {

@@ -3,8 +3,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
-#include <QFrame>
-#include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -34,7 +32,7 @@
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Startseite.h"
-#include "ui/fenster/Umbruchleiste.h"
+#include "ui/fenster/Werkzeugleiste.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
@@ -49,31 +47,6 @@ namespace {
 
 const QString kOhneNetz = QStringLiteral(
     "Dazu muss ein Netz geöffnet sein: Steuerdatei mit Strg+O, Zarwikdatei mit Strg+Umschalt+O");
-
-QFrame* Trennstrich(QWidget* eltern) {
-    auto* strich = new QFrame(eltern);
-    strich->setFrameShape(QFrame::VLine);
-    strich->setFrameShadow(QFrame::Sunken);
-    return strich;
-}
-
-/// The panel whose free area releases every tool mode. Keeps the height that its rows take: in a narrow
-/// window they would lie on each other.
-class Werkzeugleiste final : public QWidget {
-  public:
-    Werkzeugleiste(QWidget* eltern, std::function<void()> klick)
-        : QWidget(eltern), klick_(std::move(klick)) {}
-
-  protected:
-    void mousePressEvent(QMouseEvent* /*ereignis*/) override { klick_(); }
-    void resizeEvent(QResizeEvent* ereignis) override {
-        QWidget::resizeEvent(ereignis);
-        setMinimumHeight(layout()->totalHeightForWidth(width()));
-    }
-
-  private:
-    std::function<void()> klick_;
-};
 
 }  // namespace
 
@@ -113,17 +86,9 @@ void TZrwMainDlg::BaueFenster() {
     auto* spalte = new QVBoxLayout(mitte);
     spalte->setContentsMargins(0, 0, 0, 0);
     spalte->setSpacing(0);
-    auto* leiste = new Werkzeugleiste(mitte, [this] { LoeseWerkzeuge(); });
-    auto* reihen = new QVBoxLayout(leiste);
-    reihen->setContentsMargins(6, 4, 6, 4);
-    reihen->setSpacing(2);
-    auto* knoepfe = new Umbruchleiste(nullptr, 2, 2);
-    BaueKnoepfe(*knoepfe);
-    BaueFelder(*knoepfe);
-    reihen->addLayout(knoepfe);
-    auto* kaesten = new Umbruchleiste(nullptr, 12, 2);
-    BaueSchalter(*kaesten);
-    reihen->addLayout(kaesten);
+    auto* leiste = new Werkzeugleiste(*aktionen_, mitte);
+    leiste->freieFlaeche = [this] { LoeseWerkzeuge(); };
+    BaueFelder(*leiste);
     spalte->addWidget(leiste);
     bild_ = new ImageZarwik(planbild_.Flaeche(), *this, mitte);
     planbild_.SetzeAnzeige(*bild_);
@@ -175,31 +140,8 @@ void TZrwMainDlg::BaueAktionen() {
             [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
 }
 
-void TZrwMainDlg::BaueKnoepfe(QLayout& reihe) {
-    for (std::size_t i = 0; i < kBefehle.size(); ++i) {
-        const Befehl& b = kBefehle[i];
-        if (b.HatMerkmal(kOhneKnopf)) continue;
-        QToolButton* knopf = NeuerKnopf(*aktionen_->Befehle()[i], b.komponente, b.hinweis, this);
-        if (b.HatMerkmal(kBeimFeld)) continue;
-        reihe.addWidget(knopf);
-        if (b.HatMerkmal(kGruppenende)) reihe.addWidget(Trennstrich(this));
-    }
-    for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
-        const Werkzeugzeile& w = kWerkzeuge[i];
-        reihe.addWidget(NeuerKnopf(*aktionen_->Werkzeuge()[i], w.komponente, w.hinweis, this));
-    }
-    reihe.addWidget(Trennstrich(this));
-}
-
-void TZrwMainDlg::BaueSchalter(QLayout& reihe) {
-    for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-        if (QAction* aktion = aktionen_->Schalterliste()[i]; aktion != nullptr)
-            reihe.addWidget(NeuerSchaltkasten(*aktion, kSchalter[i], this));
-    }
-}
-
 /// Print scale and point numbers.
-void TZrwMainDlg::BaueFelder(QLayout& reihe) {
+void TZrwMainDlg::BaueFelder(Werkzeugleiste& leiste) {
     auto* schild = new QLabel(QStringLiteral("Druckmaßstab 1:"), this);
     EditMasstab_ = new Massstabfeld(this);
     EditMasstab_->setObjectName(QStringLiteral("EditMasstab"));
@@ -210,15 +152,12 @@ void TZrwMainDlg::BaueFelder(QLayout& reihe) {
     EditMasstab_->setFixedWidth(
         EditMasstab_->fontMetrics().horizontalAdvance(QStringLiteral("000000000000")));
     schild->setBuddy(EditMasstab_);
-    reihe.addWidget(schild);
-    reihe.addWidget(EditMasstab_);
+    leiste.NimmFelder({schild, EditMasstab_});
 
     ComboBox1_ = new Nummernfeld(this);
     ComboBox1_->gewaehlt = [this](const QString& nummer) { ZeigePunkt(nummer); };
-    reihe.addWidget(ComboBox1_);
-    auto* anzeigen = findChild<QToolButton*>(QStringLiteral("SpeedButton10"));
-    reihe.addWidget(anzeigen);
-    setTabOrder(ComboBox1_, anzeigen);  // made with the commands, which come first
+    leiste.NimmFelder({ComboBox1_, NeuerKnopf(aktionen_->NachName("SpeedButton10"), "SpeedButton10",
+                                              "Punkt anzeigen", &leiste)});
 }
 
 void TZrwMainDlg::BaueDialoge() {

@@ -25,7 +25,6 @@
 #include "ui/werkzeuge/Werkzeugkasten.h"
 
 class QLabel;
-class QLayout;
 
 namespace zrw {
 
@@ -41,6 +40,7 @@ class Startseite;
 class Punktversteck;
 class TFormBeobTyp;
 class TZRWLBLForm;
+class Werkzeugleiste;
 class Zentrierkasten;
 
 class TZrwMainDlg final : public QMainWindow,
@@ -107,9 +107,7 @@ class TZrwMainDlg final : public QMainWindow,
     // Hauptfenster.cpp
     void BaueFenster();
     void BaueAktionen();
-    void BaueKnoepfe(QLayout& reihe);
-    void BaueSchalter(QLayout& reihe);
-    void BaueFelder(QLayout& reihe);
+    void BaueFelder(Werkzeugleiste& leiste);
     void BaueDialoge();
     void FuehreAus(const Befehl& befehl);
     void WerkzeugGewaehlt(std::size_t nummer, bool unten);
