@@ -26,9 +26,10 @@ programm=$!
 trap 'kill $programm $verwalter $anzeige 2>/dev/null; rm -rf "$ordner"' EXIT
 
 fenster=$(timeout 20 xdotool search --sync --onlyvisible --name '^Zarwik .*NETZ.EIN' | tail -1)
-xdotool windowsize --sync "$fenster" 1180 800
+oben=27 # the picture begins so much lower than the places below are measured from
+xdotool windowsize --sync "$fenster" 1180 $((800 + oben))
 sleep 0.5
-nach() { xdotool mousemove --window "$fenster" "$1" "$2" && sleep 0.1; }
+nach() { xdotool mousemove --window "$fenster" "$1" $(($2 + oben)) && sleep 0.1; }
 klick() { nach "$1" "$2" && xdotool click "${3:-1}" && sleep 0.3; }
 ziehe() { nach "$1" "$2" && xdotool mousedown 1 && nach $((($1 + $3) / 2)) $((($2 + $4) / 2)) && nach "$3" "$4" &&
     xdotool mouseup 1 && sleep 0.3; }
@@ -37,13 +38,15 @@ bild() { import -window "${2:-$fenster}" "$bilder/$1.png"; }
 speichere() { # the dialog takes the name, an existing file is replaced
     taste ctrl+s && sleep 0.5 && xdotool type "$ordner/$1" && taste Return && sleep 0.5
 }
-# The row of buttons, by what they do.
-declare -A knopf=([pan]="868 19" [zoom]="902 19" [punkt]="936 19" [nummer]="970 19" [beob]="1004 19" [art]="1038 19"
-    [zentriere]="1139 19" [hidenr]="56 52" [hide]="90 52" [daten]="124 52" [alles]="338 19" [vorschau]="586 19")
+# Tools and commands by their keys, or by the letters of menu and entry.
+declare -A knopf=([pan]=1 [zoom]=2 [punkt]=3 [nummer]=4 [beob]=5 [art]=6 [zentriere]=9 [alles]=Home
+    [hidenr]="alt+w k" [hide]="alt+w t" [daten]="alt+w s" [vorschau]="alt+u v"
+    [lageverb]="alt+e l" [lagegen]="alt+e a" [hoehengen]="alt+e e" [tk25]="alt+a 2")
 modus() {
-    local ort
-    read -ra ort <<<"${knopf[$1]}"
-    klick "${ort[@]}"
+    local tasten
+    read -ra tasten <<<"${knopf[$1]}"
+    xdotool windowfocus --sync "$fenster"
+    for t in "${tasten[@]}"; do taste "$t"; done
 }
 
 modus alles
@@ -53,14 +56,14 @@ nach 414 394
 for _ in 1 2 3; do xdotool click 5; done # the wheel: closer
 sleep 0.3
 bild 02_vergroessert
-for kasten in 619,80 955,80 13,102; do klick "${kasten%,*}" "${kasten#*,}"; done
+for schalter in lageverb lagegen hoehengen; do modus $schalter; done
 bild 10_ergebnisse
 modus daten
 klick 414 394 # point 10
 xdotool search --sync --onlyvisible --name '^Abriss nach der Ausgleichung Punkt' >/dev/null
 bild 11_abriss root
 modus daten
-for kasten in 619,80 955,80 13,102; do klick "${kasten%,*}" "${kasten#*,}"; done
+for schalter in lageverb lagegen hoehengen; do modus $schalter; done
 modus vorschau
 vorschau=$(xdotool search --sync --onlyvisible --name '^Druckvorschau$' | tail -1)
 sleep 2
@@ -118,7 +121,7 @@ taste Return
 sleep 0.5
 xdotool getwindowname "$fenster" | grep -q 'zentriert.ZRW$' || { echo "Nicht wieder geöffnet." && exit 1; }
 bild 09_wieder_geoeffnet
-klick 275 80 # TK25
+modus tk25
 taste ctrl+l # the legend: two lines of text, then its box
 xdotool type 'Netz Vogelsberg (frei erfunden)'
 taste Tab
@@ -136,7 +139,7 @@ if [ -n "$neu" ]; then
         10_ergebnisse=ergebnisse 12_vorschau=vorschau 13_gitter=gitter; do
         cp "$bilder/${paar%=*}.png" "$neu/${paar#*=}.png"
     done
-    convert "$bilder/11_abriss.png" -crop 1182x822+0+0 +repage "$neu/abriss.png"
+    convert "$bilder/11_abriss.png" -crop "1182x$((822 + oben))+0+0" +repage "$neu/abriss.png"
     "$zarwik" --export png --ziel "$bilder" "$wurzel/beispiele/LINIEN.ZRW"
     cp "$bilder/LINIEN.png" "$neu/linienstile.png"
 fi
