@@ -325,6 +325,16 @@ void Planbild::ZieheBildNach(Bildpunkt versatz) {
     }
 }
 
+void Planbild::HoleInsBild(Welt ort) {
+    Ansicht& ansicht = *plan_.Daten();
+    if (InReichweite(ansicht.Bildort(ort), 0, Sicht())) return;
+    beobachter_.VorAnsichtswechsel();
+    steuerung_.MerkeLage(ansicht.Lage(), Wechsel::Bewegung);
+    ansicht.SetzeMitte(ort);
+    ZeichneNeu();
+    beobachter_.NachAnsichtswechsel();
+}
+
 void Planbild::BeginneZug() {
     zuglage_ = plan_.Daten()->Lage();
     steuerung_.BeginneZug(*plan_.Daten());

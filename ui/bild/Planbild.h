@@ -95,6 +95,8 @@ class Planbild {
     /// Draws what the wheel has left to be drawn.
     void ZeichneNachRad();
     void VerschiebeBild(Bildpunkt versatz);
+    /// Into the middle where it lies outside; many of these in a row are one step back.
+    void HoleInsBild(Welt ort);
     // Panning with the mouse.
     void BeginneZug();
     void ZieheBild(Bildpunkt versatz);

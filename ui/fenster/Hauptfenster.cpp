@@ -27,6 +27,7 @@
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
+#include "ui/fenster/Bildtasten.h"
 #include "ui/fenster/Fensterort.h"
 #include "ui/fenster/Menueleiste.h"
 #include "ui/fenster/Nummernfeld.h"
@@ -35,6 +36,7 @@
 #include "ui/fenster/Werkzeugleiste.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
+#include "ui/werkzeuge/Punktgang.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
 /// The pictures sit in a static library, whose resources register only when asked to.
@@ -93,6 +95,12 @@ void TZrwMainDlg::BaueFenster() {
     bild_ = new ImageZarwik(planbild_.Flaeche(), *this, mitte);
     planbild_.SetzeAnzeige(*bild_);
     planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
+    punktgang_ = std::make_unique<Punktgang>(
+        Punktgang::Umfeld{plan_, planbild_, *this, programm_.einstellungen, [this](const QString& text) {
+                              if (!text.isEmpty()) statusBar()->showMessage(text);
+                              bild_->update();
+                          }});
+    new Bildtasten(*bild_, *punktgang_);
     aussenhinweis_ = new Aussenhinweis(bild_);
     aussenhinweis_->einpassen = [this] { EinpassenClick(); };
     BaueStartseite();
@@ -100,6 +108,7 @@ void TZrwMainDlg::BaueFenster() {
         if (!plan_.Offen()) return;
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
         planbild_.ZeichneStehendes(flaeche);
+        punktgang_->ZeichneRing(flaeche);
     });
     druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
     spalte->addWidget(bild_, 1);

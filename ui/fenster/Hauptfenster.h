@@ -35,6 +35,7 @@ class Ergebnisanzeige;
 class Hilfefenster;
 class Nummernfeld;
 class Punktartwahl;
+class Punktgang;
 class Standfelder;
 class Startseite;
 class Punktversteck;
@@ -210,6 +211,7 @@ class TZrwMainDlg final : public QMainWindow,
     TFormBeobTyp* beobachtungstyp_ = nullptr;
     std::unique_ptr<Punktartwahl> punktart_;
     std::unique_ptr<Punktversteck> versteck_;
+    std::unique_ptr<Punktgang> punktgang_;
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QString titel_;

@@ -11,11 +11,13 @@
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Standfelder.h"
+#include "ui/werkzeuge/Punktgang.h"
 
 namespace zrw {
 
 /// What lies under the mouse now: the picture has moved below it.
 void TZrwMainDlg::BildGezeichnet() {
+    punktgang_->PruefePunkt();
     werkzeuge_.Schwebe();
     ergebnisse_->MeldeTabellen();
     standfelder_->ZeigeMassstab(*plan_.Daten(), programm_.netz);

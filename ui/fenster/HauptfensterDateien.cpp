@@ -27,6 +27,7 @@
 #include "ui/fenster/Startseite.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
+#include "ui/werkzeuge/Punktgang.h"
 
 namespace zrw {
 namespace {
@@ -335,6 +336,7 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     const Sanduhr sanduhr;
     // Nothing may point into the network that goes now.
     werkzeuge_.VergissNetz();
+    punktgang_->VergissPunkt();
     ergebnisse_->VergissNetz();
     druck_.Rahmen().LoeseEcke();
     punktart_->LoesePunkt();
