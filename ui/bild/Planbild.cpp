@@ -326,8 +326,11 @@ void Planbild::ZieheBildNach(Bildpunkt versatz) {
 }
 
 void Planbild::HoleInsBild(Welt ort) {
+    if (!InReichweite(plan_.Daten()->Bildort(ort), 0, Sicht())) SetzeMitte(ort);
+}
+
+void Planbild::SetzeMitte(Welt ort) {
     Ansicht& ansicht = *plan_.Daten();
-    if (InReichweite(ansicht.Bildort(ort), 0, Sicht())) return;
     beobachter_.VorAnsichtswechsel();
     steuerung_.MerkeLage(ansicht.Lage(), Wechsel::Bewegung);
     ansicht.SetzeMitte(ort);

@@ -81,6 +81,8 @@ class Planbild {
     void PasseGezeigtesEin();
     /// The same for a network that is being opened: draws nothing and keeps no view to go back to.
     void SetzeEingepasst();
+    /// Brings a place into the middle, with a way back.
+    void SetzeMitte(Welt ort);
     /// Fills the picture with a rectangle of it, given by two corners.
     void ZoomeAuf(Bildpunkt a, Bildpunkt b);
     /// One step in about a position, with a way back.

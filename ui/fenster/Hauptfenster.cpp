@@ -29,6 +29,7 @@
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Bildtasten.h"
 #include "ui/fenster/Fensterort.h"
+#include "ui/fenster/Figurenmenue.h"
 #include "ui/fenster/Menueleiste.h"
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Standfelder.h"
@@ -104,10 +105,12 @@ void TZrwMainDlg::BaueFenster() {
     aussenhinweis_ = new Aussenhinweis(bild_);
     aussenhinweis_->einpassen = [this] { EinpassenClick(); };
     BaueStartseite();
+    BaueAuswahl();
     bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
         if (!plan_.Offen()) return;
         druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
         planbild_.ZeichneStehendes(flaeche);
+        werkzeuge_.Ausgewaehlt().ZeichneAuswahl(flaeche);
         punktgang_->ZeichneRing(flaeche);
     });
     druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});

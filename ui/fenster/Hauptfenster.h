@@ -32,6 +32,7 @@ class Aktionen;
 class Aussenhinweis;
 struct Befehl;
 class Ergebnisanzeige;
+class Figurenmenue;
 class Hilfefenster;
 class Nummernfeld;
 class Punktartwahl;
@@ -39,6 +40,7 @@ class Punktgang;
 class Standfelder;
 class Startseite;
 class Punktversteck;
+class Schwebekarte;
 class TFormBeobTyp;
 class TZRWLBLForm;
 class Werkzeugleiste;
@@ -125,6 +127,8 @@ class TZrwMainDlg final : public QMainWindow,
     [[nodiscard]] Netzbewahrung::Plan JetzigerPlan();
 
     // HauptfensterAnsicht.cpp
+    void BaueAuswahl();
+    [[nodiscard]] QString TextZu(Bildpunkt ort);
     void ZeigeStand();
     void ZeigeZeiger(Bildpunkt ort);
     void VorAnsichtswechsel() override { werkzeuge_.BrichAb(); }
@@ -145,6 +149,7 @@ class TZrwMainDlg final : public QMainWindow,
     [[nodiscard]] Liste* AktuelleListe() override { return plan_.Daten(); }
     [[nodiscard]] const Einstellungen& Anzeige() const override { return programm_.einstellungen; }
     [[nodiscard]] const Netzangaben& Angaben() const override { return programm_.netz; }
+    [[nodiscard]] bool Umschalttaste() const override;
     void UeberlagerungGeaendert() override { bild_->update(); }
     void ZeichneNeu() override { planbild_.ZeichneNeu(); }
     void LasseAus(Figurenmenge figuren) override { planbild_.LasseAus(std::move(figuren)); }
@@ -201,6 +206,8 @@ class TZrwMainDlg final : public QMainWindow,
     Aktionen* aktionen_ = nullptr;
     ImageZarwik* bild_ = nullptr;
     Aussenhinweis* aussenhinweis_ = nullptr;
+    Schwebekarte* karte_ = nullptr;
+    std::unique_ptr<Figurenmenue> figurenmenue_;
     Startseite* startseite_ = nullptr;  ///< over the picture, until a network is open
     Standfelder* standfelder_ = nullptr;
     QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse

@@ -1,14 +1,19 @@
 // Main window: mouse, keys and status line.
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <string>
 
 #include "model/Zahlentext.h"
 #include "ui/Umwandlung.h"
+#include "ui/aenderungen/Punktversteck.h"
+#include "ui/bild/Figurentext.h"
+#include "ui/bild/Schwebekarte.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
+#include "ui/fenster/Figurenmenue.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/werkzeuge/Punktgang.h"
@@ -22,6 +27,42 @@ void TZrwMainDlg::BildGezeichnet() {
     ergebnisse_->MeldeTabellen();
     standfelder_->ZeigeMassstab(*plan_.Daten(), programm_.netz);
     if (aussenhinweis_->isVisible()) aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
+}
+
+void TZrwMainDlg::BaueAuswahl() {
+    karte_ = new Schwebekarte(bild_);
+    karte_->text = [this](Bildpunkt ort) { return TextZu(ort); };
+    std::vector<QAction*> ansichten;
+    for (const char* name : {"EinpassenButton", "SpeedButton3", "FruehereAnsicht"})
+        ansichten.push_back(&aktionen_->NachName(name));
+    figurenmenue_ = std::make_unique<Figurenmenue>(
+        Figurenmenue::Umfeld{*this, werkzeuge_.Ausgewaehlt(), [this](Welt ort) { planbild_.SetzeMitte(ort); },
+                             [this](const QStringList& nummern) { versteck_->VerbergePunkte(nummern); },
+                             ansichten, aktionen_->Werkzeuge()},
+        this);
+    werkzeuge_.rechteTaste = [this](Bildpunkt ort) {
+        karte_->VerbirgKarte();
+        if (!werkzeuge_.Ausgewaehlt().WaehleBei(ort)) werkzeuge_.Ausgewaehlt().LeereAuswahl();
+        figurenmenue_->ZeigeMenue(
+            bild_->mapToGlobal(QPoint(static_cast<int>(ort.x), static_cast<int>(ort.y))));
+    };
+}
+
+/// What the card beside the mouse says.
+QString TZrwMainDlg::TextZu(Bildpunkt ort) {
+    if (!plan_.Offen() || werkzeuge_.Zieht() || werkzeuge_.Aktiv() != nullptr) return {};
+    const Liste& netz = *plan_.Daten();
+    Punktergebnisse* ergebnisse = ergebnisse_->Vorhanden() ? programm_.zustand.Ergebnisse : nullptr;
+    if (const PunktKnoten* p = netz.ClickGezeigten(ort); p != nullptr) {
+        if (ergebnisse != nullptr) ergebnisse->ErneuereErgebnisse();
+        return Punkttext(netz, *p, programm_.einstellungen, programm_.netz.Netztyp, ergebnisse);
+    }
+    const PunktKante* k = netz.PickGezeigte(ort);
+    return k != nullptr ? Kantentext(netz, *k, programm_.einstellungen, programm_.netz.Netztyp) : QString();
+}
+
+bool TZrwMainDlg::Umschalttaste() const {
+    return QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
 }
 
 void TZrwMainDlg::ZeigeStatus(const QString& text) {
@@ -63,6 +104,7 @@ bool TZrwMainDlg::event(QEvent* ereignis) {
 
 void TZrwMainDlg::ImageZarwikMouseDown(Bildpunkt ort, Qt::MouseButton taste) {
     if (!plan_.Offen()) return;
+    karte_->VerbirgKarte();
     planbild_.ZeichneNachRad();
     werkzeuge_.DrueckeTaste(ort, taste);
 }
@@ -74,6 +116,7 @@ void TZrwMainDlg::ImageZarwikDoubleClick(Bildpunkt ort, Qt::MouseButton taste) {
 }
 
 void TZrwMainDlg::ImageZarwikMouseLeave() {
+    karte_->VerbirgKarte();
     if (!werkzeuge_.VergissMaus() || !plan_.Offen()) return;
     werkzeuge_.Schwebe();
     if (statusBar()->currentMessage() == ortstext_) ZeigeStand();
@@ -85,6 +128,11 @@ void TZrwMainDlg::ImageZarwikMouseMove(Bildpunkt ort) {
     ZeigeStand();
     if (!werkzeuge_.Zieht()) ZeigeZeiger(ort);
     werkzeuge_.FolgeMaus(ort);
+    if (werkzeuge_.Zieht() || werkzeuge_.Aktiv() != nullptr) {
+        karte_->VerbirgKarte();
+    } else {
+        karte_->FolgeMaus(ort);
+    }
     if (!aktionen_->NachName("DataButton").isChecked()) ergebnisse_->Fenster().hide();
 }
 
@@ -100,6 +148,7 @@ void TZrwMainDlg::ImageZarwikMouseUp(Bildpunkt ort, Qt::MouseButton taste) {
 
 void TZrwMainDlg::ImageZarwikWheel(Bildpunkt ort, int schritte) {
     if (!plan_.Offen() || werkzeuge_.Zieht()) return;
+    karte_->VerbirgKarte();
     werkzeuge_.MerkeMaus(ort);
     planbild_.RolleUm(ort, vorlieben_.RadUmgekehrt ? -schritte : schritte);
 }
@@ -111,6 +160,8 @@ void TZrwMainDlg::keyPressEvent(QKeyEvent* ereignis) {
             werkzeuge_.BrichAb();
         } else if (werkzeuge_.Aktiv() != nullptr) {
             werkzeuge_.Aktiv()->Abbrechen();
+        } else {
+            werkzeuge_.Ausgewaehlt().LeereAuswahl();
         }
         bild_->setFocus();  // out of the fields of the panel, whose keys are their own
         return;

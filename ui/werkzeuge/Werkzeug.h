@@ -36,6 +36,8 @@ class Werkzeugumgebung {
     [[nodiscard]] virtual const Einstellungen& Anzeige() const = 0;
     /// What is known about the network as a whole.
     [[nodiscard]] virtual const Netzangaben& Angaben() const = 0;
+    /// Shift is down.
+    [[nodiscard]] virtual bool Umschalttaste() const = 0;
     /// Something that lies over the picture has changed.
     virtual void UeberlagerungGeaendert() = 0;
     /// Draws the whole picture anew.

@@ -10,6 +10,7 @@ static constexpr Bildpunkt kNirgends{-kZeichengrenze, -kZeichengrenze};
 
 Werkzeugkasten::Werkzeugkasten(Werkzeugumgebung& umgebung, Druckrahmen& rahmen)
     : mitteltaste_(NeuesWerkzeug<BildVerschieben>(umgebung)),
+      auswahl_(std::make_unique<Auswahl>(umgebung)),
       legendenecke_(std::make_unique<LegendeVerschieben>(umgebung)),
       rahmenrand_(std::make_unique<RahmenVerschieben>(umgebung, rahmen)) {
     for (const Werkzeugzeile& zeile : kWerkzeuge)
@@ -20,6 +21,7 @@ void Werkzeugkasten::SetzeAktiv(std::size_t nummer, bool ein) {
     Werkzeug* const werkzeug = werkzeuge_[nummer].get();
     if (ein) {
         aktiv_ = werkzeug;
+        auswahl_->LeereAuswahl();
     } else if (aktiv_ == werkzeug) {
         aktiv_ = nullptr;
     }
@@ -34,25 +36,26 @@ void Werkzeugkasten::VergissNetz() {
     BrichAb();
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->Abbrechen();
+    auswahl_->LeereAuswahl();
 }
 
 void Werkzeugkasten::NetzGeaendert() {
     for (const auto& werkzeug : werkzeuge_)
         werkzeug->NetzGeaendert();
+    auswahl_->NetzGeaendert();
 }
 
-/// Whose a press here is. The legend's corner is caught with no mode on and where the mode allows it, the
-/// edge of the output area with no mode on.
+/// Whose a press here is; with no mode on it selects. The legend's corner is caught with no mode on and where
+/// the mode allows it, the edge of the output area with no mode on.
 Werkzeug* Werkzeugkasten::Zustaendig(Bildpunkt ort) const {
     const bool frei = aktiv_ == nullptr || aktiv_->LaesstLegendeZu();
     if (frei && legendenecke_->UeberEcke(ort)) return legendenecke_.get();
     if (aktiv_ == nullptr && rahmenrand_->UeberRand(ort)) return rahmenrand_.get();
-    return aktiv_;
+    return aktiv_ != nullptr ? aktiv_ : auswahl_.get();
 }
 
 Qt::CursorShape Werkzeugkasten::ZeigerBei(Bildpunkt ort) const {
-    const Werkzeug* werkzeug = Zustaendig(ort);
-    return werkzeug != nullptr ? werkzeug->Zeiger() : Qt::ArrowCursor;
+    return Zustaendig(ort)->Zeiger();
 }
 
 bool Werkzeugkasten::VergissMaus() {
@@ -72,6 +75,7 @@ void Werkzeugkasten::DrueckeTaste(Bildpunkt ort, Qt::MouseButton taste) {
         if (taste != taste_) return;
     }
     if (taste == Qt::RightButton && aktiv_ != nullptr) return aktiv_->RechteTaste();
+    if (taste == Qt::RightButton && rechteTaste) return rechteTaste(ort);
     Werkzeug* werkzeug = nullptr;
     if (taste == Qt::MiddleButton) {
         werkzeug = mitteltaste_.get();

@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include "ui/werkzeuge/Auswahl.h"
 #include "ui/werkzeuge/LegendeVerschieben.h"
 #include "ui/werkzeuge/RahmenVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
@@ -24,6 +26,10 @@ class Werkzeugkasten {
     /// The tool whose mode is on, null without one.
     [[nodiscard]] Werkzeug* Aktiv() const { return aktiv_; }
     [[nodiscard]] bool BrauchtTasten() const { return aktiv_ != nullptr && aktiv_->BrauchtTasten(); }
+    /// What is selected while no tool is on.
+    [[nodiscard]] Auswahl& Ausgewaehlt() { return *auswahl_; }
+    /// The right button where no tool is on.
+    std::function<void(Bildpunkt)> rechteTaste;
     /// Its mode goes on or off. What is under way ends.
     void SetzeAktiv(std::size_t nummer, bool ein);
 
@@ -55,6 +61,7 @@ class Werkzeugkasten {
 
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;
     std::unique_ptr<Werkzeug> mitteltaste_;  ///< panning, whatever mode is on
+    std::unique_ptr<Auswahl> auswahl_;
     std::unique_ptr<LegendeVerschieben> legendenecke_;
     std::unique_ptr<RahmenVerschieben> rahmenrand_;
     Werkzeug* aktiv_ = nullptr;

@@ -1,0 +1,104 @@
+#include "ui/bild/Figurentext.h"
+
+#include <QStringList>
+#include <cmath>
+
+#include "model/Linienarten.h"
+#include "model/Messzug.h"
+#include "model/Netzangaben.h"
+#include "model/Netzarten.h"
+#include "model/Punktarten.h"
+#include "model/Zahlentext.h"
+#include "ui/Umwandlung.h"
+#include "ui/dialoge/TFormPunktart.h"
+
+namespace zrw {
+namespace {
+
+/// A table with a heading; values that are not known are left out.
+class Zeilen {
+  public:
+    explicit Zeilen(const QString& titel) : html_(QStringLiteral("<b>%1</b>").arg(titel.toHtmlEscaped())) {}
+
+    void NimmZeile(const QString& name, const QString& wert) {
+        html_ += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\">%2</td></tr>")
+                     .arg(name.toHtmlEscaped(), wert.toHtmlEscaped());
+    }
+    void NimmZahl(const QString& name, double wert, int stellen, const char* einheit) {
+        if (std::isfinite(wert))
+            NimmZeile(name, AusUtf8(Festkomma(wert, 0, stellen)) + QString::fromUtf8(einheit));
+    }
+    [[nodiscard]] QString Text() const {
+        const auto anfang = html_.indexOf(QStringLiteral("<tr>"));
+        if (anfang < 0) return html_;
+        QString text = html_;
+        return text.insert(anfang, QStringLiteral("<table>")) + QStringLiteral("</table>");
+    }
+
+  private:
+    QString html_;
+};
+
+void NimmErgebnis(Zeilen& z, const Punktergebnis& e) {
+    z.NimmZahl(QStringLiteral("ausgeglichen Y"), e.Y, 4, " m");
+    z.NimmZahl(QStringLiteral("ausgeglichen X"), e.X, 4, " m");
+    z.NimmZahl(QStringLiteral("ausgeglichen H"), e.H, 4, " m");
+    z.NimmZahl(QStringLiteral("Ellipse A"), e.A, 1, " mm");
+    z.NimmZahl(QStringLiteral("Ellipse B"), e.B, 1, " mm");
+    z.NimmZahl(QStringLiteral("Ellipse Phi"), e.Phi, 1, " gon");
+    z.NimmZahl(QStringLiteral("mH"), e.mH, 1, " mm");
+}
+
+QString Beobachtungen(const Kante& kante) {
+    QStringList arten;
+    if (const Linienart& art = ZurLinie(kante.LAttr); !art.bezeichnung.empty())
+        arten << AusUtf8(art.bezeichnung) + (art.indirekt ? QStringLiteral(" (indirekt)") : QString());
+    for (const Beobachtungsart& b : kBeobachtungsarten) {
+        if (kante.KAttr.HatArt(b.art)) arten << AusUtf8(b.bezeichnung);
+    }
+    return arten.isEmpty() ? QStringLiteral("keine") : arten.join(QStringLiteral(", "));
+}
+
+}  // namespace
+
+QString Nummertext(const Netz& netz, PunktIndex nr) {
+    const QString nummer = AusNetz(netz.GetPktText(nr));
+    return nummer.isEmpty() ? QStringLiteral("ohne Nummer") : nummer;
+}
+
+QString Koordinatentext(const PunktKnoten& punkt) {
+    return AusUtf8(Festkomma(punkt.XWPu, 0, 4)) + QLatin1Char('\t') + AusUtf8(Festkomma(punkt.YWPu, 0, 4));
+}
+
+QString Punkttext(const Liste& netz, const PunktKnoten& punkt, const Einstellungen& einstellungen,
+                  int netztyp, const Punktergebnisse* ergebnisse) {
+    const PunktArt art = ArtNachFarbe(punkt.Item->Farbe, einstellungen);
+    Zeilen z(
+        QStringLiteral("Punkt %1, %2").arg(Nummertext(netz, punkt.PNr), AusUtf8(ZurArt(art).bezeichnung)));
+    const char* einheit = InMetern(netztyp) ? " m" : "";
+    z.NimmZahl(QStringLiteral("Rechtswert"), punkt.XWPu, 3, einheit);
+    z.NimmZahl(QStringLiteral("Hochwert"), punkt.YWPu, 3, einheit);
+    const std::string nummer = netz.GetPktText(punkt.PNr);
+    if (ergebnisse == nullptr || nummer.empty()) return z.Text();
+    if (const Punktergebnis* e = ergebnisse->ErgebnisZu(nummer)) NimmErgebnis(z, *e);
+    return z.Text();
+}
+
+QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellungen& einstellungen,
+                   int netztyp) {
+    Zeilen z(QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr)));
+    z.NimmZeile(QStringLiteral("Beobachtungen"), Beobachtungen(*kante.Item));
+    const auto a = netz.Weltort(kante.ANr);
+    const auto e = netz.Weltort(kante.ENr);
+    if (a && e && InMetern(netztyp)) {
+        const Messstrecke s = MissStrecke(*a, *e);
+        z.NimmZeile(QStringLiteral("Länge"), AusUtf8(Metertext(s.laenge)) + QStringLiteral(" m"));
+        z.NimmZeile(QStringLiteral("Richtungswinkel"),
+                    AusUtf8(Richtungstext(s.richtung)) + QStringLiteral(" gon"));
+    }
+    if (kante.Item->Farbe == einstellungen.GFCol)
+        z.NimmZeile(QStringLiteral("markiert"), QStringLiteral("grober Fehler"));
+    return z.Text();
+}
+
+}  // namespace zrw

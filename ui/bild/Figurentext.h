@@ -1,0 +1,25 @@
+// What is known about a figure, in words: for the card beside the mouse.
+#pragma once
+
+#include <QString>
+
+#include "model/Einstellungen.h"
+#include "model/FigListe.h"
+#include "model/Punktergebnisse.h"
+
+namespace zrw {
+
+/// Lines of a table in HTML, number and kind first. @param netztyp for what coordinates mean
+/// @param ergebnisse null: no results are known
+[[nodiscard]] QString Punkttext(const Liste& netz, const PunktKnoten& punkt,
+                                const Einstellungen& einstellungen, int netztyp,
+                                const Punktergebnisse* ergebnisse);
+/// Both ends, observations, length and bearing from the coordinates, whether it is flagged.
+[[nodiscard]] QString Kantentext(const Liste& netz, const PunktKante& kante,
+                                 const Einstellungen& einstellungen, int netztyp);
+/// Number of a point; a word where it has none.
+[[nodiscard]] QString Nummertext(const Netz& netz, PunktIndex nr);
+/// "Rechtswert<Tab>Hochwert", as spreadsheets take it.
+[[nodiscard]] QString Koordinatentext(const PunktKnoten& punkt);
+
+}  // namespace zrw

@@ -1,0 +1,117 @@
+#include "ui/fenster/Figurenmenue.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <memory>
+
+#include "model/Punktarten.h"
+#include "ui/Umwandlung.h"
+#include "ui/aenderungen/Sammelaenderung.h"
+#include "ui/bild/Figurentext.h"
+
+namespace zrw {
+namespace {
+
+void KopiereText(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+}
+
+}  // namespace
+
+void Figurenmenue::ZeigeMenue(const QPoint& ort) {
+    auto* menue = new QMenu(fenster_);
+    menue->setObjectName(QStringLiteral("FigurenMenue"));
+    menue->setAttribute(Qt::WA_DeleteOnClose);
+    if (PPunktKante k = u_.auswahl.Kante(); k != nullptr) {
+        NimmKante(*menue, *k);
+    } else if (!u_.auswahl.Punkte().empty()) {
+        NimmPunkte(*menue);
+    } else {
+        for (QAction* a : u_.ansichten)
+            menue->addAction(a);
+    }
+    menue->addSeparator();
+    QMenu* werkzeuge = menue->addMenu(QStringLiteral("&Werkzeug einschalten"));
+    for (QAction* a : u_.werkzeuge)
+        werkzeuge->addAction(a);
+    menue->popup(ort);
+}
+
+void Figurenmenue::NimmPunkte(QMenu& menue) {
+    const auto& punkte = u_.auswahl.Punkte();
+    const bool einer = punkte.size() == 1;
+    menue.addSection(einer ? QStringLiteral("Punkt ") +
+                                 Nummertext(*u_.umgebung.AktuelleListe(), punkte.front()->PNr)
+                           : QStringLiteral("%1 Punkte").arg(punkte.size()));
+    if (einer) NimmEinenPunkt(menue, *punkte.front());
+    QMenu* arten = menue.addMenu(QStringLiteral("Punkt&art ändern"));
+    for (const Punktart& art : kPunktarten) {
+        QAction* a =
+            arten->addAction(QStringLiteral("%1, %2").arg(AusUtf8(art.kuerzel), AusUtf8(art.bezeichnung)));
+        QObject::connect(a, &QAction::triggered, fenster_, [this, art = art.art] { AenderePunktart(art); });
+    }
+    menue.addAction(einer ? QStringLiteral("Punkt &verstecken") : QStringLiteral("Punkte &verstecken"),
+                    fenster_, [this] { u_.verbergePunkte(Nummern()); });
+    menue.addSeparator();
+    menue.addAction(einer ? QStringLiteral("&Nummer kopieren") : QStringLiteral("&Nummern kopieren"),
+                    fenster_, [this] { KopiereText(Nummern().join(QLatin1Char('\n'))); });
+    menue.addAction(QStringLiteral("&Koordinaten kopieren"), fenster_,
+                    [this] { KopiereText(Koordinaten()); });
+}
+
+void Figurenmenue::NimmEinenPunkt(QMenu& menue, PunktKnoten& punkt) {
+    menue.addAction(QStringLiteral("&Bild hier zentrieren"), fenster_,
+                    [this, ort = Welt{punkt.XWPu, punkt.YWPu}] { u_.zentriereBild(ort); });
+    menue.addAction(QStringLiteral("&Ergebnisse zeigen"), fenster_,
+                    [this, p = &punkt] { u_.umgebung.ZeigeErgebnis(p, nullptr); });
+    menue.addAction(QStringLiteral("Punkt &löschen"), fenster_, [this, p = &punkt] {
+        u_.umgebung.TueAenderung(std::make_unique<PunktGeloescht>(*u_.umgebung.AktuelleListe(), *p));
+    });
+}
+
+void Figurenmenue::NimmKante(QMenu& menue, PunktKante& kante) {
+    const Liste& netz = *u_.umgebung.AktuelleListe();
+    const QString name =
+        QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr));
+    menue.addSection(QStringLiteral("Linie ") + name);
+    menue.addAction(QStringLiteral("&Ergebnisse zeigen"), fenster_,
+                    [this, k = &kante] { u_.umgebung.ZeigeErgebnis(nullptr, k); });
+    menue.addAction(QStringLiteral("Beobachtung &löschen"), fenster_, [this, k = &kante] {
+        u_.umgebung.TueAenderung(std::make_unique<KanteGeloescht>(*u_.umgebung.AktuelleListe(), *k));
+    });
+    menue.addAction(QStringLiteral("&Nummern kopieren"), fenster_, [name] { KopiereText(name); });
+}
+
+/// Kind and colour go together; symbol and place stay.
+void Figurenmenue::AenderePunktart(PunktArt art) {
+    Liste& netz = *u_.umgebung.AktuelleListe();
+    const Farbe farbe = u_.umgebung.Anzeige().*ZurArt(art).farbe;
+    auto alle = std::make_unique<Sammelaenderung>(QStringLiteral("Punktart ändern"));
+    for (PPunktKnoten p : u_.auswahl.Punkte()) {
+        if (p->Item->PktArt == art && p->Item->Farbe == farbe) continue;
+        alle->NimmAenderung(std::make_unique<PunktGeaendert>(
+            netz, *p, PunktGeaendert::Angaben{art, p->Item->PktTyp, farbe, {p->XWPu, p->YWPu}}));
+    }
+    if (!alle->Leer()) u_.umgebung.TueAenderung(std::move(alle));
+}
+
+QStringList Figurenmenue::Nummern() const {
+    QStringList nummern;
+    for (const PunktKnoten* p : u_.auswahl.Punkte())
+        nummern << AusNetz(u_.umgebung.AktuelleListe()->GetPktText(p->PNr));
+    nummern.removeAll(QString());
+    return nummern;
+}
+
+/// A line for each point: number, easting, northing.
+QString Figurenmenue::Koordinaten() const {
+    QString text;
+    for (const PunktKnoten* p : u_.auswahl.Punkte())
+        text += Nummertext(*u_.umgebung.AktuelleListe(), p->PNr) + QLatin1Char('\t') + Koordinatentext(*p) +
+                QLatin1Char('\n');
+    return text;
+}
+
+}  // namespace zrw

@@ -1,0 +1,46 @@
+// The menu of the right button where no tool is on: what can be done with the figures that are selected.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "ui/werkzeuge/Auswahl.h"
+
+class QAction;
+class QMenu;
+class QPoint;
+class QWidget;
+
+namespace zrw {
+
+class Figurenmenue {
+  public:
+    /// What it needs of its window. All must outlive it.
+    struct Umfeld {
+        Werkzeugumgebung& umgebung;
+        const Auswahl& auswahl;
+        std::function<void(Welt)> zentriereBild;
+        std::function<void(const QStringList& nummern)> verbergePunkte;
+        std::vector<QAction*> ansichten;  ///< where nothing is selected
+        std::vector<QAction*> werkzeuge;  ///< all of them, to be switched on
+    };
+    Figurenmenue(Umfeld umfeld, QWidget* fenster) : u_(std::move(umfeld)), fenster_(fenster) {}
+
+    /// @param ort on the screen
+    void ZeigeMenue(const QPoint& ort);
+
+  private:
+    void NimmPunkte(QMenu& menue);
+    void NimmEinenPunkt(QMenu& menue, PunktKnoten& punkt);
+    void NimmKante(QMenu& menue, PunktKante& kante);
+    void AenderePunktart(PunktArt art);
+    [[nodiscard]] QStringList Nummern() const;
+    [[nodiscard]] QString Koordinaten() const;
+
+    Umfeld u_;
+    QWidget* fenster_;
+};
+
+}  // namespace zrw
