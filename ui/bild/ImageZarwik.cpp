@@ -1,9 +1,13 @@
 #include "ui/bild/ImageZarwik.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QWheelEvent>
+#include <utility>
+
+#include "ui/bild/Bildzugang.h"
 
 namespace zrw {
 namespace {
@@ -20,6 +24,7 @@ Bildpunkt Ort(const QSinglePointEvent& e) {
 
 ImageZarwik::ImageZarwik(Bildflaeche& flaeche, Bildempfaenger& empfaenger, QWidget* eltern)
     : QWidget(eltern), flaeche_(flaeche), empfaenger_(empfaenger) {
+    Bildzugang::MeldeAn();
     setObjectName(QStringLiteral("ImageZarwik"));
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -43,6 +48,14 @@ void ImageZarwik::SetzeGlatt(bool glatt) {
 void ImageZarwik::SetzeVerschiebung(Bildpunkt versatz) {
     versatz_ = QPoint(static_cast<int>(versatz.x), static_cast<int>(versatz.y));
     update();
+}
+
+void ImageZarwik::SetzeFigurtext(const QString& text) {
+    if (std::exchange(figurtext_, text) == text) return;
+    QAccessibleValueChangeEvent wert(this, text);
+    QAccessible::updateAccessibility(&wert);
+    QAccessibleEvent beschreibung(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&beschreibung);
 }
 
 void ImageZarwik::paintEvent(QPaintEvent* /*ereignis*/) {

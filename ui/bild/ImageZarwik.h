@@ -41,6 +41,10 @@ class ImageZarwik final : public QWidget {
     void SetzeGlatt(bool glatt);
     /// Shows the picture shifted, while it is being dragged.
     void SetzeVerschiebung(Bildpunkt versatz);
+    /// What the figure is that has the focus, for those who do not see it; empty: none has. A change is
+    /// announced.
+    void SetzeFigurtext(const QString& text);
+    [[nodiscard]] const QString& Figurtext() const { return figurtext_; }
     [[nodiscard]] QSize sizeHint() const override { return {900, 600}; }
 
   protected:
@@ -62,6 +66,7 @@ class ImageZarwik final : public QWidget {
     bool glatt_ = false;
     std::function<void(Zeichenflaeche&)> vorschau_;
     std::function<void(Zeichenflaeche&)> ueberlagerung_;
+    QString figurtext_;
     int radrest_ = 0;  ///< fine wheels report parts of a step
 };
 

@@ -27,6 +27,7 @@ TZRWLBLForm::TZRWLBLForm(QWidget* eltern)
     CheckBox1_->setObjectName(QStringLiteral("CheckBox1"));
     Edit1_->setToolTip(QStringLiteral("Projektbezeichnung"));
     Edit2_->setToolTip(QStringLiteral("Zweite Zeile der Legende"));
+    Edit2_->setAccessibleName(Edit2_->toolTip());
     CheckBox1_->setToolTip(QStringLiteral("Legende links oben im Bild einblenden"));
     for (QLineEdit* feld : {Edit1_, Edit2_}) {
         feld->setMaxLength(kTextlaenge);

@@ -1,6 +1,7 @@
 #include "ui/druck/Druckvorschau.h"
 
 #include <QDialogButtonBox>
+#include <QGraphicsView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPixmap>
@@ -20,6 +21,8 @@ Druckvorschau::Druckvorschau(QPrinter& drucker, const QImage& uebersicht, QWidge
     connect(blaetter_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* geraet) {
         if (male) male(*geraet);
     });
+    for (QWidget* w : blaetter_->findChildren<QGraphicsView*>())
+        w->setAccessibleName(QStringLiteral("Blätter"));
     auto* ueberblick = new QLabel(this);
     ueberblick->setObjectName(QStringLiteral("Uebersicht"));
     ueberblick->setPixmap(QPixmap::fromImage(uebersicht));

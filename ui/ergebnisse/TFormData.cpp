@@ -28,7 +28,7 @@ QString Spalten(int reiter) {
 TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
     : QDialog(eltern),
       sitzung_(sitzung),
-      angaben_(new QLabel(this)),
+      angaben_(new QLabel(QStringLiteral("Punkt oder Linie im Bild anklicken."), this)),
       gitter_(new QTableView(this)),
       hinweis_(new QLabel(this)),
       reiter_(new QTabBar(this)) {
@@ -71,6 +71,7 @@ void TFormData::showEvent(QShowEvent* ereignis) {
 
 void TFormData::BaueGitter() {
     gitter_->setObjectName(QStringLiteral("DBGrid1"));
+    gitter_->setAccessibleName(QStringLiteral("Ergebnisse der Ausgleichung"));
     gitter_->setModel(&modell_);
     gitter_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     gitter_->setSelectionBehavior(QAbstractItemView::SelectRows);

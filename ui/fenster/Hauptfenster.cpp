@@ -93,27 +93,7 @@ void TZrwMainDlg::BaueFenster() {
     leiste->freieFlaeche = [this] { LoeseWerkzeuge(); };
     BaueFelder(*leiste);
     spalte->addWidget(leiste);
-    bild_ = new ImageZarwik(planbild_.Flaeche(), *this, mitte);
-    planbild_.SetzeAnzeige(*bild_);
-    planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
-    punktgang_ = std::make_unique<Punktgang>(
-        Punktgang::Umfeld{plan_, planbild_, *this, programm_.einstellungen, [this](const QString& text) {
-                              if (!text.isEmpty()) statusBar()->showMessage(text);
-                              bild_->update();
-                          }});
-    new Bildtasten(*bild_, *punktgang_);
-    aussenhinweis_ = new Aussenhinweis(bild_);
-    aussenhinweis_->einpassen = [this] { EinpassenClick(); };
-    BaueStartseite();
-    BaueAuswahl();
-    bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
-        if (!plan_.Offen()) return;
-        druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
-        planbild_.ZeichneStehendes(flaeche);
-        werkzeuge_.Ausgewaehlt().ZeichneAuswahl(flaeche);
-        punktgang_->ZeichneRing(flaeche);
-    });
-    druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
+    BaueBild(*mitte);
     spalte->addWidget(bild_, 1);
     setCentralWidget(mitte);
 
@@ -133,6 +113,32 @@ void TZrwMainDlg::BaueFenster() {
         resize(schirm.width(), schirm.height() - 30);
     }
     startseite_->setFocus();
+}
+
+void TZrwMainDlg::BaueBild(QWidget& eltern) {
+    bild_ = new ImageZarwik(planbild_.Flaeche(), *this, &eltern);
+    planbild_.SetzeAnzeige(*bild_);
+    planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
+    const auto melde = [this](const QString& text) {
+        if (!text.isEmpty()) statusBar()->showMessage(text);
+        bild_->SetzeFigurtext(punktgang_->Beschreibung());
+        bild_->update();
+    };
+    punktgang_ = std::make_unique<Punktgang>(
+        Punktgang::Umfeld{plan_, planbild_, *this, programm_.einstellungen, melde});
+    new Bildtasten(*bild_, *punktgang_);
+    aussenhinweis_ = new Aussenhinweis(bild_);
+    aussenhinweis_->einpassen = [this] { EinpassenClick(); };
+    BaueStartseite();
+    BaueAuswahl();
+    bild_->SetzeUeberlagerung([this](Zeichenflaeche& flaeche) {
+        if (!plan_.Offen()) return;
+        druck_.ZeichneRahmen(*plan_.Daten(), flaeche);
+        planbild_.ZeichneStehendes(flaeche);
+        werkzeuge_.Ausgewaehlt().ZeichneAuswahl(flaeche);
+        punktgang_->ZeichneRing(flaeche);
+    });
+    druck_.SetzeFelder({EditMasstab_, findChild<QCheckBox*>(QStringLiteral("CheckBoxPreview")), bild_});
 }
 
 void TZrwMainDlg::BaueAktionen() {

@@ -110,6 +110,7 @@ class TZrwMainDlg final : public QMainWindow,
     // Hauptfenster.cpp
     void BaueFenster();
     void BaueAktionen();
+    void BaueBild(QWidget& eltern);
     void BaueFelder(Werkzeugleiste& leiste);
     void BaueDialoge();
     void FuehreAus(const Befehl& befehl);

@@ -190,6 +190,7 @@ Hilfefenster::Hilfefenster(QWidget* eltern) : QWidget(eltern, Qt::Window) {
     std::transform(kHilfethemen.begin(), kHilfethemen.end(), texte_.begin(), &Lesetext);
 
     seite_ = new Hilfeseite(this);
+    seite_->setAccessibleName(QStringLiteral("Seite der Hilfe"));
     inhalt_ = new QTreeWidget(this);
     inhalt_->setAccessibleName(QStringLiteral("Inhalt"));
     inhalt_->setHeaderHidden(true);
