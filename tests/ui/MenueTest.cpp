@@ -3,12 +3,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusTipEvent>
+#include <algorithm>
 #include <map>
 #include <set>
 
 #include "tests/ui/Netzprobe.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Menuebuchstaben.h"
+#include "ui/hilfe/Hilfefenster.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
 namespace zrw {
@@ -76,6 +78,15 @@ TEST_F(Menues, EintragKnopfUndTasteSindEins) {
     EXPECT_EQ(Status(), "Es gibt nichts zurückzunehmen.");
     Taste(Qt::Key_F10);
     EXPECT_EQ(QApplication::activePopupWidget(), &Menue("Datei"));
+    Menue("Datei").setActiveAction(&Aktion("SpeedButton9"));
+    QTest::keyClick(&Menue("Datei"), Qt::Key_F1);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    const QWidgetList offen = QApplication::topLevelWidgets();
+    EXPECT_TRUE(std::any_of(offen.begin(), offen.end(), [](const QWidget* w) {
+        const auto* hilfe = dynamic_cast<const Hilfefenster*>(w);
+        return hilfe != nullptr && hilfe->isVisible() && hilfe->Kontext() == 5;
+    })) << "the page of the entry";
+    Taste(Qt::Key_F10);
     QTest::keyClick(&Menue("Datei"), Qt::Key_B);
     EXPECT_EQ(dialoge.fragen, QStringList("Zarwik speichern")) << "closes by its letter";
 }

@@ -21,6 +21,9 @@ static_assert(HabenSeiten(kBefehle, &Befehl::komponente) && HabenSeiten(kSchalte
 /// The first tools by their place in the table; there are no more digits.
 constexpr std::string_view kWerkzeugtasten = "1234567890";
 
+/// Of the object names: buttons and boxes have those of the components.
+const QString kVorsilbe = QStringLiteral("Aktion");
+
 /// Key names as they stand on a German keyboard.
 QString Tastenname(const QKeySequence& taste) {
     return taste.toString(QKeySequence::NativeText)
@@ -73,7 +76,7 @@ Aktionen::Aktionen(QWidget& fenster, const QUndoStack& schritte, Empfaenger empf
 
 QAction* Aktionen::NeueAktion(std::string_view komponente, std::string_view text) {
     auto* aktion = new QAction(AusUtf8(text), this);
-    aktion->setObjectName(QStringLiteral("Aktion") + AusUtf8(komponente));
+    aktion->setObjectName(kVorsilbe + AusUtf8(komponente));
     aktion->setMenuRole(QAction::NoRole);  // each stays in the menu that the table names
     fenster_.addAction(aktion);
     return aktion;
@@ -129,9 +132,15 @@ void Aktionen::BaueSchalter() {
 }
 
 QAction& Aktionen::NachName(std::string_view komponente) const {
-    auto* aktion = findChild<QAction*>(QStringLiteral("Aktion") + AusUtf8(komponente));
+    auto* aktion = findChild<QAction*>(kVorsilbe + AusUtf8(komponente));
     assert(aktion != nullptr);
     return *aktion;
+}
+
+int Aktionen::Thema(const QAction* aktion) {
+    if (aktion == nullptr) return kErsteSeite;
+    const int* kontext = ThemaZu(aktion->objectName().mid(kVorsilbe.size()).toStdString());
+    return kontext != nullptr ? *kontext : kErsteSeite;
 }
 
 void Aktionen::ErklaereWerkzeuge(const Werkzeugkasten& werkzeuge) {

@@ -36,6 +36,9 @@ class Aktionen final : public QObject {
     /// Null for switches without a check box.
     [[nodiscard]] const std::vector<QAction*>& Schalterliste() const { return schalter_; }
 
+    /// Help context of an action from the tables; the first page for another one and for null.
+    [[nodiscard]] static int Thema(const QAction* aktion);
+
     /// What is to be done with each tool, as the second line of its hint.
     void ErklaereWerkzeuge(const Werkzeugkasten& werkzeuge);
     /// The command of a shortcut that is off now, null without one: pressing its key says why.

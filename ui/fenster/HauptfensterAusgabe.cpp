@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QUrl>
 
 #include "model/Fehler.h"
@@ -17,6 +18,7 @@
 #include "ui/dialoge/TZRWParameter.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/TFormData.h"
+#include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Sanduhr.h"
 #include "ui/fenster/Zentrierkasten.h"
@@ -117,7 +119,12 @@ bool TZrwMainDlg::eventFilter(QObject* empfaenger, QEvent* ereignis) {
         const bool dialog = static_cast<QWidget*>(empfaenger)->window() != this;
         if (taste->key() == Qt::Key_F1 &&
             (taste->modifiers() == Qt::ControlModifier || (dialog && taste->modifiers() == Qt::NoModifier))) {
-            ZeigeHilfe(ThemaZu(QApplication::focusWidget()));
+            const auto* menue = qobject_cast<QMenu*>(empfaenger);
+            ZeigeHilfe(menue != nullptr ? Aktionen::Thema(menue->activeAction())
+                                        : ThemaZu(QApplication::focusWidget()));
+            // An open menu would keep the keyboard.
+            while (QWidget* offen = QApplication::activePopupWidget())
+                offen->close();
             return true;
         }
     }

@@ -188,14 +188,18 @@ template <class Zeile, std::size_t N, class Name>
     return nullptr;
 }
 
+/// Help context of a component by its object name, or null.
+[[nodiscard]] inline const int* ThemaZu(std::string_view name) {
+    const auto* k = std::find_if(kHilfekomponenten.begin(), kHilfekomponenten.end(),
+                                 [&](const Hilfekomponente& h) { return h.komponente == name; });
+    return k != kHilfekomponenten.end() ? &k->kontext : nullptr;
+}
+
 /// Help context of a widget: that of the nearest component with a page from the widget upwards, across
 /// dialogs to their owner; the first page for null and where there is none.
 [[nodiscard]] inline int ThemaZu(const QWidget* bedienelement) {
     for (const QWidget* w = bedienelement; w != nullptr; w = w->parentWidget()) {
-        const std::string name = w->objectName().toStdString();
-        const auto* k = std::find_if(kHilfekomponenten.begin(), kHilfekomponenten.end(),
-                                     [&](const Hilfekomponente& h) { return h.komponente == name; });
-        if (k != kHilfekomponenten.end()) return k->kontext;
+        if (const int* kontext = ThemaZu(w->objectName().toStdString()); kontext != nullptr) return *kontext;
     }
     return kErsteSeite;
 }
