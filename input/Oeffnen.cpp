@@ -13,13 +13,6 @@ void MeldeText(const Meldungsempfaenger& meldung, const std::string& text,
     if (meldung) meldung({.text = text, .datei = PfadText(datei.filename())});
 }
 
-/// Shows all of the network. A view of nothing stays as it is: a scale of 0 would help nobody.
-void PasseEin(Liste& liste) {
-    if (liste.PunktKnoten == nullptr) return;
-    liste.SetzeAusdehnung(liste.Ausdehnung());
-    static_cast<Ansicht&>(liste).PasseEin();
-}
-
 Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateien,
                        const Einstellungen& einstellungen, const Netzangaben& bisher, Bildgroesse bild,
                        const Meldungsempfaenger& meldung) {
@@ -33,12 +26,18 @@ Lesung OeffneBilddatei(const std::filesystem::path& datei, const Dateien& dateie
         liste.Weite = bild.weite;
         liste.Hoehe = bild.hoehe;
         liste.VergissLage();
-        PasseEin(liste);
+        PasseNetzEin(liste, liste);
     }
     return lesung;
 }
 
 }  // namespace
+
+void PasseNetzEin(const Netz& netz, Ansicht& ansicht) {
+    if (netz.PunktKnoten == nullptr) return;
+    ansicht.SetzeAusdehnung(netz.Ausdehnung());
+    ansicht.PasseEin();
+}
 
 bool IstBilddatei(const std::filesystem::path& datei) {
     std::string endung = PfadText(datei.extension());
@@ -59,7 +58,7 @@ Lesung OeffneNetz(const std::filesystem::path& datei, const Dateien& dateien,
     if (liste.PunktKnoten == nullptr && lesung.ende == Leseende::Vollstaendig) {
         MeldeText(meldung, Leertext(lesung.bericht), datei);
     }
-    PasseEin(liste);
+    PasseNetzEin(liste, liste);
     return lesung;
 }
 

@@ -18,6 +18,9 @@ struct Bildgroesse {
 /// Whether the name ends in ".ZRW", in any case.
 [[nodiscard]] bool IstBilddatei(const std::filesystem::path& datei);
 
+/// Shows all of the network. A view of nothing stays as it is: a scale of 0 would help nobody.
+void PasseNetzEin(const Netz& netz, Ansicht& ansicht);
+
 /// A network from a control file, fitted into a picture of the given size, or from a picture file with the
 /// view that it was saved with; a view that cannot show anything is fitted anew. `bisher` is what the last
 /// control file said: a picture file changes only the network type.

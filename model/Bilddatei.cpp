@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/BilddateiFormat.h"
+#include "model/Bildorte.h"
 #include "model/Bytes.h"
 #include "model/Fehler.h"
 
@@ -48,6 +49,63 @@ std::size_t Anzahl(const Knoten* kopf) {
     return n;
 }
 
+/// The figures with the positions that they have in a view, whatever they hold.
+class Bildsaetze {
+  public:
+    Bildsaetze(const Netz& netz, const Ansicht& ansicht) : ansicht_(ansicht), orte_(netz, ansicht) {}
+    [[nodiscard]] Punkt operator()(const PunktKnoten& p) {
+        return VersetzeFigur(*p.Item, BildortVon(p, ansicht_));
+    }
+    [[nodiscard]] PktText operator()(const PunktString& t) { return VersetzeFigur(*t.Item, orte_.Text(t)); }
+    [[nodiscard]] Kante operator()(const PunktKante& k) {
+        Kante kante = VersetzeFigur(*k.Item, orte_.Anfang(k));
+        const Bildpunkt ende = orte_.Ende(k);
+        kante.XBiE = ende.x;
+        kante.YBiE = ende.y;
+        return kante;
+    }
+
+  private:
+    template <class Figur>
+    [[nodiscard]] static Figur VersetzeFigur(Figur figur, Bildpunkt ort) {
+        figur.XO = ort.x;
+        figur.YO = ort.y;
+        return figur;
+    }
+
+    const Ansicht& ansicht_;
+    Bildorte orte_;
+};
+
+/// @param satz the figure of a node as the file is to hold it
+template <class Satz>
+void SchreibeSaetze(const Netz& netz, const Ansicht& a, const Netzangaben& angaben, const Textmenge& ohne,
+                    ByteSchreiber& f, Satz satz) {
+    for (const double feld : {a.Faktor, a.MaxXW, a.MinXW, a.MaxYW, a.MinYW, a.XOffset, a.YOffset})
+        f.F64(feld);
+    for (const std::int32_t feld : {netz.MaxPkte, netz.MaxKant, a.Weite, a.Hoehe})
+        f.I32(feld);
+    f.U32(0);
+    f.U32(0);
+    f.I32(angaben.Netztyp);
+    for (const PunktKnoten* p = netz.PunktKnoten; p != nullptr; p = p->Next) {
+        f.F64(p->XWPu);
+        f.F64(p->YWPu);
+        f.U16(p->PNr);
+        satz(*p).Store(f);
+    }
+    for (const PunktString* t = netz.PktTextKnoten; t != nullptr; t = t->Next) {
+        if (ohne.count(t) != 0) continue;
+        f.U16(t->TNr);
+        satz(*t).Store(f);
+    }
+    for (const PunktKante* k = netz.KanteKnoten; k != nullptr; k = k->Next) {
+        f.U16(k->ANr);
+        f.U16(k->ENr);
+        satz(*k).Store(f);
+    }
+}
+
 [[noreturn]] void ZuKurz(const std::string& datei, const std::string& was) {
     throw Fehler("Die Datei ist keine vollständige Zarwikdatei (" + was + "). Es wurde nichts geladen.",
                  datei);
@@ -60,29 +118,8 @@ void Liste::Store(ByteSchreiber& f, const Netzangaben& netz) const {
 }
 
 void Liste::StoreOhne(const Textmenge& texte, ByteSchreiber& f, const Netzangaben& netz) const {
-    for (const double feld : {Faktor, MaxXW, MinXW, MaxYW, MinYW, XOffset, YOffset})
-        f.F64(feld);
-    for (const std::int32_t feld : {MaxPkte, MaxKant, Weite, Hoehe})
-        f.I32(feld);
-    f.U32(0);
-    f.U32(0);
-    f.I32(netz.Netztyp);
-    for (const zrw::PunktKnoten* p = PunktKnoten; p != nullptr; p = p->Next) {
-        f.F64(p->XWPu);
-        f.F64(p->YWPu);
-        f.U16(p->PNr);
-        p->Item->Store(f);
-    }
-    for (const PunktString* t = PktTextKnoten; t != nullptr; t = t->Next) {
-        if (texte.count(t) != 0) continue;
-        f.U16(t->TNr);
-        t->Item->Store(f);
-    }
-    for (const PunktKante* k = KanteKnoten; k != nullptr; k = k->Next) {
-        f.U16(k->ANr);
-        f.U16(k->ENr);
-        k->Item->Store(f);
-    }
+    SchreibeSaetze(
+        *this, *this, netz, texte, f, [](const auto& k) -> const auto& { return *k.Item; });
 }
 
 // Each record goes to the head of its list, so that loading reverses the order in which overlapping figures
@@ -131,32 +168,48 @@ Textmenge UeberzaehligeTexte(const Netz& netz) {
     return herrenlose;
 }
 
-std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
-                              Dateien& dateien) {
-    if (liste.MaxPkte > kMaxAnzahl || liste.MaxKant > kMaxAnzahl) {
+/// Checks what the format can hold, and writes it. @param schreibe puts the records without these labels
+template <class Schreibe>
+static std::size_t SchreibeGeprueft(const Netz& netz, const std::filesystem::path& datei, Dateien& dateien,
+                                    Schreibe schreibe) {
+    if (netz.MaxPkte > kMaxAnzahl || netz.MaxKant > kMaxAnzahl) {
         throw Fehler("Eine Zarwikdatei fasst höchstens 65535 Punkte und 65535 Linien; dieses Netz hat " +
-                         std::to_string(liste.MaxPkte) + " Punkte und " + std::to_string(liste.MaxKant) +
+                         std::to_string(netz.MaxPkte) + " Punkte und " + std::to_string(netz.MaxKant) +
                          " Linien. Es wurde nichts gespeichert.",
                      PfadText(datei));
     }
     // The file has one count for both. Lists of unknown origin may have come apart; such a file would read
     // wrongly.
-    const std::size_t punkte = Anzahl(liste.PunktKnoten);
-    const Textmenge herrenlose = UeberzaehligeTexte(liste);
-    const std::size_t texte = Anzahl(liste.PktTextKnoten) - herrenlose.size();
-    if (punkte != texte || punkte != static_cast<std::size_t>(liste.MaxPkte) ||
-        Anzahl(liste.KanteKnoten) != static_cast<std::size_t>(liste.MaxKant)) {
+    const std::size_t punkte = Anzahl(netz.PunktKnoten);
+    const Textmenge herrenlose = UeberzaehligeTexte(netz);
+    const std::size_t texte = Anzahl(netz.PktTextKnoten) - herrenlose.size();
+    if (punkte != texte || punkte != static_cast<std::size_t>(netz.MaxPkte) ||
+        Anzahl(netz.KanteKnoten) != static_cast<std::size_t>(netz.MaxKant)) {
         throw Fehler("Das Netz hat " + std::to_string(punkte) + " Punkte und " + std::to_string(texte) +
                          " Punktnummern; eine Zarwikdatei braucht gleich viele. Es wurde nichts gespeichert.",
                      PfadText(datei));
     }
-    liste.WeltinBild();  // the file holds positions, too
     ByteSchreiber f;
-    f.ReserviereBytes(kKopf + static_cast<std::size_t>(liste.MaxPkte) * (kPunktsatz + kTextsatz) +
-                      static_cast<std::size_t>(liste.MaxKant) * kKantensatz);
-    liste.StoreOhne(herrenlose, f, netz);
+    f.ReserviereBytes(kKopf + static_cast<std::size_t>(netz.MaxPkte) * (kPunktsatz + kTextsatz) +
+                      static_cast<std::size_t>(netz.MaxKant) * kKantensatz);
+    schreibe(herrenlose, f);
     dateien.ErsetzeDatei(datei, f.Inhalt());
     return herrenlose.size();
+}
+
+std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
+                              Dateien& dateien) {
+    return SchreibeGeprueft(liste, datei, dateien, [&](const Textmenge& ohne, ByteSchreiber& f) {
+        liste.WeltinBild();  // the file holds positions, too
+        liste.StoreOhne(ohne, f, netz);
+    });
+}
+
+std::size_t SchreibeBilddatei(const Netz& netz, const Ansicht& ansicht, const Netzangaben& angaben,
+                              const std::filesystem::path& datei, Dateien& dateien) {
+    return SchreibeGeprueft(netz, datei, dateien, [&](const Textmenge& ohne, ByteSchreiber& f) {
+        SchreibeSaetze(netz, ansicht, angaben, ohne, f, Bildsaetze(netz, ansicht));
+    });
 }
 
 std::string WeggelasseneNummern(std::size_t anzahl) {

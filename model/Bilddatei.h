@@ -16,6 +16,9 @@ namespace zrw {
 /// labels do not go with its points
 std::size_t SchreibeBilddatei(Liste& liste, const Netzangaben& netz, const std::filesystem::path& datei,
                               Dateien& dateien);
+/// The same of a network in another view, and neither changes.
+std::size_t SchreibeBilddatei(const Netz& netz, const Ansicht& ansicht, const Netzangaben& angaben,
+                              const std::filesystem::path& datei, Dateien& dateien);
 /// The labels that must stay out of a file: as many of those that no point owns as there are more labels than
 /// points. A point owns the newest label of its number.
 [[nodiscard]] Textmenge UeberzaehligeTexte(const Netz& netz);
