@@ -4,9 +4,9 @@
 #include <array>
 #include <string_view>
 
-#include "app/Formate.h"
 #include "model/Aufzaehltafel.h"
 #include "model/Zahlentext.h"
+#include "ui/ausgabe/Formate.h"
 #include "ui/fenster/Schalter.h"
 
 namespace zrw {

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "app/Aufruf.h"
-#include "app/Formate.h"
 #include "fuzz/Proben.h"
+#include "ui/ausgabe/Formate.h"
 #include "ui/fenster/Schalter.h"
 
 namespace {

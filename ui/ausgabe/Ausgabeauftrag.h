@@ -1,0 +1,41 @@
+// How a plan is to be written, whatever the format: the options of the command line, and what the window's
+// dialog holds.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "input/Oeffnen.h"
+#include "output/Export.h"
+#include "output/Papier.h"
+
+namespace zrw {
+
+inline constexpr std::int32_t kKleinstesBild = 100;    ///< [px]
+inline constexpr std::int32_t kGroesstesBild = 16384;  ///< [px]
+inline constexpr int kFeinsteAufloesung = 100000;      ///< [dots per inch]
+/// Square: fitting divides the height of a network by the picture's width and its width by the height.
+inline constexpr Bildgroesse kUeblicheGroesse{1200, 1200};
+
+/// A width or height that a picture may have [px]. Smaller ones leave no room beside the margin that fitting
+/// keeps, larger ones no memory.
+[[nodiscard]] constexpr bool BrauchbareGroesse(std::int64_t v) {
+    return v >= kKleinstesBild && v <= kGroesstesBild;
+}
+
+struct Ausgabeauftrag {
+    std::optional<Bildgroesse> groesse;
+    std::string massstab = kUeblicherMassstab;  ///< denominator, readable by `LiesMassstab`
+    bool passend = true;  ///< none was given: documents take the one at which the plan fits their sheet
+    int dpi = kUeblicheAufloesung;               ///< resolution of the print [dots per inch]
+    Papier papier = kPapierformate[0].hochkant;  ///< upright
+    bool quer = false;                           ///< the paper lies on its long side
+    bool alleBlaetter = false;                   ///< print over as many sheets as it takes
+    bool kantig = false;                         ///< pictures without smooth edges
+    std::vector<std::string> ein;                ///< switches by name
+    std::vector<std::string> aus;
+};
+
+}  // namespace zrw

@@ -1,0 +1,240 @@
+#include "ui/ausgabe/Formate.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "model/Aufzaehltafel.h"
+#include "model/Bilddatei.h"
+#include "model/Cp1252.h"
+#include "model/Fehler.h"
+#include "model/Zahlentext.h"
+#include "output/Blattschnitt.h"
+#include "output/Druck.h"
+#include "output/Export.h"
+#include "output/Figurenzeichner.h"
+#include "output/Geojson.h"
+#include "output/Pdfflaeche.h"
+#include "output/Svgflaeche.h"
+#include "ui/bild/Bildflaeche.h"
+#include "ui/bild/Malerflaeche.h"
+#include "ui/bild/Schriftquelle.h"
+
+namespace zrw {
+namespace {
+
+void SchreibeZrw(const Ausgabe& a, const std::filesystem::path& datei) {
+    const std::string weg =
+        WeggelasseneNummern(SchreibeBilddatei(a.vorlage.netz, a.vorlage.ansicht, a.netz, datei, a.dateien));
+    if (!weg.empty()) a.sage(Fehler::Meldung(weg, PfadText(datei), 0));
+}
+
+/// Draws the picture as the window would show it.
+void ZeichneAuf(Zeichenflaeche& flaeche, const Ausgabe& a) {
+    Zeichenzustand zustand = a.zustand;
+    zustand.flaeche = &flaeche;
+    const Systemuhr uhr;
+    Figurenzeichner zeichner(zustand, a.einstellungen, a.netz, uhr);
+    ZeichneBild(a.vorlage, zeichner);
+}
+
+/// Draws the picture as the window would show it and writes it in one of Qt's picture formats.
+void SchreibeBild(const Ausgabe& a, const std::filesystem::path& datei, const char* art) {
+    Bildflaeche flaeche(a.vorlage.ansicht.Weite, a.vorlage.ansicht.Hoehe);
+    flaeche.SetzeGlatt(!a.kantig);
+    ZeichneAuf(flaeche, a);
+    QByteArray bytes;
+    QBuffer puffer(&bytes);
+    puffer.open(QIODevice::WriteOnly);
+    if (flaeche.Bild().isNull() || !flaeche.Bild().save(&puffer, art)) {
+        throw Fehler("Das Bild ist zu groß für dieses Format.", PfadText(datei));
+    }
+    a.dateien.ErsetzeDatei(datei, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+/// What the control file calls the network, or else its file's name.
+std::string Titel(const Ausgabe& a) {
+    const auto& legende = a.vorlage.darstellung.Legend;
+    return !legende || legende->Bez1.empty() ? Utf8NachCp1252(a.eingabe) : legende->Bez1;
+}
+
+/// The picture as the window would show it, to any size.
+void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
+    Svgflaeche flaeche(a.dateien.BeginneDatei(datei),
+                       {a.vorlage.ansicht.Weite, a.vorlage.ansicht.Hoehe, kBildaufloesung}, Titel(a));
+    ZeichneAuf(flaeche, a);
+    flaeche.BeendeDatei();
+}
+
+/// What a document is drawn with; its surface has been asked for the size of texts.
+struct Druckmittel {
+    Einstellungen groessen;  ///< scaled for every sheet
+    Systemuhr uhr;
+    Zeichenmittel mittel;
+    Druckseite seite;
+
+    explicit Druckmittel(const Ausgabe& a)
+        : groessen(a.einstellungen),
+          mittel{a.zustand, groessen, a.netz, uhr},
+          seite(Bedruckbar(a.papier, a.dpi)) {}
+    Druckmittel(const Druckmittel&) = delete;
+    Druckmittel& operator=(const Druckmittel&) = delete;
+};
+
+/// Scale: the one that was asked for, or else the largest at which the plan fits its sheet.
+void WaehleMassstab(const Ausgabe& a, const Druckplan& plan, const Druckseite& seite, Blattwahl& wahl) {
+    wahl.massstab = a.massstab;
+    wahl.massstabtext = a.massstabtext;
+    const auto passend = a.passend ? PassenderMassstab(plan, seite) : std::nullopt;
+    if (!passend) return;
+    wahl.massstab = *passend;
+    wahl.massstabtext = *passend == std::floor(*passend) ? Festkomma(*passend, 0, 0) : SchreibeReal(*passend);
+}
+
+Blattwahl WaehleBlaetter(const Ausgabe& a, const Druckplan& plan, const Druckseite& seite) {
+    Blattwahl wahl{};
+    WaehleMassstab(a, plan, seite, wahl);
+    try {
+        wahl.blaetter = Blattaufteilung(plan, wahl.massstab, seite);
+        wahl.gebraucht = std::max<std::size_t>(wahl.blaetter.size(), 1);
+    } catch (const Fehler&) {
+        if (a.alleBlaetter) throw;
+        if (const auto erstes = ErstesBlatt(plan, wahl.massstab, seite)) wahl.blaetter = {*erstes};
+    }
+    if (wahl.blaetter.empty())
+        wahl.blaetter = {{0, 0, a.vorlage.ansicht.BildinWelt({})}};  // frame, legend and grids alone
+    if (!a.alleBlaetter) wahl.blaetter.resize(1);
+    return wahl;
+}
+
+/// Tells where the sheets do not hold all of the plan.
+void MeldeBlaetter(const Ausgabe& a, const Blattwahl& wahl, const std::filesystem::path& datei) {
+    const auto sage = [&](const std::string& text) {
+        a.sage(Fehler::Meldung("Der Plan braucht in diesem Maßstab " + text + ".", PfadText(datei), 0));
+    };
+    const Blatt& erstes = wahl.blaetter.front();
+    if (wahl.gebraucht == 0) {
+        sage("mehr als " + std::to_string(kMeisteBlaetter) +
+             " Blätter; geschrieben ist eines am oberen Rand");
+    } else if (wahl.gebraucht > wahl.blaetter.size()) {
+        sage(std::to_string(wahl.gebraucht) + " Blätter; geschrieben ist das erste (Zeile " +
+             std::to_string(erstes.zeile + 1) + ", Spalte " + std::to_string(erstes.spalte + 1) +
+             "), --alle-blaetter schreibt alle");
+    }
+}
+
+std::optional<Einbettschrift> Dokumentschrift() {
+    return Einbettschrift::AusQuelle(LiesSchriftquelle(Zeichenschrift()));
+}
+
+/// Sheets of paper at scale, as a printer would print them.
+void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
+    const auto schrift = Dokumentschrift();
+    if (!schrift) {
+        a.sage(Fehler::Meldung("Die Zeichenschrift lässt sich nicht einbetten; die Datei verlangt Helvetica.",
+                               PfadText(datei), 0));
+    }
+    Pdfflaeche flaeche(a.dateien.BeginneDatei(datei), a.papier, a.dpi,
+                       {Titel(a), nullptr, schrift ? &*schrift : nullptr});
+    Druckmittel d(a);
+    const Blattwahl wahl = WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.seite);
+    MeldeBlaetter(a, wahl, datei);
+    for (std::size_t i = 0; i < wahl.blaetter.size(); ++i) {
+        if (i > 0) flaeche.NeueSeite();
+        DruckePlan(a.vorlage, d.mittel, Geraetegroessen(d.groessen, Geraetefaktor(d.seite)), flaeche,
+                   {wahl.massstab, wahl.massstabtext, d.seite, wahl.blaetter[i].ecke});
+    }
+    flaeche.BeendeDatei();
+}
+
+/// Swallows what is only measured.
+class Leerschreiber final : public Dateischreiber {
+  public:
+    void SchreibeBytes(std::string_view /*bytes*/) override {}
+    void SichereDatei() override {}
+    void ErsetzeZiel() override {}
+};
+
+void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
+    const Systemuhr uhr;
+    auftrag.faktor = Druckfaktor(a.massstab, a.dpi);
+    ExportierePlan(a.vorlage, {a.zustand, a.einstellungen, a.netz, uhr}, a.dateien, auftrag);
+}
+
+void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {
+    Netzangaben netz = a.netz;
+    // A picture file keeps neither ellipsoid nor meridian: its grid is not known.
+    if (a.ausBild) netz.Netztyp = 0;
+    SchreibeGeojson(a.vorlage.netz, netz, a.einstellungen, a.zustand.Ergebnisse, a.dateien, datei);
+}
+
+constexpr auto kFormate = std::to_array<Format>({
+    {"zrw", "Zarwikdatei (ZRW)", ".ZRW", {}, 0, &SchreibeZrw},
+    {"png",
+     "Bild (PNG)",
+     ".png",
+     {},
+     kMitGroesse | kMitKanten | kMitSchaltern,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "PNG"); }},
+    {"bmp",
+     "Bild (BMP)",
+     ".bmp",
+     {},
+     kMitGroesse | kMitKanten | kMitSchaltern,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeBild(a, d, "BMP"); }},
+    {"svg", "Vektorbild (SVG)", ".svg", {}, kMitGroesse | kMitSchaltern, &SchreibeSvg},
+    {"pdf", "Blätter im Maßstab (PDF)", ".pdf", {}, kMitPapier | kMitMassstab | kMitSchaltern, &SchreibePdf},
+    {"geojson", "Netz für Geoinformationssysteme (GeoJSON)", ".geojson", {}, 0, &SchreibeGis},
+    {"dxf",
+     "Zeichnung für CAD (DXF)",
+     {},
+     kDxfname,
+     kMitMassstab | kMitSchaltern | kOhneLegende,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeExport(a, {.plot = {}, .dxf = d}); }},
+    {"plt",
+     "Plotdatei (HPGL/2)",
+     {},
+     kPlotname,
+     kMitMassstab | kMitSchaltern | kOhneLegende,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeExport(a, {.plot = d, .dxf = {}}); }},
+});
+
+static_assert(Verschieden(kFormate, &Format::name));
+
+}  // namespace
+
+std::span<const Format> AlleFormate() {
+    return kFormate;
+}
+
+const Format* FindeFormat(std::string_view name) {
+    const auto* f =
+        std::find_if(kFormate.begin(), kFormate.end(), [&](const Format& x) { return x.name == name; });
+    return f != kFormate.end() ? f : nullptr;
+}
+
+std::string Formatnamen() {
+    std::string namen;
+    for (const Format& f : kFormate)
+        namen += (namen.empty() ? "" : ", ") + std::string(f.name);
+    return namen;
+}
+
+std::filesystem::path Zielname(const Format& format, const std::filesystem::path& eingabe) {
+    if (!format.dateiname.empty()) return TextPfad(format.dateiname);
+    std::filesystem::path name = eingabe.stem();
+    return name += TextPfad(format.endung);
+}
+
+Blattwahl WaehleBlaetter(const Ausgabe& a) {
+    // Which sheets it takes hangs on how wide the document's texts are.
+    const auto schrift = Dokumentschrift();
+    const Pdfflaeche flaeche(std::make_unique<Leerschreiber>(), a.papier, a.dpi,
+                             {{}, nullptr, schrift ? &*schrift : nullptr});
+    Druckmittel d(a);
+    return WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.seite);
+}
+
+}  // namespace zrw
