@@ -112,6 +112,12 @@ std::optional<QString> QtDialogdienst::WaehleZumSpeichern(const Dateiwahl& wahl)
     return std::nullopt;
 }
 
+std::optional<QString> QtDialogdienst::WaehleOrdner(const Dateiwahl& wahl) {
+    const QString ordner = QFileDialog::getExistingDirectory(Eltern(), wahl.titel, wahl.ordner);
+    if (ordner.isEmpty()) return std::nullopt;
+    return ordner;
+}
+
 std::optional<Farbe> QtDialogdienst::WaehleFarbe(Farbe anfang) {
     const QColor farbe = QColorDialog::getColor(AlsQColor(anfang), Eltern(), QStringLiteral("Farbe wählen"));
     if (!farbe.isValid()) return std::nullopt;

@@ -39,6 +39,7 @@ class Dialogdienst {
     [[nodiscard]] virtual std::optional<bool> FrageMitAbbruch(const QString& text) = 0;
     [[nodiscard]] virtual std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) = 0;
     [[nodiscard]] virtual std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) = 0;
+    [[nodiscard]] virtual std::optional<QString> WaehleOrdner(const Dateiwahl& wahl) = 0;
     /// @param anfang what the dialog begins with
     [[nodiscard]] virtual std::optional<Farbe> WaehleFarbe(Farbe anfang) = 0;
     [[nodiscard]] virtual std::optional<QFont> WaehleSchrift(const QFont& anfang) = 0;
@@ -57,6 +58,7 @@ class QtDialogdienst final : public Dialogdienst {
     std::optional<bool> FrageMitAbbruch(const QString& text) override;
     std::optional<QString> WaehleZumOeffnen(const Dateiwahl& wahl) override;
     std::optional<QString> WaehleZumSpeichern(const Dateiwahl& wahl) override;
+    std::optional<QString> WaehleOrdner(const Dateiwahl& wahl) override;
     std::optional<Farbe> WaehleFarbe(Farbe anfang) override;
     std::optional<QFont> WaehleSchrift(const QFont& anfang) override;
     std::optional<QString> WaehleAus(const QStringList& texte) override;

@@ -2,6 +2,7 @@
 
 #include <cassert>
 #include <set>
+#include <system_error>
 #include <utility>
 
 #include "model/Bilddatei.h"
@@ -30,6 +31,7 @@ void Plan::UebernimmListe(std::unique_ptr<Liste> liste, const Netzangaben& angab
     liste_ = std::move(liste);
     angaben_ = angaben;
     datei_ = datei;
+    abgelegt_ = {datei, *liste_, liste_->Legend};
     beobachter_.StandGeaendert();
 }
 
@@ -41,6 +43,10 @@ void Plan::MerkeUngesichert() {
 std::size_t Plan::SpeicherePlan(const std::filesystem::path& datei) {
     assert(Offen());
     const std::size_t weggelassen = SchreibeBilddatei(*liste_, angaben_, datei, dateien_);
+    // Unchanged it is still what was opened, with more than a picture file holds.
+    std::error_code fehler;
+    if (Ungesichert() || std::filesystem::equivalent(datei, abgelegt_.datei, fehler))
+        abgelegt_ = {datei, *liste_, Legende::Create()};
     ungesichert_ = false;
     schritte_.setClean();
     beobachter_.StandGeaendert();

@@ -42,6 +42,13 @@ class Plan {
     [[nodiscard]] bool Offen() const { return liste_ != nullptr; }
     /// The file that was opened last.
     [[nodiscard]] const std::filesystem::path& Datei() const { return datei_; }
+    /// What somebody finds who reads the file in which the plan is kept.
+    struct Ablagestand {
+        std::filesystem::path datei;  ///< the opened one until changes are saved in another
+        Ansicht ansicht;
+        std::optional<Legende> legende;
+    };
+    [[nodiscard]] const Ablagestand& Abgelegt() const { return abgelegt_; }
     [[nodiscard]] bool Ungesichert() const { return ungesichert_ || !schritte_.isClean(); }
     /// For buttons that follow it.
     [[nodiscard]] const QUndoStack& Schritte() const { return schritte_; }
@@ -74,6 +81,7 @@ class Plan {
     QUndoStack schritte_;
     bool ungesichert_ = false;  ///< changes that cannot be undone
     std::filesystem::path datei_;
+    Ablagestand abgelegt_;
 };
 
 }  // namespace zrw

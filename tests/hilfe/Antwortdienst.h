@@ -45,6 +45,10 @@ class Antwortdienst final : public Dialogdienst {
         if (bitmap && wahl.endung.startsWith("bmp")) return bitmap;
         return datei;
     }
+    std::optional<QString> WaehleOrdner(const Dateiwahl& wahl) override {
+        wahlen << wahl;
+        return datei;
+    }
     std::optional<Farbe> WaehleFarbe(Farbe /*anfang*/) override { return farbe; }
 };
 

@@ -68,7 +68,7 @@ void SchreibeSvg(const Ausgabe& a, const std::filesystem::path& datei) {
     flaeche.BeendeDatei();
 }
 
-/// What a document is drawn with; its surface has been asked for the size of texts.
+/// What a document is drawn with.
 struct Druckmittel {
     Einstellungen groessen;  ///< scaled for every sheet
     Systemuhr uhr;

@@ -1,7 +1,6 @@
 // The output formats of the program, a row each: batch mode and window write through them.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <span>

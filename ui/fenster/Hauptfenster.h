@@ -81,6 +81,7 @@ class TZrwMainDlg final : public QMainWindow,
     void SpeedButton14Click();                          ///< "Punkte verstecken"
     void SpeedButton15Click();                          ///< "Versteckte Punkte"
     void SpeedButton16Click();                          ///< "DXF und HPGL Format ausgeben"
+    void AusgebenClick();                               ///< "Ausgeben ..."
     void VorschauClick();                               ///< "Druckvorschau"
     void SpeedButtonClipbrdClick();                     ///< "Grafik als Bitmap speichern"
     void ColorButtonClick();

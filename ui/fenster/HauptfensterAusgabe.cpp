@@ -12,6 +12,7 @@
 #include "output/Export.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktartwahl.h"
+#include "ui/ausgabe/Ausgabedialog.h"
 #include "ui/dialoge/TAboutBox.h"
 #include "ui/dialoge/TFormPunktart.h"
 #include "ui/dialoge/TZRWLBLForm.h"
@@ -60,6 +61,17 @@ void TZrwMainDlg::SpeedButton16Click() {
     // "ZRP.PLT" is not the file's name, but what users have always read here.
     programm_.dialoge.SageErfolg(
         QStringLiteral("Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."));
+}
+
+void TZrwMainDlg::AusgebenClick() {
+    if (!plan_.Offen() || findChild<QDialog*>(QStringLiteral("AusgabeDialog")) != nullptr) return;
+    bewahrung_.BewahrePlan();
+    werkzeuge_.BrichAb();
+    SchliesseEinstellungen();  // closing saves them: the command line reads what is saved
+    auto* dialog =
+        new Ausgabedialog(programm_, plan_, {EditMasstab_->text(), vorlieben_.KantenGlaetten}, ordner_, this);
+    dialog->geschrieben = [this](const QString& text) { ZeigeStatus(text); };
+    dialog->open();
 }
 
 // --- Dialogs and help -------------------------------------------------------------------------------------

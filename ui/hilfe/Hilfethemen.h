@@ -63,6 +63,7 @@ inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {19, "19_punktart.md", "Fenster „Punktart“", kDialogfenster},
     {22, "22_punkte_verstecken.md", "Fenster „Punkte verstecken“", kDialogfenster},
     {23, "23_versteckte_punkte.md", "Fenster „Versteckte Punkte“", kDialogfenster},
+    {38, "38_ausgeben.md", "Fenster „Ausgeben“", kDialogfenster},
     {30, "30_einstellungen.md", "Zarwikeinstellungen und Schrift", kDialogfenster},
 
     {32, "32_tasten.md", "Tasten und Maus", kNachschlagen},
@@ -162,6 +163,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"TFormHiddenPkt", 23},
     {"TFormData", 24},
     {"Druckvorschau", 35},
+    {"AusgabeDialog", 38},
     {"TZRWLBLForm", 28},
     {"TZRWParameter", 30},
     {"TAboutBox", 33},

@@ -1,0 +1,81 @@
+#include "ui/ausgabe/Befehl.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace zrw {
+namespace {
+
+std::string Papiername(const Papier& papier) {
+    const auto* f = std::find_if(kPapierformate.begin(), kPapierformate.end(),
+                                 [&](const Papierformat& p) { return p.hochkant.weite == papier.weite; });
+    return std::string((f != kPapierformate.end() ? *f : kPapierformate[0]).name);
+}
+
+void HaengeListeAn(std::vector<std::string>& worte, const char* option,
+                   const std::vector<std::string>& namen) {
+    if (namen.empty()) return;
+    std::string liste;
+    for (const std::string& n : namen)
+        liste += (liste.empty() ? "" : ",") + n;
+    worte.insert(worte.end(), {option, liste});
+}
+
+/// Nothing in it means anything to a shell.
+bool Unbedenklich(const std::string& wort) {
+    constexpr std::string_view kZeichen = "-_./,:+=@";
+    return !wort.empty() && std::all_of(wort.begin(), wort.end(), [&](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               kZeichen.find(c) != std::string_view::npos;
+    });
+}
+
+std::string InAnfuehrung(const std::string& wort) {
+    if (Unbedenklich(wort)) return wort;
+#ifdef _WIN32
+    return '"' + wort + '"';  // names of files hold no such mark there
+#else
+    std::string text = "'";
+    for (const char c : wort)
+        c == '\'' ? text += R"('\'')" : text += c;
+    return text + '\'';
+#endif
+}
+
+}  // namespace
+
+std::vector<std::string> Befehlsworte(const Format& format, const Ausgabeauftrag& auftrag,
+                                      const std::filesystem::path& ordner,
+                                      const std::filesystem::path& datei) {
+    std::vector<std::string> worte{"zarwik", "--export", std::string(format.name)};
+    const auto nimm = [&](const char* option, const std::string& wert) {
+        worte.insert(worte.end(), {option, wert});
+    };
+    if (auftrag.groesse && format.HatMerkmal(kMitGroesse))
+        nimm("--groesse",
+             std::to_string(auftrag.groesse->weite) + 'x' + std::to_string(auftrag.groesse->hoehe));
+    if (format.HatMerkmal(kMitPapier)) {
+        nimm("--papier", Papiername(auftrag.papier));
+        if (auftrag.quer) worte.emplace_back("--quer");
+        if (auftrag.alleBlaetter) worte.emplace_back("--alle-blaetter");
+    }
+    // The legend of a picture names a scale, too.
+    if (!auftrag.passend) nimm("--massstab", auftrag.massstab);
+    if (format.HatMerkmal(kMitMassstab) && auftrag.dpi != kUeblicheAufloesung)
+        nimm("--dpi", std::to_string(auftrag.dpi));
+    if (auftrag.kantig && format.HatMerkmal(kMitKanten)) worte.emplace_back("--kantig");
+    HaengeListeAn(worte, "--ein", auftrag.ein);
+    HaengeListeAn(worte, "--aus", auftrag.aus);
+    nimm("--ziel", PfadText(ordner));
+    worte.push_back(PfadText(datei));
+    return worte;
+}
+
+std::string Befehlszeile(const std::vector<std::string>& worte) {
+    std::string zeile;
+    for (const std::string& wort : worte)
+        zeile += (zeile.empty() ? "" : " ") + InAnfuehrung(wort);
+    return zeile;
+}
+
+}  // namespace zrw

@@ -1,0 +1,60 @@
+// Outputs of the open plan, the same as the batch mode makes of its file. Neither the plan nor the window's
+// view and switches change.
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <filesystem>
+
+#include "ui/Plan.h"
+#include "ui/Programm.h"
+#include "ui/ausgabe/Ausgabelauf.h"
+#include "ui/ausgabe/Ausgabevorschau.h"
+
+namespace zrw {
+
+struct Schalter;
+
+class Planausgabe {
+  public:
+    /// Both outlive it; a network is open all the time.
+    Planausgabe(const Programm& programm, const Plan& plan);
+
+    /// Size of a picture that nobody asked another for.
+    [[nodiscard]] Bildgroesse UeblicheGroesse() const;
+    /// Whether the window shows what this switch is about.
+    [[nodiscard]] bool IstAn(const Schalter& schalter) const;
+    [[nodiscard]] const Netzangaben& Angaben() const { return programm_.netz; }
+
+    [[nodiscard]] Ausgabevorschau ZeichneVorschau(const Format& format, const Ausgabeauftrag& auftrag,
+                                                  QSize platz);
+    struct Ergebnis {
+        bool ganz = false;      ///< everything was written and read
+        QStringList meldungen;  ///< as the batch mode tells them
+    };
+    [[nodiscard]] Ergebnis SchreibeDatei(const Format& format, const Ausgabeauftrag& auftrag,
+                                         const std::filesystem::path& ziel) const;
+
+    /// Name of the file that the batch mode would write.
+    [[nodiscard]] std::filesystem::path Zielname(const Format& format) const;
+    /// The command that writes it.
+    [[nodiscard]] QString Befehl(const Format& format, const Ausgabeauftrag& auftrag,
+                                 const std::filesystem::path& ordner) const;
+    /// Where that reads something other than what is open, or writes under another name; empty: nowhere.
+    [[nodiscard]] QStringList Abweichungen(const Format& format, const Ausgabeauftrag& auftrag,
+                                           const std::filesystem::path& name) const;
+
+  private:
+    class Kopie;
+
+    [[nodiscard]] bool AusBild() const;
+    [[nodiscard]] std::filesystem::path Tabellenordner() const;
+    [[nodiscard]] QString Lesestand() const;
+
+    const Programm& programm_;
+    const Plan& plan_;
+    TDM daten_;  ///< of its own, so that the window's keep their messages
+};
+
+}  // namespace zrw
