@@ -129,7 +129,7 @@ inline constexpr auto kBefehle = std::to_array<Befehl>({
      "Sichert das Bild, wie es im Fenster steht, als BMP- oder PNG-Datei.", "bitmap", "",
      &TZrwMainDlg::SpeedButtonClipbrdClick, kBrauchtNetz},
     {"AusgabeWahl", Menue::Ausgabe, "A&usgeben ...", "Ausgeben ...",
-     "Schreibt den Plan in jedem Format, mit Vorschau und der Befehlszeile dazu.", "bitmap", "Ctrl+Shift+E",
+     "Schreibt den Plan in jedem Format, mit Vorschau und der Befehlszeile dazu.", "ausgeben", "Ctrl+Shift+E",
      &TZrwMainDlg::AusgebenClick, kBrauchtNetz | kOhneKnopf},
     {"SpeedButton16", Menue::Ausgabe, "D&XF und HPGL Format ausgeben", "DXF und HPGL Format ausgeben",
      "Schreibt den ganzen Plan im Druckmaßstab als ZRW.DXF und ZRW.PLT.", "dxf", "Ctrl+E",

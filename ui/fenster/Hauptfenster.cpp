@@ -126,7 +126,11 @@ void TZrwMainDlg::BaueBild(QWidget& eltern) {
     };
     punktgang_ = std::make_unique<Punktgang>(
         Punktgang::Umfeld{plan_, planbild_, *this, programm_.einstellungen, melde});
-    new Bildtasten(*bild_, *punktgang_);
+    auto* tasten = new Bildtasten(*bild_, *punktgang_);
+    tasten->kontextmenue = [this](std::optional<Bildpunkt> ort) {
+        if (plan_.Offen())
+            werkzeuge_.rechteTaste(ort.value_or(Bildpunkt{bild_->width() / 2, bild_->height() / 2}));
+    };
     aussenhinweis_ = new Aussenhinweis(bild_);
     aussenhinweis_->einpassen = [this] { EinpassenClick(); };
     BaueStartseite();

@@ -57,6 +57,7 @@ inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {18, "18_punkt_verstecken.md", "Punkt verstecken", kMausbedienung},
     {21, "21_punktnummer_verstecken.md", "Punktnummer verstecken", kMausbedienung},
     {37, "37_strecken_messen.md", "Strecken messen", kMausbedienung},
+    {39, "39_auswahl.md", "Auswählen ohne Werkzeug", kMausbedienung},
     {24, "24_ergebnisse.md", "Ausgleichungsergebnisse zeigen", kMausbedienung},
 
     {20, "20_beobachtungstyp.md", "Fenster „Beobachtungstyp“", kDialogfenster},
