@@ -73,7 +73,7 @@ class Bildgroessenprobe {
         pflege.SetzeGlatt(true);
         pflege.ZeichneNeu(netz_.liste->Vorlage());
         double laengster = 0;
-        while (pflege.Rauh()) {
+        while (pflege.Rau()) {
             laengster = std::max(laengster, MissZeit([&] {
                                      pflege.GlaetteZeilen(netz_.liste->Vorlage());
                                      return 0;

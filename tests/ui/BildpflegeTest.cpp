@@ -154,13 +154,13 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
                     pflege.Vorher(v, figuren);
                     v.ohne = aus;
                     pflege.Nachher(v, figuren);
-                    while (pflege.Rauh())
+                    while (pflege.Rau())
                         pflege.GlaetteZeilen(v);
                     ZeichneBild(v, einfach.zeichner);
                     ASSERT_EQ(Unterschied(einfach.flaeche.Bild(), tafel.flaeche.Bild(), erlaubt), 0);
                 }
             }
-            while (pflege.Rauh())
+            while (pflege.Rau())
                 pflege.GlaetteZeilen(vorlage());
             ZeichneBild(vorlage(), einfach.zeichner);
             ASSERT_EQ(Unterschied(einfach.flaeche.Bild(), tafel.flaeche.Bild(), erlaubt), 0);

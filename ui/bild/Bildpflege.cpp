@@ -25,7 +25,7 @@ constexpr double kWenigsteZeilen = 8;
 }  // namespace
 
 void Bildpflege::ZeichneNeu(const Bildvorlage& v) {
-    rauh_ = kKeinRechteck;
+    rau_ = kKeinRechteck;
     ZeichneAusschnitt(v, flaeche_.Sichtbar());
     gezeichnet_ = v.ansicht;
     gueltig_ = true;
@@ -40,7 +40,7 @@ void Bildpflege::ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r) {
     if (glatt) {
         ZeichneBereich(v, r, true);
     } else {
-        rauh_ = Vereint(rauh_, r);
+        rau_ = Vereint(rau_, r);
     }
 }
 
@@ -71,15 +71,15 @@ bool Bildpflege::SchnellGlatt(const Rechteck& r) const {
 }
 
 void Bildpflege::GlaetteZeilen(const Bildvorlage& v) {
-    if (!Rauh()) return;
+    if (!Rau()) return;
     if (zeilen_ == 0) zeilen_ = kErsteZeilen;
-    Rechteck teil = rauh_;
+    Rechteck teil = rau_;
     teil.unten =
-        static_cast<std::int32_t>(std::min<double>(rauh_.unten, rauh_.oben + std::ceil(zeilen_) - 1));
+        static_cast<std::int32_t>(std::min<double>(rau_.unten, rau_.oben + std::ceil(zeilen_) - 1));
     const double zeit = ZeichneBereich(v, teil, true);
     // At most twice as many next time: rows differ in how much lies in them.
     zeilen_ = std::max(zeilen_ * std::clamp(kZeilenzeit / std::max(zeit, 0.01), 0.25, 2.0), kWenigsteZeilen);
-    rauh_.oben = teil.unten + 1;
+    rau_.oben = teil.unten + 1;
 }
 
 // --- Panning ----------------------------------------------------------------------------------------------
@@ -99,8 +99,8 @@ void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
     flaeche_.VerschiebeBild(dx, dy);
-    if (Rauh())
-        rauh_ = Geschnitten({rauh_.links + dx, rauh_.oben + dy, rauh_.rechts + dx, rauh_.unten + dy}, bild);
+    if (Rau())
+        rau_ = Geschnitten({rau_.links + dx, rau_.oben + dy, rau_.rechts + dx, rau_.unten + dy}, bild);
     Rechteck rest = bild;
     if (dy != 0) {
         ZeichneAusschnitt(v, {bild.links, dy > 0 ? bild.oben : bild.unten + dy + 1, bild.rechts,

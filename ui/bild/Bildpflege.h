@@ -27,7 +27,7 @@ class Bildpflege {
     /// Another network: nothing is known of how long it takes to draw.
     void VergissZeiten() { glattzeit_.reset(); }
     /// A part of the picture has still to be made smooth.
-    [[nodiscard]] bool Rauh() const { return !Leer(rauh_); }
+    [[nodiscard]] bool Rau() const { return !Leer(rau_); }
     /// Makes a few rows smooth, in a few milliseconds.
     void GlaetteZeilen(const Bildvorlage& v);
 
@@ -62,7 +62,7 @@ class Bildpflege {
     bool oertlich_ = false;
     Rechteck vorher_;
     bool glaetten_ = false;
-    Rechteck rauh_ = kKeinRechteck;    ///< what was drawn plain and shall become smooth
+    Rechteck rau_ = kKeinRechteck;    ///< what was drawn plain and shall become smooth
     std::optional<double> glattzeit_;  ///< that a whole smooth picture takes [ms]
     double zeilen_ = 0;                ///< made smooth at a time
 };

@@ -86,7 +86,7 @@ void Planbild::ZeichneNeu() {
 /// After every drawing of the network.
 void Planbild::ZeigeBild() {
     if (bildlegende_ && plan_.Daten()->Legend) plan_.Daten()->Legend->Zeit = bildlegende_->Zeit;
-    if (pflege_.Rauh()) ruhe_.start(kRuhe);
+    if (pflege_.Rau()) ruhe_.start(kRuhe);
     bild_->update();
     beobachter_.BildGezeichnet();
 }
@@ -99,9 +99,9 @@ void Planbild::SetzeGlatt(bool glatt) {
 
 /// A few rows, then whatever the user wants first: a drawing starts the rest anew.
 void Planbild::GlaetteWeiter() {
-    if (!plan_.Offen() || !pflege_.Rauh() || stehendesLose_) return;
+    if (!plan_.Offen() || !pflege_.Rau() || stehendesLose_) return;
     pflege_.GlaetteZeilen(Vorlage());
-    if (pflege_.Rauh()) {
+    if (pflege_.Rau()) {
         ruhe_.start(0);
     } else {
         bild_->update();  // all at once, without a flash
@@ -109,7 +109,7 @@ void Planbild::GlaetteWeiter() {
 }
 
 void Planbild::GlaetteAlles() {
-    while (pflege_.Rauh())
+    while (pflege_.Rau())
         pflege_.GlaetteZeilen(Vorlage());
 }
 
