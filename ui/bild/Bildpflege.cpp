@@ -74,8 +74,7 @@ void Bildpflege::GlaetteZeilen(const Bildvorlage& v) {
     if (!Rau()) return;
     if (zeilen_ == 0) zeilen_ = kErsteZeilen;
     Rechteck teil = rau_;
-    teil.unten =
-        static_cast<std::int32_t>(std::min<double>(rau_.unten, rau_.oben + std::ceil(zeilen_) - 1));
+    teil.unten = static_cast<std::int32_t>(std::min<double>(rau_.unten, rau_.oben + std::ceil(zeilen_) - 1));
     const double zeit = ZeichneBereich(v, teil, true);
     // At most twice as many next time: rows differ in how much lies in them.
     zeilen_ = std::max(zeilen_ * std::clamp(kZeilenzeit / std::max(zeit, 0.01), 0.25, 2.0), kWenigsteZeilen);
@@ -99,8 +98,7 @@ void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
     flaeche_.VerschiebeBild(dx, dy);
-    if (Rau())
-        rau_ = Geschnitten({rau_.links + dx, rau_.oben + dy, rau_.rechts + dx, rau_.unten + dy}, bild);
+    if (Rau()) rau_ = Geschnitten({rau_.links + dx, rau_.oben + dy, rau_.rechts + dx, rau_.unten + dy}, bild);
     Rechteck rest = bild;
     if (dy != 0) {
         ZeichneAusschnitt(v, {bild.links, dy > 0 ? bild.oben : bild.unten + dy + 1, bild.rechts,

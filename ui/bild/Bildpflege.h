@@ -62,7 +62,7 @@ class Bildpflege {
     bool oertlich_ = false;
     Rechteck vorher_;
     bool glaetten_ = false;
-    Rechteck rau_ = kKeinRechteck;    ///< what was drawn plain and shall become smooth
+    Rechteck rau_ = kKeinRechteck;     ///< what was drawn plain and shall become smooth
     std::optional<double> glattzeit_;  ///< that a whole smooth picture takes [ms]
     double zeilen_ = 0;                ///< made smooth at a time
 };
