@@ -39,6 +39,8 @@ Ausgabedialog::Ausgabedialog(const Programm& programm, const Plan& plan, const A
     pause_.setInterval(kPause);
     connect(&pause_, &QTimer::timeout, this, [this] { ZeichneVorschau(); });
 
+    auto* alles = new QVBoxLayout(this);
+    alles->addWidget(BaueZiel(ordner));
     felder_ = new Ausgabefelder(plan_, anfang, this);
     felder_->geaendert = [this] { FormatGeaendert(); };
     auto* links = new QVBoxLayout;
@@ -47,11 +49,10 @@ Ausgabedialog::Ausgabedialog(const Programm& programm, const Plan& plan, const A
     auto* oben = new QHBoxLayout;
     oben->addLayout(links, 1);
     oben->addWidget(BaueVorschau());
-    auto* alles = new QVBoxLayout(this);
-    alles->addWidget(BaueZiel(ordner));
     alles->addLayout(oben, 1);
     alles->addWidget(BaueBefehl());
     alles->addLayout(BaueKnoepfe());
+    felder_->setFocus();
     FormatGeaendert();
 }
 

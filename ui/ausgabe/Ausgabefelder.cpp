@@ -69,6 +69,7 @@ void Ausgabefelder::BaueFormat(QFormLayout& form) {
         MeldeAenderung();
     });
     form.addRow(QStringLiteral("Format"), format_);
+    setFocusProxy(format_);
 }
 
 void Ausgabefelder::BaueBild(QFormLayout& form, Bildgroesse groesse, bool glatt) {
@@ -95,6 +96,7 @@ void Ausgabefelder::BaueBild(QFormLayout& form, Bildgroesse groesse, bool glatt)
 
 void Ausgabefelder::BaueBlatt(QFormLayout& form, const QString& massstab) {
     papier_ = &NeuesTeil("PapierWahl", "Größe des Papiers", new QComboBox(this));
+    papier_->setAccessibleName(QStringLiteral("Papier"));
     for (const Papierformat& p : kPapierformate)
         papier_->addItem(AusUtf8(p.name));
     connect(papier_, &QComboBox::currentIndexChanged, this, [this] { MeldeAenderung(); });

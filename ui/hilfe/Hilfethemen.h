@@ -131,6 +131,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"VorschauButton", 35},
     {"SpeedButtonClipbrd", 35},
     {"SpeedButton16", 3},
+    {"AusgabeWahl", 38},
     {"EditMasstab", 35},
     {"SpeedButton12", 28},
     // Program
