@@ -297,7 +297,34 @@ void Glattbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe
     constexpr std::int32_t kBreitester = 255;
     const auto stift = static_cast<std::uint8_t>(std::clamp(breite, 1, kBreitester));
     const Auftrag a{nullptr, von, nach, farbe, gestrichelt ? Art::Gestrichelt : Art::Strich, stift};
-    VerteileAuftrag(a, Strichumfang(a));
+    const Rechteck umfang = Strichumfang(a);
+    if (umfang.rechts - umfang.links <= kKachelweite || umfang.unten - umfang.oben <= kKachelhoehe)
+        return VerteileAuftrag(a, umfang);
+    VerteileLangen(a, umfang);
+}
+
+/// A long stroke goes to the tiles that it runs through, not to all that its rectangle covers.
+void Glattbild::VerteileLangen(const Auftrag& a, const Rechteck& umfang) {
+    const double steigung =
+        (static_cast<double>(a.nach.x) - a.von.x) / (static_cast<double>(a.nach.y) - a.von.y);
+    const auto rand = static_cast<std::int32_t>(dichte_ * a.breite) + 2;
+    const Rechteck sicht = Geschnitten(umfang, ausschnitt_);
+    if (Leer(sicht)) return;
+    // Its place in each row of tiles, from a little above to a little below.
+    for (std::int32_t y = sicht.oben - (sicht.oben - ausschnitt_.oben) % kKachelhoehe; y <= sicht.unten;
+         y += kKachelhoehe) {
+        const auto stelle = [&](std::int32_t zeile) {
+            const std::int32_t dort = std::clamp(zeile, umfang.oben, umfang.unten);
+            return a.von.x + steigung * (static_cast<double>(dort) - a.von.y);
+        };
+        const auto [links, rechts] = std::minmax({stelle(y - rand), stelle(y + kKachelhoehe + rand)});
+        const Rechteck zeile{
+            static_cast<std::int32_t>(std::clamp<double>(links - rand, sicht.links, sicht.rechts)),
+            std::max(y, sicht.oben),
+            static_cast<std::int32_t>(std::clamp<double>(rechts + rand, sicht.links, sicht.rechts)),
+            std::min(y + kKachelhoehe - 1, sicht.unten)};
+        if (links - rand <= sicht.rechts && rechts + rand >= sicht.links) VerteileAuftrag(a, zeile);
+    }
 }
 
 void Glattbild::Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t farbe) {

@@ -75,6 +75,7 @@ class Glattbild {
     };
 
     void VerteileAuftrag(const Auftrag& a, const Rechteck& umfang);
+    void VerteileLangen(const Auftrag& a, const Rechteck& umfang);
     void TeileInKacheln();
     template <class Kacheln, class Tun>
     void FuerKacheln(Kacheln& kacheln, const Rechteck& r, Tun tun) const;
