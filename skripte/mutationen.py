@@ -127,7 +127,7 @@ def richte_ein(ort, bau):
         for name in filter(None, liste):
             if (WURZEL / name).is_file():
                 (neu / name).parent.mkdir(parents=True, exist_ok=True)
-                shutil.copy2(WURZEL / name, neu / name)
+                shutil.copy(WURZEL / name, neu / name)  # new times: the build folder stays
         neu.rename(quelle)
     with open(ort / "bau.log", "ab") as log:
         # No warnings: a mutant may leave a variable unused, and that is no finding.
