@@ -167,7 +167,7 @@ TEST_F(Steuerdatei, BerichtZaehltWasOhneWirkungBleibt) {
     dateien.dateien["netz/A.SF"] = "$RS A\n$RZ\n$RZ X\n";
     const Lesung l = LiesText(
         "$NT 3\n$FP A              1 1 1\n    A              1 2 2\n$SF A.SF\n$ST A A\n$DH Y Z\n"
-        "$SH 1 1\n$SV 1 1 A              W\n$RS V\n$RZ A\n$ST\n$ST Q\n");
+        "$SH 1 1\n$SV 1 1 A              W\n$RS V\n$RZ A\n$ST\n$ST\n$ST Q\n");
     EXPECT_EQ(Statustext(l.bericht),
               "5 Beobachtungen nennen unbekannte Punkte (zuerst A.SF, Zeile 3); 1 Punktnummer kommt noch "
               "einmal vor "
