@@ -5,6 +5,7 @@
 #include <limits>
 #include <random>
 
+#include "model/Bildorte.h"
 #include "model/Ganzzahl.h"
 #include "tests/hilfe/Probenetz.h"
 
@@ -95,6 +96,22 @@ TEST(Ansicht, SchiebenVersetzenEinpassen) {
 
 // From the size of atoms to that of the sun's system: as long as doubles can tell pixels apart, every pixel
 // comes back, zooming in and out again leads where it began, and the top-left corner stays in place.
+TEST(Ansicht, EinBildGleitetNurAlsGanzes) {
+    Probenetz n;
+    n.P(1, 100, 100);
+    n.P(2, 300, 200);
+    Ansicht vorher;
+    vorher.Faktor = 2.0;
+    Ansicht nachher = vorher;
+    nachher.SetzeVersatz(vorher.Versatz(), {30, -10});
+    EXPECT_TRUE(BewegtSichGleich(n.l, vorher, nachher, {30, -10}));
+    EXPECT_FALSE(BewegtSichGleich(n.l, vorher, nachher, {30, -11}));
+    nachher.Faktor = 2.1;
+    const Bildpunkt a = vorher.Bildort({100, 100});
+    const Bildpunkt e = nachher.Bildort({100, 100});
+    EXPECT_FALSE(BewegtSichGleich(n.l, vorher, nachher, {e.x - a.x, e.y - a.y})) << "as one point does";
+}
+
 TEST(Ansicht, JederMassstabFindetSeinePixelWieder) {
     std::mt19937 zufall(11);
     const auto pixel = [&] { return static_cast<std::int64_t>(zufall() % 20001) - 10000; };
