@@ -54,7 +54,9 @@ Bildvorlage Planbild::Vorlage() {
         bildlegende_->XO = RundeZuInt64(static_cast<double>(v.legende->XO) * dichte);
         bildlegende_->YO = RundeZuInt64(static_cast<double>(v.legende->YO) * dichte);
     }
-    return {v.netz, bildansicht_, v.darstellung, bildlegende_ ? &*bildlegende_ : nullptr, &ohne_};
+    Bildvorlage fein = v.InAnsicht(bildansicht_);
+    fein.legende = bildlegende_ ? &*bildlegende_ : nullptr;
+    return fein;
 }
 
 Rechteck Planbild::Sicht() const {
