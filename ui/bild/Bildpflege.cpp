@@ -46,7 +46,6 @@ void Bildpflege::ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r) {
 
 /// @return how long it took [ms]
 double Bildpflege::ZeichneBereich(const Bildvorlage& v, const Rechteck& r, bool glatt) {
-    constexpr double kGenug = 0.25;  ///< of the picture, to tell from
     const auto anfang = std::chrono::steady_clock::now();
     flaeche_.SetzeGlatt(glatt);
     flaeche_.SetzeAusschnitt(r);
@@ -54,8 +53,18 @@ double Bildpflege::ZeichneBereich(const Bildvorlage& v, const Rechteck& r, bool 
     flaeche_.SetzeAusschnitt(flaeche_.Sichtbar());
     flaeche_.SchliesseAb();
     const std::chrono::duration<double, std::milli> zeit = std::chrono::steady_clock::now() - anfang;
-    if (glatt && Anteil(r) >= kGenug) glattzeit_ = zeit.count() / Anteil(r);
+    if (glatt) MerkeGlattzeit(zeit.count(), Anteil(r));
     return zeit.count();
+}
+
+/// Rows that are made smooth one after the other count together: alone they are too few to tell from.
+void Bildpflege::MerkeGlattzeit(double zeit, double anteil) {
+    constexpr double kGenug = 0.25;  ///< of the picture
+    zeitsumme_ += zeit;
+    anteilsumme_ += anteil;
+    if (anteilsumme_ < kGenug) return;
+    glattzeit_ = zeitsumme_ / anteilsumme_;
+    zeitsumme_ = anteilsumme_ = 0;
 }
 
 double Bildpflege::Anteil(const Rechteck& r) const {

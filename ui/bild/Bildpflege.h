@@ -49,6 +49,7 @@ class Bildpflege {
   private:
     void ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r);
     double ZeichneBereich(const Bildvorlage& v, const Rechteck& r, bool glatt);
+    void MerkeGlattzeit(double zeit, double anteil);
     [[nodiscard]] bool SchnellGlatt(const Rechteck& r) const;
     [[nodiscard]] double Anteil(const Rechteck& r) const;
     [[nodiscard]] Rechteck Umfang(const Bildvorlage& v, const Figurenmenge& figuren) const;
@@ -64,7 +65,10 @@ class Bildpflege {
     bool glaetten_ = false;
     Rechteck rau_ = kKeinRechteck;     ///< what was drawn plain and shall become smooth
     std::optional<double> glattzeit_;  ///< that a whole smooth picture takes [ms]
-    double zeilen_ = 0;                ///< made smooth at a time
+    // Of smooth drawings since it was worked out last.
+    double zeitsumme_ = 0;
+    double anteilsumme_ = 0;
+    double zeilen_ = 0;  ///< made smooth at a time
 };
 
 }  // namespace zrw
