@@ -189,9 +189,10 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
     const Einstellungen& e = einstellungen_;
     // Tick beside the marker, height marks before the symbol, detour; rounding moves each by a pixel.
     constexpr std::int64_t kRunden = 2;
-    return kRunden + Stiftrand() +
-           std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich, e.PTSize + std::int64_t{3} * e.Querstrich,
-                     std::int64_t{e.Umweggroesse}});
+    const std::int64_t zeichen =
+        std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich, e.PTSize + std::int64_t{3} * e.Querstrich,
+                  std::int64_t{e.Umweggroesse}});
+    return zeichen + kRunden + Stiftrand();
 }
 
 /// Whether a line with its marks may touch the surface.
