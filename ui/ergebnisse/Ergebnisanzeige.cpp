@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "input/Oeffnen.h"
+#include "input/tabellen/Ergebnisabfragen.h"
 #include "input/tabellen/MarkiereFehler.h"
 #include "model/Fehler.h"
 #include "model/Linienarten.h"
@@ -53,20 +54,16 @@ QString Angaben(const Liste& netz, const PunktKante& k) {
 }  // namespace
 
 Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, QWidget* eltern)
-    : programm_(programm), fenster_(new TFormData(programm.sitzung, eltern)) {
-    fenster_->reiterGewechselt = [this] { FuelleReiter(); };
+    : programm_(programm),
+      fenster_(new TFormData(programm.sitzung, eltern)),
+      liste_(programm, fenster_->Gitter(), [this] { MeldeTabellen(); }) {
     // Until a file is opened, beside which they are looked for.
     if (const auto alias = TavelinOrdner(programm_.ablage)) programm_.daten.SetzeOrdner(*alias);
 }
 
-Ergebnisanzeige::~Ergebnisanzeige() {
-    fenster_->reiterGewechselt = {};  // its parent deletes it later
-}
-
 void Ergebnisanzeige::VergissNetz() {
     fenster_->hide();
-    aufgelistet_.clear();
-    zweiter_.reset();
+    liste_.LeereListe(QString());
 }
 
 bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
@@ -75,7 +72,7 @@ bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
     programm_.daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).lexically_normal().parent_path());
     programm_.zustand.Ergebnisse = &programm_.daten;
     if (programm_.daten.Ordner() == vorher) return false;
-    if (fenster_->isVisible()) FuelleReiter();
+    if (fenster_->isVisible()) liste_.ErneuereListe();
     return true;
 }
 
@@ -85,44 +82,19 @@ bool Ergebnisanzeige::Vorhanden() const {
 }
 
 void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKnoten& punkt) {
-    const QString n = AusNetz(netz.GetPktText(punkt.PNr));
-    fenster_->SetzeTitel(QStringLiteral("Abriss nach der Ausgleichung Punkt ") + n, Angaben(punkt), n);
-    aufgelistet_ = n;
-    zweiter_.reset();
-    FuelleReiter();
+    fenster_->SetzeTitel(
+        QStringLiteral("Abriss nach der Ausgleichung Punkt ") + AusNetz(netz.GetPktText(punkt.PNr)),
+        Angaben(punkt));
+    liste_.ListeAuf(netz, punkt);
     fenster_->ZeigeFenster();
 }
 
 void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKante& kante) {
-    const QString a = AusNetz(netz.GetPktText(kante.ANr));
-    const QString b = AusNetz(netz.GetPktText(kante.ENr));
-    fenster_->SetzeTitel(QStringLiteral("Abriss nach der Ausgleichung P1= %1  P2= %2").arg(a, b),
-                         Angaben(netz, kante), a);
-    aufgelistet_ = a;
-    zweiter_ = b;
-    FuelleReiter();
+    fenster_->SetzeTitel(QStringLiteral("Abriss nach der Ausgleichung P1= %1  P2= %2")
+                             .arg(AusNetz(netz.GetPktText(kante.ANr)), AusNetz(netz.GetPktText(kante.ENr))),
+                         Angaben(netz, kante));
+    liste_.ListeAuf(netz, kante);
     fenster_->ZeigeFenster();
-}
-
-/// The results of what was listed last on the tab that is open now.
-void Ergebnisanzeige::FuelleReiter() {
-    const QString& a = aufgelistet_;
-    const auto& b = zweiter_;
-    if (a.isEmpty() || (b && b->isEmpty()))
-        return fenster_->LeereGitter(QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse"));
-    const Ergebnisreiter& reiter = fenster_->Reiter();
-    if (!programm_.daten.Vorhanden(reiter.datei)) {
-        fenster_->LeereGitter(AusUtf8(reiter.datei) + QStringLiteral(" liegt nicht beim Netz"));
-        return;
-    }
-    try {
-        const std::string abfrage =
-            b ? Abfragetext(reiter.kante, NachUtf8(a), NachUtf8(*b)) : Abfragetext(reiter.punkt, NachUtf8(a));
-        fenster_->FuelleGitter(programm_.daten.FrageTabelle(reiter.tabelle, abfrage));
-    } catch (const std::exception& f) {
-        fenster_->LeereGitter(AusUtf8(Fehlertext(f)));
-    }
-    MeldeTabellen();
 }
 
 void Ergebnisanzeige::MarkiereFehler(Liste& netz) {

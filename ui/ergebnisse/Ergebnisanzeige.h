@@ -2,13 +2,12 @@
 // the window "TFormData", and marks gross errors. Not in here: the tables (input/tabellen).
 #pragma once
 
-#include <QString>
 #include <filesystem>
-#include <optional>
 #include <vector>
 
 #include "model/FigListe.h"
 #include "ui/Programm.h"
+#include "ui/ergebnisse/Ergebnisliste.h"
 
 class QWidget;
 
@@ -21,7 +20,7 @@ class Ergebnisanzeige {
     /// @param programm must outlive it
     /// @param eltern owns the window of the results
     Ergebnisanzeige(const Programm& programm, QWidget* eltern);
-    ~Ergebnisanzeige();
+    ~Ergebnisanzeige() = default;
     Ergebnisanzeige(const Ergebnisanzeige&) = delete;
     Ergebnisanzeige& operator=(const Ergebnisanzeige&) = delete;
 
@@ -41,13 +40,11 @@ class Ergebnisanzeige {
     void MeldeTabellen();
 
   private:
-    void FuelleReiter();
     void MeldeTabellenfehler(const std::vector<Tabellenmeldung>& meldungen);
 
     const Programm& programm_;
     TFormData* fenster_;
-    QString aufgelistet_;             ///< number of what the results are of, of a line its first point
-    std::optional<QString> zweiter_;  ///< the second point of a line
+    Ergebnisliste liste_;
 };
 
 }  // namespace zrw

@@ -1,27 +1,14 @@
 #include "ui/ergebnisse/TFormData.h"
 
-#include <QAction>
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTableView>
 #include <QVBoxLayout>
 
-#include "ui/Umwandlung.h"
+#include "ui/ergebnisse/Ergebnisgitter.h"
 
 namespace zrw {
 namespace {
 
 const QString kFenster = QStringLiteral("Ergebnisse/Fensterort");
-
-/// Widths by field: two columns of a table may have one title.
-QString Spalten(int reiter) {
-    return QStringLiteral("Ergebnisse/Feldbreiten%1").arg(reiter);
-}
 
 }  // namespace
 
@@ -29,33 +16,20 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
     : QDialog(eltern),
       sitzung_(sitzung),
       angaben_(new QLabel(QStringLiteral("Punkt oder Linie im Bild anklicken."), this)),
-      gitter_(new QTableView(this)),
-      hinweis_(new QLabel(this)),
-      reiter_(new QTabBar(this)) {
+      gitter_(new Ergebnisgitter(sitzung, this)) {
     setObjectName(QStringLiteral("TFormData"));
     setWindowTitle(QStringLiteral("Abriss nach der Ausgleichung"));
     // Whoever types point numbers goes on typing.
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_AlwaysShowToolTips);
     angaben_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    BaueGitter();
-    reiter_->setObjectName(QStringLiteral("TabControl1"));
-    reiter_->setShape(QTabBar::RoundedSouth);
-    reiter_->setExpanding(false);
-    for (const Ergebnisreiter& r : kErgebnisreiter)
-        reiter_->addTab(AusUtf8(r.titel));
-    connect(reiter_, &QTabBar::currentChanged, this, [this] {
-        if (reiterGewechselt) reiterGewechselt();
-        gitter_->horizontalScrollBar()->setValue(0);
-    });
+    gitter_->SetzeNamen(QStringLiteral("DBGrid1"), QStringLiteral("TabControl1"));
     auto* spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(6, 6, 6, 6);
     spalte->setSpacing(0);
     spalte->addWidget(angaben_);
     spalte->addSpacing(4);
     spalte->addWidget(gitter_, 1);
-    spalte->addWidget(reiter_);
-    spalte->addWidget(hinweis_);
     if (!restoreGeometry(sitzung_.Stand(kFenster))) resize(900, 320);
 }
 
@@ -69,130 +43,14 @@ void TFormData::showEvent(QShowEvent* ereignis) {
     QDialog::showEvent(ereignis);
 }
 
-void TFormData::BaueGitter() {
-    gitter_->setObjectName(QStringLiteral("DBGrid1"));
-    gitter_->setAccessibleName(QStringLiteral("Ergebnisse der Ausgleichung"));
-    gitter_->setModel(&modell_);
-    gitter_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    gitter_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    gitter_->setAlternatingRowColors(true);
-    gitter_->setWordWrap(false);
-    gitter_->setSortingEnabled(true);
-    gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    gitter_->verticalHeader()->setDefaultSectionSize(gitter_->fontMetrics().height() + 6);
-    gitter_->verticalHeader()->hide();
-    connect(gitter_, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& stelle) { ZeigeEndpunkt(stelle.row()); });
-    connect(gitter_->horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int spalte, int /*vorher*/, int weite) { MerkeBreite(spalte, weite); });
-    gitter_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    gitter_->installEventFilter(this);
-    auto* kopieren = new QAction(QStringLiteral("Kopieren\tStrg+C"), gitter_);
-    connect(kopieren, &QAction::triggered, this, [this] { KopiereZeilen(false); });
-    auto* alles = new QAction(QStringLiteral("Alles mit Überschriften kopieren"), gitter_);
-    connect(alles, &QAction::triggered, this, [this] { KopiereZeilen(true); });
-    auto* zeigen = new QAction(QStringLiteral("Punkt im Bild zeigen"), gitter_);
-    connect(zeigen, &QAction::triggered, this, [this] { ZeigeEndpunkt(gitter_->currentIndex().row()); });
-    gitter_->addActions({kopieren, alles, zeigen});
-}
-
-/// The grid's own copying takes a single cell.
-bool TFormData::eventFilter(QObject* empfaenger, QEvent* ereignis) {
-    const bool taste = empfaenger == gitter_ && ereignis->type() == QEvent::KeyPress;
-    if (!taste || !static_cast<QKeyEvent*>(ereignis)->matches(QKeySequence::Copy))
-        return QDialog::eventFilter(empfaenger, ereignis);
-    KopiereZeilen(false);
-    return true;
-}
-
-const Ergebnisreiter& TFormData::Reiter() const {
-    return kErgebnisreiter[static_cast<std::size_t>(reiter_->currentIndex())];
-}
-
-void TFormData::SetzeTitel(const QString& titel, const QString& angaben, const QString& nummer) {
+void TFormData::SetzeTitel(const QString& titel, const QString& angaben) {
     setWindowTitle(titel);
     angaben_->setText(angaben);
-    nummer_ = nummer;
-}
-
-/// Fits the columns to their content, but for those that the user has given a width.
-void TFormData::StelleSpaltenEin() {
-    const QStringList breiten =
-        QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';');
-    stelltEin_ = true;
-    gitter_->resizeColumnsToContents();
-    for (int s = 0; s < modell_.columnCount(); ++s) {
-        const QString anfang = modell_.Feldname(s) + QLatin1Char('=');
-        for (const QString& b : breiten) {
-            if (const int weite = b.mid(anfang.size()).toInt(); b.startsWith(anfang) && weite > 0)
-                gitter_->setColumnWidth(s, weite);
-        }
-    }
-    stelltEin_ = false;
-}
-
-void TFormData::MerkeBreite(int spalte, int weite) {
-    if (stelltEin_ || spalte >= modell_.columnCount()) return;
-    const QString anfang = modell_.Feldname(spalte) + QLatin1Char('=');
-    QStringList breiten =
-        QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';', Qt::SkipEmptyParts);
-    breiten.removeIf([&](const QString& b) { return b.startsWith(anfang); });
-    breiten << anfang + QString::number(weite);
-    sitzung_.MerkeStand(Spalten(reiter_->currentIndex()), breiten.join(u';').toUtf8());
-}
-
-void TFormData::FuelleGitter(Antwort antwort) {
-    const std::size_t zeilen = antwort.zeilen.size();
-    gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);  // as the query orders them
-    stelltEin_ = true;
-    modell_.SetzeTabelle(Beschreibung(Reiter().tabelle), std::move(antwort));
-    stelltEin_ = false;
-    StelleSpaltenEin();
-    hinweis_->setText(zeilen == 0   ? QStringLiteral("Keine Ergebnisse in dieser Tabelle")
-                      : zeilen == 1 ? QStringLiteral("1 Zeile")
-                                    : QStringLiteral("%1 Zeilen").arg(zeilen));
-}
-
-void TFormData::LeereGitter(const QString& grund) {
-    stelltEin_ = true;
-    modell_.LeereTabelle();
-    stelltEin_ = false;
-    hinweis_->setText(grund);
 }
 
 void TFormData::ZeigeFenster() {
     show();
     raise();
-}
-
-void TFormData::KopiereZeilen(bool alles) const {
-    QStringList zeilen;
-    const int spalten = modell_.columnCount();
-    if (alles) {
-        QStringList titel;
-        for (int s = 0; s < spalten; ++s)
-            titel << modell_.headerData(s, Qt::Horizontal, Qt::DisplayRole).toString();
-        zeilen << titel.join(QLatin1Char('\t'));
-    }
-    for (int z = 0; z < modell_.rowCount(); ++z) {
-        if (!alles && !gitter_->selectionModel()->isRowSelected(z)) continue;
-        QStringList texte;
-        for (int s = 0; s < spalten; ++s)
-            texte << modell_.data(modell_.index(z, s), Qt::DisplayRole).toString();
-        zeilen << texte.join(QLatin1Char('\t'));
-    }
-    if (zeilen.isEmpty()) return;
-    QGuiApplication::clipboard()->setText(zeilen.join(QLatin1Char('\n')));
-}
-
-/// The end of the row that is not the listed point; for rows of one point, that point.
-void TFormData::ZeigeEndpunkt(int zeile) const {
-    QString ziel = modell_.Text(zeile, "PKT");
-    for (const auto& [von, nach] : {std::pair{"P1", "P2"}, {"PS", "PZ"}}) {
-        const QString ende = modell_.Text(zeile, nach);
-        if (!ende.isEmpty()) ziel = ende == nummer_ ? modell_.Text(zeile, von) : ende;
-    }
-    if (!ziel.isEmpty() && zeigePunkt) zeigePunkt(ziel);
 }
 
 }  // namespace zrw

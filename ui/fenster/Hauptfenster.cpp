@@ -24,6 +24,7 @@
 #include "ui/dialoge/TFormPunktart.h"
 #include "ui/dialoge/TZRWLBLForm.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/ergebnisse/Ergebnisgitter.h"
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
@@ -205,7 +206,7 @@ void TZrwMainDlg::BaueDialoge() {
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { aktionen_->NachName("SpeedButton14").setChecked(false); });
     ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, this);
-    ergebnisse_->Fenster().zeigePunkt = [this](const QString& nummer) {
+    ergebnisse_->Fenster().Gitter().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
         if (plan_.Offen() && plan_.Daten()->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
             ZeigeStatus(QStringLiteral("Punkt %1 ist nicht im Plan.").arg(nummer));
