@@ -1,6 +1,7 @@
 #include "ui/bild/Figurentext.h"
 
 #include <QStringList>
+#include <array>
 #include <cmath>
 
 #include "model/Linienarten.h"
@@ -59,6 +60,10 @@ QString Beobachtungen(const Kante& kante) {
     return arten.isEmpty() ? QStringLiteral("keine") : arten.join(QStringLiteral(", "));
 }
 
+QString Verweis(const Netz& netz, PunktIndex nr) {
+    return QStringLiteral("<a href=\"%1\">%2</a>").arg(nr).arg(Nummertext(netz, nr).toHtmlEscaped());
+}
+
 }  // namespace
 
 QString Nummertext(const Netz& netz, PunktIndex nr) {
@@ -98,6 +103,44 @@ QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellung
     }
     if (kante.Item->Farbe == einstellungen.GFCol)
         z.NimmZeile(QStringLiteral("markiert"), QStringLiteral("grober Fehler"));
+    return z.Text();
+}
+
+QString Nachbarntext(Liste& netz, const PunktKnoten& punkt) {
+    constexpr qsizetype kMeiste = 60;
+    QStringList namen;
+    qsizetype anzahl = 0;
+    netz.FuerKantenAm(punkt.PNr, [&](const PunktKante& k) {
+        if (++anzahl <= kMeiste) namen << Verweis(netz, k.ANr == punkt.PNr ? k.ENr : k.ANr);
+    });
+    if (anzahl == 0) return QStringLiteral("<p>Keine Linien</p>");
+    const QString weitere =
+        anzahl > kMeiste ? QStringLiteral(" und %1 weiteren").arg(anzahl - kMeiste) : QString();
+    return QStringLiteral("<p>%1 zu %2%3</p>")
+        .arg(anzahl == 1 ? QStringLiteral("1 Linie") : QStringLiteral("%1 Linien").arg(anzahl),
+             namen.join(QStringLiteral(", ")), weitere);
+}
+
+QString Endentext(const Liste& netz, const PunktKante& kante) {
+    return QStringLiteral("<p>von %1 nach %2</p>").arg(Verweis(netz, kante.ANr), Verweis(netz, kante.ENr));
+}
+
+QString Punktetext(std::span<const PPunktKnoten> punkte, const Einstellungen& einstellungen, int netztyp) {
+    Zeilen z(QStringLiteral("%1 Punkte").arg(punkte.size()));
+    std::array<std::size_t, kPunktarten.size()> arten{};
+    Weltkasten k;
+    for (const PunktKnoten* p : punkte) {
+        ++arten[static_cast<std::size_t>(ArtNachFarbe(p->Item->Farbe, einstellungen))];
+        k.NimmOrt(p->XWPu, p->YWPu);
+    }
+    for (const Punktart& art : kPunktarten) {
+        const std::size_t anzahl = arten[static_cast<std::size_t>(art.art)];
+        if (anzahl != 0) z.NimmZeile(AusUtf8(art.bezeichnung), QString::number(anzahl));
+    }
+    if (InMetern(netztyp)) {
+        z.NimmZahl(QStringLiteral("von West nach Ost"), k.rechts - k.links, 3, " m");
+        z.NimmZahl(QStringLiteral("von Süd nach Nord"), k.oben - k.unten, 3, " m");
+    }
     return z.Text();
 }
 

@@ -1,7 +1,9 @@
-// What is known about a figure, in words: for the card beside the mouse.
+// What is known about figures, in words: for the card beside the mouse and the side bar.
 #pragma once
 
 #include <QString>
+
+#include <span>
 
 #include "model/Einstellungen.h"
 #include "model/FigListe.h"
@@ -17,6 +19,12 @@ namespace zrw {
 /// Both ends, observations, length and bearing from the coordinates, whether it is flagged.
 [[nodiscard]] QString Kantentext(const Liste& netz, const PunktKante& kante,
                                  const Einstellungen& einstellungen, int netztyp);
+/// The points at the other ends of its lines, and both ends of a line: links to their internal numbers.
+[[nodiscard]] QString Nachbarntext(Liste& netz, const PunktKnoten& punkt);
+[[nodiscard]] QString Endentext(const Liste& netz, const PunktKante& kante);
+/// How many they are, of which kinds, how far apart.
+[[nodiscard]] QString Punktetext(std::span<const PPunktKnoten> punkte, const Einstellungen& einstellungen,
+                                 int netztyp);
 /// Number of a point; a word where it has none.
 [[nodiscard]] QString Nummertext(const Netz& netz, PunktIndex nr);
 /// "Rechtswert<Tab>Hochwert", as spreadsheets take it.

@@ -33,6 +33,10 @@ void Figurenmenue::ZeigeMenue(const QPoint& ort) {
             menue->addAction(a);
     }
     menue->addSeparator();
+    if (!u_.auswahl.Leer()) {
+        menue->addAction(QStringLiteral("Eigenschaften und &Ergebnisse"), fenster_,
+                         [this] { u_.zeigeEigenschaften(); });
+    }
     QMenu* werkzeuge = menue->addMenu(QStringLiteral("&Werkzeug einschalten"));
     for (QAction* a : u_.werkzeuge)
         werkzeuge->addAction(a);
@@ -64,8 +68,6 @@ void Figurenmenue::NimmPunkte(QMenu& menue) {
 void Figurenmenue::NimmEinenPunkt(QMenu& menue, PunktKnoten& punkt) {
     menue.addAction(QStringLiteral("&Bild hier zentrieren"), fenster_,
                     [this, ort = Welt{punkt.XWPu, punkt.YWPu}] { u_.zentriereBild(ort); });
-    menue.addAction(QStringLiteral("&Ergebnisse zeigen"), fenster_,
-                    [this, p = &punkt] { u_.umgebung.ZeigeErgebnis(p, nullptr); });
     menue.addAction(QStringLiteral("Punkt &löschen"), fenster_, [this, p = &punkt] {
         u_.umgebung.TueAenderung(std::make_unique<PunktGeloescht>(*u_.umgebung.AktuelleListe(), *p));
     });
@@ -76,8 +78,6 @@ void Figurenmenue::NimmKante(QMenu& menue, PunktKante& kante) {
     const QString name =
         QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr));
     menue.addSection(QStringLiteral("Linie ") + name);
-    menue.addAction(QStringLiteral("&Ergebnisse zeigen"), fenster_,
-                    [this, k = &kante] { u_.umgebung.ZeigeErgebnis(nullptr, k); });
     menue.addAction(QStringLiteral("Beobachtung &löschen"), fenster_, [this, k = &kante] {
         u_.umgebung.TueAenderung(std::make_unique<KanteGeloescht>(*u_.umgebung.AktuelleListe(), *k));
     });

@@ -23,8 +23,9 @@ class Figurenmenue {
         const Auswahl& auswahl;
         std::function<void(Welt)> zentriereBild;
         std::function<void(const QStringList& nummern)> verbergePunkte;
-        std::vector<QAction*> ansichten;  ///< where nothing is selected
-        std::vector<QAction*> werkzeuge;  ///< all of them, to be switched on
+        std::function<void()> zeigeEigenschaften;  ///< of what is selected, with its results
+        std::vector<QAction*> ansichten;           ///< where nothing is selected
+        std::vector<QAction*> werkzeuge;           ///< all of them, to be switched on
     };
     Figurenmenue(Umfeld umfeld, QWidget* fenster) : u_(std::move(umfeld)), fenster_(fenster) {}
 

@@ -38,6 +38,7 @@
 #include "ui/fenster/Werkzeugleiste.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
+#include "ui/seitenleiste/Seitenleiste.h"
 #include "ui/werkzeuge/Punktgang.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
@@ -94,8 +95,9 @@ void TZrwMainDlg::BaueFenster() {
     leiste->freieFlaeche = [this] { LoeseWerkzeuge(); };
     BaueFelder(*leiste);
     spalte->addWidget(leiste);
-    BaueBild(*mitte);
-    spalte->addWidget(bild_, 1);
+    bildfach_ = new Bildfach(mitte);
+    BaueBild();
+    spalte->addWidget(bildfach_, 1);
     setCentralWidget(mitte);
 
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
@@ -116,8 +118,9 @@ void TZrwMainDlg::BaueFenster() {
     startseite_->setFocus();
 }
 
-void TZrwMainDlg::BaueBild(QWidget& eltern) {
-    bild_ = new ImageZarwik(planbild_.Flaeche(), *this, &eltern);
+void TZrwMainDlg::BaueBild() {
+    bild_ = new ImageZarwik(planbild_.Flaeche(), *this, bildfach_);
+    bildfach_->setCentralWidget(bild_);
     planbild_.SetzeAnzeige(*bild_);
     planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
     const auto melde = [this](const QString& text) {
@@ -228,6 +231,7 @@ void TZrwMainDlg::BaueDialoge() {
     connect(beobachtungstyp_, &QDialog::finished, this,
             [this] { aktionen_->NachName("EditBeobButton").setChecked(false); });
     aktionen_->ErklaereWerkzeuge(werkzeuge_);
+    BaueSeitenleiste();
 }
 
 void TZrwMainDlg::FuehreAus(const Befehl& befehl) {

@@ -31,19 +31,23 @@ namespace zrw {
 class Aktionen;
 class Aussenhinweis;
 struct Befehl;
+class Bildfach;
+class Eigenschaftsseite;
 class Ergebnisanzeige;
 class Figurenmenue;
 class Hilfefenster;
 class Nummernfeld;
 class Punktartwahl;
 class Punktgang;
-class Standfelder;
-class Startseite;
 class Punktversteck;
 class Schwebekarte;
+class Seitenleiste;
+class Standfelder;
+class Startseite;
 class TFormBeobTyp;
 class TZRWLBLForm;
 class Werkzeugleiste;
+class Zeichenseite;
 class Zentrierkasten;
 
 class TZrwMainDlg final : public QMainWindow,
@@ -93,6 +97,7 @@ class TZrwMainDlg final : public QMainWindow,
     void FruehereAnsichtClick();
     void SpaetereAnsichtClick();
     void PunktSucheClick();
+    void SeitenleisteClick();
     void LoeseWerkzeuge();
     void Rueckgaengig();
     void WiederholeSchritt();
@@ -111,7 +116,7 @@ class TZrwMainDlg final : public QMainWindow,
     // Hauptfenster.cpp
     void BaueFenster();
     void BaueAktionen();
-    void BaueBild(QWidget& eltern);
+    void BaueBild();
     void BaueFelder(Werkzeugleiste& leiste);
     void BaueDialoge();
     void FuehreAus(const Befehl& befehl);
@@ -130,6 +135,8 @@ class TZrwMainDlg final : public QMainWindow,
 
     // HauptfensterAnsicht.cpp
     void BaueAuswahl();
+    void BaueSeitenleiste();
+    void WaehleImBild(PunktIndex nr);
     [[nodiscard]] QString TextZu(Bildpunkt ort);
     void ZeigeStand();
     void ZeigeZeiger(Bildpunkt ort);
@@ -211,6 +218,10 @@ class TZrwMainDlg final : public QMainWindow,
     Schwebekarte* karte_ = nullptr;
     std::unique_ptr<Figurenmenue> figurenmenue_;
     Startseite* startseite_ = nullptr;  ///< over the picture, until a network is open
+    Bildfach* bildfach_ = nullptr;
+    Seitenleiste* seitenleiste_ = nullptr;
+    Eigenschaftsseite* eigenschaften_ = nullptr;
+    Zeichenseite* zeichen_ = nullptr;
     Standfelder* standfelder_ = nullptr;
     QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
     Massstabfeld* EditMasstab_ = nullptr;

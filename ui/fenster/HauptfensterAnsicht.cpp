@@ -10,12 +10,16 @@
 #include "ui/bild/Figurentext.h"
 #include "ui/bild/Schwebekarte.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/ergebnisse/Ergebnisgitter.h"
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Figurenmenue.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Standfelder.h"
+#include "ui/seitenleiste/Eigenschaftsseite.h"
+#include "ui/seitenleiste/Seitenleiste.h"
+#include "ui/seitenleiste/Zeichenseite.h"
 #include "ui/werkzeuge/Punktgang.h"
 
 namespace zrw {
@@ -26,6 +30,7 @@ void TZrwMainDlg::BildGezeichnet() {
     werkzeuge_.Schwebe();
     ergebnisse_->MeldeTabellen();
     standfelder_->ZeigeMassstab(*plan_.Daten(), programm_.netz);
+    zeichen_->NetzGezeichnet();
     if (aussenhinweis_->isVisible()) aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
 }
 
@@ -38,7 +43,8 @@ void TZrwMainDlg::BaueAuswahl() {
     figurenmenue_ = std::make_unique<Figurenmenue>(
         Figurenmenue::Umfeld{*this, werkzeuge_.Ausgewaehlt(), [this](Welt ort) { planbild_.SetzeMitte(ort); },
                              [this](const QStringList& nummern) { versteck_->VerbergePunkte(nummern); },
-                             ansichten, aktionen_->Werkzeuge()},
+                             [this] { seitenleiste_->ZeigeSeite(*eigenschaften_); }, ansichten,
+                             aktionen_->Werkzeuge()},
         this);
     werkzeuge_.rechteTaste = [this](Bildpunkt ort) {
         karte_->VerbirgKarte();
@@ -46,6 +52,36 @@ void TZrwMainDlg::BaueAuswahl() {
         figurenmenue_->ZeigeMenue(
             bild_->mapToGlobal(QPoint(static_cast<int>(ort.x), static_cast<int>(ort.y))));
     };
+}
+
+void TZrwMainDlg::BaueSeitenleiste() {
+    seitenleiste_ = new Seitenleiste(*bildfach_);
+    eigenschaften_ = new Eigenschaftsseite(
+        {programm_, plan_, werkzeuge_.Ausgewaehlt(), *ergebnisse_,
+         [this](PunktIndex nr) { WaehleImBild(nr); }, ergebnisse_->Fenster().Gitter().zeigePunkt},
+        seitenleiste_);
+    zeichen_ = new Zeichenseite(
+        programm_, plan_, [this] { return vorlieben_.KantenGlaetten; }, seitenleiste_);
+    seitenleiste_->NimmSeite(*eigenschaften_, QStringLiteral("Eigenschaften"));
+    seitenleiste_->NimmSeite(*zeichen_, QStringLiteral("Linien und Symbole"));
+    werkzeuge_.Ausgewaehlt().gewechselt = [this] { eigenschaften_->ZeigeAuswahl(); };
+    seitenleiste_->LadeStand(programm_.sitzung);
+    QAction& aktion = aktionen_->NachName("SeitenLeiste");
+    aktion.setChecked(!seitenleiste_->isHidden());
+    connect(seitenleiste_->toggleViewAction(), &QAction::toggled, &aktion, &QAction::setChecked);
+}
+
+void TZrwMainDlg::SeitenleisteClick() {
+    seitenleiste_->setVisible(aktionen_->NachName("SeitenLeiste").isChecked());
+}
+
+/// A point that the side bar names.
+void TZrwMainDlg::WaehleImBild(PunktIndex nr) {
+    PPunktKnoten punkt = plan_.Offen() ? plan_.Daten()->SuchPkt(nr) : nullptr;
+    if (punkt == nullptr) return;
+    LoeseWerkzeuge();
+    planbild_.HoleInsBild({punkt->XWPu, punkt->YWPu});
+    werkzeuge_.Ausgewaehlt().WaehlePunkt(*punkt);
 }
 
 /// What the card beside the mouse says.

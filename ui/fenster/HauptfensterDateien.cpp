@@ -27,6 +27,7 @@
 #include "ui/fenster/Startseite.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
+#include "ui/seitenleiste/Seitenleiste.h"
 #include "ui/werkzeuge/Punktgang.h"
 
 namespace zrw {
@@ -205,6 +206,7 @@ void TZrwMainDlg::closeEvent(QCloseEvent* ereignis) {
         dialog->close();
     if (hilfe_ != nullptr) hilfe_->close();
     programm_.sitzung.MerkeStand(QStringLiteral("Fensterlage"), saveGeometry());
+    seitenleiste_->MerkeStand(programm_.sitzung);
     ereignis->accept();
 }
 

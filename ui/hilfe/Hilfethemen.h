@@ -41,6 +41,7 @@ inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {25, "25_schalter.md", "Schalter der Darstellung", kDarstellung},
     {4, "04_kartengitter.md", "Kartenblätter und Kilometerquadrate", kDarstellung},
     {28, "28_legende.md", "Legende", kDarstellung},
+    {40, "40_seitenleiste.md", "Seitenleiste", kDarstellung},
     {36, "36_genauigkeiten.md", "Verbesserungen und Genauigkeiten", kDarstellung},
 
     {34, "34_werkzeuge.md", "Mit Werkzeugen arbeiten", kMausbedienung},
@@ -100,6 +101,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"EinpassenButton", 6},
     {"FruehereAnsicht", 6},
     {"SpaetereAnsicht", 6},
+    {"SeitenLeiste", 40},
     {"PunktSuche", 9},
     {"ComboBox1", 9},
     {"SpeedButton10", 9},

@@ -55,15 +55,29 @@ void Auswahl::Abbrechen() {
 void Auswahl::LeereAuswahl() {
     punkte_.clear();
     kante_ = nullptr;
+    MeldeWechsel();
+}
+
+void Auswahl::WaehlePunkt(PunktKnoten& punkt) {
+    punkte_ = {&punkt};
+    kante_ = nullptr;
+    MeldeWechsel();
+    MeldeAuswahl();
+}
+
+void Auswahl::MeldeWechsel() {
     umgebung_.UeberlagerungGeaendert();
+    if (gewechselt) gewechselt();
 }
 
 /// Figures that have gone or are no longer shown leave the selection.
 void Auswahl::NetzGeaendert() {
     const Liste* netz = umgebung_.AktuelleListe();
     if (netz == nullptr) return LeereAuswahl();
+    if (Leer()) return;
     std::erase_if(punkte_, [&](const PunktKnoten* p) { return !Sichtbar(*netz, *p); });
     if (kante_ != nullptr && (!netz->EnthaeltKante(*kante_) || !kante_->Item->Visible)) kante_ = nullptr;
+    MeldeWechsel();
 }
 
 bool Auswahl::WaehleBei(Bildpunkt ort) {
@@ -86,7 +100,7 @@ void Auswahl::Waehle(Bildpunkt ort, bool dazu) {
     } else if (punkte_.empty()) {
         kante_ = netz.PickGezeigte(ort);
     }
-    umgebung_.UeberlagerungGeaendert();
+    MeldeWechsel();
 }
 
 void Auswahl::NimmPunkt(PunktKnoten& punkt, bool wechseln) {
@@ -111,7 +125,7 @@ void Auswahl::WaehleRechteck(Bildpunkt a, Bildpunkt b, bool dazu) {
         const bool innen = ort.x >= r.links && ort.x <= r.rechts && ort.y >= r.oben && ort.y <= r.unten;
         if (innen && Sichtbar(netz, *p) && schon.count(p) == 0) punkte_.push_back(p);
     }
-    umgebung_.UeberlagerungGeaendert();
+    MeldeWechsel();
 }
 
 void Auswahl::MeldeAuswahl() {

@@ -2,6 +2,7 @@
 // selection lies over the picture and changes nothing.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -13,12 +14,17 @@ class Auswahl final : public Werkzeug {
   public:
     explicit Auswahl(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
+    /// Something else is selected now, or what is selected may have changed.
+    std::function<void()> gewechselt;
+
     [[nodiscard]] const std::vector<PPunktKnoten>& Punkte() const { return punkte_; }
     /// Null without one; there is one only where no points are selected.
     [[nodiscard]] PPunktKante Kante() const { return kante_; }
     [[nodiscard]] bool Leer() const { return punkte_.empty() && kante_ == nullptr; }
     /// Selects what lies there, unless it is selected already. @return false: nothing does
     bool WaehleBei(Bildpunkt ort);
+    /// Just this point.
+    void WaehlePunkt(PunktKnoten& punkt);
     void LeereAuswahl();
     void ZeichneAuswahl(Zeichenflaeche& flaeche) const;
 
@@ -36,6 +42,7 @@ class Auswahl final : public Werkzeug {
     void WaehleRechteck(Bildpunkt a, Bildpunkt b, bool dazu);
     void NimmPunkt(PunktKnoten& punkt, bool wechseln);
     void MeldeAuswahl();
+    void MeldeWechsel();
 
     Werkzeugumgebung& umgebung_;
     std::optional<Bildpunkt> anfang_;

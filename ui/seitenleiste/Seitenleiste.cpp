@@ -1,0 +1,54 @@
+#include "ui/seitenleiste/Seitenleiste.h"
+
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace zrw {
+namespace {
+
+const QString kLage = QStringLiteral("Seitenleiste/Lage");
+const QString kSeite = QStringLiteral("Seitenleiste/Seite");
+
+/// Where nobody has made it wider [px].
+constexpr int kWeite = 320;
+
+}  // namespace
+
+Bildfach::Bildfach(QWidget* eltern) : QMainWindow(eltern) {
+    setWindowFlags(Qt::Widget);  // as an argument it would be a window all the same
+    setObjectName(QStringLiteral("BildFach"));
+    setContextMenuPolicy(Qt::NoContextMenu);
+}
+
+Seitenleiste::Seitenleiste(Bildfach& fach)
+    : QDockWidget(QStringLiteral("Seitenleiste"), &fach), fach_(fach), reiter_(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("SeitenLeiste"));
+    setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    reiter_->setObjectName(QStringLiteral("SeitenReiter"));
+    reiter_->tabBar()->setAccessibleName(QStringLiteral("Seiten der Seitenleiste"));
+    setWidget(reiter_);
+    fach.addDockWidget(Qt::RightDockWidgetArea, this);
+    hide();
+}
+
+void Seitenleiste::NimmSeite(QWidget& seite, const QString& titel) {
+    reiter_->addTab(&seite, titel);
+}
+
+void Seitenleiste::ZeigeSeite(QWidget& seite) {
+    reiter_->setCurrentWidget(&seite);
+    show();
+    raise();
+}
+
+void Seitenleiste::LadeStand(const Sitzung& sitzung) {
+    if (!fach_.restoreState(sitzung.Stand(kLage))) fach_.resizeDocks({this}, {kWeite}, Qt::Horizontal);
+    reiter_->setCurrentIndex(sitzung.Stand(kSeite).toInt());
+}
+
+void Seitenleiste::MerkeStand(Sitzung& sitzung) const {
+    sitzung.MerkeStand(kLage, fach_.saveState());
+    sitzung.MerkeStand(kSeite, QByteArray::number(reiter_->currentIndex()));
+}
+
+}  // namespace zrw

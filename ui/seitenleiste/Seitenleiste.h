@@ -1,0 +1,36 @@
+// The side bar beside the picture: a dock with a page for each tab. Closed until somebody opens it; where it
+// stands, how wide it is and which page is up are remembered.
+#pragma once
+
+#include <QDockWidget>
+#include <QMainWindow>
+
+#include "ui/ablage/Sitzung.h"
+
+class QTabWidget;
+
+namespace zrw {
+
+/// The picture with room for docks at its sides, below the tool panel.
+class Bildfach final : public QMainWindow {
+  public:
+    explicit Bildfach(QWidget* eltern);
+};
+
+class Seitenleiste final : public QDockWidget {
+  public:
+    explicit Seitenleiste(Bildfach& fach);
+
+    void NimmSeite(QWidget& seite, const QString& titel);
+    /// Opens the side bar at this page.
+    void ZeigeSeite(QWidget& seite);
+    // After all pages are in it; before the window is hidden.
+    void LadeStand(const Sitzung& sitzung);
+    void MerkeStand(Sitzung& sitzung) const;
+
+  private:
+    Bildfach& fach_;
+    QTabWidget* reiter_;
+};
+
+}  // namespace zrw
