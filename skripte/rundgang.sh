@@ -40,7 +40,7 @@ speichere() { # the dialog takes the name, an existing file is replaced
 }
 # Tools and commands by their keys, or by the letters of menu and entry.
 declare -A knopf=([pan]=1 [zoom]=2 [punkt]=3 [nummer]=4 [beob]=5 [art]=6 [zentriere]=9 [alles]=Home
-    [hidenr]="alt+w k" [hide]="alt+w t" [daten]="alt+w s" [vorschau]="alt+u v"
+    [hidenr]="alt+w k" [hide]="alt+w t" [daten]="alt+w g" [vorschau]="alt+u v"
     [lageverb]="alt+e l" [lagegen]="alt+e a" [hoehengen]="alt+e e" [tk25]="alt+a 2")
 modus() {
     local tasten
@@ -60,12 +60,23 @@ for schalter in lageverb lagegen hoehengen; do modus $schalter; done
 bild 10_ergebnisse
 modus daten
 klick 414 394 # point 10
-xdotool search --sync --onlyvisible --name '^Abriss nach der Ausgleichung Punkt' >/dev/null
+timeout 20 xdotool search --sync --onlyvisible --name '^Abriss nach der Ausgleichung Punkt' >/dev/null
 bild 11_abriss root
 modus daten
+taste F9
+klick 414 394
+nach 300 700
+bild 14_seitenleiste
+taste Escape F9
 for schalter in lageverb lagegen hoehengen; do modus $schalter; done
+taste ctrl+shift+e
+ausgabe=$(timeout 20 xdotool search --sync --onlyvisible --name '^Ausgeben$' | tail -1)
+sleep 2
+bild 15_ausgeben "$ausgabe"
+xdotool key Escape
+sleep 0.5
 modus vorschau
-vorschau=$(xdotool search --sync --onlyvisible --name '^Druckvorschau$' | tail -1)
+vorschau=$(timeout 20 xdotool search --sync --onlyvisible --name '^Druckvorschau$' | tail -1)
 sleep 2
 bild 12_vorschau "$vorschau"
 xdotool key Escape
@@ -84,7 +95,7 @@ modus hidenr
 klick 433 339 # number 34, by its point
 bild 04_versteckt
 modus beob
-dialog=$(xdotool search --sync --onlyvisible --name '^Beobachtungstyp$' | tail -1)
+dialog=$(timeout 20 xdotool search --sync --onlyvisible --name '^Beobachtungstyp$' | tail -1)
 imDialog() { xdotool mousemove --window "$dialog" "$1" "$2" click 1 && sleep 0.3; }
 imDialog 175 49 # both directions
 imDialog 16 232 # new lines
@@ -93,7 +104,7 @@ klick 573 612 # REF5
 klick 629 323 # to REF3
 bild 05_beobachtung_eingefuegt root
 modus art
-art=$(xdotool search --sync --onlyvisible --name '^Punktart$' | tail -1)
+art=$(timeout 20 xdotool search --sync --onlyvisible --name '^Punktart$' | tail -1)
 xdotool windowmove "$art" 900 300
 klick 203 447 # point 24
 dialog=$art
@@ -136,10 +147,11 @@ xdotool key n
 wait $programm
 if [ -n "$neu" ]; then
     for paar in 01_geoeffnet=fenster 02_vergroessert=vergroessert 03_punkt_verschoben=punkt_verschieben \
-        10_ergebnisse=ergebnisse 12_vorschau=vorschau 13_gitter=gitter; do
-        cp "$bilder/${paar%=*}.png" "$neu/${paar#*=}.png"
+        10_ergebnisse=ergebnisse 12_vorschau=vorschau 13_gitter=gitter 14_seitenleiste=seitenleiste; do
+        convert "$bilder/${paar%=*}.png" -dither None -colors 256 "PNG8:$neu/${paar#*=}.png"
     done
-    convert "$bilder/11_abriss.png" -crop "1182x$((822 + oben))+0+0" +repage "$neu/abriss.png"
+    convert "$bilder/11_abriss.png" -crop "1182x$((822 + oben))+0+0" +repage -dither None -colors 256 \
+        "PNG8:$neu/abriss.png"
     "$zarwik" --export png --ziel "$bilder" "$wurzel/beispiele/LINIEN.ZRW"
     cp "$bilder/LINIEN.png" "$neu/linienstile.png"
 fi

@@ -86,7 +86,7 @@ TEST_F(Seitenleistenprobe, ZaehltLinienUndSymbole) {
         << Zeilen().join('\n').toStdString();
     // Samples are drawn as in the plan: in its colours.
     const QTreeWidgetItem* punkte = Kind<QTreeWidget>("ZeichenListe").topLevelItem(1)->child(0);
-    EXPECT_EQ(punkte->icon(0).pixmap(72, 26).toImage().pixelColor(36, 13), QColor(Qt::red));
+    EXPECT_EQ(punkte->icon(0).pixmap(64, 26).toImage().pixelColor(32, 13), QColor(Qt::red));
 }
 
 }  // namespace

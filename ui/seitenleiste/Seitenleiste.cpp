@@ -10,7 +10,7 @@ const QString kLage = QStringLiteral("Seitenleiste/Lage");
 const QString kSeite = QStringLiteral("Seitenleiste/Seite");
 
 /// Where nobody has made it wider [px].
-constexpr int kWeite = 320;
+constexpr int kWeite = 340;
 
 }  // namespace
 

@@ -8,7 +8,7 @@
 namespace zrw {
 namespace {
 
-constexpr QSize kMustergroesse{72, 26};
+constexpr QSize kMustergroesse{64, 26};
 
 /// Until what goes on has come to rest [ms].
 constexpr int kRuhe = 200;
