@@ -21,6 +21,7 @@ class Zaehler {
     [[nodiscard]] std::vector<Zeichengruppe<Figur>> Gruppen() const {
         std::map<std::uint64_t, Zeichengruppe<Figur>> geordnet(gruppen_.begin(), gruppen_.end());
         std::vector<Zeichengruppe<Figur>> alle;
+        alle.reserve(geordnet.size());
         for (auto& [aussehen, gruppe] : geordnet)
             alle.push_back(gruppe);
         return alle;
