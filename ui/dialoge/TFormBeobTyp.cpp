@@ -8,6 +8,7 @@
 #include "model/Linienarten.h"
 #include "ui/Umwandlung.h"
 #include "ui/dialoge/Auswahlgruppe.h"
+#include "ui/dialoge/Kurzzeile.h"
 
 namespace zrw {
 namespace {
@@ -32,6 +33,8 @@ void SchalteStill(QCheckBox& kasten, bool ein) {
 TFormBeobTyp::TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern)
     : QDialog(eltern),
       dialoge_(dialoge),
+      beobachtung_(new Kurzzeile(QStringLiteral("BeobachtungsEnden"),
+                                 QStringLiteral("Bearbeitete Beobachtung"), this)),
       RadioGroupRichtg_(new Auswahlgruppe(
           QStringLiteral("RadioGroupRichtg"), QStringLiteral("Richtungsmessung"),
           {QStringLiteral("Keine"), QStringLiteral("Einseitig"), QStringLiteral("Zweiseitig")}, 3, this)),
@@ -54,8 +57,9 @@ TFormBeobTyp::TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern)
     CheckBoxNeuBeob_->setToolTip(QStringLiteral("Neue Beobachtung einfügen"));
 
     auto* spalte = new QVBoxLayout(this);
-    for (QWidget* teil : std::initializer_list<QWidget*>{RadioGroupRichtg_, CheckBoxStrecke_, CheckBoxGps_,
-                                                         RadioGroupZenit_, CheckBoxInd_, CheckBoxNeuBeob_}) {
+    for (QWidget* teil :
+         std::initializer_list<QWidget*>{beobachtung_, RadioGroupRichtg_, CheckBoxStrecke_, CheckBoxGps_,
+                                         RadioGroupZenit_, CheckBoxInd_, CheckBoxNeuBeob_}) {
         spalte->addWidget(teil);
     }
     spalte->addStretch();
@@ -85,6 +89,10 @@ void TFormBeobTyp::IndirektGeschaltet(bool ein) {
         return;  // the type is what it was
     }
     if (geaendert) geaendert();
+}
+
+void TFormBeobTyp::NenneBeobachtung(const QString& text) {
+    beobachtung_->ZeigeText(text);
 }
 
 void TFormBeobTyp::ZeigeWahl(const Beobachtungswahl& wahl) {

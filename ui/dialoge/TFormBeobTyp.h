@@ -12,11 +12,14 @@ class QCheckBox;
 namespace zrw {
 
 class Auswahlgruppe;
+class Kurzzeile;
 
 class TFormBeobTyp final : public QDialog {
   public:
     explicit TFormBeobTyp(Dialogdienst& dialoge, QWidget* eltern);
 
+    /// Which observation is being edited, or what is missing until one is.
+    void NenneBeobachtung(const QString& text);
     /// Shows a type without calling back.
     void ZeigeWahl(const Beobachtungswahl& wahl);
     [[nodiscard]] Beobachtungswahl Wahl() const;
@@ -31,6 +34,7 @@ class TFormBeobTyp final : public QDialog {
     void GpsGeschaltet(bool ein);
 
     Dialogdienst& dialoge_;
+    Kurzzeile* beobachtung_;
     Auswahlgruppe* RadioGroupRichtg_;
     QCheckBox* CheckBoxStrecke_;
     QCheckBox* CheckBoxGps_;

@@ -4,6 +4,7 @@
 
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Aenderungen.h"
+#include "ui/bild/Figurentext.h"
 #include "ui/dialoge/TFormBeobTyp.h"
 #include "ui/werkzeuge/Markierung.h"
 
@@ -23,6 +24,7 @@ void BeobachtungBearbeiten::BeginneWerkzeug() {
         Abbrechen();
         umgebung_.ZeigeStatus(Anleitung());
     };
+    NenneBeobachtung();
     if (umgebung_.AktuelleListe() != nullptr) dialog.show();
 }
 
@@ -48,6 +50,7 @@ void BeobachtungBearbeiten::Druecken(Bildpunkt ort) {
     } else {
         erster_ = punkt;
         umgebung_.ZeigeStatus(Anleitung());
+        NenneBeobachtung();
         ZeigeGewaehltes({});
     }
 }
@@ -56,6 +59,7 @@ void BeobachtungBearbeiten::WaehleKante(PunktKante* kante) {
     kante_ = kante;
     if (kante != nullptr)
         umgebung_.Beobachtungsdialog().ZeigeWahl(AlsWahl({kante->Item->LAttr, kante->Item->KAttr}));
+    NenneBeobachtung();
     ZeigeGewaehltes({});
 }
 
@@ -72,6 +76,7 @@ void BeobachtungBearbeiten::TypGewaehlt() {
 void BeobachtungBearbeiten::VerbindePunkte(Liste& netz, PunktKnoten& zweiter) {
     if (erster_->PNr == zweiter.PNr) return;  // a double click
     const PunktKnoten& erster = *std::exchange(erster_, nullptr);
+    NenneBeobachtung();
     const auto melde = [&](const char* was) {
         umgebung_.ZeigeStatus(QStringLiteral("Beobachtung %1 – %2 %3")
                                   .arg(AusNetz(netz.GetPktText(erster.PNr)),
@@ -111,10 +116,29 @@ void BeobachtungBearbeiten::ZeigeGewaehltes(const Vorschau& dazu) {
         erster_ != nullptr ? MarkiereTreffer(*netz, erster_) : MarkiereTreffer(*netz, kante_), dazu));
 }
 
+/// In the dialog: both ends of the observation, or the step that is missing.
+void BeobachtungBearbeiten::NenneBeobachtung() {
+    TFormBeobTyp& dialog = umgebung_.Beobachtungsdialog();
+    const Liste* netz = umgebung_.AktuelleListe();
+    if (netz != nullptr && kante_ != nullptr) {
+        dialog.NenneBeobachtung(
+            QStringLiteral("%1 nach %2").arg(Nummertext(*netz, kante_->ANr), Nummertext(*netz, kante_->ENr)));
+    } else if (!dialog.NeueBeobachtung()) {
+        dialog.NenneBeobachtung(QStringLiteral("Linie anklicken"));
+    } else if (netz != nullptr && erster_ != nullptr) {
+        dialog.NenneBeobachtung(
+            QStringLiteral("%1: zweiten Punkt anklicken").arg(Nummertext(*netz, erster_->PNr)));
+    } else {
+        dialog.NenneBeobachtung(QStringLiteral("Ersten Punkt anklicken"));
+    }
+}
+
 void BeobachtungBearbeiten::Abbrechen() {
     kante_ = nullptr;
     umgebung_.ZeigeVorschau({});
-    if (std::exchange(erster_, nullptr) != nullptr) umgebung_.ZeigeStatus(Anleitung());
+    const bool begonnen = std::exchange(erster_, nullptr) != nullptr;
+    NenneBeobachtung();
+    if (begonnen) umgebung_.ZeigeStatus(Anleitung());
 }
 
 void BeobachtungBearbeiten::NetzGeaendert() {
@@ -127,6 +151,7 @@ void BeobachtungBearbeiten::NetzGeaendert() {
     if (kante_ != nullptr) {
         WaehleKante(kante_);
     } else {
+        NenneBeobachtung();
         ZeigeGewaehltes({});
     }
 }

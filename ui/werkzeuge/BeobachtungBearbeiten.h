@@ -26,6 +26,7 @@ class BeobachtungBearbeiten final : public Werkzeug {
     void TypGewaehlt();
     void VerbindePunkte(Liste& netz, PunktKnoten& zweiter);
     void ZeigeGewaehltes(const Vorschau& dazu);
+    void NenneBeobachtung();
 
     Werkzeugumgebung& umgebung_;
     PunktKante* kante_ = nullptr;    ///< picked, the dialog changes it

@@ -1,0 +1,49 @@
+// Editing says what it edits: the windows of the tools name the figures, and the status line what was done.
+#include <QDialog>
+#include <QLabel>
+
+#include "tests/ui/Netzprobe.h"
+
+namespace zrw {
+namespace {
+
+class Bearbeiten : public Netzprobe {
+  protected:
+    [[nodiscard]] QString Enden() const { return Kind<QLabel>("BeobachtungsEnden").text(); }
+    void BeginneLinie() const {
+        Modus("EditBeobButton");
+        FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
+    }
+};
+
+TEST_F(Bearbeiten, DialogNenntDieBeobachtung) {
+    Modus("EditBeobButton");
+    EXPECT_EQ(Enden(), "Linie anklicken");
+    Klick((C + E) / 2);
+    EXPECT_EQ(Enden(), "C nach E");
+    EXPECT_EQ(Kind<QLabel>("BeobachtungsEnden").accessibleName(), "Bearbeitete Beobachtung: C nach E");
+    BeginneLinie();
+    EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
+    Klick(A);
+    EXPECT_EQ(Enden(), "A: zweiten Punkt anklicken");
+    Taste(Qt::Key_Escape);
+    EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
+}
+
+TEST_F(Bearbeiten, LangeNummernVerbreiternNichts) {
+    const QString lang = "WWWWWWWWWWWWWW";
+    LegeDateiAn("l.EIN",
+                "$NT 3\n$FP WWWWWWWWWWWWWW 1         1000         1000\n"
+                "    MMMMMMMMMMMMMM 1         3000         1000\n"
+                "$ST WWWWWWWWWWWWWW MMMMMMMMMMMMMM\n$$$\n");
+    Modus("EditBeobButton");
+    const int breite = Kind<QDialog>("TFormBeobTyp").sizeHint().width();
+    OeffneDatei("l.EIN");
+    const QPoint mitte = (Ort("WWWWWWWWWWWWWW") + Ort("MMMMMMMMMMMMMM")) / 2;
+    Klick(mitte);
+    EXPECT_EQ(Kind<QLabel>("BeobachtungsEnden").toolTip(), lang + " nach MMMMMMMMMMMMMM");
+    EXPECT_EQ(Kind<QDialog>("TFormBeobTyp").sizeHint().width(), breite);
+}
+
+}  // namespace
+}  // namespace zrw
