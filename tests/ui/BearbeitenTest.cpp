@@ -10,6 +10,7 @@ namespace {
 class Bearbeiten : public Netzprobe {
   protected:
     [[nodiscard]] QString Enden() const { return Kind<QLabel>("BeobachtungsEnden").text(); }
+    [[nodiscard]] QString Vorhaben() const { return Kind<QLabel>("ZentrierVorhaben").text(); }
     void BeginneLinie() const {
         Modus("EditBeobButton");
         FindeTeil("TFormBeobTyp", "CheckBoxNeuBeob").setChecked(true);
@@ -43,6 +44,17 @@ TEST_F(Bearbeiten, LangeNummernVerbreiternNichts) {
     Klick(mitte);
     EXPECT_EQ(Kind<QLabel>("BeobachtungsEnden").toolTip(), lang + " nach MMMMMMMMMMMMMM");
     EXPECT_EQ(Kind<QDialog>("TFormBeobTyp").sizeHint().width(), breite);
+}
+
+TEST_F(Bearbeiten, ZentrierkastenNenntWasErTut) {
+    Modus("SpeedButton13");
+    EXPECT_EQ(Vorhaben(), "Exzentren und Zentrum wählen");
+    WaehleTexte("GroupBox1", "ExzListBox", {"A", "C", "D"});
+    EXPECT_EQ(Vorhaben(), "Zentrum wählen");
+    WaehleTexte("GroupBox1", "PZListBox", {"B"});
+    EXPECT_EQ(Vorhaben(), "3 Punkte auf B");
+    FindeTeil("GroupBox1", "OkButton").click();
+    EXPECT_EQ(Vorhaben(), "Exzentren und Zentrum wählen") << "what was chosen has left the lists";
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "ui/dialoge/Kurzzeile.h"
 #include "ui/fenster/Nummernordnung.h"
 
 namespace zrw {
@@ -65,6 +66,8 @@ Zentrierkasten::Zentrierkasten(QWidget* eltern)
     ExzListBox_ = NeueListe("ExzListBox", "Exzentren auswählen", exzentren_, this);
     ExzListBox_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     PZListBox_ = NeueListe("PZListBox", "Zentrum auswählen", zentren_, this);
+    vorhaben_ =
+        new Kurzzeile(QStringLiteral("ZentrierVorhaben"), QStringLiteral("Was „Zentrieren“ tut"), this);
     auto* ok = new QPushButton(QStringLiteral("Zentrieren"), this);
     ok->setObjectName(QStringLiteral("OkButton"));
     ok->setToolTip(QStringLiteral("Markierte Punkte zentrieren"));
@@ -77,8 +80,9 @@ Zentrierkasten::Zentrierkasten(QWidget* eltern)
     feld->addWidget(NeuesSchild("Zentrum", this), 0, 1);
     feld->addWidget(ExzListBox_, 1, 0);
     feld->addWidget(PZListBox_, 1, 1);
-    feld->addWidget(ok, 2, 0);
-    feld->addWidget(abbruch, 2, 1);
+    feld->addWidget(vorhaben_, 2, 0, 1, 2);
+    feld->addWidget(ok, 3, 0);
+    feld->addWidget(abbruch, 3, 1);
     resize(320, 360);
     hide();
 
@@ -89,6 +93,9 @@ Zentrierkasten::Zentrierkasten(QWidget* eltern)
     connect(PZListBox_, &QListView::clicked, this, [this](const QModelIndex& stelle) {
         if (zentrumGewaehlt) zentrumGewaehlt(stelle.data().toString());
     });
+    for (const QListView* liste : {ExzListBox_, PZListBox_})
+        connect(liste->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                [this] { NenneVorhaben(); });
     connect(ok, &QPushButton::clicked, this, [this] { ZentriereGewaehlte(); });
     connect(abbruch, &QPushButton::clicked, this, [this] {
         hide();
@@ -103,6 +110,7 @@ void Zentrierkasten::FuelleListen(const QStringList& nummern) {
     OrdneNummern(sortiert);
     exzentren_->setStringList(sortiert);
     zentren_->setStringList({});
+    NenneVorhaben();
 }
 
 void Zentrierkasten::MerkeZentrierte(const QStringList& exzentren) {
@@ -112,8 +120,28 @@ void Zentrierkasten::MerkeZentrierte(const QStringList& exzentren) {
 
 void Zentrierkasten::ZeigeZentren() {
     zentren_->setStringList(exzentren_->stringList());
+    NenneVorhaben();
     show();
     raise();
+}
+
+std::optional<QString> Zentrierkasten::Zentrum() const {
+    const QModelIndexList gewaehlt = PZListBox_->selectionModel()->selectedIndexes();
+    return gewaehlt.isEmpty() ? std::nullopt : std::optional(gewaehlt.front().data().toString());
+}
+
+/// A click on an eccentre proposes it as the centre: by itself that is none yet.
+void Zentrierkasten::NenneVorhaben() {
+    const QModelIndexList exzentren = ExzListBox_->selectionModel()->selectedIndexes();
+    const std::optional<QString> zentrum = Zentrum();
+    const bool aufSich = exzentren.size() == 1 && zentrum == exzentren.front().data().toString();
+    if (exzentren.isEmpty())
+        return vorhaben_->ZeigeText(zentrum ? QStringLiteral("Exzentren wählen")
+                                            : QStringLiteral("Exzentren und Zentrum wählen"));
+    if (!zentrum || aufSich) return vorhaben_->ZeigeText(QStringLiteral("Zentrum wählen"));
+    const QString punkte =
+        exzentren.size() == 1 ? QStringLiteral("1 Punkt") : QStringLiteral("%1 Punkte").arg(exzentren.size());
+    vorhaben_->ZeigeText(punkte + QStringLiteral(" auf ") + *zentrum);
 }
 
 void Zentrierkasten::ZentriereGewaehlte() {
@@ -122,9 +150,7 @@ void Zentrierkasten::ZentriereGewaehlte() {
     QStringList exzentren;
     for (const QModelIndex& z : zeilen)
         exzentren << z.data().toString();
-    const QModelIndexList gewaehlt = PZListBox_->selectionModel()->selectedIndexes();
-    std::optional<QString> zentrum;
-    if (!gewaehlt.isEmpty()) zentrum = gewaehlt.front().data().toString();
+    const std::optional<QString> zentrum = Zentrum();
     constexpr qsizetype kViele = 10;
     if (zentrum && exzentren.size() > kViele && bestaetige && !bestaetige(exzentren.size(), *zentrum)) return;
     if (zentriere) zentriere(zentrum, exzentren);
@@ -135,6 +161,7 @@ void Zentrierkasten::ZentriereGewaehlte() {
         rest.removeAt(z->row());
     exzentren_->setStringList(rest);
     zentren_->setStringList(rest);
+    NenneVorhaben();
 }
 
 void Zentrierkasten::mousePressEvent(QMouseEvent* ereignis) {

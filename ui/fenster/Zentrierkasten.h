@@ -13,6 +13,8 @@ class QStringListModel;
 
 namespace zrw {
 
+class Kurzzeile;
+
 class Zentrierkasten final : public QGroupBox {
   public:
     explicit Zentrierkasten(QWidget* eltern);
@@ -39,12 +41,15 @@ class Zentrierkasten final : public QGroupBox {
     void mouseMoveEvent(QMouseEvent* ereignis) override;
 
   private:
+    [[nodiscard]] std::optional<QString> Zentrum() const;
+    void NenneVorhaben();
     void ZentriereGewaehlte();
 
     QListView* ExzListBox_;
     QListView* PZListBox_;
     QStringListModel* exzentren_;
     QStringListModel* zentren_;
+    Kurzzeile* vorhaben_;
     QSet<QString> zentriert_;
     QPoint griff_;
 };
