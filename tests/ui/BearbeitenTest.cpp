@@ -31,6 +31,38 @@ TEST_F(Bearbeiten, DialogNenntDieBeobachtung) {
     EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
 }
 
+TEST_F(Bearbeiten, LinieFolgtDerMausBisSieFertigIst) {
+    const QPoint leer(500, 400);
+    BeginneLinie();
+    FindeTeil("TFormBeobTyp", "RadioGroupRichtg2").click();  // no dashes
+    BewegeMaus(leer);
+    const QImage ohne = bild->grab().toImage();
+    const Stand vorher = Jetzt();
+    Klick(B);
+    BewegeMaus(B);  // a mouse that is there already does not move
+    BewegeMaus(leer);
+    const QImage frei = bild->grab().toImage();
+    const auto weiss = [](const QImage& b, QPoint p) {
+        const QImage umgebung = b.copy(QRect(p - QPoint(1, 1), QSize(3, 3)));
+        return !umgebung.isNull() && umgebung == QImage(b.copy(QRect(600, 450, 3, 3)));
+    };
+    EXPECT_FALSE(weiss(frei, (B + leer) / 2));
+    FindeTeil("TFormBeobTyp", "CheckBoxGps").setChecked(true);
+    EXPECT_NE(bild->grab().toImage(), frei) << "it looks as the line would";
+    BewegeMaus(E + QPoint(2, 1));
+    EXPECT_EQ(Enden(), "B nach E");
+    EXPECT_FALSE(weiss(bild->grab().toImage(), (B + E) / 2 + QPoint(0, 20))) << "to the point itself";
+    EXPECT_FALSE(weiss(bild->grab().toImage(), E - QPoint(0, 9))) << "with a ring round it";
+    EXPECT_EQ(Jetzt(), vorher);
+    Taste(Qt::Key_Escape);
+    BewegeMaus(leer);
+    EXPECT_EQ(bild->grab().toImage(), ohne);
+    Klick(B);
+    BewegeMaus(E);
+    OeffneDatei("a.EIN");
+    EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
+}
+
 TEST_F(Bearbeiten, LangeNummernVerbreiternNichts) {
     const QString lang = "WWWWWWWWWWWWWW";
     LegeDateiAn("l.EIN",

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "model/Bildorte.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/bild/Figurentext.h"
@@ -49,6 +50,7 @@ void BeobachtungBearbeiten::Druecken(Bildpunkt ort) {
         VerbindePunkte(*netz, *punkt);
     } else {
         erster_ = punkt;
+        zweiter_ = nullptr;
         umgebung_.ZeigeStatus(Anleitung());
         NenneBeobachtung();
         ZeigeGewaehltes({});
@@ -65,6 +67,7 @@ void BeobachtungBearbeiten::WaehleKante(PunktKante* kante) {
 
 /// The dialog has another type: the picked line takes it at once.
 void BeobachtungBearbeiten::TypGewaehlt() {
+    if (erster_ != nullptr) return ZieheLinie(*umgebung_.AktuelleListe());
     if (kante_ == nullptr) return;
     Kante& kante = *kante_->Item;
     const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(), kante.KAttr);
@@ -77,6 +80,7 @@ void BeobachtungBearbeiten::VerbindePunkte(Liste& netz, PunktKnoten& zweiter) {
     if (erster_->PNr == zweiter.PNr) return;  // a double click
     const PunktKnoten& erster = *std::exchange(erster_, nullptr);
     NenneBeobachtung();
+    ZeigeGewaehltes({});
     const auto melde = [&](const char* was) {
         umgebung_.ZeigeStatus(QStringLiteral("Beobachtung %1 – %2 %3")
                                   .arg(AusNetz(netz.GetPktText(erster.PNr)),
@@ -95,18 +99,39 @@ void BeobachtungBearbeiten::VerbindePunkte(Liste& netz, PunktKnoten& zweiter) {
             std::make_unique<KanteGeaendert>(netz, *vorhanden, typ.richtung, typ.weitere, drehen));
         return melde("geändert");
     }
-    const Kante neu = Kante::Create(umgebung_.Anzeige().GPSCol, typ.weitere, typ.richtung);
-    umgebung_.TueAenderung(std::make_unique<KanteEingefuegt>(netz, neu, erster.PNr, zweiter.PNr));
+    umgebung_.TueAenderung(std::make_unique<KanteEingefuegt>(netz, Entwurf(), erster.PNr, zweiter.PNr));
     melde("eingefügt");
 }
 
 void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     if (netz == nullptr) return;
+    maus_ = ort;
+    if (erster_ != nullptr) {
+        ZieheLinie(*netz);
+        return umgebung_.ZeigeStatus(Anleitung());
+    }
     const bool neu = umgebung_.Beobachtungsdialog().NeueBeobachtung();
     ZeigeGewaehltes(neu ? MarkiereTreffer(*netz, netz->ClickGezeigten(ort))
                         : MarkiereTreffer(*netz, netz->PickGezeigte(ort)));
-    if (erster_ != nullptr) umgebung_.ZeigeStatus(Anleitung());
+}
+
+/// The line that a second click would insert.
+Kante BeobachtungBearbeiten::Entwurf() const {
+    const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl());
+    return Kante::Create(umgebung_.Anzeige().GPSCol, typ.weitere, typ.richtung);
+}
+
+/// From the first point to the one under the mouse, else to the mouse itself.
+void BeobachtungBearbeiten::ZieheLinie(Liste& netz) {
+    zweiter_ = netz.ClickGezeigten(maus_);
+    if (zweiter_ != nullptr && zweiter_->PNr == erster_->PNr) zweiter_ = nullptr;
+    NenneBeobachtung();
+    Vorschau linie;
+    if (ImBild(netz, maus_))
+        linie = ZeigeEntwurf(Entwurf(), BildortVon(*erster_, netz),
+                             zweiter_ != nullptr ? BildortVon(*zweiter_, netz) : maus_);
+    ZeigeGewaehltes(Zusammen(std::move(linie), MarkiereTreffer(netz, zweiter_)));
 }
 
 void BeobachtungBearbeiten::ZeigeGewaehltes(const Vorschau& dazu) {
@@ -125,6 +150,9 @@ void BeobachtungBearbeiten::NenneBeobachtung() {
             QStringLiteral("%1 nach %2").arg(Nummertext(*netz, kante_->ANr), Nummertext(*netz, kante_->ENr)));
     } else if (!dialog.NeueBeobachtung()) {
         dialog.NenneBeobachtung(QStringLiteral("Linie anklicken"));
+    } else if (netz != nullptr && erster_ != nullptr && zweiter_ != nullptr) {
+        dialog.NenneBeobachtung(QStringLiteral("%1 nach %2")
+                                    .arg(Nummertext(*netz, erster_->PNr), Nummertext(*netz, zweiter_->PNr)));
     } else if (netz != nullptr && erster_ != nullptr) {
         dialog.NenneBeobachtung(
             QStringLiteral("%1: zweiten Punkt anklicken").arg(Nummertext(*netz, erster_->PNr)));
@@ -147,6 +175,7 @@ void BeobachtungBearbeiten::NetzGeaendert() {
     Liste& netz = *umgebung_.AktuelleListe();
     if (kante_ != nullptr && !netz.EnthaeltKante(*kante_)) kante_ = nullptr;
     if (erster_ != nullptr && !netz.EnthaeltPunkt(*erster_)) erster_ = nullptr;
+    zweiter_ = nullptr;
     // Undone or done again: the dialog shows what the line has now.
     if (kante_ != nullptr) {
         WaehleKante(kante_);

@@ -1,5 +1,5 @@
 // Editing observations with their dialog: a click picks a line, whose type the dialog then shows and changes;
-// with "Neue Beobachtung" two clicks insert a line of the dialog's type.
+// with "Neue Beobachtung" two clicks insert a line of the dialog's type, which follows the mouse in between.
 #pragma once
 
 #include "ui/werkzeuge/Werkzeug.h"
@@ -27,10 +27,14 @@ class BeobachtungBearbeiten final : public Werkzeug {
     void VerbindePunkte(Liste& netz, PunktKnoten& zweiter);
     void ZeigeGewaehltes(const Vorschau& dazu);
     void NenneBeobachtung();
+    [[nodiscard]] Kante Entwurf() const;
+    void ZieheLinie(Liste& netz);
 
     Werkzeugumgebung& umgebung_;
-    PunktKante* kante_ = nullptr;    ///< picked, the dialog changes it
-    PunktKnoten* erster_ = nullptr;  ///< first point of a new line
+    PunktKante* kante_ = nullptr;     ///< picked, the dialog changes it
+    PunktKnoten* erster_ = nullptr;   ///< first point of a new line
+    PunktKnoten* zweiter_ = nullptr;  ///< under the mouse, while there is a first one
+    Bildpunkt maus_;
 };
 
 }  // namespace zrw

@@ -61,6 +61,10 @@ Vorschau MarkiereRechteck(Bildpunkt a, Bildpunkt b) {
     };
 }
 
+Vorschau ZeigeEntwurf(const Kante& kante, Bildpunkt anfang, Bildpunkt ende) {
+    return [=](Zeichner& z, Zeichenflaeche& /*f*/) { z.ZeichneKante(kante, anfang, ende, Gang::Zeigen); };
+}
+
 Vorschau Zusammen(Vorschau unten, Vorschau oben) {
     if (!unten || !oben) return unten ? unten : oben;
     return [unten = std::move(unten), oben = std::move(oben)](Zeichner& z, Zeichenflaeche& f) {
@@ -76,6 +80,10 @@ Vorschau MarkiereTreffer(const Liste& netz, const PunktKnoten* punkt) {
 Vorschau MarkiereTreffer(const Liste& netz, const PunktKante* kante) {
     return kante != nullptr ? MarkiereKante(AnfangVon(*kante, netz, netz), EndeVon(*kante, netz, netz))
                             : Vorschau();
+}
+
+bool ImBild(const Ansicht& ansicht, Bildpunkt ort) {
+    return ort.x >= 0 && ort.y >= 0 && ort.x < ansicht.Weite && ort.y < ansicht.Hoehe;
 }
 
 }  // namespace zrw

@@ -17,10 +17,6 @@ namespace {
 /// A hand trembles when it clicks: shorter ways are clicks [px].
 constexpr std::int64_t kZittern = 3;
 
-bool ImBild(const Ansicht& a, Bildpunkt ort) {
-    return ort.x >= 0 && ort.y >= 0 && ort.x < a.Weite && ort.y < a.Hoehe;
-}
-
 }  // namespace
 
 QString Messen::Anleitung() const {
