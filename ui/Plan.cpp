@@ -7,6 +7,7 @@
 
 #include "model/Bilddatei.h"
 #include "ui/aenderungen/Verwerfen.h"
+#include "ui/bild/Figurentext.h"
 
 namespace zrw {
 
@@ -53,37 +54,49 @@ std::size_t Plan::SpeicherePlan(const std::filesystem::path& datei) {
     return weggelassen;
 }
 
+/// The numbers of a few points, how many there are of more.
+static QString Punktliste(const Netz& netz, const std::vector<PPunktKnoten>& punkte) {
+    constexpr std::size_t kWenige = 5;
+    if (punkte.size() > kWenige) return QStringLiteral("%1 Punkte").arg(punkte.size());
+    QStringList nummern;
+    for (const PunktKnoten* p : punkte)
+        nummern << Nummertext(netz, p->PNr);
+    return nummern.join(QStringLiteral(", "));
+}
+
 /// All steps came through `TueAenderung`.
 const Netzaenderung& Plan::Schritt(int i) const {
     return static_cast<const Netzaenderung&>(*schritte_.command(i));
 }
 
 template <class Tat>
-void Plan::FuehreAenderungAus(const Netzaenderung& aenderung, Tat tat) {
+void Plan::FuehreAenderungAus(const Netzaenderung& aenderung, const QString& vorsatz, Tat tat) {
     beobachter_.VorAenderung(aenderung.Betroffene());
     tat();
     beobachter_.NachAenderung(aenderung.Betroffene());
+    const QString satz = vorsatz + aenderung.text();
     RaeumeStapel(schritte_);
+    beobachter_.SchrittGetan(satz);
 }
 
 void Plan::TueAenderung(std::unique_ptr<Netzaenderung> aenderung) {
     assert(Offen() && aenderung != nullptr);
     const Netzaenderung& neu = *aenderung;
-    FuehreAenderungAus(neu, [&] { schritte_.push(aenderung.release()); });
+    FuehreAenderungAus(neu, {}, [&] { schritte_.push(aenderung.release()); });
 }
 
-std::optional<QString> Plan::Rueckgaengig() {
-    if (!schritte_.canUndo()) return std::nullopt;
-    const QString text = schritte_.undoText();
-    FuehreAenderungAus(Schritt(schritte_.index() - 1), [this] { schritte_.undo(); });
-    return text;
+bool Plan::Rueckgaengig() {
+    if (!schritte_.canUndo()) return false;
+    FuehreAenderungAus(Schritt(schritte_.index() - 1), QStringLiteral("Zurückgenommen: "),
+                       [this] { schritte_.undo(); });
+    return true;
 }
 
-std::optional<QString> Plan::WiederholeSchritt() {
-    if (!schritte_.canRedo()) return std::nullopt;
-    const QString text = schritte_.redoText();
-    FuehreAenderungAus(Schritt(schritte_.index()), [this] { schritte_.redo(); });
-    return text;
+bool Plan::WiederholeSchritt() {
+    if (!schritte_.canRedo()) return false;
+    FuehreAenderungAus(Schritt(schritte_.index()), QStringLiteral("Wiederholt: "),
+                       [this] { schritte_.redo(); });
+    return true;
 }
 
 void Plan::ZentrierePunkte(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum) {
@@ -101,6 +114,8 @@ void Plan::ZentrierePunkte(const std::vector<PPunktKnoten>& exzentren, const Pun
     VerwirfSchritte(schritte_, nummern);
     MerkeUngesichert();
     beobachter_.NachAenderung(figuren);
+    beobachter_.SchrittGetan(QStringLiteral("%1 auf %2 zentriert")
+                                 .arg(Punktliste(*liste_, exzentren), Nummertext(*liste_, zentrum.PNr)));
 }
 
 }  // namespace zrw

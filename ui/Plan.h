@@ -28,6 +28,8 @@ class Plan {
         virtual void NachAenderung(const Figurenmenge& figuren) = 0;
         /// `Ungesichert` may say something else now.
         virtual void StandGeaendert() = 0;
+        /// A change is complete. @param satz what was done, or undone, to which figure
+        virtual void SchrittGetan(const QString& satz) = 0;
     };
 
     /// @param angaben what is said about the network as a whole outlives it; all must outlive the plan
@@ -63,15 +65,15 @@ class Plan {
 
     /// Does the change and remembers it for undoing.
     void TueAenderung(std::unique_ptr<Netzaenderung> aenderung);
-    // @return what was undone or done again; nothing: there was nothing
-    std::optional<QString> Rueckgaengig();
-    std::optional<QString> WiederholeSchritt();
+    // @return false: there is nothing to undo or to do again
+    bool Rueckgaengig();
+    bool WiederholeSchritt();
     /// Puts points onto another one, for good: that is no step, and steps about these points become void.
     void ZentrierePunkte(const std::vector<PPunktKnoten>& exzentren, const PunktKnoten& zentrum);
 
   private:
     template <class Tat>
-    void FuehreAenderungAus(const Netzaenderung& aenderung, Tat tat);
+    void FuehreAenderungAus(const Netzaenderung& aenderung, const QString& vorsatz, Tat tat);
     [[nodiscard]] const Netzaenderung& Schritt(int i) const;
 
     Netzangaben& angaben_;

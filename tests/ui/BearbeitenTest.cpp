@@ -63,6 +63,41 @@ TEST_F(Bearbeiten, LinieFolgtDerMausBisSieFertigIst) {
     EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
 }
 
+TEST_F(Bearbeiten, JedeAenderungSagtWasSieGetanHat) {
+    const auto klick = [this](const char* knopf, QPoint ort) {
+        Modus(knopf);
+        Klick(ort);
+    };
+    const auto ziehe = [this](const char* knopf, QPoint von) {
+        Modus(knopf);
+        ZieheMaus(von, von + QPoint(30, 20));
+    };
+    const std::vector<std::pair<QString, std::function<void()>>> schritte = {
+        {"Punkt A verschoben", [&] { ziehe("MovePktButton", A); }},
+        {"Punktnummer B verschoben", [&] { ziehe("MoveTextButton", Textort("B") + QPoint(3, 3)); }},
+        {"Punktnummer E versteckt", [&] { klick("HidePktNrButton", Textort("E") + QPoint(3, 3)); }},
+        {"Punkt B versteckt", [&] { klick("HidePktButton", B); }},
+        {"Punktnummer E wieder gezeigt", [&] { fenster.NummernZeigenClick(); }},
+        {"Beobachtung C – E gelöscht", [&] { klick("DelBeobButton", (C + E) / 2); }},
+        {"Punkt E gelöscht", [&] { klick("DelPunktButton", E); }},
+        {"Punkt N eingefügt", [&] { NeuerPunkt("N", "1500", "1500"); }},
+    };
+    for (const auto& [satz, tat] : schritte) {
+        tat();
+        EXPECT_EQ(Status(), satz);
+    }
+    // It can still be read when the mouse moves on, and the place of the mouse is told as always.
+    BewegeMaus({600, 400});
+    EXPECT_TRUE(Status().contains(" M=1:"));
+    EXPECT_EQ(Kind<QLabel>("StatusAnleitung").text(), schritte.back().first);
+    for (auto s = schritte.rbegin(); s != schritte.rend(); ++s) {
+        fenster.Rueckgaengig();
+        EXPECT_EQ(Status(), "Zurückgenommen: " + s->first);
+    }
+    fenster.WiederholeSchritt();
+    EXPECT_EQ(Status(), "Wiederholt: Punkt A verschoben");
+}
+
 TEST_F(Bearbeiten, LangeNummernVerbreiternNichts) {
     const QString lang = "WWWWWWWWWWWWWW";
     LegeDateiAn("l.EIN",

@@ -1,17 +1,33 @@
 #include "ui/aenderungen/Aenderungen.h"
 
+#include <set>
 #include <utility>
 
+#include "ui/Umwandlung.h"
+#include "ui/bild/Figurentext.h"
+
 namespace zrw {
+namespace {
+
+QString Punktsatz(const Netz& netz, PunktIndex nr, const char* getan) {
+    return QStringLiteral("Punkt %1 ").arg(Nummertext(netz, nr)) + QString::fromUtf8(getan);
+}
+
+QString Kantensatz(const Netz& netz, PunktIndex anfang, PunktIndex ende, const char* getan) {
+    return QStringLiteral("Beobachtung %1 – %2 ").arg(Nummertext(netz, anfang), Nummertext(netz, ende)) +
+           QString::fromUtf8(getan);
+}
+
+}  // namespace
 
 PunktVersetzt::PunktVersetzt(Liste& liste, PunktKnoten& punkt, Welt nach)
     : liste_(liste), punkt_(punkt), alt_{punkt.XWPu, punkt.YWPu}, neu_(nach) {
-    setText(QStringLiteral("Punkt verschieben"));
+    setText(Punktsatz(liste, punkt.PNr, "verschoben"));
 }
 
 NummerVersetzt::NummerVersetzt(Liste& liste, PunktString& text, Bildpunkt abstand)
     : liste_(liste), text_(text), alt_{text.Item->XBiO, text.Item->YBiO}, neu_(abstand) {
-    setText(QStringLiteral("Punktnummer verschieben"));
+    setText(QStringLiteral("Punktnummer %1 verschoben").arg(Nummertext(liste, text.TNr)));
 }
 
 bool SichtbarkeitGeaendert::MerkeSchalter(bool& sichtbar, bool neu) {
@@ -39,6 +55,21 @@ void SichtbarkeitGeaendert::NimmPunkt(Liste& liste, PunktKnoten& punkt, bool neu
     NimmFigur(punkt, neu);
 }
 
+void SichtbarkeitGeaendert::NenneFiguren(const Netz& netz) {
+    // Lists of numbers may name one twice.
+    std::set<PunktIndex> nummern;
+    for (const PunktKnoten* p : figuren_.punkte)
+        nummern.insert(p->PNr);
+    const bool punkte = !nummern.empty();
+    for (const PunktString* t : figuren_.texte)
+        if (!punkte) nummern.insert(t->TNr);
+    const QString was = punkte ? QStringLiteral("Punkt") : QStringLiteral("Punktnummer");
+    const QString viele = punkte ? QStringLiteral("Punkte") : QStringLiteral("Punktnummern");
+    setText(nummern.size() == 1
+                ? QStringLiteral("%1 %2 %3").arg(was, Nummertext(netz, *nummern.begin()), getan_)
+                : QStringLiteral("%1 %2 %3").arg(nummern.size()).arg(viele, getan_));
+}
+
 void SichtbarkeitGeaendert::redo() {
     for (std::size_t i = 0; i < schalter_.size(); ++i)
         *schalter_[i] = neu_[i];
@@ -55,7 +86,7 @@ void SichtbarkeitGeaendert::undo() {
 KanteGeaendert::KanteGeaendert(Liste& liste, PunktKante& kante, LinieAttr richtung, KanteAttr weitere,
                                bool drehen)
     : liste_(liste), kante_(kante), andereRichtung_(richtung), andereWeitere_(weitere), drehen_(drehen) {
-    setText(QStringLiteral("Beobachtung ändern"));
+    setText(Kantensatz(liste, drehen ? kante.ENr : kante.ANr, drehen ? kante.ANr : kante.ENr, "geändert"));
 }
 
 void KanteGeaendert::redo() {
@@ -67,7 +98,7 @@ void KanteGeaendert::redo() {
 
 KanteEingefuegt::KanteEingefuegt(Liste& liste, const Kante& kante, PunktIndex anfang, PunktIndex ende)
     : liste_(liste), kante_(kante), anfang_(anfang), ende_(ende) {
-    setText(QStringLiteral("Beobachtung einfügen"));
+    setText(Kantensatz(liste, anfang, ende, "eingefügt"));
 }
 
 Figurenmenge KanteEingefuegt::Betroffene() const {
@@ -88,13 +119,13 @@ void KanteEingefuegt::undo() {
 }
 
 KanteGeloescht::KanteGeloescht(Liste& liste, PunktKante& kante) : liste_(liste), kante_(kante) {
-    setText(QStringLiteral("Beobachtung löschen"));
+    setText(Kantensatz(liste, kante.ANr, kante.ENr, "gelöscht"));
 }
 
 PunktEingefuegt::PunktEingefuegt(Liste& liste, const Punkt& punkt, const PktText& text, Welt ort,
                                  PunktIndex nr)
     : liste_(liste), punkt_(punkt), text_(text), ort_(ort), nr_(nr) {
-    setText(QStringLiteral("Punkt einfügen"));
+    setText(QStringLiteral("Punkt %1 eingefügt").arg(AusNetz(text.Aus.Text())));
 }
 
 Figurenmenge PunktEingefuegt::Betroffene() const {
@@ -112,7 +143,7 @@ void PunktEingefuegt::redo() {
 }
 
 PunktGeloescht::PunktGeloescht(Liste& liste, PunktKnoten& punkt) : liste_(liste), punkt_(punkt) {
-    setText(QStringLiteral("Punkt löschen"));
+    setText(Punktsatz(liste, punkt.PNr, "gelöscht"));
 }
 
 PunktGeaendert::PunktGeaendert(Liste& liste, PunktKnoten& punkt, const Angaben& neu)
@@ -121,7 +152,7 @@ PunktGeaendert::PunktGeaendert(Liste& liste, PunktKnoten& punkt, const Angaben& 
       text_(liste.FindPktText(punkt.PNr)),
       andere_(neu),
       andereTextfarbe_(neu.farbe) {
-    setText(QStringLiteral("Punktart ändern"));
+    setText(Punktsatz(liste, punkt.PNr, "geändert"));
 }
 
 void PunktGeaendert::redo() {

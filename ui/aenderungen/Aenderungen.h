@@ -11,6 +11,7 @@
 
 namespace zrw {
 
+/// Its text is a sentence about what was done, with the figure: "Punkt 1001 verschoben".
 class Netzaenderung : public QUndoCommand {
   public:
     /// The figures that it is about, as far as they are in the list: asked before and after the change, so
@@ -51,7 +52,8 @@ class NummerVersetzt final : public Netzaenderung {
 /// The visibility of figures: hidden and shown points and numbers.
 class SichtbarkeitGeaendert final : public Netzaenderung {
   public:
-    explicit SichtbarkeitGeaendert(const QString& name) { setText(name); }
+    /// @param getan what is done with the figures: "versteckt", say
+    explicit SichtbarkeitGeaendert(const QString& getan) : getan_(getan) {}
     /// Figures that are visible in that way already are left out.
     void NimmFigur(PunktKnoten& p, bool neu);
     void NimmFigur(PunktKante& k, bool neu);
@@ -60,6 +62,8 @@ class SichtbarkeitGeaendert final : public Netzaenderung {
     void NimmPunkt(Liste& liste, PunktKnoten& punkt, bool neu);
     [[nodiscard]] Figurenmenge Betroffene() const override { return figuren_; }
     [[nodiscard]] bool Leer() const { return schalter_.empty(); }
+    /// All figures are taken: gives the change its text. Lines and labels go with their points.
+    void NenneFiguren(const Netz& netz);
     /// Called after the change with true, after taking it back with false; may be empty.
     std::function<void(bool getan)> danach;
     void redo() override;
@@ -67,6 +71,7 @@ class SichtbarkeitGeaendert final : public Netzaenderung {
 
   private:
     [[nodiscard]] bool MerkeSchalter(bool& sichtbar, bool neu);
+    QString getan_;
     std::vector<bool*> schalter_;
     std::vector<bool> neu_;
     Figurenmenge figuren_;

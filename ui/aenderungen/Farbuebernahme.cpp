@@ -29,7 +29,6 @@ std::size_t ZaehleFiguren(const Liste& netz, const Figurenfarben& farben) {
 }  // namespace
 
 FarbenGeaendert::FarbenGeaendert(const Liste& liste, const Figurenfarben& von, const Figurenfarben& nach) {
-    setText(QStringLiteral("Farben anwenden"));
     const auto merke = [this](auto& menge, auto& figur, Farbe jetzt, Farbe neu) {
         if (jetzt == neu) return;
         menge.push_back(&figur);
@@ -41,6 +40,7 @@ FarbenGeaendert::FarbenGeaendert(const Liste& liste, const Figurenfarben& von, c
         merke(figuren_.kanten, *k, k->Item->Farbe, Ersatz(k->Item->Farbe, von.linien, nach.linien));
     for (PPunktString t = liste.PktTextKnoten; t != nullptr; t = t->Next)
         merke(figuren_.texte, *t, t->Item->Col, Ersatz(t->Item->Col, von.punkte, nach.punkte));
+    setText(QStringLiteral("%1 Punkte, Linien und Nummern umgefärbt").arg(Anzahl()));
 }
 
 void FarbenGeaendert::redo() {
@@ -85,14 +85,14 @@ void Farbuebernahme::FaerbeNetz() {
     if (netz == nullptr) return umgebung_.ZeigeStatus(QStringLiteral("Es ist kein Netz geöffnet."));
     const Figurenfarben neu = FigurenfarbenAus(umgebung_.Anzeige());
     auto aenderung = std::make_unique<FarbenGeaendert>(*netz, Bisherige(*netz), neu);
-    const std::size_t anzahl = aenderung->Anzahl();
-    if (anzahl == 0) return umgebung_.ZeigeStatus(QStringLiteral("Das Netz hat diese Farben schon."));
+    if (aenderung->Anzahl() == 0)
+        return umgebung_.ZeigeStatus(QStringLiteral("Das Netz hat diese Farben schon."));
     MerkeFarben(neu);
+    const QString satz = aenderung->text();
     umgebung_.TueAenderung(std::move(aenderung));
-    QString text = QStringLiteral("%1 Punkte, Linien und Nummern umgefärbt").arg(anzahl);
     if (!Unterscheidbar(neu))
-        text += QStringLiteral("; Arten mit gleicher Farbe sind in einer Zarwikdatei eine");
-    umgebung_.ZeigeStatus(text);
+        umgebung_.MeldeErledigt(satz +
+                                QStringLiteral("; Arten mit gleicher Farbe sind in einer Zarwikdatei eine"));
 }
 
 }  // namespace zrw

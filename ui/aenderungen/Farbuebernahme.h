@@ -32,7 +32,7 @@ class Farbuebernahme {
 
     /// A network was opened: if it was read with the settings, these were they.
     void BeginneNetz();
-    /// Says in the status line what was done.
+    /// Says in the status line where there was nothing to do.
     void FaerbeNetz();
 
   private:

@@ -75,7 +75,8 @@ void Punktartwahl::ZeichnePunkt() {
                                       hier ? Welt{gewaehlt_->XWPu, gewaehlt_->YWPu} : ort};
     const Punkt& p = *gewaehlt_->Item;
     const bool gleich = hier && p.PktArt == neu.art && p.PktTyp == neu.symbol && p.Farbe == neu.farbe;
-    if (!gleich) umgebung_.TueAenderung(std::make_unique<PunktGeaendert>(*liste, *gewaehlt_, neu));
+    if (gleich) return umgebung_.ZeigeStatus(QStringLiteral("Punkt %1 ist schon so").arg(e.nummer));
+    umgebung_.TueAenderung(std::make_unique<PunktGeaendert>(*liste, *gewaehlt_, neu));
 }
 
 void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
@@ -102,13 +103,14 @@ void Punktartwahl::FuegeEin(const Punkteingabe& eingabe, Welt ort) {
     umgebung_.TueAenderung(std::make_unique<PunktEingefuegt>(
         liste, punkt, PktText::Create(nummer, farbe, umgebung_.Anzeige()), ort, static_cast<PunktIndex>(nr)));
     const Bildpunkt b = liste.Bildort(ort);
-    QString text = QStringLiteral("Punkt %1 eingefügt").arg(AusNetz(nummer));
+    QString dazu;
     if (!liste.Dargestellt(punkt)) {
-        text += QStringLiteral("; Punkte dieser Art sind gerade ausgeschaltet");
+        dazu = QStringLiteral("; Punkte dieser Art sind gerade ausgeschaltet");
     } else if (b.x < 0 || b.y < 0 || b.x >= liste.Weite || b.y >= liste.Hoehe) {
-        text += QStringLiteral("; er liegt außerhalb des Bildes („F“ passt ein)");
+        dazu = QStringLiteral("; er liegt außerhalb des Bildes („F“ passt ein)");
     }
-    umgebung_.ZeigeStatus(text);
+    if (!dazu.isEmpty())
+        umgebung_.MeldeErledigt(QStringLiteral("Punkt %1 eingefügt").arg(AusNetz(nummer)) + dazu);
 }
 
 }  // namespace zrw

@@ -12,12 +12,13 @@ namespace {
 
 /// All points of these numbers that the network has.
 std::unique_ptr<SichtbarkeitGeaendert> Aenderung(Liste& liste, const QStringList& nummern, bool sichtbar) {
-    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(sichtbar ? QStringLiteral("Punkt anzeigen")
-                                                                      : QStringLiteral("Punkt verstecken"));
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(sichtbar ? QStringLiteral("wieder gezeigt")
+                                                                      : QStringLiteral("versteckt"));
     for (const QString& nummer : nummern) {
         if (PunktKnoten* p = liste.FindPunkt(Utf8NachCp1252(NachUtf8(nummer))); p != nullptr)
             aenderung->NimmPunkt(liste, *p, sichtbar);
     }
+    aenderung->NenneFiguren(liste);
     return aenderung;
 }
 
@@ -47,8 +48,9 @@ Punktversteck::~Punktversteck() {
 
 void Punktversteck::VerbergePunkt(PunktKnoten& punkt) {
     Liste& liste = *umgebung_.AktuelleListe();
-    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punkt verstecken"));
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("versteckt"));
     aenderung->NimmPunkt(liste, punkt, false);
+    aenderung->NenneFiguren(liste);
     TueVerbergen(std::move(aenderung), {AusNetz(liste.GetPktText(punkt.PNr))});
 }
 
@@ -64,6 +66,7 @@ void Punktversteck::TueVerbergen(std::unique_ptr<SichtbarkeitGeaendert> aenderun
         // Hidden already: they stand in the list once more, but there is nothing to undo.
         versteckte_->NimmNummern(nummern);
         umgebung_.ZeichneNeu();
+        umgebung_.ZeigeStatus(QStringLiteral("Nichts versteckt: Es war schon alles versteckt."));
         return;
     }
     // The list of hidden points goes with the change, there and back.
@@ -101,14 +104,16 @@ void Punktversteck::ZeigePunkte(const QStringList& nummern) {
 void Punktversteck::ZeigeNummern() {
     Liste* liste = umgebung_.AktuelleListe();
     if (liste == nullptr) return;
-    auto aenderung =
-        std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Versteckte Punktnummern zeigen"));
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("wieder gezeigt"));
     for (PPunktString t = liste->PktTextKnoten; t != nullptr; t = t->Next) {
         // The number of a hidden point stays with it.
         const PunktKnoten* p = liste->SuchPkt(t->TNr);
         if (p != nullptr && p->Item->Visible) aenderung->NimmFigur(*t, true);
     }
-    if (!aenderung->Leer()) umgebung_.TueAenderung(std::move(aenderung));
+    if (aenderung->Leer())
+        return umgebung_.ZeigeStatus(QStringLiteral("Es ist keine Punktnummer versteckt."));
+    aenderung->NenneFiguren(*liste);
+    umgebung_.TueAenderung(std::move(aenderung));
 }
 
 }  // namespace zrw

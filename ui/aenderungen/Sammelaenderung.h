@@ -10,9 +10,8 @@ namespace zrw {
 
 class Sammelaenderung final : public Netzaenderung {
   public:
-    explicit Sammelaenderung(const QString& name) { setText(name); }
     void NimmAenderung(std::unique_ptr<Netzaenderung> a) { teile_.push_back(std::move(a)); }
-    [[nodiscard]] bool Leer() const { return teile_.empty(); }
+    [[nodiscard]] std::size_t Anzahl() const { return teile_.size(); }
 
     [[nodiscard]] Figurenmenge Betroffene() const override {
         Figurenmenge alle;

@@ -154,6 +154,7 @@ void Ergebnisgitter::KopiereZeilen(bool alles) const {
     }
     if (zeilen.isEmpty()) return;
     QGuiApplication::clipboard()->setText(zeilen.join(QLatin1Char('\n')));
+    if (kopiert) kopiert(zeilen.size() - (alles ? 1 : 0));
 }
 
 /// The end of the row that is not the listed point; for rows of one point, that point.

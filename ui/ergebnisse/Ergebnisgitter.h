@@ -26,6 +26,8 @@ class Ergebnisgitter final : public QWidget {
     std::function<void()> reiterGewechselt;
     /// The point of this number is to be shown in the plot.
     std::function<void(const QString&)> zeigePunkt;
+    /// Rows lie on the clipboard now.
+    std::function<void(qsizetype zeilen)> kopiert;
 
     [[nodiscard]] const Ergebnisreiter& Reiter() const;
     /// The point that is listed, of a line the first one.

@@ -12,14 +12,6 @@
 #include "ui/bild/Figurentext.h"
 
 namespace zrw {
-namespace {
-
-void KopiereText(const QString& text) {
-    QGuiApplication::clipboard()->setText(text);
-}
-
-}  // namespace
-
 void Figurenmenue::ZeigeMenue(const QPoint& ort) {
     auto* menue = new QMenu(fenster_);
     menue->setObjectName(QStringLiteral("FigurenMenue"));
@@ -46,9 +38,7 @@ void Figurenmenue::ZeigeMenue(const QPoint& ort) {
 void Figurenmenue::NimmPunkte(QMenu& menue) {
     const auto& punkte = u_.auswahl.Punkte();
     const bool einer = punkte.size() == 1;
-    menue.addSection(einer ? QStringLiteral("Punkt ") +
-                                 Nummertext(*u_.umgebung.AktuelleListe(), punkte.front()->PNr)
-                           : QStringLiteral("%1 Punkte").arg(punkte.size()));
+    menue.addSection(Gewaehlte());
     if (einer) NimmEinenPunkt(menue, *punkte.front());
     QMenu* arten = menue.addMenu(QStringLiteral("Punkt&art ändern"));
     for (const Punktart& art : kPunktarten) {
@@ -59,10 +49,15 @@ void Figurenmenue::NimmPunkte(QMenu& menue) {
     menue.addAction(einer ? QStringLiteral("Punkt &verstecken") : QStringLiteral("Punkte &verstecken"),
                     fenster_, [this] { u_.verbergePunkte(Nummern()); });
     menue.addSeparator();
-    menue.addAction(einer ? QStringLiteral("&Nummer kopieren") : QStringLiteral("&Nummern kopieren"),
-                    fenster_, [this] { KopiereText(Nummern().join(QLatin1Char('\n'))); });
+    menue.addAction(
+        einer ? QStringLiteral("&Nummer kopieren") : QStringLiteral("&Nummern kopieren"), fenster_, [this] {
+            KopiereText(
+                Nummern().join(QLatin1Char('\n')),
+                Gewaehlte() + QStringLiteral(": ") +
+                    (u_.auswahl.Punkte().size() == 1 ? QStringLiteral("Nummer") : QStringLiteral("Nummern")));
+        });
     menue.addAction(QStringLiteral("&Koordinaten kopieren"), fenster_,
-                    [this] { KopiereText(Koordinaten()); });
+                    [this] { KopiereText(Koordinaten(), Gewaehlte() + QStringLiteral(": Koordinaten")); });
 }
 
 void Figurenmenue::NimmEinenPunkt(QMenu& menue, PunktKnoten& punkt) {
@@ -81,20 +76,38 @@ void Figurenmenue::NimmKante(QMenu& menue, PunktKante& kante) {
     menue.addAction(QStringLiteral("Beobachtung &löschen"), fenster_, [this, k = &kante] {
         u_.umgebung.TueAenderung(std::make_unique<KanteGeloescht>(*u_.umgebung.AktuelleListe(), *k));
     });
-    menue.addAction(QStringLiteral("&Nummern kopieren"), fenster_, [name] { KopiereText(name); });
+    menue.addAction(QStringLiteral("&Nummern kopieren"), fenster_,
+                    [this, name] { KopiereText(name, QStringLiteral("Nummern %1").arg(name)); });
 }
 
 /// Kind and colour go together; symbol and place stay.
 void Figurenmenue::AenderePunktart(PunktArt art) {
     Liste& netz = *u_.umgebung.AktuelleListe();
     const Farbe farbe = u_.umgebung.Anzeige().*ZurArt(art).farbe;
-    auto alle = std::make_unique<Sammelaenderung>(QStringLiteral("Punktart ändern"));
+    auto alle = std::make_unique<Sammelaenderung>();
     for (PPunktKnoten p : u_.auswahl.Punkte()) {
         if (p->Item->PktArt == art && p->Item->Farbe == farbe) continue;
         alle->NimmAenderung(std::make_unique<PunktGeaendert>(
             netz, *p, PunktGeaendert::Angaben{art, p->Item->PktTyp, farbe, {p->XWPu, p->YWPu}}));
     }
-    if (!alle->Leer()) u_.umgebung.TueAenderung(std::move(alle));
+    const QString neu = AusUtf8(ZurArt(art).bezeichnung);
+    if (alle->Anzahl() == 0) return u_.umgebung.ZeigeStatus(Gewaehlte() + QStringLiteral(": schon ") + neu);
+    alle->setText(Gewaehlte() + QStringLiteral(": jetzt ") + neu);
+    u_.umgebung.TueAenderung(std::move(alle));
+}
+
+/// @param was for the status line
+void Figurenmenue::KopiereText(const QString& text, const QString& was) {
+    QGuiApplication::clipboard()->setText(text);
+    u_.umgebung.MeldeErledigt(was + QStringLiteral(" kopiert"));
+}
+
+/// "Punkt 1001", "3 Punkte".
+QString Figurenmenue::Gewaehlte() const {
+    const auto& punkte = u_.auswahl.Punkte();
+    return punkte.size() == 1
+               ? QStringLiteral("Punkt ") + Nummertext(*u_.umgebung.AktuelleListe(), punkte.front()->PNr)
+               : QStringLiteral("%1 Punkte").arg(punkte.size());
 }
 
 QStringList Figurenmenue::Nummern() const {

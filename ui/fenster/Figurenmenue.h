@@ -37,6 +37,8 @@ class Figurenmenue {
     void NimmEinenPunkt(QMenu& menue, PunktKnoten& punkt);
     void NimmKante(QMenu& menue, PunktKante& kante);
     void AenderePunktart(PunktArt art);
+    void KopiereText(const QString& text, const QString& was);
+    [[nodiscard]] QString Gewaehlte() const;
     [[nodiscard]] QStringList Nummern() const;
     [[nodiscard]] QString Koordinaten() const;
 

@@ -35,6 +35,7 @@
 #include "ui/fenster/Nummernfeld.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Startseite.h"
+#include "ui/fenster/Statuszeile.h"
 #include "ui/fenster/Werkzeugleiste.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
@@ -102,10 +103,7 @@ void TZrwMainDlg::BaueFenster() {
 
     statusBar()->setObjectName(QStringLiteral("StatusBar1"));
     statusBar()->setSizeGripEnabled(false);
-    anleitung_ = new QLabel(this);
-    anleitung_->setMinimumWidth(1);  // a long text must not widen the window
-    anleitung_->setContentsMargins(0, 0, 6, 0);
-    statusBar()->addPermanentWidget(anleitung_);
+    status_ = new Statuszeile(*statusBar());
     standfelder_ = new Standfelder(this);
     statusBar()->addPermanentWidget(standfelder_);
     ZeigeStatus(QStringLiteral("Steuerdatei öffnen mit Strg+O, Zarwikdatei mit Strg+Umschalt+O"));
@@ -124,8 +122,9 @@ void TZrwMainDlg::BaueBild() {
     planbild_.SetzeAnzeige(*bild_);
     planbild_.SetzeGlatt(vorlieben_.KantenGlaetten);
     const auto melde = [this](const QString& text) {
-        if (!text.isEmpty()) statusBar()->showMessage(text);
-        bild_->SetzeFigurtext(punktgang_->Beschreibung());
+        const QString punkt = punktgang_->Beschreibung();
+        if (!text.isEmpty()) punkt.isEmpty() ? status_->ZeigeFolge(text) : status_->ZeigeText(text);
+        bild_->SetzeFigurtext(punkt);
         bild_->update();
     };
     punktgang_ = std::make_unique<Punktgang>(
@@ -217,6 +216,9 @@ void TZrwMainDlg::BaueDialoge() {
             MarkierePunkt(nummer);
         }
     };
+    ergebnisse_->Fenster().Gitter().kopiert = [this](qsizetype zeilen) {
+        MeldeErledigt(QStringLiteral("Zeilen der Ergebnisse kopiert: %1").arg(zeilen));
+    };
     punktart_ =
         std::make_unique<Punktartwahl>(static_cast<Werkzeugumgebung&>(*this), programm_.dialoge, this);
     beobachtungstyp_ = new TFormBeobTyp(programm_.dialoge, this);
@@ -251,8 +253,7 @@ void TZrwMainDlg::WerkzeugGewaehlt(std::size_t nummer, bool unten) {
         if (werkzeuge_.Aktiv() == nullptr) {
             bild_->unsetCursor();
             // What the tool asked for is asked for no longer; other messages stay.
-            anleitung_->clear();
-            if (statusBar()->currentMessage() == werkzeug.Anleitung()) ZeigeStatus(QString());
+            status_->VergissAnleitung(werkzeug.Anleitung());
         }
         return;
     }

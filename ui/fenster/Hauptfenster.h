@@ -24,8 +24,6 @@
 #include "ui/fenster/Schalter.h"
 #include "ui/werkzeuge/Werkzeugkasten.h"
 
-class QLabel;
-
 namespace zrw {
 
 class Aktionen;
@@ -44,6 +42,7 @@ class Schwebekarte;
 class Seitenleiste;
 class Standfelder;
 class Startseite;
+class Statuszeile;
 class TFormBeobTyp;
 class TZRWLBLForm;
 class Werkzeugleiste;
@@ -165,6 +164,7 @@ class TZrwMainDlg final : public QMainWindow,
     void LasseLegendeAus(bool aus) override { planbild_.LasseLegendeAus(aus); }
     void ZeigeVorschau(Vorschau vorschau) override { planbild_.ZeigeVorschau(std::move(vorschau)); }
     void ZeigeStatus(const QString& text) override;
+    void MeldeErledigt(const QString& satz) override;
     void TueAenderung(std::unique_ptr<Netzaenderung> aenderung) override {
         plan_.TueAenderung(std::move(aenderung));
     }
@@ -185,6 +185,7 @@ class TZrwMainDlg final : public QMainWindow,
     void VorAenderung(const Figurenmenge& figuren) override { planbild_.VorAenderung(figuren); }
     void NachAenderung(const Figurenmenge& figuren) override;
     void StandGeaendert() override { ZeigeTitel(); }
+    void SchrittGetan(const QString& satz) override { MeldeErledigt(satz); }
     void FuelleNummern();
     void ZeigePunkt(const QString& nummer);
     const PunktKnoten* MarkierePunkt(const QString& nummer);
@@ -223,7 +224,7 @@ class TZrwMainDlg final : public QMainWindow,
     Eigenschaftsseite* eigenschaften_ = nullptr;
     Zeichenseite* zeichen_ = nullptr;
     Standfelder* standfelder_ = nullptr;
-    QLabel* anleitung_ = nullptr;  ///< of the tool, beside the place of the mouse
+    Statuszeile* status_ = nullptr;
     Massstabfeld* EditMasstab_ = nullptr;
     Nummernfeld* ComboBox1_ = nullptr;
     Zentrierkasten* zentrierkasten_ = nullptr;

@@ -1,7 +1,6 @@
 // Main window: mouse, keys and status line.
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <string>
 
 #include "model/Zahlentext.h"
@@ -17,6 +16,7 @@
 #include "ui/fenster/Figurenmenue.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Standfelder.h"
+#include "ui/fenster/Statuszeile.h"
 #include "ui/seitenleiste/Eigenschaftsseite.h"
 #include "ui/seitenleiste/Seitenleiste.h"
 #include "ui/seitenleiste/Zeichenseite.h"
@@ -102,8 +102,11 @@ bool TZrwMainDlg::Umschalttaste() const {
 }
 
 void TZrwMainDlg::ZeigeStatus(const QString& text) {
-    anleitung_->clear();
-    statusBar()->showMessage(text);
+    status_->ZeigeText(text);
+}
+
+void TZrwMainDlg::MeldeErledigt(const QString& satz) {
+    status_->MeldeErledigt(satz);
 }
 
 /// Where the mouse is, if it is over the picture, and the scale.
@@ -114,10 +117,9 @@ void TZrwMainDlg::ZeigeStand() {
         text = Festkomma(w.rechts, 12, 2) + " " + Festkomma(w.hoch, 12, 2) + " ";
     }
     ortstext_ = AusUtf8(text + " M=1:" + Festkomma(plan_.Daten()->Faktor * 1000, 5, 0));
-    ZeigeStatus(ortstext_);
     // What the tool asks for stays legible while the mouse goes there.
-    if (const Werkzeug* werkzeug = werkzeuge_.Aktiv(); werkzeug != nullptr)
-        anleitung_->setText(werkzeug->Anleitung());
+    const Werkzeug* werkzeug = werkzeuge_.Aktiv();
+    status_->ZeigeStand(ortstext_, werkzeug != nullptr ? werkzeug->Anleitung() : QString());
 }
 
 static std::optional<Werkzeugtaste> AlsWerkzeugtaste(const QKeyEvent& ereignis) {

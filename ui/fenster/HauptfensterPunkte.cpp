@@ -26,16 +26,12 @@ std::string AlsNummer(const QString& text) {
 // A drag under way ends first: what is changed may be what it has in hand.
 void TZrwMainDlg::Rueckgaengig() {
     werkzeuge_.BrichAb();
-    const auto text = plan_.Rueckgaengig();
-    ZeigeStatus(text ? QStringLiteral("Rückgängig: ") + *text
-                     : QStringLiteral("Es gibt nichts zurückzunehmen."));
+    if (!plan_.Rueckgaengig()) ZeigeStatus(QStringLiteral("Es gibt nichts zurückzunehmen."));
 }
 
 void TZrwMainDlg::WiederholeSchritt() {
     werkzeuge_.BrichAb();
-    const auto text = plan_.WiederholeSchritt();
-    ZeigeStatus(text ? QStringLiteral("Wiederholt: ") + *text
-                     : QStringLiteral("Es gibt nichts zu wiederholen."));
+    if (!plan_.WiederholeSchritt()) ZeigeStatus(QStringLiteral("Es gibt nichts zu wiederholen."));
 }
 
 void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
@@ -105,9 +101,6 @@ const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
 
 void TZrwMainDlg::ZentrierePunkt(PunktKnoten& exzentrum, PunktKnoten& zentrum) {
     plan_.ZentrierePunkte({&exzentrum}, zentrum);
-    const Liste& netz = *plan_.Daten();
-    ZeigeStatus(QStringLiteral("%1 auf %2 zentriert")
-                    .arg(AusNetz(netz.GetPktText(exzentrum.PNr)), AusNetz(netz.GetPktText(zentrum.PNr))));
 }
 
 void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QStringList& exzentren) {
@@ -125,7 +118,6 @@ void TZrwMainDlg::ZentriereListe(const std::optional<QString>& zentrum, const QS
     }
     zentrierkasten_->MerkeZentrierte(exzentren);
     plan_.ZentrierePunkte(punkte, *ziel);
-    ZeigeStatus(QStringLiteral("%1 auf %2 zentriert").arg(exzentren.join(QStringLiteral(", ")), *zentrum));
 }
 
 // --- Hiding -----------------------------------------------------------------------------------------------

@@ -23,6 +23,7 @@ Eigenschaftsseite::Eigenschaftsseite(Umfeld umfeld, QWidget* eltern)
             [this](const QUrl& ziel) { u_.waehlePunkt(static_cast<PunktIndex>(ziel.path().toUInt())); });
     gitter_->SetzeNamen(QStringLiteral("ErgebnisGitter"), QStringLiteral("ErgebnisReiter"));
     gitter_->zeigePunkt = u_.zeigePunkt;
+    gitter_->kopiert = u_.kopiert;
     auto* teiler = new QSplitter(Qt::Vertical, this);
     teiler->setChildrenCollapsible(false);
     teiler->addWidget(text_);

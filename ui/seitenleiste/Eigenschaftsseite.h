@@ -28,6 +28,8 @@ class Eigenschaftsseite final : public QWidget {
         /// A point is to be shown in the plot: by its internal number, or by what it is called.
         std::function<void(PunktIndex)> waehlePunkt;
         std::function<void(const QString&)> zeigePunkt;
+        /// So many rows of the results lie on the clipboard now.
+        std::function<void(qsizetype)> kopiert;
     };
     Eigenschaftsseite(Umfeld umfeld, QWidget* eltern);
 

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "model/Bildorte.h"
-#include "ui/Umwandlung.h"
 #include "ui/aenderungen/Aenderungen.h"
 #include "ui/bild/Figurentext.h"
 #include "ui/dialoge/TFormBeobTyp.h"
@@ -81,11 +80,6 @@ void BeobachtungBearbeiten::VerbindePunkte(Liste& netz, PunktKnoten& zweiter) {
     const PunktKnoten& erster = *std::exchange(erster_, nullptr);
     NenneBeobachtung();
     ZeigeGewaehltes({});
-    const auto melde = [&](const char* was) {
-        umgebung_.ZeigeStatus(QStringLiteral("Beobachtung %1 – %2 %3")
-                                  .arg(AusNetz(netz.GetPktText(erster.PNr)),
-                                       AusNetz(netz.GetPktText(zweiter.PNr)), QString::fromUtf8(was)));
-    };
     PunktKante* vorhanden = netz.FindKante(erster.PNr, zweiter.PNr);
     const Beobachtungstyp typ = AlsTyp(umgebung_.Beobachtungsdialog().Wahl(),
                                        vorhanden != nullptr ? vorhanden->Item->KAttr : KanteAttr());
@@ -94,13 +88,13 @@ void BeobachtungBearbeiten::VerbindePunkte(Liste& netz, PunktKnoten& zweiter) {
         const Beobachtungswahl wahl = umgebung_.Beobachtungsdialog().Wahl();
         const bool drehen = vorhanden->ANr != erster.PNr && (wahl.richtung == 1 || wahl.hoehe == 1);
         if (!drehen && typ == Beobachtungstyp{vorhanden->Item->LAttr, vorhanden->Item->KAttr})
-            return melde("ist schon so");
-        umgebung_.TueAenderung(
+            return umgebung_.ZeigeStatus(
+                QStringLiteral("Beobachtung %1 – %2 ist schon so")
+                    .arg(Nummertext(netz, erster.PNr), Nummertext(netz, zweiter.PNr)));
+        return umgebung_.TueAenderung(
             std::make_unique<KanteGeaendert>(netz, *vorhanden, typ.richtung, typ.weitere, drehen));
-        return melde("geändert");
     }
     umgebung_.TueAenderung(std::make_unique<KanteEingefuegt>(netz, Entwurf(), erster.PNr, zweiter.PNr));
-    melde("eingefügt");
 }
 
 void BeobachtungBearbeiten::Schweben(Bildpunkt ort) {

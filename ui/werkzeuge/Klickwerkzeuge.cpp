@@ -84,8 +84,9 @@ Vorschau NummerVerstecken::Treffer(Liste& netz, Bildpunkt ort) const {
 void NummerVerstecken::Klick(Liste& netz, Bildpunkt ort) {
     PPunktString text = Nummer(Umgebung(), netz, ort);
     if (text == nullptr) return;
-    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("Punktnummer verstecken"));
+    auto aenderung = std::make_unique<SichtbarkeitGeaendert>(QStringLiteral("versteckt"));
     aenderung->NimmFigur(*text, false);
+    aenderung->NenneFiguren(netz);
     Umgebung().TueAenderung(std::move(aenderung));
 }
 

@@ -47,7 +47,9 @@ class Werkzeugumgebung {
     virtual void LasseLegendeAus(bool aus) = 0;
     virtual void ZeigeVorschau(Vorschau vorschau) = 0;
     virtual void ZeigeStatus(const QString& text) = 0;
-    /// Does the change, remembers it for undoing and redraws.
+    /// A finished action that is no change of the network, in a sentence that names its object.
+    virtual void MeldeErledigt(const QString& satz) = 0;
+    /// Does the change, remembers it for undoing, redraws, and says what was done.
     virtual void TueAenderung(std::unique_ptr<Netzaenderung> aenderung) = 0;
 
     // Panning with the mouse: while it moves, the network lies `versatz` [px] from where it was at the
