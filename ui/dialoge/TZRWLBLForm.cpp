@@ -4,6 +4,7 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <tuple>
 
 #include "model/FigListe.h"
 #include "ui/Umwandlung.h"
@@ -47,7 +48,9 @@ TZRWLBLForm::TZRWLBLForm(QWidget* eltern)
     felder->addRow(knoepfe);
 }
 
-void TZRWLBLForm::BearbeiteLegende(Liste& liste) {
+bool TZRWLBLForm::BearbeiteLegende(Liste& liste) {
+    const auto stand = [&] { return std::tuple(liste.Legend->Bez1, liste.Legend->Bez2, liste.ShowLegende); };
+    const auto vorher = stand();
     // Only ever switched on here: a user who is filling in texts for one plot after the other wants them all.
     if (liste.ShowLegende) CheckBox1_->setChecked(true);
     Edit1_->setText(AusNetz(liste.Legend->Bez1));
@@ -58,6 +61,7 @@ void TZRWLBLForm::BearbeiteLegende(Liste& liste) {
     liste.Legend->Bez1 = Utf8NachCp1252(NachUtf8(Edit1_->text()));
     liste.Legend->Bez2 = Utf8NachCp1252(NachUtf8(Edit2_->text()));
     liste.ShowLegende = CheckBox1_->isChecked();
+    return stand() != vorher;
 }
 
 }  // namespace zrw

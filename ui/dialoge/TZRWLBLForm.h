@@ -15,7 +15,8 @@ class TZRWLBLForm final : public QDialog {
     explicit TZRWLBLForm(QWidget* eltern);
 
     /// Shows the dialog until it is closed; then the legend of the list has its texts and its switch.
-    void BearbeiteLegende(Liste& liste);
+    /// @return whether that is something else than before
+    bool BearbeiteLegende(Liste& liste);
 
   private:
     QLineEdit* Edit1_;

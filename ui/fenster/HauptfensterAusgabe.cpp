@@ -34,9 +34,10 @@ void TZrwMainDlg::ZeigeFehler(const std::exception& fehler) {
 
 void TZrwMainDlg::SpeedButton12Click() {
     if (!plan_.Offen()) return;
-    legendentexte_->BearbeiteLegende(*plan_.Daten());
+    const bool geaendert = legendentexte_->BearbeiteLegende(*plan_.Daten());
     plan_.Daten()->Legend->Masstab = druck_.Massstabtext();
     ZeichneNeu();
+    if (geaendert) MeldeErledigt(QStringLiteral("Legende geändert"));
 }
 
 void TZrwMainDlg::SpeedButton16Click() {
@@ -57,7 +58,7 @@ void TZrwMainDlg::SpeedButton16Click() {
         ZeigeFehler(f);
         return;
     }
-    ZeigeStatus(QStringLiteral("Geschrieben nach ") + QDir::toNativeSeparators(QDir::currentPath()));
+    MeldeErledigt(QStringLiteral("Geschrieben nach ") + QDir::toNativeSeparators(QDir::currentPath()));
     // "ZRP.PLT" is not the file's name, but what users have always read here.
     programm_.dialoge.SageErfolg(
         QStringLiteral("Dateien ZRW.DXF (DXF-Format) und ZRP.PLT (HPGL/2-Format) erzeugt."));
@@ -70,7 +71,7 @@ void TZrwMainDlg::AusgebenClick() {
     SchliesseEinstellungen();  // closing saves them: the command line reads what is saved
     auto* dialog =
         new Ausgabedialog(programm_, plan_, {EditMasstab_->text(), vorlieben_.KantenGlaetten}, ordner_, this);
-    dialog->geschrieben = [this](const QString& text) { ZeigeStatus(text); };
+    dialog->geschrieben = [this](const QString& text) { MeldeErledigt(text); };
     dialog->open();
 }
 
@@ -98,6 +99,7 @@ void TZrwMainDlg::SpeedButton8Click() {
         ohneGlaettung.setStyleStrategy(Zeichenschrift().styleStrategy());
         planbild_.Flaeche().SetzePlanschrift(ohneGlaettung);
         ZeichneNeu();
+        MeldeErledigt(QStringLiteral("Zeichenfont: ") + schrift->family());
     }
 }
 

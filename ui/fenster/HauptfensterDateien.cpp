@@ -409,7 +409,7 @@ bool TZrwMainDlg::SpeicherePlan() {
         saetze << QStringLiteral("Ergebnisse der Ausgleichung werden jetzt dort gesucht.");
         ZeichneNeu();
     }
-    ZeigeStatus(saetze.join(QStringLiteral("   ")));
+    MeldeErledigt(saetze.join(QStringLiteral("   ")));
     return true;
 }
 

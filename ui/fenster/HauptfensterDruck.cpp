@@ -28,7 +28,7 @@ void TZrwMainDlg::SpeedButton5Click() {
     try {
         const Sanduhr sanduhr;
         druck_.DruckeBlaetter(*plan_.Daten(), std::move(*blaetter), *massstab, Titel(plan_.Datei()));
-        ZeigeStatus(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
+        MeldeErledigt(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
     } catch (const std::exception& f) {
         ZeigeFehler(f);
     }
@@ -86,7 +86,7 @@ void TZrwMainDlg::SpeedButtonClipbrdClick() {
             throw Fehler("Das Bild ist zu groß für dieses Format.", NachUtf8(*name));
         programm_.dateien.ErsetzeDatei(NachPfad(*name),
                                        {bytes.constData(), static_cast<std::size_t>(bytes.size())});
-        ZeigeStatus(QStringLiteral("Gespeichert: ") + *name);
+        MeldeErledigt(QStringLiteral("Gespeichert: ") + *name);
     } catch (const std::exception& f) {
         ZeigeFehler(f);
     }

@@ -45,9 +45,11 @@ void LegendeVerschieben::Loslassen(Bildpunkt ort) {
     if (!anfang_) return;
     Legende& legende = *umgebung_.AktuelleListe()->Legend;
     const Bildpunkt ziel = Ziel(ort);
+    const bool woanders = ziel != legende.Position();
     legende.XO = ziel.x;
     legende.YO = ziel.y;
     Abbrechen();
+    if (woanders) umgebung_.MeldeErledigt(QStringLiteral("Legende verschoben"));
 }
 
 void LegendeVerschieben::Abbrechen() {

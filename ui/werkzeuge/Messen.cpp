@@ -115,7 +115,7 @@ void Messen::EntferneLetzte() {
 void Messen::KopiereZug() {
     if (!HatStrecke()) return umgebung_.ZeigeStatus(QStringLiteral("Es ist noch keine Strecke gemessen."));
     QGuiApplication::clipboard()->setText(AusUtf8(zug_.Tabelle()));
-    umgebung_.ZeigeStatus(
+    umgebung_.MeldeErledigt(
         QStringLiteral("Strecken in die Zwischenablage kopiert: %1").arg(zug_.Ecken().size() - 1));
 }
 

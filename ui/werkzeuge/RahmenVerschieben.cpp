@@ -32,6 +32,7 @@ void RahmenVerschieben::Loslassen(Bildpunkt ort) {
     if (jetzt.rechts == anfang_->rechts && jetzt.hoch == anfang_->hoch) return Abbrechen();
     Ziehen(ort);
     anfang_.reset();
+    umgebung_.MeldeErledigt(QStringLiteral("Ausgabebereich verschoben"));
 }
 
 void RahmenVerschieben::Abbrechen() {
