@@ -1,33 +1,26 @@
 // A seeded random session in the window: clicks, drags, keys, wheel, buttons, dialogs and files, with the
 // invariants of the network checked after every event.
 // usage: fenster_zufall [SEED] [EVENTS] [SECONDS]     ends at whichever comes first; 0 seconds: no limit
-#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QLineEdit>
-#include <QListView>
-#include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
 #include <cstdio>
 #include <fstream>
-#include <random>
 
 #include "bench/Netzgenerator.h"
 #include "fuzz/Proben.h"
+#include "fuzz/fenster/Wege.h"
 #include "input/Systemdateien.h"
-#include "model/Bildorte.h"
 #include "tests/hilfe/Antwortdienst.h"
 #include "tests/hilfe/Festdrucker.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/Speicherdateien.h"
-#include "ui/fenster/Hauptfenster.h"
 
 namespace {
 
@@ -35,7 +28,7 @@ using namespace zrw;
 
 class Sitzungslauf {
   public:
-    explicit Sitzungslauf(unsigned saat) : zufall_(saat) {
+    explicit Sitzungslauf(unsigned saat) : hand_(saat, fenster_), wege_(hand_, fenster_, ordner_.path()) {
         QDir::setCurrent(ordner_.path());
         // A copy: the session also saves, onto any file that it knows.
         for (const char* name : {"NETZ.EIN", "KOORD.KF", "RICHT.SF"})
@@ -56,10 +49,9 @@ class Sitzungslauf {
             // A menu that a button opened: its entries are the buttons again.
             if (QWidget* menue = QApplication::activePopupWidget(); menue != nullptr) menue->close();
             if (QWidget* dialog = QApplication::activeModalWidget(); dialog != nullptr)
-                BedieneFenster(*dialog, true);
+                hand_.BedieneFenster(*dialog, true);
         });
         modal_.start(0);
-        fenster_.OeffneDatei(beispiel.toStdString());
     }
 
     void Ereignis() {
@@ -67,9 +59,14 @@ class Sitzungslauf {
                                          &Sitzungslauf::Klick,   &Sitzungslauf::Klick, &Sitzungslauf::Klick,
                                          &Sitzungslauf::Rad,     &Sitzungslauf::Taste, &Sitzungslauf::Taste,
                                          &Sitzungslauf::Knopf,   &Sitzungslauf::Knopf, &Sitzungslauf::Fenster,
-                                         &Sitzungslauf::Fenster, &Sitzungslauf::Datei};
+                                         &Sitzungslauf::Fenster, &Sitzungslauf::Datei, &Sitzungslauf::Weg,
+                                         &Sitzungslauf::Weg,     &Sitzungslauf::Weg};
+        // The first ones meet the start page.
+        constexpr int kStart = 40;
+        if (++ereignisse_ == kStart && fenster_.Netz() == nullptr)
+            fenster_.OeffneDatei(dateien_[0].toStdString());
         WaehleAntworten();
-        (this->*kTun[WuerfleZahl(kTun.size())])();
+        (this->*kTun[hand_.WuerfleZahl(kTun.size())])();
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();
         if (!fenster_.isVisible()) fenster_.show();
@@ -78,9 +75,6 @@ class Sitzungslauf {
     [[nodiscard]] const TZrwMainDlg& DasFenster() const { return fenster_; }
 
   private:
-    std::size_t WuerfleZahl(std::size_t n) { return zufall_() % n; }
-    /// A place in a container or file of the toolkit, whose sizes have signs.
-    qsizetype Stelle(qsizetype n) { return static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(n))); }
     QString LegeDateiAn(const char* name, const std::string& inhalt) {
         const QString pfad = ordner_.filePath(name);
         std::ofstream(pfad.toStdString(), std::ios::binary) << inhalt;
@@ -88,71 +82,46 @@ class Sitzungslauf {
     }
 
     void WaehleAntworten() {
-        dialoge_.ja = WuerfleZahl(4) == 0;
+        dialoge_.ja = hand_.WuerfleZahl(4) == 0;
         dialoge_.antwort.reset();
-        if (const std::size_t a = WuerfleZahl(3); a > 0) dialoge_.antwort = a == 1;
+        if (const std::size_t a = hand_.WuerfleZahl(3); a > 0) dialoge_.antwort = a == 1;
         dialoge_.datei.reset();
-        if (WuerfleZahl(2) == 0) dialoge_.datei = dateien_[Stelle(dateien_.size())];
-        dialoge_.farbe = Farbe{static_cast<std::uint32_t>(WuerfleZahl(0x1000000))};
+        if (hand_.WuerfleZahl(2) == 0) dialoge_.datei = dateien_[hand_.Stelle(dateien_.size())];
+        dialoge_.farbe = Farbe{static_cast<std::uint32_t>(hand_.WuerfleZahl(0x1000000))};
         dialoge_.meldungen.clear();
         dialoge_.gesagt.clear();
         dialoge_.fragen.clear();
         dialoge_.wahlen.clear();
     }
 
-    /// A place in the picture, half of the time one where a figure is.
-    QPoint Ort() {
-        const QRect r = Bild().rect();
-        const QPoint irgendwo(static_cast<int>(WuerfleZahl(static_cast<std::size_t>(r.width()))),
-                              static_cast<int>(WuerfleZahl(static_cast<std::size_t>(r.height()))));
-        const Liste* netz = fenster_.Netz();
-        if (netz == nullptr || netz->MaxPkte == 0 || WuerfleZahl(2) == 0) return irgendwo;
-        const PunktKnoten* p = netz->PunktKnoten;
-        for (std::size_t i = WuerfleZahl(static_cast<std::size_t>(netz->MaxPkte)); i > 0; --i)
-            p = p->Next;
-        const Bildpunkt b = BildortVon(*p, *netz);
-        const QPoint ort(static_cast<int>(b.x % 100000), static_cast<int>(b.y % 100000));
-        const QPoint daneben(static_cast<int>(WuerfleZahl(3)) * 10, -static_cast<int>(WuerfleZahl(2)) * 5);
-        return r.contains(ort) ? ort + daneben : irgendwo;
-    }
-    QWidget& Bild() { return *fenster_.findChild<QWidget*>("ImageZarwik"); }
-    Qt::MouseButton Maustaste() {
-        static constexpr std::array kTasten{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
-                                            Qt::MiddleButton};
-        return kTasten[WuerfleZahl(kTasten.size())];
-    }
-    void SendeMaus(QEvent::Type art, QPoint ort, Qt::MouseButton taste, Qt::MouseButtons gedrueckt) {
-        QMouseEvent e(art, ort, Bild().mapToGlobal(ort), taste, gedrueckt, Qt::NoModifier);
-        QCoreApplication::sendEvent(&Bild(), &e);
-    }
     /// One event alone: presses without release, releases without press.
     void Maus() {
-        const Qt::MouseButton taste = Maustaste();
-        switch (WuerfleZahl(5)) {
+        const Qt::MouseButton taste = hand_.Maustaste();
+        switch (hand_.WuerfleZahl(5)) {
             case 0:
-                return SendeMaus(QEvent::MouseButtonPress, Ort(), taste, taste);
+                return hand_.SendeMaus(QEvent::MouseButtonPress, hand_.Ort(), taste, taste);
             case 1:
-                return SendeMaus(QEvent::MouseButtonRelease, Ort(), taste, Qt::NoButton);
+                return hand_.SendeMaus(QEvent::MouseButtonRelease, hand_.Ort(), taste, Qt::NoButton);
             default:
-                return SendeMaus(QEvent::MouseMove, Ort(), Qt::NoButton, Qt::NoButton);
+                return hand_.SendeMaus(QEvent::MouseMove, hand_.Ort(), Qt::NoButton, Qt::NoButton);
         }
     }
     void Klick() {
-        const Qt::MouseButton taste = Maustaste();
-        const QPoint ort = Ort();
-        SendeMaus(QEvent::MouseMove, ort, Qt::NoButton, Qt::NoButton);
-        SendeMaus(QEvent::MouseButtonPress, ort, taste, taste);
-        const QPoint ende = WuerfleZahl(2) == 0 ? ort : Ort();
-        if (ende != ort) SendeMaus(QEvent::MouseMove, ende, Qt::NoButton, taste);
-        SendeMaus(QEvent::MouseButtonRelease, ende, taste, Qt::NoButton);
+        const Qt::MouseButton taste = hand_.Maustaste();
+        const QPoint ort = hand_.Ort();
+        hand_.SendeMaus(QEvent::MouseMove, ort, Qt::NoButton, Qt::NoButton);
+        hand_.SendeMaus(QEvent::MouseButtonPress, ort, taste, taste);
+        const QPoint ende = hand_.WuerfleZahl(2) == 0 ? ort : hand_.Ort();
+        if (ende != ort) hand_.SendeMaus(QEvent::MouseMove, ende, Qt::NoButton, taste);
+        hand_.SendeMaus(QEvent::MouseButtonRelease, ende, taste, Qt::NoButton);
     }
     void Rad() {
-        const QPoint ort = Ort();
-        const int schritte = static_cast<int>(WuerfleZahl(7)) - 3;
-        QWheelEvent e(ort, Bild().mapToGlobal(ort), {}, {0, schritte * 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&Bild(), &e);
-        if (WuerfleZahl(8) == 0) fenster_.SpeedButton3Click();  // else most sessions end lost in space
+        const QPoint ort = hand_.Ort();
+        const int schritte = static_cast<int>(hand_.WuerfleZahl(7)) - 3;
+        QWheelEvent e(ort, hand_.Bild().mapToGlobal(ort), {}, {0, schritte * 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&hand_.Bild(), &e);
+        if (hand_.WuerfleZahl(8) == 0) fenster_.SpeedButton3Click();  // else most sessions end lost in space
     }
     void Taste() {
         static constexpr std::array<std::pair<Qt::Key, Qt::KeyboardModifier>, 14> kTasten{{
@@ -171,19 +140,20 @@ class Sitzungslauf {
             {Qt::Key_Return, Qt::NoModifier},
             {Qt::Key_Tab, Qt::NoModifier},
         }};
-        const auto& [taste, dazu] = kTasten[WuerfleZahl(kTasten.size())];
+        const auto& [taste, dazu] = kTasten[hand_.WuerfleZahl(kTasten.size())];
         if (taste == Qt::Key_Z) return fenster_.Rueckgaengig();
         if (taste == Qt::Key_Y) return fenster_.WiederholeSchritt();
-        QTest::keyClick(&Bild(), taste, dazu);
+        QTest::keyClick(&hand_.Bild(), taste, dazu);
     }
-    void Knopf() { BedieneFenster(fenster_, false); }
+    void Weg() { wege_.GeheWeg(); }
+    void Knopf() { hand_.BedieneFenster(fenster_, false); }
     void Fenster() {
         const QWidgetList alle = QApplication::topLevelWidgets();
-        QWidget* w = alle[static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(alle.size())))];
-        if (w->isVisible() && w != &fenster_) BedieneFenster(*w, false);
-        if (WuerfleZahl(50) == 0)
-            fenster_.resize(300 + static_cast<int>(WuerfleZahl(1200)),
-                            200 + static_cast<int>(WuerfleZahl(800)));
+        QWidget* w = alle[static_cast<qsizetype>(hand_.WuerfleZahl(static_cast<std::size_t>(alle.size())))];
+        if (w->isVisible() && w != &fenster_) hand_.BedieneFenster(*w, false);
+        if (hand_.WuerfleZahl(50) == 0)
+            fenster_.resize(300 + static_cast<int>(hand_.WuerfleZahl(1200)),
+                            200 + static_cast<int>(hand_.WuerfleZahl(800)));
     }
     void LegeTabellen() {
         const QDir beispiele(QStringLiteral(ZRW_QUELLE "/beispiele"));
@@ -195,58 +165,27 @@ class Sitzungslauf {
     /// One table goes, is cut short or holds something else; sometimes all come back.
     void Tabelle() {
         const QStringList namen = QDir(ordner_.path()).entryList({"*.DB"});
-        if (namen.isEmpty() || WuerfleZahl(4) == 0) return LegeTabellen();
-        QFile datei(ordner_.filePath(namen[Stelle(namen.size())]));
-        if (WuerfleZahl(3) == 0) {
+        if (namen.isEmpty() || hand_.WuerfleZahl(4) == 0) return LegeTabellen();
+        QFile datei(ordner_.filePath(namen[hand_.Stelle(namen.size())]));
+        if (hand_.WuerfleZahl(3) == 0) {
             datei.remove();
         } else if (datei.open(QIODevice::ReadWrite)) {
-            datei.seek(Stelle(datei.size() + 1));
-            datei.putChar(static_cast<char>(WuerfleZahl(256)));
-            if (WuerfleZahl(2) == 0) datei.resize(Stelle(datei.size() + 1));
+            datei.seek(hand_.Stelle(datei.size() + 1));
+            datei.putChar(static_cast<char>(hand_.WuerfleZahl(256)));
+            if (hand_.WuerfleZahl(2) == 0) datei.resize(hand_.Stelle(datei.size() + 1));
         }
     }
 
     void Datei() {
-        if (WuerfleZahl(20) == 0) Tabelle();
+        if (hand_.WuerfleZahl(20) == 0) Tabelle();
         // What was saved over is put back, else the session ends with picture files alone.
-        if (WuerfleZahl(200) == 0) {
+        if (hand_.WuerfleZahl(200) == 0) {
             QFile::remove(dateien_[0]);
             QFile::copy(QStringLiteral(ZRW_QUELLE "/beispiele/NETZ.EIN"), dateien_[0]);
             LegeDateiAn("gross.EIN", bench::ErzeugeSteuerdatei({5000, 15000, 22000, 1}));
         }
-        if (WuerfleZahl(20) == 0) fenster_.OeffneDatei(dateien_[Stelle(dateien_.size())].toStdString());
-    }
-
-    /// Uses one control of a window.
-    void BedieneFenster(QWidget& fenster, bool schliesse) {
-        QWidgetList felder;
-        for (QWidget* w : fenster.findChildren<QWidget*>()) {
-            if (w->isVisible() && w->isEnabled() && w->window() == &fenster) felder << w;
-        }
-        if (!felder.isEmpty())
-            BedieneFeld(felder[static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(felder.size())))]);
-        if (schliesse && WuerfleZahl(3) == 0) fenster.close();
-    }
-    void BedieneFeld(QWidget* w) {
-        static const QStringList kTexte{"",   "0", "500", "12.5", "abc", "1", "HOHFELS", "99999999999999999",
-                                        "-5", "Ü"};
-        if (auto* knopf = qobject_cast<QAbstractButton*>(w)) {
-            // Ending the program ends nothing here, but hides the window for a moment; now and then is
-            // enough.
-            if (knopf->objectName() == "SpeedButton7" && WuerfleZahl(20) != 0) return;
-            knopf->click();
-        } else if (auto* feld = qobject_cast<QLineEdit*>(w)) {
-            feld->setText(
-                kTexte[static_cast<qsizetype>(WuerfleZahl(static_cast<std::size_t>(kTexte.size())))]);
-            if (WuerfleZahl(2) == 0) QTest::keyClick(feld, Qt::Key_Return);
-        } else if (auto* liste = qobject_cast<QListView*>(w); liste != nullptr && liste->model() != nullptr) {
-            const int zeilen = liste->model()->rowCount();
-            if (zeilen == 0) return;
-            const QModelIndex zeile =
-                liste->model()->index(static_cast<int>(WuerfleZahl(static_cast<std::size_t>(zeilen))), 0);
-            liste->selectionModel()->select(zeile, QItemSelectionModel::Toggle);
-            emit liste->clicked(zeile);
-        }
+        if (hand_.WuerfleZahl(20) == 0)
+            fenster_.OeffneDatei(dateien_[hand_.Stelle(dateien_.size())].toStdString());
     }
 
     void PruefePlan() {
@@ -256,9 +195,9 @@ class Sitzungslauf {
         fuzz::PruefeNetz(*netz);
     }
 
-    std::mt19937 zufall_;
     QTemporaryDir ordner_;
     QStringList dateien_;
+    int ereignisse_ = 0;
     Einstellungen einstellungen_;
     Speichereinstellungen ablage_;
     Netzangaben netz_;
@@ -271,6 +210,8 @@ class Sitzungslauf {
     Sitzung sitzung_{ordner_.filePath("sitzung.ini")};
     TZrwMainDlg fenster_{
         {einstellungen_, ablage_, netz_, zustand_, system_, uhr_, daten_, drucker_, dialoge_, sitzung_, "0"}};
+    Bedienung hand_;
+    Wege wege_;
     QTimer modal_;
 };
 
