@@ -88,6 +88,7 @@ void Punktversteck::ZeigePunkte(const QStringList& nummern) {
     auto aenderung = Aenderung(*liste, nummern, true);
     if (nummern.isEmpty() || aenderung->Leer()) {
         umgebung_.ZeichneNeu();
+        if (!nummern.isEmpty()) umgebung_.ZeigeStatus(QStringLiteral("Diese Punkte waren schon zu sehen."));
         return;
     }
     aenderung->danach = [versteckte = versteckte_, nummern, erstesMal = true](bool getan) mutable {
