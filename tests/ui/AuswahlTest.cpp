@@ -75,6 +75,12 @@ TEST_F(Auswahlprobe, MenueFuerVieleIstEinSchritt) {
 
     WaehleEintrag(E, "Koordinaten kopieren");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "E\t3000.0000\t2000.0000\n");
+    WaehleEintrag(E, "Strecken messen");
+    EXPECT_TRUE(Knopf("MessenButton").isChecked());
+    Klick(C);
+    EXPECT_TRUE(Status().contains("1000")) << "from E on: " << Status().toStdString();
+    Modus("PanButton");
+    fenster.LoeseWerkzeuge();
     WaehleEintrag(E, "Punkt löschen");
     EXPECT_EQ(Punkt("E"), nullptr);
     EXPECT_EQ(Eintrag(E, "Punkt löschen"), nullptr) << "nothing is selected where nothing lies";

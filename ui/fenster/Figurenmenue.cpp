@@ -10,16 +10,20 @@
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Sammelaenderung.h"
 #include "ui/bild/Figurentext.h"
+#include "ui/werkzeuge/Werkzeugtafel.h"
 
 namespace zrw {
-void Figurenmenue::ZeigeMenue(const QPoint& ort) {
+
+void Figurenmenue::ZeigeMenue(Bildpunkt ort, const QPoint& stelle) {
     auto* menue = new QMenu(fenster_);
     menue->setObjectName(QStringLiteral("FigurenMenue"));
     menue->setAttribute(Qt::WA_DeleteOnClose);
     if (PPunktKante k = u_.auswahl.Kante(); k != nullptr) {
         NimmKante(*menue, *k);
+        NimmWerkzeuge(*menue, kBeginntAnLinie, ort);
     } else if (!u_.auswahl.Punkte().empty()) {
         NimmPunkte(*menue);
+        if (u_.auswahl.Punkte().size() == 1) NimmWerkzeuge(*menue, kBeginntAmPunkt, ort);
     } else {
         for (QAction* a : u_.ansichten)
             menue->addAction(a);
@@ -32,7 +36,7 @@ void Figurenmenue::ZeigeMenue(const QPoint& ort) {
     QMenu* werkzeuge = menue->addMenu(QStringLiteral("&Werkzeug einschalten"));
     for (QAction* a : u_.werkzeuge)
         werkzeuge->addAction(a);
-    menue->popup(ort);
+    menue->popup(stelle);
 }
 
 void Figurenmenue::NimmPunkte(QMenu& menue) {
@@ -78,6 +82,16 @@ void Figurenmenue::NimmKante(QMenu& menue, PunktKante& kante) {
     });
     menue.addAction(QStringLiteral("&Nummern kopieren"), fenster_,
                     [this, name] { KopiereText(name, QStringLiteral("Nummern %1").arg(name)); });
+}
+
+void Figurenmenue::NimmWerkzeuge(QMenu& menue, unsigned beginnt, Bildpunkt ort) {
+    menue.addSeparator();
+    for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
+        if ((kWerkzeuge[i].beginnt & beginnt) == 0) continue;
+        QAction* werkzeug = u_.werkzeuge[i];
+        menue.addAction(werkzeug->icon(), AusUtf8(kWerkzeuge[i].hinweis), fenster_,
+                        [this, werkzeug, ort] { u_.klickeMit(*werkzeug, ort); });
+    }
 }
 
 /// Kind and colour go together; symbol and place stay.

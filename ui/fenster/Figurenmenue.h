@@ -25,17 +25,20 @@ class Figurenmenue {
         std::function<void(const QStringList& nummern)> verbergePunkte;
         std::function<void()> zeigeEigenschaften;  ///< of what is selected, with its results
         std::vector<QAction*> ansichten;           ///< where nothing is selected
-        std::vector<QAction*> werkzeuge;           ///< all of them, to be switched on
+        std::vector<QAction*> werkzeuge;  ///< all of them, to be switched on, in the order of their table
+        /// Switches a tool on and clicks with it [px].
+        std::function<void(QAction& werkzeug, Bildpunkt ort)> klickeMit;
     };
     Figurenmenue(Umfeld umfeld, QWidget* fenster) : u_(std::move(umfeld)), fenster_(fenster) {}
 
-    /// @param ort on the screen
-    void ZeigeMenue(const QPoint& ort);
+    /// @param ort of the figure in the picture [px] @param stelle on the screen
+    void ZeigeMenue(Bildpunkt ort, const QPoint& stelle);
 
   private:
     void NimmPunkte(QMenu& menue);
     void NimmEinenPunkt(QMenu& menue, PunktKnoten& punkt);
     void NimmKante(QMenu& menue, PunktKante& kante);
+    void NimmWerkzeuge(QMenu& menue, unsigned beginnt, Bildpunkt ort);
     void AenderePunktart(PunktArt art);
     void KopiereText(const QString& text, const QString& was);
     [[nodiscard]] QString Gewaehlte() const;

@@ -44,13 +44,18 @@ void TZrwMainDlg::BaueAuswahl() {
         Figurenmenue::Umfeld{*this, werkzeuge_.Ausgewaehlt(), [this](Welt ort) { planbild_.SetzeMitte(ort); },
                              [this](const QStringList& nummern) { versteck_->VerbergePunkte(nummern); },
                              [this] { seitenleiste_->ZeigeSeite(*eigenschaften_); }, ansichten,
-                             aktionen_->Werkzeuge()},
+                             aktionen_->Werkzeuge(),
+                             [this](QAction& werkzeug, Bildpunkt ort) {
+                                 werkzeug.setChecked(true);
+                                 werkzeuge_.DrueckeTaste(ort, Qt::LeftButton);
+                                 werkzeuge_.LassTasteLos(ort, Qt::LeftButton);
+                             }},
         this);
     werkzeuge_.rechteTaste = [this](Bildpunkt ort) {
         karte_->VerbirgKarte();
         if (!werkzeuge_.Ausgewaehlt().WaehleBei(ort)) werkzeuge_.Ausgewaehlt().LeereAuswahl();
         figurenmenue_->ZeigeMenue(
-            bild_->mapToGlobal(QPoint(static_cast<int>(ort.x), static_cast<int>(ort.y))));
+            ort, bild_->mapToGlobal(QPoint(static_cast<int>(ort.x), static_cast<int>(ort.y))));
     };
 }
 
@@ -58,7 +63,8 @@ void TZrwMainDlg::BaueSeitenleiste() {
     seitenleiste_ = new Seitenleiste(*bildfach_);
     eigenschaften_ = new Eigenschaftsseite(
         {programm_, plan_, werkzeuge_.Ausgewaehlt(), *ergebnisse_,
-         [this](PunktIndex nr) { WaehleImBild(nr); }, ergebnisse_->Fenster().Gitter().zeigePunkt},
+         [this](PunktIndex nr) { WaehleImBild(nr); }, ergebnisse_->Fenster().Gitter().zeigePunkt,
+         ergebnisse_->Fenster().Gitter().kopiert},
         seitenleiste_);
     zeichen_ = new Zeichenseite(
         programm_, plan_, [this] { return vorlieben_.KantenGlaetten; }, seitenleiste_);
