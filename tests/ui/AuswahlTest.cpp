@@ -63,6 +63,7 @@ TEST_F(Auswahlprobe, MenueFuerVieleIstEinSchritt) {
         if (a->text().startsWith("NP")) np = a;
     ASSERT_TRUE(np != nullptr);
     np->trigger();
+    EXPECT_EQ(Status(), "2 Punkte in Art NP geändert");
     delete fenster.findChild<QMenu*>("FigurenMenue");
     EXPECT_TRUE(Punkt("A")->Item->PktArt == PunktArt::NP && Punkt("B")->Item->PktArt == PunktArt::NP);
     fenster.Rueckgaengig();
@@ -75,11 +76,11 @@ TEST_F(Auswahlprobe, MenueFuerVieleIstEinSchritt) {
 
     WaehleEintrag(E, "Koordinaten kopieren");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "E\t3000.0000\t2000.0000\n");
+    EXPECT_EQ(Status(), "Punkt E: Koordinaten kopiert");
     WaehleEintrag(E, "Strecken messen");
     EXPECT_TRUE(Knopf("MessenButton").isChecked());
     Klick(C);
     EXPECT_TRUE(Status().contains("1000")) << "from E on: " << Status().toStdString();
-    Modus("PanButton");
     fenster.LoeseWerkzeuge();
     WaehleEintrag(E, "Punkt löschen");
     EXPECT_EQ(Punkt("E"), nullptr);

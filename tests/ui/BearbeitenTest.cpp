@@ -98,6 +98,16 @@ TEST_F(Bearbeiten, JedeAenderungSagtWasSieGetanHat) {
     EXPECT_EQ(Status(), "Wiederholt: Punkt A verschoben");
 }
 
+TEST_F(Bearbeiten, AuchWasKeinSchrittIstSagtWasEsGetanHat) {
+    Kasten("CheckBoxPktNr").setChecked(false);
+    EXPECT_EQ(Status(), "Punktnummern ausgeschaltet");
+    const_cast<Liste*>(fenster.Netz())->ShowLegende = true;
+    const Bildpunkt ecke = fenster.Netz()->Legend->Position();
+    const QPoint griff(static_cast<int>(ecke.x), static_cast<int>(ecke.y));
+    ZieheMaus(griff, griff + QPoint(40, 30));
+    EXPECT_EQ(Status(), "Legende verschoben");
+}
+
 TEST_F(Bearbeiten, LangeNummernVerbreiternNichts) {
     const QString lang = "WWWWWWWWWWWWWW";
     LegeDateiAn("l.EIN",

@@ -104,9 +104,10 @@ void Figurenmenue::AenderePunktart(PunktArt art) {
         alle->NimmAenderung(std::make_unique<PunktGeaendert>(
             netz, *p, PunktGeaendert::Angaben{art, p->Item->PktTyp, farbe, {p->XWPu, p->YWPu}}));
     }
-    const QString neu = AusUtf8(ZurArt(art).bezeichnung);
-    if (alle->Anzahl() == 0) return u_.umgebung.ZeigeStatus(Gewaehlte() + QStringLiteral(": schon ") + neu);
-    alle->setText(Gewaehlte() + QStringLiteral(": jetzt ") + neu);
+    const QString neu = AusUtf8(ZurArt(art).kuerzel);
+    if (alle->Anzahl() == 0)
+        return u_.umgebung.ZeigeStatus(QStringLiteral("%1: schon Art %2").arg(Gewaehlte(), neu));
+    alle->setText(QStringLiteral("%1 in Art %2 geändert").arg(Gewaehlte(), neu));
     u_.umgebung.TueAenderung(std::move(alle));
 }
 

@@ -274,6 +274,10 @@ void TZrwMainDlg::LoeseWerkzeuge() {
 }
 
 void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
+    // Hints about it come after that.
+    if (plan_.Offen())
+        ZeigeStatus(AusUtf8(schalter.beschriftung) +
+                    (ein ? QStringLiteral(" eingeschaltet") : QStringLiteral(" ausgeschaltet")));
     if (schalter.HatMerkmal(kImKartengitter) && ein) {
         if (!plan_.Offen()) {
             aktionen_->NachName(schalter.komponente).setChecked(false);
