@@ -26,7 +26,7 @@ TEST_F(Bearbeiten, DialogNenntDieBeobachtung) {
     BeginneLinie();
     EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
     Klick(A);
-    EXPECT_EQ(Enden(), "A: zweiten Punkt anklicken");
+    EXPECT_EQ(Enden(), "A: Ziel anklicken");
     Taste(Qt::Key_Escape);
     EXPECT_EQ(Enden(), "Ersten Punkt anklicken");
 }

@@ -148,8 +148,7 @@ void BeobachtungBearbeiten::NenneBeobachtung() {
         dialog.NenneBeobachtung(QStringLiteral("%1 nach %2")
                                     .arg(Nummertext(*netz, erster_->PNr), Nummertext(*netz, zweiter_->PNr)));
     } else if (netz != nullptr && erster_ != nullptr) {
-        dialog.NenneBeobachtung(
-            QStringLiteral("%1: zweiten Punkt anklicken").arg(Nummertext(*netz, erster_->PNr)));
+        dialog.NenneBeobachtung(QStringLiteral("%1: Ziel anklicken").arg(Nummertext(*netz, erster_->PNr)));
     } else {
         dialog.NenneBeobachtung(QStringLiteral("Ersten Punkt anklicken"));
     }
