@@ -3,12 +3,17 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QDockWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QTabWidget>
 #include <QTest>
+#include <QTextBrowser>
+#include <QUrl>
 #include <array>
 #include <utility>
 
@@ -26,9 +31,9 @@ Wege::Wege(Bedienung& hand, TZrwMainDlg& fenster, QString ordner)
     : hand_(hand), fenster_(fenster), ordner_(std::move(ordner)) {}
 
 void Wege::GeheWeg() {
-    static constexpr std::array kWege{&Wege::Menueleiste, &Wege::Tastatur,  &Wege::Tastatur,
-                                      &Wege::Auswaehlen,  &Wege::Messen,    &Wege::Figurenmenue,
-                                      &Wege::Ausgeben,    &Wege::Einstellen};
+    static constexpr std::array kWege{&Wege::Menueleiste, &Wege::Tastatur,   &Wege::Tastatur,
+                                      &Wege::Auswaehlen,  &Wege::Messen,     &Wege::Figurenmenue,
+                                      &Wege::Ausgeben,    &Wege::Einstellen, &Wege::Seitenleiste};
     if (fenster_.Netz() == nullptr && hand_.WuerfleZahl(4) != 0) {
         Starten();
     } else {
@@ -191,6 +196,26 @@ void Wege::Ausgeben() {
     if (auto* feld = da->findChild<QLineEdit*>("AusgabeOrdner"); feld != nullptr) feld->setText(ordner_);
     BedieneDialog(*da, 4);
     if (da != nullptr) da->close();
+}
+
+/// The dock: open, closed, floating, at either side, its pages and links.
+void Wege::Seitenleiste() {
+    auto* leiste = fenster_.findChild<QDockWidget*>("SeitenLeiste");
+    auto* fach = qobject_cast<QMainWindow*>(leiste->parentWidget());
+    if (!leiste->isVisible() || hand_.WuerfleZahl(6) == 0)
+        fenster_.findChild<QAction*>("AktionSeitenLeiste")->trigger();
+    if (hand_.WuerfleZahl(5) == 0) leiste->setFloating(!leiste->isFloating());
+    if (hand_.WuerfleZahl(5) == 0)
+        fach->addDockWidget(hand_.WuerfleZahl(2) == 0 ? Qt::LeftDockWidgetArea : Qt::RightDockWidgetArea,
+                            leiste);
+    if (hand_.WuerfleZahl(2) == 0) Auswaehlen();
+    auto* seiten = leiste->findChild<QTabWidget*>("SeitenReiter");
+    seiten->setCurrentIndex(hand_.Kleinzahl(seiten->count()));
+    auto* text = leiste->findChild<QTextBrowser*>("EigenschaftsText");
+    for (int i = hand_.Kleinzahl(3); i > 0; --i)
+        emit text->anchorClicked(QUrl(QString::number(hand_.Kleinzahl(200))));
+    for (int i = hand_.Kleinzahl(4); i > 0; --i)
+        hand_.BedieneFenster(*leiste, false);
 }
 
 void Wege::Einstellen() {

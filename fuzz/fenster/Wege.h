@@ -1,5 +1,5 @@
 // Ways through the window that single events seldom find: menus by mouse and keyboard, selecting and what the
-// menu of the selection does, measuring, the windows of output and settings, the start page.
+// menu of the selection does, measuring, the windows of output and settings, the side bar, the start page.
 #pragma once
 
 #include <QString>
@@ -26,6 +26,7 @@ class Wege {
     void Figurenmenue();
     void Messen();
     void Ausgeben();
+    void Seitenleiste();
     void Einstellen();
     void Starten();
 
