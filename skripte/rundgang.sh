@@ -52,6 +52,7 @@ modus() {
 modus alles
 bild 01_geoeffnet
 speichere anfang.ZRW
+sleep 5 # until the status line no longer names the file
 nach 414 394
 for _ in 1 2 3; do xdotool click 5; done # the wheel: closer
 sleep 0.3
@@ -97,8 +98,8 @@ bild 04_versteckt
 modus beob
 dialog=$(timeout 20 xdotool search --sync --onlyvisible --name '^Beobachtungstyp$' | tail -1)
 imDialog() { xdotool mousemove --window "$dialog" "$1" "$2" click 1 && sleep 0.3; }
-imDialog 175 49 # both directions
-imDialog 16 232 # new lines
+imDialog 175 71 # both directions
+imDialog 16 254 # new lines
 xdotool windowmove "$dialog" 900 300
 klick 573 612 # REF5
 klick 629 323 # to REF3
