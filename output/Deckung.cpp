@@ -9,7 +9,7 @@ void Deckung::BeginneDeckung(int weite, int hoehe, const Rechteck& ausschnitt) {
     ausschnitt_ = ausschnitt;
     spalten_ = (static_cast<std::size_t>(weite) + 63) / 64;
     reihen_ = (static_cast<std::size_t>(hoehe) + kKachelhoehe - 1) / kKachelhoehe;
-    bits_.assign(spalten_ * static_cast<std::size_t>(hoehe), 0);
+    bits_.assign(spalten_ * static_cast<std::size_t>(hoehe) + 1, 0);
     frei_.assign(spalten_ * reihen_, 0);
     tief_.assign(spalten_ * reihen_, 0);
     const auto anteil = [](std::int32_t von, std::int32_t bis, std::int32_t anfang, std::int32_t laenge) {

@@ -38,6 +38,12 @@ class Deckung {
         if (frei == 0) Voll(spalte, y / kKachelhoehe);
         return neu;
     }
+    /// Which pixels of a row are covered, from `x` on, one bit each.
+    [[nodiscard]] std::uint64_t Gedeckte(std::size_t x, std::size_t y) const {
+        const std::uint64_t* wort = bits_.data() + y * spalten_ + x / 64;
+        const std::size_t bit = x % 64;
+        return bit == 0 ? wort[0] : wort[0] >> bit | wort[1] << (64 - bit);
+    }
     /// Everything in the rectangle is covered, or outside `ausschnitt`.
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const;
 

@@ -1,233 +1,17 @@
 #include "output/Glattbild.h"
 
 #include <algorithm>
-#include <cassert>
-#include <cmath>
-#include <cstdlib>
-#include <utility>
 
 namespace zrw {
 namespace {
 
-/// Shares of a pixel and positions across a stroke are counted in these.
-constexpr std::int32_t kGanz = 256;
-/// So many things wait before they are drawn: enough of them for each tile, and little memory.
-constexpr std::size_t kMeisteWartende = std::size_t{1} << 16U;
-/// Longer strokes are worked out step by step in floating point.
-constexpr std::int64_t kLang = std::int64_t{1} << 20U;
-/// What remains free of a pixel when nobody can tell it from a full one (of 255).
-constexpr unsigned kSatt = 6;
-constexpr unsigned kVoll = 255;
+/// So many things of each tile wait before they are drawn: enough to pay for fetching its pixels, and few
+/// enough to lie beside them in the cache.
+constexpr std::size_t kWartendeJeKachel = 2048;
 
-constexpr std::uint32_t kRotBlau = 0x00FF00FFU;
-constexpr std::uint32_t kGruen = 0x0000FF00U;
-constexpr std::uint32_t kDeckend = 0xFF000000U;
-
-/// Two colour values at once times n / 255, rounded.
-std::uint32_t MalAnteil(std::uint32_t werte, unsigned n) {
-    const std::uint32_t mal = (werte & kRotBlau) * n + 0x00800080U;
-    return ((mal + (mal >> 8U & kRotBlau)) >> 8U) & kRotBlau;
-}
-
-std::uint32_t FarbeMal(std::uint32_t farbe, unsigned n) {
-    return MalAnteil(farbe, n) | MalAnteil(farbe >> 8U & 0xFFU, n) << 8U;
-}
-
-/// A colour over what is there. @param a its share, 1 to 256
-inline std::uint32_t Gemischt(std::uint32_t unten, std::uint32_t farbe, std::int32_t a) {
-    const auto oben = static_cast<std::uint32_t>(a);
-    const auto rest = static_cast<std::uint32_t>(kGanz - a);
-    const std::uint32_t rb =
-        ((farbe & kRotBlau) * oben + (unten & kRotBlau) * rest + 0x00800080U) >> 8U & kRotBlau;
-    const std::uint32_t g = ((farbe & kGruen) * oben + (unten & kGruen) * rest + 0x00008000U) >> 8U & kGruen;
-    return kDeckend | rb | g;
-}
-
-/// From its corner.
+/// From the corner of a tile.
 Rechteck InKachel(const Rechteck& r, const Rechteck& kachel) {
     return {r.links - kachel.links, r.oben - kachel.oben, r.rechts - kachel.links, r.unten - kachel.oben};
-}
-
-/// Draws over what is there.
-struct Darueber {
-    std::uint32_t* pixel;  ///< first of the top row
-    std::size_t zeile;
-    void SetzePixel(std::uint32_t* p, std::uint32_t farbe, std::int32_t a) const {
-        *p = Gemischt(*p, farbe, a);
-    }
-    [[nodiscard]] static bool Verdeckt(const Rechteck& /*r*/) { return false; }
-};
-
-/// Draws behind what is there.
-struct Dahinter {
-    std::uint32_t* pixel;
-    std::size_t zeile;
-    Deckung& deckung;
-    const Rechteck& kachel;
-    void SetzePixel(std::uint32_t* p, std::uint32_t farbe, std::int32_t a) const {
-        const unsigned frei = kVoll - (*p >> 24U);
-        if (frei == 0) return;
-        unsigned n = (static_cast<unsigned>(a) * frei + kGanz / 2) / kGanz;
-        if (frei - n <= kSatt) {
-            n = frei;
-            const auto ort = static_cast<std::size_t>(p - pixel);
-            deckung.DeckePixel(ort % zeile - static_cast<std::size_t>(kachel.links),
-                               ort / zeile - static_cast<std::size_t>(kachel.oben));
-        }
-        *p += FarbeMal(farbe & ~kDeckend, n) + (n << 24U);
-    }
-    [[nodiscard]] bool Verdeckt(const Rechteck& r) const {
-        return deckung.Verdeckt(InKachel(Geschnitten(r, kachel), kachel));
-    }
-};
-
-/// A stroke along its longer axis, from its smaller end.
-struct Strich {
-    std::int64_t anfang = 0;
-    std::int64_t ende = 0;
-    std::int64_t quer = 0;     ///< of the smaller end
-    double steigung = 0.0;     ///< across, per pixel along
-    std::int32_t dicke = 0;    ///< across [1/256 px]
-    std::int32_t versatz = 0;  ///< of its upper edge from the middle of a pixel [1/256 px]
-    bool umgekehrt = false;    ///< dashes count from the larger end
-    std::int32_t gesetzt = 0;  ///< of a dash [1/256 px]; 0: solid
-    std::int32_t periode = 1;  ///< from one dash to the next
-
-    /// How much of a pixel along the stroke lies in dashes [1/256].
-    [[nodiscard]] std::int32_t Strichanteil(std::int64_t m) const {
-        const auto ort = static_cast<std::int32_t>((umgekehrt ? ende - m : m - anfang) * kGanz % periode);
-        return std::clamp(gesetzt - ort, 0, kGanz) + std::clamp(ort + kGanz - periode, 0, gesetzt);
-    }
-};
-
-/// One step along: the pixels that the stroke touches across. @param weit from one of them to the next
-/// @param anteil of them all [1/256]
-template <class Ziel>
-inline void SetzeQuer(std::uint32_t* p, std::size_t weit, std::int32_t a, std::int32_t rest,
-                      std::int32_t anteil, std::uint32_t farbe, const Ziel& ziel) {
-    while (true) {
-        const std::int32_t hier = a * anteil >> 8;
-        if (hier != 0) ziel.SetzePixel(p, farbe, hier);
-        rest -= a;
-        if (rest <= 0) return;
-        p += weit;
-        a = std::min(kGanz, rest);
-    }
-}
-
-/// The same near the border, pixel by pixel.
-template <bool Senkrecht, class Ziel>
-void SetzeQuerAmRand(const Strich& s, std::int64_t m, std::int64_t oben, const Rechteck& r,
-                     std::uint32_t farbe, const Ziel& ziel) {
-    const std::int64_t von = Senkrecht ? r.links : r.oben;
-    const std::int64_t bis = Senkrecht ? r.rechts : r.unten;
-    const std::int32_t anteil = s.gesetzt != 0 ? s.Strichanteil(m) : kGanz;
-    std::int64_t q = oben >> 8;
-    std::int32_t rest = s.dicke;
-    std::int32_t a = std::min(kGanz - static_cast<std::int32_t>(oben & (kGanz - 1)), rest);
-    for (; rest > 0; ++q, rest -= a, a = std::min(kGanz, rest)) {
-        const std::int32_t hier = a * anteil >> 8;
-        if (q < von || q > bis || hier == 0) continue;
-        const auto x = static_cast<std::size_t>(Senkrecht ? q : m);
-        const auto y = static_cast<std::size_t>(Senkrecht ? m : q);
-        ziel.SetzePixel(ziel.pixel + y * ziel.zeile + x, farbe, hier);
-    }
-}
-
-template <bool Senkrecht, class Ziel>
-void ZieheStrich(const Strich& s, const Rechteck& r, std::uint32_t farbe, const Ziel& ziel) {
-    const std::int64_t erster = std::max<std::int64_t>(s.anfang, Senkrecht ? r.oben : r.links);
-    const std::int64_t letzter = std::min<std::int64_t>(s.ende, Senkrecht ? r.unten : r.rechts);
-    if (s.ende - s.anfang > kLang) {
-        for (std::int64_t m = erster; m <= letzter; ++m) {
-            const double quer = static_cast<double>(s.quer) + s.steigung * static_cast<double>(m - s.anfang);
-            const auto oben = static_cast<std::int64_t>(std::floor(quer * kGanz)) + s.versatz;
-            SetzeQuerAmRand<Senkrecht>(s, m, oben, r, farbe, ziel);
-        }
-        return;
-    }
-    // Each place from the end of the stroke, so that it does not depend on where the picture begins.
-    constexpr double kFein = 4294967296.0;
-    const auto schritt = static_cast<std::int64_t>(s.steigung * kFein);
-    std::int64_t v = (s.quer * (std::int64_t{1} << 32)) + (erster - s.anfang) * schritt;
-    const std::int64_t von = Senkrecht ? r.links : r.oben;
-    const std::int64_t bis = (Senkrecht ? r.rechts : r.unten) - (s.dicke + kGanz - 1) / kGanz;
-    const std::size_t laengs = Senkrecht ? ziel.zeile : 1;
-    const std::size_t quer = Senkrecht ? 1 : ziel.zeile;
-    for (std::int64_t m = erster; m <= letzter; ++m, v += schritt) {
-        const std::int64_t oben = (v >> 24) + s.versatz;
-        const std::int64_t q = oben >> 8;
-        if (q < von || q > bis) {
-            SetzeQuerAmRand<Senkrecht>(s, m, oben, r, farbe, ziel);
-            continue;
-        }
-        std::uint32_t* p =
-            ziel.pixel + static_cast<std::size_t>(m) * laengs + static_cast<std::size_t>(q) * quer;
-        const std::int32_t a = std::min(kGanz - static_cast<std::int32_t>(oben & (kGanz - 1)), s.dicke);
-        SetzeQuer(p, quer, a, s.dicke, s.gesetzt != 0 ? s.Strichanteil(m) : kGanz, farbe, ziel);
-    }
-}
-
-/// @param breite [px]
-template <class Ziel>
-void ZieheLinie(Flaechenpunkt von, Flaechenpunkt nach, double breite, double dash, const Rechteck& r,
-                std::uint32_t farbe, const Ziel& ziel) {
-    constexpr double kDash = kStrichlaenge + kStrichluecke;
-    const std::int64_t dx = std::int64_t{nach.x} - von.x;
-    const std::int64_t dy = std::int64_t{nach.y} - von.y;
-    const bool senkrecht = std::llabs(dx) < std::llabs(dy);
-    Strich s;
-    s.anfang = senkrecht ? von.y : von.x;
-    s.ende = senkrecht ? nach.y : nach.x;
-    s.quer = senkrecht ? von.x : von.y;
-    if (s.anfang > s.ende) {
-        std::swap(s.anfang, s.ende);
-        s.quer = senkrecht ? nach.x : nach.y;
-        s.umgekehrt = true;
-    }
-    const std::int64_t laengs = senkrecht ? dy : dx;
-    const std::int64_t quer = senkrecht ? dx : dy;
-    const auto ganze = std::max<std::int32_t>(1, static_cast<std::int32_t>(std::lround(breite)));
-    if (quer == 0) {
-        s.dicke = ganze * kGanz;  // along the rows: sharp
-    } else {
-        s.steigung = static_cast<double>(quer) / static_cast<double>(laengs);
-        s.dicke =
-            static_cast<std::int32_t>(std::lround(breite * std::sqrt(1.0 + s.steigung * s.steigung) * kGanz));
-    }
-    // Pens of an even width lie between two pixels.
-    s.versatz = (ganze % 2 == 0 ? 0 : kGanz / 2) - s.dicke / 2;
-    if (dash > 0.0) {
-        s.gesetzt = static_cast<std::int32_t>(std::lround(kStrichlaenge * dash * kGanz));
-        s.periode = static_cast<std::int32_t>(std::lround(kDash * dash * kGanz));
-    }
-    if (senkrecht) {
-        ZieheStrich<true>(s, r, farbe, ziel);
-    } else {
-        ZieheStrich<false>(s, r, farbe, ziel);
-    }
-}
-
-template <class Ziel>
-void SetzeMaske(const Deckmaske& m, Flaechenpunkt ort, const Rechteck& r, std::uint32_t farbe,
-                const Ziel& ziel) {
-    const std::int64_t links = std::int64_t{ort.x} + m.links;
-    const std::int64_t oben = std::int64_t{ort.y} + m.oben;
-    const std::int64_t vonX = std::max<std::int64_t>(r.links - links, 0);
-    const std::int64_t bisX = std::min<std::int64_t>(r.rechts - links, m.weite - 1);
-    const std::int64_t bisY = std::min<std::int64_t>(r.unten - oben, m.hoehe - 1);
-    for (std::int64_t y = std::max<std::int64_t>(r.oben - oben, 0); y <= bisY; ++y) {
-        const std::uint8_t* werte = m.werte.data() + static_cast<std::size_t>(y * m.weite);
-        std::uint32_t* zeile = ziel.pixel + static_cast<std::size_t>(oben + y) * ziel.zeile + links;
-        for (std::int64_t x = vonX; x <= bisX; ++x) {
-            // From 0..255 to 0..256.
-            if (werte[x] != 0) ziel.SetzePixel(zeile + x, farbe, werte[x] + (werte[x] >> 7));
-        }
-    }
-}
-
-Rechteck Maskenumfang(const Deckmaske& m, Flaechenpunkt ort) {
-    return {ort.x + m.links, ort.y + m.oben, ort.x + m.links + m.weite - 1, ort.y + m.oben + m.hoehe - 1};
 }
 
 }  // namespace
@@ -285,18 +69,18 @@ void Glattbild::VerteileAuftrag(const Auftrag& a, const Rechteck& umfang) {
         k.auftraege.push_back(a);
         ++wartende_;
     });
-    if (wartende_ >= kMeisteWartende) SchliesseAb();
+    if (wartende_ >= kWartendeJeKachel * kacheln_.size()) SchliesseAb();
 }
 
 void Glattbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
-    VerteileAuftrag({nullptr, {r.links, r.oben}, {r.rechts, r.unten}, farbe, Art::Rechteck, 0}, r);
+    VerteileAuftrag({{r.links, r.oben}, {.nach = {r.rechts, r.unten}}, farbe, Art::Rechteck, 0}, r);
 }
 
 void Glattbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, std::int32_t breite,
                       bool gestrichelt) {
     constexpr std::int32_t kBreitester = 255;
     const auto stift = static_cast<std::uint8_t>(std::clamp(breite, 1, kBreitester));
-    const Auftrag a{nullptr, von, nach, farbe, gestrichelt ? Art::Gestrichelt : Art::Strich, stift};
+    const Auftrag a{von, {.nach = nach}, farbe, gestrichelt ? Art::Gestrichelt : Art::Strich, stift};
     const Rechteck umfang = Strichumfang(a);
     if (umfang.rechts - umfang.links <= kKachelweite || umfang.unten - umfang.oben <= kKachelhoehe)
         return VerteileAuftrag(a, umfang);
@@ -328,7 +112,7 @@ void Glattbild::VerteileLangen(const Auftrag& a, const Rechteck& umfang) {
 }
 
 void Glattbild::Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t farbe) {
-    VerteileAuftrag({&maske, ort, ort, farbe, Art::Maske, 0}, Maskenumfang(maske, ort));
+    VerteileAuftrag({ort, {.maske = &maske}, farbe, Art::Maske, 0}, maske.Umfang(ort));
 }
 
 Rechteck Glattbild::Strichumfang(const Auftrag& a) const {
@@ -337,38 +121,38 @@ Rechteck Glattbild::Strichumfang(const Auftrag& a) const {
             std::max(a.von.x, a.nach.x) + rand, std::max(a.von.y, a.nach.y) + rand};
 }
 
+/// @param ecke of the surface where the target has its first pixel
 template <class Ziel>
-void Glattbild::ZeichneAuftraege(const Kachel& k, const Ziel& ziel) const {
-    for (const Auftrag& a : k.auftraege) {
+void Glattbild::ZeichneAuftraege(const Kachel& k, Flaechenpunkt ecke, const Ziel& ziel) const {
+    for (Auftrag a : k.auftraege) {
+        a.von = {a.von.x - ecke.x, a.von.y - ecke.y};
+        if (a.art < Art::Maske) a.nach = {a.nach.x - ecke.x, a.nach.y - ecke.y};
         switch (a.art) {
-            case Art::Rechteck: {
-                const Rechteck r = Geschnitten({a.von.x, a.von.y, a.nach.x, a.nach.y}, k.bereich);
-                for (std::int64_t y = r.oben; y <= r.unten; ++y) {
-                    for (std::int64_t x = r.links; x <= r.rechts; ++x)
-                        ziel.SetzePixel(ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + x, a.farbe,
-                                        kGanz);
-                }
+            case Art::Rechteck:
+                FuellePixel({a.von.x, a.von.y, a.nach.x, a.nach.y}, a.farbe, ziel);
                 break;
-            }
             case Art::Strich:
             case Art::Gestrichelt:
                 if (ziel.Verdeckt(Strichumfang(a))) break;
-                ZieheLinie(a.von, a.nach, dichte_ * a.breite, a.art == Art::Strich ? 0.0 : dichte_, k.bereich,
-                           a.farbe, ziel);
+                ZieheLinie(a.von, a.nach, dichte_ * a.breite, a.art == Art::Strich ? 0.0 : dichte_, a.farbe,
+                           ziel);
                 break;
             case Art::Maske:
-                if (ziel.Verdeckt(Maskenumfang(*a.maske, a.von))) break;
-                SetzeMaske(*a.maske, a.von, k.bereich, a.farbe, ziel);
+                if (ziel.Verdeckt(a.maske->Umfang(a.von))) break;
+                SetzeMaske(*a.maske, a.von, a.farbe, ziel);
                 break;
         }
     }
 }
 
 void Glattbild::ZeichneKachel(Kachel& k) {
+    const Rechteck& r = k.bereich;
     if (vonVorn_) {
-        ZeichneAuftraege(k, Dahinter{vorn_.data(), static_cast<std::size_t>(weite_), k.deckung, k.bereich});
+        ZeichneAuftraege(
+            k, {r.links, r.oben},
+            Dahinter{k.vorn, kKachelweite, {0, 0, r.rechts - r.links, r.unten - r.oben}, k.deckung});
     } else {
-        ZeichneAuftraege(k, Darueber{bild_, zeile_});
+        ZeichneAuftraege(k, {}, Darueber{bild_, zeile_, r});
     }
     k.auftraege.clear();
 }
@@ -386,40 +170,33 @@ bool Glattbild::BeginneVonVorn() {
     if (std::int64_t{weite_} * hoehe_ > kGroesstes) return false;
     SchliesseAb();
     vonVorn_ = true;
-    vorn_.resize(static_cast<std::size_t>(weite_) * static_cast<std::size_t>(hoehe_));
-    for (Kachel& k : kacheln_) {
-        const Rechteck& r = k.bereich;
-        k.deckung.BeginneDeckung(r.rechts - r.links + 1, r.unten - r.oben + 1,
-                                 {0, 0, r.rechts - r.links, r.unten - r.oben});
+    if (vorn_ == nullptr) {
+        // As many tiles as any part of the picture has. Memory that is not written to costs nothing.
+        const auto jeReihe = static_cast<std::size_t>((weite_ + kKachelweite - 1) / kKachelweite);
+        const auto reihen = static_cast<std::size_t>((hoehe_ + kKachelhoehe - 1) / kKachelhoehe);
+        const std::size_t bytes = jeReihe * reihen * kKachelpixel * sizeof(std::uint32_t);
+        vorn_.reset(static_cast<std::uint32_t*>(NimmSpeicher(bytes, bytes)));
     }
     helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) {
-        const Rechteck& r = kacheln_[i].bereich;
-        for (std::int32_t y = r.oben; y <= r.unten; ++y) {
-            const auto zeile = vorn_.begin() + std::ptrdiff_t{y} * weite_;
-            std::fill(zeile + r.links, zeile + r.rechts + 1, 0U);
-        }
+        Kachel& k = kacheln_[i];
+        const Rechteck ganz{0, 0, k.bereich.rechts - k.bereich.links, k.bereich.unten - k.bereich.oben};
+        k.deckung.BeginneDeckung(ganz.rechts + 1, ganz.unten + 1, ganz);
+        k.vorn = vorn_.get() + i * kKachelpixel;
+        std::fill_n(k.vorn, static_cast<std::size_t>(ganz.unten + 1) * kKachelweite, 0U);
     });
     return true;
-}
-
-/// Lays what is in front over the picture.
-void Glattbild::MischeUnter(const Rechteck& r) {
-    for (std::int32_t y = r.oben; y <= r.unten; ++y) {
-        std::uint32_t* unten = bild_ + static_cast<std::size_t>(y) * zeile_;
-        const std::uint32_t* vorn =
-            vorn_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(weite_);
-        for (std::int32_t x = r.links; x <= r.rechts; ++x) {
-            if (vorn[x] == 0) continue;
-            unten[x] =
-                kDeckend | ((vorn[x] & ~kDeckend) + FarbeMal(unten[x] & ~kDeckend, kVoll - (vorn[x] >> 24U)));
-        }
-    }
 }
 
 void Glattbild::BeendeVonVorn() {
     SchliesseAb();
     vonVorn_ = false;
-    helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) { MischeUnter(kacheln_[i].bereich); });
+    helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) {
+        const Rechteck& r = kacheln_[i].bereich;
+        const std::uint32_t* vorn = kacheln_[i].vorn;
+        for (std::int32_t y = r.oben; y <= r.unten; ++y, vorn += kKachelweite)
+            MischeUnter(vorn, bild_ + static_cast<std::size_t>(y) * zeile_ + r.links,
+                        static_cast<std::size_t>(r.rechts - r.links + 1));
+    });
 }
 
 bool Glattbild::Verdeckt(const Rechteck& r) const {

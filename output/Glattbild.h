@@ -11,20 +11,13 @@
 #include <memory>
 #include <vector>
 
+#include "model/GrosserSpeicher.h"
 #include "output/Deckung.h"
+#include "output/Glattpinsel.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeilenhelfer.h"
 
 namespace zrw {
-
-/// How much a small shape covers of each pixel, 0 to 255.
-struct Deckmaske {
-    int links = 0;  ///< of the mask, from the place that the shape is drawn at [px]
-    int oben = 0;
-    int weite = 0;
-    int hoehe = 0;
-    std::vector<std::uint8_t> werte;  ///< row by row
-};
 
 class Glattbild {
   public:
@@ -55,23 +48,32 @@ class Glattbild {
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const;
 
   private:
+    struct Speichergabe {
+        void operator()(std::uint32_t* p) const { GibSpeicher(p); }
+    };
     enum class Art : std::uint8_t { Rechteck, Strich, Gestrichelt, Maske };
     /// One thing to be drawn.
     struct Auftrag {
-        const Deckmaske* maske;
         Flaechenpunkt von;
-        Flaechenpunkt nach;
+        union {
+            Flaechenpunkt nach;
+            const Deckmaske* maske;
+        };
         std::uint32_t farbe;
         Art art;
         std::uint8_t breite;  ///< of the pen
     };
     static constexpr std::int32_t kKachelweite = 512;
     static constexpr std::int32_t kKachelhoehe = 128;
+    static constexpr std::size_t kKachelpixel = std::size_t{kKachelweite} * kKachelhoehe;
     /// What one core draws at a time.
     struct Kachel {
         Rechteck bereich;
         std::vector<Auftrag> auftraege;
-        Deckung deckung;  ///< from the corner of the tile
+        // While drawing from the front, from the corner of the tile: what is covered, and colours times their
+        // share, which stands in the highest byte, in rows of `kKachelweite`.
+        Deckung deckung;
+        std::uint32_t* vorn = nullptr;
     };
 
     void VerteileAuftrag(const Auftrag& a, const Rechteck& umfang);
@@ -81,9 +83,8 @@ class Glattbild {
     void FuerKacheln(Kacheln& kacheln, const Rechteck& r, Tun tun) const;
     void ZeichneKachel(Kachel& k);
     template <class Ziel>
-    void ZeichneAuftraege(const Kachel& k, const Ziel& ziel) const;
+    void ZeichneAuftraege(const Kachel& k, Flaechenpunkt ecke, const Ziel& ziel) const;
     [[nodiscard]] Rechteck Strichumfang(const Auftrag& a) const;
-    void MischeUnter(const Rechteck& r);
 
     std::uint32_t* bild_ = nullptr;
     int weite_ = 0;
@@ -96,8 +97,7 @@ class Glattbild {
     std::size_t spalten_ = 0;      ///< tiles in a row
     std::size_t wartende_ = 0;
     bool vonVorn_ = false;
-    /// While drawing from the front: colours times their share, which stands in the highest byte.
-    std::vector<std::uint32_t> vorn_;
+    std::unique_ptr<std::uint32_t, Speichergabe> vorn_;  ///< of all tiles
 };
 
 }  // namespace zrw

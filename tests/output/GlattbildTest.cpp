@@ -29,10 +29,10 @@ struct Blatt {
 };
 
 Deckmaske Probemaske() {
-    Deckmaske m{-3, -2, 9, 7, {}};
-    for (int i = 0; i < m.weite * m.hoehe; ++i)
-        m.werte.push_back(static_cast<std::uint8_t>(i * 37 % 256));
-    return m;
+    std::array<std::uint8_t, 9 * 7> werte;
+    for (std::size_t i = 0; i < werte.size(); ++i)
+        werte[i] = static_cast<std::uint8_t>(i * 37 % 256);
+    return {-3, -2, 9, 7, werte};
 }
 
 /// Strokes, dashes, masks and rectangles all over the picture and beside it, the same for each number.

@@ -25,13 +25,12 @@ Deckmaske MaskeVon(const QImage& bild, QPoint null) {
             if (qAlpha(bild.pixel(x, y)) != 0) grenzen |= QRect(x, y, 1, 1);
         }
     }
-    Deckmaske maske{grenzen.x() - null.x(), grenzen.y() - null.y(), grenzen.width(), grenzen.height(), {}};
+    std::vector<std::uint8_t> werte;
     for (int y = 0; y < grenzen.height(); ++y) {
         for (int x = 0; x < grenzen.width(); ++x)
-            maske.werte.push_back(
-                static_cast<std::uint8_t>(qAlpha(bild.pixel(grenzen.topLeft() + QPoint(x, y)))));
+            werte.push_back(static_cast<std::uint8_t>(qAlpha(bild.pixel(grenzen.topLeft() + QPoint(x, y)))));
     }
-    return maske;
+    return {grenzen.x() - null.x(), grenzen.y() - null.y(), grenzen.width(), grenzen.height(), werte};
 }
 
 QImage LeeresBild(int weite, int hoehe) {

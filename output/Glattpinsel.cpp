@@ -1,0 +1,393 @@
+#include "output/Glattpinsel.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+
+namespace zrw {
+namespace {
+
+constexpr std::int32_t kGanz = 256;
+
+/// @param v not negative
+std::int32_t Gerundet(double v) {
+    return static_cast<std::int32_t>(v + 0.5);
+}
+
+/// Longer strokes are worked out step by step in floating point.
+constexpr std::int64_t kLang = std::int64_t{1} << 20U;
+/// Across broader ones, places do not fit into 16 bits.
+constexpr std::int32_t kBreit = 64 * kGanz;
+/// What remains free of a pixel when nobody can tell it from a full one (of 255).
+constexpr unsigned kSatt = 6;
+constexpr unsigned kVoll = 255;
+constexpr std::int32_t kVier = 4;
+
+constexpr std::uint32_t kRotBlau = 0x00FF00FFU;
+constexpr std::uint32_t kGruen = 0x0000FF00U;
+constexpr std::uint32_t kDeckend = 0xFF000000U;
+
+std::uint32_t MalAnteil(std::uint32_t werte, unsigned n) {
+    const std::uint32_t mal = (werte & kRotBlau) * n + 0x00800080U;
+    return ((mal + (mal >> 8U & kRotBlau)) >> 8U) & kRotBlau;
+}
+
+/// A colour over what is there. @param a its share, 1 to 256
+inline std::uint32_t Gemischt(std::uint32_t unten, std::uint32_t farbe, std::int32_t a) {
+    const auto oben = static_cast<std::uint32_t>(a);
+    const auto rest = static_cast<std::uint32_t>(kGanz - a);
+    const std::uint32_t rb =
+        ((farbe & kRotBlau) * oben + (unten & kRotBlau) * rest + 0x00800080U) >> 8U & kRotBlau;
+    const std::uint32_t g = ((farbe & kGruen) * oben + (unten & kGruen) * rest + 0x00008000U) >> 8U & kGruen;
+    return kDeckend | rb | g;
+}
+
+/// A colour times n / 255, rounded.
+std::uint32_t FarbeMal(std::uint32_t farbe, unsigned n) {
+    return MalAnteil(farbe, n) | MalAnteil(farbe >> 8U & 0xFFU, n) << 8U;
+}
+
+}  // namespace
+
+inline void Darueber::FuelleZeile(std::uint32_t* p, std::int64_t /*y*/, std::int32_t weite,
+                                  std::uint32_t farbe) const {
+    std::fill_n(p, weite, kDeckend | farbe);
+}
+
+inline void Darueber::SetzePixel(std::uint32_t* p, std::int64_t /*y*/, const Vierfarbe& farbe,
+                                 std::int32_t a) const {
+    *p = Gemischt(*p, farbe.einzeln, a);
+}
+
+inline void Darueber::SetzeVier(std::uint32_t* p, std::int64_t /*y*/, const Vierfarbe& farbe, Acht a) const {
+    const Acht unten = AlsAcht(LiesVier(p));
+    const Acht rest = kGanz - a;
+    const Acht rb = (farbe.rotBlau * a + (unten & 0xFF) * rest + 0x80) >> 8;
+    const Acht g = (farbe.rest * a + (unten >> 8) * rest + 0x80) & 0xFF00;
+    SchreibeVier(p, AlsVier(rb | g) | kDeckend);
+}
+
+/// @param neue which pixels from there on have become full
+inline void Dahinter::Decke(const std::uint32_t* p, std::int64_t y, std::uint64_t neue) const {
+    const auto zeilenanfang = pixel + static_cast<std::size_t>(y) * zeile;
+    const auto x = static_cast<std::size_t>(p - zeilenanfang);
+    const std::size_t weg = x % 64;
+    deckung.DeckePixel(x / 64, static_cast<std::size_t>(y), neue << weg);
+    if (weg + kVier > 64 && neue >> (64 - weg) != 0)
+        deckung.DeckePixel(x / 64 + 1, static_cast<std::size_t>(y), neue >> (64 - weg));
+}
+
+inline void Dahinter::SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe,
+                                 std::int32_t a) const {
+    const unsigned frei = kVoll - (*p >> 24U);
+    if (frei == 0) return;
+    unsigned n = (static_cast<unsigned>(a) * frei + kGanz / 2) / kGanz;
+    if (frei - n <= kSatt) {
+        n = frei;
+        Decke(p, y, 1);
+    }
+    *p += FarbeMal(farbe.einzeln & ~kDeckend, n) + (n << 24U);
+}
+
+inline void Dahinter::FuelleZeile(std::uint32_t* p, std::int64_t y, std::int32_t weite,
+                                  std::uint32_t farbe) const {
+    const Vierfarbe vierfarbe(farbe);
+    for (std::int32_t x = 0; x < weite; ++x)
+        SetzePixel(p + x, y, vierfarbe, kGanz);
+}
+
+inline void Dahinter::SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a) const {
+    const Vier vorn = LiesVier(p);
+    const Acht frei = kVoll - Zweimal(vorn >> 24);
+    Acht n = (a * frei + kGanz / 2) >> 8;
+    if (AlleNull(n)) return;
+    const auto bleibt = std::bit_cast<AchtMitVorzeichen>(frei - n);
+    const Acht satt = std::bit_cast<Acht>(bleibt <= std::int16_t{kSatt});
+    n += std::bit_cast<Acht>(bleibt) & satt;
+    const Acht rb = farbe.rotBlau * n + 0x80;
+    const Acht g = farbe.rest * n + 0x80;
+    SchreibeVier(p, vorn + AlsVier(((rb + (rb >> 8)) >> 8) | ((g + (g >> 8)) & 0xFF00)));
+    const Acht neu = satt & std::bit_cast<Acht>(frei != 0);
+    if (const std::uint64_t volle = Pixelbits(neu); volle != 0) Decke(p, y, volle);
+}
+
+namespace {
+
+/// A stroke along its longer axis, from its smaller end.
+struct Strich {
+    std::int64_t anfang = 0;
+    std::int64_t ende = 0;
+    std::int64_t quer = 0;     ///< of the smaller end
+    double steigung = 0.0;     ///< across, per pixel along
+    std::int32_t dicke = 0;    ///< across [1/256 px]
+    std::int32_t versatz = 0;  ///< of its upper edge from the middle of a pixel [1/256 px]
+    bool umgekehrt = false;    ///< dashes count from the larger end
+    std::int32_t gesetzt = 0;  ///< of a dash [1/256 px]; 0: solid
+    std::int32_t periode = 1;  ///< from one dash to the next
+
+    /// How much of a pixel along the stroke lies in dashes [1/256].
+    [[nodiscard]] std::int32_t Strichanteil(std::int64_t m) const {
+        if (gesetzt == 0) return kGanz;
+        const auto ort = static_cast<std::int32_t>((umgekehrt ? ende - m : m - anfang) * kGanz % periode);
+        return std::clamp(gesetzt - ort, 0, kGanz) + std::clamp(ort + kGanz - periode, 0, gesetzt);
+    }
+};
+
+/// One step along, pixel by pixel, those in the tile.
+template <bool Senkrecht, class Ziel>
+void SetzeQuerAmRand(const Strich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
+                     const Ziel& ziel) {
+    const std::int64_t von = Senkrecht ? ziel.bereich.links : ziel.bereich.oben;
+    const std::int64_t bis = Senkrecht ? ziel.bereich.rechts : ziel.bereich.unten;
+    const std::int32_t anteil = s.Strichanteil(m);
+    std::int64_t q = oben >> 8;
+    std::int32_t rest = s.dicke;
+    std::int32_t a = std::min(kGanz - static_cast<std::int32_t>(oben & (kGanz - 1)), rest);
+    for (; rest > 0; ++q, rest -= a, a = std::min(kGanz, rest)) {
+        const std::int32_t hier = a * anteil >> 8;
+        if (q < von || q > bis || hier == 0) continue;
+        const std::int64_t x = Senkrecht ? q : m;
+        const std::int64_t y = Senkrecht ? m : q;
+        ziel.SetzePixel(ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + x, y, farbe, hier);
+    }
+}
+
+/// One step of a stroke that runs down: the pixels of a row, four at a time.
+template <class Ziel>
+inline void SetzeInZeile(const Strich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
+                         const Ziel& ziel) {
+    constexpr Acht kStellen{0, 0, kGanz, kGanz, 2 * kGanz, 2 * kGanz, 3 * kGanz, 3 * kGanz};
+    constexpr Acht kErster{0xFFFF, 0xFFFF};
+    const std::int64_t q = oben >> 8;
+    const auto beginn = static_cast<std::int32_t>(oben & (kGanz - 1));
+    const std::int32_t bis = beginn + s.dicke;
+    const std::int32_t weite = (bis + kVier * kGanz - 1) / (kVier * kGanz) * kVier;
+    if (q < ziel.bereich.links || q + weite - 1 > ziel.bereich.rechts)
+        return SetzeQuerAmRand<true>(s, m, oben, farbe, ziel);
+    const std::int32_t anteil = s.Strichanteil(m);
+    if (anteil == 0) return;
+    std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(m) * ziel.zeile + q;
+    Acht vorher = Ueberall(beginn) & kErster;
+    for (std::int32_t i = 0; i < weite; i += kVier) {
+        Acht a = BisGanz(Ueberall(bis - i * kGanz) - kStellen) - vorher;
+        if (anteil != kGanz) a = (a * Ueberall(anteil)) >> 8;
+        ziel.SetzeVier(p + i, m, farbe, a);
+        vorher = Acht{};
+    }
+}
+
+/// Four steps of a stroke that runs beside the rows: the pixels of some rows. @param anzahl of the steps that
+/// it has @param v its middle at the first of them, in 2^-32
+template <class Ziel>
+inline void SetzeInZeilen(const Strich& s, std::int64_t m, std::int64_t anzahl, std::int64_t v,
+                          std::int64_t schritt, const Vierfarbe& farbe, const Ziel& ziel) {
+    std::array<std::int64_t, kVier> oben;
+    for (std::size_t i = 0; i < kVier; ++i)
+        oben[i] = ((v + static_cast<std::int64_t>(i) * schritt) >> 24) + s.versatz;
+    const auto [klein, gross] = std::minmax(oben[0], oben[static_cast<std::size_t>(anzahl) - 1]);
+    const std::int64_t von = klein >> 8;
+    const std::int64_t bis = (gross + s.dicke - 1) >> 8;
+    if (m + kVier - 1 > ziel.bereich.rechts || von < ziel.bereich.oben || bis > ziel.bereich.unten) {
+        for (std::int64_t i = 0; i < anzahl; ++i)
+            SetzeQuerAmRand<false>(s, m + i, oben[static_cast<std::size_t>(i)], farbe, ziel);
+        return;
+    }
+    const auto ab = [&](std::size_t i) {
+        return static_cast<std::uint32_t>(oben[i] - von * kGanz) & 0xFFFFU;
+    };
+    Acht beginn = Zweimal(Vier{ab(0), ab(1), ab(2), ab(3)});
+    Acht ende = beginn + static_cast<std::uint16_t>(s.dicke);
+    // Where a pixel lies in a dash as a whole, its share is as it is: 256 times 256 does not fit.
+    Acht ganz = ErstePixel(anzahl);
+    Acht teil{};
+    if (s.gesetzt != 0) {
+        const auto dash = [&](std::int64_t i) { return static_cast<std::uint32_t>(s.Strichanteil(m + i)); };
+        const Acht anteil = Zweimal(Vier{dash(0), dash(1), dash(2), dash(3)}) & ganz;
+        ganz = std::bit_cast<Acht>(anteil == kGanz);
+        teil = anteil & ~ganz;
+    }
+    std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(von) * ziel.zeile + m;
+    for (std::int64_t y = von; y <= bis; ++y, p += ziel.zeile) {
+        Acht a = BisGanz(ende) - BisGanz(beginn);
+        a = (a & ganz) | ((a * teil) >> 8);
+        ziel.SetzeVier(p, y, farbe, a);
+        beginn -= kGanz;
+        ende -= kGanz;
+    }
+}
+
+template <bool Senkrecht, class Ziel>
+void ZieheStrich(const Strich& s, const Vierfarbe& farbe, const Ziel& ziel) {
+    const std::int64_t erster =
+        std::max<std::int64_t>(s.anfang, Senkrecht ? ziel.bereich.oben : ziel.bereich.links);
+    const std::int64_t letzter =
+        std::min<std::int64_t>(s.ende, Senkrecht ? ziel.bereich.unten : ziel.bereich.rechts);
+    if (s.ende - s.anfang > kLang || s.dicke > kBreit) {
+        for (std::int64_t m = erster; m <= letzter; ++m) {
+            const double quer = static_cast<double>(s.quer) + s.steigung * static_cast<double>(m - s.anfang);
+            const auto oben = static_cast<std::int64_t>(std::floor(quer * kGanz)) + s.versatz;
+            SetzeQuerAmRand<Senkrecht>(s, m, oben, farbe, ziel);
+        }
+        return;
+    }
+    // Each place from the end of the stroke, so that it does not depend on where the picture begins.
+    constexpr double kFein = 4294967296.0;
+    const auto schritt = static_cast<std::int64_t>(s.steigung * kFein);
+    std::int64_t v = (s.quer * (std::int64_t{1} << 32)) + (erster - s.anfang) * schritt;
+    if constexpr (Senkrecht) {
+        for (std::int64_t m = erster; m <= letzter; ++m, v += schritt)
+            SetzeInZeile(s, m, (v >> 24) + s.versatz, farbe, ziel);
+    } else {
+        for (std::int64_t m = erster; m <= letzter; m += kVier, v += kVier * schritt)
+            SetzeInZeilen(s, m, std::min<std::int64_t>(kVier, letzter - m + 1), v, schritt, farbe, ziel);
+    }
+}
+
+}  // namespace
+
+template <class Ziel>
+void ZieheLinie(Flaechenpunkt von, Flaechenpunkt nach, double breite, double dash, std::uint32_t farbe,
+                const Ziel& ziel) {
+    constexpr double kDash = kStrichlaenge + kStrichluecke;
+    const std::int64_t dx = std::int64_t{nach.x} - von.x;
+    const std::int64_t dy = std::int64_t{nach.y} - von.y;
+    const bool senkrecht = std::llabs(dx) < std::llabs(dy);
+    Strich s;
+    s.anfang = senkrecht ? von.y : von.x;
+    s.ende = senkrecht ? nach.y : nach.x;
+    s.quer = senkrecht ? von.x : von.y;
+    if (s.anfang > s.ende) {
+        std::swap(s.anfang, s.ende);
+        s.quer = senkrecht ? nach.x : nach.y;
+        s.umgekehrt = true;
+    }
+    const std::int64_t laengs = senkrecht ? dy : dx;
+    const std::int64_t quer = senkrecht ? dx : dy;
+    const auto ganze = std::max(1, Gerundet(breite));
+    if (quer == 0) {
+        s.dicke = ganze * kGanz;  // along the rows: sharp
+    } else {
+        s.steigung = static_cast<double>(quer) / static_cast<double>(laengs);
+        s.dicke = Gerundet(breite * std::sqrt(1.0 + s.steigung * s.steigung) * kGanz);
+    }
+    // Pens of an even width lie between two pixels.
+    s.versatz = (ganze % 2 == 0 ? 0 : kGanz / 2) - s.dicke / 2;
+    if (dash > 0.0) {
+        s.gesetzt = Gerundet(kStrichlaenge * dash * kGanz);
+        s.periode = Gerundet(kDash * dash * kGanz);
+    }
+    if (senkrecht) {
+        ZieheStrich<true>(s, Vierfarbe(farbe), ziel);
+    } else {
+        ZieheStrich<false>(s, Vierfarbe(farbe), ziel);
+    }
+}
+
+Deckmaske::Deckmaske(int links, int oben, int weite, int hoehe, std::span<const std::uint8_t> werte)
+    : links_(links),
+      oben_(oben),
+      weite_(weite),
+      hoehe_(hoehe),
+      viererJeZeile_((static_cast<std::size_t>(weite) + 3) / 4),
+      worteJeZeile_((static_cast<std::size_t>(weite) + 63) / 64) {
+    const auto w = static_cast<std::size_t>(weite);
+    vierer_.resize(static_cast<std::size_t>(hoehe) * viererJeZeile_);
+    bits_.resize(static_cast<std::size_t>(hoehe) * worteJeZeile_);
+    for (std::size_t i = 0; i < w * static_cast<std::size_t>(hoehe); ++i) {
+        if (werte[i] == 0) continue;
+        const std::size_t x = i % w;
+        // From 0..255 to 0..256.
+        const auto anteil = static_cast<std::uint16_t>(werte[i] + (werte[i] >> 7));
+        Acht& vier = vierer_[i / w * viererJeZeile_ + x / 4];
+        vier[x % 4 * 2] = vier[x % 4 * 2 + 1] = anteil;
+        bits_[i / w * worteJeZeile_ + x / 64] |= std::uint64_t{1} << (x % 64);
+    }
+}
+
+namespace {
+
+/// Which of 64 pixels from `x` on lie in the tile.
+std::uint64_t Darin(std::int64_t x, const Rechteck& r) {
+    const std::int64_t von = std::clamp<std::int64_t>(r.links - x, 0, 64);
+    const std::int64_t bis = std::clamp<std::int64_t>(r.rechts + 1 - x, 0, 64);
+    if (von >= bis) return 0;
+    return ~std::uint64_t{0} >> (64 - (bis - von)) << von;
+}
+
+/// Up to 64 pixels of a row. @param offen those that are to be drawn @param innen the tile has all of them
+template <class Ziel>
+inline void SetzeMaskenzeile(const Acht* vier, std::uint64_t offen, std::int64_t x, std::int64_t y,
+                             bool innen, const Vierfarbe& farbe, const Ziel& ziel) {
+    std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + x;
+    for (; offen != 0; offen >>= kVier, ++vier, p += kVier, x += kVier) {
+        if ((offen & 0xFU) == 0) continue;
+        if (innen || (x >= ziel.bereich.links && x + kVier - 1 <= ziel.bereich.rechts)) {
+            ziel.SetzeVier(p, y, farbe, *vier);
+            continue;
+        }
+        for (int i = 0; i < kVier; ++i) {
+            if ((offen >> i & 1U) != 0) ziel.SetzePixel(p + i, y, farbe, (*vier)[2 * i]);
+        }
+    }
+}
+
+}  // namespace
+
+template <class Ziel>
+void SetzeMaske(const Deckmaske& m, Flaechenpunkt ort, std::uint32_t farbe, const Ziel& ziel) {
+    constexpr std::int64_t kWort = 64;
+    const Vierfarbe vierfarbe(farbe);
+    const Rechteck umfang = m.Umfang(ort);
+    const Rechteck teil = Geschnitten(umfang, ziel.bereich);
+    const bool innen = umfang.links >= ziel.bereich.links && umfang.rechts + kVier - 1 <= ziel.bereich.rechts;
+    for (std::int64_t y = teil.oben; y <= teil.unten; ++y) {
+        const auto zeile = static_cast<std::size_t>(y - umfang.oben);
+        const Acht* vierer = m.Vierer(zeile);
+        const std::uint64_t* bits = m.Bits(zeile);
+        for (std::int64_t x = umfang.links; x <= teil.rechts; x += kWort, vierer += kWort / kVier) {
+            std::uint64_t offen = *bits++;
+            if (!innen) offen &= Darin(x, ziel.bereich);
+            if (x >= ziel.bereich.links) offen &= ziel.Freie(x, y);
+            SetzeMaskenzeile(vierer, offen, x, y, innen, vierfarbe, ziel);
+        }
+    }
+}
+
+template <class Ziel>
+void FuellePixel(const Rechteck& r, std::uint32_t farbe, const Ziel& ziel) {
+    const Rechteck teil = Geschnitten(r, ziel.bereich);
+    if (Leer(teil)) return;
+    for (std::int64_t y = teil.oben; y <= teil.unten; ++y)
+        ziel.FuelleZeile(ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + teil.links, y,
+                         teil.rechts - teil.links + 1, farbe);
+}
+
+void MischeUnter(const std::uint32_t* vorn, std::uint32_t* unten, std::size_t weite) {
+    std::size_t x = 0;
+    for (; x + kVier <= weite; x += kVier) {
+        const Vier v = LiesVier(vorn + x);
+        if (AlleNull(AlsAcht(v))) continue;
+        const Acht frei = kVoll - Zweimal(v >> 24);
+        const Acht u = AlsAcht(LiesVier(unten + x));
+        const Acht rb = (u & 0xFF) * frei + 0x80;
+        const Acht g = (u >> 8) * frei + 0x80;
+        SchreibeVier(unten + x,
+                     kDeckend | (v + AlsVier(((rb + (rb >> 8)) >> 8) | ((g + (g >> 8)) & 0xFF00))));
+    }
+    for (; x < weite; ++x) {
+        unten[x] =
+            kDeckend | ((vorn[x] & ~kDeckend) + FarbeMal(unten[x] & ~kDeckend, kVoll - (vorn[x] >> 24U)));
+    }
+}
+
+template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint32_t, const Darueber&);
+template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint32_t, const Dahinter&);
+template void SetzeMaske(const Deckmaske&, Flaechenpunkt, std::uint32_t, const Darueber&);
+template void SetzeMaske(const Deckmaske&, Flaechenpunkt, std::uint32_t, const Dahinter&);
+template void FuellePixel(const Rechteck&, std::uint32_t, const Darueber&);
+template void FuellePixel(const Rechteck&, std::uint32_t, const Dahinter&);
+
+}  // namespace zrw
