@@ -135,7 +135,6 @@ void Bildaufbau::SammleFiguren() {
 bool Bildaufbau::Dicht() const {
     constexpr double kJePunkt = 60.0;  ///< symbol and lines
     constexpr double kJeNummer = 130.0;
-    constexpr double kTief = 3.0;
     const Rechteck a = flaeche_.Ausschnitt();
     std::int64_t links = a.rechts;
     std::int64_t oben = a.unten;
@@ -154,7 +153,7 @@ bool Bildaufbau::Dicht() const {
     const double flaeche =
         std::max(static_cast<double>(rechts - links + 1) * static_cast<double>(unten - oben + 1), 10000.0);
     const double jePunkt = (kanten_.empty() ? 20.0 : kJePunkt) + (texte_.empty() ? 0.0 : kJeNummer);
-    return punkte * jePunkt > kTief * flaeche;
+    return punkte * jePunkt > flaeche_.LohnendeTiefe() * flaeche;
 }
 
 void Bildaufbau::ZeichnePunkte(bool vonVorn) {

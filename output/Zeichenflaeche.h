@@ -61,6 +61,8 @@ class Zeichenflaeche {
     // Drawing from the front to the back: until the end, what is drawn goes behind what was drawn since the
     // beginning. Most surfaces cannot: they paint one thing over the other.
     virtual bool BeginneVonVorn() { return false; }
+    /// How many times over what is drawn has to cover its area for that to be the quicker way.
+    [[nodiscard]] virtual double LohnendeTiefe() const { return 3.0; }
     virtual void BeendeVonVorn() {}
     /// Nothing that is drawn into the rectangle now would be seen.
     [[nodiscard]] virtual bool Verdeckt(const Rechteck& /*r*/) const { return false; }

@@ -150,6 +150,12 @@ bool Pixelflaeche::BeginneVonVorn() {
     return true;
 }
 
+/// Smooth pixels become full late, and keeping what is free of each takes longer than drawing over it.
+double Pixelflaeche::LohnendeTiefe() const {
+    constexpr double kGlatt = 5.0;
+    return Glaettet() ? kGlatt : Malerflaeche::LohnendeTiefe();
+}
+
 void Pixelflaeche::BeendeVonVorn() {
     if (Glaettet()) return glattbild_.BeendeVonVorn();
     pixel_.BeendeVonVorn();

@@ -34,6 +34,7 @@ class Pixelflaeche : public Malerflaeche {
     /// Thin lines are clipped pixel by pixel, so that they look the same whatever part of them is seen.
     [[nodiscard]] Rechteck Grenzen() const override;
     bool BeginneVonVorn() override;
+    [[nodiscard]] double LohnendeTiefe() const override;
     void BeendeVonVorn() override;
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
         return Glaettet() ? glattbild_.Verdeckt(r) : pixel_.Verdeckt(r);
