@@ -17,15 +17,25 @@ constexpr std::size_t kMeisteFiguren = 5000;
 constexpr double kBildzeit = 16.0;
 /// Smooth edges take at most so many times as long as plain ones.
 constexpr double kGlattZuEckig = 4.0;
-/// Making rows smooth gives way to the user after so long [ms].
-constexpr double kZeilenzeit = 4.0;
-constexpr double kErsteZeilen = 32;
-constexpr double kWenigsteZeilen = 8;
+/// Making parts smooth gives way to the user after so long [ms].
+constexpr double kTeilzeit = 4.0;
+// Parts of so many pixels, in bands of so many rows: across all of a dense picture, a few rows would be drawn
+// with all that reaches into them from above and below.
+constexpr double kErsterTeil = 8192;
+constexpr double kKleinsterTeil = 2048;
+constexpr double kBandhoehe = 64;
+
+/// Pixels of a rectangle.
+double Inhalt(const Rechteck& r) {
+    return static_cast<double>(r.rechts - r.links + 1) * static_cast<double>(r.unten - r.oben + 1);
+}
 
 }  // namespace
 
 void Bildpflege::ZeichneNeu(const Bildvorlage& v) {
-    rau_ = kKeinRechteck;
+    rau_ = band_ = kKeinRechteck;
+    pixel_ = kErsterTeil;
+    jePixel_ = 0;
     ZeichneAusschnitt(v, flaeche_.Sichtbar());
     gezeichnet_ = v.ansicht;
     gueltig_ = true;
@@ -41,6 +51,7 @@ void Bildpflege::ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r) {
         ZeichneBereich(v, r, true);
     } else {
         rau_ = Vereint(rau_, r);
+        band_ = kKeinRechteck;
     }
 }
 
@@ -68,10 +79,7 @@ void Bildpflege::MerkeGlattzeit(double zeit, double anteil) {
 }
 
 double Bildpflege::Anteil(const Rechteck& r) const {
-    const auto inhalt = [](const Rechteck& q) {
-        return static_cast<double>(q.rechts - q.links + 1) * static_cast<double>(q.unten - q.oben + 1);
-    };
-    return inhalt(r) / inhalt(flaeche_.Sichtbar());
+    return Inhalt(r) / Inhalt(flaeche_.Sichtbar());
 }
 
 /// Whether a part can be drawn smooth while the user waits.
@@ -81,13 +89,27 @@ bool Bildpflege::SchnellGlatt(const Rechteck& r) const {
 
 void Bildpflege::GlaetteZeilen(const Bildvorlage& v) {
     if (!Rau()) return;
-    if (zeilen_ == 0) zeilen_ = kErsteZeilen;
-    Rechteck teil = rau_;
-    teil.unten = static_cast<std::int32_t>(std::min<double>(rau_.unten, rau_.oben + std::ceil(zeilen_) - 1));
+    if (Leer(band_)) {
+        const double hoehe = std::max(kBandhoehe, pixel_ / (rau_.rechts - rau_.links + 1));
+        band_ = rau_;
+        band_.unten =
+            static_cast<std::int32_t>(std::min<double>(rau_.unten, rau_.oben + std::ceil(hoehe) - 1));
+    }
+    Rechteck teil = band_;
+    const double weite = std::ceil(pixel_ / (band_.unten - band_.oben + 1));
+    teil.rechts = static_cast<std::int32_t>(std::min<double>(band_.rechts, band_.links + weite - 1));
     const double zeit = ZeichneBereich(v, teil, true);
-    // At most twice as many next time: rows differ in how much lies in them.
-    zeilen_ = std::max(zeilen_ * std::clamp(kZeilenzeit / std::max(zeit, 0.01), 0.25, 2.0), kWenigsteZeilen);
-    rau_.oben = teil.unten + 1;
+    MerkeTeilzeit(zeit, Inhalt(teil));
+    band_.links = teil.rechts + 1;
+    if (Leer(band_)) rau_.oben = band_.unten + 1;
+}
+
+/// The slowest part counts, and is forgotten slowly: beside dense parts of a network lie empty ones.
+void Bildpflege::MerkeTeilzeit(double zeit, double inhalt) {
+    constexpr double kVergessen = 0.99;
+    if (inhalt < pixel_ / 2) return;  // mostly what reaches into it
+    jePixel_ = std::max(zeit / inhalt, jePixel_ * kVergessen);
+    pixel_ = std::clamp(kTeilzeit / std::max(jePixel_, 1e-9), kKleinsterTeil, 2 * pixel_);
 }
 
 // --- Panning ----------------------------------------------------------------------------------------------
@@ -107,6 +129,7 @@ void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
     const auto dx = static_cast<std::int32_t>(weg.x);
     const auto dy = static_cast<std::int32_t>(weg.y);
     flaeche_.VerschiebeBild(dx, dy);
+    band_ = kKeinRechteck;
     if (Rau()) rau_ = Geschnitten({rau_.links + dx, rau_.oben + dy, rau_.rechts + dx, rau_.unten + dy}, bild);
     Rechteck rest = bild;
     if (dy != 0) {

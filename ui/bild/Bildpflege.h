@@ -4,7 +4,7 @@
 // together.
 //
 // Smooth edges take longer than plain ones. What would keep the user waiting is drawn plain first and made
-// smooth later, a few rows at a time, whenever the caller has nothing else to do.
+// smooth later, a part of a few rows at a time, whenever the caller has nothing else to do.
 #pragma once
 
 #include <optional>
@@ -28,7 +28,7 @@ class Bildpflege {
     void VergissZeiten() { glattzeit_.reset(); }
     /// A part of the picture has still to be made smooth.
     [[nodiscard]] bool Rau() const { return !Leer(rau_); }
-    /// Makes a few rows smooth, in a few milliseconds.
+    /// Makes a part of a few rows smooth, in a few milliseconds.
     void GlaetteZeilen(const Bildvorlage& v);
 
     /// The plain way: the whole picture.
@@ -50,6 +50,7 @@ class Bildpflege {
     void ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r);
     double ZeichneBereich(const Bildvorlage& v, const Rechteck& r, bool glatt);
     void MerkeGlattzeit(double zeit, double anteil);
+    void MerkeTeilzeit(double zeit, double inhalt);
     [[nodiscard]] bool SchnellGlatt(const Rechteck& r) const;
     [[nodiscard]] double Anteil(const Rechteck& r) const;
     [[nodiscard]] Rechteck Umfang(const Bildvorlage& v, const Figurenmenge& figuren) const;
@@ -64,11 +65,13 @@ class Bildpflege {
     Rechteck vorher_;
     bool glaetten_ = false;
     Rechteck rau_ = kKeinRechteck;     ///< what was drawn plain and shall become smooth
+    Rechteck band_ = kKeinRechteck;    ///< what is not yet smooth of the rows that are being made so
+    double pixel_ = 0;                 ///< that are made smooth at a time
+    double jePixel_ = 0;               ///< what one of them takes at most [ms]
     std::optional<double> glattzeit_;  ///< that a whole smooth picture takes [ms]
     // Of smooth drawings since it was worked out last.
     double zeitsumme_ = 0;
     double anteilsumme_ = 0;
-    double zeilen_ = 0;  ///< made smooth at a time
 };
 
 }  // namespace zrw
