@@ -92,10 +92,11 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
         Zufallsnetz n(saat, kWeite, kHoehe);
         Tafel tafel(n.e);
         Tafel einfach(n.e, false);
-        // Plain, smooth, and smooth on a finer screen. From the front smooth edges are rounded in another
-        // order.
+        // Plain, smooth, and smooth on a finer screen; the odd ones of these become smooth part by part while
+        // other things happen. From the front smooth edges are rounded in another order.
         const bool glatt = saat >= 48;
         const int dichte = saat >= 50 ? 2 : 1;
+        const bool nachher = glatt && saat % 2 == 1;
         const int erlaubt = glatt ? 12 : 0;
         for (Tafel* t : {&tafel, &einfach}) {
             t->flaeche.SetzeGroesse(kWeite, kHoehe, dichte);
@@ -104,6 +105,7 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
         }
         Bildpflege pflege(tafel.zustand, tafel.flaeche, tafel.zeichner);
         pflege.SetzeGlatt(glatt);
+        if (nachher) pflege.SetzeBildzeit(0);
         Ansicht ansicht;
         const auto vorlage = [&] {
             ansicht = n.liste.InDichte(dichte);
@@ -126,7 +128,8 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
                 n.WuerfleSchalter();
                 pflege.ZeichneNeu(vorlage());
             } else if (wahl < 4) {
-                const Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
+                Bildpunkt weg{n.W(-60, 60), n.W(-60, 60)};
+                if (nachher && n.W(0, 3) != 0) weg.x = 0;  // else all becomes rough, not strips
                 verschoben += pflege.Verschiebbar(vorlage()) ? 1 : 0;
                 n.liste.SetzeVersatz(n.liste.Versatz(), weg);
                 pflege.VerschiebeBild(vorlage(), {weg.x * dichte, weg.y * dichte});
@@ -144,6 +147,9 @@ TEST(Bildpflege, BleibtUeberTausendSchritteDasBildDesEinfachenWegs) {
                 zurueck ? stapel.undo() : stapel.redo();
                 pflege.Nachher(vorlage(), a->Betroffene());
             }
+            for (int teile = nachher ? n.W(0, 4) : 0; teile > 0; --teile)
+                pflege.GlaetteZeilen(vorlage());
+            if (nachher && n.W(0, 2) != 0) continue;
             // What a tool has in hand is left out, and comes back.
             if (n.W(0, 9) == 0) {
                 const Figurenmenge figuren = n.liste.Umfeld(n.Punkt1());

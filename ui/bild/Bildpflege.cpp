@@ -13,8 +13,6 @@ namespace {
 
 /// More are drawn faster with all others.
 constexpr std::size_t kMeisteFiguren = 5000;
-/// A smooth drawing may take so long under the hand: one frame of a screen [ms].
-constexpr double kBildzeit = 16.0;
 /// Smooth edges take at most so many times as long as plain ones.
 constexpr double kGlattZuEckig = 4.0;
 /// Making parts smooth gives way to the user after so long [ms].
@@ -46,7 +44,7 @@ void Bildpflege::ZeichneAusschnitt(const Bildvorlage& v, const Rechteck& r) {
     bool glatt = glaetten_ && SchnellGlatt(r);
     const double zeit = ZeichneBereich(v, r, glatt);
     if (!glaetten_ || glatt) return;
-    glatt = !glattzeit_ && zeit / Anteil(r) * kGlattZuEckig <= kBildzeit;
+    glatt = !glattzeit_ && zeit / Anteil(r) * kGlattZuEckig <= bildzeit_;
     if (glatt) {
         ZeichneBereich(v, r, true);
     } else {
@@ -84,7 +82,7 @@ double Bildpflege::Anteil(const Rechteck& r) const {
 
 /// Whether a part can be drawn smooth while the user waits.
 bool Bildpflege::SchnellGlatt(const Rechteck& r) const {
-    return glattzeit_ && *glattzeit_ * Anteil(r) <= kBildzeit;
+    return glattzeit_ && *glattzeit_ * Anteil(r) <= bildzeit_;
 }
 
 void Bildpflege::GlaetteZeilen(const Bildvorlage& v) {

@@ -24,6 +24,9 @@ class Bildpflege {
 
     /// Whether edges shall be smooth. From the next drawing on.
     void SetzeGlatt(bool glatt) { glaetten_ = glatt; }
+    /// A smooth drawing may take so long under the hand [ms]; longer ones become smooth afterwards. One frame
+    /// of a screen, unless it is set.
+    void SetzeBildzeit(double ms) { bildzeit_ = ms; }
     /// Another network: nothing is known of how long it takes to draw.
     void VergissZeiten() { glattzeit_.reset(); }
     /// A part of the picture has still to be made smooth.
@@ -64,6 +67,7 @@ class Bildpflege {
     bool oertlich_ = false;
     Rechteck vorher_;
     bool glaetten_ = false;
+    double bildzeit_ = 16.0;
     Rechteck rau_ = kKeinRechteck;     ///< what was drawn plain and shall become smooth
     Rechteck band_ = kKeinRechteck;    ///< what is not yet smooth of the rows that are being made so
     double pixel_ = 0;                 ///< that are made smooth at a time
