@@ -192,10 +192,11 @@ void Glattbild::BeendeVonVorn() {
     vonVorn_ = false;
     helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) {
         const Rechteck& r = kacheln_[i].bereich;
+        const std::int32_t weite = r.rechts - r.links + 1;
         const std::uint32_t* vorn = kacheln_[i].vorn;
         for (std::int32_t y = r.oben; y <= r.unten; ++y, vorn += kKachelweite)
             MischeUnter(vorn, bild_ + static_cast<std::size_t>(y) * zeile_ + r.links,
-                        static_cast<std::size_t>(r.rechts - r.links + 1));
+                        static_cast<std::size_t>(weite));
     });
 }
 

@@ -12,9 +12,9 @@ namespace {
 
 constexpr std::int32_t kGanz = 256;
 
-/// @param v not negative
+/// Without the library call that rounding would be for each stroke. @param v not negative
 std::int32_t Gerundet(double v) {
-    return static_cast<std::int32_t>(v + 0.5);
+    return static_cast<std::int32_t>(v + 0.5);  // NOLINT(bugprone-incorrect-roundings)
 }
 
 /// Longer strokes are worked out step by step in floating point.
