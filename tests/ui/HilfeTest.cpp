@@ -158,6 +158,10 @@ TEST(Umbruchleiste, BrichtUmUndUebergehtVersteckte) {
     stuecke[0]->hide();
     leiste->setGeometry({10, 20, 120, 100});
     EXPECT_EQ(stuecke[2]->geometry(), QRect(67, 25, 50, 20));
+    stuecke[0]->show();
+    leiste->setGeometry({0, 0, 4 * 50 + 3 * 4 + 5, 100});
+    EXPECT_EQ(stuecke[1]->geometry(), QRect(57, 5, 50, 20));
+    EXPECT_EQ(stuecke[2]->geometry(), QRect(3, 31, 50, 20)) << "so that the last is not alone below";
 }
 
 }  // namespace

@@ -67,13 +67,41 @@ QSize Umbruchleiste::MitRand(QSize innen) const {
     return innen.grownBy(contentsMargins());
 }
 
+/// What stands in each row.
+std::vector<std::vector<QLayoutItem*>> Umbruchleiste::InReihen(int weite) const {
+    std::vector<std::vector<QLayoutItem*>> reihen;
+    int x = 0;
+    for (const auto& stueck : stuecke_) {
+        if (stueck->isEmpty()) continue;
+        const int breite = stueck->sizeHint().width();
+        if (reihen.empty() || x + breite > weite) {
+            reihen.emplace_back();
+            x = 0;
+        }
+        reihen.back().push_back(stueck.get());
+        x += breite + abstand_;
+    }
+    if (reihen.size() < 2 || reihen.back().size() != 1) return reihen;
+    // A small widget does not stand alone below the others: its neighbour comes along.
+    constexpr int kKlein = 4;  ///< so many of them would fill a row
+    auto& vorige = reihen[reihen.size() - 2];
+    const int beide =
+        vorige.back()->sizeHint().width() + abstand_ + reihen.back().front()->sizeHint().width();
+    if (vorige.size() < 2 || beide > weite || reihen.back().front()->sizeHint().width() * kKlein > weite)
+        return reihen;
+    reihen.back().insert(reihen.back().begin(), vorige.back());
+    vorige.pop_back();
+    return reihen;
+}
+
 int Umbruchleiste::OrdneReihen(const QRect& flaeche, bool setzen) const {
     const QRect innen = flaeche.marginsRemoved(contentsMargins());
-    std::vector<QLayoutItem*> reihe;
-    int x = innen.x();
     int y = innen.y();
-    int hoehe = 0;
-    const auto schliesse = [&] {
+    int unten = y;
+    for (const auto& reihe : InReihen(innen.width())) {
+        int hoehe = 0;
+        for (const QLayoutItem* stueck : reihe)
+            hoehe = std::max(hoehe, stueck->sizeHint().height());
         int links = innen.x();
         for (QLayoutItem* stueck : reihe) {
             // A widget wider than the window is cut to it rather than lost beyond its border.
@@ -84,23 +112,10 @@ int Umbruchleiste::OrdneReihen(const QRect& flaeche, bool setzen) const {
             if (setzen) stueck->setGeometry({{links, y + (hoehe - groesse.height()) / 2}, groesse});
             links += groesse.width() + abstand_;
         }
-        reihe.clear();
-    };
-    for (const auto& stueck : stuecke_) {
-        if (stueck->isEmpty()) continue;
-        const QSize groesse = stueck->sizeHint();
-        if (!reihe.empty() && x + groesse.width() > innen.x() + innen.width()) {
-            schliesse();
-            y += hoehe + reihenabstand_;
-            x = innen.x();
-            hoehe = 0;
-        }
-        reihe.push_back(stueck.get());
-        x += groesse.width() + abstand_;
-        hoehe = std::max(hoehe, groesse.height());
+        unten = y + hoehe;
+        y = unten + reihenabstand_;
     }
-    schliesse();
-    return y + hoehe - innen.y() + contentsMargins().top() + contentsMargins().bottom();
+    return unten - innen.y() + contentsMargins().top() + contentsMargins().bottom();
 }
 
 }  // namespace zrw

@@ -30,6 +30,7 @@ class Umbruchleiste final : public QLayout {
   private:
     /// Lays the rows out in the width of the area and returns the height that they take.
     int OrdneReihen(const QRect& flaeche, bool setzen) const;
+    [[nodiscard]] std::vector<std::vector<QLayoutItem*>> InReihen(int weite) const;
     [[nodiscard]] QSize MitRand(QSize innen) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> stuecke_;
