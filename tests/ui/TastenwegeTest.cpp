@@ -74,6 +74,38 @@ TEST_F(Tastenwege, EingabeKlicktAufDenPunkt) {
     EXPECT_EQ(Gehe(Qt::Key_Left).size(), 1) << "nothing is left of the old network";
 }
 
+TEST_F(Tastenwege, ZiehtMitPfeilen) {
+    const Stand vorher = Jetzt();
+    const QPoint ort = Ort("B");
+    Modus("MovePktButton");
+    ASSERT_EQ(Gehe(Qt::Key_Up), "B");
+    Taste(Qt::Key_Return);
+    EXPECT_TRUE(Status().startsWith("In der Hand"));
+    Taste(Qt::Key_Left);
+    QTest::keyClick(bild, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(Ort("B"), ort) << "still in the hand";
+    Taste(Qt::Key_Return);
+    EXPECT_EQ(Ort("B"), ort + QPoint(-1, -10));
+    // Escape leaves it where it was, and arrows move the picture again.
+    Gehe(Qt::Key_Up);
+    Gehe(Qt::Key_Down);
+    Taste(Qt::Key_Return);
+    Taste(Qt::Key_Right);
+    Taste(Qt::Key_Escape);
+    EXPECT_EQ(Ort("B"), ort + QPoint(-1, -10));
+    fenster.Rueckgaengig();
+    EXPECT_EQ(Gespeichert(), vorher.bytes);
+    Modus("MoveTextButton");
+    const QPoint text = Textort("B");
+    ASSERT_EQ(Gehe(Qt::Key_Up), "B");
+    Taste(Qt::Key_Return);
+    Taste(Qt::Key_Down);
+    Taste(Qt::Key_Return);
+    EXPECT_EQ(Textort("B"), text + QPoint(0, 1));
+    Taste(Qt::Key_Right);
+    EXPECT_EQ(Ort("B"), ort - QPoint(80, 0));
+}
+
 TEST_F(Tastenwege, KontextmenueMeldetDenOrt) {
     auto& tasten = dynamic_cast<Bildtasten&>(*bild->findChild<QObject*>("BildTasten"));
     std::optional<Bildpunkt> ort;

@@ -34,12 +34,13 @@ bool Bildtasten::eventFilter(QObject* /*empfaenger*/, QEvent* ereignis) {
 
 bool Bildtasten::HoertTaste(const QKeyEvent& taste) {
     const auto mit = taste.modifiers() & ~Qt::KeypadModifier;
-    if (mit == Qt::ControlModifier) {
-        for (const auto& [pfeil, richtung] : kPfeile) {
-            if (taste.key() != pfeil) continue;
-            gang_.GeheZumNaechsten(richtung);
-            return true;
-        }
+    for (const auto& [pfeil, richtung] : kPfeile) {
+        if (taste.key() != pfeil) continue;
+        constexpr std::int64_t kWeit = 10;  // [px]
+        if (mit == Qt::NoModifier) return gang_.ZieheHand(richtung, 1);
+        if (mit == Qt::ShiftModifier) return gang_.ZieheHand(richtung, kWeit);
+        if (mit == Qt::ControlModifier) gang_.GeheZumNaechsten(richtung);
+        return mit == Qt::ControlModifier;
     }
     if (mit == Qt::NoModifier && (taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter))
         return gang_.KlickePunkt();

@@ -1,5 +1,6 @@
 // The keys of the picture while it has the keyboard: Ctrl and an arrow go to the next point, Enter clicks on
-// it. Arrows alone stay with the window, Tab leaves the picture.
+// it or takes it into the hand, arrows then move it. Other arrows stay with the window, Tab leaves the
+// picture.
 #pragma once
 
 #include <QObject>

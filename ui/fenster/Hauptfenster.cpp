@@ -128,7 +128,12 @@ void TZrwMainDlg::BaueBild() {
         bild_->update();
     };
     punktgang_ = std::make_unique<Punktgang>(
-        Punktgang::Umfeld{plan_, planbild_, *this, programm_.einstellungen, melde});
+        Punktgang::Umfeld{plan_, planbild_, *this, programm_.einstellungen, melde,
+                          [this](const PunktKnoten& punkt) {
+                              const Werkzeug* werkzeug = werkzeuge_.Aktiv();
+                              return werkzeug != nullptr ? werkzeug->Griff(punkt) : std::nullopt;
+                          },
+                          [this] { return werkzeuge_.Zieht(); }});
     auto* tasten = new Bildtasten(*bild_, *punktgang_);
     tasten->kontextmenue = [this](std::optional<Bildpunkt> ort) {
         if (plan_.Offen())

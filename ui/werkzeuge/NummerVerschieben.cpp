@@ -20,6 +20,13 @@ void NummerVerschieben::Schweben(Bildpunkt ort) {
         MarkiereText(umgebung_, netz != nullptr ? NummerUnter(umgebung_, *netz, ort) : nullptr));
 }
 
+std::optional<Bildpunkt> NummerVerschieben::Griff(const PunktKnoten& punkt) const {
+    const Liste* netz = umgebung_.AktuelleListe();
+    const PunktString* text = netz != nullptr ? netz->FindText(punkt.PNr) : nullptr;
+    if (text == nullptr || !text->Item->Visible) return std::nullopt;
+    return text->Item->Textort(BildortVon(*text, *netz, *netz));
+}
+
 void NummerVerschieben::Druecken(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     text_ = netz != nullptr ? NummerUnter(umgebung_, *netz, ort) : nullptr;

@@ -9,6 +9,7 @@ class NummerVerschieben final : public Werkzeug {
   public:
     explicit NummerVerschieben(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
+    [[nodiscard]] std::optional<Bildpunkt> Griff(const PunktKnoten& punkt) const override;
     void Druecken(Bildpunkt ort) override;
     void Ziehen(Bildpunkt ort) override;
     void Loslassen(Bildpunkt ort) override;

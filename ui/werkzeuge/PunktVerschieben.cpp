@@ -18,6 +18,10 @@ void PunktVerschieben::Schweben(Bildpunkt ort) {
     umgebung_.ZeigeVorschau(netz != nullptr ? MarkiereTreffer(*netz, netz->ClickGezeigten(ort)) : Vorschau());
 }
 
+std::optional<Bildpunkt> PunktVerschieben::Griff(const PunktKnoten& punkt) const {
+    return BildortVon(punkt, *umgebung_.AktuelleListe());
+}
+
 void PunktVerschieben::Druecken(Bildpunkt ort) {
     Liste* netz = umgebung_.AktuelleListe();
     punkt_ = netz != nullptr ? netz->ClickGezeigten(ort) : nullptr;

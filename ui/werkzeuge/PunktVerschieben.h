@@ -11,6 +11,7 @@ class PunktVerschieben final : public Werkzeug {
   public:
     explicit PunktVerschieben(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
+    [[nodiscard]] std::optional<Bildpunkt> Griff(const PunktKnoten& punkt) const override;
     void Druecken(Bildpunkt ort) override;
     void Ziehen(Bildpunkt ort) override;
     void Loslassen(Bildpunkt ort) override;

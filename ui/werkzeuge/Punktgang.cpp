@@ -8,6 +8,23 @@
 #include "ui/dialoge/TFormPunktart.h"
 
 namespace zrw {
+namespace {
+
+Bildpunkt Schritt(Gehrichtung richtung) {
+    switch (richtung) {
+        case Gehrichtung::Links:
+            return {-1, 0};
+        case Gehrichtung::Rechts:
+            return {1, 0};
+        case Gehrichtung::Hinauf:
+            return {0, -1};
+        case Gehrichtung::Hinunter:
+            return {0, 1};
+    }
+    return {};
+}
+
+}  // namespace
 
 void Punktgang::GeheZumNaechsten(Gehrichtung richtung) {
     if (!u_.plan.Offen()) return;
@@ -28,10 +45,28 @@ void Punktgang::GeheZumNaechsten(Gehrichtung richtung) {
 }
 
 bool Punktgang::KlickePunkt() {
+    if (const auto hand = std::exchange(hand_, std::nullopt); hand && u_.zieht()) {
+        u_.maus.ImageZarwikMouseUp(*hand, Qt::LeftButton);
+        return true;
+    }
     const auto ort = Bildort();
     if (!ort) return false;
-    u_.maus.ImageZarwikMouseDown(*ort, Qt::LeftButton);
-    u_.maus.ImageZarwikMouseUp(*ort, Qt::LeftButton);
+    hand_ = u_.griff(*punkt_);
+    u_.maus.ImageZarwikMouseDown(hand_.value_or(*ort), Qt::LeftButton);
+    if (hand_) {
+        u_.melde(QStringLiteral(
+            "In der Hand: Pfeiltasten ziehen (mit Umschalt weiter), Eingabe legt ab, Esc bricht ab"));
+    } else {
+        u_.maus.ImageZarwikMouseUp(*ort, Qt::LeftButton);
+    }
+    return true;
+}
+
+bool Punktgang::ZieheHand(Gehrichtung richtung, std::int64_t weite) {
+    if (!hand_ || !u_.zieht()) return false;
+    const Bildpunkt weg = Schritt(richtung);
+    hand_ = {hand_->x + weg.x * weite, hand_->y + weg.y * weite};
+    u_.maus.ImageZarwikMouseMove(*hand_);
     return true;
 }
 
@@ -43,6 +78,7 @@ std::optional<Bildpunkt> Punktgang::Bildort() const {
 
 void Punktgang::VergissPunkt() {
     ort_.reset();
+    hand_.reset();
     if (std::exchange(punkt_, nullptr) != nullptr) u_.melde({});
 }
 

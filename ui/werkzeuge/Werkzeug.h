@@ -6,6 +6,7 @@
 #include <Qt>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "model/FigListe.h"
@@ -91,6 +92,11 @@ class Werkzeug {
     virtual void Druecken(Bildpunkt ort) = 0;
     virtual void Ziehen(Bildpunkt ort) = 0;
     virtual void Loslassen(Bildpunkt ort) = 0;
+    /// Where a drag of what belongs to this point begins; nothing where a click does all there is to do. For
+    /// those who have no mouse.
+    [[nodiscard]] virtual std::optional<Bildpunkt> Griff(const PunktKnoten& /*punkt*/) const {
+        return std::nullopt;
+    }
     /// One press does all there is to do; the second of a double click is not meant.
     [[nodiscard]] virtual bool EinKlickGenuegt() const { return false; }
     /// The legend's corner can be caught while its mode is on.

@@ -1,5 +1,7 @@
 #include "ui/werkzeuge/ZoomRechteck.h"
 
+#include "model/Bildorte.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -16,6 +18,10 @@ constexpr std::int64_t kZittern = 3;
 QString ZoomRechteck::Anleitung() const {
     return QStringLiteral(
         "Zoomen mit der Maus: Rechteck aufziehen oder klicken; rechte Taste: Ansicht davor.");
+}
+
+std::optional<Bildpunkt> ZoomRechteck::Griff(const PunktKnoten& punkt) const {
+    return BildortVon(punkt, *umgebung_.AktuelleListe());
 }
 
 void ZoomRechteck::Druecken(Bildpunkt ort) {

@@ -12,6 +12,7 @@ class ZoomRechteck final : public Werkzeug {
   public:
     explicit ZoomRechteck(Werkzeugumgebung& umgebung) : umgebung_(umgebung) {}
 
+    [[nodiscard]] std::optional<Bildpunkt> Griff(const PunktKnoten& punkt) const override;
     void Druecken(Bildpunkt ort) override;
     void Ziehen(Bildpunkt ort) override;
     void Loslassen(Bildpunkt ort) override;
