@@ -329,7 +329,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         QAction* const aktion = aktionen_->Schalterliste()[i];
         const bool ein = aktion != nullptr ? aktion->isChecked() : kSchalter[i].anfangs;
         StelleEin(kSchalter[i], ein, plan_.Daten(), programm_.netz, programm_.zustand);
-        if (kSchalter[i].HatMerkmal(kNurBeiAbweichung))
+        if (aktion != nullptr && kSchalter[i].HatMerkmal(kNurBeiAbweichung))
             aktion->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
 }
