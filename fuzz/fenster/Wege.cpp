@@ -180,21 +180,20 @@ void Wege::Messen() {
     }
 }
 
-void Wege::BedieneDialog(QDialog& dialog, int mal) {
-    const QPointer<QDialog> da(&dialog);
+/// @return the open dialog of that name, used so often; null without it, or where that has closed it
+QPointer<QDialog> Wege::BedieneDialog(const char* name, int mal) {
+    QPointer<QDialog> da(fenster_.findChild<QDialog*>(name));
     for (int i = 0; i < mal && da != nullptr && da->isVisible(); ++i)
         hand_.BedieneFenster(*da, false);
+    return da;
 }
 
 void Wege::Ausgeben() {
     fenster_.AusgebenClick();
-    auto* dialog = fenster_.findChild<QDialog*>("AusgabeDialog");
-    if (dialog == nullptr) return;
-    const QPointer<QDialog> da(dialog);
-    BedieneDialog(*dialog, 8);
+    QPointer<QDialog> da = BedieneDialog("AusgabeDialog", 8);
     if (da == nullptr) return;
     if (auto* feld = da->findChild<QLineEdit*>("AusgabeOrdner"); feld != nullptr) feld->setText(ordner_);
-    BedieneDialog(*da, 4);
+    da = BedieneDialog("AusgabeDialog", 4);
     if (da != nullptr) da->close();
 }
 
@@ -220,10 +219,7 @@ void Wege::Seitenleiste() {
 
 void Wege::Einstellen() {
     fenster_.ColorButtonClick();
-    auto* dialog = fenster_.findChild<QDialog*>("TZRWParameter");
-    if (dialog == nullptr) return;
-    const QPointer<QDialog> da(dialog);
-    BedieneDialog(*dialog, 8);
+    const QPointer<QDialog> da = BedieneDialog("TZRWParameter", 8);
     if (da == nullptr) return;
     if (auto* anwenden = da->findChild<QAbstractButton*>("FarbenAnwenden"); anwenden != nullptr)
         anwenden->click();

@@ -2,6 +2,7 @@
 // menu of the selection does, measuring, the windows of output and settings, the side bar, the start page.
 #pragma once
 
+#include <QPointer>
 #include <QString>
 
 #include "fuzz/fenster/Bedienung.h"
@@ -32,7 +33,7 @@ class Wege {
 
     void BedieneMenue();
     void WaehleEintrag(QMenu& menue);
-    void BedieneDialog(QDialog& dialog, int mal);
+    QPointer<QDialog> BedieneDialog(const char* name, int mal);
     /// A press alone: its widget may be gone before the release.
     static void DrueckeTaste(QWidget* w, Qt::Key taste, Qt::KeyboardModifiers dazu = Qt::NoModifier);
     static void SchliesseMenues();
