@@ -63,7 +63,7 @@ Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, QWidget* eltern)
 
 void Ergebnisanzeige::VergissNetz() {
     fenster_->hide();
-    liste_.LeereListe(QString());
+    liste_.LeereListe();
 }
 
 bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {

@@ -5,6 +5,11 @@
 #include "ui/ergebnisse/Ergebnisgitter.h"
 
 namespace zrw {
+namespace {
+
+const QString kOhneNummer = QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse");
+
+}  // namespace
 
 Ergebnisliste::Ergebnisliste(const Programm& programm, Ergebnisgitter& gitter,
                              std::function<void()> meldeTabellen)
@@ -17,23 +22,22 @@ Ergebnisliste::~Ergebnisliste() {
 }
 
 void Ergebnisliste::ListeAuf(const Liste& netz, const PunktKnoten& punkt) {
-    erster_ = AusNetz(netz.GetPktText(punkt.PNr));
-    zweiter_.reset();
-    leergrund_ = QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse");
-    ErneuereListe();
+    ListeNummern(AusNetz(netz.GetPktText(punkt.PNr)), std::nullopt, kOhneNummer);
 }
 
 void Ergebnisliste::ListeAuf(const Liste& netz, const PunktKante& kante) {
-    erster_ = AusNetz(netz.GetPktText(kante.ANr));
-    zweiter_ = AusNetz(netz.GetPktText(kante.ENr));
-    leergrund_ = QStringLiteral("Zu Punkten ohne Nummer gibt es keine Ergebnisse");
-    ErneuereListe();
+    ListeNummern(AusNetz(netz.GetPktText(kante.ANr)), AusNetz(netz.GetPktText(kante.ENr)), kOhneNummer);
 }
 
-void Ergebnisliste::LeereListe(const QString& grund) {
-    erster_.clear();
-    zweiter_.reset();
-    leergrund_ = grund;
+void Ergebnisliste::LeereListe() {
+    ListeNummern({}, std::nullopt, {});
+}
+
+void Ergebnisliste::ListeNummern(const QString& erster, const std::optional<QString>& zweiter,
+                                 const QString& leergrund) {
+    erster_ = erster;
+    zweiter_ = zweiter;
+    leergrund_ = leergrund;
     ErneuereListe();
 }
 

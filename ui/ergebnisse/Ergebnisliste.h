@@ -22,20 +22,19 @@ class Ergebnisliste {
 
     void ListeAuf(const Liste& netz, const PunktKnoten& punkt);
     void ListeAuf(const Liste& netz, const PunktKante& kante);
-    /// Nothing is listed any more. @param grund told below the empty grid
-    void LeereListe(const QString& grund);
+    /// Nothing is listed any more.
+    void LeereListe();
     /// Reads what was listed last once more.
     void ErneuereListe();
-    // Numbers of what is listed; the second only of a line.
-    [[nodiscard]] const QString& Erster() const { return erster_; }
-    [[nodiscard]] const std::optional<QString>& Zweiter() const { return zweiter_; }
 
   private:
+    void ListeNummern(const QString& erster, const std::optional<QString>& zweiter, const QString& leergrund);
+
     const Programm& programm_;
     Ergebnisgitter& gitter_;
     std::function<void()> meldeTabellen_;
-    QString leergrund_;  ///< told while nothing is listed
-    QString erster_;
+    QString leergrund_;  ///< told below the empty grid
+    QString erster_;     ///< number of what is listed, of a line its first point
     std::optional<QString> zweiter_;
 };
 

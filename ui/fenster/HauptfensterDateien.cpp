@@ -27,6 +27,7 @@
 #include "ui/fenster/Startseite.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
+#include "ui/seitenleiste/Eigenschaftsseite.h"
 #include "ui/seitenleiste/Seitenleiste.h"
 #include "ui/werkzeuge/Punktgang.h"
 
@@ -408,6 +409,7 @@ bool TZrwMainDlg::SpeicherePlan() {
     if (ergebnisse_->WaehleOrdner(NachPfad(*name))) {
         saetze << QStringLiteral("Ergebnisse der Ausgleichung werden jetzt dort gesucht.");
         ZeichneNeu();
+        eigenschaften_->ZeigeAuswahl();
     }
     MeldeErledigt(saetze.join(QStringLiteral("   ")));
     return true;

@@ -31,7 +31,6 @@ Eigenschaftsseite::Eigenschaftsseite(Umfeld umfeld, QWidget* eltern)
     auto* spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(0, 0, 0, 0);
     spalte->addWidget(teiler);
-    ZeigeAuswahl();
 }
 
 void Eigenschaftsseite::showEvent(QShowEvent* ereignis) {
@@ -69,7 +68,7 @@ void Eigenschaftsseite::ListeErgebnisse() {
     const bool eine = u_.auswahl.Kante() != nullptr || punkte.size() == 1;
     const bool zeigen = u_.plan.Offen() && eine && u_.ergebnisse.Vorhanden();
     gitter_->setVisible(zeigen);
-    if (!zeigen) return liste_.LeereListe(QString());
+    if (!zeigen) return liste_.LeereListe();
     if (u_.auswahl.Kante() != nullptr) {
         liste_.ListeAuf(*u_.plan.Daten(), *u_.auswahl.Kante());
     } else {
