@@ -443,6 +443,24 @@ void Pdfflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (!SiehtText(ort, text)) return;
     BeginneForm();
     WendeFuellungAn(farbe);
+    SchreibeTextobjekt(ort, text);
+}
+
+/// Strokes the outlines first. Pens are put back as they were: the stroke is no pen of the plan.
+void Pdfflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                             std::int32_t rand) {
+    if (!SiehtText(ort, text)) return;
+    BeginneForm();
+    SchreibeText("q 1 Tr []0 d ");
+    SchreibeZahl(2.0 * rand, kMatrixstellen);
+    SchreibeText(" w\n");
+    Farbbefehl(randfarbe, "RG");
+    SchreibeTextobjekt(ort, text);
+    SchreibeText("Q\n");
+    Text(ort, text, farbe);
+}
+
+void Pdfflaeche::SchreibeTextobjekt(Flaechenpunkt ort, std::string_view text) {
     // Upright although y points downwards here.
     SchreibeText("BT/F ");
     SchreibeZahl(Schrift(), kMatrixstellen);

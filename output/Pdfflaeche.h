@@ -39,6 +39,8 @@ class Pdfflaeche final : public Vektorflaeche {
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                     std::int32_t rand) override;
 
     /// Ends the page; what is drawn from now on stands on the next one, of the same paper.
     void NeueSeite();
@@ -74,6 +76,7 @@ class Pdfflaeche final : public Vektorflaeche {
     void BeginneUmriss();
     void BeendeUmriss();
     void Farbbefehl(Farbe farbe, std::string_view befehl);
+    void SchreibeTextobjekt(Flaechenpunkt ort, std::string_view text);
     void Paar(double x, double y);
 
     Papier papier_;

@@ -27,6 +27,30 @@ bool LiegtIn(const Rechteck& r, Flaechenpunkt p) {
 
 }  // namespace
 
+std::vector<Flaechenpunkt> Umkreispixel(int radius) {
+    std::vector<Flaechenpunkt> pixel;
+    for (int y = -radius; y <= radius; ++y) {
+        for (int x = -radius; x <= radius; ++x) {
+            // Half a pixel more: corners belong to the smallest disc, too.
+            if (x * x + y * y <= radius * radius + radius) pixel.push_back({x, y});
+        }
+    }
+    return pixel;
+}
+
+Pixelmaske Verbreitert(const Pixelmaske& m, int rand) {
+    Pixelmaske breit(m.links - rand, m.oben - rand, m.weite + 2 * rand, m.hoehe + 2 * rand);
+    const std::vector<Flaechenpunkt> umkreis = Umkreispixel(rand);
+    for (int y = 0; y < m.hoehe; ++y) {
+        for (int x = 0; x < m.weite; ++x) {
+            if (!m.Gesetzt(x, y)) continue;
+            for (const Flaechenpunkt p : umkreis)
+                breit.SetzePixel(x + rand + p.x, y + rand + p.y);
+        }
+    }
+    return breit;
+}
+
 void Pixelbild::SetzeAusschnitt(const Rechteck& r) {
     ausschnitt_ = Geschnitten(r, Ganz());
 }

@@ -26,11 +26,22 @@ struct Pixelmaske {
         worte.resize(static_cast<std::size_t>(h) * JeZeile());
     }
     [[nodiscard]] std::size_t JeZeile() const { return (static_cast<std::size_t>(weite) + 63) / 64; }
-    void SetzePixel(int x, int y) {
-        worte[static_cast<std::size_t>(y) * JeZeile() + static_cast<std::size_t>(x) / 64] |=
-            std::uint64_t{1} << (static_cast<unsigned>(x) % 64U);
+    void SetzePixel(int x, int y) { worte[Wort(x, y)] |= Bit(x); }
+    [[nodiscard]] bool Gesetzt(int x, int y) const { return (worte[Wort(x, y)] & Bit(x)) != 0; }
+
+  private:
+    [[nodiscard]] std::size_t Wort(int x, int y) const {
+        return static_cast<std::size_t>(y) * JeZeile() + static_cast<std::size_t>(x) / 64;
+    }
+    [[nodiscard]] static std::uint64_t Bit(int x) {
+        return std::uint64_t{1} << (static_cast<unsigned>(x) % 64U);
     }
 };
+
+/// The pixels of a disc round a pixel. @param radius at least 0
+[[nodiscard]] std::vector<Flaechenpunkt> Umkreispixel(int radius);
+/// A shape with everything round it. @param rand how far [px]
+[[nodiscard]] Pixelmaske Verbreitert(const Pixelmaske& maske, int rand);
 
 class Pixelbild {
   public:

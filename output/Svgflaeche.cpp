@@ -225,12 +225,31 @@ void Svgflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
 
 void Svgflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (!SiehtText(ort, text)) return;
+    BeginneText(ort);
+    Farbattribut("fill", farbe);
+    BeendeText(text);
+}
+
+/// An element of its own: not every viewer knows how to paint strokes below fillings.
+void Svgflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                             std::int32_t rand) {
+    if (!SiehtText(ort, text)) return;
+    BeginneText(ort);
+    Farbattribut("stroke", randfarbe);
+    Attribut("stroke-width", 2.0 * rand);
+    BeendeText(text);
+    Text(ort, text, farbe);
+}
+
+void Svgflaeche::BeginneText(Flaechenpunkt ort) {
     BeginneElement();
     SchreibeText("<text");
     // Lines run through the middles of pixels, texts stand at their edges.
     Attribut("x", ort.x - 0.5);
     Attribut("y", static_cast<double>(ort.y) + Grundlinie() - 0.5);
-    Farbattribut("fill", farbe);
+}
+
+void Svgflaeche::BeendeText(std::string_view text) {
     SchreibeText(">");
     Zeichen(text);
     SchreibeText("</text>\n");

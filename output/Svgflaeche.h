@@ -25,6 +25,8 @@ class Svgflaeche final : public Vektorflaeche {
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                     std::int32_t rand) override;
 
     /// Ends the picture and puts it in its place. Nothing is drawn afterwards.
     void BeendeDatei();
@@ -42,6 +44,8 @@ class Svgflaeche final : public Vektorflaeche {
     void Farbattribut(std::string_view name, Farbe farbe);
     void Stiftattribute();
     void Formende();
+    void BeginneText(Flaechenpunkt ort);
+    void BeendeText(std::string_view text);
     void Zeichen(std::string_view text);
 
     std::array<int, kEbenennamen.size()> gruppen_{};  ///< so many of each layer

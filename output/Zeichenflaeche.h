@@ -64,6 +64,7 @@ class Zeichenflaeche {
     /// How many times over what is drawn has to cover its area for that to be the quicker way.
     [[nodiscard]] virtual double LohnendeTiefe() const { return 3.0; }
     virtual void BeendeVonVorn() {}
+    [[nodiscard]] virtual bool VonVorn() const { return false; }
     /// Nothing that is drawn into the rectangle now would be seen.
     [[nodiscard]] virtual bool Verdeckt(const Rechteck& /*r*/) const { return false; }
 
@@ -98,6 +99,9 @@ class Zeichenflaeche {
 
     /// Text in code page 1252 with its top-left corner at `ort`, without background.
     virtual void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) = 0;
+    /// The same with a rim round its characters. @param rand how wide it is [dots], positive
+    virtual void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                             std::int32_t rand);
     [[nodiscard]] virtual std::int32_t Textbreite(std::string_view text) const = 0;
     /// Height of a line of text.
     [[nodiscard]] virtual std::int32_t Texthoehe() const = 0;
@@ -143,6 +147,19 @@ inline void Zeichenflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe 
         if (stift_.art != art) SetzeStift({farbe, 1, art});
         Linie(s.von, s.nach);
     }
+}
+
+/// For surfaces that know nothing better: the text all round itself.
+inline void Zeichenflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe,
+                                        Farbe randfarbe, std::int32_t rand) {
+    const bool vonVorn = VonVorn();
+    if (vonVorn) Text(ort, text, farbe);
+    for (const std::int32_t dy : {-rand, 0, rand}) {
+        for (const std::int32_t dx : {-rand, 0, rand}) {
+            if (dx != 0 || dy != 0) Text({ort.x + dx, ort.y + dy}, text, randfarbe);
+        }
+    }
+    if (!vonVorn) Text(ort, text, farbe);
 }
 
 }  // namespace zrw

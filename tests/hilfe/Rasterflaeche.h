@@ -29,6 +29,7 @@ class Rasterflaeche final : public Zeichenflaeche {
         return true;
     }
     void BeendeVonVorn() override { bild_.BeendeVonVorn(); }
+    [[nodiscard]] bool VonVorn() const override { return bild_.VonVorn(); }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
         verdeckt += bild_.Verdeckt(r) ? 1 : 0;
         return bild_.Verdeckt(r);

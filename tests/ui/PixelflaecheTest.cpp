@@ -91,7 +91,11 @@ TEST_F(Pixel, ZehntausendTexteWieDerMaler) {
             text += static_cast<char>(i % 2 == 0 ? WuerfleZahl(0x20, 0x7E) : WuerfleZahl(0xA1, 0xFF));
         const Flaechenpunkt o{WuerfleZahl(-60, kWeite), WuerfleZahl(-15, kHoehe)};
         const Farbe farbe = Farbwahl();
-        ASSERT_TRUE(Gleich([&](Zeichenflaeche& f) { f.Text(o, text, farbe); })) << text;
+        ASSERT_TRUE(Gleich([&](Zeichenflaeche& f) {
+            f.FuelleRechteck({0, 0, kWeite, kHoehe / 2}, kSchwarz);
+            if (i % 5 > 1) return f.Text(o, text, farbe);
+            f.TextMitRand(o, text, farbe, kWeiss, 1 + i % 5);
+        })) << text;
     }
 }
 

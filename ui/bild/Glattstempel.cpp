@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "output/Pixelbild.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -39,6 +40,21 @@ QImage LeeresBild(int weite, int hoehe) {
     return bild;
 }
 
+/// Each pixel covered as much as the one most covered round it.
+QImage Verbreitert(const QImage& bild, int rand) {
+    QImage breit = bild;
+    const auto alpha = [&](int x, int y) { return bild.valid(x, y) ? qAlpha(bild.pixel(x, y)) : 0; };
+    for (int y = 0; y < bild.height(); ++y) {
+        for (int x = 0; x < bild.width(); ++x) {
+            int a = 0;
+            for (const Flaechenpunkt d : Umkreispixel(rand))
+                a = std::max(a, alpha(x + d.x, y + d.y));
+            breit.setPixel(x, y, qRgba(0, 0, 0, a));
+        }
+    }
+    return breit;
+}
+
 void MaleForm(QPainter& maler, Stempelform form, const std::vector<QPointF>& ecken) {
     switch (form) {
         case Stempelform::Rechteck:
@@ -65,6 +81,7 @@ void Glattstempel::SetzeSchrift(const QFont& schrift, bool zeichenweise) {
     vergiss_();
     schrift_ = schrift;
     glyphen_.fill({});
+    halos_.fill({});
     setztZeichen_ = zeichenweise && QFontInfo(schrift).pixelSize() <= kGroessteSchrift;
 }
 
@@ -118,23 +135,39 @@ const Glattform* Glattstempel::SucheForm(Stempelform form, std::span<const Flaec
     return &formen_.emplace_back(PraegeForm(form, ecken, leer));
 }
 
-const Glattglyphe& Glattstempel::NeuesZeichen(char c) {
-    auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
-    glyphe.emplace();
+Glattstempel::Zeichenbild Glattstempel::MaleZeichen(char c, int rand) const {
     const QFontMetrics masse(schrift_);
     const QString text = AusNetz(std::string_view(&c, 1));
-    glyphe->vorschub = masse.horizontalAdvance(text);
-    const int hoehe = masse.height() + 2 * kRand;
-    const QPoint null(kRand + hoehe, kRand);  // italics reach far beside their advance
-    QImage bild = LeeresBild(glyphe->vorschub + 2 * null.x(), hoehe);
-    QPainter maler(&bild);
+    Zeichenbild z{{}, {}, masse.horizontalAdvance(text)};
+    const int hoehe = masse.height() + 2 * rand;
+    z.null = {rand + hoehe, rand};  // italics reach far beside their advance
+    z.bild = LeeresBild(z.vorschub + 2 * z.null.x(), hoehe);
+    QPainter maler(&z.bild);
     maler.setRenderHint(QPainter::TextAntialiasing);
     maler.setFont(schrift_);
     maler.setPen(Qt::black);
-    maler.drawText(null.x(), null.y() + masse.ascent(), text);
-    maler.end();
-    glyphe->maske = MaskeVon(bild, null);
-    return *glyphe;
+    maler.drawText(z.null.x(), z.null.y() + masse.ascent(), text);
+    return z;
+}
+
+const Glattglyphe& Glattstempel::NeuesZeichen(char c) {
+    auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
+    const Zeichenbild z = MaleZeichen(c, kRand);
+    return glyphe.emplace(Glattglyphe{MaskeVon(z.bild, z.null), z.vorschub});
+}
+
+const Deckmaske& Glattstempel::Halo(char c, int rand) {
+    if (halorand_ != rand) {
+        vergiss_();
+        halos_.fill({});
+        halorand_ = rand;
+    }
+    auto& halo = halos_[static_cast<unsigned char>(c)];
+    if (!halo) {
+        const Zeichenbild z = MaleZeichen(c, kRand + rand);
+        halo = MaskeVon(Verbreitert(z.bild, rand), z.null);
+    }
+    return *halo;
 }
 
 }  // namespace zrw

@@ -51,10 +51,19 @@ class Glattstempel {
         const auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
         return glyphe ? *glyphe : NeuesZeichen(c);
     }
+    /// A character with what lies around it. @param rand how far [px]
+    [[nodiscard]] const Deckmaske& Halo(char c, int rand);
 
   private:
+    /// How much of each pixel a character covers, from the place where it is drawn.
+    struct Zeichenbild {
+        QImage bild;
+        QPoint null;
+        int vorschub;
+    };
     [[nodiscard]] Glattform PraegeForm(Stempelform form, std::span<const Flaechenpunkt> ecken,
                                        bool leer) const;
+    [[nodiscard]] Zeichenbild MaleZeichen(char c, int rand) const;
     [[nodiscard]] const Glattglyphe& NeuesZeichen(char c);
 
     std::function<void()> vergiss_;
@@ -63,6 +72,8 @@ class Glattstempel {
     QFont schrift_;
     bool setztZeichen_ = false;
     std::array<std::optional<Glattglyphe>, 256> glyphen_;  ///< made when first drawn
+    std::array<std::optional<Deckmaske>, 256> halos_;      ///< of those, `halorand_` wide
+    int halorand_ = 0;
 };
 
 }  // namespace zrw

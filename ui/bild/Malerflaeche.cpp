@@ -1,11 +1,13 @@
 #include "ui/bild/Malerflaeche.h"
 
 #include <QFontInfo>
+#include <QPainterPath>
 #include <QPen>
 #include <QPolygon>
 #include <algorithm>
 #include <cmath>
 
+#include "output/Pixelbild.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -164,6 +166,23 @@ void Malerflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
 void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     WendeStiftAn({farbe, 1, Strichart::Voll});
     maler_->drawText(ort.x, ort.y + masse_.ascent(), AusNetz(text));
+}
+
+/// Copies all round on a screen, as its pixels are set one by one, too; strokes along the outlines where dots
+/// are so fine that copies would leave gaps.
+void Malerflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                               std::int32_t rand) {
+    constexpr std::int32_t kGrob = 2;
+    if (rand <= kGrob) {
+        for (const Flaechenpunkt p : Umkreispixel(rand))
+            Malerflaeche::Text({ort.x + p.x, ort.y + p.y}, text, randfarbe);
+    } else {
+        QPainterPath umriss;
+        umriss.addText(ort.x, ort.y + masse_.ascent(), schrift_, AusNetz(text));
+        const QPen stift(AlsQColor(randfarbe), 2.0 * rand, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+        maler_->strokePath(umriss, stift);
+    }
+    Malerflaeche::Text(ort, text, farbe);
 }
 
 std::int32_t Malerflaeche::Textbreite(std::string_view text) const {

@@ -45,6 +45,8 @@ class Malerflaeche : public Zeichenflaeche {
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                     std::int32_t rand) override;
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override;
     [[nodiscard]] std::int32_t Texthoehe() const override { return texthoehe_; }
     [[nodiscard]] std::int32_t Schriftgrad() const override;

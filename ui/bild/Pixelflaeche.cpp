@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "output/Abschneiden.h"
 #include "ui/Umwandlung.h"
@@ -44,10 +45,9 @@ class Textzeile {
     static constexpr std::size_t kMeisteZeichen = 24;
 
     /// @return false: it does not fit in here
-    [[nodiscard]] bool NimmGlyphe(const Pixelglyphe& g) {
-        const Pixelmaske& m = g.maske;
+    [[nodiscard]] bool NimmGlyphe(const Pixelmaske& m, int vorschub) {
         const int links = stelle_ + m.links;
-        stelle_ += g.vorschub;
+        stelle_ += vorschub;
         if (m.worte.empty()) return true;
         if (anzahl_ == kMeisteZeichen || m.weite > 64) return false;
         glyphen_[anzahl_++] = {&m, links};
@@ -143,9 +143,13 @@ Rechteck Pixelflaeche::Grenzen() const {
     return {-kWeit, -kWeit, kWeit, kWeit};
 }
 
+bool Pixelflaeche::SetztZeichen() const {
+    return schnell_ && zeichenweise_ && schrifthoehe_ <= kGroessteSchrift;
+}
+
 bool Pixelflaeche::BeginneVonVorn() {
     if (Glaettet()) return glattstempel_.SetztZeichen() && glattbild_.BeginneVonVorn();
-    if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift) return false;
+    if (!SetztZeichen()) return false;
     pixel_.BeginneVonVorn();
     return true;
 }
@@ -163,6 +167,7 @@ void Pixelflaeche::BeendeVonVorn() {
 
 void Pixelflaeche::SetzeSchriften(const QFont& eckige, const QFont& glatte) {
     glyphen_.fill({});
+    halos_.fill({});
     zeichenweise_ = !eckige.kerning() && eckige.hintingPreference() == QFont::PreferFullHinting;
     eckigeSchrift_ = eckige;
     glatteSchrift_ = glatte;
@@ -377,16 +382,49 @@ const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
 
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (Glaettet()) return GlatterText(ort, text, farbe);
-    if (!schnell_ || !zeichenweise_ || schrifthoehe_ > kGroessteSchrift)
-        return Malerflaeche::Text(ort, text, farbe);
-    Textzeile zeile;
-    for (const char c : text) {
-        if (!zeile.NimmGlyphe(Zeichen(c))) return LangerText(ort, text, farbe);
+    if (!SetztZeichen()) return Malerflaeche::Text(ort, text, farbe);
+    SetzeZeile(ort, text, farbe, [this](char c) -> const Pixelmaske& { return Zeichen(c).maske; });
+}
+
+void Pixelflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                               std::int32_t rand) {
+    if (!(Glaettet() ? glattstempel_.SetztZeichen() : SetztZeichen())) {
+        SchliesseAb();
+        return Malerflaeche::TextMitRand(ort, text, farbe, randfarbe, rand);
     }
-    if (zeile.Leer()) return;
-    if (!zeile.PasstInMaske()) return LangerText(ort, text, farbe);
-    if (pixel_.Verdeckt(zeile.Umfang(ort))) return;
-    zeile.SetzeInBild(pixel_, ort, Pixelfarbe(farbe));
+    const bool vonVorn = VonVorn();
+    if (vonVorn) Text(ort, text, farbe);
+    if (Glaettet()) {
+        SetzeGlatteZeile(ort, text, randfarbe,
+                         [&](char c) -> const Deckmaske& { return glattstempel_.Halo(c, rand); });
+    } else {
+        SetzeZeile(ort, text, randfarbe, [&](char c) -> const Pixelmaske& { return Halo(c, rand); });
+    }
+    if (!vonVorn) Text(ort, text, farbe);
+}
+
+/// @param maske mask of a character
+template <class Masken>
+void Pixelflaeche::SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske) {
+    Textzeile zeile;
+    bool lang = false;
+    for (const char c : text)
+        lang = lang || !zeile.NimmGlyphe(maske(c), Zeichen(c).vorschub);
+    if (lang || (!zeile.Leer() && !zeile.PasstInMaske())) {
+        for (const char c : text) {
+            pixel_.Maske(maske(c), ort.x, ort.y, Pixelfarbe(farbe));
+            ort.x += Zeichen(c).vorschub;
+        }
+    } else if (!zeile.Leer() && !pixel_.Verdeckt(zeile.Umfang(ort))) {
+        zeile.SetzeInBild(pixel_, ort, Pixelfarbe(farbe));
+    }
+}
+
+const Pixelmaske& Pixelflaeche::Halo(char c, int rand) {
+    if (std::exchange(halorand_, rand) != rand) halos_.fill({});
+    auto& halo = halos_[static_cast<unsigned char>(c)];
+    if (!halo) halo = Verbreitert(Zeichen(c).maske, rand);
+    return *halo;
 }
 
 void Pixelflaeche::GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
@@ -394,6 +432,13 @@ void Pixelflaeche::GlatterText(Flaechenpunkt ort, std::string_view text, Farbe f
         SchliesseAb();
         return Malerflaeche::Text(ort, text, farbe);
     }
+    SetzeGlatteZeile(ort, text, farbe,
+                     [this](char c) -> const Deckmaske& { return glattstempel_.Zeichen(c).maske; });
+}
+
+/// @param maske mask of a character
+template <class Masken>
+void Pixelflaeche::SetzeGlatteZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske) {
     if (glattbild_.VonVorn()) {
         // Glyphs may stand out of their line.
         constexpr std::int32_t kUeberstand = 4;
@@ -405,17 +450,8 @@ void Pixelflaeche::GlatterText(Flaechenpunkt ort, std::string_view text, Farbe f
             return;
     }
     for (const char c : text) {
-        const Glattglyphe& g = glattstempel_.Zeichen(c);
-        glattbild_.Maske(g.maske, ort, Pixelfarbe(farbe));
-        ort.x += g.vorschub;
-    }
-}
-
-void Pixelflaeche::LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
-    for (const char c : text) {
-        const Pixelglyphe& g = Zeichen(c);
-        pixel_.Maske(g.maske, ort.x, ort.y, Pixelfarbe(farbe));
-        ort.x += g.vorschub;
+        glattbild_.Maske(maske(c), ort, Pixelfarbe(farbe));
+        ort.x += glattstempel_.Zeichen(c).vorschub;
     }
 }
 

@@ -36,6 +36,9 @@ class Pixelflaeche : public Malerflaeche {
     bool BeginneVonVorn() override;
     [[nodiscard]] double LohnendeTiefe() const override;
     void BeendeVonVorn() override;
+    [[nodiscard]] bool VonVorn() const override {
+        return Glaettet() ? glattbild_.VonVorn() : pixel_.VonVorn();
+    }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
         return Glaettet() ? glattbild_.Verdeckt(r) : pixel_.Verdeckt(r);
     }
@@ -47,6 +50,8 @@ class Pixelflaeche : public Malerflaeche {
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
+    void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                     std::int32_t rand) override;
     void SetzeSchrift(const QFont& schrift) override {
         SetzeSchriften(schrift, Bildschrift(schrift, 1.0, true));
     }
@@ -83,7 +88,13 @@ class Pixelflaeche : public Malerflaeche {
     bool StempeleForm(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] const Stempel& SucheStempel(Form form, std::span<const Flaechenpunkt> ecken);
     [[nodiscard]] Stempel PraegeStempel(Form form, std::span<const Flaechenpunkt> ecken) const;
-    void LangerText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
+    /// Whether characters are masks that are set here, not by the painter.
+    [[nodiscard]] bool SetztZeichen() const;
+    template <class Masken>
+    void SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske);
+    template <class Masken>
+    void SetzeGlatteZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske);
+    [[nodiscard]] const Pixelmaske& Halo(char c, int rand);
     [[nodiscard]] const Pixelglyphe& Zeichen(char c) const {
         const auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
         return glyphe ? *glyphe : NeuesZeichen(c);
@@ -104,7 +115,9 @@ class Pixelflaeche : public Malerflaeche {
     std::vector<Stempel> stempel_;
     std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
     mutable std::array<std::optional<Pixelglyphe>, 256>
-        glyphen_;  ///< of the current font, made when first drawn
+        glyphen_;                                       ///< of the current font, made when first drawn
+    std::array<std::optional<Pixelmaske>, 256> halos_;  ///< of those, `halorand_` wide
+    int halorand_ = 0;
 };
 
 }  // namespace zrw
