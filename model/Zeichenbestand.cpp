@@ -2,6 +2,8 @@
 
 #include <unordered_map>
 
+#include "model/Gezeigt.h"
+
 namespace zrw {
 namespace {
 
@@ -41,9 +43,11 @@ std::uint64_t Aussehen(Farbe farbe, std::uint8_t a, std::uint8_t b) {
 
 }  // namespace
 
-Zeichenbestand::Zeichenbestand(const Netz& netz) {
+template <class Punktwahl, class Kantenwahl>
+void Zeichenbestand::ZaehleFiguren(const Netz& netz, Punktwahl punktwahl, Kantenwahl kantenwahl) {
     Zaehler<Punkt> punkte;
     netz.FuerAllePunkte([&](const PunktKnoten& p) {
+        if (!punktwahl(p)) return;
         const Punkt& i = *p.Item;
         punkte.NimmFigur(
             Aussehen(i.Farbe, static_cast<std::uint8_t>(i.PktTyp), static_cast<std::uint8_t>(i.PktAttr)), i);
@@ -52,11 +56,24 @@ Zeichenbestand::Zeichenbestand(const Netz& netz) {
     OrdneGruppen(punkte_);
     Zaehler<Kante> kanten;
     netz.FuerAlleKanten([&](const PunktKante& k) {
+        if (!kantenwahl(k)) return;
         const Kante& i = *k.Item;
         kanten.NimmFigur(Aussehen(i.Farbe, static_cast<std::uint8_t>(i.LAttr), i.KAttr.Maske()), i);
     });
     kanten_ = kanten.Gruppen();
     OrdneGruppen(kanten_);
+}
+
+Zeichenbestand::Zeichenbestand(const Netz& netz) {
+    const auto alle = [](const auto& /*figur*/) { return true; };
+    ZaehleFiguren(netz, alle, alle);
+}
+
+Zeichenbestand::Zeichenbestand(const Netz& netz, const Darstellung& darstellung) {
+    Gezeigt gezeigt(netz, darstellung);
+    ZaehleFiguren(
+        netz, [&](const PunktKnoten& p) { return p.Item->Visible && darstellung.Dargestellt(*p.Item); },
+        [&](const PunktKante& k) { return darstellung.ShowBeob && k.Item->Visible && gezeigt(k); });
 }
 
 }  // namespace zrw

@@ -7,6 +7,7 @@
 #include <map>
 #include <vector>
 
+#include "model/Darstellung.h"
 #include "model/Netz.h"
 
 namespace zrw {
@@ -22,6 +23,8 @@ class Zeichenbestand {
   public:
     /// Everything in the network, hidden or not.
     explicit Zeichenbestand(const Netz& netz);
+    /// What of it is shown.
+    Zeichenbestand(const Netz& netz, const Darstellung& darstellung);
 
     // Most frequent first; figures of a group look the same but for their place.
     [[nodiscard]] const std::vector<Zeichengruppe<Punkt>>& Punkte() const { return punkte_; }
@@ -55,6 +58,8 @@ class Zeichenbestand {
     }
 
   private:
+    template <class Punktwahl, class Kantenwahl>
+    void ZaehleFiguren(const Netz& netz, Punktwahl punktwahl, Kantenwahl kantenwahl);
     template <class Figur>
     static void OrdneGruppen(std::vector<Zeichengruppe<Figur>>& gruppen) {
         std::stable_sort(gruppen.begin(), gruppen.end(),

@@ -1,4 +1,4 @@
-// Which line styles, marks, symbols and colours a network has, in words, with how often and how they look.
+// The rows of model/Zeichenzeilen.h with a picture of each example, as the plan shows it.
 #pragma once
 
 #include <QImage>
@@ -10,17 +10,17 @@
 
 namespace zrw {
 
-struct Zeichenzeile {
+struct Bildzeile {
     QString gruppe;  ///< heading; rows of one stand together
-    QImage bild;     ///< as the plan shows it
+    QImage bild;     ///< none for what is only counted
     QString text;
     std::size_t anzahl = 0;
-    friend bool operator==(const Zeichenzeile&, const Zeichenzeile&) = default;
+    friend bool operator==(const Bildzeile&, const Bildzeile&) = default;
 };
 
 /// Everything in the network counts, hidden or not.
 /// @param groesse of the pictures [px] @param dichte pixels of the screen for each of them
-[[nodiscard]] std::vector<Zeichenzeile> BaueZeichenzeilen(const Netz& netz, const Programm& programm,
-                                                          QSize groesse, double dichte, bool glatt);
+[[nodiscard]] std::vector<Bildzeile> BaueBildzeilen(const Netz& netz, const Programm& programm, QSize groesse,
+                                                    double dichte, bool glatt);
 
 }  // namespace zrw

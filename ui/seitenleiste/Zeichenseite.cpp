@@ -52,9 +52,9 @@ void Zeichenseite::showEvent(QShowEvent* ereignis) {
 }
 
 void Zeichenseite::ZaehleNeu() {
-    std::vector<Zeichenzeile> zeilen;
+    std::vector<Bildzeile> zeilen;
     if (plan_.Offen())
-        zeilen = BaueZeichenzeilen(*plan_.Daten(), programm_, kMustergroesse, devicePixelRatioF(), glatt_());
+        zeilen = BaueBildzeilen(*plan_.Daten(), programm_, kMustergroesse, devicePixelRatioF(), glatt_());
     // What the user has scrolled to stays there.
     if (zeilen == zeilen_) return;
     zeilen_ = std::move(zeilen);
@@ -64,7 +64,7 @@ void Zeichenseite::ZaehleNeu() {
 void Zeichenseite::ZeigeZeilen() {
     baum_->clear();
     QTreeWidgetItem* gruppe = nullptr;
-    for (const Zeichenzeile& z : zeilen_) {
+    for (const Bildzeile& z : zeilen_) {
         if (gruppe == nullptr || gruppe->text(0) != z.gruppe) {
             gruppe = new QTreeWidgetItem(baum_, {z.gruppe});
             QFont fett = font();

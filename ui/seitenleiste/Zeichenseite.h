@@ -9,7 +9,7 @@
 
 #include "ui/Plan.h"
 #include "ui/Programm.h"
-#include "ui/seitenleiste/Zeichenzeilen.h"
+#include "ui/seitenleiste/Bildzeilen.h"
 
 class QTreeWidget;
 
@@ -35,7 +35,7 @@ class Zeichenseite final : public QWidget {
     std::function<bool()> glatt_;
     QTreeWidget* baum_;
     QTimer ruhe_;
-    std::vector<Zeichenzeile> zeilen_;  ///< that are shown
+    std::vector<Bildzeile> zeilen_;  ///< that are shown
 };
 
 }  // namespace zrw
