@@ -56,6 +56,7 @@ void ZeichneFiguren(const Bildvorlage& v, Zeichner& z) {
     if (d.ShowLegende && v.legende != nullptr && (v.ohne == nullptr || !v.ohne->legende)) v.legende->Show(z);
     z.ZeichnePunktRes(v);
     z.DrawResMasstab(v);
+    if (d.ShowErklaerung && (v.ohne == nullptr || !v.ohne->erklaerung)) z.ZeichneErklaerung(v);
     if (d.ShowMassbalken) z.ZeichneMassbalken(v);
 }
 

@@ -18,6 +18,7 @@ class Zeichner;
 struct Auslassung {
     std::unordered_set<const void*> figuren;  ///< nodes
     bool legende = false;
+    bool erklaerung = false;
 
     void SetzeFiguren(const Figurenmenge& m);
 

@@ -25,6 +25,9 @@ struct Darstellung {
     bool ShowNP = true;
     bool ShowHilfP = true;
     bool ShowMassbalken = false;
+    bool ShowErklaerung = false;
+    /// From the picture's top-right corner to that of the key [px]; none: where the drawing puts it.
+    std::optional<Bildpunkt> Erklaerungsort{};
     std::optional<Legende> Legend{Legende::Create()};
 
     /// The point's kind is switched on.

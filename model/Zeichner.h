@@ -36,6 +36,8 @@ class Zeichner {
     virtual void KMGitterShow(const Bildvorlage& /*v*/) {}
     virtual void ZeichnePunktRes(const Bildvorlage& /*v*/) {}
     virtual void DrawResMasstab(const Bildvorlage& /*v*/) {}
+    /// What lines, symbols and colours mean.
+    virtual void ZeichneErklaerung(const Bildvorlage& /*v*/) {}
     /// How long metres are in the picture.
     virtual void ZeichneMassbalken(const Bildvorlage& /*v*/) {}
 };

@@ -49,7 +49,7 @@ Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzei
       orte_(v.netz, v.ansicht, &speicher),
       linien_(Bereich(r_.kante)),
       symbole_(Bereich(r_.symbol)),
-      nummern_(Bereich(0)) {
+      nummern_(Bereich(r_.textrand)) {
     // A text stands right of its corner and below it.
     nummern_.links -= r_.textweite;
     nummern_.oben -= r_.texthoehe;

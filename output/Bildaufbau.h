@@ -23,6 +23,7 @@ class Bildaufbau {
         std::int64_t kante = 0;
         std::int64_t textweite = 0;
         std::int64_t texthoehe = 0;
+        std::int64_t textrand = 0;  ///< all round
     };
 
     /// @param speicher kept from one picture to the next

@@ -12,6 +12,7 @@
 #include "output/Abschneiden.h"
 #include "output/Balkenbild.h"
 #include "output/Bildaufbau.h"
+#include "output/Erklaerungsbild.h"
 #include "output/Kartengitter.h"
 #include "output/Legendenbild.h"
 #include "output/Residuenbild.h"
@@ -79,7 +80,7 @@ Bildpunkt Figurenzeichner::Textecke(const PktText& text, Bildpunkt stelle) const
 }
 
 void Figurenzeichner::SetzeEbene(Ebene ebene) const {
-    if (zustand_.flaeche != nullptr) zustand_.flaeche->SetzeEbene(ebene);
+    if (zustand_.flaeche != nullptr && !ebeneSteht_) zustand_.flaeche->SetzeEbene(ebene);
 }
 
 void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
@@ -92,6 +93,11 @@ void Figurenzeichner::ClearPicture(std::int32_t weite, std::int32_t hoehe) {
 /// What pens add on screens finer than the plan's sizes [dots].
 std::int64_t Figurenzeichner::Stiftrand() const {
     return zustand_.Pixeldichte > 1.0 ? static_cast<std::int64_t>(std::ceil(zustand_.Pixeldichte)) : 0;
+}
+
+/// Of the rim round labels [dots].
+std::int64_t Figurenzeichner::Halobreite() const {
+    return zustand_.Halo ? std::max<std::int64_t>(RundeZuInt64(zustand_.Dichte()), 1) : 0;
 }
 
 /// Asked for every point: in registers, row by row.
@@ -270,7 +276,8 @@ void Figurenzeichner::ZeigeText(const PktText& text, Bildpunkt stelle, Farbe far
     const std::int64_t rand =
         std::int64_t{f.Texthoehe()} * 2 * static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
     if (zeichen.empty() || !InReichweite(ort, rand, f.Ausschnitt())) return;
-    f.Text(Aufflaeche(ort), zeichen, farbe);
+    if (!zustand_.Halo) return f.Text(Aufflaeche(ort), zeichen, farbe);
+    f.TextMitRand(Aufflaeche(ort), zeichen, farbe, kWeiss, static_cast<std::int32_t>(Halobreite()));
 }
 
 // --- All of them ------------------------------------------------------------------------------------------
@@ -283,7 +290,8 @@ bool Figurenzeichner::ZeichneNetz(const Bildvorlage& v) {
     // No character is wider than twice the line height.
     const std::int64_t hoehe = f->Texthoehe();
     const auto laenge = static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
-    Bildaufbau(v, *f, *this, {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe}, speicher_)
+    Bildaufbau(v, *f, *this,
+               {Symbolreichweite(), Kantenreichweite(), 2 * hoehe * laenge, hoehe, Halobreite()}, speicher_)
         .ZeichneNetz();
     return true;
 }
@@ -324,6 +332,22 @@ void Figurenzeichner::DrawResMasstab(const Bildvorlage& v) {
     if (!ZeigtResiduen() || zustand_.OhneStehendes) return;
     SetzeEbene(Ebene::Ergebnisse);
     Residuenbild(zustand_, einstellungen_, v).DrawResMasstab();
+}
+
+void Figurenzeichner::ZeichneErklaerung(const Bildvorlage& v) {
+    if (!ZeigtResiduen() || zustand_.OhneStehendes) return;
+    Zeichenflaeche& f = *zustand_.flaeche;
+    // Whatever changes what is shown has the whole picture drawn.
+    if (f.Ausschnitt() == f.Sichtbar() || erklaerung_.empty())
+        erklaerung_ = BaueErklaerung(Zeichenbestand(v.netz, v.darstellung), einstellungen_,
+                                     Erklaerungsbild::kMeisteZeilen);
+    SetzeEbene(Ebene::Legende);
+    ebeneSteht_ = true;
+    const Erklaerungsbild bild(zustand_, einstellungen_, v, *this,
+                               2 * std::max(Symbolreichweite(), Kantenreichweite() / 2), erklaerung_);
+    bild.ZeichneKasten();
+    ebeneSteht_ = false;
+    erklaerungsrahmen_ = bild.Umfang();
 }
 
 void Figurenzeichner::ZeichneMassbalken(const Bildvorlage& v) {

@@ -7,10 +7,12 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "model/Bildorte.h"
 #include "model/Einstellungen.h"
 #include "model/Netzangaben.h"
+#include "model/Zeichenzeilen.h"
 #include "model/Zeichner.h"
 #include "output/DXFUnit.h"
 #include "output/Kantenbild.h"
@@ -43,7 +45,11 @@ class Figurenzeichner final : public Zeichner {
     void KMGitterShow(const Bildvorlage& v) override;
     void ZeichnePunktRes(const Bildvorlage& v) override;
     void DrawResMasstab(const Bildvorlage& v) override;
+    void ZeichneErklaerung(const Bildvorlage& v) override;
     void ZeichneMassbalken(const Bildvorlage& v) override;
+
+    /// Where the key was drawn last [dots].
+    [[nodiscard]] const Rechteck& Erklaerungsrahmen() const { return erklaerungsrahmen_; }
 
     /// Where a label begins, whose point lies at `stelle` [dots].
     [[nodiscard]] Bildpunkt Textecke(const PktText& text, Bildpunkt stelle) const;
@@ -78,6 +84,7 @@ class Figurenzeichner final : public Zeichner {
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;
     [[nodiscard]] std::int64_t Stiftrand() const;
+    [[nodiscard]] std::int64_t Halobreite() const;
     void ZeigeZuege(std::span<const Zug> zuege, Farbe farbe);
     void SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt ende);
     void ZeigeText(const PktText& text, Bildpunkt stelle, Farbe farbe);
@@ -91,6 +98,10 @@ class Figurenzeichner final : public Zeichner {
     const Netzangaben& netz_;
     const Uhr& uhr_;
     Ortsspeicher speicher_;
+    // The key: counted when the whole picture is drawn, and drawn again with its parts.
+    std::vector<Zeichenzeile> erklaerung_;
+    Rechteck erklaerungsrahmen_ = kKeinRechteck;
+    bool ebeneSteht_ = false;                           ///< what is drawn stays on its layer
     std::array<Linienstueck, kMeisteStriche> stuecke_;  ///< of the line that is being drawn
 };
 

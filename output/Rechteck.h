@@ -12,6 +12,7 @@ struct Rechteck {
     std::int32_t oben = 0;
     std::int32_t rechts = 0;
     std::int32_t unten = 0;
+    friend bool operator==(const Rechteck&, const Rechteck&) = default;
 };
 
 inline constexpr Rechteck kKeinRechteck{1, 1, 0, 0};

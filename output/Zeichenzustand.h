@@ -25,6 +25,7 @@ struct Zeichenzustand {
     double Geraetefaktor = 1.0;             ///< printer's dots per screen pixel [-]
     double Pixeldichte = 1.0;               ///< the same of a screen finer than the plan's sizes [-]
     bool KurzeNummern = false;              ///< labels without their first four characters
+    bool Halo = false;                      ///< labels with a white rim
     bool BlattschnittWiePunkte = false;     ///< map sheets in the projection of the points, not that of "$KS"
     bool OhneStehendes = false;             ///< without what stands still while the picture is dragged
     bool Abkuerzungen = true;               ///< quick ways to the same picture; off for comparing with them

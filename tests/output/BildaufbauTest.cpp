@@ -60,6 +60,7 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
                 n.liste.VersetzePunkt(n.Punkt1(), n.liste.BildinWelt({n.W(0, kWeite), n.W(0, kHoehe)}));
             n.liste.VersetzeText(*n.liste.PktTextKnoten, {n.W(-40, 40), n.W(-40, 40)});
             schnell.zustand.KurzeNummern = einfach.zustand.KurzeNummern = n.W(0, 3) == 0;
+            schnell.zustand.Halo = einfach.zustand.Halo = ansicht % 3 == 0;
             n.liste.WeltinBild();
             n.liste.ShowPicture(einfach.zeichner);
             n.liste.ShowPicture(schnell.zeichner);

@@ -41,7 +41,8 @@ QImage ZeichnePlan(const Format& format, const Ausgabe& a) {
     if (format.HatMerkmal(kOhneLegende)) {
         for (bool Darstellung::*schalter :
              {&Darstellung::ShowLegende, &Darstellung::ShowLgRes, &Darstellung::ShowHRes,
-              &Darstellung::ShowLGGen, &Darstellung::ShowHGen, &Darstellung::ShowMassbalken})
+              &Darstellung::ShowLGGen, &Darstellung::ShowHGen, &Darstellung::ShowMassbalken,
+              &Darstellung::ShowErklaerung})
             darstellung.*schalter = false;
     }
     Legende* legende = darstellung.Legend ? &*darstellung.Legend : nullptr;

@@ -142,10 +142,11 @@ void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
 
 // --- Changes ----------------------------------------------------------------------------------------------
 
-/// Whether a change shows only at its figures. The legend tells the time of its last drawing, results stand
+/// Whether a change shows only at its figures. The legend tells the time of its last drawing, the key what
+/// figures there are, results stand
 /// beside their points, and labels of one text or one number speak for each other.
 bool Bildpflege::Oertlich(const Bildvorlage& v) const {
-    return zustand_.Abkuerzungen && gueltig_ && !v.darstellung.ShowLegende &&
+    return zustand_.Abkuerzungen && gueltig_ && !v.darstellung.ShowLegende && !v.darstellung.ShowErklaerung &&
            !v.darstellung.ZeigtErgebnisse() && v.netz.TexteEindeutig() && v.netz.NummernEindeutig() &&
            gezeichnet_.Lage() == v.ansicht.Lage();
 }

@@ -137,6 +137,17 @@ void Planbild::LasseLegendeAus(bool aus) {
     ZeichneNeu();
 }
 
+void Planbild::LasseErklaerungAus(bool aus) {
+    ohne_.erklaerung = aus;
+    ZeichneNeu();
+}
+
+Bildbereich Planbild::Erklaerungsrahmen() const {
+    const auto pixel = [&](std::int32_t dots) { return RundeZuInt64(dots / flaeche_.Dichte()); };
+    const Rechteck& r = zeichner_.Erklaerungsrahmen();
+    return {pixel(r.links), pixel(r.oben), pixel(r.rechts), pixel(r.unten)};
+}
+
 void Planbild::ZeigeVorschau(Vorschau vorschau) {
     if (!vorschau) {
         bild_->SetzeVorschau({});
@@ -190,6 +201,7 @@ void Planbild::ZeichneStehendes(Zeichenflaeche& flaeche) {
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
     if (plan_.Daten()->ShowLegende) plan_.Daten()->SetLegende(zeichner);
     zeichner.DrawResMasstab(plan_.Daten()->Vorlage());
+    if (plan_.Daten()->ShowErklaerung) zeichner.ZeichneErklaerung(plan_.Daten()->Vorlage());
     if (plan_.Daten()->ShowMassbalken) zeichner.ZeichneMassbalken(plan_.Daten()->Vorlage());
 }
 
@@ -352,7 +364,8 @@ void Planbild::ZieheBild(Bildpunkt versatz) {
     } else {
         // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
         const Darstellung& d = *plan_.Daten();
-        if (!stehendesLose_ && (d.ShowLegende || d.ZeigtErgebnisse() || d.ShowMassbalken)) {
+        if (!stehendesLose_ &&
+            (d.ShowLegende || d.ShowErklaerung || d.ZeigtErgebnisse() || d.ShowMassbalken)) {
             stehendesLose_ = true;
             const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
             pflege_.ZeichneNeu(Vorlage());

@@ -58,6 +58,9 @@ class Planbild {
     /// Leaves figures out of the picture, and draws those left out before again.
     void LasseAus(Figurenmenge figuren);
     void LasseLegendeAus(bool aus);
+    void LasseErklaerungAus(bool aus);
+    /// Where the key was drawn [px].
+    [[nodiscard]] Bildbereich Erklaerungsrahmen() const;
     void ZeigeVorschau(Vorschau vorschau);
     /// Circles round a point, until the next drawing. Brings it into the middle where it lies outside.
     /// @return false: not even there

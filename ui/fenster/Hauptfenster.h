@@ -162,6 +162,8 @@ class TZrwMainDlg final : public QMainWindow,
     void ZeichneNeu() override { planbild_.ZeichneNeu(); }
     void LasseAus(Figurenmenge figuren) override { planbild_.LasseAus(std::move(figuren)); }
     void LasseLegendeAus(bool aus) override { planbild_.LasseLegendeAus(aus); }
+    void LasseErklaerungAus(bool aus) override { planbild_.LasseErklaerungAus(aus); }
+    [[nodiscard]] Bildbereich Erklaerungsrahmen() const override { return planbild_.Erklaerungsrahmen(); }
     void ZeigeVorschau(Vorschau vorschau) override { planbild_.ZeigeVorschau(std::move(vorschau)); }
     void ZeigeStatus(const QString& text) override;
     void MeldeErledigt(const QString& satz) override;

@@ -37,12 +37,15 @@ void NimmBefehle(Menuebauer& bauer, Menue menue, const Aktionen& aktionen) {
     }
 }
 
-/// Those that show results, or all others.
-void NimmSchalter(Menuebauer& bauer, bool ausErgebnissen, const Aktionen& aktionen) {
+Menue MenueZu(const Schalter& s) {
+    if (s.HatMerkmal(kAusErgebnissen)) return Menue::Ergebnisse;
+    return s.HatMerkmal(kBeiDerAusgabe) ? Menue::Ausgabe : Menue::Ansicht;
+}
+
+void NimmSchalter(Menuebauer& bauer, Menue menue, const Aktionen& aktionen) {
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
         QAction* aktion = aktionen.Schalterliste()[i];
-        if (aktion != nullptr && kSchalter[i].HatMerkmal(kAusErgebnissen) == ausErgebnissen)
-            bauer.NimmAktion(aktion);
+        if (aktion != nullptr && MenueZu(kSchalter[i]) == menue) bauer.NimmAktion(aktion);
     }
     bauer.BeendeGruppe();
 }
@@ -54,11 +57,8 @@ void NimmAlle(Menuebauer& bauer, Menue menue, const Aktionen& aktionen) {
         bauer.BeendeGruppe();
     }
     NimmBefehle(bauer, menue, aktionen);
-    if (menue == Menue::Ansicht) NimmSchalter(bauer, false, aktionen);
-    if (menue == Menue::Ergebnisse) {
-        NimmSchalter(bauer, true, aktionen);
-        bauer.NimmAktion(&aktionen.NachName("DataButton"));
-    }
+    NimmSchalter(bauer, menue, aktionen);
+    if (menue == Menue::Ergebnisse) bauer.NimmAktion(&aktionen.NachName("DataButton"));
 }
 
 /// Gives a letter to those entries that have none.

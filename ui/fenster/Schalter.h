@@ -22,7 +22,9 @@ inline constexpr unsigned kAusErgebnissen = 8;  ///< shows what the adjustment's
 inline constexpr unsigned kBewegtSichNicht =
     16;  ///< while the picture is panned it stands still or is drawn anew
 
-inline constexpr unsigned kInMetern = 32;  ///< nothing where coordinates are angles
+inline constexpr unsigned kInMetern = 32;        ///< nothing where coordinates are angles
+inline constexpr unsigned kNurImMenue = 64;      ///< no check box in the panel
+inline constexpr unsigned kBeiDerAusgabe = 128;  ///< in the menu of what goes onto paper
 
 struct Schalter {
     std::string_view name;             ///< on the command line; empty: not there
@@ -81,6 +83,12 @@ inline constexpr auto kSchalter = std::to_array<Schalter>({
      "TK25 in Gauß-Krüger wie die Punkte, nicht in der Abbildung aus $KS", nullptr,
      &Zeichenzustand::BlattschnittWiePunkte, false, kNurBeiAbweichung,
      "Legt die Blätter dorthin, wo die Punkte liegen."},
+    {"zeichenerklaerung", "CheckBoxZeichenerklaerung", "Zeichenerklärung",
+     "Kasten mit den Linien, Zeichen und Farben dieses Plans einblenden", &Darstellung::ShowErklaerung,
+     nullptr, false, kNurImMenue | kBeiDerAusgabe | kBewegtSichNicht,
+     "Steht oben rechts und lässt sich mit der Maus verschieben."},
+    {"halo", "CheckBoxHalo", "Nummern mit weißem Rand", "Punktnummern von den Linien unter ihnen absetzen",
+     nullptr, &Zeichenzustand::Halo, false, kNurImMenue, "DXF und Plotdatei kennen keinen Rand."},
     {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "Punktnummern ohne ihre ersten vier Zeichen", nullptr,
      &Zeichenzustand::KurzeNummern, false, 0, "Gespeichert und ausgegeben wird immer die volle Nummer."},
 });

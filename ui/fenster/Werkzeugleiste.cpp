@@ -63,7 +63,8 @@ void Werkzeugleiste::NimmFelder(std::initializer_list<QWidget*> felder) {
 
 void Werkzeugleiste::BaueSchalter(const Aktionen& aktionen) {
     for (std::size_t i = 0; i < kSchalter.size(); ++i) {
-        if (QAction* aktion = aktionen.Schalterliste()[i]; aktion != nullptr)
+        QAction* const aktion = aktionen.Schalterliste()[i];
+        if (aktion != nullptr && !kSchalter[i].HatMerkmal(kNurImMenue))
             kaesten_->addWidget(NeuerSchaltkasten(*aktion, kSchalter[i], this));
     }
 }

@@ -146,6 +146,8 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"CheckBoxKMQ", 4},
     {"CheckBoxBlattschnitt", 4},
     {"CheckBoxMassbalken", 25},
+    {"CheckBoxHalo", 25},
+    {"CheckBoxZeichenerklaerung", 28},
     {"CheckBoxPktNr", 25},
     {"CheckBoxBeob", 25},
     {"CheckBoxPreview", 35},

@@ -46,6 +46,9 @@ class Werkzeugumgebung {
     /// Leaves figures that the tool has in hand out of the picture, and draws those left out before again.
     virtual void LasseAus(Figurenmenge figuren) = 0;
     virtual void LasseLegendeAus(bool aus) = 0;
+    virtual void LasseErklaerungAus(bool aus) = 0;
+    /// Where the key stands in the picture [px].
+    [[nodiscard]] virtual Bildbereich Erklaerungsrahmen() const = 0;
     virtual void ZeigeVorschau(Vorschau vorschau) = 0;
     virtual void ZeigeStatus(const QString& text) = 0;
     /// A finished action that is no change of the network, in a sentence that names its object.
@@ -99,7 +102,7 @@ class Werkzeug {
     }
     /// One press does all there is to do; the second of a double click is not meant.
     [[nodiscard]] virtual bool EinKlickGenuegt() const { return false; }
-    /// The legend's corner can be caught while its mode is on.
+    /// Legend and key can be caught while its mode is on.
     [[nodiscard]] virtual bool LaesstLegendeZu() const { return false; }
     /// The mouse moves with no button down, or has left the picture for a position far outside.
     virtual void Schweben(Bildpunkt /*ort*/) {}

@@ -11,8 +11,9 @@ static constexpr Bildpunkt kNirgends{-kZeichengrenze, -kZeichengrenze};
 Werkzeugkasten::Werkzeugkasten(Werkzeugumgebung& umgebung, Druckrahmen& rahmen)
     : mitteltaste_(NeuesWerkzeug<BildVerschieben>(umgebung)),
       auswahl_(std::make_unique<Auswahl>(umgebung)),
-      legendenecke_(std::make_unique<LegendeVerschieben>(umgebung)),
       rahmenrand_(std::make_unique<RahmenVerschieben>(umgebung, rahmen)) {
+    kaesten_.push_back(std::make_unique<ErklaerungVerschieben>(umgebung));
+    kaesten_.push_back(std::make_unique<LegendeVerschieben>(umgebung));
     for (const Werkzeugzeile& zeile : kWerkzeuge)
         werkzeuge_.push_back(zeile.neu(umgebung));
 }
@@ -45,11 +46,13 @@ void Werkzeugkasten::NetzGeaendert() {
     auswahl_->NetzGeaendert();
 }
 
-/// Whose a press here is; with no mode on it selects. The legend's corner is caught with no mode on and where
+/// Whose a press here is; with no mode on it selects. Legend and key are caught with no mode on and where
 /// the mode allows it, the edge of the output area with no mode on.
 Werkzeug* Werkzeugkasten::Zustaendig(Bildpunkt ort) const {
     const bool frei = aktiv_ == nullptr || aktiv_->LaesstLegendeZu();
-    if (frei && legendenecke_->UeberEcke(ort)) return legendenecke_.get();
+    for (const auto& kasten : kaesten_) {
+        if (frei && kasten->UeberGriff(ort)) return kasten.get();
+    }
     if (aktiv_ == nullptr && rahmenrand_->UeberRand(ort)) return rahmenrand_.get();
     return aktiv_ != nullptr ? aktiv_ : auswahl_.get();
 }

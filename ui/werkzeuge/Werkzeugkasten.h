@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "ui/werkzeuge/Auswahl.h"
-#include "ui/werkzeuge/LegendeVerschieben.h"
+#include "ui/werkzeuge/KastenVerschieben.h"
 #include "ui/werkzeuge/RahmenVerschieben.h"
 #include "ui/werkzeuge/Werkzeug.h"
 
@@ -62,7 +62,7 @@ class Werkzeugkasten {
     std::vector<std::unique_ptr<Werkzeug>> werkzeuge_;
     std::unique_ptr<Werkzeug> mitteltaste_;  ///< panning, whatever mode is on
     std::unique_ptr<Auswahl> auswahl_;
-    std::unique_ptr<LegendeVerschieben> legendenecke_;
+    std::vector<std::unique_ptr<KastenVerschieben>> kaesten_;  ///< that stand over the plan, uppermost first
     std::unique_ptr<RahmenVerschieben> rahmenrand_;
     Werkzeug* aktiv_ = nullptr;
     Werkzeug* gedrueckt_ = nullptr;  ///< has the mouse button that is down
