@@ -334,9 +334,12 @@ std::optional<Blatt> ErstesBlatt(const Druckplan& plan, double massstab, const D
     return Blatt{0, 0, m.Weltort(band.Links(), umfang->oben)};
 }
 
-std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite& seite) {
-    const auto bezug = Bezug(plan.vorlage);
-    if (!bezug) return std::nullopt;
+std::string Massstabtext(double massstab) {
+    return massstab == std::floor(massstab) ? Festkomma(massstab, 0, 0) : SchreibeReal(massstab);
+}
+
+std::optional<double> GroessterMassstab(const Druckplan& plan, const Druckseite& seite, double blaetter,
+                                        const std::function<bool(double massstab)>& passt) {
     Weltkasten orte;
     for (const PunktKnoten* p = plan.vorlage.netz.PunktKnoten; p != nullptr; p = p->Next) {
         if (ZaehltPunkt(*p, plan.vorlage)) orte.NimmOrt(p->XWPu, p->YWPu);
@@ -344,7 +347,8 @@ std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite&
     // The points alone need this one; whatever is drawn round them needs a little more.
     const double dot = Druckfaktor(1, seite.aufloesung);
     const double mindestens = std::max((orte.rechts - orte.links) / (std::max(seite.weite, 1) * dot),
-                                       (orte.oben - orte.unten) / (std::max(seite.hoehe, 1) * dot));
+                                       (orte.oben - orte.unten) / (std::max(seite.hoehe, 1) * dot)) /
+                              blaetter;
     if (!(mindestens > 0.0) || !std::isfinite(mindestens)) return std::nullopt;
     constexpr std::array<double, 4> kZiffern{1, 2, 2.5, 5};
     constexpr int kStufen = 6;  // symbols that leave no room even then do so at every scale
@@ -354,11 +358,20 @@ std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite&
         for (const double ziffer : kZiffern) {
             const double massstab = ziffer * zehner;
             if (massstab < mindestens || !LiesMassstab(SchreibeReal(massstab))) continue;
-            const Messung m(plan, massstab, seite, *bezug);
-            if (const auto u = m.MissUmfang(); u && m.PasstAufEines(*u)) return massstab;
+            if (passt(massstab)) return massstab;
         }
     }
     return std::nullopt;
+}
+
+std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite& seite) {
+    const auto bezug = Bezug(plan.vorlage);
+    if (!bezug) return std::nullopt;
+    return GroessterMassstab(plan, seite, 1.0, [&](double massstab) {
+        const Messung m(plan, massstab, seite, *bezug);
+        const auto u = m.MissUmfang();
+        return u && m.PasstAufEines(*u);
+    });
 }
 
 }  // namespace zrw

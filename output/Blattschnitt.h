@@ -5,7 +5,9 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "model/Bildvorlage.h"
@@ -52,5 +54,14 @@ inline constexpr std::size_t kMeisteBlaetter = 400;
 /// Denominator of the largest scale of 1, 2, 2.5 or 5 times 10^n, at most 1:1, at which a plan fits one
 /// sheet. None for a plan of a single place and for one that fits at no scale.
 [[nodiscard]] std::optional<double> PassenderMassstab(const Druckplan& plan, const Druckseite& seite);
+
+/// A scale as the legend names it: "2500", "2.5".
+[[nodiscard]] std::string Massstabtext(double massstab);
+
+/// The same with another condition: the largest that passes it, of those at which so many sheets could hold
+/// the points at all.
+[[nodiscard]] std::optional<double> GroessterMassstab(const Druckplan& plan, const Druckseite& seite,
+                                                      double blaetter,
+                                                      const std::function<bool(double massstab)>& passt);
 
 }  // namespace zrw

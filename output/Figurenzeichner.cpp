@@ -16,6 +16,7 @@
 #include "output/Kartengitter.h"
 #include "output/Legendenbild.h"
 #include "output/Residuenbild.h"
+#include "output/blatt/Schlichtgitter.h"
 
 namespace zrw {
 namespace {
@@ -305,16 +306,30 @@ void Figurenzeichner::ZeichneLegende(Legende& legende, Gang gang) {
     Legendenbild(*zustand_.flaeche, einstellungen_, zustand_.Dichte()).ZeichneLegende(legende, gang);
 }
 
+/// Only on paper: neither the screen nor a drawing has thin lines.
+bool Figurenzeichner::GitterSchlicht() const {
+    return zustand_.GitterSchlicht && zustand_.modus == Zeichenmodus::Drucker && ZeigtResiduen();
+}
+
 void Figurenzeichner::GitterShow(const Bildvorlage& v) {
     SetzeEbene(Ebene::Gitter);
     Netzangaben netz = netz_;
     if (zustand_.BlattschnittWiePunkte && PunkteInGaussKrueger(netz.Netztyp))
         netz.Abbildungsmodus = static_cast<std::uint8_t>(Abbildung::GaussKrueger);
-    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, v.ansicht).Kartenblaetter(netz);
+    const bool schlicht = GitterSchlicht();
+    const Farbe farbe = schlicht ? Aufgehellt(einstellungen_.TKCol) : einstellungen_.TKCol;
+    if (schlicht) zustand_.flaeche->SetzeStrichmass(kGitterstrich);
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), farbe}, v.ansicht).Kartenblaetter(netz);
+    if (schlicht) zustand_.flaeche->SetzeStrichmass(0);
 }
 
 void Figurenzeichner::KMGitterShow(const Bildvorlage& v) {
     SetzeEbene(Ebene::Gitter);
+    if (GitterSchlicht()) {
+        zustand_.flaeche->SetzeStrichmass(kGitterstrich);
+        ZeichneKilometerlinien(*zustand_.flaeche, v.ansicht, einstellungen_.TKCol, zustand_.Dichte());
+        return zustand_.flaeche->SetzeStrichmass(0);
+    }
     Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, v.ansicht).Kilometerquadrate();
 }
 

@@ -91,6 +91,7 @@ class Figurenzeichner final : public Zeichner {
     [[nodiscard]] Plotdatei* Plot(Gang gang) const;
     [[nodiscard]] DXFUnit* Dxf(Gang gang) const;
     [[nodiscard]] bool ZeigtResiduen() const;
+    [[nodiscard]] bool GitterSchlicht() const;
     [[nodiscard]] Dxfpunkt Weltort(Bildpunkt b) const;
 
     const Zeichenzustand& zustand_;

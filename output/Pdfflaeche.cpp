@@ -310,6 +310,30 @@ void Pdfflaeche::BeginneForm() {
     SchreibeText(" BDC\n");
 }
 
+/// Layers begin anew on both sides of its ends, as the graphics state does.
+void Pdfflaeche::BeginneFenster(const Rechteck& r) {
+    SchliesseEbene();
+    SchreibeText("q ");
+    Paar(r.links, r.oben);
+    Paar(r.rechts - r.links, r.unten - r.oben);
+    SchreibeText("re W n\n");
+    stift_.reset();
+    fuellung_.reset();
+}
+
+void Pdfflaeche::BeendeFenster() {
+    SchliesseEbene();
+    SchreibeText("Q\n");
+    stift_.reset();
+    fuellung_.reset();
+}
+
+void Pdfflaeche::SetzeStrichmass(double mm) {
+    SchliessePfad();
+    Vektorflaeche::SetzeStrichmass(mm);
+    stift_.reset();
+}
+
 // --- Pens and shapes --------------------------------------------------------------------------------------
 
 void Pdfflaeche::Paar(double x, double y) {

@@ -41,6 +41,9 @@ class Pdfflaeche final : public Vektorflaeche {
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
                      std::int32_t rand) override;
+    void BeginneFenster(const Rechteck& r) override;
+    void BeendeFenster() override;
+    void SetzeStrichmass(double mm) override;
 
     /// Ends the page; what is drawn from now on stands on the next one, of the same paper.
     void NeueSeite();

@@ -20,7 +20,7 @@ std::int32_t Ganze(double dots) {
 }  // namespace
 
 double Vektorflaeche::Schrift() const {
-    return kZeichenschrift * Pixel();
+    return schriftmass_ > 0 ? schriftmass_ : kZeichenschrift * Pixel();
 }
 
 std::int32_t Vektorflaeche::Grundlinie() const {

@@ -26,12 +26,20 @@ class Vektorflaeche : public Zeichenflaeche {
     [[nodiscard]] std::int32_t Texthoehe() const override;
     [[nodiscard]] std::int32_t Schriftgrad() const override;
     [[nodiscard]] std::int32_t Schrifthoehe() const override;
+    void SetzeStrichmass(double mm) override {
+        strich_ = mm > 0.0 ? mm / kMillimeterJeZoll * seite_.aufloesung : ueblicherStrich_;
+    }
+    void SetzeSchriftmass(std::int32_t dots) override { schriftmass_ = dots; }
 
   protected:
     /// @param strich width of a pen of width 1 [dots] @param schrift outlives the surface
     Vektorflaeche(std::unique_ptr<Dateischreiber> datei, const Druckseite& seite, double strich,
                   const Schriftmasse& schrift)
-        : seite_(seite), strich_(strich), masse_(schrift), datei_(std::move(datei)) {}
+        : seite_(seite),
+          strich_(strich),
+          ueblicherStrich_(strich),
+          masse_(schrift),
+          datei_(std::move(datei)) {}
     ~Vektorflaeche() override = default;
 
     // The file. All of these throw a Fehler where it cannot be written.
@@ -79,6 +87,8 @@ class Vektorflaeche : public Zeichenflaeche {
   private:
     Druckseite seite_;
     double strich_;
+    double ueblicherStrich_;
+    std::int32_t schriftmass_ = 0;  ///< [dots]; 0: the usual one
     const Schriftmasse& masse_;
     std::uint64_t geschrieben_ = 0;
     Textausgabe datei_;

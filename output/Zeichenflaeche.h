@@ -86,6 +86,15 @@ class Zeichenflaeche {
     }
     [[nodiscard]] Ebene AktuelleEbene() const { return ebene_; }
 
+    // What paper needs besides. Surfaces that cannot do it leave it at that.
+    /// Nothing is drawn outside the rectangle, from now on up to the end; there is one at a time.
+    virtual void BeginneFenster(const Rechteck& /*r*/) {}
+    virtual void BeendeFenster() {}
+    /// How wide a pen of width 1 is from now on [mm]; 0: as usual.
+    virtual void SetzeStrichmass(double /*mm*/) {}
+    /// How large texts are from now on: the em of their font [dots]; 0: as usual.
+    virtual void SetzeSchriftmass(std::int32_t /*dots*/) {}
+
     /// Line with both ends drawn.
     virtual void Linie(Flaechenpunkt von, Flaechenpunkt nach) = 0;
     /// Strokes of width 1 in one colour, whatever the pen is.

@@ -27,6 +27,8 @@ struct Zeichenzustand {
     bool KurzeNummern = false;              ///< labels without their first four characters
     bool Halo = false;                      ///< labels with a white rim
     bool BlattschnittWiePunkte = false;     ///< map sheets in the projection of the points, not that of "$KS"
+    bool Blattrahmen = false;               ///< sheets of paper have a frame with a title block
+    bool GitterSchlicht = false;            ///< grids on paper are thin and numbered at its edges
     bool OhneStehendes = false;             ///< without what stands still while the picture is dragged
     bool Abkuerzungen = true;               ///< quick ways to the same picture; off for comparing with them
     Punktergebnisse* Ergebnisse = nullptr;  ///< null: no results are known

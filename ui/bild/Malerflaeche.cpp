@@ -84,6 +84,31 @@ void Malerflaeche::SetzeMalerausschnitt(const Rechteck& r) {
     maler_->setClipRect(AlsQRect(r));
 }
 
+void Malerflaeche::BeginneFenster(const Rechteck& r) {
+    maler_->save();
+    maler_->setClipRect(AlsQRect(r), Qt::IntersectClip);
+}
+
+void Malerflaeche::BeendeFenster() {
+    maler_->restore();
+    stift_.reset();
+    pinsel_.reset();
+}
+
+void Malerflaeche::SetzeStrichmass(double mm) {
+    constexpr double kPixelJeMillimeter = kPixelJeZoll / 25.4;
+    strichbreite_ = mm > 0.0 ? mm * kPixelJeMillimeter * pixel_ : ueblicherStrich_;
+    stift_.reset();
+}
+
+void Malerflaeche::SetzeSchriftmass(std::int32_t dots) {
+    if (!uebliche_) uebliche_ = schrift_;
+    QFont schrift = *uebliche_;
+    if (dots > 0) schrift.setPixelSize(dots);
+    if (dots <= 0) uebliche_.reset();
+    SetzeSchrift(schrift);
+}
+
 void Malerflaeche::WendeStiftAn(const Stift& stift) {
     if (stift_ == stift) return;
     QPen pen(AlsQColor(stift.farbe));

@@ -33,10 +33,16 @@ class Malerflaeche : public Zeichenflaeche {
     /// @param dots width of a pen of width 1 @param pixel a pixel of the screen [dots]
     void SetzeStrichbreite(double dots, double pixel) {
         strichbreite_ = dots;
+        ueblicherStrich_ = dots;
         pixel_ = pixel;
         stift_.reset();
     }
     [[nodiscard]] const QFont& Schrift() const { return schrift_; }
+
+    void BeginneFenster(const Rechteck& r) override;
+    void BeendeFenster() override;
+    void SetzeStrichmass(double mm) override;
+    void SetzeSchriftmass(std::int32_t dots) override;
 
     [[nodiscard]] Rechteck Sichtbar() const override { return sichtbar_; }
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
@@ -72,8 +78,10 @@ class Malerflaeche : public Zeichenflaeche {
     Rechteck sichtbar_;
     QFont schrift_;
     QFontMetrics masse_;
-    std::int32_t texthoehe_;  ///< asked for with every label; the font locks itself for each answer
+    std::int32_t texthoehe_;         ///< asked for with every label; the font locks itself for each answer
+    std::optional<QFont> uebliche_;  ///< while texts have another size
     double strichbreite_ = 1.0;
+    double ueblicherStrich_ = 1.0;
     double pixel_ = 1.0;
     bool glatt_ = false;
     // What the painter holds now; none after it began.

@@ -31,6 +31,8 @@ class Pixelflaeche : public Malerflaeche {
     /// Restricts drawing to a part of the picture.
     void SetzeAusschnitt(const Rechteck& r);
     [[nodiscard]] Rechteck Ausschnitt() const override { return pixel_.Ausschnitt(); }
+    void BeginneFenster(const Rechteck& r) override { SetzeAusschnitt(Geschnitten(r, Sichtbar())); }
+    void BeendeFenster() override { SetzeAusschnitt(Sichtbar()); }
     /// Thin lines are clipped pixel by pixel, so that they look the same whatever part of them is seen.
     [[nodiscard]] Rechteck Grenzen() const override;
     bool BeginneVonVorn() override;
