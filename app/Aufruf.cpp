@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "model/Aufzaehltafel.h"
+#include "model/Cp1252.h"
 #include "model/Zahlentext.h"
 #include "ui/ausgabe/Formate.h"
 #include "ui/fenster/Schalter.h"
@@ -37,14 +38,28 @@ Bildgroesse LiesGroesse(const std::string& text) {
 
 std::string LiesMassstabtext(const std::string& text) {
     if (LiesMassstab(text)) return std::string(OhneRand(text));
-    throw Falschaufruf{"--massstab erwartet eine Zahl größer als 0, nicht \"" + text + "\""};
+    throw Falschaufruf{"--massstab erwartet eine Zahl größer als 0 oder \"passend\", nicht \"" + text + "\""};
 }
 
-int LiesAufloesung(const std::string& text) {
-    constexpr std::int64_t kFeinste = 100000;
-    const auto dpi = LiesGanz(text);
-    if (dpi && *dpi >= 1 && *dpi <= kFeinste) return static_cast<int>(*dpi);
-    throw Falschaufruf{"--dpi erwartet eine ganze Zahl von 1 bis 100000, nicht \"" + text + "\""};
+void NimmMassstab(Aufruf& a, const std::string& text) {
+    a.gesucht = a.passend = text == "passend";
+    a.massstab = a.gesucht ? std::string(kUeblicherMassstab) : LiesMassstabtext(text);
+}
+
+int LiesGanzeZahl(const std::string& option, const std::string& text, int von, int bis) {
+    const auto zahl = LiesGanz(text);
+    if (zahl && *zahl >= von && *zahl <= bis) return static_cast<int>(*zahl);
+    throw Falschaufruf{option + " erwartet eine ganze Zahl von " + std::to_string(von) + " bis " +
+                       std::to_string(bis) + ", nicht \"" + text + "\""};
+}
+
+/// One of the pens, or the usual one.
+double LiesStift(const std::string& text) {
+    if (text == "vorgabe") return 0.0;
+    const auto stift = LiesReal(text);
+    if (stift && *stift > 0.0 && std::count(kPlanstifte.begin(), kPlanstifte.end(), *stift) > 0)
+        return *stift;
+    throw Falschaufruf{"--stift kennt 0.13, 0.18, 0.25 und vorgabe, nicht \"" + text + "\""};
 }
 
 /// "a4" is A4, too.
@@ -97,12 +112,23 @@ constexpr auto kOptionen = std::to_array<Option>({
      }},
     {"--ziel", [](Aufruf& a, const std::string& w) { a.ziel = w; }},
     {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
-    {"--massstab",
+    {"--massstab", &NimmMassstab},
+    {"--blaetter",
      [](Aufruf& a, const std::string& w) {
-         a.massstab = LiesMassstabtext(w);
-         a.passend = false;
+         a.blaetter = LiesGanzeZahl("--blaetter", w, 1, static_cast<int>(kMeisteBlaetter));
      }},
-    {"--dpi", [](Aufruf& a, const std::string& w) { a.dpi = LiesAufloesung(w); }},
+    {"--ueberlappung",
+     [](Aufruf& a, const std::string& w) {
+         a.gestaltung.ueberlappung = LiesGanzeZahl("--ueberlappung", w, 0, kGroessteUeberlappung);
+     }},
+    {"--schwarzweiss", [](Aufruf& a, const std::string& /*w*/) { a.gestaltung.schwarzweiss = true; }, false},
+    {"--stift", [](Aufruf& a, const std::string& w) { a.gestaltung.stift = LiesStift(w); }},
+    {"--projekt", [](Aufruf& a, const std::string& w) { a.gestaltung.texte.projekt = Utf8NachCp1252(w); }},
+    {"--bearbeiter",
+     [](Aufruf& a, const std::string& w) { a.gestaltung.texte.bearbeiter = Utf8NachCp1252(w); }},
+    {"--firma", [](Aufruf& a, const std::string& w) { a.gestaltung.texte.firma = Utf8NachCp1252(w); }},
+    {"--dpi",
+     [](Aufruf& a, const std::string& w) { a.dpi = LiesGanzeZahl("--dpi", w, 1, kFeinsteAufloesung); }},
     {"--papier", [](Aufruf& a, const std::string& w) { a.papier = LiesPapier(w); }},
     {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
     {"--alle-blaetter", [](Aufruf& a, const std::string& /*w*/) { a.alleBlaetter = true; }, false},
@@ -171,11 +197,19 @@ std::string Hilfetext() {
            "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x1200,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
            "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf, plt und pdf (sonst 25000; in der pdf\n"
-           "                         der größte runde, in dem der Plan auf ein Blatt passt)\n"
+           "                         der größte runde, in dem der Plan auf ein Blatt passt);\n"
+           "                         „passend“ nimmt diesen auch für dxf und plt\n"
+           "  --blaetter ZAHL        so viele Blätter darf der passende Maßstab brauchen (sonst 1)\n"
            "  --dpi ZAHL             Auflösung des Drucks in Punkten je Zoll (sonst 600)\n"
            "  --papier FORMAT        Papier für pdf: A4, A3, A2, A1 oder A0 (sonst A4)\n"
            "  --quer                 Papier im Querformat\n"
            "  --alle-blaetter        so viele Blätter, wie der Plan im Maßstab braucht (pdf)\n"
+           "  --ueberlappung MM      Nachbarblätter zeigen so viel doppelt, 0 bis 20 (pdf)\n"
+           "  --schwarzweiss         Blätter (pdf) ohne Farben\n"
+           "  --stift BREITE         Strichbreite des Plans in mm auf Blättern: 0.13, 0.18, 0.25\n"
+           "                         oder vorgabe\n"
+           "  --projekt TEXT, --bearbeiter TEXT, --firma TEXT\n"
+           "                         Texte im Schriftfeld des Blattrahmens (--ein blattrahmen)\n"
            "  --kantig               Bilder (png, bmp) ohne geglättete Kanten\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"

@@ -62,7 +62,11 @@ pruefe "SVG" grep -q '<svg .* width="500" height="400"' aus2/NETZ.svg
 pruefe "PDF" grep -qaF '/MediaBox[0 0 1190.5512 841.8898 ]' aus2/NETZ.pdf
 erwarte 0 "Bild nach Druck" --export svg,pdf,svg --groesse 500x400 --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
 pruefe "der Druck hinterlässt nichts" cmp -s aus2/NETZ.svg aus3/NETZ.svg
+erwarte 0 "passender Maßstab" --export dxf --massstab passend --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
+erwarte 0 "derselbe genannt" --export dxf --massstab 250000 --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "in der Zeichnung" cmp -s aus2/ZRW.DXF aus3/ZRW.DXF
 for dpi in 1 100000; do
+    erwarte 0 "$dpi dpi, Rahmen" --export pdf --dpi $dpi --ein blattrahmen,kmq --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
     erwarte 0 "$dpi dpi" --export pdf --dpi $dpi --ein legende,tk25,kmq --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
 done
 rm -f aus2/NETZ.svg aus2/NETZ.pdf aus3/NETZ.svg aus3/NETZ.pdf
@@ -80,6 +84,7 @@ pruefe "Rest geschrieben" test "$(stat -c %s aus/punkte.ZRW)" -eq $((84 + 41 + 5
 for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groesse 5x5 x" "--groesse 99999x800 x" \
     "--ein nichts x" "--export dxf --massstab 0 x" "--export dxf --massstab 1:500 x" "--export plt --dpi 0 x" \
     "--export plt --dpi 1.5 x" "--export pdf --papier A5 x" "--export pdf --papier" "--export pdf --quer=1 x" \
+    "--export pdf --blaetter 0 x" "--export pdf --ueberlappung 21 x" "--export pdf --stift 0.2 x" \
     "--export zrw a b" "--groesse 800x600 x"; do
     # shellcheck disable=SC2086
     erwarte 2 "falscher Aufruf $falsch" $falsch

@@ -10,6 +10,7 @@
 #include "input/Oeffnen.h"
 #include "output/Export.h"
 #include "output/Papier.h"
+#include "output/blatt/Blattgestaltung.h"
 
 namespace zrw {
 
@@ -28,7 +29,10 @@ inline constexpr Bildgroesse kUeblicheGroesse{1200, 1200};
 struct Ausgabeauftrag {
     std::optional<Bildgroesse> groesse;
     std::string massstab = kUeblicherMassstab;  ///< denominator, readable by `LiesMassstab`
-    bool passend = true;  ///< none was given: documents take the one at which the plan fits their sheet
+    bool passend = true;   ///< none was given: documents take the one at which the plan fits their sheet
+    bool gesucht = false;  ///< that one was asked for: drawings and plotter files take it, too
+    int blaetter = 1;      ///< how many sheets it may take
+    Blattgestaltung gestaltung;                  ///< of sheets
     int dpi = kUeblicheAufloesung;               ///< resolution of the print [dots per inch]
     Papier papier = kPapierformate[0].hochkant;  ///< upright
     bool quer = false;                           ///< the paper lies on its long side

@@ -70,8 +70,7 @@ QImage ZeichneBlatt(const Ausgabe& a, const Blattwahl& wahl, QSize platz) {
     Einstellungen groessen = a.einstellungen;
     const Systemuhr uhr;
     const Einstellungen druck = Geraetegroessen(groessen, faktor);
-    DruckePlan(a.vorlage, {a.zustand, groessen, a.netz, uhr}, druck, flaeche,
-               {wahl.massstab, wahl.massstabtext, seite, wahl.blaetter.front().ecke});
+    DruckeBlatt(a.vorlage, {a.zustand, groessen, a.netz, uhr}, druck, flaeche, AuftragVon(a, wahl, seite), 0);
     QImage blatt(groesse.toSize(), QImage::Format_RGB32);
     blatt.fill(Qt::white);
     const int rand = static_cast<int>(std::lround(kPapierrand * jeMillimeter));

@@ -74,34 +74,36 @@ struct Druckmittel {
     Systemuhr uhr;
     Zeichenmittel mittel;
     Druckseite seite;
+    Blattteilung teilung;
 
     explicit Druckmittel(const Ausgabe& a)
         : groessen(a.einstellungen),
           mittel{a.zustand, groessen, a.netz, uhr},
-          seite(Bedruckbar(a.papier, a.dpi)) {}
+          seite(Bedruckbar(a.papier, a.dpi)),
+          teilung(TeileSeite(seite, a.zustand.Blattrahmen, a.gestaltung)) {}
     Druckmittel(const Druckmittel&) = delete;
     Druckmittel& operator=(const Druckmittel&) = delete;
 };
 
-/// Scale: the one that was asked for, or else the largest at which the plan fits its sheet.
-void WaehleMassstab(const Ausgabe& a, const Druckplan& plan, const Druckseite& seite, Blattwahl& wahl) {
+/// Scale: the one that was asked for, or else the largest at which the plan fits its sheets.
+void WaehleMassstab(const Ausgabe& a, const Druckplan& plan, const Blattteilung& teilung, Blattwahl& wahl) {
     wahl.massstab = a.massstab;
     wahl.massstabtext = a.massstabtext;
-    const auto passend = a.passend ? PassenderMassstab(plan, seite) : std::nullopt;
+    const auto passend = a.passend ? PassenderMassstab(plan, teilung, a.blaetter) : std::nullopt;
     if (!passend) return;
     wahl.massstab = *passend;
-    wahl.massstabtext = *passend == std::floor(*passend) ? Festkomma(*passend, 0, 0) : SchreibeReal(*passend);
+    wahl.massstabtext = Massstabtext(*passend);
 }
 
-Blattwahl WaehleBlaetter(const Ausgabe& a, const Druckplan& plan, const Druckseite& seite) {
+Blattwahl WaehleBlaetter(const Ausgabe& a, const Druckplan& plan, const Blattteilung& teilung) {
     Blattwahl wahl{};
-    WaehleMassstab(a, plan, seite, wahl);
+    WaehleMassstab(a, plan, teilung, wahl);
     try {
-        wahl.blaetter = Blattaufteilung(plan, wahl.massstab, seite);
+        wahl.blaetter = TeileBlaetterAuf(plan, wahl.massstab, teilung);
         wahl.gebraucht = std::max<std::size_t>(wahl.blaetter.size(), 1);
     } catch (const Fehler&) {
         if (a.alleBlaetter) throw;
-        if (const auto erstes = ErstesBlatt(plan, wahl.massstab, seite)) wahl.blaetter = {*erstes};
+        if (const auto erstes = ErstesBlatt(plan, wahl.massstab, teilung.plan)) wahl.blaetter = {*erstes};
     }
     if (wahl.blaetter.empty())
         wahl.blaetter = {{0, 0, a.vorlage.ansicht.BildinWelt({})}};  // frame, legend and grids alone
@@ -139,12 +141,13 @@ void SchreibePdf(const Ausgabe& a, const std::filesystem::path& datei) {
     Pdfflaeche flaeche(a.dateien.BeginneDatei(datei), a.papier, a.dpi,
                        {Titel(a), nullptr, schrift ? &*schrift : nullptr});
     Druckmittel d(a);
-    const Blattwahl wahl = WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.seite);
+    const Blattwahl wahl = WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.teilung);
     MeldeBlaetter(a, wahl, datei);
+    const Blattauftrag auftrag = AuftragVon(a, wahl, d.seite);
     for (std::size_t i = 0; i < wahl.blaetter.size(); ++i) {
         if (i > 0) flaeche.NeueSeite();
-        DruckePlan(a.vorlage, d.mittel, Geraetegroessen(d.groessen, Geraetefaktor(d.seite)), flaeche,
-                   {wahl.massstab, wahl.massstabtext, d.seite, wahl.blaetter[i].ecke});
+        DruckeBlatt(a.vorlage, d.mittel, Geraetegroessen(d.groessen, Geraetefaktor(d.seite)), flaeche,
+                    auftrag, i);
     }
     flaeche.BeendeDatei();
 }
@@ -159,7 +162,8 @@ class Leerschreiber final : public Dateischreiber {
 
 void SchreibeExport(const Ausgabe& a, Exportauftrag auftrag) {
     const Systemuhr uhr;
-    auftrag.faktor = Druckfaktor(a.massstab, a.dpi);
+    const double massstab = a.gesucht ? WaehleBlaetter(a).massstab : a.massstab;
+    auftrag.faktor = Druckfaktor(massstab, a.dpi);
     ExportierePlan(a.vorlage, {a.zustand, a.einstellungen, a.netz, uhr}, a.dateien, auftrag);
 }
 
@@ -228,13 +232,21 @@ std::filesystem::path Zielname(const Format& format, const std::filesystem::path
     return name += TextPfad(format.endung);
 }
 
+Blattauftrag AuftragVon(const Ausgabe& a, const Blattwahl& wahl, const Druckseite& seite) {
+    return {.druck = {wahl.massstab, wahl.massstabtext, seite, {}, {}},
+            .gestaltung = a.gestaltung,
+            .blaetter = wahl.blaetter,
+            .datei = Utf8NachCp1252(a.eingabe),
+            .systemBekannt = !a.ausBild};
+}
+
 Blattwahl WaehleBlaetter(const Ausgabe& a) {
     // Which sheets it takes hangs on how wide the document's texts are.
     const auto schrift = Dokumentschrift();
     const Pdfflaeche flaeche(std::make_unique<Leerschreiber>(), a.papier, a.dpi,
                              {{}, nullptr, schrift ? &*schrift : nullptr});
     Druckmittel d(a);
-    return WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.seite);
+    return WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.teilung);
 }
 
 }  // namespace zrw

@@ -14,6 +14,7 @@
 #include "output/Blattschnitt.h"
 #include "output/Papier.h"
 #include "output/Zeichenzustand.h"
+#include "output/blatt/Blattdruck.h"
 
 namespace zrw {
 
@@ -29,12 +30,15 @@ struct Ausgabe {
     Dateien& dateien;
     double massstab;           ///< scale denominator of the print
     std::string massstabtext;  ///< the same as the legend names it
-    bool passend;       ///< no scale was asked for: a document takes the one at which the plan fits its sheet
-    int dpi;            ///< resolution of the print [dots per inch]
-    Papier papier;      ///< as it lies
-    bool alleBlaetter;  ///< every sheet of the print that holds something, not the first alone
-    bool kantig;        ///< pictures without smooth edges
-    bool ausBild;       ///< from a picture file
+    bool passend;   ///< no scale was asked for: a document takes the one at which the plan fits its sheet
+    int dpi;        ///< resolution of the print [dots per inch]
+    Papier papier;  ///< as it lies
+    bool gesucht;   ///< that scale was asked for: drawings and plotter files take it, too
+    std::size_t blaetter;        ///< how many sheets it may take
+    Blattgestaltung gestaltung;  ///< of sheets
+    bool alleBlaetter;           ///< every sheet of the print that holds something, not the first alone
+    bool kantig;                 ///< pictures without smooth edges
+    bool ausBild;                ///< from a picture file
     Sprecher sage;
     std::string eingabe;  ///< name of the input without folder and extension, UTF-8
 };
@@ -80,5 +84,8 @@ struct Blattwahl {
 /// The same sheets as a document of this output has. Tells nobody.
 /// @throws Fehler where all of too many are asked for
 [[nodiscard]] Blattwahl WaehleBlaetter(const Ausgabe& a);
+
+/// The sheets of this choice, to be drawn one by one.
+[[nodiscard]] Blattauftrag AuftragVon(const Ausgabe& a, const Blattwahl& wahl, const Druckseite& seite);
 
 }  // namespace zrw

@@ -25,6 +25,7 @@ inline constexpr unsigned kBewegtSichNicht =
 inline constexpr unsigned kInMetern = 32;        ///< nothing where coordinates are angles
 inline constexpr unsigned kNurImMenue = 64;      ///< no check box in the panel
 inline constexpr unsigned kBeiDerAusgabe = 128;  ///< in the menu of what goes onto paper
+inline constexpr unsigned kAufPapier = 256;      ///< shows on sheets of paper only; the print dialogs have it
 
 struct Schalter {
     std::string_view name;             ///< on the command line; empty: not there
@@ -91,6 +92,11 @@ inline constexpr auto kSchalter = std::to_array<Schalter>({
      nullptr, &Zeichenzustand::Halo, false, kNurImMenue, "DXF und Plotdatei kennen keinen Rand."},
     {"kurznr", "CheckBoxALKKurz", "Kurze ALK NR", "Punktnummern ohne ihre ersten vier Zeichen", nullptr,
      &Zeichenzustand::KurzeNummern, false, 0, "Gespeichert und ausgegeben wird immer die volle Nummer."},
+    {"blattrahmen", "", "Blattrahmen", "Rahmen mit Schriftfeld um jedes Blatt", nullptr,
+     &Zeichenzustand::Blattrahmen, false, kAufPapier},
+    {"gitter-schlicht", "", "Gitter auf Papier schlicht",
+     "Gitterlinien auf Papier dünn, hell und am Rand beziffert", nullptr, &Zeichenzustand::GitterSchlicht,
+     false, kAufPapier},
 });
 /// For assertions: no two switches of one name, and each switches one thing at most.
 [[nodiscard]] consteval bool SchalterEindeutig() {

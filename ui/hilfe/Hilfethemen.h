@@ -70,6 +70,7 @@ inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
 
     {32, "32_tasten.md", "Tasten und Maus", kNachschlagen},
     {35, "35_drucken.md", "Drucken und Bild speichern", kNachschlagen},
+    {41, "41_plan_abgeben.md", "Plan abgeben", kNachschlagen},
     {3, "03_ausgabe.md", "Plan ausgeben: DXF und HPGL/2", kNachschlagen},
     {27, "27_dateiformate.md", "Dateien und Formate", kNachschlagen},
     {29, "29_stapelbetrieb.md", "Stapelbetrieb", kNachschlagen},
@@ -134,6 +135,8 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"SpeedButtonClipbrd", 35},
     {"SpeedButton16", 3},
     {"AusgabeWahl", 38},
+    {"BlattRahmen", 41},
+    {"PassenderMassstab", 41},
     {"EditMasstab", 35},
     {"SpeedButton12", 28},
     // Program
@@ -169,6 +172,8 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"TFormHiddenPkt", 23},
     {"TFormData", 24},
     {"Druckvorschau", 35},
+    {"BlattDialog", 41},
+    {"MassstabEinpassen", 41},
     {"AusgabeDialog", 38},
     {"TZRWLBLForm", 28},
     {"TZRWParameter", 30},
