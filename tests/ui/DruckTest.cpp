@@ -1,9 +1,14 @@
 // Printing from the window: sheets, the output area, and that nothing of it stays in the picture.
+#include <QApplication>
+#include <QDialog>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSpinBox>
+#include <QTimer>
 
 #include "model/Cp1252.h"
 #include "tests/ui/Fenster.h"
+#include "ui/ablage/Blattablage.h"
 
 namespace zrw {
 namespace {
@@ -47,6 +52,37 @@ TEST_F(Druckfenster, DrucktMitTitelUndLaesstDasBildWieEsWar) {
     Massstab(0);
     DruckePlan();
     EXPECT_EQ(drucker.titel.size(), 2) << "no job without a scale";
+}
+
+TEST_F(Druckfenster, BlattrahmenUndEingepassterMassstab) {
+    fenster.OeffneDatei(kBeispiel);
+    const auto fuelleAus = [](const auto& tun) {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = static_cast<QDialog*>(QApplication::activeModalWidget());
+            tun(*dialog);
+            dialog->accept();
+        });
+    };
+    const auto blaetter = [](const QDialog& d) { d.findChild<QSpinBox*>()->setValue(4); };
+    fuelleAus(blaetter);
+    fenster.MassstabEinpassenClick();
+    EXPECT_EQ(Kind<QLineEdit>("EditMasstab").text(), "1000000");
+    dialoge.antwort = true;
+    DruckePlan();
+    const auto ohne = drucker.blaetter;
+    EXPECT_LE(ohne.size(), 4);
+    const auto rahmen = [](const QDialog& d) {
+        d.findChild<QCheckBox*>("RahmenEin")->setChecked(true);
+        d.findChild<QLineEdit*>("BlattProjekt")->setText("Los 7");
+    };
+    fuelleAus(rahmen);
+    fenster.BlattrahmenClick();
+    EXPECT_TRUE(zustand.Blattrahmen);
+    Blattgestaltung danach;
+    LadeBlattgestaltung(danach, ablage);
+    EXPECT_EQ(danach.texte.projekt, "Los 7");
+    DruckePlan();  // hardly anything fits on this paper beside the title block
+    EXPECT_NE(drucker.blaetter, ohne);
 }
 
 TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "ui/Umwandlung.h"
+#include "ui/druck/Blattfelder.h"
 #include "ui/fenster/Massstabfeld.h"
 #include "ui/fenster/Schalter.h"
 
@@ -38,6 +39,7 @@ Ausgabefelder::Ausgabefelder(const Planausgabe& plan, const Ausgabeanfang& anfan
     BaueFormat(*form_);
     BaueBild(*form_, plan.UeblicheGroesse(), anfang.glatt);
     BaueBlatt(*form_, anfang.massstab);
+    BaueGestaltung(*form_, anfang.gestaltung);
     BaueSchalter(*form_, plan);
     ZeigeFelder();
 }
@@ -109,12 +111,23 @@ void Ausgabefelder::BaueBlatt(QFormLayout& form, const QString& massstab) {
     if (LiesMassstab(NachUtf8(massstab))) massstab_->setText(massstab);
     massstab_->setAccessibleName(QStringLiteral("Druckmaßstab"));
     connect(massstab_, &QLineEdit::textChanged, this, [this] { MeldeAenderung(); });
-    passend_ = &NeuerKasten("MassstabPassend", "passend für ein Blatt",
-                            "Der größte runde Maßstab, in dem der Plan auf ein Blatt passt");
+    passend_ = &NeuerKasten("MassstabPassend", "passend für",
+                            "Der größte runde Maßstab, in dem der Plan auf so viele Blätter passt");
     passend_->setChecked(true);
     connect(passend_, &QCheckBox::toggled, this, [this] { ZeigeFelder(); });
     NurBei(kMitPapier, *passend_);
-    QWidget* reihe = Reihe({new QLabel(QStringLiteral("1:"), this), massstab_, passend_}, this);
+    blaetter_ =
+        &NeuesTeil("BlattAnzahl", "So viele Blätter darf der passende Maßstab brauchen", new QSpinBox(this));
+    blaetter_->setAccessibleName(QStringLiteral("Blätter"));
+    blaetter_->setRange(1, static_cast<int>(kMeisteBlaetter));
+    connect(blaetter_, &QSpinBox::valueChanged, this, [this](int n) {
+        blaetter_->setSuffix(n == 1 ? QStringLiteral(" Blatt") : QStringLiteral(" Blätter"));
+        ZeigeFelder();
+        MeldeAenderung();
+    });
+    blaetter_->setSuffix(QStringLiteral(" Blatt"));
+    NurBei(kMitPapier, *blaetter_);
+    QWidget* reihe = Reihe({new QLabel(QStringLiteral("1:"), this), massstab_, passend_, blaetter_}, this);
     form.addRow(QStringLiteral("Maßstab"), reihe);
     NurBei(kMitMassstab, *reihe);
     alle_ = &NeuerKasten("AlleBlaetter", "alle Blätter",
@@ -128,6 +141,16 @@ void Ausgabefelder::BaueBlatt(QFormLayout& form, const QString& massstab) {
     connect(dpi_, &QSpinBox::valueChanged, this, [this] { MeldeAenderung(); });
     form.addRow(QStringLiteral("Auflösung"), dpi_);
     NurBei(kMitMassstab, *dpi_);
+}
+
+void Ausgabefelder::BaueGestaltung(QFormLayout& form, const Blattgestaltung& anfang) {
+    auto* gruppe = new QGroupBox(QStringLiteral("Blätter"), this);
+    auto* spalte = new QVBoxLayout(gruppe);
+    gestaltung_ = new Blattfelder(anfang, gruppe);
+    gestaltung_->geaendert = [this] { MeldeAenderung(); };
+    spalte->addWidget(gestaltung_);
+    form.addRow(gruppe);
+    NurBei(kMitPapier, *gruppe);
 }
 
 void Ausgabefelder::BaueSchalter(QFormLayout& form, const Planausgabe& plan) {
@@ -161,7 +184,10 @@ void Ausgabefelder::ZeigeFelder() {
         teil->setVisible(zeigen);
         if (QWidget* schild = form_->labelForField(teil)) schild->setVisible(zeigen);
     }
-    massstab_->setEnabled(!format.HatMerkmal(kMitPapier) || !passend_->isChecked());
+    const bool passend = format.HatMerkmal(kMitPapier) && passend_->isChecked();
+    massstab_->setEnabled(!passend);
+    blaetter_->setEnabled(passend);
+    alle_->setEnabled(!passend || blaetter_->value() == 1);
     for (const auto& [schalter, kasten] : schalter_) {
         if (schalter->HatMerkmal(kImKartengitter)) continue;
         kasten->setEnabled(Wirkt(*schalter));
@@ -170,6 +196,7 @@ void Ausgabefelder::ZeigeFelder() {
 
 /// Whether it shows anything in the format.
 bool Ausgabefelder::Wirkt(const Schalter& schalter) const {
+    if (schalter.HatMerkmal(kAufPapier) && !GewaehltesFormat().HatMerkmal(kMitPapier)) return false;
     if (!GewaehltesFormat().HatMerkmal(kOhneLegende)) return true;
     return !schalter.HatMerkmal(kAusErgebnissen | kInMetern) &&
            schalter.inDarstellung != &Darstellung::ShowLegende;
@@ -200,12 +227,14 @@ std::optional<Ausgabeauftrag> Ausgabefelder::Auftrag() const {
         a.papier = kPapierformate[static_cast<std::size_t>(papier_->currentIndex())].hochkant;
         a.quer = quer_->isChecked();
         a.alleBlaetter = alle_->isChecked();
+        a.gestaltung = gestaltung_->Gestaltung();
     }
     if (format.HatMerkmal(kMitSchaltern)) NimmSchalter(a);
     const bool legende = std::find(a.ein.begin(), a.ein.end(), "legende") != a.ein.end();
     if (format.HatMerkmal(kMitMassstab)) {
         a.dpi = dpi_->value();
         a.passend = format.HatMerkmal(kMitPapier) && passend_->isChecked();
+        if (a.passend) a.blaetter = blaetter_->value();
     } else {
         a.passend = !legende;  // pictures only name it
     }

@@ -17,6 +17,7 @@ class QSpinBox;
 
 namespace zrw {
 
+class Blattfelder;
 class Massstabfeld;
 struct Schalter;
 
@@ -24,6 +25,7 @@ struct Schalter;
 struct Ausgabeanfang {
     QString massstab;   ///< of the print, as in the field of the window
     bool glatt = true;  ///< edges of pictures
+    Blattgestaltung gestaltung{};
 };
 
 class Ausgabefelder final : public QWidget {
@@ -41,6 +43,7 @@ class Ausgabefelder final : public QWidget {
     void BaueFormat(QFormLayout& form);
     void BaueBild(QFormLayout& form, Bildgroesse groesse, bool glatt);
     void BaueBlatt(QFormLayout& form, const QString& massstab);
+    void BaueGestaltung(QFormLayout& form, const Blattgestaltung& anfang);
     void BaueSchalter(QFormLayout& form, const Planausgabe& plan);
     template <class Teil>
     Teil& NeuesTeil(const char* name, const char* hinweis, Teil* teil);
@@ -62,7 +65,9 @@ class Ausgabefelder final : public QWidget {
     QCheckBox* alle_ = nullptr;
     QCheckBox* passend_ = nullptr;
     Massstabfeld* massstab_ = nullptr;
+    QSpinBox* blaetter_ = nullptr;
     QSpinBox* dpi_ = nullptr;
+    Blattfelder* gestaltung_ = nullptr;
     std::vector<std::pair<const Schalter*, QCheckBox*>> schalter_;
     std::vector<std::pair<unsigned, QWidget*>> bedingte_;
 };

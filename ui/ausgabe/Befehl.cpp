@@ -2,6 +2,10 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
+
+#include "model/Cp1252.h"
+#include "model/Zahlentext.h"
 
 namespace zrw {
 namespace {
@@ -19,6 +23,18 @@ void HaengeListeAn(std::vector<std::string>& worte, const char* option,
     for (const std::string& n : namen)
         liste += (liste.empty() ? "" : ",") + n;
     worte.insert(worte.end(), {option, liste});
+}
+
+void HaengeGestaltungAn(std::vector<std::string>& worte, const Blattgestaltung& g) {
+    if (g.ueberlappung > 0) worte.insert(worte.end(), {"--ueberlappung", std::to_string(g.ueberlappung)});
+    if (g.stift > 0.0) worte.insert(worte.end(), {"--stift", SchreibeReal(g.stift)});
+    if (g.schwarzweiss) worte.emplace_back("--schwarzweiss");
+    const Blatttexte& t = g.texte;
+    for (const auto& [option, text] :
+         {std::pair{"--projekt", &t.projekt}, std::pair{"--bearbeiter", &t.bearbeiter},
+          std::pair{"--firma", &t.firma}}) {
+        if (!text->empty()) worte.insert(worte.end(), {option, Cp1252NachUtf8(*text)});
+    }
 }
 
 /// Nothing in it means anything to a shell.
@@ -57,7 +73,9 @@ std::vector<std::string> Befehlsworte(const Format& format, const Ausgabeauftrag
     if (format.HatMerkmal(kMitPapier)) {
         nimm("--papier", Papiername(auftrag.papier));
         if (auftrag.quer) worte.emplace_back("--quer");
-        if (auftrag.alleBlaetter) worte.emplace_back("--alle-blaetter");
+        if (auftrag.alleBlaetter && auftrag.blaetter == 1) worte.emplace_back("--alle-blaetter");
+        if (auftrag.blaetter > 1) nimm("--blaetter", std::to_string(auftrag.blaetter));
+        HaengeGestaltungAn(worte, auftrag.gestaltung);
     }
     // The legend of a picture names a scale, too.
     if (!auftrag.passend) nimm("--massstab", auftrag.massstab);

@@ -1,18 +1,44 @@
 #include "ui/druck/Plandruck.h"
 
 #include <QCheckBox>
+#include <QFileInfo>
+#include <QInputDialog>
 #include <QPainter>
 #include <algorithm>
 #include <cassert>
 #include <cmath>
 #include <utility>
 
+#include "input/Oeffnen.h"
 #include "model/Fehler.h"
 #include "model/Ganzzahl.h"
 #include "output/Export.h"
 #include "ui/Umwandlung.h"
+#include "ui/ablage/Blattablage.h"
+#include "ui/druck/Blattdialog.h"
 
 namespace zrw {
+
+Plandruck::Plandruck(const Programm& programm, const Bildflaeche& flaeche)
+    : programm_(programm), flaeche_(flaeche) {
+    LadeBlattgestaltung(gestaltung_, programm.ablage);
+}
+
+Blattteilung Plandruck::Teilung() const {
+    return TeileSeite(programm_.drucker.Seite(), programm_.zustand.Blattrahmen, gestaltung_);
+}
+
+bool Plandruck::BearbeiteBlaetter(QWidget* eltern) {
+    Blattdialog dialog(programm_.zustand, gestaltung_, eltern);
+    if (dialog.exec() != QDialog::Accepted) return false;
+    gestaltung_ = dialog.Gestaltung();
+    programm_.zustand.Blattrahmen = dialog.Blattrahmen();
+    programm_.zustand.GitterSchlicht = dialog.GitterSchlicht();
+    SchreibeBlattgestaltung(gestaltung_, programm_.ablage);
+    programm_.ablage.SichereWerte();
+    AktualisiereRahmen();
+    return true;
+}
 
 // --- Scale and output area --------------------------------------------------------------------------------
 
@@ -37,7 +63,7 @@ void Plandruck::AktualisiereRahmen() {
     if (!ein) rahmen_.LoeseEcke();
     const auto massstab = felder_.massstab->Massstab();
     if (ein && massstab) {
-        rahmen_.SetzeStand(Druckrahmen::Stand{*massstab, programm_.drucker.Seite()});
+        rahmen_.SetzeStand(Druckrahmen::Stand{*massstab, Teilung().plan});
     } else {
         rahmen_.SetzeStand({});
     }
@@ -50,25 +76,56 @@ void Plandruck::ZeichneRahmen(const Liste& liste, Zeichenflaeche& flaeche) const
 
 // --- Sheets -----------------------------------------------------------------------------------------------
 
+template <class Tun>
+auto Plandruck::Miss(Liste& liste, const Tun& tun) const {
+    // Texts are as wide as on paper only in the font of the print.
+    QImage nichts(1, 1, QImage::Format_RGB32);
+    QPainter maler(&nichts);
+    const Malerflaeche schrift(maler, {},
+                               Druckschrift(flaeche_.Planschrift(), programm_.drucker.Seite().aufloesung));
+    return tun(Druckplan{liste.Vorlage(), Mittel(), schrift});
+}
+
 /// Sheets of the plot at this scale: the one in the corner where it holds all of it, or where there would be
 /// too many; else those that take the fewest, wherever the picture stands.
 Plandruck::Wahl Plandruck::Blaetter(Liste& liste, double massstab) {
     const Welt ecke = rahmen_.Ecke(liste);
-    const Druckseite seite = programm_.drucker.Seite();
-    // Texts are as wide as on paper only in the font of the print.
-    QImage nichts(1, 1, QImage::Format_RGB32);
-    QPainter maler(&nichts);
-    const Malerflaeche schrift(maler, {}, Druckschrift(flaeche_.Planschrift(), seite.aufloesung));
-    const Druckplan plan{liste.Vorlage(), Mittel(), schrift};
-    try {
-        const auto dort = Blattschnitt(plan, massstab, seite, ecke);
-        const bool leer = std::find(dort.begin(), dort.end(), Blatt{}) == dort.end();
-        if (dort.size() > 1 || (leer && !dort.empty()))
-            return {Blattaufteilung(plan, massstab, seite), false, leer};
-    } catch (const Fehler&) {
-        // One sheet can be printed at any scale.
+    const Blattteilung teilung = Teilung();
+    return Miss(liste, [&](const Druckplan& plan) -> Wahl {
+        try {
+            const auto dort = Blattschnitt(plan, massstab, teilung.plan, ecke);
+            const bool leer = std::find(dort.begin(), dort.end(), Blatt{}) == dort.end();
+            if (dort.size() > 1 || (leer && !dort.empty()))
+                return {TeileBlaetterAuf(plan, massstab, teilung), false, leer};
+        } catch (const Fehler&) {
+            // One sheet can be printed at any scale.
+        }
+        return {{{0, 0, ecke}}, true, false};
+    });
+}
+
+bool Plandruck::PasseMassstabEin(QWidget* eltern, Liste& liste) {
+    QInputDialog frage(eltern);
+    frage.setObjectName(QStringLiteral("MassstabEinpassen"));
+    frage.setWindowTitle(QStringLiteral("Maßstab einpassen"));
+    frage.setLabelText(QStringLiteral("Größter runder Maßstab für so viele Blätter:"));
+    frage.setInputMode(QInputDialog::IntInput);
+    frage.setIntRange(1, static_cast<int>(kMeisteBlaetter));
+    frage.setIntValue(blaetter_);
+    frage.setOkButtonText(QStringLiteral("Einpassen"));
+    frage.setCancelButtonText(QStringLiteral("Abbrechen"));
+    if (frage.exec() != QDialog::Accepted) return false;
+    blaetter_ = frage.intValue();
+    const auto massstab = Miss(liste, [&](const Druckplan& plan) {
+        return PassenderMassstab(plan, Teilung(), static_cast<std::size_t>(blaetter_));
+    });
+    if (!massstab) {
+        programm_.dialoge.MeldeFehler(
+            QStringLiteral("Der Plan passt in keinem Maßstab auf so viele Blätter dieses Papiers."));
+        return false;
     }
-    return {{{0, 0, ecke}}, true, false};
+    felder_.massstab->setText(AusUtf8(zrw::Massstabtext(*massstab)));
+    return true;
 }
 
 std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double massstab) {
@@ -88,22 +145,26 @@ std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double
     return blaetter;
 }
 
-Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel) {
+Druckwerk Plandruck::Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab,
+                          const std::filesystem::path& datei) {
     Druckwerk werk;
-    werk.titel = titel;
+    const QString name = QFileInfo(AusUtf8(PfadText(datei))).fileName();
+    werk.titel = QStringLiteral("Zarwik ") + name;
     werk.schrift = flaeche_.Planschrift();
     werk.blaetter = static_cast<int>(blaetter.size());
-    Druckauftrag auftrag{massstab, Massstabtext(), programm_.drucker.Seite()};
-    auftrag.legende = Legendenort(liste, auftrag);
-    werk.zeichne = [this, &liste, blaetter = std::move(blaetter), auftrag](Zeichenflaeche& flaeche,
-                                                                           int nummer) mutable {
-        auftrag.ecke = blaetter[static_cast<std::size_t>(nummer)].ecke;
-        const double geraetefaktor = Geraetefaktor(auftrag.seite);
+    Blattauftrag auftrag{{massstab, Massstabtext(), programm_.drucker.Seite()},
+                         gestaltung_,
+                         std::move(blaetter),
+                         Utf8NachCp1252(NachUtf8(name)),
+                         !IstBilddatei(datei)};
+    auftrag.druck.legende = Legendenort(liste, auftrag.druck);
+    werk.zeichne = [this, &liste, auftrag](Zeichenflaeche& flaeche, int nummer) {
+        const double geraetefaktor = Geraetefaktor(auftrag.druck.seite);
         // What is seen of a print: the legend keeps naming its scale, and the device factor stays at screen
         // to printer.
-        if (liste.ShowLegende && liste.Legend) liste.Legend->Masstab = auftrag.massstabtext;
-        zrw::DruckePlan(liste.Vorlage(), Mittel(), Geraetegroessen(programm_.einstellungen, geraetefaktor),
-                        flaeche, auftrag);
+        if (liste.ShowLegende && liste.Legend) liste.Legend->Masstab = auftrag.druck.massstabtext;
+        DruckeBlatt(liste.Vorlage(), Mittel(), Geraetegroessen(programm_.einstellungen, geraetefaktor),
+                    flaeche, auftrag, static_cast<std::size_t>(nummer));
         programm_.zustand.Geraetefaktor = 1 / geraetefaktor;
     };
     return werk;
@@ -124,14 +185,15 @@ std::optional<Bildpunkt> Plandruck::Legendenort(const Liste& liste, const Drucka
 // --- Printing ---------------------------------------------------------------------------------------------
 
 void Plandruck::DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab,
-                               const QString& titel) {
-    programm_.drucker.DruckeBlaetter(Werk(liste, std::move(blaetter), massstab, titel));
+                               const std::filesystem::path& datei) {
+    programm_.drucker.DruckeBlaetter(Werk(liste, std::move(blaetter), massstab, datei));
 }
 
-bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel) {
+bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab,
+                              const std::filesystem::path& datei) {
     auto blaetter = Blaetter(liste, massstab).blaetter;
     const QImage uebersicht = Uebersicht(liste, blaetter, massstab);
-    return programm_.drucker.ZeigeVorschau(eltern, Werk(liste, std::move(blaetter), massstab, titel),
+    return programm_.drucker.ZeigeVorschau(eltern, Werk(liste, std::move(blaetter), massstab, datei),
                                            uebersicht);
 }
 
@@ -139,7 +201,7 @@ bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, co
 QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const {
     constexpr double kWeite = 320;
     constexpr double kHoehe = 480;
-    const Druckseite seite = programm_.drucker.Seite();
+    const Druckseite seite = Teilung().plan;
     const double faktor = Druckfaktor(massstab, seite.aufloesung);
     const double breite = seite.weite * faktor;
     const double hoehe = seite.hoehe * faktor;

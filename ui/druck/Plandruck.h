@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QString>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "output/Blattschnitt.h"
 #include "output/Druck.h"
 #include "output/Figurenzeichner.h"
+#include "output/blatt/Blattdruck.h"
 #include "ui/Programm.h"
 #include "ui/bild/Bildflaeche.h"
 #include "ui/druck/Druckrahmen.h"
@@ -30,8 +32,7 @@ class Plandruck {
         QWidget* bild = nullptr;
     };
     /// All must outlive it.
-    Plandruck(const Programm& programm, const Bildflaeche& flaeche)
-        : programm_(programm), flaeche_(flaeche) {}
+    Plandruck(const Programm& programm, const Bildflaeche& flaeche);
     /// Before anything else but `Rahmen`.
     void SetzeFelder(const Felder& felder) { felder_ = felder; }
 
@@ -49,10 +50,19 @@ class Plandruck {
     /// The sheets to be printed, by the user's choice where there is one. @return none: nothing is to be
     /// printed
     [[nodiscard]] std::optional<std::vector<Blatt>> WaehleBlaetter(Liste& liste, double massstab);
-    /// @throws Fehler where the printer does not take it or breaks it off
-    void DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab, const QString& titel);
+    /// @param datei that the plan is from @throws Fehler where the printer does not take it or breaks it off
+    void DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab,
+                        const std::filesystem::path& datei);
     /// @return whether the sheets are to be printed
-    [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab, const QString& titel);
+    [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab,
+                                     const std::filesystem::path& datei);
+
+    /// The dialog about frame, grid and pens of the sheets. @return whether it was confirmed
+    bool BearbeiteBlaetter(QWidget* eltern);
+    [[nodiscard]] const Blattgestaltung& Gestaltung() const { return gestaltung_; }
+    /// Asks for a number of sheets and puts the largest round scale at which the plan fits them into its
+    /// field; tells where there is none. @return whether it stands there
+    bool PasseMassstabEin(QWidget* eltern, Liste& liste);
 
   private:
     [[nodiscard]] Zeichenmittel Mittel() const {
@@ -65,7 +75,11 @@ class Plandruck {
     };
     [[nodiscard]] Wahl Blaetter(Liste& liste, double massstab);
     [[nodiscard]] Druckwerk Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab,
-                                 const QString& titel);
+                                 const std::filesystem::path& datei);
+    [[nodiscard]] Blattteilung Teilung() const;
+    /// Does something with the plan as it is measured for the printer.
+    template <class Tun>
+    auto Miss(Liste& liste, const Tun& tun) const;
     [[nodiscard]] std::optional<Bildpunkt> Legendenort(const Liste& liste, const Druckauftrag& auftrag) const;
     [[nodiscard]] QImage Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const;
 
@@ -73,6 +87,8 @@ class Plandruck {
     const Bildflaeche& flaeche_;
     Felder felder_;
     Druckrahmen rahmen_;
+    Blattgestaltung gestaltung_;
+    int blaetter_ = 1;  ///< last wish for a fitting scale
 };
 
 }  // namespace zrw

@@ -86,7 +86,9 @@ class TZrwMainDlg final : public QMainWindow,
     void SpeedButton16Click();                          ///< "DXF und HPGL Format ausgeben"
     void AusgebenClick();                               ///< "Ausgeben ..."
     void VorschauClick();                               ///< "Druckvorschau"
-    void SpeedButtonClipbrdClick();                     ///< "Grafik als Bitmap speichern"
+    void BlattrahmenClick();
+    void MassstabEinpassenClick();
+    void SpeedButtonClipbrdClick();  ///< "Grafik als Bitmap speichern"
     void ColorButtonClick();
     void ButtonGroesserClick() { planbild_.ZoomeUmMitte(true); }
     void ButtonKleinerClick() { planbild_.ZoomeUmMitte(false); }

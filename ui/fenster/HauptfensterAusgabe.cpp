@@ -69,8 +69,9 @@ void TZrwMainDlg::AusgebenClick() {
     bewahrung_.BewahrePlan();
     werkzeuge_.BrichAb();
     SchliesseEinstellungen();  // closing saves them: the command line reads what is saved
-    auto* dialog =
-        new Ausgabedialog(programm_, plan_, {EditMasstab_->text(), vorlieben_.KantenGlaetten}, ordner_, this);
+    auto* dialog = new Ausgabedialog(programm_, plan_,
+                                     {EditMasstab_->text(), vorlieben_.KantenGlaetten, druck_.Gestaltung()},
+                                     ordner_, this);
     dialog->geschrieben = [this](const QString& text) { MeldeErledigt(text); };
     dialog->open();
 }

@@ -12,11 +12,6 @@
 
 namespace zrw {
 
-/// Of the print job.
-static QString Titel(const std::filesystem::path& datei) {
-    return QStringLiteral("Zarwik ") + QFileInfo(AusUtf8(PfadText(datei))).fileName();
-}
-
 void TZrwMainDlg::SpeedButton5Click() {
     if (!plan_.Offen()) return;
     bewahrung_.BewahrePlan();
@@ -27,7 +22,7 @@ void TZrwMainDlg::SpeedButton5Click() {
     if (!blaetter) return;
     try {
         const Sanduhr sanduhr;
-        druck_.DruckeBlaetter(*plan_.Daten(), std::move(*blaetter), *massstab, Titel(plan_.Datei()));
+        druck_.DruckeBlaetter(*plan_.Daten(), std::move(*blaetter), *massstab, plan_.Datei());
         MeldeErledigt(QStringLiteral("Gedruckt im Maßstab 1:") + EditMasstab_->text());
     } catch (const std::exception& f) {
         ZeigeFehler(f);
@@ -43,7 +38,7 @@ void TZrwMainDlg::VorschauClick() {
     if (!massstab) return;
     bool drucken = false;
     try {
-        drucken = druck_.ZeigeVorschau(this, *plan_.Daten(), *massstab, Titel(plan_.Datei()));
+        drucken = druck_.ZeigeVorschau(this, *plan_.Daten(), *massstab, plan_.Datei());
     } catch (const std::exception& f) {
         ZeigeFehler(f);
     }
@@ -55,6 +50,21 @@ void TZrwMainDlg::SpeedButton11Click() {
     programm_.drucker.RichteEin(this);
     druck_.AktualisiereRahmen();
     ZeichneNeu();
+}
+
+void TZrwMainDlg::BlattrahmenClick() {
+    if (!plan_.Offen()) return;
+    try {
+        if (druck_.BearbeiteBlaetter(this)) MeldeErledigt(QStringLiteral("Blattrahmen geändert"));
+    } catch (const std::exception& f) {
+        ZeigeFehler(f);
+    }
+}
+
+void TZrwMainDlg::MassstabEinpassenClick() {
+    if (!plan_.Offen()) return;
+    if (druck_.PasseMassstabEin(this, *plan_.Daten()))
+        MeldeErledigt(QStringLiteral("Druckmaßstab 1:") + EditMasstab_->text());
 }
 
 void TZrwMainDlg::SpeedButtonClipbrdClick() {
