@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <algorithm>
@@ -32,6 +34,8 @@ Blattfelder::Blattfelder(const Blattgestaltung& anfang, QWidget* eltern)
     ueberlappung_->setSuffix(QStringLiteral(" mm"));
     ueberlappung_->setValue(anfang.ueberlappung);
     connect(ueberlappung_, &QSpinBox::valueChanged, this, [this] { MeldeAenderung(); });
+    ueberlappung_->setAccessibleName(QStringLiteral("Überlappung"));
+    stift_->setAccessibleName(QStringLiteral("Stift des Plans"));
     stift_->setObjectName(QStringLiteral("BlattStift"));
     stift_->setToolTip(QStringLiteral("Strichbreite des Plans auf dem Papier"));
     for (const double stift : kPlanstifte)
@@ -50,9 +54,18 @@ Blattfelder::Blattfelder(const Blattgestaltung& anfang, QWidget* eltern)
     form->addRow(QStringLiteral("Firma"), firma_);
     form->addRow(QStringLiteral("Projekt"), projekt_);
     form->addRow(QStringLiteral("Bearbeitet von"), bearbeiter_);
-    form->addRow(QStringLiteral("Überlappung"), ueberlappung_);
-    form->addRow(QStringLiteral("Stift des Plans"), stift_);
-    form->addRow(QString(), schwarzweiss_);
+    // One row: the window for outputs is high enough without them.
+    auto* masse = new QHBoxLayout;
+    masse->addWidget(ueberlappung_);
+    auto* schild = new QLabel(QStringLiteral("Stift"), this);
+    schild->setBuddy(stift_);
+    masse->addWidget(schild);
+    masse->addWidget(stift_);
+    masse->addWidget(schwarzweiss_);
+    masse->addStretch();
+    auto* davor = new QLabel(QStringLiteral("Überlappung"), this);
+    davor->setBuddy(ueberlappung_);
+    form->addRow(davor, masse);
 }
 
 QLineEdit* Blattfelder::NeueZeile(const char* name, const char* hinweis, const std::string& text) {
