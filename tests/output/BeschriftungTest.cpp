@@ -1,0 +1,103 @@
+#include "output/beschriftung/Beschriftung.h"
+
+#include <gtest/gtest.h>
+
+#include "beispiele/Zufall.h"
+
+namespace zrw {
+namespace {
+
+/// Labels of 30 x 7 in 792 x 612, as the tests of the literature have them.
+Beschriftungsaufgabe Zufallsaufgabe(std::size_t schilder) {
+    Beschriftungsaufgabe a;
+    beispiel::Zufall zufall(5);
+    for (std::size_t i = 0; i < schilder; ++i) {
+        Schild s;
+        s.punkt = {static_cast<std::int32_t>(zufall.Gleich(0, 792 * 8)),
+                   static_cast<std::int32_t>(zufall.Gleich(0, 612 * 8))};
+        s.weite = 240;
+        s.hoehe = 56;
+        a.schilder.push_back(s);
+        a.symbole.push_back({s.punkt, 8, 8});
+        a.striche.push_back({s.punkt, {s.punkt.x + 400, s.punkt.y + 100}, 4});
+    }
+    a.grenzen = {0, 0, 792 * 8, 612 * 8};
+    return a;
+}
+
+Beschriftungswahl NurVierEcken() {
+    Beschriftungswahl w;
+    w.plaetze = 4;
+    w.anliegend = true;
+    w.gleiten = false;
+    w.raster = 1;
+    return w;
+}
+
+TEST(Beschriftung, FindetMehrFreiePlaetzeAlsEinerNachDemAnderen) {
+    Beschriftungsaufgabe a = Zufallsaufgabe(750);
+    a.symbole.clear();
+    a.striche.clear();
+    a.grenzen = {-9999, -9999, 9999, 9999};
+    const auto gierig = BewerteSchilder(a, OrdneGierig(a, NurVierEcken()));
+    const auto gesucht = BewerteSchilder(a, OrdneSchilder(a, NurVierEcken()).value());
+    EXPECT_GT(gierig.ueberlappt, 250U);
+    EXPECT_LT(gesucht.ueberlappt, 75U);
+}
+
+TEST(Beschriftung, LegtNichtsUebereinanderWoPlatzIst) {
+    const Beschriftungsaufgabe a = Zufallsaufgabe(300);
+    const auto guete = BewerteSchilder(a, OrdneSchilder(a, {}).value());
+    EXPECT_EQ(guete.ueberlappt, 0U);
+    EXPECT_EQ(guete.aufSymbol, 0U);
+    EXPECT_LT(guete.gekreuzt, 30U);
+    EXPECT_LT(guete.mittlererAbstand, 8 * 7.0);
+}
+
+TEST(Beschriftung, HatZurSelbenAufgabeDieselbeAntwortUndHaeltWasFestIst) {
+    Beschriftungsaufgabe a = Zufallsaufgabe(400);
+    a.schilder[7].fest = true;
+    a.schilder[7].lage = {17, -33};
+    const auto lagen = OrdneSchilder(a, {});
+    EXPECT_EQ(lagen, OrdneSchilder(a, {}));
+    EXPECT_EQ(lagen.value()[7], (Flaechenpunkt{17, -33}));
+    // Every place is a whole number of steps away.
+    EXPECT_EQ(lagen.value()[8].x % 8, 0);
+}
+
+TEST(Beschriftung, HoertAufWennManEsWill) {
+    int gefragt = 0;
+    EXPECT_FALSE(OrdneSchilder(Zufallsaufgabe(400), {}, [&](int) { return ++gefragt < 2; }).has_value());
+    EXPECT_EQ(gefragt, 2);
+}
+
+TEST(Beschriftung, NimmtJedeGroesseUndJedenOrt) {
+    constexpr std::int32_t kMax = 2147483647;
+    for (const std::int32_t groesse : {0, 1, 90, kMax}) {
+        for (const std::int32_t weit : {0, 1, kMax}) {
+            Beschriftungsaufgabe a = Zufallsaufgabe(60);
+            for (std::size_t i = 0; i < a.schilder.size(); ++i) {
+                const std::int32_t ort = i % 2 == 0 ? weit : -weit;
+                a.schilder[i].punkt = a.symbole[i].mitte = {ort, ort};
+                a.striche[i].von = {-ort, ort};
+                a.schilder[i].weite = a.schilder[i].hoehe = a.symbole[i].quer = groesse;
+            }
+            const auto lagen = OrdneSchilder(a, {});
+            ASSERT_TRUE(lagen.has_value());
+            EXPECT_EQ(BewerteSchilder(a, *lagen).schilder, 60U);
+            EXPECT_EQ((*lagen)[0] == Flaechenpunkt{}, groesse == 0);
+        }
+    }
+}
+
+TEST(Beschriftung, WirdAuchMitAllenNummernAufEinemPlatzFertig) {
+    Beschriftungsaufgabe a = Zufallsaufgabe(20000);
+    for (std::size_t i = 0; i < a.schilder.size(); ++i)
+        a.schilder[i].punkt = a.symbole[i].mitte = {100, 100};
+    Beschriftungswahl kurz;
+    kurz.durchgaenge = 2;
+    EXPECT_EQ(OrdneSchilder(a, kurz).value().size(), a.schilder.size());
+}
+
+}  // namespace
+}  // namespace zrw
