@@ -25,7 +25,8 @@ void Platzsuche::FindeNachbarn() {
     const std::size_t n = schilder_.size();
     std::vector<Kasten> reich(n);
     for (std::size_t i = 0; i < n; ++i) {
-        reich[i] = kaesten_[i];
+        // Where a label is now is no matter when it chooses anew.
+        reich[i] = Platzzahl(i) == 0 ? kaesten_[i] : KastenVon(schilder_[i], plaetze_[platzAnfang_[i]].lage);
         for (std::size_t p = platzAnfang_[i]; p < platzAnfang_[i + 1]; ++p)
             reich[i].NimmKasten(KastenVon(schilder_[i], plaetze_[p].lage));
     }

@@ -116,7 +116,10 @@ inline constexpr auto kBefehle = std::to_array<Befehl>({
      &TZrwMainDlg::SpeedButton15Click},
     {"NummernZeigenButton", Menue::Bearbeiten, "Versteckte Punkt&nummern zeigen",
      "Versteckte Punktnummern zeigen", "Zeichnet alle versteckten Punktnummern wieder.", "nummern_zeigen", "",
-     &TZrwMainDlg::NummernZeigenClick, kBrauchtNetz | kGruppenende},
+     &TZrwMainDlg::NummernZeigenClick, kBrauchtNetz},
+    {"NummernOrdnenButton", Menue::Bearbeiten, "Punktnummern &ordnen…", "Punktnummern ordnen",
+     "Sucht für die Punktnummern Plätze, an denen sie einander, Symbole und Linien nicht treffen.",
+     "nummern_ordnen", "", &TZrwMainDlg::NummernOrdnenClick, kBrauchtNetz | kGruppenende},
 
     {"SpeedButton12", Menue::Ausgabe, "&Legendentexte…", "Legendentexte",
      "Schreibt zwei Zeilen in die Legende und blendet sie ein.", "legende", "Ctrl+L",

@@ -52,6 +52,8 @@ void Figurenmenue::NimmPunkte(QMenu& menue) {
     }
     menue.addAction(einer ? QStringLiteral("Punkt &verstecken") : QStringLiteral("Punkte &verstecken"),
                     fenster_, [this] { u_.verbergePunkte(Nummern()); });
+    menue.addAction(einer ? QStringLiteral("Punktnummer &ordnen…") : QStringLiteral("Punktnummern &ordnen…"),
+                    fenster_, [this] { u_.ordneNummern(); });
     menue.addSeparator();
     menue.addAction(
         einer ? QStringLiteral("&Nummer kopieren") : QStringLiteral("&Nummern kopieren"), fenster_, [this] {

@@ -23,6 +23,7 @@ class Figurenmenue {
         const Auswahl& auswahl;
         std::function<void(Welt)> zentriereBild;
         std::function<void(const QStringList& nummern)> verbergePunkte;
+        std::function<void()> ordneNummern;        ///< of the points that are selected
         std::function<void()> zeigeEigenschaften;  ///< of what is selected, with its results
         std::vector<QAction*> ansichten;           ///< where nothing is selected
         std::vector<QAction*> werkzeuge;  ///< all of them, to be switched on, in the order of their table

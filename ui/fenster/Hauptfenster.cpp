@@ -33,6 +33,7 @@
 #include "ui/fenster/Figurenmenue.h"
 #include "ui/fenster/Menueleiste.h"
 #include "ui/fenster/Nummernfeld.h"
+#include "ui/fenster/Nummernordner.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Startseite.h"
 #include "ui/fenster/Statuszeile.h"
@@ -210,6 +211,8 @@ void TZrwMainDlg::BaueDialoge() {
     };
     legendentexte_ = new TZRWLBLForm(this);
     versteck_ = std::make_unique<Punktversteck>(static_cast<Werkzeugumgebung&>(*this), this);
+    nummern_ = std::make_unique<Nummernordner>(
+        Nummernordner::Umfeld{*this, programm_, druck_, planbild_.Flaeche()}, this);
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { aktionen_->NachName("SpeedButton14").setChecked(false); });
     ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, this);

@@ -35,6 +35,7 @@ class Ergebnisanzeige;
 class Figurenmenue;
 class Hilfefenster;
 class Nummernfeld;
+class Nummernordner;
 class Punktartwahl;
 class Punktgang;
 class Punktversteck;
@@ -94,6 +95,7 @@ class TZrwMainDlg final : public QMainWindow,
     void ButtonKleinerClick() { planbild_.ZoomeUmMitte(false); }
     void EinpassenClick() { planbild_.PasseGezeigtesEin(); }  ///< fits the visible points
     void NummernZeigenClick();                                ///< shows all hidden numbers
+    void NummernOrdnenClick();                                ///< finds places for numbers
     void LetzteDateienClick();
     void FruehereAnsichtClick();
     void SpaetereAnsichtClick();
@@ -236,6 +238,7 @@ class TZrwMainDlg final : public QMainWindow,
     TFormBeobTyp* beobachtungstyp_ = nullptr;
     std::unique_ptr<Punktartwahl> punktart_;
     std::unique_ptr<Punktversteck> versteck_;
+    std::unique_ptr<Nummernordner> nummern_;
     std::unique_ptr<Punktgang> punktgang_;
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed

@@ -15,6 +15,7 @@
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Figurenmenue.h"
 #include "ui/fenster/Hauptfenster.h"
+#include "ui/fenster/Nummernordner.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Statuszeile.h"
 #include "ui/seitenleiste/Eigenschaftsseite.h"
@@ -43,6 +44,7 @@ void TZrwMainDlg::BaueAuswahl() {
     figurenmenue_ = std::make_unique<Figurenmenue>(
         Figurenmenue::Umfeld{*this, werkzeuge_.Ausgewaehlt(), [this](Welt ort) { planbild_.SetzeMitte(ort); },
                              [this](const QStringList& nummern) { versteck_->VerbergePunkte(nummern); },
+                             [this] { nummern_->FrageNach(werkzeuge_.Ausgewaehlt().Punkte()); },
                              [this] { seitenleiste_->ZeigeSeite(*eigenschaften_); }, ansichten,
                              aktionen_->Werkzeuge(),
                              [this](QAction& werkzeug, Bildpunkt ort) {

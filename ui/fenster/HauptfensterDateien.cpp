@@ -22,6 +22,7 @@
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
+#include "ui/fenster/Nummernordner.h"
 #include "ui/fenster/Sanduhr.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Startseite.h"
@@ -348,6 +349,7 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     zentrierkasten_->BeginneNetz();
     plan_.UebernimmListe(std::move(lesung.liste), lesung.netz, datei);
     farben_.BeginneNetz();
+    nummern_->BeginneNetz(IstBilddatei(datei));
     startseite_->BeendeSeite();
     ComboBox1_->SetzeSortiert(IstBilddatei(datei));
     FuelleNummern();

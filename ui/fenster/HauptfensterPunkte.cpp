@@ -10,6 +10,7 @@
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
+#include "ui/fenster/Nummernordner.h"
 #include "ui/fenster/Sanduhr.h"
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Zentrierkasten.h"
@@ -147,6 +148,10 @@ void TZrwMainDlg::NummernZeigenClick() {
 
 void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
     punktart_->WaehlePunkt(punkt);
+}
+
+void TZrwMainDlg::NummernOrdnenClick() {
+    nummern_->FrageAlle();
 }
 
 const PunktKnoten* TZrwMainDlg::GewaehlterPunkt() const {

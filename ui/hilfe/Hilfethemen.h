@@ -41,6 +41,7 @@ inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {25, "25_schalter.md", "Schalter der Darstellung", kDarstellung},
     {4, "04_kartengitter.md", "Kartenblätter und Kilometerquadrate", kDarstellung},
     {28, "28_legende.md", "Legende", kDarstellung},
+    {42, "42_nummern_ordnen.md", "Nummern ordnen", kDarstellung},
     {40, "40_seitenleiste.md", "Seitenleiste", kDarstellung},
     {36, "36_genauigkeiten.md", "Verbesserungen und Genauigkeiten", kDarstellung},
 
@@ -122,6 +123,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"HidePktButton", 18},
     {"HidePktNrButton", 21},
     {"NummernZeigenButton", 21},
+    {"NummernOrdnenButton", 42},
     {"MessenButton", 37},
     {"DataButton", 24},
     {"SpeedButton14", 22},
@@ -175,6 +177,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"BlattDialog", 41},
     {"MassstabEinpassen", 41},
     {"AusgabeDialog", 38},
+    {"OrdnungsDialog", 42},
     {"TZRWLBLForm", 28},
     {"TZRWParameter", 30},
     {"TAboutBox", 33},

@@ -1,0 +1,92 @@
+// Putting point numbers in order: dialog, what stays, one step, picture file.
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <map>
+
+#include "tests/ui/Fenster.h"
+
+namespace zrw {
+namespace {
+
+class Ordnen : public Fensterprobe {
+  protected:
+    Ordnen() {
+        fenster.OeffneDatei(kBeispiel);
+        Knopf("SpeedButton3").click();
+    }
+    /// @param wahl object name of what is ticked besides
+    void OrdneNummern(const char* wahl = nullptr) {
+        Knopf("NummernOrdnenButton").click();
+        if (wahl != nullptr) Kind<QAbstractButton>(wahl).setChecked(true);
+        Kind<QPushButton>("OrdnenKnopf").click();
+    }
+    /// By number.
+    [[nodiscard]] std::map<std::string, std::pair<std::int64_t, std::int64_t>> Abstaende() const {
+        std::map<std::string, std::pair<std::int64_t, std::int64_t>> alle;
+        for (const PunktString* t = fenster.Netz()->PktTextKnoten; t != nullptr; t = t->Next)
+            alle[std::string(t->Item->Aus.Text())] = {t->Item->XBiO, t->Item->YBiO};
+        return alle;
+    }
+};
+
+TEST_F(Ordnen, IstEinSchrittUndBleibtInDerZarwikdatei) {
+    const Stand vorher = Jetzt();
+    OrdneNummern();
+    EXPECT_TRUE(Status().endsWith(" Punktnummern geordnet; keine überlappt eine andere"))
+        << Status().toStdString();
+    const Stand geordnet = Jetzt();
+    const auto abstaende = Abstaende();
+    EXPECT_NE(geordnet, vorher);
+    fenster.Rueckgaengig();
+    EXPECT_EQ(Jetzt(), vorher);
+    fenster.WiederholeSchritt();
+    EXPECT_EQ(Jetzt(), geordnet);
+    OrdneNummern();
+    EXPECT_TRUE(Status().startsWith("Alle Punktnummern stehen schon so")) << Status().toStdString();
+    SpeichereDatei("geordnet.ZRW");
+    OeffneDatei("geordnet.ZRW");
+    EXPECT_EQ(Abstaende(), abstaende);
+    OrdneNummern();
+    EXPECT_TRUE(Status().startsWith("Keine Punktnummer zu ordnen")) << Status().toStdString();
+}
+
+TEST_F(Ordnen, LaesstVonHandVerschobeneStehen) {
+    const Liste& l = *fenster.Netz();
+    PunktString& t = *l.PktTextKnoten;
+    const PunktKnoten& p = *l.SuchPkt(t.TNr);
+    Modus("MoveTextButton");
+    const QPoint ort = Pixel(l, p) + QPoint(static_cast<int>(t.Item->XBiO), static_cast<int>(t.Item->YBiO));
+    ZieheMaus(ort, ort + QPoint(33, 21));
+    const std::pair gezogen(t.Item->XBiO, t.Item->YBiO);
+    ASSERT_EQ(gezogen.first, einstellungen.PXOff + 33);
+    OrdneNummern();
+    EXPECT_EQ(std::pair(t.Item->XBiO, t.Item->YBiO), gezogen);
+    OrdneNummern("VerschobeneWahl");
+    EXPECT_NE(std::pair(t.Item->XBiO, t.Item->YBiO), gezogen);
+}
+
+TEST_F(Ordnen, GiltFuerDenDruckmassstab) {
+    OrdneNummern();
+    const auto bildplaetze = Abstaende();
+    auto& feld = Kind<QLineEdit>("EditMasstab");
+    feld.setText("viel");
+    OrdneNummern("DruckWahl");
+    EXPECT_EQ(dialoge.meldungen.size(), 1);
+    EXPECT_EQ(Abstaende(), bildplaetze);
+    feld.setText("250000");
+    OrdneNummern("DruckWahl");
+    EXPECT_TRUE(Status().contains("geordnet")) << Status().toStdString();
+    EXPECT_NE(Abstaende(), bildplaetze);
+}
+
+TEST_F(Ordnen, RuehrtNichtAnWasNichtZuSehenIst) {
+    const auto vorher = Abstaende();
+    Kasten("CheckBoxPktNr").setChecked(false);
+    OrdneNummern();
+    EXPECT_EQ(Abstaende(), vorher);
+    EXPECT_TRUE(Status().startsWith("Keine Punktnummer zu ordnen")) << Status().toStdString();
+}
+
+}  // namespace
+}  // namespace zrw
