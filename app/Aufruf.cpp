@@ -72,6 +72,12 @@ Papier LiesPapier(std::string name) {
     throw Falschaufruf{"--papier kennt " + namen + ", nicht \"" + name + "\""};
 }
 
+Nummernziel LiesNummernziel(const std::string& text) {
+    if (text == "bild") return Nummernziel::Bild;
+    if (text == "druck") return Nummernziel::Druck;
+    throw Falschaufruf{"--nummern-ordnen erwartet bild oder druck, nicht \"" + text + "\""};
+}
+
 std::vector<std::string> LiesFormate(const std::string& liste) {
     auto formate = TeileListe(liste);
     if (formate.empty())
@@ -133,6 +139,7 @@ constexpr auto kOptionen = std::to_array<Option>({
     {"--quer", [](Aufruf& a, const std::string& /*w*/) { a.quer = true; }, false},
     {"--alle-blaetter", [](Aufruf& a, const std::string& /*w*/) { a.alleBlaetter = true; }, false},
     {"--kantig", [](Aufruf& a, const std::string& /*w*/) { a.kantig = true; }, false},
+    {"--nummern-ordnen", [](Aufruf& a, const std::string& w) { a.ordnen = LiesNummernziel(w); }},
     {"--ein", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
@@ -211,6 +218,8 @@ std::string Hilfetext() {
            "  --projekt TEXT, --bearbeiter TEXT, --firma TEXT\n"
            "                         Texte im Schriftfeld des Blattrahmens (--ein blattrahmen)\n"
            "  --kantig               Bilder (png, bmp) ohne geglättete Kanten\n"
+           "  --nummern-ordnen bild  vorher Plätze für die Punktnummern suchen: für das Bild\n"
+           "                         oder mit \"druck\" für Maßstab und Auflösung des Drucks\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"

@@ -10,6 +10,7 @@
 #include "ui/Umwandlung.h"
 #include "ui/ablage/Einstellungsablage.h"
 #include "ui/ausgabe/Ausgabelauf.h"
+#include "ui/ausgabe/Nummernlauf.h"
 
 namespace zrw {
 namespace {
@@ -71,6 +72,7 @@ bool ExportiereNetz(const Aufruf& aufruf) {
     TDM daten(dateien);
     const bool lesbar = WaehleErgebnisse(aufruf, daten, liste, einstellungen);
     zustand.Ergebnisse = &daten;
+    OrdneNummern(quelle, aufruf, liste, &DruckeZeile);
     return SchreibeAusgaben(quelle, aufruf, TextPfad(aufruf.ziel), Ziele(aufruf, datei), daten,
                             &DruckeZeile) &&
            lesbar;

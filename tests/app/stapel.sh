@@ -71,6 +71,18 @@ for dpi in 1 100000; do
 done
 rm -f aus2/NETZ.svg aus2/NETZ.pdf aus3/NETZ.svg aus3/NETZ.pdf
 
+erwarte 0 "Nummern geordnet" --export zrw,png,dxf --nummern-ordnen bild --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "keine überlappt" test ! -s stderr
+pruefe "sie stehen anders" test "$(cmp -s aus/NETZ.png aus3/NETZ.png; echo $?)" = 1
+erwarte 0 "wie gelesen" --export zrw --ziel aus2 aus3/NETZ.ZRW
+erwarte 0 "noch einmal" --export zrw --nummern-ordnen bild --ziel aus3 aus3/NETZ.ZRW
+pruefe "geordnete bleiben" cmp -s aus2/NETZ.ZRW aus3/NETZ.ZRW
+erwarte 0 "für den Druck" --export dxf,zrw --nummern-ordnen=druck --massstab 50000 --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
+pruefe "Plätze für den Druck" test "$(cmp -s aus2/NETZ.ZRW aus3/NETZ.ZRW; echo $?)" = 1
+erwarte 0 "ohne" --export dxf --ziel aus2/ohne --massstab 50000 "$wurzel/beispiele/NETZ.EIN"
+pruefe "die Zeichnung folgt nicht" cmp -s aus2/ZRW.DXF aus2/ohne/ZRW.DXF
+rm -rf aus2/ohne aus2/ZRW.DXF aus3/ZRW.DXF
+
 mkdir -p aus4/NETZ.png
 erwarte 1 "ein Format geht nicht" --export png,zrw,bmp --ziel aus4 "$wurzel/beispiele/NETZ.EIN"
 pruefe "die anderen sind da" test -s aus4/NETZ.ZRW -a -s aus4/NETZ.bmp
@@ -85,6 +97,7 @@ for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groe
     "--ein nichts x" "--export dxf --massstab 0 x" "--export dxf --massstab 1:500 x" "--export plt --dpi 0 x" \
     "--export plt --dpi 1.5 x" "--export pdf --papier A5 x" "--export pdf --papier" "--export pdf --quer=1 x" \
     "--export pdf --blaetter 0 x" "--export pdf --ueberlappung 21 x" "--export pdf --stift 0.2 x" \
+    "--export png --nummern-ordnen karte x" \
     "--export zrw a b" "--groesse 800x600 x"; do
     # shellcheck disable=SC2086
     erwarte 2 "falscher Aufruf $falsch" $falsch

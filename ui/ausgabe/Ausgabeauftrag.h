@@ -26,6 +26,9 @@ inline constexpr Bildgroesse kUeblicheGroesse{1200, 1200};
     return v >= kKleinstesBild && v <= kGroesstesBild;
 }
 
+/// What point numbers are put in order for before anything is written.
+enum class Nummernziel : std::uint8_t { Bild, Druck };
+
 struct Ausgabeauftrag {
     std::optional<Bildgroesse> groesse;
     std::string massstab = kUeblicherMassstab;  ///< denominator, readable by `LiesMassstab`
@@ -38,6 +41,7 @@ struct Ausgabeauftrag {
     bool quer = false;                           ///< the paper lies on its long side
     bool alleBlaetter = false;                   ///< print over as many sheets as it takes
     bool kantig = false;                         ///< pictures without smooth edges
+    std::optional<Nummernziel> ordnen{};         ///< none: they stay
     std::vector<std::string> ein;                ///< switches by name
     std::vector<std::string> aus;
 };

@@ -240,6 +240,16 @@ Blattauftrag AuftragVon(const Ausgabe& a, const Blattwahl& wahl, const Druckseit
             .systemBekannt = !a.ausBild};
 }
 
+Planbeschriftung BeschrifteDruck(const Ausgabe& a, const Planbeschriftung::Beweglich& beweglich) {
+    const auto schrift = Dokumentschrift();
+    const Pdfflaeche flaeche(std::make_unique<Leerschreiber>(), a.papier, a.dpi,
+                             {{}, nullptr, schrift ? &*schrift : nullptr});
+    Druckmittel d(a);
+    Blattwahl wahl{};
+    WaehleMassstab(a, {a.vorlage, d.mittel, flaeche}, d.teilung, wahl);
+    return Planbeschriftung::FuerDruck(a.vorlage, d.mittel, flaeche, wahl.massstab, a.dpi, beweglich);
+}
+
 Blattwahl WaehleBlaetter(const Ausgabe& a) {
     // Which sheets it takes hangs on how wide the document's texts are.
     const auto schrift = Dokumentschrift();

@@ -14,6 +14,7 @@
 #include "output/Blattschnitt.h"
 #include "output/Papier.h"
 #include "output/Zeichenzustand.h"
+#include "output/beschriftung/Planbeschriftung.h"
 #include "output/blatt/Blattdruck.h"
 
 namespace zrw {
@@ -80,6 +81,10 @@ struct Blattwahl {
     std::vector<Blatt> blaetter;  ///< those that are written, one at least
     std::size_t gebraucht;        ///< how many would hold all of the plan; 0: more than `kMeisteBlaetter`
 };
+
+/// The point numbers as a document of this output would have them.
+[[nodiscard]] Planbeschriftung BeschrifteDruck(const Ausgabe& a,
+                                               const Planbeschriftung::Beweglich& beweglich);
 
 /// The same sheets as a document of this output has. Tells nobody.
 /// @throws Fehler where all of too many are asked for

@@ -1,0 +1,31 @@
+#include "ui/ausgabe/Nummernlauf.h"
+
+#include "model/Fehler.h"
+#include "output/beschriftung/Planbeschriftung.h"
+#include "ui/bild/Bildflaeche.h"
+
+namespace zrw {
+
+void OrdneNummern(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag, Netz& netz,
+                  const Sprecher& sage) {
+    if (!auftrag.ordnen) return;
+    const Bildpunkt anfang{quelle.einstellungen.PXOff, quelle.einstellungen.PYOff};
+    const auto beweglich = [&](const PunktString& t) {
+        return !quelle.ausBild || Bildpunkt{t.Item->XBiO, t.Item->YBiO} == anfang;
+    };
+    const Systemuhr uhr;
+    const auto plan = *auftrag.ordnen == Nummernziel::Druck
+                          ? BeschrifteDruck(AusgabeVon(quelle, auftrag, sage), beweglich)
+                          : Planbeschriftung::FuerBild(
+                                quelle.vorlage, {quelle.zustand, quelle.einstellungen, quelle.netz, uhr},
+                                Bildflaeche(1, 1), beweglich);
+    const auto ordnung = plan.OrdneNummern();
+    for (const auto& l : ordnung->versetzt)
+        netz.VersetzeText(*l.text, l.abstand);
+    if (const std::size_t offen = ordnung->nachher.ueberlappt; offen != 0) {
+        sage(Fehler::Meldung(std::to_string(offen) + " Punktnummern überlappen noch eine andere.",
+                             PfadText(quelle.eingabe.filename()), 0));
+    }
+}
+
+}  // namespace zrw
