@@ -65,7 +65,7 @@ TEST_F(Zugang, WasDieTastaturHabenKannHatEinenNamen) {
         EXPECT_GT(PruefeNamen(*w), 0) << w->objectName().toStdString();
         ++fensterzahl;
     }
-    EXPECT_EQ(fensterzahl, 10);
+    EXPECT_EQ(fensterzahl, 11);
 }
 
 TEST_F(Zugang, JederBefehlStehtImBaum) {
