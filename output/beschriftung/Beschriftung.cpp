@@ -23,6 +23,7 @@ constexpr auto kStufen =
     std::to_array<Ringstufe>({{{4, 9, 16}}, {{20, 25, 30}}, {{36, 43, 50}}, {{60, 70, 80}}});
 constexpr std::size_t kMeisteFernplaetze = 240;
 constexpr std::size_t kHoffnungslos = 2000;
+constexpr std::size_t kSehrViele = 4096;
 
 /// Distance in a row of neighbours: positions with their bits in turn.
 std::uint64_t Reihenfolge(Flaechenpunkt p) {
@@ -164,8 +165,9 @@ bool Schildordnung::Ordne(std::size_t stufe) {
         suche.NimmPlaetze(i, plaetze_);
     }
     const auto melde = [&](int promille) { return fortschritt_(von + 110 + promille * 110 / 1000); };
-    if (!suche.SuchePlaetze(wahl_.durchgaenge, fortschritt_ ? Fortschritt(melde) : Fortschritt()))
-        return false;
+    // Very many take a shorter search: who waits for them waits long enough.
+    const int durchgaenge = n > kSehrViele ? wahl_.durchgaenge / 4 : wahl_.durchgaenge;
+    if (!suche.SuchePlaetze(durchgaenge, fortschritt_ ? Fortschritt(melde) : Fortschritt())) return false;
     std::fill(aktiv_.begin(), aktiv_.end(), false);
     std::size_t konflikte = 0;
     for (std::size_t i = 0; i < n; ++i)
@@ -191,6 +193,12 @@ bool Schildordnung::Gleite() {
         orte_.clear();
         plaetze_.clear();
         if (!s.fest) {
+            orte_.push_back(arbeit_.lagen[i]);
+            BewertePlaetze(s, 1);
+        }
+        // Of very many only those that are crossed by something are worth the time.
+        if (!s.fest && (n <= kSehrViele || plaetze_.front().kosten >= kKostenFremd)) {
+            orte_.clear();
             for (const std::int32_t y : kSchritte) {
                 for (const std::int32_t x : kSchritte)
                     orte_.push_back(

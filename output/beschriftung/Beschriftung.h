@@ -52,7 +52,7 @@ struct Beschriftungswahl {
     bool anliegend = false;       ///< only touching the point, as in tests of other methods
     std::int32_t weitester = 80;  ///< farthest place where nothing nearer is free [heights / 10]
     bool gleiten = true;          ///< moves labels by single steps in the end
-    int durchgaenge = 300;        ///< of the search; what counts is never the time
+    int durchgaenge = 300;        ///< of the search, fewer where labels are very many; never a time
     std::uint64_t saat = 1;
 };
 
