@@ -15,8 +15,8 @@
 namespace zrw {
 namespace {
 
-constexpr std::array<const char*, 7> kEllipsoide{
-    "", "Bessel", "Hayford", "Krassowsky", "WGS 72", "WGS 84", "GRS 80"};
+constexpr std::array<const char*, 7> kEllipsoide{"",       "Bessel", "Hayford", "Krassowsky",
+                                                 "WGS 72", "WGS 84", "GRS 80"};
 
 Schriftfeldtexte Texte(const Bildvorlage& v, const Zeichenmittel& mittel, const Blattauftrag& a,
                        std::size_t nummer) {
