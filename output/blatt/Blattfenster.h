@@ -37,6 +37,10 @@ class Blattfenster final : public Zeichenflaeche {
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override {
         blatt_.Text(ort, text, Druckfarbe(farbe));
     }
+    void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
+                     std::int32_t rand) override {
+        blatt_.TextMitRand(ort, text, Druckfarbe(farbe), Druckfarbe(randfarbe), rand);
+    }
     [[nodiscard]] std::int32_t Textbreite(std::string_view text) const override {
         return blatt_.Textbreite(text);
     }
