@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "geo/Zrwgeo.h"
 #include "model/Cp1252.h"
@@ -123,11 +124,13 @@ void DruckeBlatt(const Bildvorlage& v, const Zeichenmittel& mittel, const Einste
     if (rahmen) planflaeche = {x, y, x + teilung.plan.weite, y + teilung.plan.hoehe};
     Zeichenzustand zustand = mittel.zustand;
     zustand.GitterSchlicht = zustand.GitterSchlicht || rahmen;
+    std::vector<Rechteck> kaesten;
     {
         Blattfenster fenster(drucker, planflaeche, g.schwarzweiss, g.stift);
         if (rahmen) fenster.BeginneFenster(planflaeche);
         DruckePlan(v, {zustand, mittel.einstellungen, mittel.netz, mittel.uhr}, groessen, fenster, druck);
         if (rahmen) fenster.BeendeFenster();
+        kaesten = fenster.Kaesten();
     }
     if (!rahmen) return;
     Blattrahmen(drucker, seite)
@@ -137,7 +140,8 @@ void DruckeBlatt(const Bildvorlage& v, const Zeichenmittel& mittel, const Einste
                         .inMetern = InMetern(mittel.netz.Netztyp),
                         .ueberlappung = teilung.ueberlappung,
                         .blaetter = auftrag.blaetter,
-                        .nummer = nummer});
+                        .nummer = nummer,
+                        .kaesten = std::move(kaesten)});
 }
 
 }  // namespace zrw

@@ -2,6 +2,8 @@
 // It hands on to the sheet, in black where that is asked for.
 #pragma once
 
+#include <vector>
+
 #include "output/Zeichenflaeche.h"
 
 namespace zrw {
@@ -28,10 +30,14 @@ class Blattfenster final : public Zeichenflaeche {
     void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override {
         Blatt().Linien(stuecke, Druckfarbe(farbe));
     }
-    void ZeichneRechteck(const Rechteck& r) override { Blatt().ZeichneRechteck(r); }
+    void ZeichneRechteck(const Rechteck& r) override {
+        MerkeKasten(r);
+        Blatt().ZeichneRechteck(r);
+    }
     void Ellipse(const Rechteck& umschrieben) override { Blatt().Ellipse(umschrieben); }
     void Vieleck(std::span<const Flaechenpunkt> ecken) override { Blatt().Vieleck(ecken); }
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override {
+        MerkeKasten(r);
         blatt_.FuelleRechteck(r, Druckfarbe(farbe));
     }
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override {
@@ -48,10 +54,16 @@ class Blattfenster final : public Zeichenflaeche {
     [[nodiscard]] std::int32_t Schriftgrad() const override { return blatt_.Schriftgrad(); }
     [[nodiscard]] std::int32_t Schrifthoehe() const override { return blatt_.Schrifthoehe(); }
 
+    /// Legend, key and scale bars, which nothing may run through.
+    [[nodiscard]] const std::vector<Rechteck>& Kaesten() const { return kaesten_; }
+
   protected:
     void EbeneGewechselt(Ebene ebene) override { blatt_.SetzeEbene(ebene); }
 
   private:
+    void MerkeKasten(const Rechteck& r) {
+        if (AktuelleEbene() == Ebene::Legende || AktuelleEbene() == Ebene::Ergebnisse) kaesten_.push_back(r);
+    }
     [[nodiscard]] Farbe Druckfarbe(Farbe farbe) const {
         return schwarzweiss_ && farbe != kWeiss ? kSchwarz : farbe;
     }
@@ -70,6 +82,7 @@ class Blattfenster final : public Zeichenflaeche {
     Rechteck sichtbar_;
     bool schwarzweiss_;
     double stift_;
+    std::vector<Rechteck> kaesten_;
 };
 
 }  // namespace zrw

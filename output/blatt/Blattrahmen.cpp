@@ -153,6 +153,10 @@ void Blattrahmen::ZeichneKreuze(const Blattstand& stand, double schritt) const {
         FuerVielfache(unten, stand.ecke.hoch, schritt, [&](double h) {
             const auto y =
                 p.oben + static_cast<std::int32_t>(std::lround((stand.ecke.hoch - h) / stand.faktor));
+            const Rechteck kreuz{x - k, y - k, x + k, y + k};
+            if (std::any_of(stand.kaesten.begin(), stand.kaesten.end(),
+                            [&](const Rechteck& r) { return !Leer(Geschnitten(r, kreuz)); }))
+                return;
             flaeche_.Linie({std::max(x - k, p.links), y}, {std::min(x + k, p.rechts), y});
             flaeche_.Linie({x, std::max(y - k, p.oben)}, {x, std::min(y + k, p.unten)});
         });

@@ -20,7 +20,8 @@ struct Blattstand {
     bool inMetern = true;  ///< coordinates are lengths: they stand on the margin, and there is a scale bar
     std::int32_t ueberlappung = 0;  ///< of neighbouring sheets [dots]
     const std::vector<Blatt>& blaetter;
-    std::size_t nummer = 0;  ///< of this one among them
+    std::size_t nummer = 0;              ///< of this one among them
+    std::vector<Rechteck> kaesten = {};  ///< of the plan that stay free of crosses [dots]
 };
 
 class Blattrahmen {
