@@ -37,8 +37,9 @@ void FuerVielfache(double von, double bis, double schritt, const Tun& tun) {
     const double erstes = std::ceil(von / schritt);
     const double letztes = std::floor(bis / schritt);
     if (!(letztes - erstes < kMeiste)) return;
-    for (double i = erstes; i <= letztes; ++i)
-        tun(i * schritt);
+    const auto anzahl = static_cast<int>(letztes - erstes) + 1;
+    for (int i = 0; i < anzahl; ++i)
+        tun((erstes + i) * schritt);
 }
 
 std::string Koordinate(double wert, double schritt) {

@@ -46,7 +46,7 @@ std::string Gekuerzt(const Zeichenflaeche& flaeche, const std::string& text, std
     if (flaeche.Textbreite(text) <= breite) return text;
     constexpr char kPunkte = '\x85';
     for (std::size_t n = text.size(); n > 0; --n) {
-        const std::string kurz = text.substr(0, n - 1) + kPunkte;
+        std::string kurz = text.substr(0, n - 1) + kPunkte;
         if (flaeche.Textbreite(kurz) <= breite) return kurz;
     }
     return {};
