@@ -36,8 +36,9 @@ void FuerVielfache(double von, double bis, double schritt, const Tun& tun) {
     constexpr double kMeiste = 1000;
     const double erstes = std::ceil(von / schritt);
     const double letztes = std::floor(bis / schritt);
-    if (!(letztes - erstes < kMeiste)) return;
-    const auto anzahl = static_cast<int>(letztes - erstes) + 1;
+    const double weite = letztes - erstes;
+    if (!(weite >= 0 && weite < kMeiste)) return;
+    const auto anzahl = static_cast<int>(weite) + 1;
     for (int i = 0; i < anzahl; ++i)
         tun((erstes + i) * schritt);
 }

@@ -153,7 +153,8 @@ Glattstempel::Zeichenbild Glattstempel::MaleZeichen(char c, int rand) const {
 const Glattglyphe& Glattstempel::NeuesZeichen(char c) {
     auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
     const Zeichenbild z = MaleZeichen(c, kRand);
-    return glyphe.emplace(Glattglyphe{MaskeVon(z.bild, z.null), z.vorschub});
+    glyphe = Glattglyphe{MaskeVon(z.bild, z.null), z.vorschub};
+    return *glyphe;
 }
 
 const Deckmaske& Glattstempel::Halo(char c, int rand) {

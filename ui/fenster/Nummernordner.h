@@ -25,6 +25,8 @@ class Nummernordner {
     };
     /// @param fenster owns the dialog
     Nummernordner(const Umfeld& umfeld, QWidget* fenster);
+    Nummernordner(const Nummernordner&) = delete;
+    Nummernordner& operator=(const Nummernordner&) = delete;
 
     /// A network was opened. @param ausBild from a picture file
     void BeginneNetz(bool ausBild);
