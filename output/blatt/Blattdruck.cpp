@@ -70,17 +70,38 @@ Blattteilung TeileSeite(const Druckseite& seite, bool rahmen, const Blattgestalt
     return t;
 }
 
-std::vector<Blatt> TeileBlaetterAuf(const Druckplan& plan, double massstab, const Blattteilung& teilung) {
-    if (teilung.ueberlappung == 0) return Blattaufteilung(plan, massstab, teilung.plan);
-    auto blaetter = Blattaufteilung(plan, massstab, teilung.plan);
-    if (blaetter.size() < 2) return blaetter;
-    const std::int32_t u = teilung.ueberlappung;
-    blaetter = Blattaufteilung(plan, massstab,
-                               {teilung.plan.weite - u, teilung.plan.hoehe - u, teilung.plan.aufloesung});
-    const double halb = u / 2 * Druckfaktor(massstab, teilung.plan.aufloesung);  // NOLINT: whole dots
+namespace {
+
+/// The share of a sheet that is its own.
+Druckseite EigeneFlaeche(const Blattteilung& t) {
+    return {t.plan.weite - t.ueberlappung, t.plan.hoehe - t.ueberlappung, t.plan.aufloesung};
+}
+
+/// How far a sheet reaches beyond its share, to each side [m].
+double Ueberstand(const Blattteilung& t, double massstab) {
+    return t.ueberlappung / 2 * Druckfaktor(massstab, t.plan.aufloesung);  // NOLINT: whole dots
+}
+
+std::vector<Blatt> Erweitert(std::vector<Blatt> blaetter, double meter) {
     for (Blatt& b : blaetter)
-        b.ecke = {b.ecke.rechts - halb, b.ecke.hoch + halb};
+        b.ecke = {b.ecke.rechts - meter, b.ecke.hoch + meter};
     return blaetter;
+}
+
+}  // namespace
+
+std::vector<Blatt> TeileBlaetterAuf(const Druckplan& plan, double massstab, const Blattteilung& teilung) {
+    auto blaetter = Blattaufteilung(plan, massstab, teilung.plan);
+    if (teilung.ueberlappung == 0 || blaetter.size() < 2) return blaetter;
+    return Erweitert(Blattaufteilung(plan, massstab, EigeneFlaeche(teilung)), Ueberstand(teilung, massstab));
+}
+
+std::vector<Blatt> TeileBlaetterAuf(const Druckplan& plan, double massstab, const Blattteilung& teilung,
+                                    Welt ursprung) {
+    const double meter = Ueberstand(teilung, massstab);
+    return Erweitert(Blattschnitt(plan, massstab, EigeneFlaeche(teilung),
+                                  {ursprung.rechts + meter, ursprung.hoch - meter}),
+                     meter);
 }
 
 std::optional<double> PassenderMassstab(const Druckplan& plan, const Blattteilung& teilung,

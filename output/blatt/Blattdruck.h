@@ -26,6 +26,9 @@ struct Blattteilung {
 /// @throws Fehler where they are too many
 [[nodiscard]] std::vector<Blatt> TeileBlaetterAuf(const Druckplan& plan, double massstab,
                                                   const Blattteilung& teilung);
+/// The same from the sheet of row and column 0, whose corner is given, like `Blattschnitt`.
+[[nodiscard]] std::vector<Blatt> TeileBlaetterAuf(const Druckplan& plan, double massstab,
+                                                  const Blattteilung& teilung, Welt ursprung);
 /// Like `PassenderMassstab`, for a plan on so many sheets at most.
 [[nodiscard]] std::optional<double> PassenderMassstab(const Druckplan& plan, const Blattteilung& teilung,
                                                       std::size_t blaetter);

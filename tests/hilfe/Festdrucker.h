@@ -27,10 +27,12 @@ class Festdrucker final : public Drucker {
         MaleBlaetter(werk);
         if (kaputt) throw Fehler("Papierstau.");
     }
-    bool ZeigeVorschau(QWidget* /*eltern*/, const Druckwerk& werk, const QImage& bild) override {
-        uebersicht = bild;
-        MaleBlaetter(werk);
-        return false;
+    std::function<void(Vorschauplan&)> inDerVorschau;  ///< what the user does there, and then prints
+    bool ZeigeVorschau(QWidget* /*eltern*/, Vorschauplan& plan) override {
+        if (inDerVorschau) inDerVorschau(plan);
+        uebersicht = plan.Uebersicht();
+        MaleBlaetter(plan.Werk());
+        return inDerVorschau != nullptr;
     }
 
   private:

@@ -82,6 +82,27 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     EXPECT_EQ(drucker.uebersicht.pixelColor(0, 0), QColor(Qt::white)) << "no sheet for the empty corner";
     EXPECT_EQ(drucker.uebersicht.pixelColor(0, 100), QColor(Qt::red)) << "edge of a sheet";
     EXPECT_EQ(fenster.Bild(), vorher);
+    // What is changed in the preview is what is printed from it, without a question.
+    drucker.inDerVorschau = [&](Vorschauplan& plan) {
+        const QImage ganz = plan.Uebersicht();
+        const auto alle = plan.Werk().blaetter;
+        plan.SchalteBlatt(ganz.rect().center());
+        EXPECT_EQ(plan.Werk().blaetter, alle - 1);
+        EXPECT_NE(plan.Uebersicht(), ganz) << "crossed out";
+        plan.SchalteBlatt(ganz.rect().center());
+        EXPECT_EQ(plan.Werk().blaetter, alle);
+        plan.VerschiebeBlaetter({9, 9});
+        EXPECT_NE(plan.Uebersicht(), ganz);
+        plan.SetzeMassstab("nichts");
+        plan.SetzeMassstab("2000000");
+        plan.VerschiebeBlaetter({1, 1});
+    };
+    const auto gefragt = dialoge.fragen.size();
+    Knopf("VorschauButton").click();
+    drucker.inDerVorschau = {};
+    EXPECT_EQ(dialoge.fragen.size(), gefragt);
+    EXPECT_EQ(Kind<QLineEdit>("EditMasstab").text(), "2000000");
+    EXPECT_FALSE(Leer(drucker.blaetter.at(0)));
     // One sheet holds it all, but not the one in the corner: that one is asked about, too.
     Massstab(2000000);
     for (int i = 0; i < 20; ++i)

@@ -14,6 +14,16 @@
 namespace zrw {
 namespace {
 
+struct Leerplan final : Vorschauplan {
+    Druckwerk Werk() override { return {}; }
+    QImage Uebersicht() override { return {9, 9, QImage::Format_RGB32}; }
+    void SchalteBlatt(QPoint /*ort*/) override {}
+    void VerschiebeBlaetter(QPoint /*weg*/) override {}
+    QString Massstab() const override { return "1"; }
+    void SetzeMassstab(const QString& /*text*/) override {}
+    void NimmPapier() override {}
+};
+
 class Zugang : public Netzprobe {
   protected:
     /// Every widget that the tree of a window holds.
@@ -57,7 +67,8 @@ TEST_F(Zugang, WasDieTastaturHabenKannHatEinenNamen) {
     for (QDialog* dialog : fenster.findChildren<QDialog*>())
         dialog->show();
     QPrinter geraet;
-    Druckvorschau vorschau(geraet, QImage(9, 9, QImage::Format_RGB32), &fenster);
+    Leerplan plan;
+    Druckvorschau vorschau(geraet, plan, &fenster);
     vorschau.show();
     int fensterzahl = 0;
     for (QWidget* w : QApplication::topLevelWidgets()) {

@@ -207,17 +207,18 @@ void Systemdrucker::DruckeInDatei(const QString& datei, const QPageLayout& seite
     Geraet().setPageLayout(seite);
 }
 
-bool Systemdrucker::ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) {
+bool Systemdrucker::ZeigeVorschau(QWidget* eltern, Vorschauplan& plan) {
     std::optional<Fehler> fehler;
-    Druckvorschau dialog(Geraet(), uebersicht, eltern);
+    Druckvorschau dialog(Geraet(), plan, eltern);
     dialog.male = [&](QPrinter& geraet) {
         try {
-            MaleBlaetter(geraet, werk);
+            MaleBlaetter(geraet, plan.Werk());
         } catch (const std::exception& f) {
             fehler = Fehler(f.what());  // not through the widget that asked
         }
     };
     const bool drucken = dialog.exec() == QDialog::Accepted;
+    MerkePapier();
     if (fehler) throw Fehler(*fehler);
     return drucken;
 }

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QImage>
 #include <QPageLayout>
+#include <QPoint>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -25,6 +26,25 @@ struct Druckwerk {
     std::function<void(Zeichenflaeche&, int)> zeichne;  ///< draws a sheet, from 0 on
 };
 
+/// What a preview shows, and what users change in it.
+class Vorschauplan {
+  public:
+    virtual ~Vorschauplan() = default;
+    /// The sheets that are to be printed.
+    [[nodiscard]] virtual Druckwerk Werk() = 0;
+    /// How they lie in the plot. Places below are pixels of it.
+    [[nodiscard]] virtual QImage Uebersicht() = 0;
+    /// Turns the sheet at a place off or on again. One stays on.
+    virtual void SchalteBlatt(QPoint ort) = 0;
+    /// Moves all of the sheets over the plot.
+    virtual void VerschiebeBlaetter(QPoint weg) = 0;
+    [[nodiscard]] virtual QString Massstab() const = 0;
+    /// Texts that are no scale change nothing.
+    virtual void SetzeMassstab(const QString& text) = 0;
+    /// The paper is another one: the sheets are cut anew.
+    virtual void NimmPapier() = 0;
+};
+
 class Sitzung;
 
 /// The font of the screen on paper of so many dots per inch: as large there, and drawn as outlines.
@@ -43,10 +63,8 @@ class Drucker {
     virtual bool RichteEin(QWidget* eltern) = 0;
     /// Prints the sheets of a job. @throws Fehler where the printer does not take it or breaks it off
     virtual void DruckeBlaetter(const Druckwerk& werk) = 0;
-    /// Shows the sheets as they would be printed. @param uebersicht how they lie in the plot
-    /// @return whether they are to be printed
-    [[nodiscard]] virtual bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk,
-                                             const QImage& uebersicht) = 0;
+    /// Shows the sheets as they would be printed. @return whether they are to be printed
+    [[nodiscard]] virtual bool ZeigeVorschau(QWidget* eltern, Vorschauplan& plan) = 0;
 };
 
 /// The system's printers. Before one is chosen: the default one, or a file where there is none.
@@ -61,7 +79,7 @@ class Systemdrucker final : public Drucker {
     bool WaehleDrucker(QWidget* eltern) override;
     bool RichteEin(QWidget* eltern) override;
     void DruckeBlaetter(const Druckwerk& werk) override;
-    bool ZeigeVorschau(QWidget* eltern, const Druckwerk& werk, const QImage& uebersicht) override;
+    bool ZeigeVorschau(QWidget* eltern, Vorschauplan& plan) override;
 
     /// Makes a PDF file of what is printed, on this paper.
     void DruckeInDatei(const QString& datei, const QPageLayout& seite);

@@ -128,7 +128,14 @@ bool Plandruck::PasseMassstabEin(QWidget* eltern, Liste& liste) {
     return true;
 }
 
+std::vector<Blatt> Plandruck::SchneideAb(Liste& liste, double massstab, Welt ursprung) const {
+    return Miss(liste,
+                [&](const Druckplan& plan) { return TeileBlaetterAuf(plan, massstab, Teilung(), ursprung); });
+}
+
 std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double massstab) {
+    if (gewaehlt_ && gewaehlt_->massstab == massstab && gewaehlt_->Passt(programm_.drucker.Seite()))
+        return gewaehlt_->blaetter;
     auto [blaetter, inDerEcke, eckeLeer] = Blaetter(liste, massstab);
     if (inDerEcke) return blaetter;
     // Also where the plan lies on one sheet, but beside the output area.
@@ -187,50 +194,6 @@ std::optional<Bildpunkt> Plandruck::Legendenort(const Liste& liste, const Drucka
 void Plandruck::DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab,
                                const std::filesystem::path& datei) {
     programm_.drucker.DruckeBlaetter(Werk(liste, std::move(blaetter), massstab, datei));
-}
-
-bool Plandruck::ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab,
-                              const std::filesystem::path& datei) {
-    auto blaetter = Blaetter(liste, massstab).blaetter;
-    const QImage uebersicht = Uebersicht(liste, blaetter, massstab);
-    return programm_.drucker.ZeigeVorschau(eltern, Werk(liste, std::move(blaetter), massstab, datei),
-                                           uebersicht);
-}
-
-/// The network without its texts, and over it the sheets with their numbers.
-QImage Plandruck::Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const {
-    constexpr double kWeite = 320;
-    constexpr double kHoehe = 480;
-    const Druckseite seite = Teilung().plan;
-    const double faktor = Druckfaktor(massstab, seite.aufloesung);
-    const double breite = seite.weite * faktor;
-    const double hoehe = seite.hoehe * faktor;
-    Welt lo = blaetter.front().ecke;
-    Welt ru = lo;
-    for (const Blatt& b : blaetter) {
-        lo = {std::min(lo.rechts, b.ecke.rechts), std::max(lo.hoch, b.ecke.hoch)};
-        ru = {std::max(ru.rechts, b.ecke.rechts + breite), std::min(ru.hoch, b.ecke.hoch - hoehe)};
-    }
-    const double jePixel = std::max((ru.rechts - lo.rechts) / kWeite, (lo.hoch - ru.hoch) / kHoehe);
-    const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / jePixel)); };
-    Bildflaeche bild(pixel(ru.rechts - lo.rechts) + 1, pixel(lo.hoch - ru.hoch) + 1);
-    bild.SetzeGlatt(true);
-    const Ansicht ansicht = liste.FuerGeraet(jePixel, lo);
-    const Bildvorlage vorlage = liste.Vorlage().InAnsicht(ansicht);
-    Zeichenzustand zustand = programm_.zustand;
-    zustand.flaeche = &bild;
-    Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
-    if (liste.ShowBeob) ZeichneKanten(vorlage, zeichner);
-    ZeichnePunkte(vorlage, zeichner);
-    bild.SetzeStift({programm_.einstellungen.PPCol, 1, Strichart::Voll});
-    bild.SetzePinsel({kWeiss, true});
-    for (std::size_t i = 0; i < blaetter.size(); ++i) {
-        const int x = pixel(blaetter[i].ecke.rechts - lo.rechts);
-        const int y = pixel(lo.hoch - blaetter[i].ecke.hoch);
-        bild.ZeichneRechteck({x, y, x + pixel(breite), y + pixel(hoehe)});
-        bild.Text({x + 3, y + 1}, std::to_string(i + 1), programm_.einstellungen.PPCol);
-    }
-    return bild.Bild();
 }
 
 }  // namespace zrw

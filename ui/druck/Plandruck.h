@@ -2,7 +2,6 @@
 // here: the printer (Drucker.h) and drawing at scale (output/Druck.h).
 #pragma once
 
-#include <QImage>
 #include <QString>
 #include <filesystem>
 #include <optional>
@@ -57,6 +56,9 @@ class Plandruck {
     [[nodiscard]] bool ZeigeVorschau(QWidget* eltern, Liste& liste, double massstab,
                                      const std::filesystem::path& datei);
 
+    /// What was chosen in the preview counts no longer.
+    void VergissAuswahl() { gewaehlt_.reset(); }
+
     /// The dialog about frame, grid and pens of the sheets. @return whether it was confirmed
     bool BearbeiteBlaetter(QWidget* eltern);
     [[nodiscard]] const Blattgestaltung& Gestaltung() const { return gestaltung_; }
@@ -81,14 +83,27 @@ class Plandruck {
     template <class Tun>
     auto Miss(Liste& liste, const Tun& tun) const;
     [[nodiscard]] std::optional<Bildpunkt> Legendenort(const Liste& liste, const Druckauftrag& auftrag) const;
-    [[nodiscard]] QImage Uebersicht(Liste& liste, const std::vector<Blatt>& blaetter, double massstab) const;
+    /// The sheets from a place in the world on. @throws Fehler where they are too many
+    [[nodiscard]] std::vector<Blatt> SchneideAb(Liste& liste, double massstab, Welt ursprung) const;
+    friend class Planvorschau;
+
+    /// Sheets that were chosen in the preview, and what for.
+    struct Auswahl {
+        std::vector<Blatt> blaetter;
+        double massstab = 0;
+        Druckseite seite;
+        [[nodiscard]] bool Passt(const Druckseite& s) const {
+            return s.weite == seite.weite && s.hoehe == seite.hoehe && s.aufloesung == seite.aufloesung;
+        }
+    };
 
     const Programm& programm_;
     const Bildflaeche& flaeche_;
     Felder felder_;
     Druckrahmen rahmen_;
     Blattgestaltung gestaltung_;
-    int blaetter_ = 1;  ///< last wish for a fitting scale
+    std::optional<Auswahl> gewaehlt_;  ///< until the print from the preview is done
+    int blaetter_ = 1;                 ///< last wish for a fitting scale
 };
 
 }  // namespace zrw

@@ -44,6 +44,7 @@ void TZrwMainDlg::VorschauClick() {
     }
     ZeichneNeu();
     if (drucken) SpeedButton5Click();
+    druck_.VergissAuswahl();
 }
 
 void TZrwMainDlg::SpeedButton11Click() {
