@@ -77,16 +77,7 @@ Arbeit::Arbeit(const Beschriftungsaufgabe& a) : aufgabe(a) {
     }
     constexpr std::int32_t kKleinste = 256;
     zelle = Zellgitter::Zellweite(reich, kKleinste);
-    for (Symbolkasten& s : aufgabe.symbole) {
-        s.mitte = Begrenzt(s.mitte);
-        s.quer = std::clamp(s.quer, 0, kGroesstesSchild);
-        s.laengs = std::clamp(s.laengs, 0, kGroesstesSchild);
-    }
-    for (Sperrstrich& s : aufgabe.striche) {
-        s.von = Begrenzt(s.von);
-        s.nach = Begrenzt(s.nach);
-        s.halb = std::clamp(s.halb, 0, kGroesstesSchild);
-    }
+    BegrenzeHindernisse(aufgabe);
 }
 
 /// One round after the other, each for the labels that have found no free place before.

@@ -18,8 +18,10 @@ Kasten Begrenzterkasten(Schild s, Flaechenpunkt lage) {
 
 }  // namespace
 
-Beschriftungsguete BewerteSchilder(const Beschriftungsaufgabe& aufgabe,
+Beschriftungsguete BewerteSchilder(const Beschriftungsaufgabe& irgendwo,
                                    const std::vector<Flaechenpunkt>& lagen) {
+    Beschriftungsaufgabe aufgabe = irgendwo;
+    BegrenzeHindernisse(aufgabe);
     Beschriftungsguete g;
     g.schilder = lagen.size();
     std::vector<Kasten> kaesten;
@@ -45,7 +47,7 @@ Beschriftungsguete BewerteSchilder(const Beschriftungsaufgabe& aufgabe,
     // These are for measuring: in turn, without an index.
     for (std::size_t i = 0; i < lagen.size() && lagen.size() <= kMeisteGenau; ++i) {
         const Kasten& k = kaesten[i];
-        const Flaechenpunkt punkt = aufgabe.schilder[i].punkt;
+        const Flaechenpunkt punkt = Begrenzt(aufgabe.schilder[i].punkt);
         const std::int64_t abstand = Abstandsquadrat(k, punkt);
         const auto fremd = [&](const Symbolkasten& s) { return s.mitte != punkt; };
         g.aufSymbol += std::any_of(aufgabe.symbole.begin(), aufgabe.symbole.end(),

@@ -17,6 +17,20 @@ inline constexpr std::int32_t kGroesstesSchild = 1 << 15;
     return {std::clamp(p.x, -kFernsterOrt, kFernsterOrt), std::clamp(p.y, -kFernsterOrt, kFernsterOrt)};
 }
 
+/// What stands in the way, held near.
+inline void BegrenzeHindernisse(Beschriftungsaufgabe& aufgabe) {
+    for (Symbolkasten& s : aufgabe.symbole) {
+        s.mitte = Begrenzt(s.mitte);
+        s.quer = std::clamp(s.quer, 0, kGroesstesSchild);
+        s.laengs = std::clamp(s.laengs, 0, kGroesstesSchild);
+    }
+    for (Sperrstrich& s : aufgabe.striche) {
+        s.von = Begrenzt(s.von);
+        s.nach = Begrenzt(s.nach);
+        s.halb = std::clamp(s.halb, 0, kGroesstesSchild);
+    }
+}
+
 /// From its first row and column up to those behind its last.
 struct Kasten {
     std::int32_t links = 0;
