@@ -196,10 +196,13 @@ std::string Punkttext(const Punkt& p, const Einstellungen& e) {
     return text.empty() ? Symboltext(p.PktTyp, Gefuellt(p)) : text;
 }
 
-/// One row for each look. Where one word stands for several, the symbol tells them apart.
-std::vector<Zeichenzeile> Punktzeilen(const Zeichenbestand& bestand, const Einstellungen& e) {
+/// One row for each look, the most frequent first. Where one word stands for several, the symbol tells them
+/// apart. @param meiste rows: every point of a file may have a colour of its own
+std::vector<Zeichenzeile> Punktzeilen(const Zeichenbestand& bestand, const Einstellungen& e,
+                                      std::size_t meiste) {
     std::vector<Zeichenzeile> zeilen;
     for (const auto& g : bestand.Punkte()) {
+        if (zeilen.size() == meiste) break;
         const Punkt& p = g.muster;
         if (ZumSymbol(p.PktTyp) != nullptr) zeilen.push_back({kSymbole, Punkttext(p, e), g.anzahl, p});
     }
@@ -234,18 +237,15 @@ std::vector<Zeichenzeile> BaueErklaerung(const Zeichenbestand& bestand, const Ei
     linien.FuelleMarken();
     Zeilenbauer farben(bestand, einstellungen);
     farben.FuelleLinienfarben();
-    std::vector<Zeichenzeile> zeilen = Punktzeilen(bestand, einstellungen);
     const std::vector<Zeichenzeile> arten = linien.NimmZeilen();
     std::vector<Zeichenzeile> bunt = farben.NimmZeilen();
     for (Zeichenzeile& z : bunt)
         z.text = "Farbe: " + z.text;
     if (bunt.size() < 2) bunt.clear();
-    const auto kuerze = [&](std::vector<Zeichenzeile>& lange, std::size_t andere) {
-        const std::size_t platz = meiste - std::min(meiste, andere);
-        if (lange.size() > platz) lange.resize(platz);
-    };
-    kuerze(zeilen, arten.size() + std::min(bunt.size(), kFarbenDerLinien.size()));
-    kuerze(bunt, arten.size() + zeilen.size());
+    const auto platz = [&](std::size_t andere) { return meiste - std::min(meiste, andere); };
+    std::vector<Zeichenzeile> zeilen = Punktzeilen(
+        bestand, einstellungen, platz(arten.size() + std::min(bunt.size(), kFarbenDerLinien.size())));
+    bunt.resize(std::min(bunt.size(), platz(arten.size() + zeilen.size())));
     zeilen.insert(zeilen.end(), arten.begin(), arten.end());
     zeilen.insert(zeilen.end(), bunt.begin(), bunt.end());
     return zeilen;
