@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <string_view>
 
 namespace zrw {
 namespace {
@@ -16,16 +17,17 @@ constexpr double kZonenschritt = 1000000.0;          // easting step from one zo
 struct EllipsoidZeile {
     double a;         // semi-major axis [m]
     double kehrwert;  // reciprocal flattening
+    std::string_view name;
 };
 
 // Row n - 1 is ellipsoid number n. Row 0 also serves unknown numbers.
 constexpr auto kEllipsoide = std::to_array<EllipsoidZeile>({
-    {6377397.155, 299.15281},    // Bessel 1841
-    {6378388.0, 297.0},          // International (Hayford) 1924
-    {6378245.0, 298.3},          // Krassowsky 1940
-    {6378135.0, 298.26},         // WGS 72
-    {6378137.0, 298.257223563},  // WGS 84
-    {6378137.0, 298.257222101},  // GRS 80
+    {6377397.155, 299.15281, "Bessel"},
+    {6378388.0, 297.0, "Hayford"},
+    {6378245.0, 298.3, "Krassowsky"},
+    {6378135.0, 298.26, "WGS 72"},
+    {6378137.0, 298.257223563, "WGS 84"},
+    {6378137.0, 298.257222101, "GRS 80"},
 });
 
 // Ends the iteration where it would alternate or creep for ever, which needs a position within some ten
@@ -136,6 +138,10 @@ double Tan(double x) {
 
 bool EllipsoidBekannt(int nummer) {
     return nummer >= 1 && nummer <= static_cast<int>(kEllipsoide.size());
+}
+
+std::string_view EllipsoidName(int nummer) {
+    return EllipsoidBekannt(nummer) ? kEllipsoide[static_cast<std::size_t>(nummer - 1)].name : "";
 }
 
 Ellipsoid EllipsoidRadii(int nummer, Grad breite) {

@@ -71,6 +71,8 @@ struct GeographHoehe {
 /// Whether the number names an ellipsoid: 1 Bessel 1841, 2 International (Hayford) 1924, 3 Krassowsky 1940,
 /// 4 WGS 72, 5 WGS 84, 6 GRS 80.
 [[nodiscard]] bool EllipsoidBekannt(int nummer);
+/// What it is called, UTF-8; empty for an unknown number.
+[[nodiscard]] std::string_view EllipsoidName(int nummer);
 
 /// Ellipsoid `nummer` with its radii of curvature at latitude `breite` [deg]. An unknown number computes with
 /// Bessel; telling the user (`kUnbekanntesEllipsoid`) is the caller's business.

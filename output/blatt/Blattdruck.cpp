@@ -1,7 +1,6 @@
 #include "output/blatt/Blattdruck.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
@@ -15,9 +14,6 @@
 
 namespace zrw {
 namespace {
-
-constexpr std::array<const char*, 7> kEllipsoide{"",       "Bessel", "Hayford", "Krassowsky",
-                                                 "WGS 72", "WGS 84", "GRS 80"};
 
 Schriftfeldtexte Texte(const Bildvorlage& v, const Zeichenmittel& mittel, const Blattauftrag& a,
                        std::size_t nummer) {
@@ -51,9 +47,8 @@ std::string Koordinatensystem(const Netzangaben& netz) {
     } else {
         name = "Geographisch";
     }
-    const auto nummer = static_cast<std::size_t>(netz.Ellipsoid);
-    if (netz.EllipsoidGenannt && nummer < kEllipsoide.size() && nummer > 0)
-        name += std::string(", ") + kEllipsoide[nummer];
+    if (netz.EllipsoidGenannt && EllipsoidBekannt(netz.Ellipsoid))
+        name += ", " + std::string(EllipsoidName(netz.Ellipsoid));
     return Utf8NachCp1252(name);
 }
 
