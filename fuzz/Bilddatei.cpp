@@ -180,7 +180,7 @@ void PruefeEingabe(std::string_view eingabe) {
     const zrw::Festuhr uhr;
     zrw::Figurenzeichner z(zustand, einstellungen, netz, uhr);
     PasseInsFenster(*liste);
-    liste->ShowGitter = liste->ShowKMQ = liste->ShowLegende = true;
+    liste->ShowGitter = liste->ShowKMQ = liste->ShowLegende = liste->ShowErklaerung = true;
     liste->ShowLgRes = liste->ShowHRes = liste->ShowLGGen = liste->ShowHGen = true;
     Wildergebnisse ergebnisse;
     zustand.Ergebnisse = &ergebnisse;
@@ -189,7 +189,7 @@ void PruefeEingabe(std::string_view eingabe) {
     zrw::fuzz::BedieneListe(*liste, z);
     zustand.modus = zrw::Zeichenmodus::Drucker;
     zustand.Geraetefaktor = 6.25;
-    zustand.KurzeNummern = true;
+    zustand.KurzeNummern = zustand.Halo = true;
     liste->ShowPicture(z);
     const zrw::Zeichenmittel mittel{zustand, einstellungen, netz, uhr};
     PruefeExport(*liste, mittel);
