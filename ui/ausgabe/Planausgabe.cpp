@@ -133,6 +133,10 @@ QStringList Planausgabe::Abweichungen(const Format& format, const Ausgabeauftrag
     if (mitLegende && !GleicheLegende(plan_.Daten()->Legend, plan_.Abgelegt().legende))
         texte << QStringLiteral(
             "Text und Ort der Legende sind geändert; der Befehl kennt nur die der Datei.");
+    const bool erklaert = std::count(auftrag.ein.begin(), auftrag.ein.end(), "zeichenerklaerung") > 0;
+    if (erklaert && plan_.Daten()->Erklaerungsort)
+        texte << QStringLiteral(
+            "Die Zeichenerklärung ist verschoben; der Befehl kennt nur ihren üblichen Ort.");
     const Netzangaben uebliche;
     const Netzangaben& netz = programm_.netz;
     const bool gitter = std::any_of(auftrag.ein.begin(), auftrag.ein.end(), [](const std::string& n) {
