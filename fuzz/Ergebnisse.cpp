@@ -10,10 +10,14 @@
 #include "fuzz/Proben.h"
 #include "input/Steuerdatei.h"
 #include "input/tabellen/Anzeigetext.h"
+#include "input/tabellen/Beobachtungsleser.h"
 #include "input/tabellen/Ergebnisabfragen.h"
 #include "input/tabellen/MarkiereFehler.h"
 #include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
+#include "model/ergebnisse/Listenordnung.h"
+#include "model/ergebnisse/Statistik.h"
+#include "output/ergebnisse/Beobachtungsdatei.h"
 #include "tests/hilfe/Speicherdateien.h"
 
 namespace {
@@ -59,6 +63,24 @@ void FrageTabelle(TDM& daten, Tabelle tabelle) {
     }
 }
 
+/// The list of observations: in any order, as files, and counted; every row once.
+void ListeBeobachtungen(TDM& daten, Dateien& dateien) {
+    const Beobachtungsliste liste = LiesBeobachtungen(daten);
+    for (std::size_t s = 0; s < kListenspalten.size(); ++s) {
+        const auto zeilen = OrdneZeilen(liste, {}, {static_cast<Listenspalte>(s), s % 2 == 0, s % 3 == 0});
+        fuzz::VerlangeBedingung(zeilen.size() == liste.zeilen.size(), "jede Zeile einmal");
+    }
+    SchreibeBeobachtungen(liste, dateien.BeginneDatei("netz/liste"));
+    SchreibeStatistik(liste, dateien.BeginneDatei("netz/statistik"));
+    for (const Beobachtungsgattung& g : kBeobachtungsgattungen) {
+        const Gattungsstatistik s = Zaehle(liste, g.tabelle, kUeblicheTestgrenze);
+        fuzz::VerlangeBedingung(s.tgUnter1 <= s.tgUnter2 && s.tgUnter2 <= s.mitTG && s.mitTG <= s.anzahl,
+                                "Anteile sind Teile des Ganzen");
+        const Histogramm h = ZaehleKlassen(liste, Messwert::TG, g.tabelle, 5.0, 20);
+        fuzz::VerlangeBedingung(h.gesamt == s.mitTG, "ein Histogramm zählt alle");
+    }
+}
+
 void PruefeTabelle(Tabelle tabelle, std::string_view bytes) {
     Speicherdateien dateien;
     const std::string ordner = std::string(kOrdner) + "/";
@@ -80,6 +102,7 @@ void PruefeTabelle(Tabelle tabelle, std::string_view bytes) {
         daten.ErneuereErgebnisse();
         for (const char* nummer : {"A", "B", "", "14 Zeichen lang"})
             (void)daten.ErgebnisZu(nummer);
+        ListeBeobachtungen(daten, dateien);
         (void)daten.NimmMeldungen();
     }
     fuzz::PruefeListe(liste);

@@ -122,6 +122,7 @@ bool TDM::AktualisiereTabelle(Tabelle tabelle) {
         ImportiereTabelle(tabelle, *datei, *jetzt);
     } catch (const Fehler& f) {
         if (!stand) throw;
+        stand->grund = f.what();
         meldungen_.push_back({std::string(f.what()) + " Es gelten die zuletzt gelesenen Werte.", true});
         // What may only be locked is tried again.
         if (dynamic_cast<const Oeffnungsfehler*>(&f) == nullptr) stand->gescheitert = jetzt;
@@ -142,7 +143,7 @@ void TDM::ImportiereTabelle(Tabelle tabelle, const std::filesystem::path& datei,
         spalten.push_back(f.name);
     datenbank_.ErsetzeTabelle(Beschreibung(tabelle).name, spalten, kSuchfelder,
                               [&](const Datenbank::Zeilenziel& ziel) { leser.FuerJedeZeile(ziel); });
-    staende_[Nummer(tabelle)] = Stand{datei, stand, leser.Felder(), {}};
+    staende_[Nummer(tabelle)] = Stand{datei, stand, leser.Felder(), {}, {}};
 }
 
 TDM::Mangel TDM::PruefeFelder(Tabelle tabelle, std::span<const std::string_view> felder) {
@@ -185,6 +186,30 @@ Antwort TDM::FrageTabelle(Tabelle tabelle, std::string_view abfrage) {
     Antwort antwort = datenbank_.StelleAbfrage(std::string(abfrage) + (geordnet ? "" : " order by rowid"));
     OrdneSpalten(antwort, t.felder);
     return antwort;
+}
+
+std::optional<Dateistand> TDM::StandVon(Tabelle tabelle) const {
+    const auto datei = Datei(tabelle);
+    return datei ? dateien_.Stand(*datei) : std::nullopt;
+}
+
+std::optional<std::vector<bool>> TDM::LiesZeilen(Tabelle tabelle, std::span<const std::string_view> felder,
+                                                 const std::function<void(std::span<const Zelle>)>& tun) {
+    if (!AktualisiereTabelle(tabelle)) return std::nullopt;
+    const Stand& stand = *staende_[Nummer(tabelle)];
+    if (StandVon(tabelle) != stand.stand)
+        throw Fehler(stand.grund.empty() ? "Die Tabelle ändert sich gerade." : stand.grund);
+    std::vector<bool> vorhanden;
+    std::string abfrage;
+    for (const std::string_view feld : felder) {
+        vorhanden.push_back(std::any_of(stand.felder.begin(), stand.felder.end(),
+                                        [&](const auto& f) { return GleichesFeld(f.name, feld); }));
+        abfrage += abfrage.empty() ? "SELECT " : ",";
+        abfrage += vorhanden.back() ? '"' + std::string(feld) + '"' : std::string("NULL");
+    }
+    datenbank_.FuerJedeZeile(abfrage + " from " + std::string(Beschreibung(tabelle).name) + " order by rowid",
+                             tun);
+    return vorhanden;
 }
 
 TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) const {

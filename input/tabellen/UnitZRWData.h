@@ -4,6 +4,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -50,6 +51,15 @@ class TDM final : public Punktergebnisse {
     };
     [[nodiscard]] Mangel PruefeFelder(Tabelle tabelle, std::span<const std::string_view> felder);
 
+    /// Calls `tun` with these fields of each row, in the order of the file; those that the table has not are
+    /// null. Only the table as it now is answers, not what was read before.
+    /// @return which of the fields it has; nothing where there is no table
+    /// @throws Fehler where it cannot be read
+    std::optional<std::vector<bool>> LiesZeilen(Tabelle tabelle, std::span<const std::string_view> felder,
+                                                const std::function<void(std::span<const Zelle>)>& tun);
+    /// Of its file; nothing where there is none.
+    [[nodiscard]] std::optional<Dateistand> StandVon(Tabelle tabelle) const;
+
     /// Failures are kept for `NimmMeldungen`, once for each state of the file; the old results then stay.
     void ErneuereErgebnisse() override;
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override;
@@ -64,6 +74,7 @@ class TDM final : public Punktergebnisse {
         Dateistand stand;
         std::vector<paradox::Feld> felder;
         std::optional<Dateistand> gescheitert;  ///< later state that could not be read
+        std::string grund;                      ///< why that, or the last try, failed
     };
     /// Results and the way to them: a picture asks once for every point.
     struct Punkttafel {

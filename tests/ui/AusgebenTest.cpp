@@ -101,6 +101,8 @@ TEST_F(Ausgabefenster, BefehlSchreibtDieselbenBytes) {
           [](const QDialog& d) { Feld<QComboBox>(d, "BlattStift").setCurrentIndex(2); },
           [](const QDialog& d) { Feld<QLineEdit>(d, "BlattFirma").setText("Büro 'Süd'"); }}},
         {"geojson", {}},
+        {"liste", {}},
+        {"statistik", {}},
         {"dxf", {massstab, kreuz("Schalter-np", false)}},
         {"plt", {[](const QDialog& d) { Feld<QSpinBox>(d, "AusgabeAufloesung").setValue(96); }}},
     };

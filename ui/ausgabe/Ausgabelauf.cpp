@@ -70,7 +70,8 @@ Ausgabe AusgabeVon(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag, c
 bool SchreibeAusgaben(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag,
                       const std::filesystem::path& ordner, const std::vector<Ausgabeziel>& ziele, TDM& daten,
                       const Sprecher& sage) {
-    const Ausgabe ausgabe = AusgabeVon(quelle, auftrag, sage);
+    Ausgabe ausgabe = AusgabeVon(quelle, auftrag, sage);
+    ausgabe.daten = &daten;
     std::error_code fehler;
     // The folder itself is made where its parent exists; writing tells whatever else is wrong with it.
     if (!ordner.empty()) std::filesystem::create_directory(ordner, fehler);

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 
+#include "input/tabellen/Beobachtungsleser.h"
 #include "model/Aufzaehltafel.h"
 #include "model/Bilddatei.h"
 #include "model/Cp1252.h"
@@ -18,6 +19,7 @@
 #include "output/Geojson.h"
 #include "output/Pdfflaeche.h"
 #include "output/Svgflaeche.h"
+#include "output/ergebnisse/Beobachtungsdatei.h"
 #include "ui/bild/Bildflaeche.h"
 #include "ui/bild/Malerflaeche.h"
 #include "ui/bild/Schriftquelle.h"
@@ -174,6 +176,27 @@ void SchreibeGis(const Ausgabe& a, const std::filesystem::path& datei) {
     SchreibeGeojson(a.vorlage.netz, netz, a.einstellungen, a.zustand.Ergebnisse, a.dateien, datei);
 }
 
+using Listenschreiber = void (*)(const Beobachtungsliste& liste, std::unique_ptr<Dateischreiber> datei);
+
+/// What is there is written, and then told what is missing.
+void SchreibeListe(const Ausgabe& a, const std::filesystem::path& datei, Listenschreiber schreibe) {
+    const Beobachtungsliste liste = a.daten != nullptr ? LiesBeobachtungen(*a.daten) : Beobachtungsliste{};
+    schreibe(liste, a.dateien.BeginneDatei(datei));
+    std::string fehlende;
+    bool leer = true;
+    for (const Beobachtungsgattung& g : kBeobachtungsgattungen) {
+        const Lesezustand zustand = liste.Lage(g.tabelle).zustand;
+        leer = leer && zustand == Lesezustand::Fehlt;
+        if (zustand == Lesezustand::Unlesbar)
+            fehlende += (fehlende.empty() ? "" : ", ") + std::string(g.name);
+    }
+    if (leer)
+        a.sage(Fehler::Meldung("Beim Netz liegen keine Tabellen mit Beobachtungen; die Datei nennt keine.",
+                               PfadText(datei), 0));
+    if (!fehlende.empty())
+        throw Fehler("Ohne die Beobachtungen unlesbarer Tabellen: " + fehlende + ".", PfadText(datei));
+}
+
 constexpr auto kFormate = std::to_array<Format>({
     {"zrw", "Zarwikdatei (ZRW)", ".ZRW", {}, 0, &SchreibeZrw},
     {"png",
@@ -203,6 +226,18 @@ constexpr auto kFormate = std::to_array<Format>({
      kPlotname,
      kMitMassstab | kMitSchaltern | kOhneLegende,
      [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeExport(a, {.plot = d, .dxf = {}}); }},
+    {"liste",
+     "Liste der Beobachtungen (CSV)",
+     "_beobachtungen.csv",
+     {},
+     0,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeListe(a, d, &SchreibeBeobachtungen); }},
+    {"statistik",
+     "Statistik der Beobachtungen (JSON)",
+     "_statistik.json",
+     {},
+     0,
+     [](const Ausgabe& a, const std::filesystem::path& d) { SchreibeListe(a, d, &SchreibeStatistik); }},
 });
 
 static_assert(Verschieden(kFormate, &Format::name));

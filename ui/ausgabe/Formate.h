@@ -22,6 +22,8 @@ namespace zrw {
 /// Gets what the user should know of, a line in UTF-8.
 using Sprecher = std::function<void(const std::string& text)>;
 
+class TDM;
+
 /// What a format writes from. Nothing of it changes but the legend, which notes when it was drawn.
 struct Ausgabe {
     Bildvorlage vorlage;
@@ -41,7 +43,8 @@ struct Ausgabe {
     bool kantig;                 ///< pictures without smooth edges
     bool ausBild;                ///< from a picture file
     Sprecher sage;
-    std::string eingabe;  ///< name of the input without folder and extension, UTF-8
+    std::string eingabe;   ///< name of the input without folder and extension, UTF-8
+    TDM* daten = nullptr;  ///< the tables of the adjustment; null: none are known
 };
 
 // What applies to a format.

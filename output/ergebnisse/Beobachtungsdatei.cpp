@@ -1,0 +1,110 @@
+#include "output/ergebnisse/Beobachtungsdatei.h"
+
+#include <string_view>
+#include <utility>
+
+#include "model/Cp1252.h"
+#include "model/Zahlentext.h"
+#include "model/ergebnisse/Listenordnung.h"
+#include "model/ergebnisse/Statistik.h"
+#include "output/Textausgabe.h"
+
+namespace zrw {
+namespace {
+
+constexpr char kTrenner = ';';
+
+/// In quotes where it would be taken for more than one field.
+std::string Feldtext(std::string_view text) {
+    if (text.find_first_of(";\"\r\n") == std::string_view::npos) return std::string(text);
+    std::string feld = "\"";
+    for (const char c : text) {
+        feld += c;
+        if (c == '"') feld += c;
+    }
+    return feld + '"';
+}
+
+std::string Feldtext(const Beobachtung& b, const Spaltenbeschreibung& s) {
+    if (s.wert) {
+        const double wert = b.Wert(*s.wert);
+        return std::isnan(wert) ? std::string() : SchreibeReal(wert);
+    }
+    if (s.spalte == Listenspalte::Tabelle) return std::string(ZurGattung(b.tabelle).name);
+    if (s.spalte == Listenspalte::ID) return b.idBekannt ? std::to_string(b.id) : std::string();
+    if (s.spalte == Listenspalte::Von) return Feldtext(Cp1252NachUtf8(b.von.Text()));
+    if (s.spalte == Listenspalte::Nach) return Feldtext(Cp1252NachUtf8(b.nach.Text()));
+    return (s.spalte == Listenspalte::FF ? b.ff : b.nk) ? "1" : "0";
+}
+
+/// Members of a JSON object, one after the other.
+class Glieder {
+  public:
+    void NimmGlied(std::string_view name, const std::string& wert) {
+        text_ += text_.empty() ? "{\"" : ",\"";
+        text_ += std::string(name) + "\":" + wert;
+    }
+    void NimmAnzahl(std::string_view name, std::size_t anzahl) { NimmGlied(name, std::to_string(anzahl)); }
+    [[nodiscard]] std::string Objekt() const { return text_.empty() ? "{}" : text_ + '}'; }
+
+  private:
+    std::string text_;
+};
+
+std::string Objekt(const Tabellenlage& lage, const Gattungsstatistik& s) {
+    Glieder glieder;
+    glieder.NimmAnzahl("n", s.anzahl);
+    if (lage.hatFF) glieder.NimmAnzahl("ff", s.markiert);
+    if (lage.hatNK) glieder.NimmAnzahl("nk", s.unkontrolliert);
+    if (lage.HatWert(Messwert::TG)) {
+        glieder.NimmAnzahl("tg_unter_1", s.tgUnter1);
+        glieder.NimmAnzahl("tg_unter_2", s.tgUnter2);
+        if (s.groessteTG) glieder.NimmGlied("tg_max", SchreibeReal(*s.groessteTG));
+    }
+    return glieder.Objekt();
+}
+
+void Schliesse(Textausgabe& aus) {
+    aus.SichereDatei();
+    aus.ErsetzeZiel();
+}
+
+}  // namespace
+
+std::string Spaltenzeile() {
+    std::string zeile;
+    for (const Spaltenbeschreibung& s : kListenspalten)
+        zeile += (zeile.empty() ? std::string() : std::string(1, kTrenner)) + std::string(s.name);
+    return zeile;
+}
+
+std::string Beobachtungszeile(const Beobachtung& b) {
+    std::string zeile;
+    for (const Spaltenbeschreibung& s : kListenspalten) {
+        if (s.spalte != Listenspalte::Tabelle) zeile += kTrenner;
+        zeile += Feldtext(b, s);
+    }
+    return zeile;
+}
+
+void SchreibeBeobachtungen(const Beobachtungsliste& liste, std::unique_ptr<Dateischreiber> datei) {
+    Textausgabe aus(std::move(datei));
+    aus.NimmText(Spaltenzeile() + '\n');
+    for (const std::uint32_t i : OrdneZeilen(liste, {}, {}))
+        aus.NimmText(Beobachtungszeile(liste.zeilen[i]) + '\n');
+    Schliesse(aus);
+}
+
+void SchreibeStatistik(const Beobachtungsliste& liste, std::unique_ptr<Dateischreiber> datei) {
+    Glieder tabellen;
+    for (const Beobachtungsgattung& g : kBeobachtungsgattungen) {
+        const Tabellenlage& lage = liste.Lage(g.tabelle);
+        if (lage.zustand == Lesezustand::Gelesen)
+            tabellen.NimmGlied(g.name, Objekt(lage, Zaehle(liste, g.tabelle, kUeblicheTestgrenze)));
+    }
+    Textausgabe aus(std::move(datei));
+    aus.NimmText("{\"tabellen\":" + tabellen.Objekt() + "}\n");
+    Schliesse(aus);
+}
+
+}  // namespace zrw
