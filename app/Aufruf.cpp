@@ -100,6 +100,35 @@ std::vector<std::string> LiesSchalter(const std::string& liste) {
     return namen;
 }
 
+Einfaerbung LiesEinfaerbungstext(const std::string& text) {
+    const Einfaerbungstext gelesen = LiesEinfaerbung(text);
+    if (gelesen.wahl) return *gelesen.wahl;
+    throw Falschaufruf{"--einfaerben: " + gelesen.fehler};
+}
+
+void NimmKategorien(Linienfilter& filter, const std::string& liste) {
+    for (const std::string& name : TeileListe(liste)) {
+        const auto* zeile = std::find_if(kLinienkategorien.begin(), kLinienkategorien.end(),
+                                         [&](const Kategoriezeile& z) { return z.name == name; });
+        if (zeile == kLinienkategorien.end()) {
+            throw Falschaufruf{"--nur kennt richtungen, strecken, hoehen und gps, nicht \"" + name + "\""};
+        }
+        filter.kategorien[static_cast<std::size_t>(zeile->kategorie)] = true;
+    }
+}
+
+/// Some values can be compared within one kind of observations only: that which alone is drawn.
+void PruefeFaerbung(Planfaerbung& f) {
+    if (!f.einfaerbung || !ZurGroesse(f.einfaerbung->groesse).nurJeGattung) return;
+    const auto& gewaehlt = f.filter.kategorien;
+    if (std::count(gewaehlt.begin(), gewaehlt.end(), true) != 1) {
+        throw Falschaufruf{"--einfaerben " + std::string(ZurGroesse(f.einfaerbung->groesse).name) +
+                           " vergleicht nur Beobachtungen einer Art; bitte mit --nur eine wählen"};
+    }
+    const auto stelle = std::find(gewaehlt.begin(), gewaehlt.end(), true) - gewaehlt.begin();
+    f.einfaerbung->gattung = kLinienkategorien[static_cast<std::size_t>(stelle)].tabelle;
+}
+
 void HaengeFormateAn(std::vector<std::string>& ziel, std::vector<std::string> neue) {
     ziel.insert(ziel.end(), neue.begin(), neue.end());
 }
@@ -140,6 +169,9 @@ constexpr auto kOptionen = std::to_array<Option>({
     {"--alle-blaetter", [](Aufruf& a, const std::string& /*w*/) { a.alleBlaetter = true; }, false},
     {"--kantig", [](Aufruf& a, const std::string& /*w*/) { a.kantig = true; }, false},
     {"--nummern-ordnen", [](Aufruf& a, const std::string& w) { a.ordnen = LiesNummernziel(w); }},
+    {"--einfaerben",
+     [](Aufruf& a, const std::string& w) { a.faerbung.einfaerbung = LiesEinfaerbungstext(w); }},
+    {"--nur", [](Aufruf& a, const std::string& w) { NimmKategorien(a.faerbung.filter, w); }},
     {"--ein", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.aus, LiesSchalter(w)); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
@@ -183,6 +215,7 @@ Aufruf LiesAufruf(const std::vector<std::string>& worte) {
         }
     }
     if (a.auftrag == Auftrag::Fenster && mitOption) throw Falschaufruf{"Optionen gelten nur mit --export"};
+    PruefeFaerbung(a.faerbung);
     if (a.auftrag == Auftrag::Stapel && a.datei.empty()) throw Falschaufruf{"Es fehlt der Name der Datei"};
     return a;
 }
@@ -220,6 +253,9 @@ std::string Hilfetext() {
            "  --kantig               Bilder (png, bmp) ohne geglättete Kanten\n"
            "  --nummern-ordnen bild  vorher Plätze für die Punktnummern suchen: für das Bild\n"
            "                         oder mit \"druck\" für Maßstab und Auflösung des Drucks\n"
+           "  --einfaerben TG        Linien oder Punkte in Klassen eines Ergebnisses, auch mit Grenzen\n"
+           "                         (TG:1,2,3.3) oder TG:quantile5, TG:gleich4 (png, bmp, svg, pdf)\n"
+           "  --nur LISTE            nur Linien mit richtungen, strecken, hoehen, gps (ebenso)\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"

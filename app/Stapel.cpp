@@ -72,6 +72,7 @@ bool ExportiereNetz(const Aufruf& aufruf) {
     TDM daten(dateien);
     const bool lesbar = WaehleErgebnisse(aufruf, daten, liste, einstellungen);
     zustand.Ergebnisse = &daten;
+    SetzeFaerbung(aufruf, liste, liste, daten, &DruckeZeile);
     OrdneNummern(quelle, aufruf, liste, &DruckeZeile);
     return SchreibeAusgaben(quelle, aufruf, TextPfad(aufruf.ziel), Ziele(aufruf, datei), daten,
                             &DruckeZeile) &&

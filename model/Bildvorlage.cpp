@@ -23,16 +23,20 @@ void ZeichneKanten(const Bildvorlage& v, Zeichner& z) {
     Gezeigt gezeigt(v.netz, v.darstellung);
     Bildorte orte(v.netz, v.ansicht);
     for (const PunktKante* k = v.netz.KanteKnoten; k != nullptr; k = k->Next) {
-        if (v.Gezeichnet(*k) && gezeigt(*k))
-            z.ZeichneKante(*k->Item, orte.Anfang(*k), orte.Ende(*k), Gang::Zeigen);
+        if (!v.Gezeichnet(*k) || !gezeigt(*k)) continue;
+        z.SetzeStil(v.StilVon(*k));
+        z.ZeichneKante(*k->Item, orte.Anfang(*k), orte.Ende(*k), Gang::Zeigen);
     }
+    z.SetzeStil(nullptr);
 }
 
 void ZeichnePunkte(const Bildvorlage& v, Zeichner& z) {
     for (const PunktKnoten* p = v.netz.PunktKnoten; p != nullptr; p = p->Next) {
-        if (v.Gezeichnet(*p) && v.darstellung.Dargestellt(*p->Item))
-            p->Item->ZeigeSymbolBei(BildortVon(*p, v.ansicht), z);
+        if (!v.Gezeichnet(*p) || !v.darstellung.Dargestellt(*p->Item)) continue;
+        z.SetzeStil(v.StilVon(*p));
+        p->Item->ZeigeSymbolBei(BildortVon(*p, v.ansicht), z);
     }
+    z.SetzeStil(nullptr);
 }
 
 void ZeichneTexte(const Bildvorlage& v, Zeichner& z) {
@@ -56,7 +60,7 @@ void ZeichneFiguren(const Bildvorlage& v, Zeichner& z) {
     if (d.ShowLegende && v.legende != nullptr && (v.ohne == nullptr || !v.ohne->legende)) v.legende->Show(z);
     z.ZeichnePunktRes(v);
     z.DrawResMasstab(v);
-    if (d.ShowErklaerung && (v.ohne == nullptr || !v.ohne->erklaerung)) z.ZeichneErklaerung(v);
+    if (d.ZeigtErklaerung() && (v.ohne == nullptr || !v.ohne->erklaerung)) z.ZeichneErklaerung(v);
     if (d.ShowMassbalken) z.ZeichneMassbalken(v);
 }
 

@@ -43,6 +43,14 @@ struct Bildvorlage {
     [[nodiscard]] bool Gezeichnet(const Knoten& k) const {
         return k.Item->Visible && (ohne == nullptr || !ohne->HatFigur(k));
     }
+    [[nodiscard]] bool Gezeichnet(const PunktKante& k) const {
+        return k.Item->Visible && darstellung.Gewaehlt(k) && (ohne == nullptr || !ohne->HatFigur(k));
+    }
+    /// Null: as the figure is.
+    template <class Knoten>
+    [[nodiscard]] const Figurstil* StilVon(const Knoten& k) const {
+        return darstellung.Stile != nullptr ? darstellung.Stile->StilVon(k) : nullptr;
+    }
 };
 
 /// The kinds of both points of a line are switched on.

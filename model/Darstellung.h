@@ -1,9 +1,11 @@
 // What of a network is shown, and the texts that stand beside it: a value.
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "model/Figuren.h"
+#include "model/ergebnisse/Figurenstile.h"
 
 namespace zrw {
 
@@ -28,6 +30,8 @@ struct Darstellung {
     bool ShowErklaerung = false;
     /// From the picture's top-right corner to that of the key [px]; none: where the drawing puts it.
     std::optional<Bildpunkt> Erklaerungsort{};
+    /// Figures in classes of a result, or left out; null: all as they are. Made for the network that is shown.
+    std::shared_ptr<const Figurenstile> Stile{};
     std::optional<Legende> Legend{Legende::Create()};
 
     /// The point's kind is switched on.
@@ -35,6 +39,14 @@ struct Darstellung {
     /// Point numbers are. Switching the auxiliary points off hides every label, not only theirs: users know
     /// it that way.
     [[nodiscard]] bool ZeigtNummern() const { return ShowPktText && ShowHilfP; }
+    /// The line is not among those that are left out.
+    [[nodiscard]] bool Gewaehlt(const PunktKante& k) const {
+        return Stile == nullptr || !Stile->Weggelassen(k);
+    }
+    /// There is a key: that of the plan, or of classes alone.
+    [[nodiscard]] bool ZeigtErklaerung() const {
+        return ShowErklaerung || (Stile != nullptr && !Stile->zeilen.empty());
+    }
     /// Whether any of the overlays with results is on, with the scale bar that comes with them.
     [[nodiscard]] bool ZeigtErgebnisse() const {
         return ShowLgRes || ShowHRes || ShowLGGen || LGGenOn || ShowHGen;

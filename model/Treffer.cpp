@@ -111,7 +111,7 @@ PPunktKante Treffersuche::Kante(Bildpunkt maus) const {
     for (const std::uint32_t folge : nahe) {
         if (!netz_.BeruehrtVielleicht(netz_.Enden(folge), dort)) continue;
         PunktKante& k = netz_.KanteNach(folge);
-        if ((gezeigt_ == nullptr || k.Item->Visible) &&
+        if ((gezeigt_ == nullptr || (k.Item->Visible && gezeigt_->Gewaehlt(k))) &&
             TrifftMaus(AnfangVon(k, netz_, ansicht_), EndeVon(k, netz_, ansicht_), maus, fang_) &&
             Gezeigt(k.ANr) && Gezeigt(k.ENr))
             return &k;

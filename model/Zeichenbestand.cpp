@@ -73,7 +73,9 @@ Zeichenbestand::Zeichenbestand(const Netz& netz, const Darstellung& darstellung)
     Gezeigt gezeigt(netz, darstellung);
     ZaehleFiguren(
         netz, [&](const PunktKnoten& p) { return p.Item->Visible && darstellung.Dargestellt(*p.Item); },
-        [&](const PunktKante& k) { return darstellung.ShowBeob && k.Item->Visible && gezeigt(k); });
+        [&](const PunktKante& k) {
+            return darstellung.ShowBeob && k.Item->Visible && darstellung.Gewaehlt(k) && gezeigt(k);
+        });
 }
 
 }  // namespace zrw

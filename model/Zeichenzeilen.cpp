@@ -17,7 +17,6 @@ constexpr std::string_view kLinien = "Linienarten";
 constexpr std::string_view kMarken = "Beobachtungen an den Linien";
 constexpr std::string_view kSymbole = "Punktsymbole";
 constexpr std::string_view kPunktfarben = "Farben der Punkte";
-constexpr std::string_view kLinienfarben = "Farben der Linien";
 
 std::string Linientext(const Linienart& art) {
     const std::string text(art.bezeichnung.empty() ? "ohne Richtung" : art.bezeichnung);

@@ -19,6 +19,9 @@ struct Zeichenzeile {
     std::variant<std::monostate, Punkt, Kante> muster = {};  ///< looks like those; its place means nothing
 };
 
+/// Heading of the rows of line colours.
+inline constexpr std::string_view kLinienfarben = "Farben der Linien";
+
 /// Line styles, marks, symbols, and the colours of points and lines, each with how often.
 [[nodiscard]] std::vector<Zeichenzeile> BaueZeichenzeilen(const Zeichenbestand& bestand,
                                                           const Einstellungen& einstellungen);

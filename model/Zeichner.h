@@ -10,6 +10,7 @@
 namespace zrw {
 
 struct Bildvorlage;
+struct Figurstil;
 
 /// A figure is drawn in its own colour, or wiped by drawing the same shape in white.
 enum class Gang : std::uint8_t { Zeigen, Wischen };
@@ -21,6 +22,9 @@ class Zeichner {
     /// Fills (0, 0) to (weite, hoehe) [px] with white.
     virtual void ClearPicture(std::int32_t weite, std::int32_t hoehe) = 0;
     // Figures at their places in the picture [px]; where they were drawn last does not count.
+    /// How the next lines and points are drawn, whatever their own colour; null: as they are. Files do not
+    /// heed it.
+    virtual void SetzeStil(const Figurstil* /*stil*/) {}
     virtual void ZeichnePunkt(const Punkt& punkt, Bildpunkt ort, Gang gang) = 0;
     virtual void ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpunkt ende, Gang gang) = 0;
     /// @param ort position that the label's offset counts from

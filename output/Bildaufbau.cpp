@@ -159,7 +159,9 @@ bool Bildaufbau::Dicht() const {
 void Bildaufbau::ZeichnePunkte(bool vonVorn) {
     FuerAlle(punkte_, vonVorn, [&](std::size_t i) {
         const Bildpunkt ort = punktorte_[i];
-        if (!vonVorn || !Verdeckt(ort, ort, r_.symbol)) punkte_[i]->Item->ZeigeSymbolBei(ort, zeichner_);
+        if (vonVorn && Verdeckt(ort, ort, r_.symbol)) return;
+        if (v_.darstellung.Stile != nullptr) zeichner_.SetzeStil(v_.StilVon(*punkte_[i]));
+        punkte_[i]->Item->ZeigeSymbolBei(ort, zeichner_);
     });
 }
 
@@ -167,7 +169,9 @@ void Bildaufbau::ZeichneKante(const PunktKante& k) {
     if (!v_.Gezeichnet(k) || !gezeigt_(k)) return;
     const Bildpunkt anfang = orte_.Anfang(k);
     const Bildpunkt ende = orte_.Ende(k);
-    if (BeruehrtBereich(anfang, ende, linien_)) zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
+    if (!BeruehrtBereich(anfang, ende, linien_)) return;
+    if (v_.darstellung.Stile != nullptr) zeichner_.SetzeStil(v_.StilVon(k));
+    zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
 }
 
 /// Prefetches both points of a line.
@@ -243,6 +247,7 @@ void Bildaufbau::ZeichneNetz() {
         ZeichnePunkte(false);
         ZeichneTexte(false);
     }
+    zeichner_.SetzeStil(nullptr);
 }
 
 }  // namespace zrw

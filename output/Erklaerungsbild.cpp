@@ -25,8 +25,17 @@ constexpr std::string_view kTitel = "Zeichenerklärung";
 Erklaerungsbild::Erklaerungsbild(const Zeichenzustand& zustand, const Einstellungen& groessen,
                                  const Bildvorlage& v, Zeichner& zeichner, std::int64_t symbolhoehe,
                                  const std::vector<Zeichenzeile>& zeilen)
-    : zustand_(zustand), groessen_(groessen), v_(v), zeichner_(zeichner), flaeche_(*zustand.flaeche) {
+    : zustand_(zustand),
+      groessen_(groessen),
+      v_(v),
+      zeichner_(zeichner),
+      flaeche_(*zustand.flaeche),
+      titel_(Utf8NachCp1252(kTitel)) {
     for (const Zeichenzeile& z : zeilen) {
+        // Lines that are coloured by a result do not show their own colours.
+        if (z.gruppe == kLinienfarben && v.darstellung.Stile != nullptr &&
+            !v.darstellung.Stile->kanten.empty())
+            continue;
         if (const auto* punkt = std::get_if<Punkt>(&z.muster)) {
             NimmZeile(z.text,
                       [this, punkt](Bildpunkt m) { zeichner_.ZeichnePunkt(*punkt, m, Gang::Zeigen); });
@@ -37,7 +46,8 @@ Erklaerungsbild::Erklaerungsbild(const Zeichenzustand& zustand, const Einstellun
             });
         }
     }
-    NimmErgebnisse();
+    if (v_.darstellung.Stile != nullptr) NimmKlassen();
+    if (v_.darstellung.ShowErklaerung) NimmErgebnisse();
     zeilenhoehe_ = std::max<std::int64_t>(flaeche_.Texthoehe(), symbolhoehe) + Dots(2);
     if (!zeilen_.empty()) MissKasten();
 }
@@ -54,6 +64,31 @@ void Erklaerungsbild::Strich(Farbe farbe, Bildpunkt von, Bildpunkt nach) const {
     const Stiftwechsel stift(flaeche_, {farbe, 1, Strichart::Voll}, {kWeiss, true});
     if (const auto teil = SchneideLinieAb(von, nach, flaeche_.Grenzen()))
         flaeche_.Linie(teil->first, teil->second);
+}
+
+/// What the colours of a result stand for. Alone they have the box to themselves.
+void Erklaerungsbild::NimmKlassen() {
+    const Figurenstile& stile = *v_.darstellung.Stile;
+    if (!stile.zeilen.empty() && v_.darstellung.ShowErklaerung) {
+        NimmZeile(stile.titel, [](Bildpunkt /*m*/) {});
+    } else if (!stile.zeilen.empty()) {
+        titel_ = Utf8NachCp1252(stile.titel);
+    }
+    for (const Stilzeile& z : stile.zeilen) {
+        if (z.anzahl == 0) continue;
+        NimmZeile(z.text + " (" + std::to_string(z.anzahl) + ")", [this, &z, &stile](Bildpunkt m) {
+            const std::int64_t halb = Dots(kMusterweite / 2);
+            zeichner_.SetzeStil(&z.stil);
+            if (stile.punkte) {
+                zeichner_.ZeichnePunkt(Punkt::Create(PunktTyp::Krei, kSchwarz, PunktAttr::Em), m,
+                                       Gang::Zeigen);
+            } else {
+                zeichner_.ZeichneKante(Kante::Create(kSchwarz, {}, LinieAttr::AST), {m.x - halb, m.y},
+                                       {m.x + halb, m.y}, Gang::Zeigen);
+            }
+            zeichner_.SetzeStil(nullptr);
+        });
+    }
 }
 
 /// What is drawn of the adjustment's results, and how long they are drawn.
@@ -165,8 +200,8 @@ void Erklaerungsbild::MissKasten() {
     const std::int64_t spalten = (anzahl + jeSpalte_ - 1) / jeSpalte_;
     // Columns of one length.
     jeSpalte_ = (anzahl + spalten - 1) / spalten;
-    const std::int64_t weite = std::max<std::int64_t>(
-        spalten * spaltenweite_, flaeche_.Textbreite(Utf8NachCp1252(kTitel)) + 2 * Dots(kRand));
+    const std::int64_t weite =
+        std::max<std::int64_t>(spalten * spaltenweite_, flaeche_.Textbreite(titel_) + 2 * Dots(kRand));
     const std::int64_t hoehe = titel + jeSpalte_ * zeilenhoehe_;
     const Bildpunkt ecke = Ort(weite, hoehe);
     const Bildpunkt von{ecke.x - weite, ecke.y};
@@ -185,7 +220,7 @@ void Erklaerungsbild::ZeichneKasten() const {
     const auto schreibe = [&](std::int64_t x, std::int64_t y, std::string_view text) {
         flaeche_.Text(Aufflaeche({x, y}), text, kSchwarz);
     };
-    schreibe(umfang_.links + rand, umfang_.oben + rand, Utf8NachCp1252(kTitel));
+    schreibe(umfang_.links + rand, umfang_.oben + rand, titel_);
     const std::int64_t oben = umfang_.oben + 2 * rand + flaeche_.Texthoehe() - Dots(2);
     for (std::size_t i = 0; i < zeilen_.size(); ++i) {
         const auto stelle = static_cast<std::int64_t>(i);

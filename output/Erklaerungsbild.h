@@ -40,6 +40,7 @@ class Erklaerungsbild {
         std::function<void(Bildpunkt mitte)> male;
     };
 
+    void NimmKlassen();
     void NimmErgebnisse();
     void NimmMassstab();
     void NimmZeile(std::string_view text, std::function<void(Bildpunkt mitte)> male);
@@ -54,6 +55,7 @@ class Erklaerungsbild {
     const Bildvorlage& v_;
     Zeichner& zeichner_;
     Zeichenflaeche& flaeche_;
+    std::string titel_;  ///< code page 1252
     std::vector<Zeile> zeilen_;
     std::int64_t zeilenhoehe_ = 0;
     std::int64_t spaltenweite_ = 0;

@@ -38,7 +38,10 @@ void ExportierePlan(const Bildvorlage& v, const Zeichenmittel& mittel, Dateien& 
         zustand.Dxf = &zeichnung;
     }
     Figurenzeichner zeichner(zustand, mittel.einstellungen, mittel.netz, mittel.uhr);
-    ZeichneBild(v.InAnsicht(ansicht), zeichner);
+    // Files of the plan hold all of it, in its own colours.
+    Darstellung ohneStile = v.darstellung;
+    ohneStile.Stile.reset();
+    ZeichneBild({v.netz, ansicht, ohneStile, v.legende, v.ohne}, zeichner);
     // Both files are whole on the disk before the first takes its place.
     zeichnung.DxfClose();
     if (plot) {

@@ -96,6 +96,12 @@ std::int64_t Figurenzeichner::Stiftrand() const {
     return zustand_.Pixeldichte > 1.0 ? static_cast<std::int64_t>(std::ceil(zustand_.Pixeldichte)) : 0;
 }
 
+/// What classes add to symbols and lines [dots].
+std::int64_t Figurenzeichner::Stilrand() const {
+    return stilzuwachs_ == 0 ? 0
+                             : RundeZuInt64(std::ceil(static_cast<double>(stilzuwachs_) * zustand_.Dichte()));
+}
+
 /// Of the rim round labels [dots].
 std::int64_t Figurenzeichner::Halobreite() const {
     return zustand_.Halo ? std::max<std::int64_t>(RundeZuInt64(zustand_.Dichte()), 1) : 0;
@@ -108,7 +114,7 @@ std::int64_t Figurenzeichner::Symbolreichweite() const {
     std::apply(
         [&](const auto&... s) { ((groesste = std::max(groesste, std::max(e.*s.quer, e.*s.laengs))), ...); },
         kPunktsymbole);
-    return groesste + 1 + Stiftrand();
+    return groesste + 1 + Stiftrand() + Stilrand();
 }
 
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
@@ -116,21 +122,23 @@ void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
     Zeichenflaeche* f = zustand_.flaeche;
     if (f != nullptr && !InReichweite(m, Symbolreichweite(), f->Ausschnitt())) f = nullptr;
     const Symbolziel ziel{f, Plot(gang), Dxf(gang)};
-    const Farbe farbe = gang == Gang::Wischen ? kWeiss : punkt.Farbe;
+    const Farbe farbe = gang == Gang::Wischen ? kWeiss : stil_ != nullptr ? stil_->farbe : punkt.Farbe;
     std::optional<Stiftwechsel> wechsel;
     if (f != nullptr) {
         wechsel.emplace(*f, Stift{farbe, 1, Strichart::Voll},
-                        Pinsel{punkt.PktAttr == PunktAttr::Fu ? farbe : kWeiss, false});
+                        Pinsel{stil_ != nullptr || punkt.PktAttr == PunktAttr::Fu ? farbe : kWeiss, false});
     }
     if (const Punktsymbol* symbol = ZumSymbol(punkt.PktTyp); symbol != nullptr)
         ZeichneSymbol(ziel, m, *symbol);
 }
 
 void Figurenzeichner::ZeichneSymbol(const Symbolziel& ziel, Bildpunkt m, const Punktsymbol& symbol) const {
-    const std::int64_t quer = einstellungen_.*symbol.quer;
-    const std::int64_t laengs = einstellungen_.*symbol.laengs;
+    // The most remarkable class has the largest symbols, too.
+    const std::int64_t zuwachs = stil_ != nullptr ? RundeZuInt64((stil_->breite - 1) * zustand_.Dichte()) : 0;
+    const std::int64_t quer = einstellungen_.*symbol.quer + zuwachs;
+    const std::int64_t laengs = einstellungen_.*symbol.laengs + zuwachs;
     if (symbol.ecken.empty())
-        return Scheibe(ziel, m, einstellungen_.*symbol.quer, symbol.form == Symbolform::Kreis);
+        return Scheibe(ziel, m, static_cast<std::int32_t>(quer), symbol.form == Symbolform::Kreis);
     std::array<Bildpunkt, kMeisteEcken> ecken;
     std::transform(symbol.ecken.begin(), symbol.ecken.end(), ecken.begin(), [&](Symbolecke e) {
         return Bildpunkt{m.x + e.x * quer, m.y + e.y * laengs};
@@ -179,9 +187,11 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpun
     SetzeEbene(Ebene::Beobachtungen);
     const Kantenbild bild(kante.KAttr, kante.LAttr, anfang, ende, einstellungen_);
     if (zustand_.flaeche != nullptr) {
-        const Farbe eigene = Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
+        const Farbe eigene =
+            stil_ != nullptr ? stil_->farbe : Kantenfarbe(kante.KAttr, kante.LAttr, kante.Farbe);
         const Farbe farbe = gang == Gang::Wischen ? kWeiss : eigene;
-        ZeigeZuege(bild.Zuege(), farbe);
+        ZeigeZuege(bild.Zuege(), farbe, stil_ != nullptr ? stil_->breite : 1,
+                   stil_ != nullptr && stil_->gestrichelt);
     }
     if (nurBild) return;
     Plotdatei* plot = Plot(gang);
@@ -199,7 +209,7 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
     const std::int64_t zeichen =
         std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich, e.PTSize + std::int64_t{3} * e.Querstrich,
                   std::int64_t{e.Umweggroesse}});
-    return zeichen + kRunden + Stiftrand();
+    return zeichen + kRunden + Stiftrand() + Stilrand();
 }
 
 /// Whether a line with its marks may touch the surface.
@@ -209,7 +219,8 @@ bool Figurenzeichner::BeruehrtFlaeche(Bildpunkt anfang, Bildpunkt ende) const {
 }
 
 /// All strokes of a line, cut to what the surface can take.
-void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe) {
+void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe, std::int32_t breite,
+                                 bool gestrichelt) {
     const Rechteck grenzen = zustand_.flaeche->Grenzen();
     // Strokes beside the middle of a surface that takes nearly everything need no closer look.
     constexpr std::int32_t kNah = 1 << 29;
@@ -225,13 +236,13 @@ void Figurenzeichner::ZeigeZuege(std::span<const Zug> zuege, Farbe farbe) {
             const Bildpunkt von = zug.punkte[s.von];
             const Bildpunkt nach = zug.punkte[s.nach];
             if (weit && nah(von) && nah(nach)) {
-                stuecke_[anzahl++] = {Aufflaeche(von), Aufflaeche(nach), s.gestrichelt};
+                stuecke_[anzahl++] = {Aufflaeche(von), Aufflaeche(nach), s.gestrichelt || gestrichelt};
             } else if (const auto teil = SchneideLinieAb(von, nach, grenzen)) {
-                stuecke_[anzahl++] = {teil->first, teil->second, s.gestrichelt};
+                stuecke_[anzahl++] = {teil->first, teil->second, s.gestrichelt || gestrichelt};
             }
         }
     }
-    zustand_.flaeche->Linien({stuecke_.data(), anzahl}, farbe);
+    zustand_.flaeche->Linien({stuecke_.data(), anzahl}, farbe, breite);
 }
 
 void Figurenzeichner::SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt ende) {
@@ -288,6 +299,7 @@ bool Figurenzeichner::ZeichneNetz(const Bildvorlage& v) {
     if (!zustand_.Abkuerzungen || f == nullptr || zustand_.modus != Zeichenmodus::Bildschirm ||
         zustand_.ExportActive || Dxf(Gang::Zeigen) != nullptr)
         return false;
+    if (v.darstellung.Stile != nullptr) stilzuwachs_ = v.darstellung.Stile->Zuwachs();
     // No character is wider than twice the line height.
     const std::int64_t hoehe = f->Texthoehe();
     const auto laenge = static_cast<std::int64_t>(PunktNummernTyp::kLaenge);
@@ -353,7 +365,8 @@ void Figurenzeichner::ZeichneErklaerung(const Bildvorlage& v) {
     if (!ZeigtResiduen() || zustand_.OhneStehendes) return;
     Zeichenflaeche& f = *zustand_.flaeche;
     // Whatever changes what is shown has the whole picture drawn.
-    if (f.Ausschnitt() == f.Sichtbar() || erklaerung_.empty())
+    if (!v.darstellung.ShowErklaerung) erklaerung_.clear();
+    if (v.darstellung.ShowErklaerung && (f.Ausschnitt() == f.Sichtbar() || erklaerung_.empty()))
         erklaerung_ = BaueErklaerung(Zeichenbestand(v.netz, v.darstellung), einstellungen_,
                                      Erklaerungsbild::kMeisteZeilen);
     SetzeEbene(Ebene::Legende);

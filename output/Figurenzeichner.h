@@ -14,6 +14,7 @@
 #include "model/Netzangaben.h"
 #include "model/Zeichenzeilen.h"
 #include "model/Zeichner.h"
+#include "model/ergebnisse/Figurenstile.h"
 #include "output/DXFUnit.h"
 #include "output/Kantenbild.h"
 #include "output/Plotdatei.h"
@@ -36,6 +37,10 @@ class Figurenzeichner final : public Zeichner {
         : zustand_(zustand), einstellungen_(einstellungen), netz_(netz), uhr_(uhr) {}
 
     void ClearPicture(std::int32_t weite, std::int32_t hoehe) override;
+    void SetzeStil(const Figurstil* stil) override {
+        stil_ = stil;
+        if (stil != nullptr) stilzuwachs_ = std::max(stilzuwachs_, stil->breite - 1);
+    }
     void ZeichnePunkt(const Punkt& punkt, Bildpunkt ort, Gang gang) override;
     void ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpunkt ende, Gang gang) override;
     void ZeichneText(const PktText& text, Bildpunkt ort, Gang gang) override;
@@ -84,8 +89,9 @@ class Figurenzeichner final : public Zeichner {
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;
     [[nodiscard]] std::int64_t Stiftrand() const;
+    [[nodiscard]] std::int64_t Stilrand() const;
     [[nodiscard]] std::int64_t Halobreite() const;
-    void ZeigeZuege(std::span<const Zug> zuege, Farbe farbe);
+    void ZeigeZuege(std::span<const Zug> zuege, Farbe farbe, std::int32_t breite, bool gestrichelt);
     void SchreibeZug(const Zug& zug, Bildpunkt anfang, Bildpunkt ende);
     void ZeigeText(const PktText& text, Bildpunkt stelle, Farbe farbe);
     [[nodiscard]] Plotdatei* Plot(Gang gang) const;
@@ -99,6 +105,8 @@ class Figurenzeichner final : public Zeichner {
     const Netzangaben& netz_;
     const Uhr& uhr_;
     Ortsspeicher speicher_;
+    std::int32_t stilzuwachs_ = 0;     ///< how much larger figures were drawn for it [px]
+    const Figurstil* stil_ = nullptr;  ///< of the figures that come next; null: their own
     // The key: counted when the whole picture is drawn, and drawn again with its parts.
     std::vector<Zeichenzeile> erklaerung_;
     Rechteck erklaerungsrahmen_ = kKeinRechteck;

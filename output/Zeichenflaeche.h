@@ -40,7 +40,7 @@ struct Flaechenpunkt {
     friend bool operator==(Flaechenpunkt, Flaechenpunkt) = default;
 };
 
-/// A stroke of width 1.
+/// A stroke of many.
 struct Linienstueck {
     Flaechenpunkt von;
     Flaechenpunkt nach;
@@ -97,8 +97,8 @@ class Zeichenflaeche {
 
     /// Line with both ends drawn.
     virtual void Linie(Flaechenpunkt von, Flaechenpunkt nach) = 0;
-    /// Strokes of width 1 in one colour, whatever the pen is.
-    virtual void Linien(std::span<const Linienstueck> stuecke, Farbe farbe);
+    /// Strokes of one width and colour, whatever the pen is.
+    virtual void Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite);
     // Outline with the pen, inside with the brush.
     virtual void ZeichneRechteck(const Rechteck& r) = 0;
     virtual void Ellipse(const Rechteck& umschrieben) = 0;
@@ -149,11 +149,11 @@ class Stiftwechsel {
     Pinsel pinsel_;
 };
 
-inline void Zeichenflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
-    const Stiftwechsel wechsel(*this, {farbe, 1, Strichart::Voll}, {farbe, false});
+inline void Zeichenflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) {
+    const Stiftwechsel wechsel(*this, {farbe, breite, Strichart::Voll}, {farbe, false});
     for (const Linienstueck& s : stuecke) {
         const Strichart art = s.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll;
-        if (stift_.art != art) SetzeStift({farbe, 1, art});
+        if (stift_.art != art) SetzeStift({farbe, breite, art});
         Linie(s.von, s.nach);
     }
 }

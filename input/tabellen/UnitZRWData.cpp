@@ -67,8 +67,8 @@ void NimmZahl(const Zelle& zelle, double& zahl) {
 
 /// What drawing results takes, and then the coordinates, which other programs are given.
 constexpr std::size_t kZuZeichnende = 9;
-constexpr auto kPunktfelder =
-    std::to_array<std::string_view>({"PKT", "dY", "dX", "dH", "A", "B", "Phi", "mH", "mL", "X", "Y", "H"});
+constexpr auto kPunktfelder = std::to_array<std::string_view>(
+    {"PKT", "dY", "dX", "dH", "A", "B", "Phi", "mH", "mL", "X", "Y", "H", "dP"});
 
 /// What a field holds, for the user; fields of one kind may stand for each other.
 std::string_view Feldart(paradox::Feldtyp typ) {
@@ -225,6 +225,7 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
         {"X", &Punktergebnis::X},
         {"Y", &Punktergebnis::Y},
         {"H", &Punktergebnis::H},
+        {"dP", &Punktergebnis::dP},
     });
     constexpr std::size_t kStelleML = 8;
     static_assert(kFelder[kStelleML - 1].first == "mL");

@@ -32,7 +32,7 @@ class Sperrmesser final : public Messflaeche {
                 std::max(von.y, nach.y)});
     }
     /// Of lines. What is drawn in white nobody sees.
-    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override {
+    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t /*breite*/) override {
         if (farbe != kWeiss) striche.insert(striche.end(), stuecke.begin(), stuecke.end());
     }
     /// Round all that was drawn since it was asked last, lines apart.

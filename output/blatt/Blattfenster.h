@@ -27,8 +27,8 @@ class Blattfenster final : public Zeichenflaeche {
     void SetzeSchriftmass(std::int32_t dots) override { blatt_.SetzeSchriftmass(dots); }
 
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override { Blatt().Linie(von, nach); }
-    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override {
-        Blatt().Linien(stuecke, Druckfarbe(farbe));
+    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) override {
+        Blatt().Linien(stuecke, Druckfarbe(farbe), breite);
     }
     void ZeichneRechteck(const Rechteck& r) override {
         MerkeKasten(r);

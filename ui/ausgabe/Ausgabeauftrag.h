@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "input/Oeffnen.h"
+#include "model/ergebnisse/Einfaerbung.h"
 #include "output/Export.h"
 #include "output/Papier.h"
 #include "output/blatt/Blattgestaltung.h"
@@ -42,6 +43,7 @@ struct Ausgabeauftrag {
     bool alleBlaetter = false;                   ///< print over as many sheets as it takes
     bool kantig = false;                         ///< pictures without smooth edges
     std::optional<Nummernziel> ordnen{};         ///< none: they stay
+    Planfaerbung faerbung{};                     ///< lines or points in classes, and which lines
     std::vector<std::string> ein;                ///< switches by name
     std::vector<std::string> aus;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
+#include "input/tabellen/Beobachtungsleser.h"
 #include "model/Fehler.h"
 #include "output/Residuenbild.h"
 #include "ui/fenster/Schalter.h"
@@ -26,6 +27,16 @@ void SetzeSchalter(const Ausgabeauftrag& auftrag, Darstellung& darstellung, cons
         StelleEin(s, (s.anfangs || genannt(auftrag.ein, s)) && !genannt(auftrag.aus, s), &darstellung, netz,
                   zustand);
     }
+}
+
+void SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,
+                   const Sprecher& sage) {
+    darstellung.Stile.reset();
+    if (!auftrag.faerbung.Wirkt()) return;
+    daten.ErneuereErgebnisse();
+    darstellung.Stile = BaueStile(netz, auftrag.faerbung, LiesBeobachtungen(daten), &daten);
+    if (auftrag.faerbung.einfaerbung && !darstellung.Stile->HatWerte())
+        sage("Kein Ergebnis zu " + darstellung.Stile->titel + ": Alle sind „ohne Wert“.");
 }
 
 void MeldeDarstellung(const Ausgabequelle& quelle, const Sprecher& sage) {

@@ -34,6 +34,10 @@ void SetzeGroesse(const Ausgabeauftrag& auftrag, Ansicht& gelesen);
 /// The switches as the program begins with them, but for those that the order names.
 void SetzeSchalter(const Ausgabeauftrag& auftrag, Darstellung& darstellung, const Netzangaben& netz,
                    Zeichenzustand& zustand);
+/// Colours lines or points by what the tables say, and leaves lines out. Tells where nothing has a value.
+/// @param netz that of `darstellung`
+void SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,
+                   const Sprecher& sage);
 /// Tells what is switched on and means nothing in this network.
 void MeldeDarstellung(const Ausgabequelle& quelle, const Sprecher& sage);
 /// @return whether none is about a table that could not be read

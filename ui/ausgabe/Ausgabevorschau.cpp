@@ -44,6 +44,7 @@ QImage ZeichnePlan(const Format& format, const Ausgabe& a) {
               &Darstellung::ShowLGGen, &Darstellung::ShowHGen, &Darstellung::ShowMassbalken,
               &Darstellung::ShowErklaerung})
             darstellung.*schalter = false;
+        darstellung.Stile.reset();
     }
     Legende* legende = darstellung.Legend ? &*darstellung.Legend : nullptr;
     if (legende != nullptr) {

@@ -37,6 +37,15 @@ void HaengeGestaltungAn(std::vector<std::string>& worte, const Blattgestaltung& 
     }
 }
 
+void HaengeFaerbungAn(std::vector<std::string>& worte, const Planfaerbung& f) {
+    if (f.einfaerbung) worte.insert(worte.end(), {"--einfaerben", SchreibeEinfaerbung(*f.einfaerbung)});
+    std::vector<std::string> kategorien;
+    for (const Kategoriezeile& z : kLinienkategorien) {
+        if (f.filter.kategorien[static_cast<std::size_t>(z.kategorie)]) kategorien.emplace_back(z.name);
+    }
+    HaengeListeAn(worte, "--nur", kategorien);
+}
+
 /// Nothing in it means anything to a shell.
 bool Unbedenklich(const std::string& wort) {
     constexpr std::string_view kZeichen = "-_./,:+=@";
@@ -82,6 +91,8 @@ std::vector<std::string> Befehlsworte(const Format& format, const Ausgabeauftrag
     if (format.HatMerkmal(kMitMassstab) && auftrag.dpi != kUeblicheAufloesung)
         nimm("--dpi", std::to_string(auftrag.dpi));
     if (auftrag.kantig && format.HatMerkmal(kMitKanten)) worte.emplace_back("--kantig");
+    if (format.HatMerkmal(kMitSchaltern) && !format.HatMerkmal(kOhneLegende))
+        HaengeFaerbungAn(worte, auftrag.faerbung);
     HaengeListeAn(worte, "--ein", auftrag.ein);
     HaengeListeAn(worte, "--aus", auftrag.aus);
     nimm("--ziel", PfadText(ordner));

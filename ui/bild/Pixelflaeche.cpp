@@ -193,7 +193,7 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     if (breite <= 1) {
         pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
     } else if (dichte_ != 1.0) {
-        BreiteLinie(von, nach, breite, stift);
+        BreiteLinie(von, nach, breite, stift.farbe, stift.art);
     } else if (const Pixelmaske* maske = BreiterStrich(von, nach)) {
         pixel_.Maske(*maske, von.x, von.y, Pixelfarbe(stift.farbe));
     } else {
@@ -201,25 +201,28 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     }
 }
 
-void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe) {
-    if (!schnell_) return Malerflaeche::Linien(stuecke, farbe);
+void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) {
+    if (!schnell_) return Malerflaeche::Linien(stuecke, farbe, breite);
     if (glatt_) {
         for (const Linienstueck& s : stuecke)
-            glattbild_.Linie(s.von, s.nach, Pixelfarbe(farbe), 1, s.gestrichelt);
+            glattbild_.Linie(s.von, s.nach, Pixelfarbe(farbe), breite, s.gestrichelt);
         return;
     }
-    if (std::lround(dichte_) > 1) return Zeichenflaeche::Linien(stuecke, farbe);
-    pixel_.Linien(stuecke, Pixelfarbe(farbe));
+    const auto dots = static_cast<int>(std::lround(breite * dichte_));
+    if (dots <= 1) return pixel_.Linien(stuecke, Pixelfarbe(farbe));
+    for (const Linienstueck& s : stuecke)
+        BreiteLinie(s.von, s.nach, dots, farbe, s.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll);
 }
 
 /// Beside each other across the longer axis, as the thin ones are set.
-void Pixelflaeche::BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, const Stift& stift) {
+void Pixelflaeche::BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, Farbe farbe,
+                               Strichart art) {
     const bool senkrecht =
         std::llabs(std::int64_t{nach.x} - von.x) < std::llabs(std::int64_t{nach.y} - von.y);
     for (int i = -(breite / 2); i < breite - breite / 2; ++i) {
         const Flaechenpunkt weg = senkrecht ? Flaechenpunkt{i, 0} : Flaechenpunkt{0, i};
-        pixel_.Linie({von.x + weg.x, von.y + weg.y}, {nach.x + weg.x, nach.y + weg.y},
-                     Pixelfarbe(stift.farbe), stift.art);
+        pixel_.Linie({von.x + weg.x, von.y + weg.y}, {nach.x + weg.x, nach.y + weg.y}, Pixelfarbe(farbe),
+                     art);
     }
 }
 

@@ -47,7 +47,7 @@ class Pixelflaeche : public Malerflaeche {
 
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
-    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe) override;
+    void Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) override;
     void ZeichneRechteck(const Rechteck& r) override;
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
@@ -84,7 +84,7 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] bool Glaettet() const { return glatt_ && schnell_; }
     bool StempeleGlatt(Form form, std::span<const Flaechenpunkt> ecken);
     void GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
-    void BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, const Stift& stift);
+    void BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, Farbe farbe, Strichart art);
     void MaleLinie(Flaechenpunkt von, Flaechenpunkt nach);
     [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
     bool StempeleForm(Form form, std::span<const Flaechenpunkt> ecken);

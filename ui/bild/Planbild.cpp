@@ -201,7 +201,7 @@ void Planbild::ZeichneStehendes(Zeichenflaeche& flaeche) {
     Figurenzeichner zeichner(zustand, programm_.einstellungen, programm_.netz, programm_.uhr);
     if (plan_.Daten()->ShowLegende) plan_.Daten()->SetLegende(zeichner);
     zeichner.DrawResMasstab(plan_.Daten()->Vorlage());
-    if (plan_.Daten()->ShowErklaerung) zeichner.ZeichneErklaerung(plan_.Daten()->Vorlage());
+    if (plan_.Daten()->ZeigtErklaerung()) zeichner.ZeichneErklaerung(plan_.Daten()->Vorlage());
     if (plan_.Daten()->ShowMassbalken) zeichner.ZeichneMassbalken(plan_.Daten()->Vorlage());
 }
 
@@ -365,7 +365,7 @@ void Planbild::ZieheBild(Bildpunkt versatz) {
         // What must be worked out anew is drawn when the mouse is let go, what stands still lies over it.
         const Darstellung& d = *plan_.Daten();
         if (!stehendesLose_ &&
-            (d.ShowLegende || d.ShowErklaerung || d.ZeigtErgebnisse() || d.ShowMassbalken)) {
+            (d.ShowLegende || d.ZeigtErklaerung() || d.ZeigtErgebnisse() || d.ShowMassbalken)) {
             stehendesLose_ = true;
             const QScopedValueRollback ohne(programm_.zustand.OhneStehendes, true);
             pflege_.ZeichneNeu(Vorlage());

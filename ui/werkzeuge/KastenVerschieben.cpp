@@ -86,7 +86,7 @@ void LegendeVerschieben::LassAusDerHand() {
 
 bool ErklaerungVerschieben::UeberGriff(Bildpunkt ort) const {
     const Liste* netz = Umgebung().AktuelleListe();
-    if (netz == nullptr || !netz->ShowErklaerung) return false;
+    if (netz == nullptr || !netz->ZeigtErklaerung()) return false;
     const Bildbereich r = Umgebung().Erklaerungsrahmen();
     return ort.x >= r.links && ort.x <= r.rechts && ort.y >= r.oben && ort.y <= r.unten;
 }
