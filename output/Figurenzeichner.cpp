@@ -328,11 +328,16 @@ void Figurenzeichner::GitterShow(const Bildvorlage& v) {
     Netzangaben netz = netz_;
     if (zustand_.BlattschnittWiePunkte && PunkteInGaussKrueger(netz.Netztyp))
         netz.Abbildungsmodus = static_cast<std::uint8_t>(Abbildung::GaussKrueger);
-    const bool schlicht = GitterSchlicht();
-    const Farbe farbe = schlicht ? Aufgehellt(einstellungen_.TKCol) : einstellungen_.TKCol;
-    if (schlicht) zustand_.flaeche->SetzeStrichmass(kGitterstrich);
-    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), farbe}, v.ansicht).Kartenblaetter(netz);
-    if (schlicht) zustand_.flaeche->SetzeStrichmass(0);
+    if (GitterSchlicht()) {
+        zustand_.flaeche->SetzeStrichmass(kGitterstrich);
+        ZeichneKartenblattlinien(*zustand_.flaeche, v.ansicht,
+                                 {.netz = netz,
+                                  .farbe = einstellungen_.TKCol,
+                                  .dichte = zustand_.Dichte(),
+                                  .nebenKilometern = v.darstellung.ShowKMQ});
+        return zustand_.flaeche->SetzeStrichmass(0);
+    }
+    Kartengitter({zustand_.flaeche, Dxf(Gang::Zeigen), einstellungen_.TKCol}, v.ansicht).Kartenblaetter(netz);
 }
 
 void Figurenzeichner::KMGitterShow(const Bildvorlage& v) {

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <string>
 
-#include "geo/Zrwgeo.h"
 #include "model/Ganzzahl.h"
 #include "output/Abschneiden.h"
+#include "output/Geonetz.h"
 
 namespace zrw {
 namespace {
@@ -30,36 +30,6 @@ double Schritte(double von, double bis, double schritt) {
 
 bool Zeichenbar(double spalten, double zeilen) {
     return spalten * zeilen <= Kartengitter::kHoechstensFelder;
-}
-
-/// Geographic positions under a picture, in the mapping of one network.
-class Geonetz {
-  public:
-    Geonetz(const Netzangaben& netz, const Ansicht& ansicht)
-        : ansicht_(ansicht),
-          modus_(static_cast<Abbildung>(netz.Abbildungsmodus)),
-          hauptmeridian_(netz.Hauptmeridian),
-          ellipsoid_(EllipsoidRadii(netz.Ellipsoid, Grad{50.0})) {}
-
-    [[nodiscard]] Geograph Geographisch(Welt w) const {
-        return GridToGeo(modus_, w.hoch, w.rechts, ellipsoid_.f, ellipsoid_.a);
-    }
-    [[nodiscard]] Bildpunkt Bildort(double breite, double laenge) const {
-        const Gitterpunkt g =
-            GeoToGrid(modus_, hauptmeridian_, Grad{laenge}, Grad{breite}, ellipsoid_.f, ellipsoid_.a);
-        return ansicht_.Bildort({g.rechts, g.hoch});
-    }
-
-  private:
-    const Ansicht& ansicht_;
-    Abbildung modus_;
-    int hauptmeridian_;
-    Ellipsoid ellipsoid_;
-};
-
-/// The position is one on earth. Far from the central meridian the series yield anything.
-bool AufErden(const Geograph& g) {
-    return std::fabs(g.breite.wert) < 89.0 && std::fabs(g.laenge.wert) <= 360.0;
 }
 
 /// Characters `ab` and the next of a kilometre text, as far as there are any.

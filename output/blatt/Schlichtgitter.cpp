@@ -12,15 +12,14 @@ namespace zrw {
 namespace {
 
 constexpr double kKilometer = 1000.0;
-constexpr double kAbstand = 55.0;  ///< of lines, at least [px of the screen]
-constexpr double kFern = 1e9;      ///< kilometres that are no place on earth
+constexpr double kFern = 1e9;  ///< kilometres that are no place on earth
 
 class Kilometerlinien {
   public:
     Kilometerlinien(Zeichenflaeche& flaeche, const Ansicht& ansicht, Farbe farbe, std::int64_t schritt)
         : flaeche_(flaeche),
           ansicht_(ansicht),
-          farbe_(farbe),
+          zahlen_(flaeche, farbe, 1),
           schritt_(schritt),
           kante_(flaeche.Sichtbar()),
           lo_(ansicht.BildinWelt({kante_.links, kante_.oben})),
@@ -34,17 +33,16 @@ class Kilometerlinien {
         for (std::int64_t km = Erster(lo_.rechts); Meter(km) <= ru_.rechts; km += schritt_) {
             const auto x = static_cast<std::int32_t>(ansicht_.Bildort({Meter(km), lo_.hoch}).x);
             flaeche_.Linie({x, kante_.oben}, {x, kante_.unten});
-            Beziffere({x + Luft(), kante_.oben + Luft()}, km);
-            Beziffere({x + Luft(), kante_.unten - Luft() - flaeche_.Texthoehe()}, km);
+            zahlen_.SchreibeOben(x, std::to_string(km), 0);
+            zahlen_.SchreibeUnten(x, std::to_string(km), 0);
         }
     }
     void ZeichneWaagrechte() const {
         for (std::int64_t km = Erster(ru_.hoch); Meter(km) <= lo_.hoch; km += schritt_) {
             const auto y = static_cast<std::int32_t>(ansicht_.Bildort({lo_.rechts, Meter(km)}).y);
             flaeche_.Linie({kante_.links, y}, {kante_.rechts, y});
-            const std::int32_t breite = flaeche_.Textbreite(std::to_string(km));
-            Beziffere({kante_.links + Luft(), y - flaeche_.Texthoehe()}, km);
-            Beziffere({kante_.rechts - Luft() - breite, y - flaeche_.Texthoehe()}, km);
+            zahlen_.SchreibeLinks(y, std::to_string(km), 0);
+            zahlen_.SchreibeRechts(y, std::to_string(km), 0);
         }
     }
 
@@ -54,19 +52,10 @@ class Kilometerlinien {
                schritt_;
     }
     [[nodiscard]] static double Meter(std::int64_t km) { return static_cast<double>(km) * kKilometer; }
-    [[nodiscard]] std::int32_t Luft() const { return flaeche_.Texthoehe() / 4; }
-    /// Whole numbers only: one that would be cut at a corner is left out.
-    void Beziffere(Flaechenpunkt ort, std::int64_t km) const {
-        const std::string text = std::to_string(km);
-        if (ort.x >= kante_.links && ort.y >= kante_.oben &&
-            ort.x + flaeche_.Textbreite(text) <= kante_.rechts &&
-            ort.y + flaeche_.Texthoehe() <= kante_.unten)
-            flaeche_.Text(ort, text, farbe_);
-    }
 
     Zeichenflaeche& flaeche_;
     const Ansicht& ansicht_;
-    Farbe farbe_;
+    Randzahlen zahlen_;
     std::int64_t schritt_;  ///< [km]
     Rechteck kante_;
     Welt lo_;
@@ -75,12 +64,40 @@ class Kilometerlinien {
 
 }  // namespace
 
+Rechteck Randzahlen::Innen(std::int32_t einzug) const {
+    const std::int32_t rand = Luft() + zeilen_ * flaeche_.Texthoehe();
+    return {kante_.links + einzug, kante_.oben + rand, kante_.rechts - einzug, kante_.unten - rand};
+}
+
+void Randzahlen::SchreibeGanz(Flaechenpunkt ort, std::string_view text, const Rechteck& r) const {
+    if (ort.x >= r.links && ort.y >= r.oben && ort.x + flaeche_.Textbreite(text) <= r.rechts &&
+        ort.y + flaeche_.Texthoehe() <= r.unten)
+        flaeche_.Text(ort, text, farbe_);
+}
+
+void Randzahlen::SchreibeOben(std::int32_t x, std::string_view text, std::int32_t zeile) const {
+    SchreibeGanz({x + Luft(), kante_.oben + Luft() + zeile * flaeche_.Texthoehe()}, text, kante_);
+}
+
+void Randzahlen::SchreibeUnten(std::int32_t x, std::string_view text, std::int32_t zeile) const {
+    SchreibeGanz({x + Luft(), kante_.unten - Luft() - (zeile + 1) * flaeche_.Texthoehe()}, text, kante_);
+}
+
+void Randzahlen::SchreibeLinks(std::int32_t y, std::string_view text, std::int32_t einzug) const {
+    SchreibeGanz({kante_.links + Luft() + einzug, y - flaeche_.Texthoehe()}, text, Innen(0));
+}
+
+void Randzahlen::SchreibeRechts(std::int32_t y, std::string_view text, std::int32_t einzug) const {
+    const std::int32_t x = kante_.rechts - Luft() - einzug - flaeche_.Textbreite(text);
+    SchreibeGanz({x, y - flaeche_.Texthoehe()}, text, Innen(0));
+}
+
 void ZeichneKilometerlinien(Zeichenflaeche& flaeche, const Ansicht& ansicht, Farbe farbe, double dichte) {
     const double dots = kKilometer / ansicht.Faktor;
     if (!(dots > 0.0) || !std::isfinite(dots)) return;
     std::int64_t schritt = 1;
-    if (dots < kAbstand * dichte) {
-        const auto km = KleinsteTeilung(dots, kAbstand * dichte).Mal(1);
+    if (dots < kLinienabstand * dichte) {
+        const auto km = KleinsteTeilung(dots, kLinienabstand * dichte).Mal(1);
         if (!km || *km > kFern) return;
         schritt = std::max<std::int64_t>(RundeZuInt64(*km), 1);
     }

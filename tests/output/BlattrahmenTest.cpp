@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "geo/Zrwgeo.h"
 #include "output/Papier.h"
 #include "output/blatt/Blattdruck.h"
 #include "output/blatt/Blattrahmen.h"
@@ -110,6 +111,48 @@ TEST_F(Blattdruck, SchwarzWeissLaesstWeissWeiss) {
             EXPECT_TRUE(z.substr(ort, 8) == "0x000000" || z.substr(ort, 8) == "0xFFFFFF") << z;
         }
     }
+}
+
+// The sheet 5421 reaches from 9°10' to 9°20' E and from 50°30' to 50°36' N.
+TEST(Schlichtgitter, KartenblaetterAnDenRaendernBeziffert) {
+    const auto texte = [](double faktor, bool nebenKilometern) {
+        MerkFlaeche f;
+        Ansicht a;
+        const Ellipsoid b = EllipsoidRadii(1, Grad{50});
+        const auto g = GeoToGrid(Abbildung::GaussKrueger, 9, Grad{9.1}, Grad{50.62}, b.f, b.a);
+        a.Faktor = faktor;
+        a.MinXW = g.rechts;
+        a.MaxYW = g.hoch;
+        ZeichneKartenblattlinien(f, a, {{}, Farbe{0xFF0000}, 1.0, nebenKilometern});
+        return f.zeilen;
+    };
+    const auto wo = [](const std::vector<std::string>& zeilen, const std::string& text) {
+        std::vector<Flaechenpunkt> orte;
+        for (const std::string& z : zeilen) {
+            int x = 0, y = 0;
+            if (z.ends_with(" " + text) && std::sscanf(z.c_str(), "Text 0x%*x %d %d", &x, &y) == 2)
+                orte.push_back({x, y});
+        }
+        return orte;
+    };
+    const auto nah = texte(40, false);
+    const auto laenge = wo(nah, Gradzahl(550));
+    ASSERT_EQ(laenge.size(), 2U) << "at the upper and the lower edge";
+    EXPECT_NEAR(laenge[1].x, 118 + 3, 1) << "four minutes from the corner";
+    EXPECT_EQ(laenge[1].y, 3);
+    const auto breite = wo(nah, Gradzahl(3036));
+    ASSERT_EQ(breite.size(), 2U);
+    EXPECT_EQ(breite[0].x, 3);
+    EXPECT_EQ(wo(nah, "5421").size(), 1U);
+    EXPECT_GT(wo(texte(40, true), Gradzahl(550))[1].y, 3) << "behind kilometres";
+    const auto fern = texte(400, false);
+    EXPECT_EQ(wo(fern, Gradzahl(560)).size(), 2U);
+    EXPECT_TRUE(wo(fern, Gradzahl(550)).empty()) << "every second one";
+    EXPECT_TRUE(wo(fern, "5421").empty());
+    EXPECT_TRUE(texte(std::numeric_limits<double>::infinity(), false).empty());
+    EXPECT_TRUE(texte(1e9, false).empty());
+    EXPECT_EQ(Gradzahl(-546), std::string("-9\xB0") + "06'");
+    EXPECT_EQ(Gradzahl(540), "9\xB0");
 }
 
 TEST(Schlichtgitter, VonRandZuRandUndNichtZuDicht) {
