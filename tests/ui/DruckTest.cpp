@@ -1,6 +1,8 @@
 // Printing from the window: sheets, the output area, and that nothing of it stays in the picture.
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
+#include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -9,6 +11,7 @@
 #include "model/Cp1252.h"
 #include "tests/ui/Fenster.h"
 #include "ui/ablage/Blattablage.h"
+#include "ui/druck/Druckvorschau.h"
 
 namespace zrw {
 namespace {
@@ -272,6 +275,51 @@ TEST_F(Druckfenster, StricheAufDemPapierSindGanzUndSoLangWieImBild) {
     ASSERT_GT(striche.size(), 60U);
     EXPECT_NEAR(striche[9], 25, 2) << "4 px";
     EXPECT_NEAR(striche[10], 12.5, 2) << "2 px";
+}
+
+TEST_F(Druckfenster, VorschauMitDerTastatur) {
+    fenster.OeffneDatei(kBeispiel);
+    Blattbreite(300);
+    int gesehen = 0;
+    drucker.inDerVorschau = [&](Vorschauplan& plan) {
+        QPrinter geraet;
+        Druckvorschau vorschau(geraet, plan, &fenster);
+        vorschau.show();
+        auto& uebersicht = *vorschau.findChild<QLabel*>("Uebersicht");
+        const auto taste = [&](Qt::Key t, Qt::KeyboardModifiers m = {}) {
+            QTest::keyClick(&uebersicht, t, m);
+        };
+        const auto name = [&] { return uebersicht.accessibleName(); };
+        const auto blaetter = plan.Blaetter();
+        const auto anzahl = static_cast<int>(blaetter.size());
+        const QString erster = name();
+        EXPECT_EQ(uebersicht.focusPolicy(), Qt::StrongFocus);
+        EXPECT_TRUE(erster.endsWith(QString("wird gedruckt, Blatt 1 von %1").arg(anzahl)))
+            << erster.toStdString();
+        taste(Qt::Key_Left);
+        EXPECT_TRUE(name().endsWith(QString("Blatt %1 von %1").arg(anzahl))) << name().toStdString();
+        taste(Qt::Key_Space);
+        EXPECT_TRUE(name().endsWith("weggelassen")) << name().toStdString();
+        EXPECT_EQ(plan.Werk().blaetter, anzahl - 1);
+        taste(Qt::Key_Space);
+        taste(Qt::Key_Right);
+        EXPECT_EQ(name(), erster) << "round and round";
+        for (const Qt::Key t : {Qt::Key_Down, Qt::Key_Up}) {
+            int zeilen = 0;
+            do {
+                taste(t);
+                ++zeilen;
+            } while (!name().contains("Zeile 1,") && zeilen < 99);
+            EXPECT_EQ(zeilen, blaetter.back().zeile - blaetter.front().zeile + 1);
+        }
+        const QImage ganz = plan.Uebersicht();
+        taste(Qt::Key_Right, Qt::ShiftModifier);
+        EXPECT_NE(plan.Uebersicht(), ganz) << "moved";
+        ++gesehen;
+    };
+    Knopf("VorschauButton").click();
+    drucker.inDerVorschau = {};
+    EXPECT_EQ(gesehen, 1);
 }
 
 // Last: letters of other sizes change how the font system sets some pixels of those of prints.

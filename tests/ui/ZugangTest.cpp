@@ -17,6 +17,7 @@ namespace {
 struct Leerplan final : Vorschauplan {
     Druckwerk Werk() override { return {}; }
     QImage Uebersicht() override { return {9, 9, QImage::Format_RGB32}; }
+    std::vector<Vorschaublatt> Blaetter() override { return {}; }
     void SchalteBlatt(QPoint /*ort*/) override {}
     void VerschiebeBlaetter(QPoint /*weg*/) override {}
     QString Massstab() const override { return "1"; }

@@ -5,9 +5,11 @@
 #include <QImage>
 #include <QPageLayout>
 #include <QPoint>
+#include <QRect>
 #include <QString>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "model/Dateien.h"
 #include "output/Druck.h"
@@ -26,6 +28,14 @@ struct Druckwerk {
     std::function<void(Zeichenflaeche&, int)> zeichne;  ///< draws a sheet, from 0 on
 };
 
+/// A sheet in the overview of a preview.
+struct Vorschaublatt {
+    QRect ort;  ///< [px of the overview]
+    int zeile = 0;
+    int spalte = 0;
+    int nummer = 0;  ///< in the print, from 1 on; 0: left out
+};
+
 /// What a preview shows, and what users change in it.
 class Vorschauplan {
   public:
@@ -34,6 +44,8 @@ class Vorschauplan {
     [[nodiscard]] virtual Druckwerk Werk() = 0;
     /// How they lie in the plot. Places below are pixels of it.
     [[nodiscard]] virtual QImage Uebersicht() = 0;
+    /// All of them, row by row, in that picture.
+    [[nodiscard]] virtual std::vector<Vorschaublatt> Blaetter() = 0;
     /// Turns the sheet at a place off or on again. One stays on.
     virtual void SchalteBlatt(QPoint ort) = 0;
     /// Moves all of the sheets over the plot.

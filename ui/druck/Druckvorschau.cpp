@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPixmap>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
@@ -41,10 +40,7 @@ Druckvorschau::Druckvorschau(QPrinter& drucker, Vorschauplan& plan, QWidget* elt
     for (QWidget* w : blaetter_->findChildren<QGraphicsView*>())
         w->setAccessibleName(QStringLiteral("Blätter"));
     uebersicht_->setObjectName(QStringLiteral("Uebersicht"));
-    uebersicht_->setAccessibleName(QStringLiteral("Übersicht der Blätter"));
-    uebersicht_->setToolTip(QStringLiteral("Ziehen verschiebt die Blätter; ein Klick lässt eines weg"));
-    uebersicht_->setPixmap(QPixmap::fromImage(plan_.Uebersicht()));
-    uebersicht_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    uebersicht_->ZeigeUebersicht(plan_.Uebersicht(), plan_.Blaetter());
     uebersicht_->geklickt = [this](QPoint ort) {
         plan_.SchalteBlatt(ort);
         ZeigePlan();
@@ -152,7 +148,7 @@ void Druckvorschau::WechslePapier() {
 
 /// After a change: everything is drawn anew.
 void Druckvorschau::ZeigePlan() {
-    uebersicht_->setPixmap(QPixmap::fromImage(plan_.Uebersicht()));
+    uebersicht_->ZeigeUebersicht(plan_.Uebersicht(), plan_.Blaetter());
     blaetter_->updatePreview();
     NenneBlatt();
 }

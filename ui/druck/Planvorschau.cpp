@@ -97,6 +97,19 @@ void Planvorschau::VerschiebeBlaetter(QPoint weg) {
     geaendert_ = true;
 }
 
+std::vector<Vorschaublatt> Planvorschau::Blaetter() {
+    const Lage l = BlattLage();
+    const auto pixel = [&](double meter) { return static_cast<int>(std::lround(meter / l.jePixel)); };
+    std::vector<Vorschaublatt> alle;
+    int nummer = 0;
+    for (const Blatt& b : blaetter_) {
+        const QPoint ecke(pixel(b.ecke.rechts - l.lo.rechts), pixel(l.lo.hoch - b.ecke.hoch));
+        alle.push_back({QRect(ecke, QSize(pixel(l.breite) + 1, pixel(l.hoehe) + 1)), b.zeile, b.spalte,
+                        Weggelassen(b) ? 0 : ++nummer});
+    }
+    return alle;
+}
+
 /// The network without its texts, and over it the sheets with their numbers; those that are off are crossed
 /// out.
 QImage Planvorschau::Uebersicht() {
@@ -119,18 +132,15 @@ QImage Planvorschau::Uebersicht() {
     const Farbe farbe = programm.einstellungen.PPCol;
     bild.SetzeStift({farbe, 1, Strichart::Voll});
     bild.SetzePinsel({kWeiss, true});
-    int nummer = 0;
-    for (const Blatt& b : blaetter_) {
-        const int x = pixel(b.ecke.rechts - l.lo.rechts);
-        const int y = pixel(l.lo.hoch - b.ecke.hoch);
-        const Rechteck r{x, y, x + pixel(l.breite), y + pixel(l.hoehe)};
-        if (Weggelassen(b)) bild.FuelleRechteck(r, kWeggelassen);
+    for (const Vorschaublatt& b : Blaetter()) {
+        const Rechteck r{b.ort.left(), b.ort.top(), b.ort.right(), b.ort.bottom()};
+        if (b.nummer == 0) bild.FuelleRechteck(r, kWeggelassen);
         bild.ZeichneRechteck(r);
-        if (Weggelassen(b)) {
+        if (b.nummer == 0) {
             bild.Linie({r.links, r.oben}, {r.rechts, r.unten});
             bild.Linie({r.links, r.unten}, {r.rechts, r.oben});
         } else {
-            bild.TextMitRand({x + 3, y + 1}, std::to_string(++nummer), farbe, kWeiss, 1);
+            bild.TextMitRand({r.links + 3, r.oben + 1}, std::to_string(b.nummer), farbe, kWeiss, 1);
         }
     }
     return bild.Bild();

@@ -19,6 +19,7 @@ class Planvorschau final : public Vorschauplan {
 
     [[nodiscard]] Druckwerk Werk() override;
     [[nodiscard]] QImage Uebersicht() override;
+    [[nodiscard]] std::vector<Vorschaublatt> Blaetter() override;
     void SchalteBlatt(QPoint ort) override;
     void VerschiebeBlaetter(QPoint weg) override;
     [[nodiscard]] QString Massstab() const override;
