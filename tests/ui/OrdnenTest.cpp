@@ -1,8 +1,10 @@
 // Putting point numbers in order: dialog, what stays, one step, picture file.
 #include <QCheckBox>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <map>
+#include <set>
 
 #include "tests/ui/Fenster.h"
 
@@ -64,6 +66,36 @@ TEST_F(Ordnen, LaesstVonHandVerschobeneStehen) {
     EXPECT_EQ(std::pair(t.Item->XBiO, t.Item->YBiO), gezogen);
     OrdneNummern("VerschobeneWahl");
     EXPECT_NE(std::pair(t.Item->XBiO, t.Item->YBiO), gezogen);
+}
+
+TEST_F(Ordnen, RechteTasteOrdnetNurDieAusgewaehlten) {
+    const auto vorher = Abstaende();
+    const Stand stand = Jetzt();
+    const Liste& l = *fenster.Netz();
+    std::set<std::string> gewaehlt;
+    const QPoint mitte = Pixel(l, *l.FindPunkt("HOHFELS"));
+    const QRect kasten(mitte - QPoint(60, 60), mitte + QPoint(60, 60));
+    for (const PunktKnoten* p = l.PunktKnoten; p != nullptr; p = p->Next)
+        if (kasten.contains(Pixel(l, *p))) gewaehlt.insert(std::string(l.FindText(p->PNr)->Item->Aus.Text()));
+    ASSERT_GT(gewaehlt.size(), 5U);
+    ASSERT_LT(gewaehlt.size(), vorher.size() / 2);
+    ZieheMaus(kasten.topLeft(), kasten.bottomRight());
+    Klick(mitte, Qt::RightButton);
+    for (QAction* a : Kind<QMenu>("FigurenMenue").findChildren<QAction*>())
+        if (a->text() == "Punktnummern &ordnen…") a->trigger();
+    Kind<QPushButton>("OrdnenKnopf").click();
+    std::size_t versetzt = 0;
+    for (const auto& [nummer, abstand] : Abstaende()) {
+        if (abstand == vorher.at(nummer)) continue;
+        EXPECT_TRUE(gewaehlt.contains(nummer)) << nummer;
+        ++versetzt;
+    }
+    EXPECT_GT(versetzt, 3U);
+    EXPECT_TRUE(Status().startsWith(QString("%1 Punktnummern geordnet").arg(versetzt)));
+    fenster.Rueckgaengig();
+    EXPECT_EQ(Jetzt(), stand) << "one step";
+    OrdneNummern();
+    EXPECT_NE(Abstaende(), vorher);
 }
 
 TEST_F(Ordnen, GiltFuerDenDruckmassstab) {
