@@ -61,6 +61,9 @@ TEST_F(Druckfenster, MehrereBlaetterNurWoEtwasLiegt) {
     fenster.OeffneDatei(kBeispiel);
     const QImage vorher = fenster.Bild().copy();
     Blattbreite(100);
+    // Sheets here are pictures, and in those the font system sets large letters by what sizes it has loaded
+    // before, some by a pixel, whoever asks. After a preview all that this test needs are loaded.
+    Knopf("VorschauButton").click();
     DruckePlan();
     EXPECT_EQ(dialoge.fragen.size(), 1);
     EXPECT_TRUE(drucker.titel.isEmpty()) << "cancelled at the question";
@@ -322,7 +325,6 @@ TEST_F(Druckfenster, VorschauMitDerTastatur) {
     EXPECT_EQ(gesehen, 1);
 }
 
-// Last: letters of other sizes change how the font system sets some pixels of those of prints.
 TEST_F(Druckfenster, BlattrahmenUndEingepassterMassstab) {
     fenster.OeffneDatei(kBeispiel);
     const auto fuelleAus = [](const auto& tun) {
