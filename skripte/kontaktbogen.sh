@@ -33,7 +33,9 @@ blatt bahnvorher 200 --papier A2 --quer BAHN.EIN
 blatt bahnnachher 200 --papier A2 --quer --nummern-ordnen druck --ein halo BAHN.EIN
 blatt a3 70 --papier A3 --quer --ein blattrahmen,zeichenerklaerung,halo --nummern-ordnen druck \
     --projekt 'Netz Vogelsberg' --bearbeiter 'M. Muster' --firma 'Vermessung Muster' NETZ.EIN
-blatt satz 40 --massstab passend --blaetter 8 --ueberlappung 10 --ein blattrahmen --nummern-ordnen druck NETZ.EIN
+# Exactly eight sheets.
+blatt satz 40 --papier A4 --massstab 80000 --alle-blaetter --ueberlappung 5 --ein blattrahmen \
+    --nummern-ordnen druck NETZ.EIN
 montage satz/blatt-*.png -tile 4x -geometry +6+6 -background gray80 satz.png
 for seite in vorher nachher; do
     convert "a1$seite"/blatt-1.png -gravity center -crop 1000x700+0+0 +repage "a1$seite.png"
