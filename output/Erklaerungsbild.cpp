@@ -83,7 +83,7 @@ void Erklaerungsbild::NimmKlassen() {
                 zeichner_.ZeichnePunkt(Punkt::Create(PunktTyp::Krei, kSchwarz, PunktAttr::Em), m,
                                        Gang::Zeigen);
             } else {
-                zeichner_.ZeichneKante(Kante::Create(kSchwarz, {}, LinieAttr::AST), {m.x - halb, m.y},
+                zeichner_.ZeichneKante(Kante::Create(kSchwarz, {}, LinieAttr::AR2), {m.x - halb, m.y},
                                        {m.x + halb, m.y}, Gang::Zeigen);
             }
             zeichner_.SetzeStil(nullptr);

@@ -26,6 +26,7 @@ Plan::~Plan() {
 
 void Plan::UebernimmListe(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
                           const std::filesystem::path& datei) {
+    faerbung_ = {};
     assert(liste != nullptr);
     schritte_.clear();
     ungesichert_ = false;

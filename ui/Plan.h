@@ -8,10 +8,12 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "model/Dateien.h"
 #include "model/FigListe.h"
+#include "model/ergebnisse/Einfaerbung.h"
 #include "ui/aenderungen/Aenderungen.h"
 
 namespace zrw {
@@ -63,6 +65,10 @@ class Plan {
     /// Saves it as picture file. @return how many labels were left out @throws Fehler: nothing is saved
     std::size_t SpeicherePlan(const std::filesystem::path& datei);
 
+    /// How lines and points are coloured for the moment, and which lines are drawn: no part of what is saved.
+    [[nodiscard]] const Planfaerbung& Faerbung() const { return faerbung_; }
+    void SetzeFaerbung(Planfaerbung faerbung) { faerbung_ = std::move(faerbung); }
+
     /// Does the change and remembers it for undoing.
     void TueAenderung(std::unique_ptr<Netzaenderung> aenderung);
     // @return false: there is nothing to undo or to do again
@@ -81,6 +87,7 @@ class Plan {
     Beobachter& beobachter_;
     std::unique_ptr<Liste> liste_;
     QUndoStack schritte_;
+    Planfaerbung faerbung_;
     bool ungesichert_ = false;  ///< changes that cannot be undone
     std::filesystem::path datei_;
     Ablagestand abgelegt_;

@@ -27,19 +27,6 @@ std::string Groessennamen() {
     return namen;
 }
 
-/// Rising finite numbers between commas; none where the text is something else.
-std::vector<double> LiesGrenzen(std::string_view text) {
-    std::vector<double> grenzen;
-    while (true) {
-        const std::size_t komma = std::min(text.find(','), text.size());
-        const auto zahl = LiesReal(text.substr(0, komma));
-        if (!zahl || (!grenzen.empty() && *zahl <= grenzen.back())) return {};
-        grenzen.push_back(*zahl);
-        if (komma == text.size()) return grenzen;
-        text.remove_prefix(komma + 1);
-    }
-}
-
 std::optional<Klassenwahl> LiesKlassen(std::string_view text) {
     for (const Klassenartzeile& art : kKlassenarten) {
         if (art.name.empty() || text.size() < art.name.size() ||
@@ -195,6 +182,18 @@ Klassenwahl UeblicheKlassen(Farbgroesse g) {
     if (g == Farbgroesse::TG) return {Klassenart::VonHand, {1.0, 2.0, kUeblicheTestgrenze}, 4};
     if (g == Farbgroesse::EV) return {Klassenart::VonHand, {0.1, 0.3, 0.5}, 4};
     return {Klassenart::Quantile, {}, kUeblicheKlassen};
+}
+
+std::vector<double> LiesGrenzen(std::string_view text) {
+    std::vector<double> grenzen;
+    while (true) {
+        const std::size_t komma = std::min(text.find(','), text.size());
+        const auto zahl = LiesReal(text.substr(0, komma));
+        if (!zahl || (!grenzen.empty() && *zahl <= grenzen.back())) return {};
+        grenzen.push_back(*zahl);
+        if (komma == text.size()) return grenzen;
+        text.remove_prefix(komma + 1);
+    }
 }
 
 Einfaerbungstext LiesEinfaerbung(std::string_view text) {

@@ -62,6 +62,9 @@ struct Einfaerbung {
     friend bool operator==(const Einfaerbung&, const Einfaerbung&) = default;
 };
 
+/// Rising finite numbers between commas; none where the text is something else.
+[[nodiscard]] std::vector<double> LiesGrenzen(std::string_view text);
+
 /// Reads "TG", "TG:1,2,3.3", "mL:quantile", "EV:gleich4". @return or what is wrong with it, German
 struct Einfaerbungstext {
     std::optional<Einfaerbung> wahl{};

@@ -74,7 +74,7 @@ std::string Klassentext(std::span<const double> grenzen, std::size_t klasse) {
 Figurstil KlassenstilVon(Klassenfarben farben, std::size_t klasse, std::size_t anzahl) {
     const double stelle = anzahl > 1 ? static_cast<double>(klasse) / static_cast<double>(anzahl - 1) : 1.0;
     return {.farbe = Verlaufsfarbe(kFarbverlaeufe[static_cast<std::size_t>(farben)], stelle),
-            .breite = 1 + static_cast<std::int32_t>(std::lround(stelle * (kGroessteBreite - 1)))};
+            .breite = 1 + static_cast<std::int32_t>(stelle * (kGroessteBreite - 1))};
 }
 
 }  // namespace zrw

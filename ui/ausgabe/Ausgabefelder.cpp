@@ -34,7 +34,7 @@ QWidget* Reihe(std::initializer_list<QWidget*> teile, QWidget* eltern) {
 }  // namespace
 
 Ausgabefelder::Ausgabefelder(const Planausgabe& plan, const Ausgabeanfang& anfang, QWidget* eltern)
-    : QWidget(eltern), form_(new QFormLayout(this)) {
+    : QWidget(eltern), form_(new QFormLayout(this)), faerbung_(plan.Faerbung()) {
     form_->setContentsMargins(0, 0, 0, 0);
     BaueFormat(*form_);
     BaueBild(*form_, plan.UeblicheGroesse(), anfang.glatt);
@@ -230,6 +230,7 @@ std::optional<Ausgabeauftrag> Ausgabefelder::Auftrag() const {
         a.gestaltung = gestaltung_->Gestaltung();
     }
     if (format.HatMerkmal(kMitSchaltern)) NimmSchalter(a);
+    a.faerbung = faerbung_;
     const bool legende = std::find(a.ein.begin(), a.ein.end(), "legende") != a.ein.end();
     if (format.HatMerkmal(kMitMassstab)) {
         a.dpi = dpi_->value();

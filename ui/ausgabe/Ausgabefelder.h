@@ -56,6 +56,7 @@ class Ausgabefelder final : public QWidget {
     void NimmSchalter(Ausgabeauftrag& auftrag) const;
 
     QFormLayout* form_ = nullptr;
+    Planfaerbung faerbung_;  ///< that of the window
     QComboBox* format_ = nullptr;
     QSpinBox* weite_ = nullptr;
     QSpinBox* hoehe_ = nullptr;

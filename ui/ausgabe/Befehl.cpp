@@ -38,11 +38,13 @@ void HaengeGestaltungAn(std::vector<std::string>& worte, const Blattgestaltung& 
 }
 
 void HaengeFaerbungAn(std::vector<std::string>& worte, const Planfaerbung& f) {
-    if (f.einfaerbung) worte.insert(worte.end(), {"--einfaerben", SchreibeEinfaerbung(*f.einfaerbung)});
     std::vector<std::string> kategorien;
     for (const Kategoriezeile& z : kLinienkategorien) {
         if (f.filter.kategorien[static_cast<std::size_t>(z.kategorie)]) kategorien.emplace_back(z.name);
     }
+    // Such a value the command colours within one kind only.
+    if (f.einfaerbung && (!ZurGroesse(f.einfaerbung->groesse).nurJeGattung || kategorien.size() == 1))
+        worte.insert(worte.end(), {"--einfaerben", SchreibeEinfaerbung(*f.einfaerbung)});
     HaengeListeAn(worte, "--nur", kategorien);
 }
 

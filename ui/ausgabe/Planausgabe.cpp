@@ -137,6 +137,15 @@ QStringList Planausgabe::Abweichungen(const Format& format, const Ausgabeauftrag
     if (erklaert && plan_.Daten()->Erklaerungsort)
         texte << QStringLiteral(
             "Die Zeichenerklärung ist verschoben; der Befehl kennt nur ihren üblichen Ort.");
+    const Planfaerbung& f = auftrag.faerbung;
+    const bool gefaerbt = f.Wirkt() && mitLegende;
+    if (gefaerbt &&
+        (f.filter.station != kKeinPunkt || f.filter.klasse ||
+         (f.einfaerbung && (f.einfaerbung->gattung || f.einfaerbung->farben != Klassenfarben::Magma))))
+        texte << QStringLiteral(
+            "Der Befehl färbt in den üblichen Farben und kennt die Wahl nach Art der Beobachtung, Punkt und "
+            "Klasse "
+            "nicht.");
     const Netzangaben uebliche;
     const Netzangaben& netz = programm_.netz;
     const bool gitter = std::any_of(auftrag.ein.begin(), auftrag.ein.end(), [](const std::string& n) {

@@ -23,6 +23,8 @@ class Planausgabe {
 
     /// Size of a picture that nobody asked another for.
     [[nodiscard]] Bildgroesse UeblicheGroesse() const;
+    /// How it colours lines and points, and which lines it draws.
+    [[nodiscard]] const Planfaerbung& Faerbung() const { return plan_.Faerbung(); }
     /// Whether the window shows what this switch is about.
     [[nodiscard]] bool IstAn(const Schalter& schalter) const;
     [[nodiscard]] const Netzangaben& Angaben() const { return programm_.netz; }

@@ -121,6 +121,12 @@ inline constexpr auto kBefehle = std::to_array<Befehl>({
      "Sucht für die Punktnummern Plätze, an denen sie einander, Symbole und Linien nicht treffen.",
      "nummern_ordnen", "", &TZrwMainDlg::NummernOrdnenClick, kBrauchtNetz | kGruppenende},
 
+    {"EinfaerbenWahl", Menue::Ergebnisse, "Ein&färben…", "Einfärben",
+     "Zeichnet Linien oder Punkte in Klassen eines Ergebnisses, oder nur einen Teil der Linien.",
+     "einfaerben", "", &TZrwMainDlg::EinfaerbenClick, kBrauchtNetz | kOhneKnopf},
+    {"StatistikWahl", Menue::Ergebnisse, "&Statistik…", "Statistik",
+     "Fasst die Beobachtungen zusammen: Anzahlen, Testgrößen, Redundanz und die auffälligsten.", "statistik",
+     "", &TZrwMainDlg::StatistikClick, kBrauchtNetz | kOhneKnopf | kMenuestrich},
     {"SpeedButton12", Menue::Ausgabe, "&Legendentexte…", "Legendentexte",
      "Schreibt zwei Zeilen in die Legende und blendet sie ein.", "legende", "Ctrl+L",
      &TZrwMainDlg::SpeedButton12Click, kBrauchtNetz | kMenuestrich},

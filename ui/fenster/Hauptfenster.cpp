@@ -25,6 +25,7 @@
 #include "ui/dialoge/TZRWLBLForm.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/Ergebnisgitter.h"
+#include "ui/ergebnisse/Planfaerber.h"
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"

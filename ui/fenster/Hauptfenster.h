@@ -32,16 +32,19 @@ struct Befehl;
 class Bildfach;
 class Eigenschaftsseite;
 class Ergebnisanzeige;
+class Farbseite;
 class Figurenmenue;
 class Hilfefenster;
 class Nummernfeld;
 class Nummernordner;
+class Planfaerber;
 class Punktartwahl;
 class Punktgang;
 class Punktversteck;
 class Schwebekarte;
 class Seitenleiste;
 class Standfelder;
+class Statistikseite;
 class Startseite;
 class Statuszeile;
 class TFormBeobTyp;
@@ -101,6 +104,8 @@ class TZrwMainDlg final : public QMainWindow,
     void SpaetereAnsichtClick();
     void PunktSucheClick();
     void SeitenleisteClick();
+    void EinfaerbenClick();  ///< lines and points in classes of a result
+    void StatistikClick();
     void LoeseWerkzeuge();
     void Rueckgaengig();
     void WiederholeSchritt();
@@ -229,6 +234,8 @@ class TZrwMainDlg final : public QMainWindow,
     Seitenleiste* seitenleiste_ = nullptr;
     Eigenschaftsseite* eigenschaften_ = nullptr;
     Zeichenseite* zeichen_ = nullptr;
+    Farbseite* farbseite_ = nullptr;
+    Statistikseite* statistik_ = nullptr;
     Standfelder* standfelder_ = nullptr;
     Statuszeile* status_ = nullptr;
     Massstabfeld* EditMasstab_ = nullptr;
@@ -241,6 +248,7 @@ class TZrwMainDlg final : public QMainWindow,
     std::unique_ptr<Nummernordner> nummern_;
     std::unique_ptr<Punktgang> punktgang_;
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
+    std::unique_ptr<Planfaerber> faerber_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QString titel_;
     QString ordner_;           ///< of the last file

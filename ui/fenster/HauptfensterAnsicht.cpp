@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <string>
 
+#include "input/tabellen/Beobachtungsleser.h"
 #include "model/Zahlentext.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktversteck.h"
@@ -10,6 +11,7 @@
 #include "ui/bild/Schwebekarte.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/Ergebnisgitter.h"
+#include "ui/ergebnisse/Planfaerber.h"
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
@@ -19,7 +21,9 @@
 #include "ui/fenster/Standfelder.h"
 #include "ui/fenster/Statuszeile.h"
 #include "ui/seitenleiste/Eigenschaftsseite.h"
+#include "ui/seitenleiste/Farbseite.h"
 #include "ui/seitenleiste/Seitenleiste.h"
+#include "ui/seitenleiste/Statistikseite.h"
 #include "ui/seitenleiste/Zeichenseite.h"
 #include "ui/werkzeuge/Punktgang.h"
 
@@ -70,8 +74,22 @@ void TZrwMainDlg::BaueSeitenleiste() {
         seitenleiste_);
     zeichen_ = new Zeichenseite(
         programm_, plan_, [this] { return vorlieben_.KantenGlaetten; }, seitenleiste_);
+    faerber_ = std::make_unique<Planfaerber>(
+        programm_, plan_,
+        [this] { return std::make_shared<const Beobachtungsliste>(LiesBeobachtungen(programm_.daten)); },
+        [this] { ZeichneNeu(); });
+    farbseite_ = new Farbseite(*faerber_, plan_, seitenleiste_);
     seitenleiste_->NimmSeite(*eigenschaften_, QStringLiteral("Eigenschaften"));
     seitenleiste_->NimmSeite(*zeichen_, QStringLiteral("Linien und Symbole"));
+    statistik_ = new Statistikseite(
+        {programm_, plan_,
+         [this] { return std::make_shared<const Beobachtungsliste>(LiesBeobachtungen(programm_.daten)); },
+         [this](const Beobachtung& b) { ZeigePunkt(AusNetz(b.von.Text())); },
+         [](const Listenfilter& /*filter*/) {}, [this](PunktIndex nr) { WaehleImBild(nr); },
+         [this](const QString& satz) { MeldeErledigt(satz); }},
+        seitenleiste_);
+    seitenleiste_->NimmSeite(*farbseite_, QStringLiteral("Einfärben"));
+    seitenleiste_->NimmSeite(*statistik_, QStringLiteral("Statistik"));
     werkzeuge_.Ausgewaehlt().gewechselt = [this] { eigenschaften_->ZeigeAuswahl(); };
     seitenleiste_->LadeStand(programm_.sitzung);
     QAction& aktion = aktionen_->NachName("SeitenLeiste");
@@ -81,6 +99,14 @@ void TZrwMainDlg::BaueSeitenleiste() {
 
 void TZrwMainDlg::SeitenleisteClick() {
     seitenleiste_->setVisible(aktionen_->NachName("SeitenLeiste").isChecked());
+}
+
+void TZrwMainDlg::EinfaerbenClick() {
+    seitenleiste_->ZeigeSeite(*farbseite_);
+}
+
+void TZrwMainDlg::StatistikClick() {
+    seitenleiste_->ZeigeSeite(*statistik_);
 }
 
 /// A point that the side bar names.

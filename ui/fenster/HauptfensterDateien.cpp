@@ -29,7 +29,9 @@
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
 #include "ui/seitenleiste/Eigenschaftsseite.h"
+#include "ui/seitenleiste/Farbseite.h"
 #include "ui/seitenleiste/Seitenleiste.h"
+#include "ui/seitenleiste/Statistikseite.h"
 #include "ui/werkzeuge/Punktgang.h"
 
 namespace zrw {
@@ -382,6 +384,8 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     // A picture file keeps the view that it was saved with.
     if (vorlieben_.EinpassenNachOeffnen && !IstBilddatei(datei)) planbild_.SetzeEingepasst();
     ZeichneNeu();
+    farbseite_->ZeigeWahl();
+    statistik_->ErneuereStatistik();
     aussenhinweis_->ZeigeAnzahl(planbild_.ZaehlePunkte());
     standfelder_->ZeigeZahlen(*plan_.Daten());
 }

@@ -7,6 +7,7 @@
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/dialoge/TFormHidePunkte.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/ergebnisse/Planfaerber.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
@@ -39,6 +40,7 @@ void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
     punktart_->NetzGeaendert();
     versteck_->Versteckte().NetzGeaendert();
     if (ComboBox1_->Veraltet(*plan_.Daten())) FuelleNummern();
+    faerber_->NetzGeaendert();
     planbild_.NachAenderung(figuren);
     standfelder_->ZeigeZahlen(*plan_.Daten());
     werkzeuge_.NetzGeaendert();
