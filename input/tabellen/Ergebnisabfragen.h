@@ -5,6 +5,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "input/tabellen/Ergebnistabellen.h"
 
@@ -14,9 +15,11 @@ namespace zrw {
 struct Ergebnisreiter {
     std::string_view titel;
     Tabelle tabelle;
-    std::string_view datei;  ///< without it the tab lists nothing
-    std::string_view punkt;  ///< results of the point {a}
-    std::string_view kante;  ///< results of the line from {a} to {b}
+    std::string_view datei;       ///< without it the tab lists nothing
+    std::string_view punkt;       ///< results of the point {a}
+    std::string_view kante;       ///< results of the line from {a} to {b}
+    std::string_view flag = {};   ///< field that is set in rows with a gross error; empty: none
+    std::string_view gegen = {};  ///< further results of the line, from {b} to {a}; empty: none
 };
 
 inline constexpr auto kErgebnisreiter = std::to_array<Ergebnisreiter>({
@@ -26,25 +29,44 @@ inline constexpr auto kErgebnisreiter = std::to_array<Ergebnisreiter>({
     // A line lists its vectors in its own direction only.
     {"GPS Vektoren", Tabelle::Gps, "GPSTable.DB",
      "SELECT * from GPSTABLE WHERE ((GPSTABLE.P1 = '{a}') OR (GPSTABLE.P2= '{a}')) order by ID ASC",
-     "SELECT * from GPSTABLE WHERE ((GPSTABLE.P1 = '{a}') AND (GPSTABLE.P2= '{b}')) order by ID ASC"},
+     "SELECT * from GPSTABLE WHERE ((GPSTABLE.P1 = '{a}') AND (GPSTABLE.P2= '{b}')) order by ID ASC", "FF",
+     "SELECT * from GPSTABLE WHERE ((GPSTABLE.P1 = '{b}') AND (GPSTABLE.P2= '{a}')) order by ID ASC"},
     {"Strecken", Tabelle::Strecken, "STRTable.DB",
      "SELECT * from STRTABLE WHERE ((STRTABLE.P1 = '{a}') OR (STRTABLE.P2= '{a}')) order by ID ASC",
      "SELECT * from STRTABLE WHERE (((STRTABLE.P1 = '{a}') AND (STRTABLE.P2= '{b}')) OR "
-     "((STRTABLE.P1 = '{b}') AND (STRTABLE.P2= '{a}'))) order by ID ASC"},
+     "((STRTABLE.P1 = '{b}') AND (STRTABLE.P2= '{a}'))) order by ID ASC",
+     "FF"},
     {"Höhenunterschiede", Tabelle::Hoehenunterschiede, "DHTable.DB",
      "SELECT * from DHTABLE WHERE ((DHTABLE.P1 = '{a}') OR (DHTABLE.P2= '{a}')) order by ID ASC",
      "SELECT * from DHTABLE WHERE (((DHTABLE.P1 = '{a}') AND (DHTABLE.P2= '{b}')) OR "
-     "((DHTABLE.P1 = '{b}') AND (DHTABLE.P2= '{a}'))) order by ID ASC"},
+     "((DHTABLE.P1 = '{b}') AND (DHTABLE.P2= '{a}'))) order by ID ASC",
+     "FF"},
     {"Richtungen", Tabelle::Richtungen, "RTGTable.DB",
      "SELECT * from RTGTABLE WHERE ((RTGTABLE.PS = '{a}') OR (RTGTABLE.PZ= '{a}')) order by ID ASC",
      "SELECT * from RTGTABLE WHERE (((RTGTABLE.PS = '{a}') AND (RTGTABLE.PZ= '{b}')) OR "
-     "((RTGTABLE.PS = '{b}') AND (RTGTABLE.PZ= '{a}'))) order by ID ASC"},
+     "((RTGTABLE.PS = '{b}') AND (RTGTABLE.PZ= '{a}'))) order by ID ASC",
+     "FF"},
     {"GPS Punkte 3D", Tabelle::GpsPunkte3D, "WGSTable.DB",
      "SELECT * from WGSTABLE WHERE (WGSTABLE.PKT = '{a}') order by ID ASC",
-     "SELECT * from WGSTABLE WHERE ((WGSTABLE.PKT = '{a}') or (WGSTABLE.PKT = '{b}')) order by ID ASC"},
+     "SELECT * from WGSTABLE WHERE ((WGSTABLE.PKT = '{a}') or (WGSTABLE.PKT = '{b}')) order by ID ASC", "FF"},
     {"GPS Punkte 2D", Tabelle::GpsPunkte2D, "WGSYXTable.DB",
      "SELECT * from WGSYXTABLE WHERE (WGSYXTABLE.PKT = '{a}') order by ID ASC",
-     "SELECT * from WGSYXTABLE WHERE ((WGSYXTABLE.PKT = '{a}') or (WGSYXTABLE.PKT = '{b}')) order by ID ASC"},
+     "SELECT * from WGSYXTABLE WHERE ((WGSYXTABLE.PKT = '{a}') or (WGSYXTABLE.PKT = '{b}')) order by ID ASC",
+     "FF"},
+    {"Linienprüfungen", Tabelle::Linien, "MLTable.DB",
+     "SELECT * from MLTABLE WHERE ((MLTABLE.PA = '{a}') OR (MLTABLE.PE= '{a}')) order by ID ASC",
+     "SELECT * from MLTABLE WHERE (((MLTABLE.PA = '{a}') AND (MLTABLE.PE= '{b}')) OR "
+     "((MLTABLE.PA = '{b}') AND (MLTABLE.PE= '{a}'))) order by ID ASC",
+     "GF"},
+    {"Streckenprüfungen", Tabelle::Streckenkontrollen, "STRKTRTable.DB",
+     "SELECT * from STRKTRTABLE WHERE ((STRKTRTABLE.P1 = '{a}') OR (STRKTRTABLE.P2= '{a}')) order by ID ASC",
+     "SELECT * from STRKTRTABLE WHERE (((STRKTRTABLE.P1 = '{a}') AND (STRKTRTABLE.P2= '{b}')) OR "
+     "((STRKTRTABLE.P1 = '{b}') AND (STRKTRTABLE.P2= '{a}'))) order by ID ASC",
+     "GF"},
+    {"Koordinaten 2", Tabelle::WeitereKoordinaten, "PostKooTable.DB",
+     "SELECT * from POSTKOOTABLE WHERE (POSTKOOTABLE.PKT = '{a}') order by ID ASC",
+     "SELECT * from POSTKOOTABLE WHERE ((POSTKOOTABLE.PKT = '{a}') or (POSTKOOTABLE.PKT = '{b}')) "
+     "order by ID ASC"},
 });
 
 /// One pass over the flagged rows of a table.
@@ -72,6 +94,13 @@ inline constexpr auto kFehlersuchen = std::to_array<Fehlersuche>({
     {Tabelle::Linien, "MLTable.DB", "SELECT * from MLTABLE WHERE (MLTABLE.GF = True) order by ID", "PA", "PE",
      "GF"},
 });
+
+class TDM;
+
+/// Which results of the line between two points (UTF-8) are flagged, by the titles of their tabs: what it may
+/// be marked for. Tables that are missing or cannot be read say nothing.
+[[nodiscard]] std::vector<std::string_view> Markiergruende(TDM& daten, std::string_view a,
+                                                           std::string_view b);
 
 /// The query with the point numbers (UTF-8) in their places; quote marks in them are doubled, so that a
 /// number stays one text.

@@ -212,6 +212,22 @@ std::optional<std::vector<bool>> TDM::LiesZeilen(Tabelle tabelle, std::span<cons
     return vorhanden;
 }
 
+TDM::Zeilenzahl TDM::ZaehleZeilen(Tabelle tabelle, std::string_view abfrage, std::string_view flag) {
+    if (!AktualisiereTabelle(tabelle))
+        throw Fehler("Die Tabelle ist nicht vorhanden.", std::string(Beschreibung(tabelle).name) + ".DB");
+    const auto& felder = staende_[Nummer(tabelle)]->felder;
+    const bool mitFlag = std::any_of(felder.begin(), felder.end(),
+                                     [&](const paradox::Feld& f) { return GleichesFeld(f.name, flag); });
+    const std::string summe = mitFlag ? "sum(" + std::string(flag) + " = TRUE)" : "0";
+    const Antwort antwort =
+        datenbank_.StelleAbfrage("SELECT count(*), " + summe + " FROM (" + std::string(abfrage) + ")");
+    const auto ganz = [&](std::size_t spalte) {
+        const auto* zahl = std::get_if<std::int64_t>(&antwort.zeilen.at(0).at(spalte));
+        return zahl != nullptr ? *zahl : 0;  // the sum over no rows is null
+    };
+    return {ganz(0), ganz(1)};
+}
+
 TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) const {
     static constexpr auto kFelder = std::to_array<std::pair<std::string_view, double Punktergebnis::*>>({
         {"dY", &Punktergebnis::dY},

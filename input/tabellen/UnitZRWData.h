@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -42,6 +43,14 @@ class TDM final : public Punktergebnisse {
     /// Where the table has become unreadable, what was read before answers, and `NimmMeldungen` tells it.
     /// @throws Fehler where the table is missing, was never readable or lacks a field of the query
     [[nodiscard]] Antwort FrageTabelle(Tabelle tabelle, std::string_view abfrage);
+
+    /// How many rows a query over one table gives, and how many of them have a flag set; of a table without
+    /// that field, none. @param flag name of the field, may be empty @throws Fehler as `FrageTabelle`
+    struct Zeilenzahl {
+        std::int64_t zeilen = 0;
+        std::int64_t markiert = 0;
+    };
+    [[nodiscard]] Zeilenzahl ZaehleZeilen(Tabelle tabelle, std::string_view abfrage, std::string_view flag);
 
     /// What is wrong with the fields that a purpose needs: those that are missing and those that hold
     /// something other than their description says. Empty: nothing. @throws Fehler as `FrageTabelle`

@@ -90,14 +90,14 @@ TEST_F(Ergebnisse, AuflistungenAllerReiter) {
     std::vector<std::vector<std::pair<std::string_view, Wert>>> zeilen;
     for (const Ergebnisreiter& r : kErgebnisreiter) {
         const bool paarig = Feld(r.tabelle, "PKT") == Beschreibung(r.tabelle).felder.size();
-        const bool satz = Feld(r.tabelle, "PS") < Beschreibung(r.tabelle).felder.size();
+        const auto felder = Beschreibung(r.tabelle).felder;
         zeilen.clear();
         for (const auto& [a, b] : paare) {
             if (!paarig) {
                 zeilen.push_back({{"PKT", std::string_view(a)}});
             } else {
                 zeilen.push_back(
-                    {{satz ? "PS" : "P1", std::string_view(a)}, {satz ? "PZ" : "P2", std::string_view(b)}});
+                    {{felder[1].name, std::string_view(a)}, {felder[2].name, std::string_view(b)}});
             }
         }
         LegeTabelleAn(r.tabelle, zeilen);
@@ -120,6 +120,8 @@ TEST_F(Ergebnisse, AuflistungenAllerReiter) {
                         erwartet.push_back(static_cast<std::int64_t>(i) + 1);
                 }
                 EXPECT_EQ(Ids(r, n, m), erwartet) << r.titel << " " << n << " " << m;
+                EXPECT_EQ(daten.ZaehleZeilen(r.tabelle, Abfragetext(r.kante, n, m), r.flag).zeilen,
+                          static_cast<std::int64_t>(erwartet.size()));
             }
         }
     }
@@ -235,6 +237,10 @@ TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
     LegeTabelleAn(Tabelle::Gps, {zeile("P1", "5", "P2", "4", "FF", true)});
     LegeTabelleAn(Tabelle::Streckenkontrollen, {zeile("P1", "5", "P2", "6", "GF", true)});
     LegeTabelleAn(Tabelle::Linien, {zeile("PA", "6", "PE", "7", "GF", true)});
+    const auto gruende = [&](std::string_view a, std::string_view b) { return Markiergruende(daten, a, b); };
+    EXPECT_EQ(gruende("7", "6"), (std::vector<std::string_view>{"Linienprüfungen"}));
+    EXPECT_EQ(gruende("4", "5"), (std::vector<std::string_view>{"GPS Vektoren"})) << "in either direction";
+    EXPECT_TRUE(gruende("2", "3").empty()) << "directions count beside distances";
     EXPECT_TRUE(MarkiereFehler(n.l, daten, n.e).empty());
     EXPECT_EQ(marken(), (std::set{3, 4, 5, 6})) << "no direction without the table of distances";
 

@@ -15,6 +15,9 @@ struct Spaltenhinweis {
     std::string_view text;  ///< UTF-8
 };
 
+/// Column of the vectors of a line that tells those that lead back.
+inline constexpr std::string_view kGegenrichtung = "Richtung";
+
 /// Case matters: "dX" corrects a coordinate, "DX" is part of a vector.
 inline constexpr auto kSpaltenhinweise = std::to_array<Spaltenhinweis>({
     {"ID", "laufende Nummer"},
@@ -23,13 +26,21 @@ inline constexpr auto kSpaltenhinweise = std::to_array<Spaltenhinweis>({
     {"P2", "Nummer des zweiten Punktes"},
     {"PS", "Nummer des Standpunkts"},
     {"PZ", "Nummer des Zielpunkts"},
+    {"PA", "Nummer des Anfangspunkts"},
+    {"PE", "Nummer des Endpunkts"},
+    {kGegenrichtung, "ob der Vektor vom zweiten Punkt der Linie zum ersten führt"},
+    {"Sgem", "gemessene Strecke [m]"},
+    {"Sger", "gerechnete Strecke [m]"},
+    {"vS", "Abweichung der Strecken [m]"},
+    {"Dzul", "zulässige Abweichung [m]"},
+    {"LG", "in der Regel Lagegenauigkeit"},
     {"Satz", "Richtungssatz"},
     {"NIV", "Code des Punktes"},
     {"NIVP1", "Code des ersten Punktes"},
     {"NIVP2", "Code des zweiten Punktes"},
     {"D", "beobachteter Vektor"},
     {"DH", "beobachteter Höhenunterschied [m]"},
-    {"ST", "Strecke [m]; im Reiter Koordinaten die Punktart"},
+    {"ST", "Strecke [m]; in den Reitern der Koordinaten die Punktart"},
     {"RI", "Richtung; bei Strecken der Richtungswinkel [gon]"},
     {"V", "Verbesserung"},
     {"VS", "Verbesserung der Strecke"},
@@ -42,7 +53,7 @@ inline constexpr auto kSpaltenhinweise = std::to_array<Spaltenhinweis>({
     {"EV", "in der Regel Redundanzanteil, 0 bis 1"},
     {"VMF", "in der Regel Standardabweichung der Verbesserung"},
     {"NMF", "in der Regel Standardabweichung der ausgeglichenen Beobachtung"},
-    {"GF", "in der Regel geschätzter grober Fehler"},
+    {"GF", "in der Regel geschätzter grober Fehler; in den Prüfungen: als grob falsch bezeichnet"},
     {"GRZW", "in der Regel Grenzwert: kleinster grober Fehler, der auffällt"},
     {"EGRZW", "in der Regel Einfluss des Grenzwerts auf den Punkt"},
     {"EF", "in der Regel Einflussfaktor"},
