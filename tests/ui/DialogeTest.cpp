@@ -235,7 +235,7 @@ TEST_F(Parameter, ResiduenmassstabBeimVerlassenUndSichernBeimSchliessen) {
     }
     tippe("4");
     QTest::keyClick(&feld, Qt::Key_Escape);  // closes without leaving the field
-    EXPECT_EQ(gesichert, 24U) << "once, and before the call";
+    EXPECT_EQ(gesichert, 25U) << "once, and before the call";
     EXPECT_EQ(ablage.werte["ResMF"], "4");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(form.isNull()) << "deletes itself";

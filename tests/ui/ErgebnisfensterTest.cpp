@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QHeaderView>
+#include <QLabel>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
@@ -121,6 +122,97 @@ TEST_F(Ergebnisfenster, SortiertKopiertUndZeigtDenAnderenEndpunkt) {
     Reiter(5);
     EXPECT_EQ(Gitter().columnWidth(7), 123);
     EXPECT_NE(Gitter().columnWidth(34), 123);
+}
+
+TEST_F(Ergebnisfenster, ReiterZeigenWasSieHaben) {
+    std::vector<Wert> pruefung(9);
+    pruefung[0] = std::int64_t{1};
+    pruefung[1] = "A";
+    pruefung[2] = "C";
+    pruefung[8] = true;
+    Tabelle(zrw::Tabelle::Linien, {pruefung});
+    OeffneDatei("n.EIN");
+    Knopf("DataButton").click();
+    auto& reiter = *Fenster().findChild<QTabBar*>("TabControl1");
+    Klick((C + E) / 2);
+    EXPECT_EQ(reiter.accessibleTabName(2), "Strecken, 2 Zeilen, davon 1 als grob falsch bezeichnet");
+    EXPECT_FALSE(reiter.tabIcon(2).isNull());
+    EXPECT_TRUE(reiter.tabIcon(1).isNull());
+    EXPECT_EQ(reiter.accessibleTabName(7), "Linienprüfungen, keine Zeilen");
+    EXPECT_NE(reiter.tabTextColor(7), reiter.tabTextColor(2));
+    EXPECT_EQ(reiter.currentIndex(), 0) << "stays, unless somebody wants another";
+    EXPECT_TRUE(Kind<QLabel>("AngabenZeile").text().endsWith("bezeichnet: Strecken"));
+    Klick((A + C) / 2);
+    EXPECT_TRUE(Kind<QLabel>("AngabenZeile").text().endsWith("bezeichnet: Linienprüfungen"));
+    Knopf("ColorButton").click();
+    Kind<QCheckBox>("CheckBoxAuffaellig").click();
+    Klick((C + E) / 2);
+    EXPECT_EQ(reiter.currentIndex(), 2);
+    Reiter(0);
+    Klick((C + E) / 2);
+    EXPECT_EQ(reiter.currentIndex(), 0) << "whoever goes back stays there";
+    Klick((A + C) / 2);
+    EXPECT_EQ(reiter.currentIndex(), 7);
+    ASSERT_EQ(Gitter().model()->rowCount(), 1);
+    emit Gitter().doubleClicked(Gitter().model()->index(0, 0));
+    EXPECT_EQ(Status(), "Punkt C") << "its other end";
+    Klick(E);
+    EXPECT_TRUE(Kind<QLabel>("AngabenZeile").text().startsWith("Neupunkt   Näherung: Rechtswert 3000.000"));
+    OeffneDatei("a.EIN");
+    EXPECT_EQ(reiter.accessibleTabName(2), "");
+}
+
+TEST_F(Ergebnisfenster, EinVektorInDerGegenrichtung) {
+    std::vector<Wert> gps(41);
+    gps[0] = std::int64_t{1};
+    gps[1] = "E";
+    gps[2] = "C";
+    gps[5] = 12.5;
+    Tabelle(zrw::Tabelle::Gps, {gps});
+    Knopf("DataButton").click();
+    Reiter(1);
+    Klick((C + E) / 2);
+    EXPECT_EQ(Gitter().model()->rowCount(), 0) << "the window lists one direction";
+    EXPECT_TRUE(Fenster()
+                    .findChild<QLabel*>("ErgebnisHinweis")
+                    ->text()
+                    .contains("von E nach C, gibt es einen Vektor"));
+    Knopf("DataButton").click();
+    Kind<QAction>("AktionSeitenLeiste").trigger();
+    Klick((C + E) / 2);
+    Kind<QTabBar>("ErgebnisReiter").setCurrentIndex(1);
+    const auto& modell = *Kind<QTableView>("ErgebnisGitter").model();
+    ASSERT_EQ(modell.rowCount(), 1);
+    EXPECT_EQ(modell.index(0, 3).data().toString(), "Gegenrichtung");
+    EXPECT_EQ(modell.index(0, 6).data().toString(), "12.500") << "the formats follow their columns";
+}
+
+TEST_F(Ergebnisfenster, ErsteSpaltenBleibenStehen) {
+    Knopf("DataButton").click();
+    Klick(E);
+    Reiter(2);
+    auto& feste = *Gitter().findChild<QTableView*>("FesteSpalten");
+    EXPECT_FALSE(feste.isVisible()) << "nothing is scrolled";
+    Gitter().horizontalScrollBar()->setValue(150);
+    ASSERT_TRUE(feste.isVisible());
+    EXPECT_FALSE(feste.isColumnHidden(2));
+    EXPECT_TRUE(feste.isColumnHidden(3));
+    feste.horizontalHeader()->resizeSection(1, 77);
+    EXPECT_EQ(Gitter().columnWidth(1), 77);
+    Gitter().setColumnWidth(2, 66);
+    EXPECT_EQ(feste.columnWidth(2), 66);
+    EXPECT_EQ(feste.width(), Gitter().columnWidth(0) + 77 + 66);
+    feste.selectRow(1);
+    EXPECT_TRUE(Gitter().selectionModel()->isRowSelected(1)) << "one selection";
+    emit feste.horizontalHeader()->sectionClicked(0);
+    emit feste.horizontalHeader()->sectionClicked(0);
+    EXPECT_EQ(Zelle(0, "ID"), "2") << "downwards";
+    EXPECT_EQ(feste.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+    Gitter().setCurrentIndex(Gitter().model()->index(0, 8));
+    Gitter().setCurrentIndex(Gitter().model()->index(0, 3));
+    EXPECT_GE(Gitter().columnViewportPosition(3), feste.isVisible() ? feste.width() : 0) << "not beneath";
+    Reiter(0);
+    EXPECT_FALSE(feste.isVisible());
 }
 
 TEST_F(Ergebnisfenster, NieFremdeZeilenUnterEinemTitel) {

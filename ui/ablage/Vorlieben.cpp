@@ -14,6 +14,7 @@ constexpr auto kVorlieben = std::to_array<Vorliebe>({
     {"EinpassenNachOeffnen", &Vorlieben::EinpassenNachOeffnen},
     {"KantenGlaetten", &Vorlieben::KantenGlaetten},
     {"RadUmgekehrt", &Vorlieben::RadUmgekehrt},
+    {"ZumAuffaelligenReiter", &Vorlieben::ZumAuffaelligenReiter},
 });
 
 }  // namespace

@@ -7,9 +7,10 @@
 namespace zrw {
 
 struct Vorlieben {
-    bool EinpassenNachOeffnen = false;  ///< fits the points of a control file instead of whole kilometres
-    bool KantenGlaetten = true;         ///< lines, symbols and texts with smooth edges
-    bool RadUmgekehrt = false;          ///< the wheel enlarges upwards
+    bool EinpassenNachOeffnen = false;   ///< fits the points of a control file instead of whole kilometres
+    bool KantenGlaetten = true;          ///< lines, symbols and texts with smooth edges
+    bool RadUmgekehrt = false;           ///< the wheel enlarges upwards
+    bool ZumAuffaelligenReiter = false;  ///< results are listed where something is flagged
 };
 
 /// Anything but "1" and "0" leaves a setting as it is.

@@ -90,7 +90,7 @@ QString Punkttext(const Liste& netz, const PunktKnoten& punkt, const Einstellung
 }
 
 QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellungen& einstellungen,
-                   int netztyp) {
+                   int netztyp, const QString& markiergrund) {
     Zeilen z(QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr)));
     z.NimmZeile(QStringLiteral("Beobachtungen"), Beobachtungen(*kante.Item));
     const auto a = netz.Weltort(kante.ANr);
@@ -102,7 +102,9 @@ QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellung
                     AusUtf8(Richtungstext(s.richtung)) + QStringLiteral(" gon"));
     }
     if (kante.Item->Farbe == einstellungen.GFCol)
-        z.NimmZeile(QStringLiteral("markiert"), QStringLiteral("grober Fehler"));
+        z.NimmZeile(QStringLiteral("markiert"), markiergrund.isEmpty()
+                                                    ? QStringLiteral("grober Fehler")
+                                                    : QStringLiteral("grober Fehler: ") + markiergrund);
     return z.Text();
 }
 

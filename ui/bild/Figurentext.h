@@ -17,8 +17,10 @@ namespace zrw {
                                 const Einstellungen& einstellungen, int netztyp,
                                 const Punktergebnisse* ergebnisse);
 /// Both ends, observations, length and bearing from the coordinates, whether it is flagged.
+/// @param markiergrund which tables say so, may be empty
 [[nodiscard]] QString Kantentext(const Liste& netz, const PunktKante& kante,
-                                 const Einstellungen& einstellungen, int netztyp);
+                                 const Einstellungen& einstellungen, int netztyp,
+                                 const QString& markiergrund);
 /// The points at the other ends of its lines, and both ends of a line: links to their internal numbers.
 [[nodiscard]] QString Nachbarntext(Liste& netz, const PunktKnoten& punkt);
 [[nodiscard]] QString Endentext(const Liste& netz, const PunktKante& kante);

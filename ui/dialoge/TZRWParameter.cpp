@@ -213,6 +213,9 @@ void TZRWParameter::BaueVorlieben(QBoxLayout& spalte) {
         &Vorlieben::KantenGlaetten);
     kasten("CheckBoxMausrad", "Mausrad umkehren", "Rad nach oben vergrößert, Rad nach unten verkleinert",
            &Vorlieben::RadUmgekehrt);
+    kasten("CheckBoxAuffaellig", "Zum auffälligen Reiter wechseln",
+           "Ergebnisse zuerst auf dem Reiter auflisten, auf dem eine Zeile als grob falsch bezeichnet ist",
+           &Vorlieben::ZumAuffaelligenReiter);
 }
 
 void TZRWParameter::ZeigeEinstellungen() {

@@ -34,29 +34,23 @@ QString Beobachtungen(const Kante& k) {
     return teile.isEmpty() ? QStringLiteral("keine Beobachtung") : teile.join(QStringLiteral(", "));
 }
 
-QString Angaben(const PunktKnoten& p) {
-    return QStringLiteral("%1   Rechtswert %2   Hochwert %3")
-        .arg(AusUtf8(ZurArt(p.Item->PktArt).bezeichnung), AusUtf8(Festkomma(p.XWPu, 0, 3)),
-             AusUtf8(Festkomma(p.YWPu, 0, 3)));
+/// "Rechtswert 1000.000, Hochwert 2000.000".
+QString Lagetext(double rechts, double hoch) {
+    return QStringLiteral("Rechtswert %1, Hochwert %2")
+        .arg(AusUtf8(Festkomma(rechts, 0, 3)), AusUtf8(Festkomma(hoch, 0, 3)));
 }
 
-QString Angaben(const Liste& netz, const PunktKante& k) {
-    const PunktKnoten* a = netz.SuchPkt(k.ANr);
-    const PunktKnoten* e = netz.SuchPkt(k.ENr);
-    QString text = Beobachtungen(*k.Item);
-    if (a != nullptr && e != nullptr) {
-        const double laenge = std::hypot(e->XWPu - a->XWPu, e->YWPu - a->YWPu);
-        text += QStringLiteral("   Länge in der Ebene %1 m").arg(AusUtf8(Festkomma(laenge, 0, 3)));
-    }
-    return text;
+/// Whether the adjustment is given the position of the point, and not to find it.
+bool LageGegeben(PunktArt art) {
+    return art == PunktArt::FP || art == PunktArt::FL;
 }
 
 }  // namespace
 
-Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, QWidget* eltern)
+Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, const Vorlieben& vorlieben, QWidget* eltern)
     : programm_(programm),
       fenster_(new TFormData(programm.sitzung, eltern)),
-      liste_(programm, fenster_->Gitter(), [this] { MeldeTabellen(); }) {
+      liste_(programm, vorlieben, fenster_->Gitter(), Gegenrichtung::Nennen, [this] { MeldeTabellen(); }) {
     // Until a file is opened, beside which they are looked for.
     if (const auto alias = TavelinOrdner(programm_.ablage)) programm_.daten.SetzeOrdner(*alias);
 }
@@ -81,10 +75,47 @@ bool Ergebnisanzeige::Vorhanden() const {
     return std::any_of(kErgebnisreiter.begin(), kErgebnisreiter.end(), liegtBei);
 }
 
+QString Ergebnisanzeige::Angaben(const Liste& netz, const PunktKnoten& punkt) const {
+    const PunktArt art = punkt.Item->PktArt;
+    QString text = AusUtf8(ZurArt(art).bezeichnung) +
+                   (LageGegeben(art) ? QStringLiteral("   gegeben: ") : QStringLiteral("   Näherung: ")) +
+                   Lagetext(punkt.XWPu, punkt.YWPu);
+    Punktergebnisse* ergebnisse = programm_.zustand.Ergebnisse;
+    if (ergebnisse == nullptr) return text;
+    ergebnisse->ErneuereErgebnisse();
+    const Punktergebnis* e = ergebnisse->ErgebnisZu(netz.GetPktText(punkt.PNr));
+    if (e != nullptr && std::isfinite(e->Y) && std::isfinite(e->X))
+        text += QStringLiteral("   ausgeglichen: ") + Lagetext(e->Y, e->X);
+    return text;
+}
+
+QString Ergebnisanzeige::Angaben(const Liste& netz, const PunktKante& kante) const {
+    const PunktKnoten* a = netz.SuchPkt(kante.ANr);
+    const PunktKnoten* e = netz.SuchPkt(kante.ENr);
+    QString text = Beobachtungen(*kante.Item);
+    if (a != nullptr && e != nullptr) {
+        const double laenge = std::hypot(e->XWPu - a->XWPu, e->YWPu - a->YWPu);
+        text += QStringLiteral("   Länge in der Ebene %1 m").arg(AusUtf8(Festkomma(laenge, 0, 3)));
+    }
+    const QString grund = Markiergrund(netz, kante);
+    return grund.isEmpty() ? text : text + QStringLiteral("   als grob falsch bezeichnet: ") + grund;
+}
+
+QString Ergebnisanzeige::Markiergrund(const Liste& netz, const PunktKante& kante) const {
+    const std::string a = netz.GetPktText(kante.ANr);
+    const std::string b = netz.GetPktText(kante.ENr);
+    if (kante.Item->Farbe != programm_.einstellungen.GFCol || a.empty() || b.empty()) return {};
+    QStringList gruende;
+    for (const std::string_view titel :
+         Markiergruende(programm_.daten, NachUtf8(AusNetz(a)), NachUtf8(AusNetz(b))))
+        gruende << AusUtf8(titel);
+    return gruende.join(QStringLiteral(", "));
+}
+
 void Ergebnisanzeige::ListeAuf(const Liste& netz, const PunktKnoten& punkt) {
     fenster_->SetzeTitel(
         QStringLiteral("Abriss nach der Ausgleichung Punkt ") + AusNetz(netz.GetPktText(punkt.PNr)),
-        Angaben(punkt));
+        Angaben(netz, punkt));
     liste_.ListeAuf(netz, punkt);
     fenster_->ZeigeFenster();
 }

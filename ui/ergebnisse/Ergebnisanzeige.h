@@ -7,6 +7,7 @@
 
 #include "model/FigListe.h"
 #include "ui/Programm.h"
+#include "ui/ablage/Vorlieben.h"
 #include "ui/ergebnisse/Ergebnisliste.h"
 
 class QWidget;
@@ -17,9 +18,9 @@ class TFormData;
 
 class Ergebnisanzeige {
   public:
-    /// @param programm must outlive it
+    /// @param programm must outlive it, and so must the preferences
     /// @param eltern owns the window of the results
-    Ergebnisanzeige(const Programm& programm, QWidget* eltern);
+    Ergebnisanzeige(const Programm& programm, const Vorlieben& vorlieben, QWidget* eltern);
     ~Ergebnisanzeige() = default;
     Ergebnisanzeige(const Ergebnisanzeige&) = delete;
     Ergebnisanzeige& operator=(const Ergebnisanzeige&) = delete;
@@ -36,11 +37,17 @@ class Ergebnisanzeige {
     void ListeAuf(const Liste& netz, const PunktKante& kante);
     /// Marks in the network what the tables say about errors.
     void MarkiereFehler(Liste& netz);
+    /// What the tables flag a line of the network for: "Strecken, Linienprüfungen"; empty where it is not
+    /// marked, or nobody knows.
+    [[nodiscard]] QString Markiergrund(const Liste& netz, const PunktKante& kante) const;
     /// What reading the tables had to say.
     void MeldeTabellen();
 
   private:
     void MeldeTabellenfehler(const std::vector<Tabellenmeldung>& meldungen);
+
+    [[nodiscard]] QString Angaben(const Liste& netz, const PunktKnoten& punkt) const;
+    [[nodiscard]] QString Angaben(const Liste& netz, const PunktKante& kante) const;
 
     const Programm& programm_;
     TFormData* fenster_;

@@ -7,11 +7,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTabBar>
-#include <QTableView>
 #include <QVBoxLayout>
 
 #include "ui/Umwandlung.h"
+#include "ui/ergebnisse/Festspaltentafel.h"
 
 namespace zrw {
 namespace {
@@ -21,15 +22,22 @@ QString Spalten(int reiter) {
     return QStringLiteral("Ergebnisse/Feldbreiten%1").arg(reiter);
 }
 
+template <class Zahl>
+QString Zeilentext(Zahl zeilen) {
+    return zeilen == 1 ? QStringLiteral("1 Zeile") : QStringLiteral("%1 Zeilen").arg(zeilen);
+}
+
 }  // namespace
 
 Ergebnisgitter::Ergebnisgitter(Sitzung& sitzung, QWidget* eltern)
     : QWidget(eltern),
       sitzung_(sitzung),
-      gitter_(new QTableView(this)),
+      gitter_(new Festspaltentafel(this)),
       hinweis_(new QLabel(this)),
       reiter_(new QTabBar(this)) {
     BaueGitter();
+    hinweis_->setObjectName(QStringLiteral("ErgebnisHinweis"));
+    hinweis_->setWordWrap(true);
     reiter_->setAccessibleName(QStringLiteral("Ergebnistabelle"));
     reiter_->setShape(QTabBar::RoundedSouth);
     reiter_->setExpanding(false);
@@ -39,6 +47,8 @@ Ergebnisgitter::Ergebnisgitter(Sitzung& sitzung, QWidget* eltern)
         if (reiterGewechselt) reiterGewechselt();
         gitter_->horizontalScrollBar()->setValue(0);
     });
+    const int bild = fontMetrics().height();
+    reiter_->setIconSize({bild, bild});
     auto* spalte = new QVBoxLayout(this);
     spalte->setContentsMargins(0, 0, 0, 0);
     spalte->setSpacing(0);
@@ -54,7 +64,6 @@ void Ergebnisgitter::SetzeNamen(const QString& gitter, const QString& reiter) {
 
 void Ergebnisgitter::BaueGitter() {
     gitter_->setAccessibleName(QStringLiteral("Ergebnisse der Ausgleichung"));
-    gitter_->setModel(&modell_);
     gitter_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     gitter_->setSelectionBehavior(QAbstractItemView::SelectRows);
     gitter_->setAlternatingRowColors(true);
@@ -63,10 +72,6 @@ void Ergebnisgitter::BaueGitter() {
     gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     gitter_->verticalHeader()->setDefaultSectionSize(gitter_->fontMetrics().height() + 6);
     gitter_->verticalHeader()->hide();
-    connect(gitter_, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& stelle) { ZeigeEndpunkt(stelle.row()); });
-    connect(gitter_->horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this](int spalte, int /*vorher*/, int weite) { MerkeBreite(spalte, weite); });
     gitter_->setContextMenuPolicy(Qt::ActionsContextMenu);
     gitter_->installEventFilter(this);
     auto* kopieren = new QAction(QStringLiteral("Kopieren\tStrg+C"), gitter_);
@@ -76,6 +81,11 @@ void Ergebnisgitter::BaueGitter() {
     auto* zeigen = new QAction(QStringLiteral("Punkt im Bild zeigen"), gitter_);
     connect(zeigen, &QAction::triggered, this, [this] { ZeigeEndpunkt(gitter_->currentIndex().row()); });
     gitter_->addActions({kopieren, alles, zeigen});
+    gitter_->setModel(&modell_);
+    connect(gitter_, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& stelle) { ZeigeEndpunkt(stelle.row()); });
+    connect(gitter_->horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int spalte, int /*vorher*/, int weite) { MerkeBreite(spalte, weite); });
 }
 
 /// The grid's own copying takes a single cell.
@@ -105,6 +115,7 @@ void Ergebnisgitter::StelleSpaltenEin() {
         }
     }
     stelltEin_ = false;
+    gitter_->SetzeFeste(modell_.Kopfspalten());
 }
 
 void Ergebnisgitter::MerkeBreite(int spalte, int weite) {
@@ -117,16 +128,37 @@ void Ergebnisgitter::MerkeBreite(int spalte, int weite) {
     sitzung_.MerkeStand(Spalten(reiter_->currentIndex()), breiten.join(u';').toUtf8());
 }
 
-void Ergebnisgitter::FuelleGitter(Antwort antwort) {
+void Ergebnisgitter::FuelleGitter(Antwort antwort, const QString& zusatz) {
     const std::size_t zeilen = antwort.zeilen.size();
     gitter_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);  // as the query orders them
     stelltEin_ = true;
     modell_.SetzeTabelle(Beschreibung(Reiter().tabelle), std::move(antwort));
     stelltEin_ = false;
     StelleSpaltenEin();
-    hinweis_->setText(zeilen == 0   ? QStringLiteral("Keine Ergebnisse in dieser Tabelle")
-                      : zeilen == 1 ? QStringLiteral("1 Zeile")
-                                    : QStringLiteral("%1 Zeilen").arg(zeilen));
+    const QString anzahl =
+        zeilen == 0 ? QStringLiteral("Keine Ergebnisse in dieser Tabelle") : Zeilentext(zeilen);
+    hinweis_->setText(zusatz.isEmpty() ? anzahl : anzahl + QStringLiteral(". ") + zusatz);
+}
+
+void Ergebnisgitter::ZeigeZeilenzahlen(std::span<const std::optional<TDM::Zeilenzahl>> zahlen) {
+    for (int i = 0; i < reiter_->count(); ++i) {
+        const auto stelle = static_cast<std::size_t>(i);
+        const auto zahl = stelle < zahlen.size() ? zahlen[stelle] : std::nullopt;
+        const bool leer = zahl && zahl->zeilen == 0;
+        const bool markiert = zahl && zahl->markiert > 0;
+        QString text = !zahl ? QString() : leer ? QStringLiteral("keine Zeilen") : Zeilentext(zahl->zeilen);
+        if (markiert) text += QStringLiteral(", davon %1 als grob falsch bezeichnet").arg(zahl->markiert);
+        reiter_->setTabTextColor(i, leer ? palette().color(QPalette::Disabled, QPalette::Text) : QColor());
+        reiter_->setTabIcon(i, markiert ? QIcon(QStringLiteral(":/bilder/auffaellig.svg")) : QIcon());
+        reiter_->setTabToolTip(i, text);
+        reiter_->setAccessibleTabName(
+            i, text.isEmpty() ? QString() : reiter_->tabText(i) + QStringLiteral(", ") + text);
+    }
+}
+
+void Ergebnisgitter::WaehleReiter(int reiter) {
+    const QSignalBlocker still(reiter_);
+    reiter_->setCurrentIndex(reiter);
 }
 
 void Ergebnisgitter::LeereGitter(const QString& grund) {
@@ -160,7 +192,7 @@ void Ergebnisgitter::KopiereZeilen(bool alles) const {
 /// The end of the row that is not the listed point; for rows of one point, that point.
 void Ergebnisgitter::ZeigeEndpunkt(int zeile) const {
     QString ziel = modell_.Text(zeile, "PKT");
-    for (const auto& [von, nach] : {std::pair{"P1", "P2"}, {"PS", "PZ"}}) {
+    for (const auto& [von, nach] : {std::pair{"P1", "P2"}, {"PS", "PZ"}, {"PA", "PE"}}) {
         const QString ende = modell_.Text(zeile, nach);
         if (!ende.isEmpty()) ziel = ende == nummer_ ? modell_.Text(zeile, von) : ende;
     }

@@ -4,16 +4,20 @@
 
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <span>
 
 #include "input/tabellen/Ergebnisabfragen.h"
+#include "input/tabellen/UnitZRWData.h"
 #include "ui/ablage/Sitzung.h"
 #include "ui/ergebnisse/Ergebnismodell.h"
 
 class QLabel;
 class QTabBar;
-class QTableView;
 
 namespace zrw {
+
+class Festspaltentafel;
 
 class Ergebnisgitter final : public QWidget {
   public:
@@ -32,7 +36,12 @@ class Ergebnisgitter final : public QWidget {
     [[nodiscard]] const Ergebnisreiter& Reiter() const;
     /// The point that is listed, of a line the first one.
     void SetzeNummer(const QString& nummer) { nummer_ = nummer; }
-    void FuelleGitter(Antwort antwort);
+    /// @param zusatz told below the grid, too
+    void FuelleGitter(Antwort antwort, const QString& zusatz = {});
+    /// How many rows each tab has for what is listed; nothing: not known. None at all: nothing is listed.
+    void ZeigeZeilenzahlen(std::span<const std::optional<TDM::Zeilenzahl>> zahlen);
+    /// Goes to the tab of this number without listing anything.
+    void WaehleReiter(int reiter);
     /// An empty grid. @param grund told below it
     void LeereGitter(const QString& grund);
     bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
@@ -46,7 +55,7 @@ class Ergebnisgitter final : public QWidget {
 
     Sitzung& sitzung_;
     Ergebnismodell modell_;
-    QTableView* gitter_;
+    Festspaltentafel* gitter_;
     QLabel* hinweis_;
     QTabBar* reiter_;
     QString nummer_;

@@ -1,6 +1,7 @@
 #include "ui/ergebnisse/Ergebnismodell.h"
 
 #include <algorithm>
+#include <array>
 
 #include "input/tabellen/Anzeigetext.h"
 #include "ui/Umwandlung.h"
@@ -22,8 +23,13 @@ bool Gesetzt(const Zelle& zelle) {
 
 void Ergebnismodell::SetzeTabelle(const Ergebnistabelle& tabelle, Antwort antwort) {
     beginResetModel();
-    felder_ = tabelle.felder;
     antwort_ = std::move(antwort);
+    felder_.clear();
+    for (const std::string& spalte : antwort_.spalten) {
+        const auto feld = std::find_if(tabelle.felder.begin(), tabelle.felder.end(),
+                                       [&](const Tabellenfeld& f) { return f.name == spalte; });
+        felder_.push_back(feld != tabelle.felder.end() ? &*feld : nullptr);
+    }
     endResetModel();
 }
 
@@ -35,7 +41,7 @@ void Ergebnismodell::LeereTabelle() {
 }
 
 const Tabellenfeld* Ergebnismodell::Feld(int spalte) const {
-    return S(spalte) < felder_.size() ? &felder_[S(spalte)] : nullptr;
+    return S(spalte) < felder_.size() ? felder_[S(spalte)] : nullptr;
 }
 
 const Zelle& Ergebnismodell::Wert(int zeile, int spalte) const {
@@ -52,6 +58,14 @@ QString Ergebnismodell::Text(int zeile, std::string_view feld) const {
 
 QString Ergebnismodell::Feldname(int spalte) const {
     return AusUtf8(antwort_.spalten[S(spalte)]);
+}
+
+int Ergebnismodell::Kopfspalten() const {
+    constexpr auto kKopf = std::to_array<std::string_view>({"ID", "PKT", "P1", "P2", "PS", "PZ", "PA", "PE"});
+    const auto erste = std::find_if(antwort_.spalten.begin(), antwort_.spalten.end(), [&](const auto& name) {
+        return name != kGegenrichtung && std::count(kKopf.begin(), kKopf.end(), name) == 0;
+    });
+    return static_cast<int>(erste - antwort_.spalten.begin());
 }
 
 int Ergebnismodell::rowCount(const QModelIndex& eltern) const {
@@ -96,8 +110,7 @@ QVariant Ergebnismodell::headerData(int abschnitt, Qt::Orientation richtung, int
     if (richtung == Qt::Vertical) return rolle == Qt::DisplayRole ? QVariant(abschnitt + 1) : QVariant();
     if (abschnitt < 0 || abschnitt >= columnCount()) return {};
     const Tabellenfeld* feld = Feld(abschnitt);
-    if (rolle == Qt::ToolTipRole)
-        return feld != nullptr ? QVariant(AusUtf8(Hinweistext(feld->name))) : QVariant();
+    if (rolle == Qt::ToolTipRole) return AusUtf8(Hinweistext(antwort_.spalten[S(abschnitt)]));
     if (feld != nullptr && !feld->titel.empty()) return AusUtf8(feld->titel);
     return AusUtf8(antwort_.spalten[S(abschnitt)]);
 }

@@ -3,6 +3,8 @@
 
 #include <QAbstractTableModel>
 
+#include <vector>
+
 #include "input/tabellen/Datenbank.h"
 #include "input/tabellen/Ergebnistabellen.h"
 
@@ -12,9 +14,11 @@ class Ergebnismodell final : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// @param antwort its columns begin with the fields of the table, in their order
+    /// @param antwort its columns have the names of the fields; there may be others
     void SetzeTabelle(const Ergebnistabelle& tabelle, Antwort antwort);
     void LeereTabelle();
+    /// How many columns say which row it is: the number of the row, those of its points.
+    [[nodiscard]] int Kopfspalten() const;
     /// Raw text of a field, empty where it is none.
     [[nodiscard]] QString Text(int zeile, std::string_view feld) const;
     /// As the table names it; the heading may be another.
@@ -31,7 +35,7 @@ class Ergebnismodell final : public QAbstractTableModel {
     [[nodiscard]] const Zelle& Wert(int zeile, int spalte) const;
     [[nodiscard]] QString Anzeige(int zeile, int spalte) const;
 
-    std::span<const Tabellenfeld> felder_;
+    std::vector<const Tabellenfeld*> felder_;  ///< of each column; null where nobody describes it
     Antwort antwort_;
 };
 

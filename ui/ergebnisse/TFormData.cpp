@@ -22,6 +22,8 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
     // Whoever types point numbers goes on typing.
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_AlwaysShowToolTips);
+    angaben_->setObjectName(QStringLiteral("AngabenZeile"));
+    angaben_->setWordWrap(true);
     angaben_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     gitter_->SetzeNamen(QStringLiteral("DBGrid1"), QStringLiteral("TabControl1"));
     auto* spalte = new QVBoxLayout(this);
@@ -30,7 +32,7 @@ TFormData::TFormData(Sitzung& sitzung, QWidget* eltern)
     spalte->addWidget(angaben_);
     spalte->addSpacing(4);
     spalte->addWidget(gitter_, 1);
-    if (!restoreGeometry(sitzung_.Stand(kFenster))) resize(900, 320);
+    if (!restoreGeometry(sitzung_.Stand(kFenster))) resize(1120, 320);
 }
 
 TFormData::~TFormData() {

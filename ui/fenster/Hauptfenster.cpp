@@ -216,7 +216,7 @@ void TZrwMainDlg::BaueDialoge() {
         Nummernordner::Umfeld{*this, programm_, druck_, planbild_.Flaeche()}, this);
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { aktionen_->NachName("SpeedButton14").setChecked(false); });
-    ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, this);
+    ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, vorlieben_, this);
     ergebnisse_->Fenster().Gitter().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
         if (plan_.Offen() && plan_.Daten()->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {

@@ -68,7 +68,7 @@ void TZrwMainDlg::BaueAuswahl() {
 void TZrwMainDlg::BaueSeitenleiste() {
     seitenleiste_ = new Seitenleiste(*bildfach_);
     eigenschaften_ = new Eigenschaftsseite(
-        {programm_, plan_, werkzeuge_.Ausgewaehlt(), *ergebnisse_,
+        {programm_, vorlieben_, plan_, werkzeuge_.Ausgewaehlt(), *ergebnisse_,
          [this](PunktIndex nr) { WaehleImBild(nr); }, ergebnisse_->Fenster().Gitter().zeigePunkt,
          ergebnisse_->Fenster().Gitter().kopiert},
         seitenleiste_);
@@ -128,7 +128,9 @@ QString TZrwMainDlg::TextZu(Bildpunkt ort) {
         return Punkttext(netz, *p, programm_.einstellungen, programm_.netz.Netztyp, ergebnisse);
     }
     const PunktKante* k = netz.PickGezeigte(ort);
-    return k != nullptr ? Kantentext(netz, *k, programm_.einstellungen, programm_.netz.Netztyp) : QString();
+    if (k == nullptr) return {};
+    return Kantentext(netz, *k, programm_.einstellungen, programm_.netz.Netztyp,
+                      ergebnisse_->Markiergrund(netz, *k));
 }
 
 bool TZrwMainDlg::Umschalttaste() const {

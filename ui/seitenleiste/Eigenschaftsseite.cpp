@@ -15,7 +15,8 @@ Eigenschaftsseite::Eigenschaftsseite(Umfeld umfeld, QWidget* eltern)
       u_(std::move(umfeld)),
       text_(new QTextBrowser(this)),
       gitter_(new Ergebnisgitter(u_.programm.sitzung, this)),
-      liste_(u_.programm, *gitter_, [this] { u_.ergebnisse.MeldeTabellen(); }) {
+      liste_(u_.programm, u_.vorlieben, *gitter_, Gegenrichtung::Auflisten,
+             [this] { u_.ergebnisse.MeldeTabellen(); }) {
     text_->setObjectName(QStringLiteral("EigenschaftsText"));
     text_->setAccessibleName(QStringLiteral("Eigenschaften der ausgewählten Figur"));
     text_->setOpenLinks(false);
@@ -56,7 +57,9 @@ QString Eigenschaftsseite::Auswahltext() {
     Liste& netz = *u_.plan.Daten();
     const Einstellungen& e = u_.programm.einstellungen;
     const int typ = u_.programm.netz.Netztyp;
-    if (kante != nullptr) return Kantentext(netz, *kante, e, typ) + Endentext(netz, *kante);
+    if (kante != nullptr)
+        return Kantentext(netz, *kante, e, typ, u_.ergebnisse.Markiergrund(netz, *kante)) +
+               Endentext(netz, *kante);
     if (punkte.size() > 1) return Punktetext(punkte, e, typ);
     Punktergebnisse* ergebnisse = u_.ergebnisse.Vorhanden() ? u_.programm.zustand.Ergebnisse : nullptr;
     if (ergebnisse != nullptr) ergebnisse->ErneuereErgebnisse();

@@ -22,6 +22,7 @@ class Eigenschaftsseite final : public QWidget {
     /// What it needs of its window. All must outlive it.
     struct Umfeld {
         const Programm& programm;
+        const Vorlieben& vorlieben;
         Plan& plan;
         Auswahl& auswahl;
         Ergebnisanzeige& ergebnisse;
