@@ -115,6 +115,14 @@ void Pdfflaeche::SchreibeEbenen() {
 void Pdfflaeche::SchreibeBetriebsmittel() {
     BeginneObjekt(kBetriebsmittel);
     Verweis("<</ProcSet[/PDF/Text]/Font<</F", kSchriftobjekt);
+    if (!durchscheinend_.empty()) {
+        SchreibeText(">>/ExtGState<<");
+        for (const int prozent : durchscheinend_) {
+            SchreibeText("/D" + std::to_string(prozent) + "<</ca ");
+            SchreibeZahl(prozent / 100.0, kStellen);
+            SchreibeText(">>");
+        }
+    }
     SchreibeText(">>/Properties<<");
     for (std::size_t i = 0; i < ebenen_.size(); ++i) {
         if (ebenen_[i] == 0) continue;

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,7 @@ class Pdfflaeche final : public Vektorflaeche {
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
+    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
                      std::int32_t rand) override;
@@ -76,6 +78,7 @@ class Pdfflaeche final : public Vektorflaeche {
     void SchliessePfad();
     void WendeStiftAn();
     void WendeFuellungAn(Farbe farbe);
+    void Eckenzug(std::span<const Flaechenpunkt> ecken);
     void BeginneUmriss();
     void BeendeUmriss();
     void Farbbefehl(Farbe farbe, std::string_view befehl);
@@ -90,6 +93,7 @@ class Pdfflaeche final : public Vektorflaeche {
     std::uint64_t stromanfang_ = 0;
     const Einbettschrift* schrift_;  ///< may be null
     Zeichenmenge zeichen_;           ///< that were written
+    std::set<int> durchscheinend_;   ///< how much of what lies below is covered [%]
     // What the page's stream has set up.
     bool offeneEbene_ = false;
     std::optional<Stift> stift_;

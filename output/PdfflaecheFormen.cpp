@@ -1,5 +1,6 @@
 // What a page of the PDF surface is drawn with: pens, shapes and texts.
 #include <algorithm>
+#include <string>
 
 #include "model/Cp1252.h"
 #include "output/Pdfflaeche.h"
@@ -105,11 +106,26 @@ void Pdfflaeche::ZeichneRechteck(const Rechteck& r) {
 void Pdfflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
     if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
     BeginneUmriss();
+    Eckenzug(ecken);
+    BeendeUmriss();
+}
+
+void Pdfflaeche::Eckenzug(std::span<const Flaechenpunkt> ecken) {
     for (const Flaechenpunkt& e : ecken) {
         Paar(e.x, e.y);
         SchreibeText(&e == ecken.data() ? "m " : "l ");
     }
-    BeendeUmriss();
+}
+
+/// Colour and transparency are put back as they were.
+void Pdfflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
+    if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
+    BeginneForm();
+    durchscheinend_.insert(prozent);
+    SchreibeText("q /D" + std::to_string(prozent) + " gs\n");
+    Farbbefehl(farbe, "rg");
+    Eckenzug(ecken);
+    SchreibeText("f\nQ\n");
 }
 
 void Pdfflaeche::Ellipse(const Rechteck& u) {

@@ -196,9 +196,7 @@ void Svgflaeche::Ellipse(const Rechteck& u) {
     Formende();
 }
 
-void Svgflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
-    if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
-    BeginneElement();
+void Svgflaeche::Eckenliste(std::span<const Flaechenpunkt> ecken) {
     SchreibeText("<polygon points=\"");
     for (const Flaechenpunkt& e : ecken) {
         if (&e != ecken.data()) SchreibeText(" ");
@@ -207,7 +205,22 @@ void Svgflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
         SchreibeZahl(std::int64_t{e.y});
     }
     SchreibeText("\"");
+}
+
+void Svgflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
+    BeginneElement();
+    Eckenliste(ecken);
     Formende();
+}
+
+void Svgflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
+    if (ecken.empty() || !SiehtRechteck(Umschrieben(ecken))) return;
+    BeginneElement();
+    Eckenliste(ecken);
+    Farbattribut("fill", farbe);
+    Attribut("fill-opacity", prozent / 100.0);
+    SchreibeText("/>\n");
 }
 
 void Svgflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {

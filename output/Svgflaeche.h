@@ -24,6 +24,7 @@ class Svgflaeche final : public Vektorflaeche {
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
+    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
                      std::int32_t rand) override;
@@ -42,6 +43,7 @@ class Svgflaeche final : public Vektorflaeche {
     void Attribut(std::string_view name, std::int64_t wert);
     void Attribut(std::string_view name, double wert);
     void Farbattribut(std::string_view name, Farbe farbe);
+    void Eckenliste(std::span<const Flaechenpunkt> ecken);
     void Stiftattribute();
     void Formende();
     void BeginneText(Flaechenpunkt ort);

@@ -105,6 +105,10 @@ class Zeichenflaeche {
     virtual void Vieleck(std::span<const Flaechenpunkt> ecken) = 0;
     /// Fills without an outline.
     virtual void FuelleRechteck(const Rechteck& r, Farbe farbe) = 0;
+    /// The same for a polygon through which what was drawn before can be seen. Surfaces that cannot do it
+    /// leave it out: without it nothing is hidden. @param prozent how much it covers, 1 to 99
+    virtual void FuelleDurchscheinend(std::span<const Flaechenpunkt> /*ecken*/, Farbe /*farbe*/,
+                                      int /*prozent*/) {}
 
     /// Text in code page 1252 with its top-left corner at `ort`, without background.
     virtual void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) = 0;

@@ -40,6 +40,9 @@ class Blattfenster final : public Zeichenflaeche {
         MerkeKasten(r);
         blatt_.FuelleRechteck(r, Druckfarbe(farbe));
     }
+    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override {
+        blatt_.FuelleDurchscheinend(ecken, Druckfarbe(farbe), prozent);
+    }
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override {
         blatt_.Text(ort, text, Druckfarbe(farbe));
     }

@@ -41,6 +41,11 @@ class MerkFlaeche final : public Zeichenflaeche {
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override {
         zeilen.push_back("Fuelle " + Hex(farbe) + Zahlen({r.links, r.oben, r.rechts, r.unten}));
     }
+    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override {
+        zeilen.push_back("Durchscheinend " + Hex(farbe) + Zahlen({prozent}));
+        for (const Flaechenpunkt& p : ecken)
+            zeilen.back() += Zahlen({p.x, p.y});
+    }
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override {
         zeilen.push_back("Text " + Hex(farbe) + Zahlen({ort.x, ort.y}) + " " + std::string(text));
     }

@@ -212,6 +212,20 @@ TEST(Vektorflaechen, UmrissUndFuellung) {
                   "90 192.2386 94.4772 190 100 190 c 105.5228 190 110 192.2386 110 195 c s\n"});
 }
 
+TEST(Vektorflaechen, WasDurchscheintLaesstFarbenWieSieWaren) {
+    const Zeichnung zeichne = [](Zeichenflaeche& f) {
+        const std::array<Flaechenpunkt, 3> dreieck{{{5, 10}, {9, 10}, {9, 20}}};
+        f.FuelleRechteck({0, 0, 1, 1}, Farbe{0xFF0000});
+        f.FuelleDurchscheinend(dreieck, Farbe{0x0000FF}, 12);
+        f.FuelleDurchscheinend(std::array<Flaechenpunkt, 1>{{{-900, 10}}}, kSchwarz, 34);
+        f.FuelleRechteck({2, 0, 3, 1}, Farbe{0xFF0000});
+    };
+    ErwarteTeile(Svg(zeichne),
+                 {"<polygon points=\"5,10 9,10 9,20\" fill=\"#ff0000\" fill-opacity=\"0.12\"/>"});
+    ErwarteTeile(Pdf(zeichne), {"q /D12 gs\n1 0 0 rg\n5 10 m 9 10 l 9 20 l f\nQ\n2 0 2 2 re f\n",
+                                "/ExtGState<</D12<</ca 0.12>>>>/Properties"});
+}
+
 TEST(Vektorflaechen, DasVerzeichnisDesDokumentsIstGenau) {
     std::string pdf = Roh([](Zeichenflaeche& f) {
         f.SetzeEbene(Ebene::Punkte);

@@ -188,6 +188,23 @@ void Malerflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
     maler_->fillRect(AlsQRect(Geschnitten(r, Sichtbar())), AlsQColor(farbe));
 }
 
+void Malerflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
+    QPolygon vieleck;
+    for (const Flaechenpunkt& p : ecken)
+        vieleck << QPoint(p.x, p.y);
+    QColor ton = AlsQColor(farbe);
+    ton.setAlphaF(static_cast<float>(prozent) / 100.0F);
+    maler_->setPen(Qt::NoPen);
+    maler_->setBrush(ton);
+    if (glatt_) {
+        maler_->drawPolygon(QPolygonF(vieleck).translated(Mitte()));
+    } else {
+        maler_->drawPolygon(vieleck);
+    }
+    stift_.reset();
+    pinsel_.reset();
+}
+
 void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     WendeStiftAn({farbe, 1, Strichart::Voll});
     maler_->drawText(ort.x, ort.y + masse_.ascent(), AusNetz(text));

@@ -50,6 +50,7 @@ class Malerflaeche : public Zeichenflaeche {
     void Ellipse(const Rechteck& umschrieben) override;
     void Vieleck(std::span<const Flaechenpunkt> ecken) override;
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
+    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override;
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override;
     void TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
                      std::int32_t rand) override;

@@ -176,6 +176,12 @@ void Pixelflaeche::SetzeSchriften(const QFont& eckige, const QFont& glatte) {
     schrifthoehe_ = Schrifthoehe();
 }
 
+/// Nothing shines through what is drawn from the front: overlays come afterwards.
+void Pixelflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
+    if (Glaettet()) SchliesseAb();
+    Malerflaeche::FuelleDurchscheinend(ecken, farbe, prozent);
+}
+
 void Pixelflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
     if (!schnell_) return Malerflaeche::FuelleRechteck(r, farbe);
     if (glatt_) return glattbild_.FuelleRechteck(r, Pixelfarbe(farbe));

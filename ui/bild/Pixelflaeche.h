@@ -46,6 +46,7 @@ class Pixelflaeche : public Malerflaeche {
     }
 
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
+    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override;
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
     void Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) override;
     void ZeichneRechteck(const Rechteck& r) override;
