@@ -25,6 +25,12 @@ struct Punktergebnis {
     double H = std::numeric_limits<double>::quiet_NaN();
 };
 
+/// A point in the second list of coordinates [m], not a number where they are null.
+struct Vergleichslage {
+    double Y = std::numeric_limits<double>::quiet_NaN();  ///< easting
+    double X = std::numeric_limits<double>::quiet_NaN();  ///< northing
+};
+
 class Punktergebnisse {
   public:
     virtual ~Punktergebnisse() = default;
@@ -33,6 +39,11 @@ class Punktergebnisse {
     /// The results of the point of this number (code page 1252), null without any. Holds until
     /// `ErneuereErgebnisse`.
     [[nodiscard]] virtual const Punktergebnis* ErgebnisZu(std::string_view nummer) const = 0;
+    // The same for the second list of coordinates, where somebody needs it.
+    virtual void ErneuereVergleich() {}
+    [[nodiscard]] virtual const Vergleichslage* VergleichZu(std::string_view /*nummer*/) const {
+        return nullptr;
+    }
 };
 
 }  // namespace zrw

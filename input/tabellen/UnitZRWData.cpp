@@ -95,9 +95,9 @@ void TDM::SetzeOrdner(std::filesystem::path ordner) {
         staende_[i].reset();
     }
     punkte_ = {};
-    punktestand_.reset();
-    gemeldet_.reset();
-    vergeblich_ = false;
+    punktestand_ = {};
+    vergleiche_ = {};
+    vergleichsstand_ = {};
 }
 
 bool TDM::Vorhanden(std::string_view datei) const {
@@ -228,7 +228,27 @@ TDM::Zeilenzahl TDM::ZaehleZeilen(Tabelle tabelle, std::string_view abfrage, std
     return {ganz(0), ganz(1)};
 }
 
-TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) const {
+/// One walk over the table in place of one query a point: the first row of a number is what that would give.
+template <class Wert, class Fuelle>
+TDM::Punkttafel<Wert> TDM::LiesTafel(const std::string& abfrage, Fuelle fuelle) const {
+    Punkttafel<Wert> tafel;
+    std::vector<PunktNummernTyp> nummern;
+    datenbank_.FuerJedeZeile(abfrage, [&](std::span<const Zelle> zeile) {
+        const auto* text = std::get_if<std::string>(&zeile.front());
+        if (text == nullptr) return;
+        const std::string nummer = Utf8NachCp1252(*text);
+        if (nummer.empty() || nummer.size() > PunktNummernTyp::kLaenge) return;
+        nummern.emplace_back(nummer);
+        fuelle(tafel.werte.emplace_back(), zeile);
+    });
+    // From the last to the first: the first row of a number is the one that counts.
+    tafel.zu.ErwarteEintraege(nummern.size());
+    for (std::size_t i = nummern.size(); i-- > 0;)
+        tafel.zu.SetzeWert(nummern[i], &tafel.werte[i]);
+    return tafel;
+}
+
+TDM::Punkttafel<Punktergebnis> TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) const {
     static constexpr auto kFelder = std::to_array<std::pair<std::string_view, double Punktergebnis::*>>({
         {"dY", &Punktergebnis::dY},
         {"dX", &Punktergebnis::dX},
@@ -245,59 +265,73 @@ TDM::Punkttafel TDM::LiesPunkte(const std::vector<std::string_view>& fehlende) c
     });
     constexpr std::size_t kStelleML = 8;
     static_assert(kFelder[kStelleML - 1].first == "mL");
-    // One walk over the table in place of one query a point: the first row of a number is what that would
-    // give.
     std::string abfrage = "SELECT KOOTABLE.PKT";
     const auto fehlt = [&](std::string_view feld) {
         return std::find(fehlende.begin(), fehlende.end(), feld) != fehlende.end();
     };
-    Punkttafel tafel;
-    if (fehlt("PKT")) return tafel;
+    if (fehlt("PKT")) return {};
     for (const auto& [feld, ziel] : kFelder)
         abfrage += fehlt(feld) ? ",NULL" : ",KOOTABLE." + std::string(feld);
-    std::vector<PunktNummernTyp> nummern;
-    datenbank_.FuerJedeZeile(abfrage + " from KOOTABLE order by rowid", [&](std::span<const Zelle> zeile) {
-        const auto* text = std::get_if<std::string>(&zeile.front());
-        if (text == nullptr) return;
-        const std::string nummer = Utf8NachCp1252(*text);
-        if (nummer.empty() || nummer.size() > PunktNummernTyp::kLaenge) return;
-        nummern.emplace_back(nummer);
-        Punktergebnis& ergebnis = tafel.werte.emplace_back();
+    const auto fuelle = [&](Punktergebnis& ergebnis, std::span<const Zelle> zeile) {
         for (std::size_t i = 0; i < kFelder.size(); ++i)
             NimmZahl(zeile[i + 1], ergebnis.*kFelder[i].second);
         // A standard deviation that is not known makes no ellipse wide.
         ergebnis.mLBekannt = !std::holds_alternative<std::monostate>(zeile[kStelleML]);
         if (!ergebnis.mLBekannt) ergebnis.mL = 0.0;
-    });
-    // From the last to the first: the first row of a number is the one that counts.
-    tafel.zu.ErwarteEintraege(nummern.size());
-    for (std::size_t i = nummern.size(); i-- > 0;)
-        tafel.zu.SetzeWert(nummern[i], &tafel.werte[i]);
-    return tafel;
+    };
+    return LiesTafel<Punktergebnis>(abfrage + " from KOOTABLE order by rowid", fuelle);
 }
 
-void TDM::ErneuereErgebnisse() {
-    const auto datei = Datei(Tabelle::Koordinaten);
+template <class Wert, class Lies>
+void TDM::ErneuereTafel(Tabelle tabelle, Tafelstand& stand, Punkttafel<Wert>& tafel, Lies lies) {
+    const auto datei = Datei(tabelle);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
     if (!jetzt) {
-        punkte_ = {};
-        punktestand_.reset();
+        tafel = {};
+        stand.gelesen.reset();
         return;
     }
     // What cannot be read is not read again at each drawing; what may only be locked is tried.
-    if (punktestand_ == jetzt || (gemeldet_ == jetzt && vergeblich_)) return;
+    if (stand.gelesen == jetzt || (stand.gemeldet == jetzt && stand.vergeblich)) return;
     try {
-        punkte_ = LiesPunkte(PruefeFelder(Tabelle::Koordinaten, kPunktfelder).fehlende);
+        tafel = lies();
+        stand.gelesen = jetzt;
+        stand.gemeldet.reset();
+    } catch (const Fehler& f) {
+        if (stand.gemeldet != jetzt) meldungen_.push_back({f.what(), true});
+        stand.gemeldet = jetzt;
+        stand.vergeblich = dynamic_cast<const Oeffnungsfehler*>(&f) == nullptr;
+    }
+}
+
+void TDM::ErneuereErgebnisse() {
+    ErneuereTafel(Tabelle::Koordinaten, punktestand_, punkte_, [this] {
+        auto punkte = LiesPunkte(PruefeFelder(Tabelle::Koordinaten, kPunktfelder).fehlende);
         const std::span zuZeichnende = std::span(kPunktfelder).first(kZuZeichnende);
         if (const Mangel mangel = PruefeFelder(Tabelle::Koordinaten, zuZeichnende); !mangel.text.empty())
             meldungen_.push_back({mangel.text + " Gezeichnet wird, was sich lesen lässt."});
-        punktestand_ = jetzt;
-        gemeldet_.reset();
-    } catch (const Fehler& f) {
-        if (gemeldet_ != jetzt) meldungen_.push_back({f.what(), true});
-        gemeldet_ = jetzt;
-        vergeblich_ = dynamic_cast<const Oeffnungsfehler*>(&f) == nullptr;
-    }
+        return punkte;
+    });
+}
+
+void TDM::ErneuereVergleich() {
+    ErneuereTafel(Tabelle::WeitereKoordinaten, vergleichsstand_, vergleiche_, [this] {
+        constexpr auto kFelder = std::to_array<std::string_view>({"PKT", "Y", "X"});
+        const Mangel mangel = PruefeFelder(Tabelle::WeitereKoordinaten, kFelder);
+        if (!mangel.text.empty())
+            meldungen_.push_back({mangel.text + " Der Vergleich der Koordinaten kann unvollständig sein."});
+        if (!mangel.fehlende.empty()) return Punkttafel<Vergleichslage>();
+        return LiesTafel<Vergleichslage>(
+            "SELECT POSTKOOTABLE.PKT,POSTKOOTABLE.Y,POSTKOOTABLE.X from POSTKOOTABLE order by rowid",
+            [](Vergleichslage& lage, std::span<const Zelle> zeile) {
+                NimmZahl(zeile[1], lage.Y);
+                NimmZahl(zeile[2], lage.X);
+            });
+    });
+}
+
+const Vergleichslage* TDM::VergleichZu(std::string_view nummer) const {
+    return vergleiche_.zu.FindeWert(PunktNummernTyp(nummer));
 }
 
 const Punktergebnis* TDM::ErgebnisZu(std::string_view nummer) const {

@@ -72,6 +72,8 @@ class TDM final : public Punktergebnisse {
     /// Failures are kept for `NimmMeldungen`, once for each state of the file; the old results then stay.
     void ErneuereErgebnisse() override;
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override;
+    void ErneuereVergleich() override;
+    [[nodiscard]] const Vergleichslage* VergleichZu(std::string_view nummer) const override;
     /// What there is to tell since the last call: tables that became unreadable, looked wrong or lack what
     /// drawing needs.
     [[nodiscard]] std::vector<Tabellenmeldung> NimmMeldungen();
@@ -86,9 +88,10 @@ class TDM final : public Punktergebnisse {
         std::string grund;                      ///< why that, or the last try, failed
     };
     /// Results and the way to them: a picture asks once for every point.
+    template <class Wert>
     struct Punkttafel {
-        std::vector<Punktergebnis> werte;
-        Streutafel<PunktNummernTyp, const Punktergebnis*> zu;
+        std::vector<Wert> werte;
+        Streutafel<PunktNummernTyp, const Wert*> zu;
 
         Punkttafel() = default;
         // A copy would point into the results of the other.
@@ -103,16 +106,28 @@ class TDM final : public Punktergebnisse {
     /// Brings the database to the state of the file. @return whether there is one
     bool AktualisiereTabelle(Tabelle tabelle);
     void ImportiereTabelle(Tabelle tabelle, const std::filesystem::path& datei, const Dateistand& stand);
-    [[nodiscard]] Punkttafel LiesPunkte(const std::vector<std::string_view>& fehlende) const;
+    /// What has become of the file of such a table.
+    struct Tafelstand {
+        std::optional<Dateistand> gelesen;
+        std::optional<Dateistand> gemeldet;  ///< state that failed and has been told
+        bool vergeblich = false;             ///< that state would fail again
+    };
+    /// @param lies the table from the database
+    template <class Wert, class Lies>
+    void ErneuereTafel(Tabelle tabelle, Tafelstand& stand, Punkttafel<Wert>& tafel, Lies lies);
+    /// @param abfrage gives point numbers first @param fuelle takes a row
+    template <class Wert, class Fuelle>
+    [[nodiscard]] Punkttafel<Wert> LiesTafel(const std::string& abfrage, Fuelle fuelle) const;
+    [[nodiscard]] Punkttafel<Punktergebnis> LiesPunkte(const std::vector<std::string_view>& fehlende) const;
 
     const Dateien& dateien_;
     std::filesystem::path ordner_;
     Datenbank datenbank_;
     std::array<std::optional<Stand>, kErgebnistabellen.size()> staende_;
-    Punkttafel punkte_;
-    std::optional<Dateistand> punktestand_;  ///< of the coordinates that `punkte_` came from
-    std::optional<Dateistand> gemeldet_;     ///< state that failed and has been told
-    bool vergeblich_ = false;                ///< that state would fail again
+    Punkttafel<Punktergebnis> punkte_;
+    Tafelstand punktestand_;
+    Punkttafel<Vergleichslage> vergleiche_;
+    Tafelstand vergleichsstand_;
     std::vector<Tabellenmeldung> meldungen_;
 };
 

@@ -211,6 +211,27 @@ TEST_F(Ergebnisse, BeschaedigteTabelleLaesstDieAltenWerteStehen) {
     EXPECT_EQ(daten.ErgebnisZu("A"), nullptr);
 }
 
+TEST_F(Ergebnisse, ZweiteKoordinatenZumVergleich) {
+    daten.ErneuereVergleich();
+    EXPECT_EQ(daten.VergleichZu("A"), nullptr) << "no table";
+    LegeTabelleAn(Tabelle::WeitereKoordinaten, {{{"PKT", "A"}, {"Y", 3.5}}, {{"PKT", "A"}, {"Y", 4.5}}});
+    daten.ErneuereVergleich();
+    ASSERT_NE(daten.VergleichZu("A"), nullptr);
+    EXPECT_EQ(daten.VergleichZu("A")->Y, 3.5) << "the first row of a number";
+    EXPECT_TRUE(std::isnan(daten.VergleichZu("A")->X)) << "null";
+    const std::vector<paradox::Feld> ohne{{"ID", Feldtyp::Lang, 4}, {"PKT", Feldtyp::Alpha, 14}};
+    dateien.dateien["netz/PostKooTABLE.DB"] = paradox::SchreibeTabelle("P", ohne, {}, 0).db;
+    daten.ErneuereVergleich();
+    EXPECT_EQ(daten.VergleichZu("A"), nullptr);
+    EXPECT_TRUE(Meldungen().starts_with("PostKooTABLE.DB: Der Tabelle fehlt: Y, X."));
+    dateien.dateien["netz/PostKooTABLE.DB"] = "kaputt";
+    daten.ErneuereVergleich();
+    daten.ErneuereVergleich();
+    EXPECT_NE(Meldungen(), "");
+    daten.SetzeOrdner("anderswo");
+    EXPECT_EQ(daten.VergleichZu("A"), nullptr);
+}
+
 TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
     Probenetz n;
     for (const char* name : {"1", "2", "3", "4", "5", "6", "7"}) {
