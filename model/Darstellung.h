@@ -5,11 +5,12 @@
 #include <optional>
 
 #include "model/Figuren.h"
+#include "model/Residuendarstellung.h"
 #include "model/ergebnisse/Figurenstile.h"
 
 namespace zrw {
 
-struct Darstellung {
+struct Darstellung : Residuendarstellung {
     // Display switches. A new one does not show `FL` points: whoever opens a network sets what it needs.
     bool ShowPktText = true;
     bool ShowBeob = true;
@@ -49,7 +50,7 @@ struct Darstellung {
     }
     /// Whether any of the overlays with results is on, with the scale bar that comes with them.
     [[nodiscard]] bool ZeigtErgebnisse() const {
-        return ShowLgRes || ShowHRes || ShowLGGen || LGGenOn || ShowHGen;
+        return ShowLgRes || ShowHRes || ShowLGGen || LGGenOn || ShowHGen || ShowKooVergleich;
     }
 };
 

@@ -27,6 +27,27 @@ bool Teil(double p, double q, double& t0, double& t1) {
     return t0 <= t1;
 }
 
+struct Ort {
+    double x, y;
+};
+
+/// The part of a convex polygon on one side of a straight line (Sutherland and Hodgman, 1974).
+/// @param seite 1: what is larger than `grenze`, -1: what is smaller
+std::vector<Ort> Halbraum(const std::vector<Ort>& ecken, double Ort::*richtung, double grenze, double seite) {
+    std::vector<Ort> teil;
+    for (std::size_t i = 0; i < ecken.size(); ++i) {
+        const Ort& a = ecken[i];
+        const Ort& b = ecken[(i + 1) % ecken.size()];
+        const double da = (a.*richtung - grenze) * seite;
+        const double db = (b.*richtung - grenze) * seite;
+        if (da >= 0.0) teil.push_back(a);
+        if ((da >= 0.0) == (db >= 0.0)) continue;
+        const double t = da / (da - db);
+        teil.push_back({a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)});
+    }
+    return teil;
+}
+
 }  // namespace
 
 std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> AbschneidenLang(Bildpunkt a, Bildpunkt b,
@@ -50,6 +71,30 @@ std::optional<std::pair<Flaechenpunkt, Flaechenpunkt>> AbschneidenLang(Bildpunkt
             static_cast<std::int32_t>(RundeZuInt64(std::clamp(ay + t * dy, rand.oben, rand.unten)))};
     };
     return std::pair{punkt(t0), punkt(t1)};
+}
+
+std::vector<Flaechenpunkt> SchneideVieleckAb(std::span<const Bildpunkt> ecken, const Rechteck& s) {
+    const bool nah = std::all_of(ecken.begin(), ecken.end(),
+                                 [&](Bildpunkt e) { return InReichweite(e, kGrosszuegig, s); });
+    std::vector<Flaechenpunkt> teil;
+    if (nah) {
+        for (const Bildpunkt e : ecken)
+            teil.push_back(Aufflaeche(e));
+        return teil;
+    }
+    std::vector<Ort> rest;
+    for (const Bildpunkt e : ecken)
+        rest.push_back({static_cast<double>(e.x), static_cast<double>(e.y)});
+    rest = Halbraum(rest, &Ort::x, s.links - kSchnittrand, 1.0);
+    rest = Halbraum(rest, &Ort::x, s.rechts + kSchnittrand, -1.0);
+    rest = Halbraum(rest, &Ort::y, s.oben - kSchnittrand, 1.0);
+    rest = Halbraum(rest, &Ort::y, s.unten + kSchnittrand, -1.0);
+    for (const Ort& e : rest)
+        teil.push_back({static_cast<std::int32_t>(
+                            RundeZuInt64(std::clamp(e.x, s.links - kSchnittrand, s.rechts + kSchnittrand))),
+                        static_cast<std::int32_t>(
+                            RundeZuInt64(std::clamp(e.y, s.oben - kSchnittrand, s.unten + kSchnittrand)))});
+    return teil;
 }
 
 }  // namespace zrw

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <utility>
+#include <vector>
 
 #include "output/Zeichenflaeche.h"
 
@@ -55,5 +57,10 @@ inline constexpr std::int64_t kGrosszuegig = 8192;
         return std::pair{Aufflaeche(a), Aufflaeche(b)};
     return AbschneidenLang(a, b, s);
 }
+
+/// The part of a convex polygon that can touch the visible rectangle; one that lies within a generous
+/// distance comes back as it is. Empty where nothing is left.
+[[nodiscard]] std::vector<Flaechenpunkt> SchneideVieleckAb(std::span<const Bildpunkt> ecken,
+                                                           const Rechteck& sichtbar);
 
 }  // namespace zrw

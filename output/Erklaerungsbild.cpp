@@ -97,22 +97,23 @@ void Erklaerungsbild::NimmErgebnisse() {
     if (zustand_.Ergebnisse == nullptr) return;
     if (d.ShowLgRes) {
         NimmZeile("Verbesserung der Lage (dY, dX)", [this](Bildpunkt m) {
-            Strich(groessen_.LGRCol, {m.x - Dots(14), m.y + Dots(4)}, {m.x + Dots(14), m.y - Dots(4)});
+            Vektor(groessen_.LGRCol, {m.x - Dots(14), m.y + Dots(4)}, {m.x + Dots(14), m.y - Dots(4)});
         });
     }
     if (d.ShowHRes) {
         NimmZeile("Verbesserung der Höhe (dH)", [this](Bildpunkt m) {
-            Strich(groessen_.HRCol, {m.x, m.y + Dots(7)}, {m.x, m.y - Dots(7)});
+            Vektor(groessen_.HRCol, {m.x, m.y + Dots(7)}, {m.x, m.y - Dots(7)});
+        });
+    }
+    if (d.ShowKooVergleich) {
+        NimmZeile("Koordinaten 2 minus Koordinaten", [this](Bildpunkt m) {
+            Vektor(groessen_.LGRCol, {m.x - Dots(14), m.y + Dots(4)}, {m.x + Dots(14), m.y - Dots(4)},
+                   Strichart::Gestrichelt);
         });
     }
     if (d.ShowLGGen) {
-        NimmZeile("Fehlerellipse der Lage", [this](Bildpunkt m) {
-            constexpr Gon kSchraeg{25};
-            const Stiftwechsel stift(flaeche_, {groessen_.LGGCol, 1, Strichart::Voll}, {kWeiss, true});
-            Residuenbild(zustand_, groessen_, v_)
-                .DrawEllipse(kSchraeg, static_cast<double>(Dots(14)), static_cast<double>(Dots(5)),
-                             static_cast<double>(m.x), static_cast<double>(m.y));
-        });
+        NimmZeile(d.Ellipsen95 ? "Fehlerellipse der Lage, 95 %" : "Fehlerellipse der Lage",
+                  [this](Bildpunkt m) { Ellipse(m); });
     }
     if (d.ShowHGen) {
         NimmZeile("Standardabweichung der Höhe (mH)", [this](Bildpunkt m) {
@@ -123,19 +124,39 @@ void Erklaerungsbild::NimmErgebnisse() {
                 Strich(groessen_.HGCol, {m.x - w, y}, {m.x + w, y});
         });
     }
-    if (d.ZeigtErgebnisse()) NimmMassstab();
+    if (!d.ZeigtErgebnisse()) return;
+    const bool eigener = d.ShowLGGen && d.EigenerEllipsenmassstab();
+    NimmMassstab(eigener ? "Verbesserung" : "Verbesserung oder Halbachse", groessen_.ResMF);
+    if (eigener) NimmMassstab("Halbachse der Fehlerellipse", d.Ellipsenmassstab);
+}
+
+void Erklaerungsbild::Vektor(Farbe farbe, Bildpunkt von, Bildpunkt nach, Strichart art) const {
+    const Stiftwechsel stift(flaeche_, {}, {kWeiss, true});
+    Residuenbild(zustand_, groessen_, v_).ZeichneVektor(von, nach, farbe, art);
+}
+
+void Erklaerungsbild::Ellipse(Bildpunkt mitte) const {
+    constexpr Gon kSchraeg{25};
+    const auto a = static_cast<double>(Dots(14));
+    const auto b = static_cast<double>(Dots(5));
+    const auto x = static_cast<double>(mitte.x);
+    const auto y = static_cast<double>(mitte.y);
+    const Stiftwechsel stift(flaeche_, {groessen_.LGGCol, 1, Strichart::Voll}, {kWeiss, true});
+    const Residuenbild bild(zustand_, groessen_, v_);
+    if (v_.darstellung.EllipsenGefuellt) bild.FuelleEllipse(kSchraeg, a, b, x, y, groessen_.LGGCol);
+    bild.DrawEllipse(kSchraeg, a, b, x, y);
 }
 
 /// A stroke of round length. Sizes of results may be anything, also turned round.
-void Erklaerungsbild::NimmMassstab() {
+void Erklaerungsbild::NimmMassstab(const std::string& was, double vergroesserung) {
     constexpr double kKuerzester = 16;  ///< [px]; the next round length is at most 2.5 times as long
     constexpr double kMillimeter = 10;  ///< in a centimetre
-    const double jeZentimeter = kMillimeter * groessen_.ResMF * zustand_.Dichte();
+    const double jeZentimeter = kMillimeter * vergroesserung * zustand_.Dichte();
     if (!(jeZentimeter > 0.0) || !std::isfinite(jeZentimeter)) return;
     const auto laenge = KleinsteTeilung(jeZentimeter, kKuerzester * zustand_.Dichte()).Mal(1);
     if (!laenge || !std::isfinite(*laenge * jeZentimeter)) return;
     const double dots = *laenge * jeZentimeter;
-    NimmZeile("Verbesserung oder Halbachse von " + SchreibeReal(*laenge) + " cm", [this, dots](Bildpunkt m) {
+    NimmZeile(was + " von " + SchreibeReal(*laenge) + " cm", [this, dots](Bildpunkt m) {
         const std::int64_t links = m.x - RundeZuInt64(dots / 2);
         const std::int64_t rechts = links + RundeZuInt64(dots);
         Strich(kSchwarz, {links, m.y}, {rechts, m.y});

@@ -42,13 +42,16 @@ class Erklaerungsbild {
 
     void NimmKlassen();
     void NimmErgebnisse();
-    void NimmMassstab();
+    void NimmMassstab(const std::string& was, double vergroesserung);
     void NimmZeile(std::string_view text, std::function<void(Bildpunkt mitte)> male);
     void MissKasten();
     [[nodiscard]] Bildpunkt Ort(std::int64_t weite, std::int64_t hoehe) const;
     [[nodiscard]] std::size_t Verdeckte(const Bildbereich& r) const;
     [[nodiscard]] std::int64_t Dots(double pixel) const;
     void Strich(Farbe farbe, Bildpunkt von, Bildpunkt nach) const;
+    // As they are drawn in the plan.
+    void Vektor(Farbe farbe, Bildpunkt von, Bildpunkt nach, Strichart art = Strichart::Voll) const;
+    void Ellipse(Bildpunkt mitte) const;
 
     const Zeichenzustand& zustand_;
     const Einstellungen& groessen_;

@@ -6,6 +6,7 @@
 #include <numbers>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "model/Bildorte.h"
 #include "model/Cp1252.h"
@@ -13,6 +14,7 @@
 #include "model/Zahlentext.h"
 #include "output/Abschneiden.h"
 #include "output/Balkenbild.h"
+#include "output/Residuenmass.h"
 
 namespace zrw {
 namespace {
@@ -27,6 +29,12 @@ constexpr double kGrobeLage = 20.0;
 constexpr double kFussbreite = 2.0;  ///< half width of the end strokes [mm]
 /// Beyond the figure itself: rounding, and what wide pens add.
 constexpr double kZeichenrand = 8.0;
+
+constexpr int kFuellung = 12;             ///< of an ellipse: so much is covered [%]
+constexpr std::int32_t kPfeilstift = 2;   ///< width of the pen of arrows
+constexpr double kPfeilspitze = 9.0;      ///< length of their heads [px]
+constexpr double kKuerzesterPfeil = 3.0;  ///< shorter ones have none [px]
+constexpr Gon kPfeilwinkel{27};           ///< between shaft and head
 
 constexpr double kMillimeter = 10.0;  ///< in a centimetre
 constexpr double kSchmalste = 40.0;   ///< bar of whole centimetres [px]
@@ -67,10 +75,26 @@ std::int64_t Ganze(double v) {
     return RundeZuInt64(std::trunc(v));
 }
 
+/// Room of a bar with its margin [lines of text].
+constexpr std::int64_t kBalkenzeilen = 3;
+
 /// @param pixel width of a bar of whole centimetres on the screen, positive
 Teilung WaehleTeilung(double pixel) {
     if (pixel >= kSchmalste && pixel <= kBreiteste) return {};
     return KleinsteTeilung(pixel, kAndereSchmalste);
+}
+
+/// What a bar is for, in the order of the switches, UTF-8.
+std::string Balkentitel(const Darstellung& d, bool mitEllipsen) {
+    std::string titel;
+    const auto nimm = [&](bool an, const char* was) {
+        if (an) titel += (titel.empty() ? "Residuenmaßstab: " : ", ") + std::string(was);
+    };
+    nimm(d.ShowLgRes || d.ShowHRes, "Verbesserungen");
+    nimm(d.ShowHGen, "Höhengenauigkeit");
+    nimm(d.ShowKooVergleich, "Koordinatenvergleich");
+    nimm(d.ShowLGGen && mitEllipsen, d.Ellipsen95 ? "Ellipsen 95 %" : "Ellipsen");
+    return titel;
 }
 
 }  // namespace
@@ -88,7 +112,8 @@ Residuenbild::Residuenbild(const Zeichenzustand& zustand, const Einstellungen& e
       einstellungen_(einstellungen),
       v_(v),
       geraetefaktor_(zustand.Dichte()),
-      f_(geraetefaktor_ * einstellungen.ResMF) {}
+      f_(geraetefaktor_ * einstellungen.ResMF),
+      ellipsen_(geraetefaktor_ * v.darstellung.Ellipsenfaktor(einstellungen.ResMF)) {}
 
 void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
     if (const auto teil = SchneideLinieAb(von, nach, flaeche_.Grenzen())) {
@@ -100,43 +125,85 @@ void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
 
 void Residuenbild::ZeichnePunktRes(Punktergebnisse& ergebnisse) const {
     const Darstellung& d = v_.darstellung;
-    if (!d.ShowLgRes && !d.ShowHRes && !d.ShowLGGen && !d.ShowHGen) return;
+    if (!d.ShowLgRes && !d.ShowHRes && !d.ShowLGGen && !d.ShowHGen && !d.ShowKooVergleich) return;
     ergebnisse.ErneuereErgebnisse();
+    if (d.ShowKooVergleich) ergebnisse.ErneuereVergleich();
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
-    for (const PunktKnoten* p = v_.netz.PunktKnoten; p != nullptr; p = p->Next) {
-        if (!d.Dargestellt(*p->Item) || !v_.Gezeichnet(*p)) continue;
-        const PktText* text = v_.netz.FindPktText(p->PNr);
-        if (text == nullptr || text->Aus.Leer()) continue;
-        if (const Punktergebnis* e = ergebnisse.ErgebnisZu(text->Aus.Text()))
-            Punktbild(BildortVon(*p, v_.ansicht), *e);
-    }
+    if (d.ShowLGGen && d.EllipsenGefuellt) FuelleEllipsen(ergebnisse);
+    FuerNummerierte(v_, [&](const PunktKnoten& p, std::string_view nummer) {
+        const Punktergebnis* e = ergebnisse.ErgebnisZu(nummer);
+        if (e == nullptr) return;
+        const Bildpunkt ort = BildortVon(p, v_.ansicht);
+        Punktbild(ort, *e);
+        if (!d.ShowKooVergleich) return;
+        if (const Vergleichslage* lage = ergebnisse.VergleichZu(nummer)) Vergleichsvektor(ort, *e, *lage);
+    });
+}
+
+/// All of them before the first line: surfaces that draw several lines at a time need not stop for each.
+void Residuenbild::FuelleEllipsen(const Punktergebnisse& ergebnisse) const {
+    FuerNummerierte(v_, [&](const PunktKnoten& p, std::string_view nummer) {
+        const Punktergebnis* e = ergebnisse.ErgebnisZu(nummer);
+        if (e == nullptr) return;
+        const Bildpunkt ort = BildortVon(p, v_.ansicht);
+        FuelleEllipse(Gon{-(e->Phi + 100)}, e->A * ellipsen_, e->B * ellipsen_, static_cast<double>(ort.x),
+                      static_cast<double>(ort.y), einstellungen_.LGGCol);
+    });
+}
+
+void Residuenbild::SetzeStift(Farbe farbe, std::int32_t breite) const {
+    flaeche_.SetzeStift({farbe, breite, Strichart::Voll});
 }
 
 void Residuenbild::Punktbild(Bildpunkt ort, const Punktergebnis& e) const {
-    const auto stift = [this](Farbe farbe, std::int32_t breite = 1) {
-        flaeche_.SetzeStift({farbe, breite, Strichart::Voll});
-    };
     const double dY = e.dY * f_;
     const double dX = e.dX * f_;
     const double dH = e.dH * f_;
     if (v_.darstellung.ShowLgRes && std::isfinite(dY) && std::isfinite(dX)) {
-        stift(einstellungen_.LGRCol);
-        Strich(ort, {Summe(ort.x, Ganze(dY)), Differenz(ort.y, Ganze(dX))});
+        ZeichneVektor(ort, {Summe(ort.x, Ganze(dY)), Differenz(ort.y, Ganze(dX))}, einstellungen_.LGRCol);
     }
-    if (v_.darstellung.ShowHRes && std::isfinite(dH)) {
-        stift(einstellungen_.HRCol);
-        Strich(ort, {ort.x, Differenz(ort.y, Ganze(dH))});
-    }
-    if (v_.darstellung.ShowLGGen) {
-        const bool fein = e.mL <= kGrobeLage;  // not-a-number is not
-        stift(einstellungen_.LGGCol, fein ? 1 : 2);
-        // From an azimuth to the direction in the picture.
-        DrawEllipse(Gon{-(e.Phi + 100)}, e.A * f_, e.B * f_, static_cast<double>(ort.x),
-                    static_cast<double>(ort.y));
-    }
+    if (v_.darstellung.ShowHRes && std::isfinite(dH))
+        ZeichneVektor(ort, {ort.x, Differenz(ort.y, Ganze(dH))}, einstellungen_.HRCol);
+    if (v_.darstellung.ShowLGGen) Fehlerellipse(ort, e);
     if (v_.darstellung.ShowHGen) {
-        stift(einstellungen_.HGCol);
+        SetzeStift(einstellungen_.HGCol, 1);
         Hoehengenauigkeit(ort, e.mH);
+    }
+}
+
+void Residuenbild::Fehlerellipse(Bildpunkt ort, const Punktergebnis& e) const {
+    const bool fein = e.mL <= kGrobeLage;  // not-a-number is not
+    SetzeStift(einstellungen_.LGGCol, fein ? 1 : 2);
+    // From an azimuth to the direction in the picture.
+    DrawEllipse(Gon{-(e.Phi + 100)}, e.A * ellipsen_, e.B * ellipsen_, static_cast<double>(ort.x),
+                static_cast<double>(ort.y));
+}
+
+/// In the colour of residuals of the position, but dashed.
+void Residuenbild::Vergleichsvektor(Bildpunkt ort, const Punktergebnis& e, const Vergleichslage& lage) const {
+    const Lageabweichung abweichung = AbweichungVon(e, lage);
+    const double dY = abweichung.dY * f_;
+    const double dX = abweichung.dX * f_;
+    if (!std::isfinite(dY) || !std::isfinite(dX)) return;
+    // Differences of coordinates fall short of round values in the last place.
+    ZeichneVektor(ort, {Summe(ort.x, RundeZuInt64(dY)), Differenz(ort.y, RundeZuInt64(dX))},
+                  einstellungen_.LGRCol, Strichart::Gestrichelt);
+}
+
+void Residuenbild::ZeichneVektor(Bildpunkt von, Bildpunkt nach, Farbe farbe, Strichart art) const {
+    const bool pfeil = v_.darstellung.Residuenpfeile;
+    flaeche_.SetzeStift({farbe, pfeil ? kPfeilstift : 1, art});
+    Strich(von, nach);
+    const double dx = static_cast<double>(von.x) - static_cast<double>(nach.x);
+    const double dy = static_cast<double>(von.y) - static_cast<double>(nach.y);
+    const double laenge = std::hypot(dx, dy);
+    if (!pfeil || !(laenge >= kKuerzesterPfeil * geraetefaktor_)) return;
+    SetzeStift(farbe, kPfeilstift);
+    const double spitze = std::min(kPfeilspitze * geraetefaktor_, laenge / 2) / laenge;
+    for (const double seite : {-1.0, 1.0}) {
+        const Richtung r = RichtungVon(seite * kPfeilwinkel.wert);
+        Strich(nach, {Summe(nach.x, RundeZuInt64(spitze * (r.cos * dx - r.sin * dy))),
+                      Summe(nach.y, RundeZuInt64(spitze * (r.sin * dx + r.cos * dy)))});
     }
 }
 
@@ -153,32 +220,45 @@ void Residuenbild::Hoehengenauigkeit(Bildpunkt ort, double mH) const {
         Strich({Differenz(ort.x, w), y}, {Summe(ort.x, w), y});
 }
 
-void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0) const {
+struct Residuenbild::Ellipsenform {
+    Richtung alpha;
+    double a, b, x0, y0;
+    std::size_t winkel;  ///< from one corner to the next [gon]
+    bool ganz;           ///< all of it can be seen
+
+    [[nodiscard]] Bildpunkt Ecke(std::size_t gon) const {
+        const Richtung& t = GanzeGon()[gon];
+        const double c = a * t.cos;
+        const double q = b * t.sin;
+        return {RundeZuInt64(x0 + alpha.cos * c + alpha.sin * q),
+                RundeZuInt64(y0 + alpha.cos * q - alpha.sin * c)};
+    }
+};
+
+std::optional<Residuenbild::Ellipsenform> Residuenbild::Form(Gon phi, double a, double b, double x0,
+                                                             double y0) const {
     const double umfang = std::numbers::pi * (1.5 * (a + b) - std::sqrt(a * b));
     // Finite only for axes that are, and of one sign.
-    if (!std::isfinite(umfang) || !std::isfinite(phi.wert)) return;
+    if (!std::isfinite(umfang) || !std::isfinite(phi.wert)) return std::nullopt;
     const Rechteck s = flaeche_.Sichtbar();
     const double reichweite = std::max(std::fabs(a), std::fabs(b)) + kZeichenrand;
     const double links = x0 - reichweite;
     const double rechts = x0 + reichweite;
     const double oben = y0 - reichweite;
     const double unten = y0 + reichweite;
-    if (rechts < s.links || links > s.rechts || unten < s.oben || oben > s.unten) return;
+    if (rechts < s.links || links > s.rechts || unten < s.oben || oben > s.unten) return std::nullopt;
     const bool ganz = links >= s.links && rechts <= s.rechts && oben >= s.oben && unten <= s.unten;
-    const Richtung alpha = RichtungVon(phi.wert);
-    const auto ecke = [&](const Richtung& t) {
-        const double c = a * t.cos;
-        const double q = b * t.sin;
-        return Bildpunkt{RundeZuInt64(x0 + alpha.cos * c + alpha.sin * q),
-                         RundeZuInt64(y0 + alpha.cos * q - alpha.sin * c)};
-    };
-    const Richtungen& tafel = GanzeGon();
-    const std::size_t winkel = Eckwinkel(umfang);
-    Bildpunkt vorige = ecke(tafel[0]);
+    return Ellipsenform{RichtungVon(phi.wert), a, b, x0, y0, Eckwinkel(umfang), ganz};
+}
+
+void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0) const {
+    const auto form = Form(phi, a, b, x0, y0);
+    if (!form) return;
+    Bildpunkt vorige = form->Ecke(0);
     for (std::size_t t = 0; t <= kVollkreis;) {
-        t += winkel;
-        const Bildpunkt naechste = ecke(tafel[t]);
-        if (ganz) {
+        t += form->winkel;
+        const Bildpunkt naechste = form->Ecke(t);
+        if (form->ganz) {
             flaeche_.Linie(Aufflaeche(vorige), Aufflaeche(naechste));
         } else {
             Strich(vorige, naechste);
@@ -187,15 +267,38 @@ void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0
     }
 }
 
+void Residuenbild::FuelleEllipse(Gon phi, double a, double b, double x0, double y0, Farbe farbe) const {
+    const auto form = Form(phi, a, b, x0, y0);
+    if (!form) return;
+    std::vector<Bildpunkt> ecken;
+    for (std::size_t t = 0; t < kVollkreis; t += form->winkel)
+        ecken.push_back(form->Ecke(t));
+    const auto teil = SchneideVieleckAb(ecken, flaeche_.Sichtbar());
+    if (!teil.empty()) flaeche_.FuelleDurchscheinend(teil, farbe, kFuellung);
+}
+
 // --- Scale bar --------------------------------------------------------------------------------------------
 
 void Residuenbild::DrawResMasstab() const {
-    if (!v_.darstellung.ZeigtErgebnisse()) return;
+    const Darstellung& d = v_.darstellung;
+    if (!d.ZeigtErgebnisse()) return;
+    const bool eigener = d.EigenerEllipsenmassstab() && d.ShowLGGen;
+    const std::string titel = d.WeichtAb() ? Balkentitel(d, !eigener) : "";
+    // Where only ellipses are drawn there is nothing to tell them from.
+    const bool gemeinsamer = !eigener || !titel.empty();
+    if (gemeinsamer) ZeichneBalken(titel.empty() ? "Residuenmaßstab" : titel, einstellungen_.ResMF, 0);
+    if (eigener)
+        ZeichneBalken(d.Ellipsen95 ? "Maßstab der Ellipsen 95 %" : "Maßstab der Ellipsen", d.Ellipsenmassstab,
+                      gemeinsamer ? kBalkenzeilen * flaeche_.Texthoehe() : 0);
+}
+
+/// @param titel UTF-8 @param hoeher above the corner [dots]
+void Residuenbild::ZeichneBalken(const std::string& titel, double vergroesserung, std::int64_t hoeher) const {
     // On the screen, whatever the device: paper has the same numbers.
-    const double pixel = kTeile * kMillimeter * einstellungen_.ResMF;
+    const double pixel = kTeile * kMillimeter * vergroesserung;
     if (!(pixel > 0.0) || !std::isfinite(pixel)) return;
     const Teilung teilung = WaehleTeilung(pixel);
-    Balken balken{Utf8NachCp1252("Residuenmaßstab"), "cm", {}, 0.0, false};
+    Balken balken{Utf8NachCp1252(titel), "cm", {}, 0.0, false};
     for (int i = 0; i <= kTeile; ++i) {
         const auto wert = teilung.Mal(i);
         if (!wert) return;
@@ -203,7 +306,7 @@ void Residuenbild::DrawResMasstab() const {
     }
     balken.laenge = teilung.Mal(1).value_or(0.0) * pixel * geraetefaktor_;
     if (balken.laenge >= kTeile && balken.laenge < static_cast<double>(kZeichengrenze))
-        ZeichneBalken(flaeche_, balken);
+        zrw::ZeichneBalken(flaeche_, balken, hoeher);
 }
 
 }  // namespace zrw

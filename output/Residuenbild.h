@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -34,16 +35,31 @@ class Residuenbild {
     /// @param x0,y0  centre [dots]
     void DrawEllipse(Gon phi, double a, double b, double x0, double y0) const;
 
+    /// Fills an ellipse with what lies below shining through.
+    void FuelleEllipse(Gon phi, double a, double b, double x0, double y0, Farbe farbe) const;
+    /// Draws a residual, with a head where that was chosen. @param art of its shaft
+    void ZeichneVektor(Bildpunkt von, Bildpunkt nach, Farbe farbe, Strichart art = Strichart::Voll) const;
+
     /// Draws the scale bar into the bottom-left corner if an overlay is on. It stands for five times 1, 2 or
     /// 5 * 10^n cm of residual, long enough to measure with. None where the magnification is no positive
-    /// number and in pictures that are too low.
+    /// number and in pictures that are too low. Where something is drawn in another than the usual way it
+    /// says what it is for, and ellipses with a magnification of their own have a bar of their own above it.
     void DrawResMasstab() const;
 
   private:
     static constexpr int kTeile = 5;  ///< of the scale bar
 
+    /// An ellipse that can be drawn.
+    struct Ellipsenform;
+
     void Strich(Bildpunkt von, Bildpunkt nach) const;
+    void SetzeStift(Farbe farbe, std::int32_t breite) const;
+    [[nodiscard]] std::optional<Ellipsenform> Form(Gon phi, double a, double b, double x0, double y0) const;
+    void FuelleEllipsen(const Punktergebnisse& ergebnisse) const;
     void Punktbild(Bildpunkt ort, const Punktergebnis& e) const;
+    void Fehlerellipse(Bildpunkt ort, const Punktergebnis& e) const;
+    void Vergleichsvektor(Bildpunkt ort, const Punktergebnis& e, const Vergleichslage& lage) const;
+    void ZeichneBalken(const std::string& titel, double vergroesserung, std::int64_t hoeher) const;
     void Hoehengenauigkeit(Bildpunkt ort, double mH) const;
 
     Zeichenflaeche& flaeche_;
@@ -51,6 +67,7 @@ class Residuenbild {
     const Bildvorlage& v_;
     double geraetefaktor_;  ///< dots per screen pixel [-]
     double f_;              ///< dots per unit of the results [1/mm]
+    double ellipsen_;       ///< the same of the axes of ellipses
 };
 
 }  // namespace zrw

@@ -7,6 +7,7 @@
 #include <tuple>
 
 #include "output/Figurenzeichner.h"
+#include "output/Residuenmass.h"
 #include "tests/hilfe/Festuhr.h"
 #include "tests/hilfe/MerkFlaeche.h"
 #include "tests/hilfe/Probenetz.h"
@@ -21,12 +22,17 @@ struct Merkergebnisse final : Punktergebnisse {
     std::map<std::string, Punktergebnis, std::less<>> werte;
     int erneuert = 0;
     mutable Zeilen gefragt;
+    std::map<std::string, Vergleichslage, std::less<>> lagen;
 
     void ErneuereErgebnisse() override { ++erneuert; }
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
         gefragt.emplace_back(nummer);
         const auto i = werte.find(nummer);
         return i != werte.end() ? &i->second : nullptr;
+    }
+    [[nodiscard]] const Vergleichslage* VergleichZu(std::string_view nummer) const override {
+        const auto i = lagen.find(nummer);
+        return i != lagen.end() ? &i->second : nullptr;
     }
 };
 
@@ -268,6 +274,101 @@ TEST_F(Residuen, MassstabLaengeUndTeilung) {
         }
         EXPECT_EQ(text, f.text) << f.f << " " << f.geraet;
     }
+}
+
+// Heads are half as long as short vectors, and none at all where there is no room.
+TEST_F(Residuen, PfeileUndKoordinatenvergleich) {
+    n.l.Residuenpfeile = n.l.ShowLgRes = true;
+    std::tie(n.e.LGRCol.wert, n.e.LGGCol.wert) = std::tuple(1, 3);
+    ergebnisse.werte["12"] = {.dY = 40, .dX = 0, .X = 1000, .Y = 2000};
+    EXPECT_EQ(Gezeichnet(), (Zeilen{"Stift 0x000001 2", "Linie 100 100 140 100", "Linie 140 100 132 104",
+                                    "Linie 140 100 132 96"}));
+    ergebnisse.werte["12"].dY = 2.9;
+    EXPECT_EQ(Gezeichnet(), Zeilen{"Linie 100 100 102 100"});
+    n.l.ShowLgRes = false;
+    n.l.ShowKooVergleich = true;
+    EXPECT_EQ(Gezeichnet(), Zeilen{}) << "not in the second list";
+    ergebnisse.lagen["12"] = {.Y = 2000, .X = 1000.03};
+    EXPECT_EQ(Gezeichnet(), (Zeilen{"Stift 0x000001 2 gestrichelt", "Linie 100 100 100 70",
+                                    "Stift 0x000001 2", "Linie 100 70 104 78", "Linie 100 70 96 78"}));
+    n.l.Residuenpfeile = false;
+    EXPECT_EQ(Gezeichnet(), (Zeilen{"Stift 0x000001 1 gestrichelt", "Linie 100 100 100 70"}));
+    for (const Vergleichslage& lage : {Vergleichslage{}, {.Y = kInf, .X = 1000}, {.Y = 2000, .X = kNan}}) {
+        ergebnisse.lagen["12"] = lage;
+        EXPECT_EQ(Gezeichnet(), Zeilen{});
+    }
+}
+
+TEST_F(Residuen, EllipsenGefuelltUndInEigenerGroesse) {
+    n.e.LGGCol.wert = 3;
+    ergebnisse.werte["12"] = {.A = 4, .B = 4};
+    ZeigeResiduen(false, true);
+    n.l.EllipsenGefuellt = true;
+    n.l.Ellipsenmassstab = 10;
+    const Zeilen alle = Gezeichnet();
+    ASSERT_TRUE(alle[0].starts_with("Durchscheinend 0x000003 12 100 140 97 140 95 140")) << alle[0];
+    EXPECT_EQ(alle[1], "Stift 0x000003 1");
+    EXPECT_EQ(alle[2].substr(0, 15), "Linie 100 140 9") << "40 dots, whatever residuals have";
+    n.l.Ellipsen95 = true;
+    EXPECT_EQ(Gezeichnet()[1].substr(0, 16), "Linie 100 198 97") << "97.9 dots";
+    n.l.Ellipsenmassstab = 1e7;
+    const std::string riesig = Gezeichnet().at(0);
+    EXPECT_LT(riesig.size(), 100U) << "cut round the picture";
+    EXPECT_NE(riesig.find(" 863 663"), std::string::npos) << riesig;
+    n.l.Ellipsenmassstab = 1e300;
+    ergebnisse.werte["12"] = {.A = 1e300, .B = 4};
+    EXPECT_EQ(Gezeichnet(), Zeilen{}) << "no finite number";
+}
+
+TEST_F(Residuen, BalkenSagenWofuerSieStehen) {
+    const auto titel = [this] {
+        Zeilen texte;
+        for (const std::string& z : Massstab()) {
+            if (z.find("stab") != std::string::npos) texte.push_back(z.substr(14));
+        }
+        return texte;
+    };
+    n.e.ResMF = 8;
+    ZeigeResiduen(true, true);
+    n.l.Ellipsen95 = true;
+    EXPECT_EQ(titel(),
+              Zeilen{"12 559 Residuenma\xDFstab: Verbesserungen, H\xF6hengenauigkeit, Ellipsen 95 %"});
+    n.l.Ellipsenmassstab = 20;
+    EXPECT_EQ(titel(), (Zeilen{"12 559 Residuenma\xDFstab: Verbesserungen, H\xF6hengenauigkeit",
+                               "12 523 Ma\xDFstab der Ellipsen 95 %"}));
+    ZeigeResiduen(false, true);
+    EXPECT_EQ(titel(), Zeilen{"12 559 Ma\xDFstab der Ellipsen 95 %"});
+    n.l.ShowLGGen = n.l.Ellipsen95 = false;
+    n.l.ShowKooVergleich = true;
+    EXPECT_EQ(titel(), Zeilen{"12 559 Residuenma\xDFstab: Koordinatenvergleich"});
+}
+
+TEST_F(Residuen, VergroesserungPasstZumBild) {
+    ergebnisse.werte["12"] = {.dY = 3, .dX = 4, .dH = -7, .A = 20, .B = 2, .mH = kNan, .X = 0, .Y = 0};
+    ergebnisse.lagen["12"] = {.Y = 0, .X = 0.5};
+    const auto mass = [this] { return MissResiduen(n.l.Vorlage(), ergebnisse); };
+    EXPECT_EQ(mass().vektor, 0.0) << "nothing is switched on";
+    n.l.ShowLgRes = n.l.ShowHGen = true;
+    EXPECT_EQ(mass().vektor, 5.0);
+    n.l.ShowHRes = n.l.ShowLGGen = true;
+    EXPECT_EQ(mass().vektor, 7.0);
+    EXPECT_EQ(mass().ellipse, 20.0);
+    n.l.ShowKooVergleich = true;
+    EXPECT_EQ(mass().vektor, 500.0);
+    n.l.ShowFP = false;
+    EXPECT_EQ(mass().vektor, 0.0) << "the point is not shown";
+
+    EXPECT_EQ(PassendeVergroesserung(10, 1500), 10.0);
+    EXPECT_EQ(PassendeVergroesserung(11, 1500), 5.0);
+    EXPECT_EQ(PassendeVergroesserung(1e6, 1500), 1e-4);
+    for (const double mm : {0.0, -1.0, kNan, kInf, 1e-320})
+        EXPECT_EQ(PassendeVergroesserung(mm, 1500), std::nullopt) << mm;
+    const Residuendarstellung d{.Ellipsen95 = true};
+    EXPECT_EQ(Groessenhinweis({10, 10}, d, 5, 800), "");
+    EXPECT_EQ(Groessenhinweis({10, 10}, d, 0.2, 800),
+              "Verbesserungen sind höchstens 2.0 Bildpunkte groß: Der Residuenmaßstab ist zu klein.");
+    EXPECT_EQ(Groessenhinweis({0, 10}, d, 10, 800),
+              "Fehlerellipsen sind bis zu 245 Bildpunkte groß: Der Residuenmaßstab ist zu groß.");
 }
 
 }  // namespace
