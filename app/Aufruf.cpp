@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 
 #include "model/Aufzaehltafel.h"
@@ -60,6 +61,12 @@ double LiesStift(const std::string& text) {
     if (stift && *stift > 0.0 && std::count(kPlanstifte.begin(), kPlanstifte.end(), *stift) > 0)
         return *stift;
     throw Falschaufruf{"--stift kennt 0.13, 0.18, 0.25 und vorgabe, nicht \"" + text + "\""};
+}
+
+double LiesEllipsenmassstab(const std::string& text) {
+    const auto zahl = LiesReal(text);
+    if (zahl && *zahl > 0.0 && std::isfinite(*zahl)) return *zahl;
+    throw Falschaufruf{"--ellipsenmassstab erwartet eine Zahl größer als 0, nicht \"" + text + "\""};
 }
 
 /// "a4" is A4, too.
@@ -174,6 +181,8 @@ constexpr auto kOptionen = std::to_array<Option>({
     {"--nur", [](Aufruf& a, const std::string& w) { NimmKategorien(a.faerbung.filter, w); }},
     {"--ein", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.ein, LiesSchalter(w)); }},
     {"--aus", [](Aufruf& a, const std::string& w) { HaengeFormateAn(a.aus, LiesSchalter(w)); }},
+    {"--ellipsenmassstab",
+     [](Aufruf& a, const std::string& w) { a.ellipsenmassstab = LiesEllipsenmassstab(w); }},
     {"--einstellungen", [](Aufruf& a, const std::string& w) { a.einstellungen = w; }},
 });
 
@@ -258,6 +267,8 @@ std::string Hilfetext() {
            "  --nur LISTE            nur Linien mit richtungen, strecken, hoehen, gps (ebenso)\n"
            "  --ein LISTE            Darstellung einschalten\n"
            "  --aus LISTE            Darstellung ausschalten\n"
+           "  --ellipsenmassstab ZAHL\n"
+           "                         Fehlerellipsen im eigenen Maßstab ZAHL:1 statt im Residuenmaßstab\n"
            "  --einstellungen DATEI  andere Einstellungen als die eigenen (INI-Datei)\n"
            "  --help, --version\n"
            "\n"

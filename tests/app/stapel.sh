@@ -97,7 +97,7 @@ for falsch in "--export" "--export pdff x" "--export zrw" "--gibtsnicht" "--groe
     "--ein nichts x" "--export dxf --massstab 0 x" "--export dxf --massstab 1:500 x" "--export plt --dpi 0 x" \
     "--export plt --dpi 1.5 x" "--export pdf --papier A5 x" "--export pdf --papier" "--export pdf --quer=1 x" \
     "--export pdf --blaetter 0 x" "--export pdf --ueberlappung 21 x" "--export pdf --stift 0.2 x" \
-    "--export png --nummern-ordnen karte x" \
+    "--export png --nummern-ordnen karte x" "--export png --ellipsenmassstab 0 x" "--export pdf --ellipsenmassstab nan x" \
     "--export zrw a b" "--groesse 800x600 x"; do
     # shellcheck disable=SC2086
     erwarte 2 "falscher Aufruf $falsch" $falsch

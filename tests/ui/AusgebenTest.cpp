@@ -89,6 +89,7 @@ TEST_F(Ausgabefenster, BefehlSchreibtDieselbenBytes) {
         {"bmp", {kreuz("Schalter-massbalken", true)}},
         {"svg", {kreuz("Schalter-beobachtungen", false)}},
         {"pdf", {kreuz("Schalter-lagegen", true)}},
+        {"pdf", {kreuz("Schalter-lagegen", true), kreuz("Schalter-ellipsen-gefuellt", true)}},
         {"pdf", {kreuz("MassstabPassend", false), massstab, kreuz("PapierQuer", true)}},
         {"pdf",
          {kreuz("MassstabPassend", false), massstab, kreuz("AlleBlaetter", true),

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
@@ -191,6 +192,7 @@ TEST_F(Ergebnisfenster, ErsteSpaltenBleibenStehen) {
     Knopf("DataButton").click();
     Klick(E);
     Reiter(2);
+    Fenster().resize(600, 300);
     auto& feste = *Gitter().findChild<QTableView*>("FesteSpalten");
     EXPECT_FALSE(feste.isVisible()) << "nothing is scrolled";
     Gitter().horizontalScrollBar()->setValue(150);
@@ -295,6 +297,58 @@ TEST_F(Ergebnisfenster, MarkiertUndZeichnetUeberDasNetz) {
     QCoreApplication::processEvents();
     ASSERT_EQ(dialoge.meldungen.size(), 1);
     EXPECT_TRUE(dialoge.meldungen[0].contains("KooTABLE.DB"));
+}
+
+TEST_F(Ergebnisfenster, WieGrossUndWieGezeichnetWird) {
+    const auto feld = [this](const char* name) -> QLineEdit& {
+        return FindeTeil<QLineEdit>("ResiduenDialog", name);
+    };
+    const auto tippe = [&](const char* name, const char* text) {
+        feld(name).setText(text);
+        emit feld(name).editingFinished();
+    };
+    const auto hinweis = [this] { return FindeTeil<QLabel>("ResiduenDialog", "GroessenHinweis").text(); };
+    std::vector<Wert> punkt(20);
+    punkt[0] = std::int64_t{1};
+    punkt[1] = "E";
+    punkt[15] = 10.0;
+    punkt[16] = 8.0;
+    punkt[17] = 0.0;
+    Tabelle(zrw::Tabelle::Koordinaten, {punkt});
+    fenster.ErgebnisMassstabClick();
+    FindeTeil("ResiduenDialog", "AnpassenKnopf").click();
+    EXPECT_TRUE(hinweis().startsWith("Dazu muss etwas"));
+    Kasten("CheckBoxLgGen").click();
+    const QPoint ort = E + QPoint(12, 5);
+    const auto farbe = [&] { return fenster.Bild().pixelColor(ort); };
+    EXPECT_EQ(farbe(), QColor(Qt::white));
+    FindeTeil("ResiduenDialog", "AnpassenKnopf").click();
+    EXPECT_EQ(feld("ResiduenFeld").text(), "5") << "50 of 800 pixels";
+    EXPECT_EQ(einstellungen.ResMF, 5.0);
+    Kind<QAction>("AktionCheckBoxEllipsenGefuellt").trigger();
+    EXPECT_NE(farbe(), QColor(Qt::white)) << "shines through";
+    EXPECT_GT(farbe().lightness(), 200);
+    tippe("ResiduenFeld", "500");
+    EXPECT_TRUE(hinweis().contains("zu groß"));
+    tippe("ResiduenFeld", "5,5");
+    EXPECT_TRUE(hinweis().contains("keine Zahl"));
+    EXPECT_EQ(einstellungen.ResMF, 500.0) << "stays";
+    FindeTeil<QCheckBox>("ResiduenDialog", "EllipsenEigen").click();
+    tippe("ResiduenFeld", "1");
+    tippe("EllipsenFeld", "0.1");
+    EXPECT_EQ(fenster.Netz()->Ellipsenmassstab, 0.1);
+    EXPECT_TRUE(hinweis().contains("Maßstab der Fehlerellipsen ist zu klein"));
+    tippe("EllipsenFeld", "-1");
+    EXPECT_EQ(fenster.Netz()->Ellipsenmassstab, 0.1);
+    tippe("EllipsenFeld", "2");
+    Kind<QDialog>("ResiduenDialog").close();
+    OeffneDatei("a.EIN");
+    EXPECT_EQ(fenster.Netz()->Ellipsenmassstab, 2.0) << "for every network";
+    EXPECT_TRUE(fenster.Netz()->EllipsenGefuellt);
+    const TZrwMainDlg spaeter(
+        {einstellungen, ablage, netz, zustand, dateien, uhr, daten, drucker, dialoge, sitzung, "1.2"});
+    EXPECT_TRUE(spaeter.findChild<QAction*>("AktionCheckBoxEllipsenGefuellt")->isChecked()) << "remembered";
+    EXPECT_EQ(ablage.werte["ResEllipsenMF"], "2");
 }
 
 TEST_F(Ergebnisfenster, TabellenLiegenBeiDerDateiDieZuletztGeoeffnetOderGespeichertWurde) {

@@ -77,7 +77,7 @@ TEST_F(Zugang, WasDieTastaturHabenKannHatEinenNamen) {
         EXPECT_GT(PruefeNamen(*w), 0) << w->objectName().toStdString();
         ++fensterzahl;
     }
-    EXPECT_EQ(fensterzahl, 11);
+    EXPECT_EQ(fensterzahl, 12);
 }
 
 TEST_F(Zugang, JederBefehlStehtImBaum) {

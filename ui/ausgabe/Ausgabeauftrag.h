@@ -46,6 +46,7 @@ struct Ausgabeauftrag {
     Planfaerbung faerbung{};                     ///< lines or points in classes, and which lines
     std::vector<std::string> ein;                ///< switches by name
     std::vector<std::string> aus;
+    double ellipsenmassstab = 0.0;  ///< magnification of error ellipses; 0: that of residuals
 };
 
 }  // namespace zrw

@@ -34,7 +34,10 @@ QWidget* Reihe(std::initializer_list<QWidget*> teile, QWidget* eltern) {
 }  // namespace
 
 Ausgabefelder::Ausgabefelder(const Planausgabe& plan, const Ausgabeanfang& anfang, QWidget* eltern)
-    : QWidget(eltern), form_(new QFormLayout(this)), faerbung_(plan.Faerbung()) {
+    : QWidget(eltern),
+      form_(new QFormLayout(this)),
+      faerbung_(plan.Faerbung()),
+      ellipsenmassstab_(plan.Ellipsenmassstab()) {
     form_->setContentsMargins(0, 0, 0, 0);
     BaueFormat(*form_);
     BaueBild(*form_, plan.UeblicheGroesse(), anfang.glatt);
@@ -216,6 +219,8 @@ void Ausgabefelder::NimmSchalter(Ausgabeauftrag& auftrag) const {
         if (!Wirkt(*schalter) || kasten->isChecked() == schalter->anfangs) continue;
         (kasten->isChecked() ? auftrag.ein : auftrag.aus).emplace_back(schalter->name);
     }
+    if (std::count(auftrag.ein.begin(), auftrag.ein.end(), "lagegen") > 0)
+        auftrag.ellipsenmassstab = ellipsenmassstab_;
 }
 
 std::optional<Ausgabeauftrag> Ausgabefelder::Auftrag() const {

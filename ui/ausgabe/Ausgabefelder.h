@@ -57,6 +57,7 @@ class Ausgabefelder final : public QWidget {
 
     QFormLayout* form_ = nullptr;
     Planfaerbung faerbung_;  ///< that of the window
+    double ellipsenmassstab_;  ///< of the window
     QComboBox* format_ = nullptr;
     QSpinBox* weite_ = nullptr;
     QSpinBox* hoehe_ = nullptr;

@@ -27,6 +27,7 @@ void SetzeSchalter(const Ausgabeauftrag& auftrag, Darstellung& darstellung, cons
         StelleEin(s, (s.anfangs || genannt(auftrag.ein, s)) && !genannt(auftrag.aus, s), &darstellung, netz,
                   zustand);
     }
+    darstellung.Ellipsenmassstab = auftrag.ellipsenmassstab;
 }
 
 void SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,

@@ -31,7 +31,8 @@ struct Ausgabeziel {
 /// The view that a plan is written in.
 /// @param gelesen that of the file which it comes from; one of a control file shows all of the network
 void SetzeGroesse(const Ausgabeauftrag& auftrag, Ansicht& gelesen);
-/// The switches as the program begins with them, but for those that the order names.
+/// The switches as the program begins with them, but for those that the order names, and what belongs to
+/// them.
 void SetzeSchalter(const Ausgabeauftrag& auftrag, Darstellung& darstellung, const Netzangaben& netz,
                    Zeichenzustand& zustand);
 /// Colours lines or points by what the tables say, and leaves lines out. Tells where nothing has a value.

@@ -39,10 +39,11 @@ QImage ZeichnePlan(const Format& format, const Ausgabe& a) {
     const Ansicht ansicht = ganz.InDichte(dichte);
     Darstellung darstellung = a.vorlage.darstellung;
     if (format.HatMerkmal(kOhneLegende)) {
-        for (bool Darstellung::*schalter :
-             {&Darstellung::ShowLegende, &Darstellung::ShowLgRes, &Darstellung::ShowHRes,
-              &Darstellung::ShowLGGen, &Darstellung::ShowHGen, &Darstellung::ShowMassbalken,
-              &Darstellung::ShowErklaerung})
+        using Schalterfeld = bool Darstellung::*;
+        for (const Schalterfeld schalter : std::initializer_list<Schalterfeld>{
+                 &Darstellung::ShowLegende, &Darstellung::ShowLgRes, &Darstellung::ShowHRes,
+                 &Darstellung::ShowLGGen, &Darstellung::ShowHGen, &Darstellung::ShowKooVergleich,
+                 &Darstellung::ShowMassbalken, &Darstellung::ShowErklaerung})
             darstellung.*schalter = false;
         darstellung.Stile.reset();
     }

@@ -97,6 +97,7 @@ std::vector<std::string> Befehlsworte(const Format& format, const Ausgabeauftrag
         HaengeFaerbungAn(worte, auftrag.faerbung);
     HaengeListeAn(worte, "--ein", auftrag.ein);
     HaengeListeAn(worte, "--aus", auftrag.aus);
+    if (auftrag.ellipsenmassstab > 0.0) nimm("--ellipsenmassstab", SchreibeReal(auftrag.ellipsenmassstab));
     nimm("--ziel", PfadText(ordner));
     worte.push_back(PfadText(datei));
     return worte;

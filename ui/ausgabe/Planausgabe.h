@@ -27,6 +27,8 @@ class Planausgabe {
     [[nodiscard]] const Planfaerbung& Faerbung() const { return plan_.Faerbung(); }
     /// Whether the window shows what this switch is about.
     [[nodiscard]] bool IstAn(const Schalter& schalter) const;
+    /// Magnification of the window's error ellipses; 0: that of residuals.
+    [[nodiscard]] double Ellipsenmassstab() const { return plan_.Daten()->Ellipsenmassstab; }
     [[nodiscard]] const Netzangaben& Angaben() const { return programm_.netz; }
 
     [[nodiscard]] Ausgabevorschau ZeichneVorschau(const Format& format, const Ausgabeauftrag& auftrag,

@@ -48,7 +48,7 @@ void Festspaltentafel::VerbindeKoepfe() {
         if (weite > 0 && !feste_->isColumnHidden(spalte)) setColumnWidth(spalte, weite);
     });
     connect(kopf, &QHeaderView::sortIndicatorChanged, fester, &QHeaderView::setSortIndicator);
-    connect(fester, &QHeaderView::sectionClicked, this, [this, kopf](int spalte) {
+    connect(fester, &QHeaderView::sectionClicked, this, [kopf](int spalte) {
         const bool auf =
             kopf->sortIndicatorSection() != spalte || kopf->sortIndicatorOrder() == Qt::DescendingOrder;
         kopf->setSortIndicator(spalte, auf ? Qt::AscendingOrder : Qt::DescendingOrder);

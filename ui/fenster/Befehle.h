@@ -126,7 +126,11 @@ inline constexpr auto kBefehle = std::to_array<Befehl>({
      "einfaerben", "", &TZrwMainDlg::EinfaerbenClick, kBrauchtNetz | kOhneKnopf},
     {"StatistikWahl", Menue::Ergebnisse, "&Statistik…", "Statistik",
      "Fasst die Beobachtungen zusammen: Anzahlen, Testgrößen, Redundanz und die auffälligsten.", "statistik",
-     "", &TZrwMainDlg::StatistikClick, kBrauchtNetz | kOhneKnopf | kMenuestrich},
+     "", &TZrwMainDlg::StatistikClick, kBrauchtNetz | kOhneKnopf},
+    {"ErgebnisMassstab", Menue::Ergebnisse, "&Maßstäbe der Ergebnisse…", "Maßstäbe der Ergebnisse",
+     "Bestimmt, wie groß Verbesserungen und Fehlerellipsen gezeichnet werden, auch passend zum Netz.",
+     "residuen", "", &TZrwMainDlg::ErgebnisMassstabClick, kBrauchtNetz | kOhneKnopf | kMenuestrich},
+
     {"SpeedButton12", Menue::Ausgabe, "&Legendentexte…", "Legendentexte",
      "Schreibt zwei Zeilen in die Legende und blendet sie ein.", "legende", "Ctrl+L",
      &TZrwMainDlg::SpeedButton12Click, kBrauchtNetz | kMenuestrich},

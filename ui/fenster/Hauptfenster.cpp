@@ -1,4 +1,5 @@
 #include "ui/fenster/Hauptfenster.h"
+#include "ui/ergebnisse/Residuenwahl.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -217,6 +218,11 @@ void TZrwMainDlg::BaueDialoge() {
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { aktionen_->NachName("SpeedButton14").setChecked(false); });
     ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, vorlieben_, this);
+    residuen_ = std::make_unique<Residuenwahl>(Residuenwahl::Umfeld{programm_, plan_,
+                                                                    [this] {
+                                                                        if (plan_.Offen()) ZeichneNeu();
+                                                                    }},
+                                               *aktionen_, this);
     ergebnisse_->Fenster().Gitter().zeigePunkt = [this](const QString& nummer) {
         // Exactly this one: the search of the number field would find others.
         if (plan_.Offen() && plan_.Daten()->FindPunkt(Utf8NachCp1252(NachUtf8(nummer))) == nullptr) {
@@ -305,6 +311,9 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         ZeigeStatus(AusUtf8(kKeineMeter));
     const bool ausTabelle = schalter.HatMerkmal(kAusErgebnissen);
     const std::string massstab = Massstabhinweis(programm_.einstellungen.ResMF);
+    if (ein && ausTabelle && plan_.Offen()) {
+        if (const QString hinweis = residuen_->Hinweis(); !hinweis.isEmpty()) ZeigeStatus(hinweis);
+    }
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
     if (ein && ausTabelle && plan_.Offen() && !programm_.daten.Vorhanden("KooTABLE.DB"))
         ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +

@@ -41,6 +41,7 @@ class Planfaerber;
 class Punktartwahl;
 class Punktgang;
 class Punktversteck;
+class Residuenwahl;
 class Schwebekarte;
 class Seitenleiste;
 class Standfelder;
@@ -98,7 +99,8 @@ class TZrwMainDlg final : public QMainWindow,
     void ButtonKleinerClick() { planbild_.ZoomeUmMitte(false); }
     void EinpassenClick() { planbild_.PasseGezeigtesEin(); }  ///< fits the visible points
     void NummernZeigenClick();                                ///< shows all hidden numbers
-    void NummernOrdnenClick();                                ///< finds places for numbers
+    void ErgebnisMassstabClick();
+    void NummernOrdnenClick();  ///< finds places for numbers
     void LetzteDateienClick();
     void FruehereAnsichtClick();
     void SpaetereAnsichtClick();
@@ -249,6 +251,7 @@ class TZrwMainDlg final : public QMainWindow,
     std::unique_ptr<Punktgang> punktgang_;
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Planfaerber> faerber_;
+    std::unique_ptr<Residuenwahl> residuen_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QString titel_;
     QString ordner_;           ///< of the last file

@@ -18,6 +18,7 @@
 #include "ui/aenderungen/Punktversteck.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
+#include "ui/ergebnisse/Residuenwahl.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Aussenhinweis.h"
 #include "ui/fenster/Hauptfenster.h"
@@ -336,6 +337,7 @@ void TZrwMainDlg::StelleSchalter(bool ausBild) {
         if (aktion != nullptr && kSchalter[i].HatMerkmal(kNurBeiAbweichung))
             aktion->setVisible(BlattschnittWeichtAb(programm_.netz));
     }
+    residuen_->UebernimmIn(*plan_.Daten());
 }
 
 void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& datei) {

@@ -8,6 +8,7 @@
 #include "ui/dialoge/TFormHidePunkte.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/Planfaerber.h"
+#include "ui/ergebnisse/Residuenwahl.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Hauptfenster.h"
 #include "ui/fenster/Nummernfeld.h"
@@ -150,6 +151,10 @@ void TZrwMainDlg::NummernZeigenClick() {
 
 void TZrwMainDlg::WaehlePunkt(PunktKnoten& punkt) {
     punktart_->WaehlePunkt(punkt);
+}
+
+void TZrwMainDlg::ErgebnisMassstabClick() {
+    residuen_->OeffneDialog();
 }
 
 void TZrwMainDlg::NummernOrdnenClick() {
