@@ -23,7 +23,8 @@ std::vector<std::string_view> Markiergruende(TDM& daten, std::string_view a, std
         // What is told of points marks no line.
         const auto* suche = std::find_if(kFehlersuchen.begin(), kFehlersuchen.end(),
                                          [&](const Fehlersuche& s) { return s.tabelle == r.tabelle; });
-        if (suche == kFehlersuchen.end() || !daten.Vorhanden(suche->datei)) continue;
+        if (suche == kFehlersuchen.end() || !daten.Vorhanden(suche->datei) || !daten.RaschGefragt(r.tabelle))
+            continue;
         try {
             if (ZaehleMarkierte(daten, r, a, b) > 0) gruende.push_back(r.titel);
         } catch (const Fehler&) {

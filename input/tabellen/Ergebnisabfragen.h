@@ -98,7 +98,7 @@ inline constexpr auto kFehlersuchen = std::to_array<Fehlersuche>({
 class TDM;
 
 /// Which results of the line between two points (UTF-8) are flagged, by the titles of their tabs: what it may
-/// be marked for. Tables that are missing or cannot be read say nothing.
+/// be marked for. Tables that are missing, cannot be read or would take long to read say nothing.
 [[nodiscard]] std::vector<std::string_view> Markiergruende(TDM& daten, std::string_view a,
                                                            std::string_view b);
 

@@ -17,6 +17,8 @@ namespace {
 
 /// Largest table that is read: several million rows.
 constexpr std::size_t kGroessteTabelle = std::size_t{512} << 20U;
+/// Table that is read while nobody waits for it: some thousand rows, about a tenth of a second.
+constexpr std::size_t kKleineTabelle = std::size_t{1} << 20U;
 /// Fields that queries look rows up by.
 constexpr auto kSuchfelder = std::to_array<std::string_view>({"PKT", "P1", "P2", "PS", "PZ", "PA", "PE"});
 
@@ -111,13 +113,20 @@ std::optional<std::filesystem::path> TDM::Datei(Tabelle tabelle) const {
     return dateien_.FindeDatei(ordner_, std::string(Beschreibung(tabelle).name) + ".DB");
 }
 
+bool TDM::RaschGefragt(Tabelle tabelle) const {
+    const auto datei = Datei(tabelle);
+    const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
+    if (!jetzt) return false;
+    const auto& stand = staende_[Nummer(tabelle)];
+    return jetzt->groesse <= kKleineTabelle || (stand && stand->Gilt(*datei, *jetzt));
+}
+
 bool TDM::AktualisiereTabelle(Tabelle tabelle) {
     auto& stand = staende_[Nummer(tabelle)];
     const auto datei = Datei(tabelle);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
     if (!jetzt) return false;
-    if (stand && stand->datei == *datei && (stand->stand == *jetzt || stand->gescheitert == *jetzt))
-        return true;
+    if (stand && stand->Gilt(*datei, *jetzt)) return true;
     try {
         ImportiereTabelle(tabelle, *datei, *jetzt);
     } catch (const Fehler& f) {

@@ -52,6 +52,10 @@ class TDM final : public Punktergebnisse {
     };
     [[nodiscard]] Zeilenzahl ZaehleZeilen(Tabelle tabelle, std::string_view abfrage, std::string_view flag);
 
+    /// Whether a query over a table takes no longer than it should beside another: its file has been read, or
+    /// is small.
+    [[nodiscard]] bool RaschGefragt(Tabelle tabelle) const;
+
     /// What is wrong with the fields that a purpose needs: those that are missing and those that hold
     /// something other than their description says. Empty: nothing. @throws Fehler as `FrageTabelle`
     struct Mangel {
@@ -86,6 +90,11 @@ class TDM final : public Punktergebnisse {
         std::vector<paradox::Feld> felder;
         std::optional<Dateistand> gescheitert;  ///< later state that could not be read
         std::string grund;                      ///< why that, or the last try, failed
+
+        /// There is nothing newer to be read.
+        [[nodiscard]] bool Gilt(const std::filesystem::path& name, const Dateistand& jetzt) const {
+            return datei == name && (stand == jetzt || gescheitert == jetzt);
+        }
     };
     /// Results and the way to them: a picture asks once for every point.
     template <class Wert>
@@ -95,8 +104,8 @@ class TDM final : public Punktergebnisse {
 
         Punkttafel() = default;
         // A copy would point into the results of the other.
-        Punkttafel(Punkttafel&&) = default;
-        Punkttafel& operator=(Punkttafel&&) = default;
+        Punkttafel(Punkttafel&&) noexcept = default;
+        Punkttafel& operator=(Punkttafel&&) noexcept = default;
         Punkttafel(const Punkttafel&) = delete;
         Punkttafel& operator=(const Punkttafel&) = delete;
         ~Punkttafel() = default;

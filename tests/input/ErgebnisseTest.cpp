@@ -262,6 +262,11 @@ TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
     EXPECT_EQ(gruende("7", "6"), (std::vector<std::string_view>{"Linienprüfungen"}));
     EXPECT_EQ(gruende("4", "5"), (std::vector<std::string_view>{"GPS Vektoren"})) << "in either direction";
     EXPECT_TRUE(gruende("2", "3").empty()) << "directions count beside distances";
+    std::string& linien = dateien.dateien["netz/MLTABLE.DB"];
+    EXPECT_TRUE(daten.RaschGefragt(Tabelle::Linien));
+    linien.resize(std::size_t{2} << 20U);
+    EXPECT_TRUE(gruende("7", "6").empty()) << "too large to be read beside";
+    linien.resize(6144);
     EXPECT_TRUE(MarkiereFehler(n.l, daten, n.e).empty());
     EXPECT_EQ(marken(), (std::set{3, 4, 5, 6})) << "no direction without the table of distances";
 

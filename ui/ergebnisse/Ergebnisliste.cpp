@@ -42,7 +42,10 @@ Ergebnisliste::Ergebnisliste(const Programm& programm, const Vorlieben& vorliebe
       gitter_(gitter),
       gegenrichtung_(gegenrichtung),
       meldeTabellen_(std::move(meldeTabellen)) {
-    gitter_.reiterGewechselt = [this] { FuelleReiter(); };
+    gitter_.reiterGewechselt = [this] {
+        FuelleReiter();
+        gitter_.ZeigeZeilenzahlen(ZaehleZeilen());  // its table may have been too large to be read for that
+    };
 }
 
 Ergebnisliste::~Ergebnisliste() {
@@ -87,7 +90,8 @@ std::string Ergebnisliste::Gegenabfrage(const Ergebnisreiter& reiter) const {
     return Abfragetext(reiter.gegen, NachUtf8(erster_), NachUtf8(*zweiter_));
 }
 
-/// One question a tab. What is wrong with a table is told when its own tab is up.
+/// One question a tab; tabs whose large tables nobody has read yet stay unknown. What is wrong with a table
+/// is told when its own tab is up.
 Ergebnisliste::Zahlen Ergebnisliste::ZaehleZeilen() const {
     Zahlen zahlen;
     if (Leer()) return zahlen;
@@ -98,6 +102,8 @@ Ergebnisliste::Zahlen Ergebnisliste::ZaehleZeilen() const {
                 zahl.emplace();
                 continue;
             }
+            // The one that is up is read anyway.
+            if (&r != &gitter_.Reiter() && !programm_.daten.RaschGefragt(r.tabelle)) continue;
             TDM::Zeilenzahl z = programm_.daten.ZaehleZeilen(r.tabelle, Abfrage(r), r.flag);
             const std::string gegen = Gegenabfrage(r);
             if (gegenrichtung_ == Gegenrichtung::Auflisten && !gegen.empty()) {
