@@ -49,6 +49,7 @@ bool LageGegeben(PunktArt art) {
 
 Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, const Vorlieben& vorlieben, QWidget* eltern)
     : programm_(programm),
+      stand_(programm.daten),
       fenster_(new TFormData(programm.sitzung, eltern)),
       liste_(programm, vorlieben, fenster_->Gitter(), Gegenrichtung::Nennen, [this] { MeldeTabellen(); }) {
     // Until a file is opened, beside which they are looked for.
@@ -58,6 +59,7 @@ Ergebnisanzeige::Ergebnisanzeige(const Programm& programm, const Vorlieben& vorl
 void Ergebnisanzeige::VergissNetz() {
     fenster_->hide();
     liste_.LeereListe();
+    stand_.VergissNetz();
 }
 
 bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
@@ -65,6 +67,7 @@ bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
     const std::filesystem::path vorher = programm_.daten.Ordner();
     programm_.daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).lexically_normal().parent_path());
     programm_.zustand.Ergebnisse = &programm_.daten;
+    stand_.OrdnerGewaehlt();
     if (programm_.daten.Ordner() == vorher) return false;
     if (fenster_->isVisible()) liste_.ErneuereListe();
     return true;

@@ -9,6 +9,7 @@
 #include "ui/Programm.h"
 #include "ui/ablage/Vorlieben.h"
 #include "ui/ergebnisse/Ergebnisliste.h"
+#include "ui/ergebnisse/Ergebnisstand.h"
 
 class QWidget;
 
@@ -26,6 +27,8 @@ class Ergebnisanzeige {
     Ergebnisanzeige& operator=(const Ergebnisanzeige&) = delete;
 
     [[nodiscard]] TFormData& Fenster() { return *fenster_; }
+    /// The observations beside the network.
+    [[nodiscard]] Ergebnisstand& Stand() { return stand_; }
     /// The network is about to be replaced.
     void VergissNetz();
     /// Results lie beside the file that was opened or saved last. @return whether that is another folder now
@@ -50,6 +53,7 @@ class Ergebnisanzeige {
     [[nodiscard]] QString Angaben(const Liste& netz, const PunktKante& kante) const;
 
     const Programm& programm_;
+    Ergebnisstand stand_;
     TFormData* fenster_;
     Ergebnisliste liste_;
 };
