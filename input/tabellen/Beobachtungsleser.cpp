@@ -187,6 +187,7 @@ Beobachtungsstand StandDerBeobachtungen(const TDM& daten) {
     Beobachtungsstand stand;
     for (const Leseplan& plan : kLeseplaene)
         stand[static_cast<std::size_t>(plan.gattung)] = daten.StandVon(plan.tabelle);
+    stand.back() = daten.StandVon(Tabelle::Koordinaten);
     return stand;
 }
 

@@ -56,7 +56,7 @@ class Ausgabefelder final : public QWidget {
     void NimmSchalter(Ausgabeauftrag& auftrag) const;
 
     QFormLayout* form_ = nullptr;
-    Planfaerbung faerbung_;  ///< that of the window
+    Planfaerbung faerbung_;    ///< that of the window
     double ellipsenmassstab_;  ///< of the window
     QComboBox* format_ = nullptr;
     QSpinBox* weite_ = nullptr;

@@ -3,19 +3,22 @@
 #include <utility>
 
 #include "ui/Umwandlung.h"
+#include "ui/ergebnisse/Ergebnisstand.h"
 
 namespace zrw {
 
-Planfaerber::Planfaerber(const Programm& programm, Plan& plan, Listenquelle liste,
+Planfaerber::Planfaerber(const Programm& programm, Plan& plan, Ergebnisstand& stand,
                          std::function<void()> zeichneNeu)
-    : programm_(programm), plan_(plan), liste_(std::move(liste)), zeichneNeu_(std::move(zeichneNeu)) {}
+    : programm_(programm), plan_(plan), stand_(stand), zeichneNeu_(std::move(zeichneNeu)) {
+    stand_.BeiAenderung(*this, [this] { ZeichneStile(); });
+}
 
 void Planfaerber::BaueStileNeu() {
     unlesbar_.clear();
     std::shared_ptr<const Figurenstile> stile;
     if (Wahl().Wirkt()) {
         programm_.daten.ErneuereErgebnisse();
-        const auto liste = liste_();
+        const auto liste = stand_.Liste();
         stile = BaueStile(*plan_.Daten(), Wahl(), *liste, &programm_.daten);
         for (const Tabellenlage& lage : liste->tabellen) {
             if (lage.zustand == Lesezustand::Unlesbar && unlesbar_.isEmpty()) unlesbar_ = AusUtf8(lage.grund);
@@ -27,7 +30,7 @@ void Planfaerber::BaueStileNeu() {
 void Planfaerber::WaehleFaerbung(const Planfaerbung& wahl) {
     if (!plan_.Offen()) return;
     plan_.SetzeFaerbung(wahl);
-    TabellenGeaendert();
+    ZeichneStile();
 }
 
 void Planfaerber::NetzGeaendert() {
@@ -36,7 +39,7 @@ void Planfaerber::NetzGeaendert() {
     if (geaendert) geaendert();
 }
 
-void Planfaerber::TabellenGeaendert() {
+void Planfaerber::ZeichneStile() {
     if (!plan_.Offen() || (!Wahl().Wirkt() && plan_.Daten()->Stile == nullptr)) return;
     BaueStileNeu();
     zeichneNeu_();

@@ -3,21 +3,21 @@
 // earlier state stays in the picture.
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <functional>
-#include <memory>
 
 #include "ui/Plan.h"
 #include "ui/Programm.h"
 
 namespace zrw {
 
-class Planfaerber {
-  public:
-    using Listenquelle = std::function<std::shared_ptr<const Beobachtungsliste>()>;
+class Ergebnisstand;
 
-    /// All must outlive it. @param liste the observations as the tables now are, never null
-    Planfaerber(const Programm& programm, Plan& plan, Listenquelle liste, std::function<void()> zeichneNeu);
+class Planfaerber final : public QObject {
+  public:
+    /// All must outlive it.
+    Planfaerber(const Programm& programm, Plan& plan, Ergebnisstand& stand, std::function<void()> zeichneNeu);
 
     /// The choice has changed, or what can be chosen.
     std::function<void()> geaendert;
@@ -26,17 +26,16 @@ class Planfaerber {
     void WaehleFaerbung(const Planfaerbung& wahl);
     /// The network has changed: new styles, but nothing is drawn.
     void NetzGeaendert();
-    /// The tables may have changed: draws anew where the plan is coloured.
-    void TabellenGeaendert();
     /// What the user should know of it; empty: nothing.
     [[nodiscard]] QString Hinweis() const;
 
   private:
     void BaueStileNeu();
+    void ZeichneStile();
 
     const Programm& programm_;
     Plan& plan_;
-    Listenquelle liste_;
+    Ergebnisstand& stand_;
     std::function<void()> zeichneNeu_;
     QString unlesbar_;
 };

@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <string>
 
-#include "input/tabellen/Beobachtungsleser.h"
 #include "model/Zahlentext.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktversteck.h"
@@ -74,16 +73,13 @@ void TZrwMainDlg::BaueSeitenleiste() {
         seitenleiste_);
     zeichen_ = new Zeichenseite(
         programm_, plan_, [this] { return vorlieben_.KantenGlaetten; }, seitenleiste_);
-    faerber_ = std::make_unique<Planfaerber>(
-        programm_, plan_,
-        [this] { return std::make_shared<const Beobachtungsliste>(LiesBeobachtungen(programm_.daten)); },
-        [this] { ZeichneNeu(); });
+    faerber_ =
+        std::make_unique<Planfaerber>(programm_, plan_, ergebnisse_->Stand(), [this] { ZeichneNeu(); });
     farbseite_ = new Farbseite(*faerber_, plan_, seitenleiste_);
     seitenleiste_->NimmSeite(*eigenschaften_, QStringLiteral("Eigenschaften"));
     seitenleiste_->NimmSeite(*zeichen_, QStringLiteral("Linien und Symbole"));
     statistik_ = new Statistikseite(
-        {programm_, plan_,
-         [this] { return std::make_shared<const Beobachtungsliste>(LiesBeobachtungen(programm_.daten)); },
+        {programm_, plan_, ergebnisse_->Stand(),
          [this](const Beobachtung& b) { ZeigePunkt(AusNetz(b.von.Text())); },
          [](const Listenfilter& /*filter*/) {}, [this](PunktIndex nr) { WaehleImBild(nr); },
          [this](const QString& satz) { MeldeErledigt(satz); }},

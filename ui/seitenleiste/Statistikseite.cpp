@@ -12,6 +12,7 @@
 
 #include "model/Fehler.h"
 #include "ui/Umwandlung.h"
+#include "ui/ergebnisse/Ergebnisstand.h"
 #include "ui/ergebnisse/Statistiktext.h"
 #include "ui/seitenleiste/Histogrammfeld.h"
 
@@ -21,6 +22,7 @@ Statistikseite::Statistikseite(Umfeld umfeld, QWidget* eltern)
     : QWidget(eltern), u_(std::move(umfeld)), liste_(std::make_shared<Beobachtungsliste>()) {
     setObjectName(QStringLiteral("StatistikSeite"));
     BaueFelder();
+    u_.stand.BeiAenderung(*this, [this] { ErneuereStatistik(); });
 }
 
 void Statistikseite::BaueFelder() {
@@ -80,7 +82,7 @@ const Punktergebnisse* Statistikseite::Ergebnisse() const {
 void Statistikseite::ErneuereStatistik() {
     if (!isVisible()) return;
     if (!u_.plan.Offen()) return text_->setHtml(QStringLiteral("<p>Es ist kein Netz geöffnet.</p>"));
-    liste_ = u_.liste();
+    liste_ = u_.stand.Liste();
     text_->setHtml(Statistiktext(*liste_, *u_.plan.Daten(), Ergebnisse(), grenze_->value()));
     ZeigeBilder();
 }

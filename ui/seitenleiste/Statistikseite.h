@@ -16,6 +16,7 @@ class QTextBrowser;
 
 namespace zrw {
 
+class Ergebnisstand;
 class Histogrammfeld;
 struct Statistikbild;
 
@@ -25,8 +26,7 @@ class Statistikseite final : public QWidget {
     struct Umfeld {
         const Programm& programm;
         const Plan& plan;
-        std::function<std::shared_ptr<const Beobachtungsliste>()>
-            liste;  ///< as the tables now are, never null
+        Ergebnisstand& stand;
         std::function<void(const Beobachtung&)> zeigeBeobachtung;
         std::function<void(const Listenfilter&)> filtereListe;
         std::function<void(PunktIndex)> waehlePunkt;
