@@ -152,20 +152,36 @@ QString Unlesbare(const Beobachtungsliste& liste) {
     return text;
 }
 
-}  // namespace
+/// The text in its parts: one below the other, or side by side on paper.
+struct Abschnitte {
+    QString zahlen;
+    QString auffaelligste;  ///< empty without any table
+    QString punkte;
+};
 
-QString Statistiktext(const Beobachtungsliste& liste, const Liste& netz, const Punktergebnisse* ergebnisse,
-                      double grenze) {
+Abschnitte BaueAbschnitte(const Beobachtungsliste& liste, const Liste& netz,
+                          const Punktergebnisse* ergebnisse, double grenze) {
     std::vector<Gattungsstatistik> alle;
     for (const Beobachtungsgattung& g : kBeobachtungsgattungen) {
         if (liste.Lage(g.tabelle).zustand == Lesezustand::Gelesen)
             alle.push_back(Zaehle(liste, g.tabelle, grenze));
     }
     if (alle.empty())
-        return QStringLiteral("<p>Beim Netz liegen keine Tabellen mit Beobachtungen.</p>") + Unlesbare(liste);
-    return Unlesbare(liste) + Anzahlen(liste, alle) + QStringLiteral("<br>") + Anteile(alle, grenze) +
-           QStringLiteral("<h4>Die größten Testgrößen</h4>") + Auffaelligste(liste, alle) +
-           Punkte(netz, ergebnisse);
+        return {
+            QStringLiteral("<p>Beim Netz liegen keine Tabellen mit Beobachtungen.</p>") + Unlesbare(liste),
+            {},
+            {}};
+    return {Unlesbare(liste) + Anzahlen(liste, alle) + QStringLiteral("<br>") + Anteile(alle, grenze),
+            QStringLiteral("<h4>Die größten Testgrößen</h4>") + Auffaelligste(liste, alle),
+            Punkte(netz, ergebnisse)};
+}
+
+}  // namespace
+
+QString Statistiktext(const Beobachtungsliste& liste, const Liste& netz, const Punktergebnisse* ergebnisse,
+                      double grenze) {
+    const Abschnitte a = BaueAbschnitte(liste, netz, ergebnisse, grenze);
+    return a.zahlen + a.auffaelligste + a.punkte;
 }
 
 std::string Statistikblatt(const QString& titel, const Beobachtungsliste& liste, const Liste& netz,
@@ -186,13 +202,16 @@ std::string Statistikblatt(const QString& titel, const Beobachtungsliste& liste,
         const QSizeF seite = QSizeF(blatt.width(), blatt.height()) * (kPunktJeZoll / kDpi);
         constexpr double kBildhoehe = 130;
         constexpr double kAbstand = 8;
+        constexpr int kSchrift = 8;
         QTextDocument text;
         QFont schrift(QStringLiteral("Liberation Sans"));
-        schrift.setPointSizeF(7.5);
+        schrift.setPixelSize(kSchrift);
         text.setDefaultFont(schrift);
         text.setDefaultStyleSheet(QStringLiteral("a { color: black; text-decoration: none }"));
-        text.setHtml(QStringLiteral("<h3>%1</h3>").arg(titel.toHtmlEscaped()) +
-                     Statistiktext(liste, netz, ergebnisse, grenze));
+        const Abschnitte a = BaueAbschnitte(liste, netz, ergebnisse, grenze);
+        text.setHtml(
+            QStringLiteral("<h3>%1</h3><table width=100%><tr><td>%2<br>%3</td><td>%4</td></tr></table>")
+                .arg(titel.toHtmlEscaped(), a.zahlen, a.punkte, a.auffaelligste));
         text.setTextWidth(seite.width());
         const double platz = seite.height() - kBildhoehe - kAbstand;
         // One page: a long text becomes smaller instead of running out of it.
