@@ -1,30 +1,20 @@
-// A quiet bar over the picture that says how many points lie outside it, and offers to fit them in.
+// Says how many points lie outside the picture, and offers to fit them in.
 #pragma once
 
-#include <QFrame>
 #include <functional>
 
 #include "ui/bild/Planbild.h"
-
-class QLabel;
+#include "ui/fenster/Bildhinweis.h"
 
 namespace zrw {
 
-class Aussenhinweis final : public QFrame {
+class Aussenhinweis final : public Bildhinweis {
   public:
-    /// @param bild which it lies over, at the top
     explicit Aussenhinweis(QWidget* bild);
 
     /// Goes where all points are inside.
     void ZeigeAnzahl(const Planbild::Punktzahl& zahl);
     std::function<void()> einpassen;
-
-    bool eventFilter(QObject* empfaenger, QEvent* ereignis) override;
-
-  private:
-    void StelleAuf();
-
-    QLabel* text_;
 };
 
 }  // namespace zrw
