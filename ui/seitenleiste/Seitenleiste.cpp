@@ -2,6 +2,7 @@
 
 #include <QTabBar>
 #include <QTabWidget>
+#include <algorithm>
 
 namespace zrw {
 namespace {
@@ -27,12 +28,21 @@ Seitenleiste::Seitenleiste(Bildfach& fach)
     reiter_->setObjectName(QStringLiteral("SeitenReiter"));
     reiter_->tabBar()->setAccessibleName(QStringLiteral("Seiten der Seitenleiste"));
     setWidget(reiter_);
+    connect(reiter_, &QTabWidget::currentChanged, this, [this] { GibWeite(); });
     fach.addDockWidget(Qt::RightDockWidgetArea, this);
     hide();
 }
 
-void Seitenleiste::NimmSeite(QWidget& seite, const QString& titel) {
+void Seitenleiste::NimmSeite(QWidget& seite, const QString& titel, int weite) {
+    if (weite > 0) weiten_.insert(&seite, weite);
     reiter_->addTab(&seite, titel);
+}
+
+/// Once, and never more than half: afterwards it is the user's.
+void Seitenleiste::GibWeite() {
+    if (!isVisible()) return;
+    const int weite = std::min(weiten_.take(reiter_->currentWidget()), fach_.width() / 2);
+    if (weite > width() && !isFloating()) fach_.resizeDocks({this}, {weite}, Qt::Horizontal);
 }
 
 void Seitenleiste::ZeigeSeite(QWidget& seite) {

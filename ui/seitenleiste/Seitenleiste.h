@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDockWidget>
+#include <QHash>
 #include <QMainWindow>
 
 #include "ui/ablage/Sitzung.h"
@@ -21,7 +22,8 @@ class Seitenleiste final : public QDockWidget {
   public:
     explicit Seitenleiste(Bildfach& fach);
 
-    void NimmSeite(QWidget& seite, const QString& titel);
+    /// @param weite the bar gets when the page is up for the first time [px]; 0: that it has
+    void NimmSeite(QWidget& seite, const QString& titel, int weite = 0);
     /// Opens the side bar at this page.
     void ZeigeSeite(QWidget& seite);
     // After all pages are in it; before the window is hidden.
@@ -29,7 +31,10 @@ class Seitenleiste final : public QDockWidget {
     void MerkeStand(Sitzung& sitzung) const;
 
   private:
+    void GibWeite();
+
     Bildfach& fach_;
+    QHash<QWidget*, int> weiten_;  ///< of pages that have not been up yet
     QTabWidget* reiter_;
 };
 
