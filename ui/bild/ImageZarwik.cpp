@@ -71,6 +71,7 @@ void ImageZarwik::paintEvent(QPaintEvent* /*ereignis*/) {
         // The window has come to another screen.
         QTimer::singleShot(0, this, [this] { MeldeGroesse(); });
     }
+    if (hof_ && versatz_.isNull()) hof_(maler);
     Malerflaeche flaeche(maler, {0, 0, width() - 1, height() - 1},
                          Bildschrift(flaeche_.Planschrift(), 1.0, glatt_));
     flaeche.SetzeGlatt(glatt_);

@@ -37,6 +37,8 @@ class ImageZarwik final : public QWidget {
     void SetzeUeberlagerung(std::function<void(Zeichenflaeche&)> ueberlagerung) {
         ueberlagerung_ = std::move(ueberlagerung);
     }
+    /// Paints softly right over the picture, below all else; left out while the picture is shifted.
+    void SetzeHof(std::function<void(QPainter&)> hof) { hof_ = std::move(hof); }
     /// Preview and what lies over the picture have smooth edges.
     void SetzeGlatt(bool glatt);
     /// Shows the picture shifted, while it is being dragged.
@@ -66,6 +68,7 @@ class ImageZarwik final : public QWidget {
     bool glatt_ = false;
     std::function<void(Zeichenflaeche&)> vorschau_;
     std::function<void(Zeichenflaeche&)> ueberlagerung_;
+    std::function<void(QPainter&)> hof_;
     QString figurtext_;
     int radrest_ = 0;  ///< fine wheels report parts of a step
 };

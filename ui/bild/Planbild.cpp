@@ -1,6 +1,7 @@
 #include "ui/bild/Planbild.h"
 
 #include <QScopedValueRollback>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -250,6 +251,21 @@ void Planbild::SetzeEingepasst() {
 
 void Planbild::ZoomeAuf(Bildpunkt a, Bildpunkt b) {
     ZoomeAuf(plan_.Daten()->Ausschnitt(a, b));
+}
+
+void Planbild::ZoomeAufOrte(Welt a, Welt b) {
+    // On every side half of what lies between them.
+    const double rand = std::max(std::fabs(a.rechts - b.rechts), std::fabs(a.hoch - b.hoch)) / 2.0;
+    Weltkasten kasten;
+    kasten.NimmOrt(std::min(a.rechts, b.rechts) - rand, std::min(a.hoch, b.hoch) - rand);
+    kasten.NimmOrt(std::max(a.rechts, b.rechts) + rand, std::max(a.hoch, b.hoch) + rand);
+    if (!(rand > 0.0) || kasten.Leer()) return SetzeMitte(a);
+    const Bildlage lage = plan_.Daten()->Eingepasst(kasten);
+    if (ErlaubteLage(lage)) {
+        ZoomeAuf(lage);
+    } else {
+        SetzeMitte({(a.rechts + b.rechts) / 2.0, (a.hoch + b.hoch) / 2.0});
+    }
 }
 
 /// With a way back.

@@ -86,6 +86,8 @@ class Planbild {
     void SetzeEingepasst();
     /// Brings a place into the middle, with a way back.
     void SetzeMitte(Welt ort);
+    /// Both places in the picture with room round them, with a way back; one alone in the middle.
+    void ZoomeAufOrte(Welt a, Welt b);
     /// Fills the picture with a rectangle of it, given by two corners.
     void ZoomeAuf(Bildpunkt a, Bildpunkt b);
     /// One step in about a position, with a way back.

@@ -65,6 +65,13 @@ void Auswahl::WaehlePunkt(PunktKnoten& punkt) {
     MeldeAuswahl();
 }
 
+void Auswahl::WaehleKante(PunktKante& kante) {
+    punkte_.clear();
+    kante_ = &kante;
+    MeldeWechsel();
+    MeldeAuswahl();
+}
+
 void Auswahl::MeldeWechsel() {
     umgebung_.UeberlagerungGeaendert();
     if (gewechselt) gewechselt();

@@ -25,6 +25,8 @@ class Auswahl final : public Werkzeug {
     bool WaehleBei(Bildpunkt ort);
     /// Just this point.
     void WaehlePunkt(PunktKnoten& punkt);
+    /// Just this line.
+    void WaehleKante(PunktKante& kante);
     void LeereAuswahl();
     void ZeichneAuswahl(Zeichenflaeche& flaeche) const;
 
