@@ -1,0 +1,40 @@
+// The fields above the list of observations that say which rows are shown.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+#include "model/ergebnisse/Listenordnung.h"
+
+class QCheckBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QLineEdit;
+
+namespace zrw {
+
+class Beobachtungsfilter final : public QWidget {
+  public:
+    explicit Beobachtungsfilter(QWidget* eltern);
+
+    [[nodiscard]] Listenfilter Filter() const;
+    /// Says another filter now; what is being typed is waited for.
+    std::function<void()> geaendert;
+
+  private:
+    void BaueFelder();
+    [[nodiscard]] QLineEdit* NeuesFeld(const QString& name, const QString& platzhalter,
+                                       const QString& hinweis);
+
+    QCheckBox* markierte_;
+    QCheckBox* unkontrollierte_;
+    QCheckBox* ueberTG_;
+    QDoubleSpinBox* grenze_;
+    QComboBox* gattung_;
+    QLineEdit* punkt_;
+    QLineEdit* suche_;
+    QTimer tippen_;
+};
+
+}  // namespace zrw
