@@ -24,6 +24,7 @@
 #include "ui/dialoge/TFormHidePunkte.h"
 #include "ui/dialoge/TFormPunktart.h"
 #include "ui/dialoge/TZRWLBLForm.h"
+#include "ui/ergebnisse/Beobachtungsanzeige.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/Ergebnisgitter.h"
 #include "ui/ergebnisse/Planfaerber.h"

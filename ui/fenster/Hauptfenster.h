@@ -28,6 +28,7 @@ namespace zrw {
 
 class Aktionen;
 class Aussenhinweis;
+class Beobachtungsanzeige;
 struct Befehl;
 class Bildfach;
 class Eigenschaftsseite;
@@ -108,6 +109,9 @@ class TZrwMainDlg final : public QMainWindow,
     void SeitenleisteClick();
     void EinfaerbenClick();  ///< lines and points in classes of a result
     void StatistikClick();
+    void BeobachtungenClick();
+    void NaechsterFehlerClick();
+    void VorigerFehlerClick();
     void LoeseWerkzeuge();
     void Rueckgaengig();
     void WiederholeSchritt();
@@ -252,6 +256,7 @@ class TZrwMainDlg final : public QMainWindow,
     std::unique_ptr<Ergebnisanzeige> ergebnisse_;
     std::unique_ptr<Planfaerber> faerber_;
     std::unique_ptr<Residuenwahl> residuen_;
+    std::unique_ptr<Beobachtungsanzeige> beobachtungen_;
     std::unique_ptr<Hilfefenster> hilfe_;  ///< made when it is first needed
     QString titel_;
     QString ordner_;           ///< of the last file

@@ -8,6 +8,7 @@
 #include "ui/aenderungen/Punktversteck.h"
 #include "ui/bild/Figurentext.h"
 #include "ui/bild/Schwebekarte.h"
+#include "ui/ergebnisse/Beobachtungsanzeige.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/Ergebnisgitter.h"
 #include "ui/ergebnisse/Planfaerber.h"
@@ -78,15 +79,28 @@ void TZrwMainDlg::BaueSeitenleiste() {
     farbseite_ = new Farbseite(*faerber_, plan_, seitenleiste_);
     seitenleiste_->NimmSeite(*eigenschaften_, QStringLiteral("Eigenschaften"));
     seitenleiste_->NimmSeite(*zeichen_, QStringLiteral("Linien und Symbole"));
+    beobachtungen_ = std::make_unique<Beobachtungsanzeige>(
+        Beobachtungsanzeige::Umfeld{programm_, plan_, planbild_, werkzeuge_.Ausgewaehlt(),
+                                    ergebnisse_->Stand(), *bild_, [this] { LoeseWerkzeuge(); },
+                                    [this](const QString& satz) { MeldeErledigt(satz); }},
+        this);
+    constexpr int kBisTestgroesse = 620;  // [px]
+    seitenleiste_->NimmSeite(beobachtungen_->Seite(), QStringLiteral("Beobachtungen"), kBisTestgroesse);
     statistik_ = new Statistikseite(
         {programm_, plan_, ergebnisse_->Stand(),
-         [this](const Beobachtung& b) { ZeigePunkt(AusNetz(b.von.Text())); },
-         [](const Listenfilter& /*filter*/) {}, [this](PunktIndex nr) { WaehleImBild(nr); },
-         [this](const QString& satz) { MeldeErledigt(satz); }},
+         [this](const Beobachtung& b) { beobachtungen_->ZeigeBeobachtung(b, {}); },
+         [this](const Listenfilter& filter) {
+             beobachtungen_->Seite().SchraenkeEin(filter);
+             seitenleiste_->ZeigeSeite(beobachtungen_->Seite());
+         },
+         [this](PunktIndex nr) { WaehleImBild(nr); }, [this](const QString& satz) { MeldeErledigt(satz); }},
         seitenleiste_);
     seitenleiste_->NimmSeite(*farbseite_, QStringLiteral("Einfärben"));
     seitenleiste_->NimmSeite(*statistik_, QStringLiteral("Statistik"));
-    werkzeuge_.Ausgewaehlt().gewechselt = [this] { eigenschaften_->ZeigeAuswahl(); };
+    werkzeuge_.Ausgewaehlt().gewechselt = [this] {
+        eigenschaften_->ZeigeAuswahl();
+        beobachtungen_->AuswahlGewechselt();
+    };
     seitenleiste_->LadeStand(programm_.sitzung);
     QAction& aktion = aktionen_->NachName("SeitenLeiste");
     aktion.setChecked(!seitenleiste_->isHidden());
@@ -95,6 +109,18 @@ void TZrwMainDlg::BaueSeitenleiste() {
 
 void TZrwMainDlg::SeitenleisteClick() {
     seitenleiste_->setVisible(aktionen_->NachName("SeitenLeiste").isChecked());
+}
+
+void TZrwMainDlg::BeobachtungenClick() {
+    beobachtungen_->ZeigeFenster();
+}
+
+void TZrwMainDlg::NaechsterFehlerClick() {
+    beobachtungen_->GeheZuFehler(true);
+}
+
+void TZrwMainDlg::VorigerFehlerClick() {
+    beobachtungen_->GeheZuFehler(false);
 }
 
 void TZrwMainDlg::EinfaerbenClick() {

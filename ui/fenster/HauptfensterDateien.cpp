@@ -17,6 +17,7 @@
 #include "ui/aenderungen/Punktartwahl.h"
 #include "ui/aenderungen/Punktversteck.h"
 #include "ui/dialoge/TFormHiddenPkt.h"
+#include "ui/ergebnisse/Beobachtungsanzeige.h"
 #include "ui/ergebnisse/Ergebnisanzeige.h"
 #include "ui/ergebnisse/Residuenwahl.h"
 #include "ui/fenster/Aktionen.h"
@@ -371,18 +372,19 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     if (plan_.Daten()->PunktKnoten != nullptr || IstBilddatei(datei))
         programm_.sitzung.NimmDatei(info.absoluteFilePath());
     programm_.sitzung.MerkeOrdner(ordner_);
-    QStringList status(QStringLiteral("%1: %2 Punkte, %3 Linien")
-                           .arg(info.fileName())
-                           .arg(plan_.Daten()->MaxPkte)
-                           .arg(plan_.Daten()->MaxKant));
-    status << AusUtf8(Statustext(lesung.bericht))
+    // A picture file carries its marks.
+    if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
+    QStringList status(beobachtungen_->NetzGeoeffnet(!IstBilddatei(datei)));
+    status << QStringLiteral("%1: %2 Punkte, %3 Linien")
+                  .arg(info.fileName())
+                  .arg(plan_.Daten()->MaxPkte)
+                  .arg(plan_.Daten()->MaxKant)
+           << AusUtf8(Statustext(lesung.bericht))
            << AusUtf8(Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand));
     status.removeAll(QString());
     ZeigeStatus(status.join(QStringLiteral("; ")));
     // A mode that was chosen before there was a network.
     if (Werkzeug* werkzeug = werkzeuge_.Aktiv(); werkzeug != nullptr) werkzeug->BeginneWerkzeug();
-    // A picture file carries its marks.
-    if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
     // A picture file keeps the view that it was saved with.
     if (vorlieben_.EinpassenNachOeffnen && !IstBilddatei(datei)) planbild_.SetzeEingepasst();
     ZeichneNeu();
