@@ -10,17 +10,30 @@ namespace {
 /// What a row is compared by: numbers and texts in one.
 struct Ordnungswert {
     double zahl = 0.0;
+    std::uint64_t anfang = 0;  ///< of the text: most differ there, and the row need not be fetched
     std::string_view text{};
     bool fehlt = false;
 };
+
+/// The first eight bytes as a number of the same order, short texts filled up with zeros.
+std::uint64_t Textanfang(std::string_view text) {
+    std::uint64_t anfang = 0;
+    for (std::size_t i = 0; i < sizeof anfang; ++i)
+        anfang = anfang << 8U | (i < text.size() ? static_cast<unsigned char>(text[i]) : 0U);
+    return anfang;
+}
+
+Ordnungswert TextwertVon(const PunktNummernTyp& nummer) {
+    return {.anfang = Textanfang(nummer.Text()), .text = nummer.Text(), .fehlt = nummer.Leer()};
+}
 
 Ordnungswert OrdnungswertVon(const Beobachtung& b, const Listenordnung& o) {
     if (const auto& wert = kListenspalten[static_cast<std::size_t>(o.spalte)].wert) {
         const double zahl = b.Wert(*wert);
         return {.zahl = o.betrag ? std::fabs(zahl) : zahl, .fehlt = std::isnan(zahl)};
     }
-    if (o.spalte == Listenspalte::Von) return {.text = b.von.Text(), .fehlt = b.von.Leer()};
-    if (o.spalte == Listenspalte::Nach) return {.text = b.nach.Text(), .fehlt = b.nach.Leer()};
+    if (o.spalte == Listenspalte::Von) return TextwertVon(b.von);
+    if (o.spalte == Listenspalte::Nach) return TextwertVon(b.nach);
     if (o.spalte == Listenspalte::ID) return {.zahl = static_cast<double>(b.id), .fehlt = !b.idBekannt};
     if (o.spalte == Listenspalte::FF) return {.zahl = b.ff ? 1.0 : 0.0};
     if (o.spalte == Listenspalte::NK) return {.zahl = b.nk ? 1.0 : 0.0};
@@ -65,6 +78,7 @@ std::vector<std::uint32_t> OrdneZeilen(const Beobachtungsliste& liste, const Lis
         if (a.wert.fehlt != b.wert.fehlt) return b.wert.fehlt;
         if (!a.wert.fehlt) {
             if (a.wert.zahl != b.wert.zahl) return (a.wert.zahl < b.wert.zahl) != o.fallend;
+            if (a.wert.anfang != b.wert.anfang) return (a.wert.anfang < b.wert.anfang) != o.fallend;
             if (a.wert.text != b.wert.text) return (a.wert.text < b.wert.text) != o.fallend;
         }
         const Beobachtung& x = liste.zeilen[a.zeile];
