@@ -203,7 +203,6 @@ TEST_F(Beobachtungsprobe, FolgtDenDateien) {
     std::filesystem::copy(ZRW_QUELLE "/beispiele/RTGTABLE.DB", ordner.path().toStdString(),
                           std::filesystem::copy_options::overwrite_existing);
     ASSERT_TRUE(QTest::qWaitFor([&] { return Liste().model()->rowCount() == vorher; }));
-    LegeDateiAn("unter.EIN", "");
     QDir(ordner.path()).mkdir("leer");
     LegeDateiAn("leer/a.EIN", "$NT 3\n$FP A              1         1000         1000\n$$$\n");
     dialoge.antwort = false;

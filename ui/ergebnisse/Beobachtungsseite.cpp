@@ -73,11 +73,12 @@ void Beobachtungsseite::BaueTabelle() {
     // The order that the model begins with; the largest first is what everybody looks for.
     tabelle_->horizontalHeader()->setSortIndicator(static_cast<int>(Listenspalte::TG), Qt::DescendingOrder);
     tabelle_->setSortingEnabled(true);
+    QFont fett = tabelle_->font();  // as flagged rows are
+    fett.setBold(true);
     for (std::size_t s = 0; s < kMuster.size(); ++s) {
-        constexpr int kLuft = 18;
+        constexpr int kLuft = 14;
         const QString muster = QString::fromUtf8(kMuster[s]);
-        tabelle_->setColumnWidth(static_cast<int>(s),
-                                 tabelle_->fontMetrics().horizontalAdvance(muster) + kLuft);
+        tabelle_->setColumnWidth(static_cast<int>(s), QFontMetrics(fett).horizontalAdvance(muster) + kLuft);
     }
     connect(&modell_, &QAbstractItemModel::modelAboutToBeReset, this,
             [this] { gemerkt_ = GewaehlteStellen(); });
