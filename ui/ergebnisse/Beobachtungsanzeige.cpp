@@ -54,7 +54,7 @@ void Beobachtungsanzeige::ZeigeFenster() {
         spalte->setContentsMargins(6, 6, 6, 6);
         spalte->addWidget(fensterseite_);
         new Fensterort(*fenster_, Rand::RechtsUnten);
-        if (!fenster_->restoreGeometry(u_.programm.sitzung.Stand(kFensterort))) fenster_->resize(1080, 420);
+        if (!fenster_->restoreGeometry(u_.programm.sitzung.Stand(kFensterort))) fenster_->resize(1180, 420);
     }
     fenster_->show();
     fenster_->raise();

@@ -26,9 +26,20 @@ namespace {
 constexpr int kMeisteBereiche = 500;
 
 /// Widths that fit what usually stands in the columns: looking at all rows would take too long.
-constexpr std::array<const char*, kListenspalten.size()> kMuster{
-    "Höhenunterschied", "00000",  "NB000000", "NB000000", "-00000.0000", "-0000.000", "-00.00", "0.00",
-    "-000.0",           "0000.0", "000.0",    "000.0",    "● FF",        "NK"};
+constexpr std::array<const char*, kListenspalten.size()> kMuster{"Höhenunterschied",
+                                                                 "00000",
+                                                                 "00000000000000",
+                                                                 "00000000000000",
+                                                                 "-00000.0000",
+                                                                 "-0000.000",
+                                                                 "-00.00",
+                                                                 "0.00",
+                                                                 "-0000.00",
+                                                                 "0000.00",
+                                                                 "-0000.00",
+                                                                 "0000.00",
+                                                                 "● FF",
+                                                                 "NK"};
 
 }  // namespace
 

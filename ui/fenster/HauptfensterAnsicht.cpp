@@ -84,7 +84,7 @@ void TZrwMainDlg::BaueSeitenleiste() {
                                     ergebnisse_->Stand(), *bild_, [this] { LoeseWerkzeuge(); },
                                     [this](const QString& satz) { MeldeErledigt(satz); }},
         this);
-    constexpr int kBisTestgroesse = 650;  // [px]
+    constexpr int kBisTestgroesse = 720;  // [px]
     seitenleiste_->NimmSeite(beobachtungen_->Seite(), QStringLiteral("Beobachtungen"), kBisTestgroesse);
     statistik_ = new Statistikseite(
         {programm_, plan_, ergebnisse_->Stand(),
