@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTextBrowser>
 
 #include "input/Systemdateien.h"
@@ -111,6 +112,16 @@ TEST_F(Einfaerben, StatistikAlsSeiteUndBlatt) {
     const std::string pdf = Systemdateien().LiesDatei(ordner.filePath("blatt.pdf").toStdString(), SIZE_MAX);
     EXPECT_TRUE(pdf.starts_with("%PDF"));
     EXPECT_NE(pdf.find("/Count 1"), std::string::npos) << "one page";
+    // The last bar of the test values: its rows in the list, until its button is clicked.
+    auto& bild = Kind<QWidget>("TestgroessenBild");
+    QTest::mouseClick(&bild, Qt::LeftButton, {}, QPoint(bild.width() * 5 / 8, bild.height() / 2));
+    auto& knopf = Kind<QPushButton>("FilterBereich");
+    EXPECT_TRUE(knopf.isVisible());
+    EXPECT_TRUE(knopf.text().startsWith("TG von 3 bis 3.25")) << knopf.text().toStdString();
+    const auto& tabelle = Kind<QTableView>("BeobachtungsTabelle");
+    EXPECT_EQ(tabelle.model()->rowCount(), 2);
+    knopf.click();
+    EXPECT_EQ(tabelle.model()->rowCount(), 937);
 }
 
 }  // namespace

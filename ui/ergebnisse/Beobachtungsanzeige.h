@@ -40,6 +40,8 @@ class Beobachtungsanzeige {
     [[nodiscard]] Beobachtungsseite& Seite() { return *seite_; }
     /// The list in a window of its own.
     void ZeigeFenster();
+    /// Brings an observation into the picture and selects it there. @param vorsatz said before what it is
+    void ZeigeBeobachtung(const Beobachtung& b, const QString& vorsatz);
     /// Shows the next observation that is flagged as a gross error, or the one before.
     void GeheZuFehler(bool vor);
     /// Something else is selected in the picture.
@@ -50,7 +52,6 @@ class Beobachtungsanzeige {
 
   private:
     [[nodiscard]] Beobachtungsseite* NeueSeite(QWidget* eltern);
-    void ZeigeBeobachtung(const Beobachtung& b, const QString& vorsatz);
     void FolgeAuswahl(Beobachtungsseite& seite) const;
 
     Umfeld u_;

@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
+#include <algorithm>
 
 #include "ui/Nummernmuster.h"
 #include "ui/Umwandlung.h"
@@ -30,6 +32,8 @@ Teil* Benannt(Teil* teil, const QString& name, const QString& hinweis) {
 
 Beobachtungsfilter::Beobachtungsfilter(QWidget* eltern)
     : QWidget(eltern),
+      bereichsknopf_(Benannt(new QPushButton(this), QStringLiteral("FilterBereich"),
+                             QStringLiteral("Zeigt wieder Beobachtungen mit anderen Werten"))),
       markierte_(Benannt(new QCheckBox(QStringLiteral("nur markierte"), this), QStringLiteral("NurMarkierte"),
                          QStringLiteral("Nur Beobachtungen, die als grober Fehler gekennzeichnet sind"))),
       unkontrollierte_(Benannt(new QCheckBox(QStringLiteral("nur unkontrollierte"), this),
@@ -55,6 +59,7 @@ Beobachtungsfilter::Beobachtungsfilter(QWidget* eltern)
     for (QCheckBox* kasten : {markierte_, unkontrollierte_, ueberTG_})
         connect(kasten, &QCheckBox::toggled, this, melde);
     connect(gattung_, &QComboBox::currentIndexChanged, this, melde);
+    connect(bereichsknopf_, &QPushButton::clicked, this, [this] { SetzeAusschnitt({}); });
     connect(grenze_, &QDoubleSpinBox::valueChanged, &tippen_, qOverload<>(&QTimer::start));
     for (QLineEdit* feld : {punkt_, suche_})
         connect(feld, &QLineEdit::textChanged, &tippen_, qOverload<>(&QTimer::start));
@@ -94,12 +99,35 @@ void Beobachtungsfilter::BaueFelder() {
     felder->addWidget(gattung_, 1, 1);
     felder->addWidget(punkt_, 2, 0);
     felder->addWidget(suche_, 2, 1);
+    felder->addWidget(bereichsknopf_, 3, 0, 1, 2, Qt::AlignLeft);
+    bereichsknopf_->hide();
     for (int reihe = 0; reihe < 3; ++reihe)
         felder->setRowMinimumHeight(reihe, grenze_->sizeHint().height());
 }
 
+void Beobachtungsfilter::SetzeAusschnitt(const Listenfilter& filter) {
+    bereich_ = filter.bereich;
+    bereichsknopf_->setVisible(bereich_.has_value());
+    if (bereich_) {
+        bereichsknopf_->setText(QStringLiteral("%1 von %2 bis %3   ✕")
+                                    .arg(AusUtf8(ZurSpalte(bereich_->wert).name),
+                                         QString::number(bereich_->von, 'g', 3),
+                                         QString::number(bereich_->bis, 'g', 3)));
+    }
+    const auto eine = std::count(filter.gattungen.begin(), filter.gattungen.end(), true) == 1;
+    const auto stelle = std::find(filter.gattungen.begin(), filter.gattungen.end(), true);
+    gattung_->setCurrentIndex(eine ? static_cast<int>(stelle - filter.gattungen.begin()) + 1 : 0);
+    for (QCheckBox* kasten : {markierte_, unkontrollierte_, ueberTG_})
+        kasten->setChecked(false);
+    punkt_->clear();
+    suche_->clear();
+    tippen_.stop();
+    if (geaendert) geaendert();
+}
+
 Listenfilter Beobachtungsfilter::Filter() const {
     Listenfilter f;
+    f.bereich = bereich_;
     f.nurMarkierte = markierte_->isChecked();
     f.nurUnkontrollierte = unkontrollierte_->isChecked();
     if (ueberTG_->isChecked()) f.ueberTG = grenze_->value();

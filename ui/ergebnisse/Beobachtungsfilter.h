@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "model/ergebnisse/Listenordnung.h"
 
@@ -11,6 +12,7 @@ class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QLineEdit;
+class QPushButton;
 
 namespace zrw {
 
@@ -19,6 +21,8 @@ class Beobachtungsfilter final : public QWidget {
     explicit Beobachtungsfilter(QWidget* eltern);
 
     [[nodiscard]] Listenfilter Filter() const;
+    /// Part of a column, and kinds: what else was chosen goes.
+    void SetzeAusschnitt(const Listenfilter& filter);
     /// Says another filter now; what is being typed is waited for.
     std::function<void()> geaendert;
 
@@ -27,6 +31,8 @@ class Beobachtungsfilter final : public QWidget {
     [[nodiscard]] QLineEdit* NeuesFeld(const QString& name, const QString& platzhalter,
                                        const QString& hinweis);
 
+    std::optional<Listenfilter::Bereich> bereich_;
+    QPushButton* bereichsknopf_;  ///< says which, and takes it away; hidden without one
     QCheckBox* markierte_;
     QCheckBox* unkontrollierte_;
     QCheckBox* ueberTG_;

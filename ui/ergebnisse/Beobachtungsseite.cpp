@@ -165,6 +165,10 @@ std::vector<bool> Beobachtungsseite::GewaehlteStellen() const {
     return stellen;
 }
 
+void Beobachtungsseite::SchraenkeEin(const Listenfilter& filter) {
+    filter_->SetzeAusschnitt(filter);
+}
+
 void Beobachtungsseite::WaehleZeilen(const std::function<bool(const Beobachtung&)>& gemeint) {
     std::vector<bool> stellen(modell_.Liste().zeilen.size(), false);
     for (int zeile = 0; zeile < modell_.rowCount(); ++zeile)

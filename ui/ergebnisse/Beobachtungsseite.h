@@ -35,6 +35,8 @@ class Beobachtungsseite final : public QWidget {
     };
     Beobachtungsseite(Umfeld umfeld, QWidget* eltern);
 
+    /// Shows the rows of this part of a column, of these kinds, and nothing else.
+    void SchraenkeEin(const Listenfilter& filter);
     /// Selects the rows that are meant and brings the first into sight; rows that are not shown stay out.
     void WaehleZeilen(const std::function<bool(const Beobachtung&)>& gemeint);
 
