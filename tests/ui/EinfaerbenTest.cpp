@@ -113,8 +113,8 @@ TEST_F(Einfaerben, StatistikAlsSeiteUndBlatt) {
     EXPECT_TRUE(pdf.starts_with("%PDF"));
     EXPECT_NE(pdf.find("/Count 1"), std::string::npos) << "one page";
     // The last bar of the test values: its rows in the list, until its button is clicked.
-    auto& bild = Kind<QWidget>("TestgroessenBild");
-    QTest::mouseClick(&bild, Qt::LeftButton, {}, QPoint(bild.width() * 5 / 8, bild.height() / 2));
+    auto& feld = Kind<QWidget>("TestgroessenBild");
+    QTest::mouseClick(&feld, Qt::LeftButton, {}, QPoint(feld.width() * 5 / 8, feld.height() / 2));
     auto& knopf = Kind<QPushButton>("FilterBereich");
     EXPECT_TRUE(knopf.isVisible());
     EXPECT_TRUE(knopf.text().startsWith("TG von 3 bis 3.25")) << knopf.text().toStdString();
