@@ -31,7 +31,7 @@ struct Darstellung : Residuendarstellung {
     bool ShowErklaerung = false;
     /// From the picture's top-right corner to that of the key [px]; none: where the drawing puts it.
     std::optional<Bildpunkt> Erklaerungsort{};
-    /// Figures in classes of a result, or left out; null: all as they are. Made for the network that is shown.
+    /// Figures in classes of a result, or left out, of the network that is shown; null: all as they are.
     std::shared_ptr<const Figurenstile> Stile{};
     std::optional<Legende> Legend{Legende::Create()};
 

@@ -12,13 +12,13 @@ struct Punktergebnis {
     double dY = 0.0;   ///< residual of the easting
     double dX = 0.0;   ///< residual of the northing
     double dH = 0.0;   ///< residual of the height
-    double dP = std::numeric_limits<double>::quiet_NaN();  ///< residual of the position
     double A = 0.0;    ///< semi-major axis of the error ellipse
     double B = 0.0;    ///< semi-minor axis
     double Phi = 0.0;  ///< direction of the ellipse [gon]
     double mH = 0.0;   ///< standard deviation of the height
     double mL = 0.0;   ///< standard deviation of the position
     bool mLBekannt = true;
+    double dP = std::numeric_limits<double>::quiet_NaN();  ///< residual of the position
     // Adjusted coordinates [m], not a number where they are null.
     double X = std::numeric_limits<double>::quiet_NaN();  ///< northing
     double Y = std::numeric_limits<double>::quiet_NaN();  ///< easting

@@ -146,9 +146,9 @@ void Bildpflege::VerschiebeBild(const Bildvorlage& v, Bildpunkt weg) {
 /// figures there are, results stand
 /// beside their points, and labels of one text or one number speak for each other.
 bool Bildpflege::Oertlich(const Bildvorlage& v) const {
-    return zustand_.Abkuerzungen && gueltig_ && !v.darstellung.ShowLegende && !v.darstellung.ZeigtErklaerung() &&
-           !v.darstellung.ZeigtErgebnisse() && v.netz.TexteEindeutig() && v.netz.NummernEindeutig() &&
-           gezeichnet_.Lage() == v.ansicht.Lage();
+    return zustand_.Abkuerzungen && gueltig_ && !v.darstellung.ShowLegende &&
+           !v.darstellung.ZeigtErklaerung() && !v.darstellung.ZeigtErgebnisse() && v.netz.TexteEindeutig() &&
+           v.netz.NummernEindeutig() && gezeichnet_.Lage() == v.ansicht.Lage();
 }
 
 Rechteck Bildpflege::Umfang(const Bildvorlage& v, const Figurenmenge& figuren) const {

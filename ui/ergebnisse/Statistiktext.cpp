@@ -9,6 +9,7 @@
 
 #include "model/Zahlentext.h"
 #include "ui/Umwandlung.h"
+#include "ui/bild/Malerflaeche.h"
 #include "ui/ergebnisse/Statistikbild.h"
 
 namespace zrw {
@@ -72,7 +73,7 @@ QString Anteile(const std::vector<Gattungsstatistik>& alle, double grenze) {
               Zelle(Zahl(100 * NormalerAnteil(grenze), 1)) + QStringLiteral("<td></td></tr>");
     return Tabelle(
         Kopf({QStringLiteral("Anteile in %"), QStringLiteral("|TG| &lt; 1"), QStringLiteral("&lt; 2"),
-              QStringLiteral("&lt; %1").arg(AusUtf8(SchreibeReal(grenze))), QStringLiteral("max")}),
+              QStringLiteral("&lt; %1").arg(AusUtf8(SchreibeReal(grenze))), QStringLiteral("größte")}),
         zeilen);
 }
 
@@ -204,7 +205,7 @@ std::string Statistikblatt(const QString& titel, const Beobachtungsliste& liste,
         constexpr double kAbstand = 8;
         constexpr int kSchrift = 8;
         QTextDocument text;
-        QFont schrift(QStringLiteral("Liberation Sans"));
+        QFont schrift = Zeichenschrift();
         schrift.setPixelSize(kSchrift);
         text.setDefaultFont(schrift);
         text.setDefaultStyleSheet(QStringLiteral("a { color: black; text-decoration: none }"));
