@@ -117,6 +117,12 @@ TEST_F(Beobachtungsprobe, ListetOrdnetUndFiltert) {
     EXPECT_EQ(Anzahl(), "11 von 937 Beobachtungen");
     for (int i = 0; i < 11; ++i)
         EXPECT_EQ(Zelle(i, Listenspalte::FF), "● FF");
+    Kind<QCheckBox>("NurMarkierte").click();
+    int gegen = 0;
+    for (int i = 0; i < Liste().model()->rowCount(); ++i)
+        gegen += Zelle(i, Listenspalte::Tabelle) == "GPS-Vektor ⇄" ? 1 : 0;
+    EXPECT_EQ(gegen, 7) << "vectors against the direction of their lines";
+    Kind<QCheckBox>("NurMarkierte").click();
     const QString punkt = Zelle(0, Listenspalte::Von);
     const QString enden = Enden(0);
     Kind<QCheckBox>("NurMarkierte").click();

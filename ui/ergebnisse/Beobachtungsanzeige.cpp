@@ -39,8 +39,17 @@ Beobachtungsseite* Beobachtungsanzeige::NeueSeite(QWidget* eltern) {
     return new Beobachtungsseite(
         {u_.programm, u_.stand, [this](const Beobachtung& b) { ZeigeBeobachtung(b, {}); },
          [this](Beobachtungsseite& seite) { FolgeAuswahl(seite); }, u_.melde,
+         [this](const Beobachtung& b) { return Gegenrichtung(b); },
          [this] { return AusUtf8(PfadText(u_.plan.Datei())); }},
         eltern);
+}
+
+bool Beobachtungsanzeige::Gegenrichtung(const Beobachtung& b) const {
+    if (b.tabelle != Beobachtungstabelle::Gps || !u_.plan.Offen()) return false;
+    const Liste& netz = *u_.plan.Daten();
+    const PunktIndex von = netz.FindPunktNr(b.von);
+    const PunktKante* kante = netz.FindKante(von, netz.FindPunktNr(b.nach));
+    return kante != nullptr && kante->ENr == von;
 }
 
 void Beobachtungsanzeige::ZeigeFenster() {

@@ -52,6 +52,7 @@ class Beobachtungsanzeige {
 
   private:
     [[nodiscard]] Beobachtungsseite* NeueSeite(QWidget* eltern);
+    [[nodiscard]] bool Gegenrichtung(const Beobachtung& b) const;
     void FolgeAuswahl(Beobachtungsseite& seite) const;
 
     Umfeld u_;

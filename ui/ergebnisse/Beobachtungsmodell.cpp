@@ -86,7 +86,11 @@ QVariant Beobachtungsmodell::data(const QModelIndex& stelle, int rolle) const {
     if (!stelle.isValid()) return {};
     const Beobachtung& b = Zeile(stelle.row());
     const Listenspalte spalte = Spalte(stelle.column());
+    const bool gegen = spalte == Listenspalte::Tabelle && gegenrichtung && gegenrichtung(b);
+    if (rolle == Qt::DisplayRole && gegen) return Zellentext(b, spalte) + QStringLiteral(" ⇄");
     if (rolle == Qt::DisplayRole) return Zellentext(b, spalte);
+    if (rolle == Qt::ToolTipRole && gegen)
+        return QStringLiteral("Gegenrichtung: Die Linie im Netz führt vom Endpunkt zum Anfangspunkt");
     if (rolle == Qt::TextAlignmentRole) return QVariant(Ausrichtung(spalte));
     if (rolle == Qt::BackgroundRole && b.ff) return QBrush(kFehlergrund);
     if (rolle == Qt::FontRole && b.ff) return Fett();

@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -14,6 +15,9 @@ namespace zrw {
 class Beobachtungsmodell final : public QAbstractTableModel {
   public:
     using QAbstractTableModel::QAbstractTableModel;
+
+    /// Empty, or whether the line of an observation leads the other way in the network.
+    std::function<bool(const Beobachtung&)> gegenrichtung;
 
     /// @param liste not null
     void SetzeListe(std::shared_ptr<const Beobachtungsliste> liste);

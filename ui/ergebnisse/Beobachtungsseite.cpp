@@ -61,6 +61,7 @@ Beobachtungsseite::Beobachtungsseite(Umfeld umfeld, QWidget* eltern)
     spalte->addWidget(filter_);
     spalte->addWidget(tabelle_, 1);
     spalte->addWidget(anzahl_);
+    modell_.gegenrichtung = u_.gegenrichtung;
     filter_->geaendert = [this] {
         modell_.SetzeFilter(filter_->Filter());
         ZeigeAnzahl();

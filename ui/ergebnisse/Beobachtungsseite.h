@@ -30,6 +30,8 @@ class Beobachtungsseite final : public QWidget {
         std::function<void(Beobachtungsseite&)> folge;
         /// Something was done that does not change the network.
         std::function<void(const QString&)> melde;
+        /// A vector that leads against its line in the network.
+        std::function<bool(const Beobachtung&)> gegenrichtung;
         /// Of the open file, to propose another beside it.
         std::function<QString()> datei;
     };
