@@ -72,11 +72,11 @@ bool ExportiereNetz(const Aufruf& aufruf) {
     TDM daten(dateien);
     const bool lesbar = WaehleErgebnisse(aufruf, daten, liste, einstellungen);
     zustand.Ergebnisse = &daten;
-    SetzeFaerbung(aufruf, liste, liste, daten, &DruckeZeile);
+    const bool gefaerbt = SetzeFaerbung(aufruf, liste, liste, daten, &DruckeZeile);
     OrdneNummern(quelle, aufruf, liste, &DruckeZeile);
     return SchreibeAusgaben(quelle, aufruf, TextPfad(aufruf.ziel), Ziele(aufruf, datei), daten,
                             &DruckeZeile) &&
-           lesbar;
+           lesbar && gefaerbt;
 }
 
 }  // namespace

@@ -33,4 +33,12 @@ pruefe 0 7 "" mit
 truncate -s 3000 "$ort/mit/KooTABLE.DB"
 pruefe 1 7 "#000000" mit --ein lagegen
 grep -q 'KooTABLE.DB' "$ort/meldung" || { echo "Die beschädigte Tabelle wird nicht genannt." && fehler=1; }
+# A picture file is not marked, so colouring is the first to meet the damaged table.
+cp "$wurzel/beispiele/LINIEN.ZRW" "$ort/mit"
+truncate -s 3000 "$ort/mit/strtable.db"
+status=0
+"$zarwik" --export png --einfaerben TG --ziel "$ort/aus" "$ort/mit/LINIEN.ZRW" 2>"$ort/meldung" || status=$?
+if [ $status != 1 ] || ! grep -qi 'strtable.db.*färbt nichts' "$ort/meldung"; then
+    echo "Einfärben nach einer beschädigten Tabelle: $status" && cat "$ort/meldung" && fehler=1
+fi
 exit $fehler

@@ -30,14 +30,23 @@ void SetzeSchalter(const Ausgabeauftrag& auftrag, Darstellung& darstellung, cons
     darstellung.Ellipsenmassstab = auftrag.ellipsenmassstab;
 }
 
-void SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,
+bool SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,
                    const Sprecher& sage) {
     darstellung.Stile.reset();
-    if (!auftrag.faerbung.Wirkt()) return;
+    if (!auftrag.faerbung.Wirkt()) return true;
     daten.ErneuereErgebnisse();
-    darstellung.Stile = BaueStile(netz, auftrag.faerbung, LiesBeobachtungen(daten), &daten);
-    if (auftrag.faerbung.einfaerbung && !darstellung.Stile->HatWerte())
+    const Beobachtungsliste liste = LiesBeobachtungen(daten);
+    darstellung.Stile = BaueStile(netz, auftrag.faerbung, liste, &daten);
+    if (!auftrag.faerbung.einfaerbung) return true;
+    if (!darstellung.Stile->HatWerte())
         sage("Kein Ergebnis zu " + darstellung.Stile->titel + ": Alle sind „ohne Wert“.");
+    bool lesbar = true;
+    for (const Tabellenlage& lage : liste.tabellen) {
+        if (lage.zustand != Lesezustand::Unlesbar) continue;
+        sage(lage.grund + " Sie färbt nichts ein.");
+        lesbar = false;
+    }
+    return lesbar;
 }
 
 void MeldeDarstellung(const Ausgabequelle& quelle, const Sprecher& sage) {

@@ -36,8 +36,8 @@ void SetzeGroesse(const Ausgabeauftrag& auftrag, Ansicht& gelesen);
 void SetzeSchalter(const Ausgabeauftrag& auftrag, Darstellung& darstellung, const Netzangaben& netz,
                    Zeichenzustand& zustand);
 /// Colours lines or points by what the tables say, and leaves lines out. Tells where nothing has a value.
-/// @param netz that of `darstellung`
-void SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,
+/// @param netz that of `darstellung` @return whether all tables that are there could be read
+bool SetzeFaerbung(const Ausgabeauftrag& auftrag, const Netz& netz, Darstellung& darstellung, TDM& daten,
                    const Sprecher& sage);
 /// Tells what is switched on and means nothing in this network.
 void MeldeDarstellung(const Ausgabequelle& quelle, const Sprecher& sage);

@@ -144,8 +144,7 @@ QStringList Planausgabe::Abweichungen(const Format& format, const Ausgabeauftrag
          (f.einfaerbung && (f.einfaerbung->gattung || f.einfaerbung->farben != Klassenfarben::Magma))))
         texte << QStringLiteral(
             "Der Befehl färbt in den üblichen Farben und kennt die Wahl nach Art der Beobachtung, Punkt und "
-            "Klasse "
-            "nicht.");
+            "Klasse nicht.");
     const Netzangaben uebliche;
     const Netzangaben& netz = programm_.netz;
     const bool gitter = std::any_of(auftrag.ein.begin(), auftrag.ein.end(), [](const std::string& n) {
