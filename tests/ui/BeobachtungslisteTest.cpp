@@ -93,6 +93,7 @@ TEST_F(Beobachtungsprobe, SagtBeimOeffnenWieVieleEsSind) {
         << Status().toStdString();
     auto& hinweis = Kind<QFrame>("FehlerHinweis");
     EXPECT_TRUE(hinweis.isVisible());
+    EXPECT_EQ(hinweis.findChild<QLabel*>()->text(), Status()) << "stays until it is closed";
     Kind<QToolButton>("FehlerSchliessen").click();
     EXPECT_FALSE(hinweis.isVisible());
     LegeDateiAn("a.EIN", "$NT 3\n$FP A              1         1000         1000\n$$$\n");

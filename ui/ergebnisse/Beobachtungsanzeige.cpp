@@ -132,12 +132,13 @@ void Beobachtungsanzeige::FolgeAuswahl(Beobachtungsseite& seite) const {
     });
 }
 
-QString Beobachtungsanzeige::NetzGeoeffnet(bool steuerdatei) {
+QString Beobachtungsanzeige::NetzGeoeffnet(bool steuerdatei, const QString& lesung) {
     gang_.VergissOrt();
     zeiger_.VergissHof();
     hinweis_->hide();
     if (!steuerdatei) return {};
     const auto liste = u_.stand.Liste();
+    hinweis_->SetzeLesung(lesung);
     hinweis_->ZeigeStand(*liste);
     return Fehlersatz(*liste);
 }

@@ -47,8 +47,9 @@ class Beobachtungsanzeige {
     /// Something else is selected in the picture.
     void AuswahlGewechselt();
     /// A network was opened. @param steuerdatei from a control file, whose errors are told
+    /// @param lesung what else is said about it
     /// @return what the status line is to say about them, empty: nothing
-    [[nodiscard]] QString NetzGeoeffnet(bool steuerdatei);
+    [[nodiscard]] QString NetzGeoeffnet(bool steuerdatei, const QString& lesung);
 
   private:
     [[nodiscard]] Beobachtungsseite* NeueSeite(QWidget* eltern);

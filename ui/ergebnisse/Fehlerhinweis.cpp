@@ -18,7 +18,7 @@ void Fehlerhinweis::ZeigeStand(const Beobachtungsliste& liste) {
     const QString satz = Fehlersatz(liste);
     if (satz.isEmpty()) return hide();
     ZeigeKnopf(ZaehleMarkierte(liste) > 0);
-    ZeigeText(satz);
+    ZeigeText(lesung_.isEmpty() ? satz : satz + QStringLiteral("; ") + lesung_);
 }
 
 }  // namespace zrw

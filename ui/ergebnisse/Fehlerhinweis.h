@@ -13,9 +13,14 @@ class Fehlerhinweis final : public Bildhinweis {
   public:
     explicit Fehlerhinweis(QWidget* bild);
 
+    /// What was read with the network, said behind it from now on.
+    void SetzeLesung(const QString& text) { lesung_ = text; }
     /// Goes where there are no tables.
     void ZeigeStand(const Beobachtungsliste& liste);
     std::function<void()> zeige;
+
+  private:
+    QString lesung_;
 };
 
 }  // namespace zrw

@@ -374,13 +374,14 @@ void TZrwMainDlg::UebernimmLesung(Lesung&& lesung, const std::filesystem::path& 
     programm_.sitzung.MerkeOrdner(ordner_);
     // A picture file carries its marks.
     if (!IstBilddatei(datei)) ergebnisse_->MarkiereFehler(*plan_.Daten());
-    QStringList status(beobachtungen_->NetzGeoeffnet(!IstBilddatei(datei)));
-    status << QStringLiteral("%1: %2 Punkte, %3 Linien")
-                  .arg(info.fileName())
-                  .arg(plan_.Daten()->MaxPkte)
-                  .arg(plan_.Daten()->MaxKant)
-           << AusUtf8(Statustext(lesung.bericht))
+    QStringList status(QStringLiteral("%1: %2 Punkte, %3 Linien")
+                           .arg(info.fileName())
+                           .arg(plan_.Daten()->MaxPkte)
+                           .arg(plan_.Daten()->MaxKant));
+    status << AusUtf8(Statustext(lesung.bericht))
            << AusUtf8(Blattschnitthinweis(*plan_.Daten(), programm_.netz, programm_.zustand));
+    status.removeAll(QString());
+    status.prepend(beobachtungen_->NetzGeoeffnet(!IstBilddatei(datei), status.join(QStringLiteral("; "))));
     status.removeAll(QString());
     ZeigeStatus(status.join(QStringLiteral("; ")));
     // A mode that was chosen before there was a network.
