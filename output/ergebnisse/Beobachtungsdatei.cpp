@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "model/Cp1252.h"
+#include "model/Trennfeld.h"
 #include "model/Zahlentext.h"
 #include "model/ergebnisse/Listenordnung.h"
 #include "model/ergebnisse/Statistik.h"
@@ -12,19 +13,6 @@
 namespace zrw {
 namespace {
 
-constexpr char kTrenner = ';';
-
-/// In quotes where it would be taken for more than one field.
-std::string Feldtext(std::string_view text) {
-    if (text.find_first_of(";\"\r\n") == std::string_view::npos) return std::string(text);
-    std::string feld = "\"";
-    for (const char c : text) {
-        feld += c;
-        if (c == '"') feld += c;
-    }
-    return feld + '"';
-}
-
 std::string Feldtext(const Beobachtung& b, const Spaltenbeschreibung& s) {
     if (s.wert) {
         const double wert = b.Wert(*s.wert);
@@ -32,8 +20,8 @@ std::string Feldtext(const Beobachtung& b, const Spaltenbeschreibung& s) {
     }
     if (s.spalte == Listenspalte::Tabelle) return std::string(ZurGattung(b.tabelle).name);
     if (s.spalte == Listenspalte::ID) return b.idBekannt ? std::to_string(b.id) : std::string();
-    if (s.spalte == Listenspalte::Von) return Feldtext(Cp1252NachUtf8(b.von.Text()));
-    if (s.spalte == Listenspalte::Nach) return Feldtext(Cp1252NachUtf8(b.nach.Text()));
+    if (s.spalte == Listenspalte::Von) return Trennfeld(Cp1252NachUtf8(b.von.Text()));
+    if (s.spalte == Listenspalte::Nach) return Trennfeld(Cp1252NachUtf8(b.nach.Text()));
     return (s.spalte == Listenspalte::FF ? b.ff : b.nk) ? "1" : "0";
 }
 
@@ -74,14 +62,14 @@ void Schliesse(Textausgabe& aus) {
 std::string Spaltenzeile() {
     std::string zeile;
     for (const Spaltenbeschreibung& s : kListenspalten)
-        zeile += (zeile.empty() ? std::string() : std::string(1, kTrenner)) + std::string(s.name);
+        zeile += (zeile.empty() ? std::string() : std::string(1, kFeldtrenner)) + std::string(s.name);
     return zeile;
 }
 
 std::string Beobachtungszeile(const Beobachtung& b) {
     std::string zeile;
     for (const Spaltenbeschreibung& s : kListenspalten) {
-        if (s.spalte != Listenspalte::Tabelle) zeile += kTrenner;
+        if (s.spalte != Listenspalte::Tabelle) zeile += kFeldtrenner;
         zeile += Feldtext(b, s);
     }
     return zeile;
