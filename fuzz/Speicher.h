@@ -42,6 +42,9 @@ class Speicher final : public Dateien {
     [[nodiscard]] std::unique_ptr<Dateischreiber> BeginneDatei(const std::filesystem::path& datei) override {
         throw Fehler("nur zum Lesen", PfadText(datei));
     }
+    void EntferneDatei(const std::filesystem::path& datei) override {
+        throw Fehler("nur zum Lesen", PfadText(datei));
+    }
     /// Ends the supply after some megabytes: one input may include a file again and again, which is no hang
     /// but would outlast the fuzzer's patience.
     [[nodiscard]] std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,

@@ -223,15 +223,21 @@ fs::path FindeEintrag(const fs::path& ordner, const fs::path& name) {
     return gefunden;
 }
 
-}  // namespace
-
-std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) const {
+/// @throws Oeffnungsfehler
+Strom OeffneZumLesen(const fs::path& datei) {
     std::error_code fehler;
     const fs::file_status status = fs::status(datei, fehler);
     if (!fs::exists(status)) NichtZuOeffnen(datei, Grund(fehler ? fehler.value() : ENOENT));
     if (!fs::is_regular_file(status)) NichtZuOeffnen(datei, "keine gewöhnliche Datei");
-    const Strom strom = OeffneStrom(datei, false);
+    Strom strom = OeffneStrom(datei, false);
     if (strom == nullptr) NichtZuOeffnen(datei, Grund(errno));
+    return strom;
+}
+
+}  // namespace
+
+std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) const {
+    const Strom strom = OeffneZumLesen(datei);
     const auto vorher = StandVon(strom.get(), datei);
     if (vorher && vorher->groesse > grenze) {
         throw Fehler("Die Datei ist mit " + std::to_string(vorher->groesse) + " Bytes zu groß (höchstens " +
@@ -247,6 +253,27 @@ std::string Systemdateien::LiesDatei(const fs::path& datei, std::size_t grenze) 
                      PfadText(datei));
     }
     return inhalt;
+}
+
+std::string Systemdateien::LiesAnfang(const fs::path& datei, std::size_t anzahl) const {
+    const Strom strom = OeffneZumLesen(datei);
+    std::string inhalt(anzahl, '\0');
+    inhalt.resize(std::fread(inhalt.data(), 1, inhalt.size(), strom.get()));
+    if (std::ferror(strom.get()) != 0) WirfFehler("Kann Datei nicht lesen", datei, errno);
+    return inhalt;
+}
+
+void Systemdateien::ErstelleOrdner(const fs::path& ordner) {
+    std::error_code fehler;
+    fs::create_directories(ordner, fehler);
+    if (!fs::is_directory(ordner))
+        WirfFehler("Kann Ordner nicht anlegen", ordner, fehler ? fehler.value() : ENOTDIR);
+}
+
+void Systemdateien::EntferneDatei(const fs::path& datei) {
+    std::error_code fehler;
+    fs::remove(datei, fehler);
+    if (fehler) WirfFehler("Kann Datei nicht entfernen", datei, fehler.value());
 }
 
 std::unique_ptr<Dateischreiber> Systemdateien::BeginneDatei(const fs::path& datei) {

@@ -9,11 +9,15 @@ class Systemdateien final : public Dateien {
   public:
     [[nodiscard]] std::string LiesDatei(const std::filesystem::path& datei,
                                         std::size_t grenze) const override;
+    [[nodiscard]] std::string LiesAnfang(const std::filesystem::path& datei,
+                                         std::size_t anzahl) const override;
     [[nodiscard]] std::optional<Dateistand> Stand(const std::filesystem::path& datei) const override;
     /// Writes a file beside, flushes it to the disk and renames it. A symbolic link keeps pointing to its
     /// target, which is replaced, or made where it is missing; an existing file keeps its access rights, and
     /// is refused where they forbid writing.
     [[nodiscard]] std::unique_ptr<Dateischreiber> BeginneDatei(const std::filesystem::path& datei) override;
+    void ErstelleOrdner(const std::filesystem::path& ordner) override;
+    void EntferneDatei(const std::filesystem::path& datei) override;
     [[nodiscard]] std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,
                                                                   const std::string& name) const override;
 

@@ -2,6 +2,7 @@
 // The real one: input/Systemdateien.h.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -43,6 +44,14 @@ class Dateien {
     [[nodiscard]] virtual std::string LiesDatei(const std::filesystem::path& datei,
                                                 std::size_t grenze) const = 0;
 
+    /// The first bytes of a file, all of a shorter one. @throws Fehler as `LiesDatei`
+    [[nodiscard]] virtual std::string LiesAnfang(const std::filesystem::path& datei,
+                                                 std::size_t anzahl) const {
+        std::string inhalt = LiesDatei(datei, static_cast<std::size_t>(-1));
+        inhalt.resize(std::min(inhalt.size(), anzahl));
+        return inhalt;
+    }
+
     /// None where there is no regular file.
     [[nodiscard]] virtual std::optional<Dateistand> Stand(const std::filesystem::path& datei) const = 0;
 
@@ -57,6 +66,11 @@ class Dateien {
         neu->SichereDatei();
         neu->ErsetzeZiel();
     }
+
+    /// Makes a folder and those above it, where they are missing. @throws Fehler
+    virtual void ErstelleOrdner(const std::filesystem::path& /*ordner*/) {}
+    /// Removes a file, if there is one. @throws Fehler where it stays
+    virtual void EntferneDatei(const std::filesystem::path& datei) = 0;
 
     /// The file of this name in a folder, an exact match first, else without regard to case.
     [[nodiscard]] virtual std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,

@@ -45,6 +45,7 @@ class Speicherdateien final : public Dateien {
     [[nodiscard]] std::unique_ptr<Dateischreiber> BeginneDatei(const std::filesystem::path& datei) override {
         return std::make_unique<Schreiber>(*this, Schluessel(datei));
     }
+    void EntferneDatei(const std::filesystem::path& datei) override { dateien.erase(Schluessel(datei)); }
     [[nodiscard]] std::optional<std::filesystem::path> FindeDatei(const std::filesystem::path& ordner,
                                                                   const std::string& name) const override {
         const std::string genau = Schluessel(ordner / TextPfad(name));
