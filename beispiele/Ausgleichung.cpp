@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 #include <numeric>
 #include <set>
@@ -15,7 +14,7 @@ namespace {
 constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
 /// The equations are nearly linear: the corrections are below a tenth of a millimetre after the first step.
 constexpr int kSchritte = 4;
-constexpr std::size_t kKeine = std::numeric_limits<std::size_t>::max();
+constexpr std::size_t kKeine = Unbekannte::kKeine;
 
 double UmNull(double gon) {
     return std::remainder(gon, 400.0);
@@ -35,7 +34,7 @@ class Ausgleicher {
         NummeriereLage();
         NummeriereHoehen();
         for (const NetzPunkt& p : netz.punkte)
-            erdachsen_.push_back(Erdachsen(p));
+            erdachsen_.push_back(Erdachsen(netz, p));
         korrektur_.resize(anzahl_ + netz.saetze.size());
         for (const Richtungssatz& s : netz.saetze) {
             const Ziel& erstes = s.ziele.front();
@@ -46,9 +45,9 @@ class Ausgleicher {
         korrektur_.resize(anzahl_);
     }
 
-    Ausgleichung RechneAusgleichung() {
+    Ausgleichung RechneAusgleichung(Fehlersuche suche) {
         Normalgleichung n = GleicheNetzAus();
-        while (LassWeg())
+        while (suche == Fehlersuche::Weglassen && LassWeg())
             n = GleicheNetzAus();
         return SammleErgebnisse(n);
     }
@@ -202,7 +201,7 @@ class Ausgleicher {
     }
 
     void Vektor(const GpsVektor& v) {
-        const auto p = Geozentrisch(netz_.punkte[v.von]), q = Geozentrisch(netz_.punkte[v.nach]);
+        const auto p = Vektorort(netz_, netz_.punkte[v.von]), q = Vektorort(netz_, netz_.punkte[v.nach]);
         const Ort kp = Korrektur(v.von), kq = Korrektur(v.nach);
         std::size_t gruppe = 0;
         for (std::size_t k = 0; k < 3; ++k) {
@@ -260,21 +259,23 @@ class Ausgleicher {
 
     Ausgleichung SammleErgebnisse(const Normalgleichung& n) {
         Ausgleichung e;
+        e.unbekannte = {unbekannt_, orientierung_, orientierungen_, korrektur_, {}};
+        for (std::size_t i = 0; i < anzahl_; ++i)
+            e.unbekannte.teiler.push_back(n.Vorwaerts(std::array{Koeffizient{i, 1.0}}));
         for (Stelle p = 0; p < netz_.punkte.size(); ++p) {
             const Ort k = Korrektur(p);
             lagen_[p].dy = k[0];
             lagen_[p].dx = k[1];
             lagen_[p].dh = k[2];
-            std::array<std::vector<double>, 3> y;
-            for (std::size_t i = 0; i < 3; ++i) {
-                Gleichung g;
-                NimmAbleitung(g, unbekannt_[p][i], 1.0);
-                y[i] = n.Vorwaerts(g.a);
-            }
-            lagen_[p].qyy = Produkt(y[0], y[0]);
-            lagen_[p].qxx = Produkt(y[1], y[1]);
-            lagen_[p].qxy = Produkt(y[0], y[1]);
-            lagen_[p].qhh = Produkt(y[2], y[2]);
+            const auto kovarianz = [&](std::size_t i, std::size_t j) {
+                const std::size_t a = unbekannt_[p][i], b = unbekannt_[p][j];
+                return a == kKeine || b == kKeine ? 0.0
+                                                  : Produkt(e.unbekannte.teiler[a], e.unbekannte.teiler[b]);
+            };
+            lagen_[p].qyy = kovarianz(0, 0);
+            lagen_[p].qxx = kovarianz(1, 1);
+            lagen_[p].qxy = kovarianz(0, 1);
+            lagen_[p].qhh = kovarianz(2, 2);
         }
         e.punkte = lagen_;
         auto g = gleichungen_.begin();
@@ -315,7 +316,7 @@ double Pruefung::SigmaV() const {
     return grob ? std::sqrt(sigma * sigma + q) : sigma * std::sqrt(Redundanz());
 }
 
-std::array<Ort, 3> Erdachsen(const NetzPunkt& p) {
+std::array<Ort, 3> Erdachsen(const Netz& netz, const NetzPunkt& p) {
     constexpr double kWeit = 1.0;  // [m]
     constexpr std::array kOrt{&NetzPunkt::rechts, &NetzPunkt::hoch, &NetzPunkt::hoehe};
     std::array<Ort, 3> achsen{};
@@ -323,15 +324,15 @@ std::array<Ort, 3> Erdachsen(const NetzPunkt& p) {
         NetzPunkt vor = p, zurueck = p;
         vor.*kOrt[i] += kWeit;
         zurueck.*kOrt[i] -= kWeit;
-        const auto v = Geozentrisch(vor), z = Geozentrisch(zurueck);
+        const auto v = Vektorort(netz, vor), z = Vektorort(netz, zurueck);
         for (std::size_t k = 0; k < 3; ++k)
             achsen[k][i] = (v[k] - z[k]) / (2.0 * kWeit);
     }
     return achsen;
 }
 
-Ausgleichung GleicheAus(const Netz& netz) {
-    return Ausgleicher(netz).RechneAusgleichung();
+Ausgleichung GleicheAus(const Netz& netz, Fehlersuche suche) {
+    return Ausgleicher(netz).RechneAusgleichung(suche);
 }
 
 }  // namespace zrw::beispiel

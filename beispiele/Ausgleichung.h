@@ -56,18 +56,33 @@ struct Punktlage {
     double qhh = 0.0;                        ///< [m²]
 };
 
+/// The unknowns of the adjustment and how they vary together.
+struct Unbekannte {
+    static constexpr std::size_t kKeine = static_cast<std::size_t>(-1);
+    std::vector<std::array<std::size_t, 3>> punkte;  ///< easting, northing, height of each point
+    std::vector<std::size_t> saetze;                 ///< orientation of each set of directions
+    std::vector<double> orientierungen;              ///< bearing of the zero of each set at first [gon]
+    std::vector<double> korrekturen;                 ///< by unknown [m] or [gon]
+    std::vector<std::vector<double>> teiler;         ///< by unknown; the product of two is their covariance
+};
+
 /// In the order of the network.
 struct Ausgleichung {
+    Unbekannte unbekannte;
     std::vector<Punktlage> punkte;
     std::vector<std::vector<Pruefung>> richtungen;          ///< [gon], by set and target
     std::vector<Pruefung> strecken, hoehen, zenite;         ///< [m]
     std::vector<std::vector<std::array<Pruefung, 3>>> gps;  ///< [m], earth-centred, by block and vector
 };
 
-/// Derivatives of the earth-centred position by easting, northing and height: one row for each component.
-[[nodiscard]] std::array<Ort, 3> Erdachsen(const NetzPunkt& p);
+/// Derivatives of the position in the system of the vectors by easting, northing and height: one row for each
+/// component.
+[[nodiscard]] std::array<Ort, 3> Erdachsen(const Netz& netz, const NetzPunkt& p);
+
+/// What becomes of observations that stand out.
+enum class Fehlersuche : std::uint8_t { Weglassen, Behalten };
 
 /// @throws Fehler where the observations do not determine the network
-[[nodiscard]] Ausgleichung GleicheAus(const Netz& netz);
+[[nodiscard]] Ausgleichung GleicheAus(const Netz& netz, Fehlersuche suche = Fehlersuche::Weglassen);
 
 }  // namespace zrw::beispiel

@@ -61,13 +61,15 @@ struct Zenitdistanz {
 
 struct GpsVektor {
     Stelle von = 0, nach = 0;
-    std::array<double, 3> d{};  ///< earth-centred components [m]
-    double sigma = 0.0;         ///< of each component [m]
+    std::array<double, 3>
+        d{};             ///< earth-centred components, in a plane network northing, easting, height [m]
+    double sigma = 0.0;  ///< of each component [m]
     bool grob = false;
 };
 
 struct Netz {
     std::string titel;  ///< code page 1252
+    bool eben = false;  ///< small enough for a plane: vectors are differences of the coordinates
     std::vector<NetzPunkt> punkte;
     std::vector<Richtungssatz> saetze;
     std::vector<Strecke> strecken;
@@ -105,6 +107,8 @@ void BeobachteNetz(Netz& netz, const Rollen& rollen, Zufall& zufall);
 
 /// Earth-centred position [m]; heights count from the ellipsoid.
 [[nodiscard]] std::array<double, 3> Geozentrisch(const NetzPunkt& p);
+/// Position in the system of the vectors [m]: earth-centred, in a plane network northing, easting, height.
+[[nodiscard]] std::array<double, 3> Vektorort(const Netz& netz, const NetzPunkt& p);
 
 /// By how much earth curvature, less refraction, lowers a target in a distance of `strecke` metres [m].
 [[nodiscard]] double ErdkruemmungUndRefraktion(double strecke);

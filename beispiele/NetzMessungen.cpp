@@ -306,6 +306,11 @@ std::array<double, 3> Geozentrisch(const NetzPunkt& p) {
             (n * (1.0 - e.f) * (1.0 - e.f) + p.hoehe) * std::sin(b)};
 }
 
+std::array<double, 3> Vektorort(const Netz& netz, const NetzPunkt& p) {
+    if (netz.eben) return {p.hoch, p.rechts, p.hoehe};
+    return Geozentrisch(p);
+}
+
 void BeobachteNetz(Netz& netz, const Rollen& rollen, Zufall& zufall) {
     Feldbuch(netz, rollen, zufall).Alles();
 }

@@ -131,8 +131,8 @@ std::vector<GpsPunkt> GpsPunkte(const Auswertung& a) {
 constexpr std::array<Ort, 3> kErdachse{{{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}};
 
 /// Unit vectors to the east, north and up of the grid.
-std::array<Ort, 3> Gitterachsen(const NetzPunkt& p) {
-    const auto achsen = Erdachsen(p);
+std::array<Ort, 3> Gitterachsen(const Netz& netz, const NetzPunkt& p) {
+    const auto achsen = Erdachsen(netz, p);
     std::array<Ort, 3> e{};
     for (std::size_t i = 0; i < 3; ++i) {
         const double lang = std::hypot(achsen[0][i], achsen[1][i], achsen[2][i]);
@@ -147,7 +147,7 @@ void Gitteranteile(Tabellenbogen& b, const Auswertung& a, const GpsPunkt& g, std
     constexpr std::array<const char*, 3> kName{"Y", "X", "H"};
     const NetzPunkt& p = a.punkte[g.punkt];
     const Ort ort{p.rechts, p.hoch, p.hoehe};
-    const auto achsen = Gitterachsen(p);
+    const auto achsen = Gitterachsen(a.netz, p);
     b.Text("PKT", p.nummer);
     b.Ganz("NIV", p.niveau);
     for (std::size_t i = 0; i < anzahl; ++i) {
@@ -228,7 +228,7 @@ Tabellenbogen GpsPunkte3D(const Auswertung& a) {
 Tabellenbogen GpsPunkte2D(const Auswertung& a) {
     Tabellenbogen b(Tabelle::GpsPunkte2D);
     for (const GpsPunkt& g : GpsPunkte(a)) {
-        const auto achsen = Gitterachsen(a.punkte[g.punkt]);
+        const auto achsen = Gitterachsen(a.netz, a.punkte[g.punkt]);
         b.Zeile();
         Gitteranteile(b, a, g, 2);
         Test(b, g.Anteil(achsen[0]), "Y");

@@ -83,7 +83,7 @@ void GpsVektorzeile(Tabellenbogen& b, const Auswertung& a, const GpsVektor& vekt
     b.Real("EF", empfindlichste, 2);
     b.Flag("FF", p.front().grob);
     const NetzPunkt &von = a.punkte[vektor.von], &nach = a.punkte[vektor.nach];
-    const auto achsen = Erdachsen(nach);
+    const auto achsen = Erdachsen(a.netz, nach);
     const Linienanteile verbesserung = AnLinie(von, nach, ImGitter(achsen, v));
     b.Real("VL", verbesserung.laengs * kMm, 1);
     b.Real("VQ", verbesserung.quer * kMm, 1);

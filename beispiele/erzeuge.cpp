@@ -1,9 +1,12 @@
-// Makes the example network with its result tables and the sheet of line styles: beispiel_erzeugen
+// Makes the example network with its result tables, the sheet of line styles and three networks in the XML of
+// GNU Gama: beispiel_erzeugen
 // ZIELORDNER. The same files come out at every run.
 #include <filesystem>
 #include <iostream>
 
 #include "beispiele/Ausgleichung.h"
+#include "beispiele/Gamadatei.h"
+#include "beispiele/Kleinnetze.h"
 #include "beispiele/Linientafel.h"
 #include "beispiele/Netz.h"
 #include "beispiele/Tabellen.h"
@@ -31,6 +34,13 @@ int main(int argc, char** argv) {
         zrw::Systemdateien dateien;
         const Ausgleichung ausgleichung = GleicheAus(netz);
         SchreibeTabellen(Auswertung(netz, ausgleichung), dateien, ziel);
+        for (const Kleinnetz& k : Kleinnetze()) {
+            const std::filesystem::path datei = ziel / "gama" / k.name;
+            dateien.ErstelleOrdner(datei.parent_path());
+            dateien.ErsetzeDatei(datei.string() + ".gkf", Gamanetz(k.netz));
+            dateien.ErsetzeDatei(datei.string() + ".xml",
+                                 Gamaergebnisse(k.netz, GleicheAus(k.netz, Fehlersuche::Behalten)));
+        }
     } catch (const zrw::Fehler& f) {
         std::cerr << f.what() << '\n';
         return 1;
