@@ -1,4 +1,4 @@
-// Arbitrary bytes as one of the ten result tables: marked, listed, drawn from, and once more after the table
+// Arbitrary bytes as one of the result tables: marked, listed, drawn from, and once more after the table
 // has been cut. The first byte says which. `Fehler` is the only way to refuse them.
 #include <cstddef>
 #include <cstdint>
@@ -102,6 +102,8 @@ void PruefeTabelle(Tabelle tabelle, std::string_view bytes) {
         daten.ErneuereErgebnisse();
         for (const char* nummer : {"A", "B", "", "14 Zeichen lang"})
             (void)daten.ErgebnisZu(nummer);
+        daten.ErneuereRelative();
+        (void)daten.RelativeZu("A", "B");
         ListeBeobachtungen(daten, dateien);
         (void)daten.NimmMeldungen();
     }
@@ -114,7 +116,7 @@ void PruefeTabelle(Tabelle tabelle, std::string_view bytes) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t groesse) {
     const std::string eingabe(daten, daten + groesse);
     if (eingabe.empty()) return 0;
-    const auto nummer = static_cast<unsigned char>(eingabe.front()) % kErgebnistabellen.size();
+    const auto nummer = static_cast<unsigned char>(eingabe.front()) % kTabellen.size();
     PruefeTabelle(static_cast<Tabelle>(nummer), std::string_view(eingabe).substr(1));
     return 0;
 }

@@ -1,4 +1,5 @@
-// What the adjustment found for single points, as the drawing of residuals and accuracies needs it.
+// What the adjustment found for single points and for pairs of them, as the drawing of residuals and
+// accuracies needs it.
 #pragma once
 
 #include <limits>
@@ -31,6 +32,15 @@ struct Vergleichslage {
     double X = std::numeric_limits<double>::quiet_NaN();  ///< northing
 };
 
+/// The error ellipse of one point against another; not a number where a field is null.
+struct Relativellipse {
+    double A = std::numeric_limits<double>::quiet_NaN();    ///< semi-major axis [mm]
+    double B = std::numeric_limits<double>::quiet_NaN();    ///< semi-minor axis [mm]
+    double Phi = std::numeric_limits<double>::quiet_NaN();  ///< direction of A from north [gon]
+    double mS = std::numeric_limits<double>::quiet_NaN();   ///< standard deviation of their distance [mm]
+    double mQ = std::numeric_limits<double>::quiet_NaN();   ///< across their line [mm]
+};
+
 class Punktergebnisse {
   public:
     virtual ~Punktergebnisse() = default;
@@ -42,6 +52,13 @@ class Punktergebnisse {
     // The same for the second list of coordinates, where somebody needs it.
     virtual void ErneuereVergleich() {}
     [[nodiscard]] virtual const Vergleichslage* VergleichZu(std::string_view /*nummer*/) const {
+        return nullptr;
+    }
+    // And for pairs of points, whichever of them comes first.
+    virtual void ErneuereRelative() {}
+    [[nodiscard]] virtual bool HatRelative() const { return false; }
+    [[nodiscard]] virtual const Relativellipse* RelativeZu(std::string_view /*a*/,
+                                                           std::string_view /*b*/) const {
         return nullptr;
     }
 };

@@ -1,6 +1,6 @@
-// The ten result tables of the adjustment as one description: names, fields in the order of the files, how
-// each is shown, and the query that lists all of a table. Creating, formats, titles and queries come from
-// here.
+// The result tables as one description: names, fields in the order of the files, how each is shown, and the
+// query that lists all of a table. Creating, formats, titles and queries come from here. Ten of them are the
+// adjustment's; the others come from imports alone.
 #pragma once
 
 #include <array>
@@ -22,7 +22,7 @@ struct Tabellenfeld {
     std::string_view nkFlag = {};  ///< flag that shows "NK" in place of the number
 };
 
-/// Index into `kErgebnistabellen`; `Anzahl` is no table, but the number of its rows.
+/// Index into `kTabellen`; `Anzahl` is no table, but the number of its rows.
 enum class Tabelle : std::uint8_t {
     Gps,
     Strecken,
@@ -34,6 +34,7 @@ enum class Tabelle : std::uint8_t {
     Linien,
     Streckenkontrollen,
     WeitereKoordinaten,
+    RelativeEllipsen,
     Anzahl
 };
 
@@ -136,12 +137,18 @@ inline constexpr F kStreckenkontrollen[]{
 inline constexpr F kWeitereKoordinaten[]{
     Ganz("ID"), Text("PKT"), Ganz("NIV", "0"), Real("Y", "0.000"), Real("X", "0.000"), Ganz("LG", "0"),
     Ganz("ST", "0")};
+
+// Of one point against another: semi-axes [mm], direction of the longer one from north [gon], standard
+// deviations along and across their line [mm].
+inline constexpr F kRelativeEllipsen[]{
+    Ganz("ID"), Text("P1"), Text("P2"), Real("A", "0"), Real("B", "0"), Real("Phi", "#.00"), Real("mS", "0"),
+    Real("mQ", "0")};
 // clang-format on
 
 }  // namespace tabellen
 
-/// In the order in which they are created; a table's file is its name with ".DB".
-inline constexpr auto kErgebnistabellen = std::to_array<Ergebnistabelle>({
+/// A table's file is its name with ".DB".
+inline constexpr auto kTabellen = std::to_array<Ergebnistabelle>({
     {Tabelle::Gps, "GPSTABLE", tabellen::kGps, "Select * from GPSTable order by ID"},
     {Tabelle::Strecken, "STRTABLE", tabellen::kStrecken, "SELECT * from STRTABLE ORDER BY ID"},
     {Tabelle::Hoehenunterschiede, "DHTABLE", tabellen::kHoehenunterschiede,
@@ -155,11 +162,16 @@ inline constexpr auto kErgebnistabellen = std::to_array<Ergebnistabelle>({
      "SELECT * FROM STRKTRTABLE ORDER BY ID"},
     {Tabelle::WeitereKoordinaten, "PostKooTABLE", tabellen::kWeitereKoordinaten,
      "SELECT * FROM POSTKOOTABLE ORDER BY ID"},
+    {Tabelle::RelativeEllipsen, "RELTABLE", tabellen::kRelativeEllipsen,
+     "SELECT * FROM RELTABLE ORDER BY ID"},
 });
-static_assert(InReihe(kErgebnistabellen, &Ergebnistabelle::tabelle), "a row for each Tabelle, in its order");
+static_assert(InReihe(kTabellen, &Ergebnistabelle::tabelle), "a row for each Tabelle, in its order");
+
+/// Those of the adjustment, in the order in which they are created.
+inline constexpr auto kErgebnistabellen = std::span(kTabellen).first<10>();
 
 [[nodiscard]] constexpr const Ergebnistabelle& Beschreibung(Tabelle t) {
-    return kErgebnistabellen[static_cast<std::size_t>(t)];
+    return kTabellen[static_cast<std::size_t>(t)];
 }
 
 }  // namespace zrw

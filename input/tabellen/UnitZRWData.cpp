@@ -86,6 +86,28 @@ std::size_t Nummer(Tabelle t) {
     return static_cast<std::size_t>(t);
 }
 
+/// Ten times what the largest network has; damaged tables may claim any number of short rows.
+constexpr std::size_t kMeistePaare = 2'000'000;
+constexpr auto kPaarfelder = std::to_array<std::string_view>({"P1", "P2", "A", "B", "Phi", "mS", "mQ"});
+constexpr std::size_t kNoetigePaarfelder = 5;
+
+bool Enthaelt(const std::vector<std::string_view>& felder, std::string_view feld) {
+    return std::find(felder.begin(), felder.end(), feld) != felder.end();
+}
+
+/// The number of a point, if there is one.
+std::optional<PunktNummernTyp> Punktnummer(const Zelle& zelle) {
+    const auto* text = std::get_if<std::string>(&zelle);
+    if (text == nullptr) return std::nullopt;
+    const std::string nummer = Utf8NachCp1252(*text);
+    if (nummer.empty() || nummer.size() > PunktNummernTyp::kLaenge) return std::nullopt;
+    return PunktNummernTyp(nummer);
+}
+
+std::optional<PunktNummernTyp> ErstePunktnummer(std::span<const Zelle> zeile) {
+    return Punktnummer(zeile.front());
+}
+
 }  // namespace
 
 void TDM::SetzeOrdner(std::filesystem::path ordner) {
@@ -93,13 +115,15 @@ void TDM::SetzeOrdner(std::filesystem::path ordner) {
     ordner_ = std::move(ordner);
     for (std::size_t i = 0; i < staende_.size(); ++i) {
         if (!staende_[i]) continue;
-        datenbank_.EntferneTabelle(kErgebnistabellen[i].name);
+        datenbank_.EntferneTabelle(kTabellen[i].name);
         staende_[i].reset();
     }
     punkte_ = {};
     punktestand_ = {};
     vergleiche_ = {};
     vergleichsstand_ = {};
+    relative_ = {};
+    relativstand_ = {};
 }
 
 bool TDM::Vorhanden(std::string_view datei) const {
@@ -237,23 +261,21 @@ TDM::Zeilenzahl TDM::ZaehleZeilen(Tabelle tabelle, std::string_view abfrage, std
     return {ganz(0), ganz(1)};
 }
 
-/// One walk over the table in place of one query a point: the first row of a number is what that would give.
-template <class Wert, class Fuelle>
-TDM::Punkttafel<Wert> TDM::LiesTafel(const std::string& abfrage, Fuelle fuelle) const {
-    Punkttafel<Wert> tafel;
-    std::vector<PunktNummernTyp> nummern;
+/// One walk over the table in place of one query a point: the first row of a key is what that would give.
+template <class Schluessel, class Wert, class Nenne, class Fuelle>
+TDM::Tafel<Schluessel, Wert> TDM::LiesTafel(const std::string& abfrage, Nenne nenne, Fuelle fuelle) const {
+    Tafel<Schluessel, Wert> tafel;
+    std::vector<Schluessel> namen;
     datenbank_.FuerJedeZeile(abfrage, [&](std::span<const Zelle> zeile) {
-        const auto* text = std::get_if<std::string>(&zeile.front());
-        if (text == nullptr) return;
-        const std::string nummer = Utf8NachCp1252(*text);
-        if (nummer.empty() || nummer.size() > PunktNummernTyp::kLaenge) return;
-        nummern.emplace_back(nummer);
+        const auto name = nenne(zeile);
+        if (!name) return;
+        namen.push_back(*name);
         fuelle(tafel.werte.emplace_back(), zeile);
     });
-    // From the last to the first: the first row of a number is the one that counts.
-    tafel.zu.ErwarteEintraege(nummern.size());
-    for (std::size_t i = nummern.size(); i-- > 0;)
-        tafel.zu.SetzeWert(nummern[i], &tafel.werte[i]);
+    // From the last to the first: the first row of a key is the one that counts.
+    tafel.zu.ErwarteEintraege(namen.size());
+    for (std::size_t i = namen.size(); i-- > 0;)
+        tafel.zu.SetzeWert(namen[i], &tafel.werte[i]);
     return tafel;
 }
 
@@ -275,12 +297,9 @@ TDM::Punkttafel<Punktergebnis> TDM::LiesPunkte(const std::vector<std::string_vie
     constexpr std::size_t kStelleML = 8;
     static_assert(kFelder[kStelleML - 1].first == "mL");
     std::string abfrage = "SELECT KOOTABLE.PKT";
-    const auto fehlt = [&](std::string_view feld) {
-        return std::find(fehlende.begin(), fehlende.end(), feld) != fehlende.end();
-    };
-    if (fehlt("PKT")) return {};
+    if (Enthaelt(fehlende, "PKT")) return {};
     for (const auto& [feld, ziel] : kFelder)
-        abfrage += fehlt(feld) ? ",NULL" : ",KOOTABLE." + std::string(feld);
+        abfrage += Enthaelt(fehlende, feld) ? ",NULL" : ",KOOTABLE." + std::string(feld);
     const auto fuelle = [&](Punktergebnis& ergebnis, std::span<const Zelle> zeile) {
         for (std::size_t i = 0; i < kFelder.size(); ++i)
             NimmZahl(zeile[i + 1], ergebnis.*kFelder[i].second);
@@ -288,11 +307,38 @@ TDM::Punkttafel<Punktergebnis> TDM::LiesPunkte(const std::vector<std::string_vie
         ergebnis.mLBekannt = !std::holds_alternative<std::monostate>(zeile[kStelleML]);
         if (!ergebnis.mLBekannt) ergebnis.mL = 0.0;
     };
-    return LiesTafel<Punktergebnis>(abfrage + " from KOOTABLE order by rowid", fuelle);
+    return LiesTafel<PunktNummernTyp, Punktergebnis>(abfrage + " from KOOTABLE order by rowid",
+                                                     ErstePunktnummer, fuelle);
 }
 
-template <class Wert, class Lies>
-void TDM::ErneuereTafel(Tabelle tabelle, Tafelstand& stand, Punkttafel<Wert>& tafel, Lies lies) {
+TDM::Tafel<TDM::Punktpaar, Relativellipse> TDM::LiesPaare(
+    const std::vector<std::string_view>& fehlende) const {
+    static constexpr std::array kWerte{&Relativellipse::A, &Relativellipse::B, &Relativellipse::Phi,
+                                       &Relativellipse::mS, &Relativellipse::mQ};
+    static_assert(kWerte.size() + 2 == kPaarfelder.size());
+    if (Enthaelt(fehlende, "P1") || Enthaelt(fehlende, "P2")) return {};
+    std::string abfrage;
+    for (const std::string_view feld : kPaarfelder) {
+        abfrage += abfrage.empty() ? "SELECT " : ",";
+        abfrage += Enthaelt(fehlende, feld) ? "NULL" : "RELTABLE." + std::string(feld);
+    }
+    std::size_t zeilen = 0;
+    const auto nenne = [&](std::span<const Zelle> zeile) -> std::optional<Punktpaar> {
+        if (++zeilen > kMeistePaare) throw Fehler("Die Tabelle hat zu viele Zeilen.", "RELTABLE.DB");
+        const auto a = Punktnummer(zeile[0]);
+        const auto b = Punktnummer(zeile[1]);
+        if (!a || !b) return std::nullopt;
+        return Punktpaar(*a, *b);
+    };
+    return LiesTafel<Punktpaar, Relativellipse>(abfrage + " from RELTABLE order by rowid", nenne,
+                                                [](Relativellipse& ellipse, std::span<const Zelle> zeile) {
+                                                    for (std::size_t i = 0; i < kWerte.size(); ++i)
+                                                        NimmZahl(zeile[i + 2], ellipse.*kWerte[i]);
+                                                });
+}
+
+template <class Ziel, class Lies>
+void TDM::ErneuereTafel(Tabelle tabelle, Tafelstand& stand, Ziel& tafel, Lies lies) {
     const auto datei = Datei(tabelle);
     const auto jetzt = datei ? dateien_.Stand(*datei) : std::nullopt;
     if (!jetzt) {
@@ -330,13 +376,26 @@ void TDM::ErneuereVergleich() {
         if (!mangel.text.empty())
             meldungen_.push_back({mangel.text + " Der Vergleich der Koordinaten kann unvollständig sein."});
         if (!mangel.fehlende.empty()) return Punkttafel<Vergleichslage>();
-        return LiesTafel<Vergleichslage>(
+        return LiesTafel<PunktNummernTyp, Vergleichslage>(
             "SELECT POSTKOOTABLE.PKT,POSTKOOTABLE.Y,POSTKOOTABLE.X from POSTKOOTABLE order by rowid",
-            [](Vergleichslage& lage, std::span<const Zelle> zeile) {
+            ErstePunktnummer, [](Vergleichslage& lage, std::span<const Zelle> zeile) {
                 NimmZahl(zeile[1], lage.Y);
                 NimmZahl(zeile[2], lage.X);
             });
     });
+}
+
+void TDM::ErneuereRelative() {
+    ErneuereTafel(Tabelle::RelativeEllipsen, relativstand_, relative_, [this] {
+        const std::span noetige = std::span(kPaarfelder).first(kNoetigePaarfelder);
+        if (const Mangel mangel = PruefeFelder(Tabelle::RelativeEllipsen, noetige); !mangel.text.empty())
+            meldungen_.push_back({mangel.text + " Relative Ellipsen fehlen."});
+        return LiesPaare(PruefeFelder(Tabelle::RelativeEllipsen, kPaarfelder).fehlende);
+    });
+}
+
+const Relativellipse* TDM::RelativeZu(std::string_view a, std::string_view b) const {
+    return relative_.zu.FindeWert(Punktpaar(PunktNummernTyp(a), PunktNummernTyp(b)));
 }
 
 const Vergleichslage* TDM::VergleichZu(std::string_view nummer) const {

@@ -2,6 +2,7 @@
 // database in memory when they are first asked and whenever they have changed, and only ever read.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -78,6 +79,9 @@ class TDM final : public Punktergebnisse {
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override;
     void ErneuereVergleich() override;
     [[nodiscard]] const Vergleichslage* VergleichZu(std::string_view nummer) const override;
+    void ErneuereRelative() override;
+    [[nodiscard]] bool HatRelative() const override { return !relative_.werte.empty(); }
+    [[nodiscard]] const Relativellipse* RelativeZu(std::string_view a, std::string_view b) const override;
     /// What there is to tell since the last call: tables that became unreadable, looked wrong or lack what
     /// drawing needs.
     [[nodiscard]] std::vector<Tabellenmeldung> NimmMeldungen();
@@ -97,18 +101,34 @@ class TDM final : public Punktergebnisse {
         }
     };
     /// Results and the way to them: a picture asks once for every point.
-    template <class Wert>
-    struct Punkttafel {
+    template <class Schluessel, class Wert>
+    struct Tafel {
         std::vector<Wert> werte;
-        Streutafel<PunktNummernTyp, const Wert*> zu;
+        Streutafel<Schluessel, const Wert*> zu;
 
-        Punkttafel() = default;
+        Tafel() = default;
         // A copy would point into the results of the other.
-        Punkttafel(Punkttafel&&) noexcept = default;
-        Punkttafel& operator=(Punkttafel&&) noexcept = default;
-        Punkttafel(const Punkttafel&) = delete;
-        Punkttafel& operator=(const Punkttafel&) = delete;
-        ~Punkttafel() = default;
+        Tafel(Tafel&&) noexcept = default;
+        Tafel& operator=(Tafel&&) noexcept = default;
+        Tafel(const Tafel&) = delete;
+        Tafel& operator=(const Tafel&) = delete;
+        ~Tafel() = default;
+    };
+    template <class Wert>
+    using Punkttafel = Tafel<PunktNummernTyp, Wert>;
+    /// Two point numbers in an order that does not depend on which is named first.
+    struct Punktpaar {
+        PunktNummernTyp a;
+        PunktNummernTyp b;
+
+        Punktpaar() = default;
+        Punktpaar(const PunktNummernTyp& eine, const PunktNummernTyp& andere)
+            : a(std::min(eine, andere, Vor)), b(std::max(eine, andere, Vor)) {}
+        friend bool operator==(const Punktpaar&, const Punktpaar&) = default;
+        [[nodiscard]] std::uint64_t Streuwert(std::uint64_t saat) const {
+            return b.Streuwert(a.Streuwert(saat));
+        }
+        static bool Vor(const PunktNummernTyp& x, const PunktNummernTyp& y) { return x.Text() < y.Text(); }
     };
 
     [[nodiscard]] std::optional<std::filesystem::path> Datei(Tabelle tabelle) const;
@@ -122,21 +142,26 @@ class TDM final : public Punktergebnisse {
         bool vergeblich = false;             ///< that state would fail again
     };
     /// @param lies the table from the database
-    template <class Wert, class Lies>
-    void ErneuereTafel(Tabelle tabelle, Tafelstand& stand, Punkttafel<Wert>& tafel, Lies lies);
-    /// @param abfrage gives point numbers first @param fuelle takes a row
-    template <class Wert, class Fuelle>
-    [[nodiscard]] Punkttafel<Wert> LiesTafel(const std::string& abfrage, Fuelle fuelle) const;
+    template <class Ziel, class Lies>
+    void ErneuereTafel(Tabelle tabelle, Tafelstand& stand, Ziel& tafel, Lies lies);
+    /// @param nenne the key of a row, if it has one @param fuelle takes a row
+    template <class Schluessel, class Wert, class Nenne, class Fuelle>
+    [[nodiscard]] Tafel<Schluessel, Wert> LiesTafel(const std::string& abfrage, Nenne nenne,
+                                                    Fuelle fuelle) const;
     [[nodiscard]] Punkttafel<Punktergebnis> LiesPunkte(const std::vector<std::string_view>& fehlende) const;
+    [[nodiscard]] Tafel<Punktpaar, Relativellipse> LiesPaare(
+        const std::vector<std::string_view>& fehlende) const;
 
     const Dateien& dateien_;
     std::filesystem::path ordner_;
     Datenbank datenbank_;
-    std::array<std::optional<Stand>, kErgebnistabellen.size()> staende_;
+    std::array<std::optional<Stand>, kTabellen.size()> staende_;
     Punkttafel<Punktergebnis> punkte_;
     Tafelstand punktestand_;
     Punkttafel<Vergleichslage> vergleiche_;
     Tafelstand vergleichsstand_;
+    Tafel<Punktpaar, Relativellipse> relative_;
+    Tafelstand relativstand_;
     std::vector<Tabellenmeldung> meldungen_;
 };
 

@@ -232,6 +232,33 @@ TEST_F(Ergebnisse, ZweiteKoordinatenZumVergleich) {
     EXPECT_EQ(daten.VergleichZu("A"), nullptr);
 }
 
+TEST_F(Ergebnisse, RelativeEllipsenJePaar) {
+    daten.ErneuereRelative();
+    EXPECT_FALSE(daten.HatRelative());
+    EXPECT_EQ(Meldungen(), "") << "no table, nothing to tell";
+    LegeTabelleAn(Tabelle::RelativeEllipsen,
+                  {{{"P1", "B"}, {"P2", "A"}, {"A", 3.5}, {"B", 2.0}, {"Phi", 12.5}, {"mQ", 1.25}},
+                   {{"P1", "A"}, {"P2", "B"}, {"A", 9.0}},
+                   {{"P1", "A"}, {"A", 1.0}}});
+    daten.ErneuereRelative();
+    ASSERT_NE(daten.RelativeZu("A", "B"), nullptr);
+    const Relativellipse& e = *daten.RelativeZu("A", "B");
+    EXPECT_EQ(daten.RelativeZu("B", "A"), &e);
+    EXPECT_EQ((std::array{e.A, e.B, e.Phi, e.mQ}), (std::array{3.5, 2.0, 12.5, 1.25})) << "the first row";
+    EXPECT_TRUE(std::isnan(e.mS));
+    EXPECT_EQ(daten.RelativeZu("A", ""), nullptr);
+    dateien.dateien["netz/RELTABLE.DB"].resize(1000);
+    daten.ErneuereRelative();
+    daten.ErneuereRelative();
+    EXPECT_TRUE(Meldungen().starts_with("unlesbar RELTABLE.DB: "));
+    EXPECT_TRUE(daten.HatRelative()) << "what was read stays";
+    const std::vector<paradox::Feld> ohne{{"ID", Feldtyp::Lang, 4}, {"P1", Feldtyp::Alpha, 14}};
+    dateien.dateien["netz/RELTABLE.DB"] = paradox::SchreibeTabelle("R", ohne, {}, 0).db;
+    daten.ErneuereRelative();
+    EXPECT_EQ(Meldungen(), "RELTABLE.DB: Der Tabelle fehlt: P2, A, B, Phi. Relative Ellipsen fehlen.\n");
+    EXPECT_FALSE(daten.HatRelative());
+}
+
 TEST_F(Ergebnisse, MarkiertDieGekennzeichneten) {
     Probenetz n;
     for (const char* name : {"1", "2", "3", "4", "5", "6", "7"}) {
