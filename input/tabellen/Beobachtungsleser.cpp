@@ -174,12 +174,25 @@ class Tabellenlesung {
     double groessterEV_ = 0.0;
 };
 
+void NimmRelative(const TDM& daten, Beobachtungsliste& liste) {
+    for (Beobachtung& b : liste.zeilen) {
+        const Relativellipse* e = b.nach.Leer() ? nullptr : daten.RelativeZu(b.von.Text(), b.nach.Text());
+        if (e == nullptr) continue;
+        b.werte[static_cast<std::size_t>(Messwert::RelA)] = e->A;
+        b.werte[static_cast<std::size_t>(Messwert::RelB)] = e->B;
+        b.werte[static_cast<std::size_t>(Messwert::RelPhi)] = e->Phi;
+    }
+}
+
 }  // namespace
 
 Beobachtungsliste LiesBeobachtungen(TDM& daten) {
     Beobachtungsliste liste;
     for (const Leseplan& plan : kLeseplaene)
         Tabellenlesung(plan).Lies(daten, liste);
+    daten.ErneuereRelative();
+    liste.hatRelative = daten.HatRelative();
+    if (liste.hatRelative) NimmRelative(daten, liste);
     return liste;
 }
 
@@ -187,7 +200,8 @@ Beobachtungsstand StandDerBeobachtungen(const TDM& daten) {
     Beobachtungsstand stand;
     for (const Leseplan& plan : kLeseplaene)
         stand[static_cast<std::size_t>(plan.gattung)] = daten.StandVon(plan.tabelle);
-    stand.back() = daten.StandVon(Tabelle::Koordinaten);
+    stand[kGattungen] = daten.StandVon(Tabelle::Koordinaten);
+    stand[kGattungen + 1] = daten.StandVon(Tabelle::RelativeEllipsen);
     return stand;
 }
 

@@ -13,8 +13,8 @@ namespace zrw {
 /// why: nothing of an earlier state is left over. Never throws for what is in the files.
 [[nodiscard]] Beobachtungsliste LiesBeobachtungen(TDM& daten);
 
-/// Tells one state of the tables from a later one; the last is that of the points.
-using Beobachtungsstand = std::array<std::optional<Dateistand>, kGattungen + 1>;
+/// Tells one state of the tables from a later one; the last are those of points and of relative ellipses.
+using Beobachtungsstand = std::array<std::optional<Dateistand>, kGattungen + 2>;
 [[nodiscard]] Beobachtungsstand StandDerBeobachtungen(const TDM& daten);
 
 }  // namespace zrw

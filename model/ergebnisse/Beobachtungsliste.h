@@ -57,7 +57,8 @@ inline constexpr std::size_t kGattungen = kBeobachtungsgattungen.size();
 }
 
 /// The numbers of an observation. What they mean, and in which unit, is the adjustment's own.
-enum class Messwert : std::uint8_t { Wert, V, TG, EV, GF, GRZW, EP, NMF, Anzahl };
+/// The last three are those of the ellipse of one end against the other.
+enum class Messwert : std::uint8_t { Wert, V, TG, EV, GF, GRZW, EP, NMF, RelA, RelB, RelPhi, Anzahl };
 
 /// Of several values of a column, of components or of the observations of a line, which one counts.
 enum class Auswahlregel : std::uint8_t { GroessterBetrag, Kleinster };
@@ -78,6 +79,9 @@ inline constexpr auto kMesswerte = std::to_array<Messwertspalte>({
     {Messwert::GRZW, "GRZW", "Grenzwert"},
     {Messwert::EP, "EP", "Einfluss auf den Punkt"},
     {Messwert::NMF, "NMF", "Standardabweichung der ausgeglichenen Beobachtung"},
+    {Messwert::RelA, "relA", "große Halbachse der relativen Ellipse"},
+    {Messwert::RelB, "relB", "kleine Halbachse der relativen Ellipse"},
+    {Messwert::RelPhi, "relPhi", "Richtung der großen Halbachse der relativen Ellipse"},
 });
 static_assert(InReihe(kMesswerte, &Messwertspalte::wert));
 
@@ -130,6 +134,7 @@ struct Tabellenlage {
 struct Beobachtungsliste {
     std::vector<Beobachtung> zeilen;  ///< table by table in their order, each in the order of its file
     std::array<Tabellenlage, kGattungen> tabellen{};
+    bool hatRelative = false;  ///< there is a table of relative ellipses
 
     [[nodiscard]] const Tabellenlage& Lage(Beobachtungstabelle t) const {
         return tabellen[static_cast<std::size_t>(t)];

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -29,6 +30,9 @@ enum class Listenspalte : std::uint8_t {
     NMF,
     FF,
     NK,
+    RelA,
+    RelB,
+    RelPhi,
     Anzahl
 };
 
@@ -53,8 +57,19 @@ inline constexpr auto kListenspalten = std::to_array<Spaltenbeschreibung>({
     {Listenspalte::NMF, "NMF", Messwert::NMF},
     {Listenspalte::FF, "FF"},
     {Listenspalte::NK, "NK"},
+    {Listenspalte::RelA, "relA", Messwert::RelA},
+    {Listenspalte::RelB, "relB", Messwert::RelB},
+    {Listenspalte::RelPhi, "relPhi", Messwert::RelPhi},
 });
 static_assert(InReihe(kListenspalten, &Spaltenbeschreibung::spalte));
+
+/// Those of a list: relative ellipses only where there are any.
+using Spalten = std::span<const Spaltenbeschreibung>;
+inline constexpr Spalten kUeblicheSpalten =
+    Spalten(kListenspalten).first(static_cast<std::size_t>(Listenspalte::NK) + 1);
+[[nodiscard]] inline Spalten SpaltenVon(const Beobachtungsliste& liste) {
+    return liste.hatRelative ? Spalten(kListenspalten) : kUeblicheSpalten;
+}
 
 struct Listenfilter {
     std::array<bool, kGattungen> gattungen = [] {

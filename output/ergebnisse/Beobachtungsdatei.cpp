@@ -6,7 +6,6 @@
 #include "model/Cp1252.h"
 #include "model/Trennfeld.h"
 #include "model/Zahlentext.h"
-#include "model/ergebnisse/Listenordnung.h"
 #include "model/ergebnisse/Statistik.h"
 #include "output/Textausgabe.h"
 
@@ -59,16 +58,16 @@ void Schliesse(Textausgabe& aus) {
 
 }  // namespace
 
-std::string Spaltenzeile() {
+std::string Spaltenzeile(Spalten spalten) {
     std::string zeile;
-    for (const Spaltenbeschreibung& s : kListenspalten)
+    for (const Spaltenbeschreibung& s : spalten)
         zeile += (zeile.empty() ? std::string() : std::string(1, kFeldtrenner)) + std::string(s.name);
     return zeile;
 }
 
-std::string Beobachtungszeile(const Beobachtung& b) {
+std::string Beobachtungszeile(const Beobachtung& b, Spalten spalten) {
     std::string zeile;
-    for (const Spaltenbeschreibung& s : kListenspalten) {
+    for (const Spaltenbeschreibung& s : spalten) {
         if (s.spalte != Listenspalte::Tabelle) zeile += kFeldtrenner;
         zeile += Feldtext(b, s);
     }
@@ -77,9 +76,10 @@ std::string Beobachtungszeile(const Beobachtung& b) {
 
 void SchreibeBeobachtungen(const Beobachtungsliste& liste, std::unique_ptr<Dateischreiber> datei) {
     Textausgabe aus(std::move(datei));
-    aus.NimmText(Spaltenzeile() + '\n');
+    const Spalten spalten = SpaltenVon(liste);
+    aus.NimmText(Spaltenzeile(spalten) + '\n');
     for (const std::uint32_t i : OrdneZeilen(liste, {}, {}))
-        aus.NimmText(Beobachtungszeile(liste.zeilen[i]) + '\n');
+        aus.NimmText(Beobachtungszeile(liste.zeilen[i], spalten) + '\n');
     Schliesse(aus);
 }
 

@@ -5,15 +5,15 @@
 #include <string>
 
 #include "model/Dateien.h"
-#include "model/ergebnisse/Beobachtungsliste.h"
+#include "model/ergebnisse/Listenordnung.h"
 
 namespace zrw {
 
 /// The names of the columns, separated by semicolons, without a line end.
-[[nodiscard]] std::string Spaltenzeile();
+[[nodiscard]] std::string Spaltenzeile(Spalten spalten = kUeblicheSpalten);
 /// A row in the same form, UTF-8: numbers as the shortest decimals that read back, flags 0 or 1, what is
 /// missing empty.
-[[nodiscard]] std::string Beobachtungszeile(const Beobachtung& b);
+[[nodiscard]] std::string Beobachtungszeile(const Beobachtung& b, Spalten spalten = kUeblicheSpalten);
 
 /// Comma-separated values (RFC 4180, but with semicolons and line feeds), UTF-8 without a byte order mark:
 /// all rows by |TG| falling.

@@ -117,6 +117,21 @@ TEST_F(Beobachtungen, NurWasJetztInDenDateienSteht) {
     EXPECT_EQ(LiesBeobachtungen(daten).Lage(T::Strecken).zustand, Lesezustand::Fehlt);
 }
 
+TEST_F(Beobachtungen, RelativeEllipsenSindWeitereSpalten) {
+    LegeTabelleAn(Tabelle::Strecken, 1, {{{"P1", "A"}, {"P2", "B"}}, {{"P1", "A"}, {"P2", "C"}}});
+    const auto datei = [this] {
+        SchreibeBeobachtungen(LiesBeobachtungen(daten), dateien.BeginneDatei("liste"));
+        return dateien.dateien["liste"];
+    };
+    EXPECT_EQ(datei().find("rel"), std::string::npos);
+    const Beobachtungsstand vorher = StandDerBeobachtungen(daten);
+    LegeTabelleAn(Tabelle::RelativeEllipsen, 1, {{{"P1", "B"}, {"P2", "A"}, {"A", 3.5}, {"Phi", 7.0}}});
+    EXPECT_NE(StandDerBeobachtungen(daten), vorher);
+    EXPECT_EQ(datei(), Spaltenzeile() +
+                           ";relA;relB;relPhi\nSTRTABLE;1;A;B;;;;;;;;;0;0;3.5;;7\n"
+                           "STRTABLE;2;A;C;;;;;;;;;0;0;;;\n");
+}
+
 TEST_F(Beobachtungen, StatistikUndHistogramm) {
     std::vector<std::vector<std::pair<std::string_view, Wert>>> zeilen;
     for (const double tg : {0.5, -0.75, 1.0, 1.5, -2.0, 3.29, 3.5, -30.0})

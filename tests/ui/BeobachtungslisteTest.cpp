@@ -109,6 +109,18 @@ TEST_F(Beobachtungsprobe, SagtBeimOeffnenWieVieleEsSind) {
     EXPECT_FALSE(hinweis.isVisible());
 }
 
+TEST_F(Beobachtungsprobe, SpaltenRelativerEllipsenKommenMitIhrerTabelle) {
+    OeffneListe();
+    EXPECT_EQ(Liste().model()->columnCount(), 14);
+    ASSERT_EQ(Enden(0), "NB22 → NB01");
+    const std::vector<std::vector<paradox::Wert>> zeilen{
+        {std::int64_t{1}, "NB01", "NB22", 12.5, 4.0, 30.0, {}, {}}};
+    ErzeugeTabelle(dateien, ordner.path().toStdString(), Tabelle::RelativeEllipsen, zeilen, 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Liste().model()->columnCount() == 17; }));
+    EXPECT_EQ(Zelle(0, Listenspalte::RelA), "12.5");
+    EXPECT_EQ(Liste().columnWidth(15), Liste().columnWidth(14)) << "as wide as their numbers";
+}
+
 TEST_F(Beobachtungsprobe, ListetOrdnetUndFiltert) {
     OeffneListe();
     EXPECT_EQ(Anzahl(), "937 von 937 Beobachtungen");

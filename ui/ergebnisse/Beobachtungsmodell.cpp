@@ -79,7 +79,7 @@ int Beobachtungsmodell::rowCount(const QModelIndex& eltern) const {
 }
 
 int Beobachtungsmodell::columnCount(const QModelIndex& eltern) const {
-    return eltern.isValid() ? 0 : static_cast<int>(kListenspalten.size());
+    return eltern.isValid() ? 0 : static_cast<int>(SpaltenVon(*liste_).size());
 }
 
 QVariant Beobachtungsmodell::data(const QModelIndex& stelle, int rolle) const {

@@ -39,7 +39,10 @@ constexpr std::array<const char*, kListenspalten.size()> kMuster{"Höhenuntersch
                                                                  "-0000.00",
                                                                  "0000.00",
                                                                  "● FF",
-                                                                 "NK"};
+                                                                 "NK",
+                                                                 "0000.000",
+                                                                 "0000.000",
+                                                                 "000.000"};
 
 }  // namespace
 
@@ -85,13 +88,9 @@ void Beobachtungsseite::BaueTabelle() {
     // The order that the model begins with; the largest first is what everybody looks for.
     tabelle_->horizontalHeader()->setSortIndicator(static_cast<int>(Listenspalte::TG), Qt::DescendingOrder);
     tabelle_->setSortingEnabled(true);
-    QFont fett = tabelle_->font();  // as flagged rows are
-    fett.setBold(true);
-    for (std::size_t s = 0; s < kMuster.size(); ++s) {
-        constexpr int kLuft = 14;
-        const QString muster = QString::fromUtf8(kMuster[s]);
-        tabelle_->setColumnWidth(static_cast<int>(s), QFontMetrics(fett).horizontalAdvance(muster) + kLuft);
-    }
+    SetzeBreiten(0, modell_.columnCount());
+    connect(tabelle_->horizontalHeader(), &QHeaderView::sectionCountChanged, this,
+            [this](int vorher, int jetzt) { SetzeBreiten(vorher, jetzt); });
     connect(&modell_, &QAbstractItemModel::modelAboutToBeReset, this,
             [this] { gemerkt_ = GewaehlteStellen(); });
     connect(&modell_, &QAbstractItemModel::modelReset, this, [this] { WaehleStellen(gemerkt_); });
@@ -101,6 +100,17 @@ void Beobachtungsseite::BaueTabelle() {
     // The row may be selected already, and the picture have gone elsewhere.
     connect(tabelle_, &QTableView::clicked, this, [this] { ZeigeGewaehlte(); });
     tabelle_->installEventFilter(this);
+}
+
+/// Of columns that have come.
+void Beobachtungsseite::SetzeBreiten(int von, int bis) {
+    constexpr int kLuft = 14;
+    QFont fett = tabelle_->font();  // as flagged rows are
+    fett.setBold(true);
+    for (int s = von; s < bis; ++s) {
+        const QString muster = QString::fromUtf8(kMuster[static_cast<std::size_t>(s)]);
+        tabelle_->setColumnWidth(s, QFontMetrics(fett).horizontalAdvance(muster) + kLuft);
+    }
 }
 
 void Beobachtungsseite::BaueMenue() {
@@ -203,16 +213,16 @@ void Beobachtungsseite::WaehleStellen(const std::vector<bool>& stellen) {
 void Beobachtungsseite::KopiereZeilen(bool alles) {
     const std::vector<bool> gewaehlt = GewaehlteStellen();
     QString text;
-    for (const Spaltenbeschreibung& s : kListenspalten) {
-        if (alles)
-            text += AusUtf8(s.name) + QLatin1Char(s.spalte == kListenspalten.back().spalte ? '\n' : '\t');
+    const Spalten spalten = SpaltenVon(modell_.Liste());
+    for (const Spaltenbeschreibung& s : spalten) {
+        if (alles) text += AusUtf8(s.name) + QLatin1Char(s.spalte == spalten.back().spalte ? '\n' : '\t');
     }
     qsizetype zeilen = 0;
     for (int zeile = 0; zeile < modell_.rowCount(); ++zeile) {
         if (!alles && !gewaehlt[modell_.Stelle(zeile)]) continue;
         ++zeilen;
         QStringList zellen;
-        for (const Spaltenbeschreibung& s : kListenspalten)
+        for (const Spaltenbeschreibung& s : spalten)
             zellen << Zellentext(modell_.Zeile(zeile), s.spalte);
         text += zellen.join(QLatin1Char('\t')) + QLatin1Char('\n');
     }

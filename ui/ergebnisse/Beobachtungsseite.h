@@ -49,6 +49,7 @@ class Beobachtungsseite final : public QWidget {
   private:
     void BaueTabelle();
     void BaueMenue();
+    void SetzeBreiten(int von, int bis);
     void ZeigeListe();
     void ZeigeAnzahl();
     void ZeigeGewaehlte();
