@@ -50,8 +50,13 @@ struct Darstellung : Residuendarstellung {
     }
     /// Whether any of the overlays with results is on, with the scale bar that comes with them.
     [[nodiscard]] bool ZeigtErgebnisse() const {
-        return ShowLgRes || ShowHRes || ShowLGGen || LGGenOn || ShowHGen || ShowKooVergleich;
+        return ZeigtPunktergebnisse() || LGGenOn || ShowRelEllipsen;
     }
+    /// Those of points.
+    [[nodiscard]] bool ZeigtPunktergebnisse() const {
+        return ShowLgRes || ShowHRes || ShowLGGen || ShowHGen || ShowKooVergleich;
+    }
+    [[nodiscard]] bool ZeigtEllipsen() const { return ShowLGGen || ShowRelEllipsen; }
 };
 
 }  // namespace zrw

@@ -9,6 +9,7 @@ struct Residuendarstellung {
     static constexpr double kVertrauen95 = 2.4477468306808166;
 
     bool ShowKooVergleich = false;  ///< second list of coordinates minus the adjusted ones, as vectors
+    bool ShowRelEllipsen = false;   ///< ellipses of one end of a line against the other
     bool Residuenpfeile = false;    ///< residuals with a head and a wide pen
     bool EllipsenGefuellt = false;  ///< with what lies below shining through
     bool Ellipsen95 = false;        ///< not the standard ellipse
@@ -21,7 +22,7 @@ struct Residuendarstellung {
     }
     /// Whether anything is drawn in another than the usual way.
     [[nodiscard]] bool WeichtAb() const {
-        return ShowKooVergleich || Residuenpfeile || EllipsenGefuellt || Ellipsen95 ||
+        return ShowKooVergleich || ShowRelEllipsen || Residuenpfeile || EllipsenGefuellt || Ellipsen95 ||
                EigenerEllipsenmassstab();
     }
 };

@@ -115,6 +115,10 @@ void Erklaerungsbild::NimmErgebnisse() {
         NimmZeile(d.Ellipsen95 ? "Fehlerellipse der Lage, 95 %" : "Fehlerellipse der Lage",
                   [this](Bildpunkt m) { Ellipse(m); });
     }
+    if (d.ShowRelEllipsen) {
+        NimmZeile(d.Ellipsen95 ? "Relative Fehlerellipse, 95 %" : "Relative Fehlerellipse",
+                  [this](Bildpunkt m) { Ellipse(m, Strichart::Gestrichelt); });
+    }
     if (d.ShowHGen) {
         NimmZeile("Standardabweichung der Höhe (mH)", [this](Bildpunkt m) {
             const std::int64_t h = Dots(6);
@@ -125,7 +129,7 @@ void Erklaerungsbild::NimmErgebnisse() {
         });
     }
     if (!d.ZeigtErgebnisse()) return;
-    const bool eigener = d.ShowLGGen && d.EigenerEllipsenmassstab();
+    const bool eigener = d.ZeigtEllipsen() && d.EigenerEllipsenmassstab();
     NimmMassstab(eigener ? "Verbesserung" : "Verbesserung oder Halbachse", groessen_.ResMF);
     if (eigener) NimmMassstab("Halbachse der Fehlerellipse", d.Ellipsenmassstab);
 }
@@ -135,7 +139,7 @@ void Erklaerungsbild::Vektor(Farbe farbe, Bildpunkt von, Bildpunkt nach, Stricha
     Residuenbild(zustand_, groessen_, v_).ZeichneVektor(von, nach, farbe, art);
 }
 
-void Erklaerungsbild::Ellipse(Bildpunkt mitte) const {
+void Erklaerungsbild::Ellipse(Bildpunkt mitte, Strichart art) const {
     constexpr Gon kSchraeg{25};
     const auto a = static_cast<double>(Dots(14));
     const auto b = static_cast<double>(Dots(5));
@@ -144,7 +148,7 @@ void Erklaerungsbild::Ellipse(Bildpunkt mitte) const {
     const Stiftwechsel stift(flaeche_, {groessen_.LGGCol, 1, Strichart::Voll}, {kWeiss, true});
     const Residuenbild bild(zustand_, groessen_, v_);
     if (v_.darstellung.EllipsenGefuellt) bild.FuelleEllipse(kSchraeg, a, b, x, y, groessen_.LGGCol);
-    bild.DrawEllipse(kSchraeg, a, b, x, y);
+    bild.DrawEllipse(kSchraeg, a, b, x, y, art);
 }
 
 /// A stroke of round length. Sizes of results may be anything, also turned round.

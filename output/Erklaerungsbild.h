@@ -51,7 +51,7 @@ class Erklaerungsbild {
     void Strich(Farbe farbe, Bildpunkt von, Bildpunkt nach) const;
     // As they are drawn in the plan.
     void Vektor(Farbe farbe, Bildpunkt von, Bildpunkt nach, Strichart art = Strichart::Voll) const;
-    void Ellipse(Bildpunkt mitte) const;
+    void Ellipse(Bildpunkt mitte, Strichart art = Strichart::Voll) const;
 
     const Zeichenzustand& zustand_;
     const Einstellungen& groessen_;

@@ -394,7 +394,7 @@ void Figurenzeichner::ZeichneMassbalken(const Bildvorlage& v) {
     const Rechteck s = f.Sichtbar();
     const std::int64_t hoehe = f.Texthoehe();
     const bool eng = v.darstellung.ZeigtErgebnisse() && s.rechts - s.links < kZeilen * hoehe;
-    const bool zwei = v.darstellung.ShowLGGen && v.darstellung.EigenerEllipsenmassstab();
+    const bool zwei = v.darstellung.ZeigtEllipsen() && v.darstellung.EigenerEllipsenmassstab();
     ZeichneBalken(f, *balken, eng ? (zwei ? 7 : 4) * hoehe : 0);
 }
 

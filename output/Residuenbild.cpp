@@ -30,6 +30,9 @@ constexpr double kFussbreite = 2.0;  ///< half width of the end strokes [mm]
 /// Beyond the figure itself: rounding, and what wide pens add.
 constexpr double kZeichenrand = 8.0;
 
+constexpr double kStrichlaenge = 5.0;  ///< of dashed ellipses, about [px]
+constexpr double kLueckenlaenge = 3.0;
+
 constexpr int kFuellung = 12;             ///< of an ellipse: so much is covered [%]
 constexpr std::int32_t kPfeilstift = 2;   ///< width of the pen of arrows
 constexpr double kPfeilspitze = 9.0;      ///< length of their heads [px]
@@ -70,6 +73,24 @@ std::size_t Eckwinkel(double umfang) {
     return static_cast<std::size_t>(2 * std::max<std::int64_t>(halber, kKleinsterWinkel / 2));
 }
 
+/// Which sides of an ellipse are drawn.
+struct Takt {
+    std::size_t gezogene = 1;
+    std::size_t alle = 1;  ///< drawn ones, and those of the gap behind them
+    [[nodiscard]] bool Gezogen(std::size_t seite) const { return seite % alle < gezogene; }
+};
+
+/// @param seite length of a side, not below 0 @param faktor dots per pixel
+Takt Strichtakt(double seite, double faktor) {
+    const auto seiten = [&](double pixel) {
+        const double anzahl = pixel * faktor / seite;
+        return anzahl < kVollkreis ? std::max<std::size_t>(1, static_cast<std::size_t>(std::lround(anzahl)))
+                                   : kVollkreis;
+    };
+    const std::size_t gezogene = seiten(kStrichlaenge);
+    return {gezogene, gezogene + seiten(kLueckenlaenge)};
+}
+
 /// Whole dots of a residual, towards zero.
 std::int64_t Ganze(double v) {
     return RundeZuInt64(std::trunc(v));
@@ -94,6 +115,7 @@ std::string Balkentitel(const Darstellung& d, bool mitEllipsen) {
     nimm(d.ShowHGen, "Höhengenauigkeit");
     nimm(d.ShowKooVergleich, "Koordinatenvergleich");
     nimm(d.ShowLGGen && mitEllipsen, d.Ellipsen95 ? "Ellipsen 95 %" : "Ellipsen");
+    nimm(d.ShowRelEllipsen && mitEllipsen, d.Ellipsen95 ? "relative Ellipsen 95 %" : "relative Ellipsen");
     return titel;
 }
 
@@ -125,11 +147,16 @@ void Residuenbild::Strich(Bildpunkt von, Bildpunkt nach) const {
 
 void Residuenbild::ZeichnePunktRes(Punktergebnisse& ergebnisse) const {
     const Darstellung& d = v_.darstellung;
-    if (!d.ShowLgRes && !d.ShowHRes && !d.ShowLGGen && !d.ShowHGen && !d.ShowKooVergleich) return;
-    ergebnisse.ErneuereErgebnisse();
+    const bool punkte = d.ZeigtPunktergebnisse();
+    if (!punkte && !d.ShowRelEllipsen) return;
+    if (d.ShowRelEllipsen) ergebnisse.ErneuereRelative();
+    if (punkte) ergebnisse.ErneuereErgebnisse();
     if (d.ShowKooVergleich) ergebnisse.ErneuereVergleich();
     const Stiftwechsel wechsel(flaeche_, {}, {kWeiss, true});
+    if (d.ShowRelEllipsen && d.EllipsenGefuellt) ZeichneRelative(ergebnisse, true);
     if (d.ShowLGGen && d.EllipsenGefuellt) FuelleEllipsen(ergebnisse);
+    if (d.ShowRelEllipsen) ZeichneRelative(ergebnisse, false);
+    if (!punkte) return;
     FuerNummerierte(v_, [&](const PunktKnoten& p, std::string_view nummer) {
         const Punktergebnis* e = ergebnisse.ErgebnisZu(nummer);
         if (e == nullptr) return;
@@ -179,6 +206,24 @@ void Residuenbild::Fehlerellipse(Bildpunkt ort, const Punktergebnis& e) const {
                 static_cast<double>(ort.y));
 }
 
+/// At the middle of their lines, in the colour of those of points, but dashed. @param gefuellt their areas
+void Residuenbild::ZeichneRelative(const Punktergebnisse& ergebnisse, bool gefuellt) const {
+    Bildorte orte(v_.netz, v_.ansicht);
+    SetzeStift(einstellungen_.LGGCol, 1);
+    FuerRelative(v_, ergebnisse, [&](const PunktKante& k, const Relativellipse& r) {
+        const Bildpunkt anfang = orte.Anfang(k);
+        const Bildpunkt ende = orte.Ende(k);
+        const double x = (static_cast<double>(anfang.x) + static_cast<double>(ende.x)) / 2;
+        const double y = (static_cast<double>(anfang.y) + static_cast<double>(ende.y)) / 2;
+        const Gon phi{-(r.Phi + 100)};
+        if (gefuellt) {
+            FuelleEllipse(phi, r.A * ellipsen_, r.B * ellipsen_, x, y, einstellungen_.LGGCol);
+        } else {
+            DrawEllipse(phi, r.A * ellipsen_, r.B * ellipsen_, x, y, Strichart::Gestrichelt);
+        }
+    });
+}
+
 /// In the colour of residuals of the position, but dashed.
 void Residuenbild::Vergleichsvektor(Bildpunkt ort, const Punktergebnis& e, const Vergleichslage& lage) const {
     const Lageabweichung abweichung = AbweichungVon(e, lage);
@@ -223,6 +268,7 @@ void Residuenbild::Hoehengenauigkeit(Bildpunkt ort, double mH) const {
 struct Residuenbild::Ellipsenform {
     Richtung alpha;
     double a, b, x0, y0;
+    double umfang;
     std::size_t winkel;  ///< from one corner to the next [gon]
     bool ganz;           ///< all of it can be seen
 
@@ -248,17 +294,23 @@ std::optional<Residuenbild::Ellipsenform> Residuenbild::Form(Gon phi, double a, 
     const double unten = y0 + reichweite;
     if (rechts < s.links || links > s.rechts || unten < s.oben || oben > s.unten) return std::nullopt;
     const bool ganz = links >= s.links && rechts <= s.rechts && oben >= s.oben && unten <= s.unten;
-    return Ellipsenform{RichtungVon(phi.wert), a, b, x0, y0, Eckwinkel(umfang), ganz};
+    return Ellipsenform{RichtungVon(phi.wert), a, b, x0, y0, std::fabs(umfang), Eckwinkel(umfang), ganz};
 }
 
-void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0) const {
+void Residuenbild::DrawEllipse(Gon phi, double a, double b, double x0, double y0, Strichart art) const {
     const auto form = Form(phi, a, b, x0, y0);
     if (!form) return;
+    const bool gestrichelt = art == Strichart::Gestrichelt;
+    const double seitenlaenge = form->umfang * static_cast<double>(form->winkel) / kVollkreis;
+    const Takt takt = gestrichelt ? Strichtakt(seitenlaenge, geraetefaktor_) : Takt{};
     Bildpunkt vorige = form->Ecke(0);
-    for (std::size_t t = 0; t <= kVollkreis;) {
+    const std::size_t ende = gestrichelt ? kVollkreis : kVollkreis + 1;
+    for (std::size_t t = 0, seite = 0; t < ende; ++seite) {
         t += form->winkel;
         const Bildpunkt naechste = form->Ecke(t);
-        if (form->ganz) {
+        if (!takt.Gezogen(seite)) {
+            // a gap
+        } else if (form->ganz) {
             flaeche_.Linie(Aufflaeche(vorige), Aufflaeche(naechste));
         } else {
             Strich(vorige, naechste);
@@ -282,7 +334,7 @@ void Residuenbild::FuelleEllipse(Gon phi, double a, double b, double x0, double 
 void Residuenbild::DrawResMasstab() const {
     const Darstellung& d = v_.darstellung;
     if (!d.ZeigtErgebnisse()) return;
-    const bool eigener = d.EigenerEllipsenmassstab() && d.ShowLGGen;
+    const bool eigener = d.EigenerEllipsenmassstab() && d.ZeigtEllipsen();
     const std::string titel = d.WeichtAb() ? Balkentitel(d, !eigener) : "";
     // Where only ellipses are drawn there is nothing to tell them from.
     const bool gemeinsamer = !eigener || !titel.empty();

@@ -1,6 +1,7 @@
-// The adjustment's results over the network: residuals as lines, accuracies as ellipses and bars, and the bar
-// that tells how long a residual is drawn. On screen and paper only, never in an export. Pens have the widths
-// 1 and 2 on every surface: printers widen all pens of the plot alike.
+// The adjustment's results over the network: residuals as lines, accuracies as ellipses and bars, those of
+// one point against another at the middle of their line, and the bar that tells how long a residual is drawn.
+// On screen and paper only, never in an export. Pens have the widths 1 and 2 on every surface: printers widen
+// all pens of the plot alike.
 #pragma once
 
 #include <cstdint>
@@ -33,7 +34,9 @@ class Residuenbild {
     /// @param phi  rotation of the first axis from the right, counter-clockwise [gon]
     /// @param a,b  semi-axes [dots], any number
     /// @param x0,y0  centre [dots]
-    void DrawEllipse(Gon phi, double a, double b, double x0, double y0) const;
+    /// @param art  dashes are left out sides: a pen would begin anew at each of them
+    void DrawEllipse(Gon phi, double a, double b, double x0, double y0,
+                     Strichart art = Strichart::Voll) const;
 
     /// Fills an ellipse with what lies below shining through.
     void FuelleEllipse(Gon phi, double a, double b, double x0, double y0, Farbe farbe) const;
@@ -56,6 +59,7 @@ class Residuenbild {
     void SetzeStift(Farbe farbe, std::int32_t breite) const;
     [[nodiscard]] std::optional<Ellipsenform> Form(Gon phi, double a, double b, double x0, double y0) const;
     void FuelleEllipsen(const Punktergebnisse& ergebnisse) const;
+    void ZeichneRelative(const Punktergebnisse& ergebnisse, bool gefuellt) const;
     void Punktbild(Bildpunkt ort, const Punktergebnis& e) const;
     void Fehlerellipse(Bildpunkt ort, const Punktergebnis& e) const;
     void Vergleichsvektor(Bildpunkt ort, const Punktergebnis& e, const Vergleichslage& lage) const;

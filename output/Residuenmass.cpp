@@ -34,9 +34,15 @@ Lageabweichung AbweichungVon(const Punktergebnis& ergebnis, const Vergleichslage
 
 Residuenmass MissResiduen(const Bildvorlage& v, Punktergebnisse& ergebnisse) {
     const Darstellung& d = v.darstellung;
+    Residuenmass mass;
+    if (d.ShowRelEllipsen) {
+        ergebnisse.ErneuereRelative();
+        FuerRelative(v, ergebnisse, [&](const PunktKante& /*k*/, const Relativellipse& r) {
+            NimmGroesseres(mass.ellipse, std::max(r.A, r.B));
+        });
+    }
     ergebnisse.ErneuereErgebnisse();
     if (d.ShowKooVergleich) ergebnisse.ErneuereVergleich();
-    Residuenmass mass;
     FuerNummerierte(v, [&](const PunktKnoten& /*p*/, std::string_view nummer) {
         const Punktergebnis* e = ergebnisse.ErgebnisZu(nummer);
         if (e == nullptr) return;

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "model/Bildvorlage.h"
+#include "model/Gezeigt.h"
 #include "model/Punktergebnisse.h"
 
 namespace zrw {
@@ -17,6 +18,20 @@ void FuerNummerierte(const Bildvorlage& v, Tun tun) {
         if (!v.darstellung.Dargestellt(*p->Item) || !v.Gezeichnet(*p)) continue;
         const PktText* text = v.netz.FindPktText(p->PNr);
         if (text != nullptr && !text->Aus.Leer()) tun(*p, text->Aus.Text());
+    }
+}
+
+/// Calls `tun` with each line that is shown and has an ellipse of one end against the other.
+template <class Tun>
+void FuerRelative(const Bildvorlage& v, const Punktergebnisse& ergebnisse, Tun tun) {
+    if (!v.darstellung.ShowBeob || !ergebnisse.HatRelative()) return;
+    Gezeigt gezeigt(v.netz, v.darstellung);
+    for (const PunktKante* k = v.netz.KanteKnoten; k != nullptr; k = k->Next) {
+        if (!v.Gezeichnet(*k) || !gezeigt(*k)) continue;
+        const PktText* a = v.netz.FindPktText(k->ANr);
+        const PktText* e = v.netz.FindPktText(k->ENr);
+        if (a == nullptr || e == nullptr) continue;
+        if (const Relativellipse* r = ergebnisse.RelativeZu(a->Aus.Text(), e->Aus.Text())) tun(*k, *r);
     }
 }
 

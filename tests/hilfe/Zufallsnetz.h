@@ -66,7 +66,7 @@ class Zufallsnetz {
         for (bool Darstellung::*s : {&Liste::ShowKMQ, &Liste::ShowLegende})
             liste.*s = W(0, 4) == 0;
         liste.ShowMassbalken = liste.ShowKMQ;
-        liste.ShowKooVergleich = liste.ShowLegende;
+        liste.ShowKooVergleich = liste.ShowRelEllipsen = liste.ShowLegende;
     }
     /// From the whole network to a few metres in the picture.
     void WuerfleAnsicht() {

@@ -23,6 +23,7 @@ struct Merkergebnisse final : Punktergebnisse {
     int erneuert = 0;
     mutable Zeilen gefragt;
     std::map<std::string, Vergleichslage, std::less<>> lagen;
+    std::map<std::pair<std::string, std::string>, Relativellipse> paare;
 
     void ErneuereErgebnisse() override { ++erneuert; }
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
@@ -33,6 +34,11 @@ struct Merkergebnisse final : Punktergebnisse {
     [[nodiscard]] const Vergleichslage* VergleichZu(std::string_view nummer) const override {
         const auto i = lagen.find(nummer);
         return i != lagen.end() ? &i->second : nullptr;
+    }
+    [[nodiscard]] bool HatRelative() const override { return !paare.empty(); }
+    [[nodiscard]] const Relativellipse* RelativeZu(std::string_view a, std::string_view b) const override {
+        const auto i = paare.find({std::string(a), std::string(b)});
+        return i != paare.end() ? &i->second : nullptr;
     }
 };
 
@@ -318,6 +324,45 @@ TEST_F(Residuen, EllipsenGefuelltUndInEigenerGroesse) {
     n.l.Ellipsenmassstab = 1e300;
     ergebnisse.werte["12"] = {.A = 1e300, .B = 4};
     EXPECT_EQ(Gezeichnet(), Zeilen{}) << "no finite number";
+}
+
+TEST_F(Residuen, RelativeEllipsenMittenAufGezeigtenLinien) {
+    n.e.LGGCol.wert = 3;
+    n.P(2, 200, -100, PunktArt::NP);
+    n.T(2, "13");
+    PunktKante& linie = n.K(1, 2);
+    ergebnisse.paare[{"12", "13"}] = {.A = 40, .B = 40, .Phi = 0};
+    EXPECT_EQ(Gezeichnet(), Zeilen{}) << "off by default";
+    n.l.ShowRelEllipsen = true;
+    const Zeilen alle = Gezeichnet();
+    ASSERT_EQ(alle.size(), 1U + 67U) << "two of three sides";
+    EXPECT_EQ((Zeilen(alle.begin(), alle.begin() + 4)),
+              (Zeilen{"Stift 0x000003 1", "Linie 150 140 147 140", "Linie 147 140 145 140",
+                      "Linie 143 139 140 139"}));
+    EXPECT_EQ(ergebnisse.erneuert, 0) << "nothing is asked about points";
+    EXPECT_EQ(MissResiduen(n.l.Vorlage(), ergebnisse).ellipse, 40.0);
+    n.l.EllipsenGefuellt = n.l.ShowErklaerung = true;
+    n.l.Ellipsenmassstab = 2;
+    EXPECT_TRUE(Gezeichnet()[0].starts_with("Durchscheinend 0x000003 12 150 180 147 180"));
+    zeichner.ZeichneErklaerung(n.l.Vorlage());
+    std::string beschriftung;
+    for (const std::string& z : Massstab())
+        beschriftung += z + "\n";
+    for (const char* text : {" Relative Fehlerellipse\n", "12 559 Ma\xDFstab der Ellipsen\n"})
+        EXPECT_NE(beschriftung.find(text), std::string::npos) << text;
+    for (bool* schalter : {&n.l.ShowBeob, &n.l.ShowNP, &linie.Item->Visible, &zustand.ExportActive}) {
+        *schalter = !*schalter;
+        EXPECT_EQ(Gezeichnet(), Zeilen{});
+        *schalter = !*schalter;
+    }
+    Figurenstile stile;
+    stile.kanten = {Figurenstile::kWeggelassen};
+    n.l.Stile = std::make_shared<Figurenstile>(stile);
+    EXPECT_EQ(Gezeichnet(), Zeilen{}) << "left out by a filter";
+    n.l.Stile.reset();
+    EXPECT_NE(Gezeichnet(), Zeilen{});
+    ergebnisse.paare[{"12", "13"}].B = kNan;
+    EXPECT_EQ(Gezeichnet(), Zeilen{});
 }
 
 TEST_F(Residuen, BalkenSagenWofuerSieStehen) {

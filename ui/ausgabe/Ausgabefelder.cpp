@@ -219,7 +219,10 @@ void Ausgabefelder::NimmSchalter(Ausgabeauftrag& auftrag) const {
         if (!Wirkt(*schalter) || kasten->isChecked() == schalter->anfangs) continue;
         (kasten->isChecked() ? auftrag.ein : auftrag.aus).emplace_back(schalter->name);
     }
-    if (std::count(auftrag.ein.begin(), auftrag.ein.end(), "lagegen") > 0)
+    const auto mitEllipsen = [](const std::string& name) {
+        return name == "lagegen" || name == "relative-ellipsen";
+    };
+    if (std::any_of(auftrag.ein.begin(), auftrag.ein.end(), mitEllipsen))
         auftrag.ellipsenmassstab = ellipsenmassstab_;
 }
 

@@ -43,7 +43,7 @@ QImage ZeichnePlan(const Format& format, const Ausgabe& a) {
         for (const Schalterfeld schalter : std::initializer_list<Schalterfeld>{
                  &Darstellung::ShowLegende, &Darstellung::ShowLgRes, &Darstellung::ShowHRes,
                  &Darstellung::ShowLGGen, &Darstellung::ShowHGen, &Darstellung::ShowKooVergleich,
-                 &Darstellung::ShowMassbalken, &Darstellung::ShowErklaerung})
+                 &Darstellung::ShowRelEllipsen, &Darstellung::ShowMassbalken, &Darstellung::ShowErklaerung})
             darstellung.*schalter = false;
         darstellung.Stile.reset();
     }

@@ -316,8 +316,10 @@ void TZrwMainDlg::SchalterGewaehlt(const Schalter& schalter, bool ein) {
         if (const QString hinweis = residuen_->Hinweis(); !hinweis.isEmpty()) ZeigeStatus(hinweis);
     }
     if (ein && ausTabelle && !massstab.empty()) ZeigeStatus(AusUtf8(massstab));
-    if (ein && ausTabelle && plan_.Offen() && !programm_.daten.Vorhanden("KooTABLE.DB"))
-        ZeigeStatus(QStringLiteral("KooTABLE.DB liegt nicht im Ordner ") +
+    const std::string_view datei =
+        schalter.inDarstellung == &Darstellung::ShowRelEllipsen ? "RELTABLE.DB" : "KooTABLE.DB";
+    if (ein && ausTabelle && plan_.Offen() && !programm_.daten.Vorhanden(datei))
+        ZeigeStatus(AusUtf8(datei) + QStringLiteral(" liegt nicht im Ordner ") +
                     QDir::toNativeSeparators(AusUtf8(PfadText(programm_.daten.Ordner()))));
     if (schalter.HatMerkmal(kSchliesstErgebnisse)) ergebnisse_->Fenster().hide();
     if (schalter.inDarstellung == nullptr && schalter.imZustand == nullptr) druck_.AktualisiereRahmen();

@@ -175,6 +175,7 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     {"CheckBoxLgGen", 36},
     {"CheckBoxHGen", 36},
     {"CheckBoxKooVergleich", 36},
+    {"CheckBoxRelEllipsen", 36},
     {"CheckBoxResiduenPfeile", 36},
     {"CheckBoxEllipsenGefuellt", 36},
     {"CheckBoxEllipsenSicher", 36},
