@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "input/import/Namensliste.h"
 #include "model/Dateien.h"
 #include "model/FigListe.h"
 #include "model/ergebnisse/Einfaerbung.h"
@@ -60,6 +61,9 @@ class Plan {
     /// Takes over what was read; nothing of the plan before is left.
     void UebernimmListe(std::unique_ptr<Liste> liste, const Netzangaben& angaben,
                         const std::filesystem::path& datei);
+    /// The names that shortened point numbers stand for.
+    [[nodiscard]] const Namensliste& Namen() const { return namen_; }
+    void SetzeNamen(Namensliste namen) { namen_ = std::move(namen); }
     /// There is something to save that no step tells of.
     void MerkeUngesichert();
     /// Saves it as picture file. @return how many labels were left out @throws Fehler: nothing is saved
@@ -88,6 +92,7 @@ class Plan {
     std::unique_ptr<Liste> liste_;
     QUndoStack schritte_;
     Planfaerbung faerbung_;
+    Namensliste namen_;
     bool ungesichert_ = false;  ///< changes that cannot be undone
     std::filesystem::path datei_;
     Ablagestand abgelegt_;

@@ -351,6 +351,37 @@ TEST_F(Ergebnisfenster, WieGrossUndWieGezeichnetWird) {
     EXPECT_EQ(ablage.werte["ResEllipsenMF"], "2");
 }
 
+TEST_F(Ergebnisfenster, RelativeEllipsenUndLangeNamen) {
+    Tabelle(zrw::Tabelle::RelativeEllipsen, {{std::int64_t{1}, "E", "C", 52.5, 24.0, 30.0, Wert(), 3.0}});
+    LegeDateiAn("n_namen.csv", "Neu;Alt\nE;Kirchturm Süd\nfremd;A\n");
+    OeffneDatei("n.EIN");
+    EXPECT_EQ(dialoge.meldungen, QStringList());
+    const auto karte = [this](QPoint ort) {
+        BewegeMaus({5, 5});
+        BewegeMaus(ort);
+        QTest::qWait(500);
+        return Kind<QLabel>("SchwebeKarte").text();
+    };
+    const QString linie = karte((C + E) / 2);
+    EXPECT_TRUE(linie.contains("relative Ellipse A") && linie.contains("52.5 mm") && !linie.contains("mS"));
+    EXPECT_TRUE(karte(E).contains("Kirchturm Süd"));
+    const auto suche = [this](const char* text) {
+        auto& feld = Kind<QComboBox>("ComboBox1");
+        feld.setEditText(text);
+        QTest::keyClick(feld.lineEdit(), Qt::Key_Return);
+        return feld.currentText();
+    };
+    EXPECT_EQ(suche("Kirchturm Süd"), "E") << "longer than a number";
+    EXPECT_EQ(suche("A"), "A") << "the number comes before the name";
+    const QImage vorher = fenster.Bild().copy();
+    Kind<QAction>("AktionCheckBoxRelEllipsen").trigger();
+    EXPECT_NE(fenster.Bild(), vorher);
+    LegeDateiAn("n_namen.csv", "kaputt");
+    OeffneDatei("n.EIN");
+    EXPECT_TRUE(dialoge.meldungen.join(" ").contains("Die langen Punktnamen fehlen"));
+    EXPECT_FALSE(karte(E).contains("Kirchturm"));
+}
+
 TEST_F(Ergebnisfenster, TabellenLiegenBeiDerDateiDieZuletztGeoeffnetOderGespeichertWurde) {
     QTemporaryDir anderswo;
     ablage.werte["TAVELIN"] = anderswo.path().toStdString();  // counts before anything is opened

@@ -50,6 +50,20 @@ void NimmErgebnis(Zeilen& z, const Punktergebnis& e) {
     z.NimmZahl(QStringLiteral("mH"), e.mH, 1, " mm");
 }
 
+void NimmErgebnis(Zeilen& z, const Relativellipse& e) {
+    z.NimmZahl(QStringLiteral("relative Ellipse A"), e.A, 1, " mm");
+    z.NimmZahl(QStringLiteral("relative Ellipse B"), e.B, 1, " mm");
+    z.NimmZahl(QStringLiteral("relative Ellipse Phi"), e.Phi, 1, " gon");
+    z.NimmZahl(QStringLiteral("mS längs"), e.mS, 1, " mm");
+    z.NimmZahl(QStringLiteral("mQ quer"), e.mQ, 1, " mm");
+}
+
+/// Names of other programs may be longer than the screen is wide.
+QString Gekuerzt(const QString& name) {
+    constexpr qsizetype kLaengster = 80;
+    return name.size() <= kLaengster ? name : name.left(kLaengster) + QStringLiteral("…");
+}
+
 QString Beobachtungen(const Kante& kante) {
     QStringList arten;
     if (const Linienart& art = ZurLinie(kante.LAttr); !art.bezeichnung.empty())
@@ -76,21 +90,23 @@ QString Koordinatentext(const PunktKnoten& punkt) {
 }
 
 QString Punkttext(const Liste& netz, const PunktKnoten& punkt, const Einstellungen& einstellungen,
-                  int netztyp, const Punktergebnisse* ergebnisse) {
+                  int netztyp, const Punktergebnisse* ergebnisse, const Namensliste& namen) {
     const PunktArt art = ArtNachFarbe(punkt.Item->Farbe, einstellungen);
     Zeilen z(
         QStringLiteral("Punkt %1, %2").arg(Nummertext(netz, punkt.PNr), AusUtf8(ZurArt(art).bezeichnung)));
+    const std::string nummer = netz.GetPktText(punkt.PNr);
+    if (const auto name = namen.find(nummer); name != namen.end())
+        z.NimmZeile(QStringLiteral("Name"), Gekuerzt(AusUtf8(name->second)));
     const char* einheit = InMetern(netztyp) ? " m" : "";
     z.NimmZahl(QStringLiteral("Rechtswert"), punkt.XWPu, 3, einheit);
     z.NimmZahl(QStringLiteral("Hochwert"), punkt.YWPu, 3, einheit);
-    const std::string nummer = netz.GetPktText(punkt.PNr);
     if (ergebnisse == nullptr || nummer.empty()) return z.Text();
     if (const Punktergebnis* e = ergebnisse->ErgebnisZu(nummer)) NimmErgebnis(z, *e);
     return z.Text();
 }
 
 QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellungen& einstellungen,
-                   int netztyp, const QString& markiergrund) {
+                   int netztyp, const QString& markiergrund, const Punktergebnisse* ergebnisse) {
     Zeilen z(QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr)));
     z.NimmZeile(QStringLiteral("Beobachtungen"), Beobachtungen(*kante.Item));
     const auto a = netz.Weltort(kante.ANr);
@@ -105,6 +121,9 @@ QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellung
         z.NimmZeile(QStringLiteral("markiert"), markiergrund.isEmpty()
                                                     ? QStringLiteral("grober Fehler")
                                                     : QStringLiteral("grober Fehler: ") + markiergrund);
+    if (ergebnisse == nullptr) return z.Text();
+    const Relativellipse* r = ergebnisse->RelativeZu(netz.GetPktText(kante.ANr), netz.GetPktText(kante.ENr));
+    if (r != nullptr) NimmErgebnis(z, *r);
     return z.Text();
 }
 

@@ -5,6 +5,7 @@
 
 #include <span>
 
+#include "input/import/Namensliste.h"
 #include "model/Einstellungen.h"
 #include "model/FigListe.h"
 #include "model/Punktergebnisse.h"
@@ -12,15 +13,16 @@
 namespace zrw {
 
 /// Lines of a table in HTML, number and kind first. @param netztyp for what coordinates mean
-/// @param ergebnisse null: no results are known
+/// @param ergebnisse null: no results are known @param namen that shortened numbers stand for
 [[nodiscard]] QString Punkttext(const Liste& netz, const PunktKnoten& punkt,
                                 const Einstellungen& einstellungen, int netztyp,
-                                const Punktergebnisse* ergebnisse);
+                                const Punktergebnisse* ergebnisse, const Namensliste& namen);
 /// Both ends, observations, length and bearing from the coordinates, whether it is flagged.
 /// @param markiergrund which tables say so, may be empty
+/// @param ergebnisse null: no results are known
 [[nodiscard]] QString Kantentext(const Liste& netz, const PunktKante& kante,
-                                 const Einstellungen& einstellungen, int netztyp,
-                                 const QString& markiergrund);
+                                 const Einstellungen& einstellungen, int netztyp, const QString& markiergrund,
+                                 const Punktergebnisse* ergebnisse);
 /// The points at the other ends of its lines, and both ends of a line: links to their internal numbers.
 [[nodiscard]] QString Nachbarntext(Liste& netz, const PunktKnoten& punkt);
 [[nodiscard]] QString Endentext(const Liste& netz, const PunktKante& kante);

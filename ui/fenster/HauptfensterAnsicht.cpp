@@ -147,12 +147,14 @@ QString TZrwMainDlg::TextZu(Bildpunkt ort) {
     Punktergebnisse* ergebnisse = ergebnisse_->Vorhanden() ? programm_.zustand.Ergebnisse : nullptr;
     if (const PunktKnoten* p = netz.ClickGezeigten(ort); p != nullptr) {
         if (ergebnisse != nullptr) ergebnisse->ErneuereErgebnisse();
-        return Punkttext(netz, *p, programm_.einstellungen, programm_.netz.Netztyp, ergebnisse);
+        return Punkttext(netz, *p, programm_.einstellungen, programm_.netz.Netztyp, ergebnisse,
+                         plan_.Namen());
     }
     const PunktKante* k = netz.PickGezeigte(ort);
     if (k == nullptr) return {};
+    if (ergebnisse != nullptr) ergebnisse->ErneuereRelative();
     return Kantentext(netz, *k, programm_.einstellungen, programm_.netz.Netztyp,
-                      ergebnisse_->Markiergrund(netz, *k));
+                      ergebnisse_->Markiergrund(netz, *k), ergebnisse);
 }
 
 bool TZrwMainDlg::Umschalttaste() const {

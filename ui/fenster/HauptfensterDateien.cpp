@@ -52,6 +52,10 @@ class Sammler {
         if (++anzahl_ > kMeldungenInBox) return;
         text_ += AusUtf8(m.text + '\n' + m.Stelle() + '\n');
     }
+    /// It must outlive that.
+    [[nodiscard]] Meldungsempfaenger Empfaenger() {
+        return [this](const Meldung& m) { NimmMeldung(m); };
+    }
     /// What ended the reading, below the rest.
     void SchliesseMeldungen(const QString& text) {
         if (!text.isEmpty()) schluss_ = text;
@@ -135,6 +139,11 @@ QStringList Verborgene(const Liste& netz) {
         if (const QString nummer = AusNetz(netz.GetPktText(p->PNr)); !nummer.isEmpty()) nummern << nummer;
     }
     return nummern;
+}
+
+/// What shortened numbers of a control file stand for; a picture file has none.
+Namensliste LiesNamen(const std::filesystem::path& datei, const Dateien& dateien, Sammler& meldungen) {
+    return IstBilddatei(datei) ? Namensliste() : LiesNamensliste(datei, dateien, meldungen.Empfaenger());
 }
 
 /// A control file from which nothing can be seen: somebody else's text, or one that needs mending.
@@ -268,10 +277,9 @@ void TZrwMainDlg::OeffneDatei(const std::filesystem::path& datei) {
         const Sanduhr sanduhr;
         // Every reading of a control file starts from the stored settings: they colour what is read.
         if (!IstBilddatei(datei)) LoadSettings(programm_.einstellungen, programm_.ablage);
-        lesung = OeffneNetz(
-            datei, programm_.dateien, programm_.einstellungen, programm_.netz,
-            {bild_->width(), bild_->height()}, [&](const Meldung& m) { meldungen.NimmMeldung(m); },
-            Lesebalken(*statusBar()));
+        lesung =
+            OeffneNetz(datei, programm_.dateien, programm_.einstellungen, programm_.netz,
+                       {bild_->width(), bild_->height()}, meldungen.Empfaenger(), Lesebalken(*statusBar()));
     } catch (const Leseabbruch& f) {
         programm_.einstellungen = vorher;
         ZeigeStatus(AusUtf8(f.what()));
@@ -308,6 +316,7 @@ void TZrwMainDlg::OeffneDatei(const std::filesystem::path& datei) {
                         .arg(AusUtf8(PfadText(datei.filename()))));
     } else if (lesung.liste != nullptr) {
         try {
+            plan_.SetzeNamen(LiesNamen(datei, programm_.dateien, meldungen));
             UebernimmLesung(std::move(lesung), datei);
         } catch (const std::exception& f) {
             ZeigeFehler(f);

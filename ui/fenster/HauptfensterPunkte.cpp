@@ -49,7 +49,7 @@ void TZrwMainDlg::NachAenderung(const Figurenmenge& figuren) {
 
 /// In all the lists.
 void TZrwMainDlg::FuelleNummern() {
-    ComboBox1_->FuelleListe(*plan_.Daten());
+    ComboBox1_->FuelleListe(*plan_.Daten(), plan_.Namen());
     const QStringList nummern = ComboBox1_->Nummern();
     zentrierkasten_->FuelleListen(nummern);
     if (zentrierkasten_->isVisible()) zentrierkasten_->ZeigeZentren();
@@ -79,7 +79,7 @@ void TZrwMainDlg::ZeigePunkt(const QString& nummer) {
 /// Brings the point into view and marks it. @return null where there is none of this number
 const PunktKnoten* TZrwMainDlg::MarkierePunkt(const QString& nummer) {
     if (!plan_.Offen() || nummer.isEmpty()) return nullptr;
-    PPunktKnoten punkt = plan_.Daten()->FindPunkt(AlsNummer(nummer));
+    PPunktKnoten punkt = plan_.Daten()->FindPunkt(AlsNummer(ComboBox1_->NummerZu(nummer)));
     if (punkt == nullptr) {
         if (const auto treffer = ComboBox1_->FindeNummer(nummer))
             punkt = plan_.Daten()->FindPunkt(AlsNummer(*treffer));

@@ -57,13 +57,16 @@ QString Eigenschaftsseite::Auswahltext() {
     Liste& netz = *u_.plan.Daten();
     const Einstellungen& e = u_.programm.einstellungen;
     const int typ = u_.programm.netz.Netztyp;
-    if (kante != nullptr)
-        return Kantentext(netz, *kante, e, typ, u_.ergebnisse.Markiergrund(netz, *kante)) +
-               Endentext(netz, *kante);
-    if (punkte.size() > 1) return Punktetext(punkte, e, typ);
     Punktergebnisse* ergebnisse = u_.ergebnisse.Vorhanden() ? u_.programm.zustand.Ergebnisse : nullptr;
+    if (kante != nullptr) {
+        if (ergebnisse != nullptr) ergebnisse->ErneuereRelative();
+        return Kantentext(netz, *kante, e, typ, u_.ergebnisse.Markiergrund(netz, *kante), ergebnisse) +
+               Endentext(netz, *kante);
+    }
+    if (punkte.size() > 1) return Punktetext(punkte, e, typ);
     if (ergebnisse != nullptr) ergebnisse->ErneuereErgebnisse();
-    return Punkttext(netz, *punkte.front(), e, typ, ergebnisse) + Nachbarntext(netz, *punkte.front());
+    return Punkttext(netz, *punkte.front(), e, typ, ergebnisse, u_.plan.Namen()) +
+           Nachbarntext(netz, *punkte.front());
 }
 
 void Eigenschaftsseite::ListeErgebnisse() {
