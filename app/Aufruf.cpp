@@ -107,6 +107,12 @@ std::vector<std::string> LiesSchalter(const std::string& liste) {
     return namen;
 }
 
+double LiesGrenze(const std::string& text) {
+    const auto zahl = LiesReal(text);
+    if (zahl && *zahl > 0.0) return *zahl;
+    throw Falschaufruf{"--grenze erwartet eine Zahl größer als 0, nicht \"" + text + "\""};
+}
+
 Einfaerbung LiesEinfaerbungstext(const std::string& text) {
     const Einfaerbungstext gelesen = LiesEinfaerbung(text);
     if (gelesen.wahl) return *gelesen.wahl;
@@ -136,6 +142,17 @@ void PruefeFaerbung(Planfaerbung& f) {
     f.einfaerbung->gattung = kLinienkategorien[static_cast<std::size_t>(stelle)].tabelle;
 }
 
+/// There is one network: a file, or what an import makes of another.
+void PruefeDatei(const Aufruf& a) {
+    const Importaufruf& i = a.importiere;
+    if (!i.netz.empty() && !a.datei.empty())
+        throw Falschaufruf{"Mit --import ist keine weitere Datei möglich, \"" + a.datei + "\" ist zu viel"};
+    if (i.netz.empty() && (!i.ergebnisse.empty() || i.grenze || i.ersetzen))
+        throw Falschaufruf{"--ergebnisse, --grenze und --ersetzen gelten nur mit --import"};
+    if (a.auftrag == Auftrag::Stapel && a.datei.empty() && i.netz.empty())
+        throw Falschaufruf{"Es fehlt der Name der Datei"};
+}
+
 void HaengeFormateAn(std::vector<std::string>& ziel, std::vector<std::string> neue) {
     ziel.insert(ziel.end(), neue.begin(), neue.end());
 }
@@ -152,6 +169,14 @@ constexpr auto kOptionen = std::to_array<Option>({
          a.auftrag = Auftrag::Stapel;
          HaengeFormateAn(a.formate, LiesFormate(w));
      }},
+    {"--import",
+     [](Aufruf& a, const std::string& w) {
+         a.auftrag = Auftrag::Stapel;
+         a.importiere.netz = w;
+     }},
+    {"--ergebnisse", [](Aufruf& a, const std::string& w) { a.importiere.ergebnisse = w; }},
+    {"--grenze", [](Aufruf& a, const std::string& w) { a.importiere.grenze = LiesGrenze(w); }},
+    {"--ersetzen", [](Aufruf& a, const std::string& /*w*/) { a.importiere.ersetzen = true; }, false},
     {"--ziel", [](Aufruf& a, const std::string& w) { a.ziel = w; }},
     {"--groesse", [](Aufruf& a, const std::string& w) { a.groesse = LiesGroesse(w); }},
     {"--massstab", &NimmMassstab},
@@ -223,9 +248,10 @@ Aufruf LiesAufruf(const std::vector<std::string>& worte) {
             o->lies(a, hatWert ? wort.substr(gleich + 1) : o->mitWert ? worte[++i] : std::string());
         }
     }
-    if (a.auftrag == Auftrag::Fenster && mitOption) throw Falschaufruf{"Optionen gelten nur mit --export"};
+    if (a.auftrag == Auftrag::Fenster && mitOption)
+        throw Falschaufruf{"Optionen gelten nur mit --export oder --import"};
     PruefeFaerbung(a.faerbung);
-    if (a.auftrag == Auftrag::Stapel && a.datei.empty()) throw Falschaufruf{"Es fehlt der Name der Datei"};
+    PruefeDatei(a);
     return a;
 }
 
@@ -238,11 +264,17 @@ std::string Hilfetext() {
            "  zarwik [DATEI]                          öffnet das Fenster, eine Steuerdatei (.EIN)\n"
            "                                          oder Zarwikdatei (.ZRW) gleich mit\n"
            "  zarwik --export LISTE [Optionen] DATEI  schreibt Dateien ohne Fenster\n"
+           "  zarwik --import NETZ [Optionen]         macht aus einem Netz von GNU Gama (.gkf, .xml) eine\n"
+           "                                          Steuerdatei mit Ergebnistabellen\n"
            "\n"
            "  --export LISTE         Formate, durch Kommas getrennt: " +
            Formatnamen() +
            "\n"
-           "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner); er wird angelegt\n"
+           "  --ziel ORDNER          dorthin schreiben (sonst in den Arbeitsordner, mit --import in\n"
+           "                         NETZ.zarwik neben dem Netz); er wird angelegt\n"
+           "  --ergebnisse DATEI     Ergebnisse der Ausgleichung zu --import (.xml)\n"
+           "  --grenze ZAHL          --import markiert Beobachtungen mit größerer Testgröße (sonst 3.29)\n"
+           "  --ersetzen             --import ersetzt Dateien, die im Zielordner schon liegen\n"
            "  --groesse BREITExHÖHE  Bildgröße in Pixeln, 100 bis 16384 (sonst 1200x1200,\n"
            "                         bei einer Zarwikdatei die gespeicherte)\n"
            "  --massstab ZAHL        Druckmaßstab 1:ZAHL für dxf, plt und pdf (sonst 25000; in der pdf\n"

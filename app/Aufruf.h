@@ -11,9 +11,18 @@ namespace zrw {
 
 enum class Auftrag { Fenster, Stapel, Hilfe, Version };
 
+/// A network of another program, to be taken over before anything is exported.
+struct Importaufruf {
+    std::string netz;  ///< empty: nothing is imported
+    std::string ergebnisse;
+    std::optional<double> grenze;
+    bool ersetzen = false;
+};
+
 struct Aufruf : Ausgabeauftrag {
     Auftrag auftrag = Auftrag::Fenster;
-    std::string datei;                 ///< control or picture file, may be empty for the window
+    std::string datei;  ///< control or picture file, may be empty for the window
+    Importaufruf importiere;
     std::vector<std::string> formate;  ///< names from the format table
     std::string ziel;                  ///< target folder; empty: the working folder
     std::optional<std::string> einstellungen;

@@ -2,8 +2,10 @@
 
 #include <QFileInfo>
 #include <cstdio>
+#include <ctime>
 
 #include "input/Systemdateien.h"
+#include "input/import/Netzimport.h"
 #include "input/tabellen/MarkiereFehler.h"
 #include "input/tabellen/UnitZRWData.h"
 #include "model/Fehler.h"
@@ -50,6 +52,12 @@ bool ExportiereNetz(const Aufruf& aufruf) {
     const Einstellungen einstellungen = LadeEinstellungen(aufruf);
     const std::filesystem::path datei = TextPfad(aufruf.datei);
     Systemdateien dateien;
+    if (const Importerkennung fremd = ErkenneImport(datei, dateien);
+        fremd.rolle != Importrolle::Keine && !IstBilddatei(datei)) {
+        throw Fehler("Das ist eine Datei von " + std::string(fremd.format) +
+                         ". Mit --import wird daraus ein Netz für Zarwik.",
+                     PfadText(datei.filename()));
+    }
     Lesung lesung = OeffneNetz(datei, dateien, einstellungen, {}, aufruf.groesse.value_or(kUeblicheGroesse),
                                [](const Meldung& m) { DruckeZeile(m.Zeile()); });
     if (lesung.ende != Leseende::Vollstaendig) throw Fehler(lesung.endetext + '\n' + lesung.endegrund);
@@ -79,6 +87,24 @@ bool ExportiereNetz(const Aufruf& aufruf) {
            lesbar && gefaerbt;
 }
 
+/// Takes over a network of another program. @return the call for what it has become
+Aufruf Importiert(Aufruf aufruf) {
+    const Importaufruf& i = aufruf.importiere;
+    Systemdateien dateien;
+    const Importergebnis ergebnis = ImportiereNetz({.netz = TextPfad(i.netz),
+                                                    .ergebnisse = TextPfad(i.ergebnisse),
+                                                    .ziel = TextPfad(aufruf.ziel),
+                                                    .grenze = i.grenze.value_or(kUeblicheGrenze),
+                                                    .ersetzen = i.ersetzen},
+                                                   dateien, std::time(nullptr));
+    for (const std::string& hinweis : ergebnis.hinweise)
+        DruckeZeile(hinweis);
+    DruckeZeile(Importmeldung(ergebnis));
+    aufruf.datei = PfadText(ergebnis.steuerdatei);
+    aufruf.ziel = PfadText(ergebnis.steuerdatei.parent_path());
+    return aufruf;
+}
+
 }  // namespace
 
 void DruckeZeile(const std::string& text) {
@@ -95,7 +121,9 @@ void DruckeZeile(const std::string& text) {
 
 int FuehreStapelAus(const Aufruf& aufruf) {
     try {
-        return ExportiereNetz(aufruf) ? 0 : 1;
+        if (aufruf.importiere.netz.empty()) return ExportiereNetz(aufruf) ? 0 : 1;
+        const Aufruf danach = Importiert(aufruf);
+        return danach.formate.empty() || ExportiereNetz(danach) ? 0 : 1;
     } catch (const std::exception& f) {
         DruckeZeile(Fehlertext(f));
         return 1;

@@ -13,7 +13,8 @@ install(DIRECTORY hilfe/ DESTINATION ${unterlagen}/handbuch/hilfe FILES_MATCHING
 install(DIRECTORY docs/bilder/ DESTINATION ${unterlagen}/handbuch/docs/bilder FILES_MATCHING PATTERN *.png)
 install(DIRECTORY ui/bilder/ DESTINATION ${unterlagen}/handbuch/ui/bilder FILES_MATCHING PATTERN *.svg)
 install(DIRECTORY beispiele/ DESTINATION ${unterlagen}/beispiele FILES_MATCHING
-        PATTERN *.EIN PATTERN *.KF PATTERN *.SF PATTERN *.ZRW PATTERN *.DB PATTERN *.PX PATTERN README.md)
+        PATTERN *.EIN PATTERN *.KF PATTERN *.SF PATTERN *.ZRW PATTERN *.DB PATTERN *.PX PATTERN *.gkf PATTERN *.xml
+        PATTERN README.md)
 install(FILES LICENSE DESTINATION ${unterlagen} RENAME copyright)
 
 if(UNIX AND NOT APPLE)

@@ -25,7 +25,7 @@ brauche() {
 }
 
 # What building takes, and what the program needs to run.
-paketeBauen="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev libsqlite3-dev zlib1g-dev"
-paketeLaufen="libsqlite3-0 zlib1g libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-liberation"
+paketeBauen="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev libsqlite3-dev zlib1g-dev libpugixml-dev"
+paketeLaufen="libsqlite3-0 zlib1g libpugixml1v5 libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-liberation"
 paketeSanitizer="clang libclang-rt-dev llvm"
 paketeTesten="libgtest-dev python3 python3-ezdxf librecad hp2xx poppler-utils librsvg2-bin locales gdal-bin"

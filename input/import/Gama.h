@@ -1,0 +1,49 @@
+// GNU Gama's local networks: the input of the adjustment and what it writes, both XML. Facts about the format
+// and how it is taken over: hilfe/47_gama.md.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "input/import/Fremdnetz.h"
+#include "input/import/Importbericht.h"
+#include "input/import/Xmldatei.h"
+
+namespace zrw::fremd {
+
+void LiesGamaNetz(const Xmldatei& xml, Fremdnetz& netz, Importbericht& bericht);
+void LiesGamaErgebnisse(const Xmldatei& xml, Fremdnetz& netz, Importbericht& bericht);
+
+/// Where the axes x and y of a file lead and how its angles turn.
+struct Gamaachsen {
+    bool xNachRechts = false;  ///< x is the easting, y the northing
+    double vorzeichenX = 1.0;  ///< -1 where x grows to the south or the west
+    double vorzeichenY = 1.0;
+    bool rechtsdrehend = true;  ///< angles are clockwise
+
+    /// Easting and northing of two values along x and y.
+    [[nodiscard]] Dreier Gedreht(double x, double y, double z) const {
+        const double a = vorzeichenX * x, b = vorzeichenY * y;
+        return xNachRechts ? Dreier{a, b, z} : Dreier{b, a, z};
+    }
+    /// A direction as it would be clockwise [gon].
+    [[nodiscard]] double Richtung(double gon) const { return Vollkreis(rechtsdrehend ? gon : -gon); }
+};
+
+/// From the attributes `axes-xy` and `angles`, each may be missing. Nothing for axes that do not exist.
+[[nodiscard]] std::optional<Gamaachsen> LiesAchsen(std::string_view achsen, std::string_view winkel);
+
+/// An angle [gon], from gon or from degrees as "ddd-mm-ss.s". `grad` tells which.
+struct Gamawinkel {
+    double gon = kUnbekannt;
+    bool grad = false;
+};
+[[nodiscard]] std::optional<Gamawinkel> LiesGamaWinkel(std::string_view text);
+
+/// Coordinates and lengths beyond are no lengths on this earth [m].
+inline constexpr double kGroessteLaenge = 1e9;
+inline constexpr double kGroessteVarianz = 1e24;  ///< [mm²] or [cc²]
+/// A number of at most `grenze`, or nothing.
+[[nodiscard]] std::optional<double> LiesZahl(std::string_view text, double grenze = kGroessteLaenge);
+
+}  // namespace zrw::fremd
