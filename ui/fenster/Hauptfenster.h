@@ -64,8 +64,9 @@ class TZrwMainDlg final : public QMainWindow,
     explicit TZrwMainDlg(const Programm& programm);
     ~TZrwMainDlg() override;
 
-    /// Opens a control file or, by its extension, a picture file. Messages go to the dialog service; the
-    /// previous network stays where the new one cannot be read, and where the user would lose changes.
+    /// Opens a control file or, by its extension, a picture file; a file of another program is imported
+    /// first. Messages go to the dialog service; the previous network stays where the new one cannot be read,
+    /// and where the user would lose changes.
     void OeffneDatei(const std::filesystem::path& datei);
     /// The current network, or null before one is opened.
     [[nodiscard]] const Liste* Netz() const { return plan_.Daten(); }
@@ -103,6 +104,7 @@ class TZrwMainDlg final : public QMainWindow,
     void ErgebnisMassstabClick();
     void NummernOrdnenClick();  ///< finds places for numbers
     void LetzteDateienClick();
+    void NetzImportierenClick() { BeginneImport({}); }
     void FruehereAnsichtClick();
     void SpaetereAnsichtClick();
     void PunktSucheClick();
@@ -142,6 +144,8 @@ class TZrwMainDlg final : public QMainWindow,
     void UebernimmLesung(Lesung&& lesung, const std::filesystem::path& datei);
     void StelleSchalter(bool ausBild);
     [[nodiscard]] bool SpeicherePlan();
+    [[nodiscard]] bool WirdImportiert(const std::filesystem::path& datei) const;
+    void BeginneImport(const QStringList& dateien);
     [[nodiscard]] bool DarfVerwerfen();
     [[nodiscard]] bool BereitZumEnde();
     void ZeigeTitel();

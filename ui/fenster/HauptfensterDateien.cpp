@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QUrl>
 
+#include "input/import/Netzimport.h"
 #include "model/Bilddatei.h"
 #include "model/Fehler.h"
 #include "ui/Umwandlung.h"
@@ -30,6 +31,7 @@
 #include "ui/fenster/Startseite.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
+#include "ui/import/Importdialog.h"
 #include "ui/seitenleiste/Eigenschaftsseite.h"
 #include "ui/seitenleiste/Farbseite.h"
 #include "ui/seitenleiste/Seitenleiste.h"
@@ -43,7 +45,8 @@ namespace {
 constexpr int kMeldungenInBox = 12;
 
 const QString kBildfilter = QStringLiteral("Zarwikdatei (*.ZRW)");
-const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien (*.*)");
+const QString kSteuerfilter =
+    QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien (*.*);;Netz von GNU Gama (*.gkf *.xml)");
 
 /// Collects the messages of one reading into the text of one box.
 class Sammler {
@@ -157,6 +160,7 @@ void TZrwMainDlg::BaueStartseite() {
     startseite_ =
         new Startseite(bild_,
                        {[this] { SpeedButton1Click(); }, [this] { SpeedButton2Click(); },
+                        [this] { NetzImportierenClick(); },
                         [this](const QString& datei) { OeffneDatei(NachPfad(datei)); }},
                        programm_.sitzung.LetzteDateien(),
                        FindeBeispiel(QCoreApplication::applicationDirPath()), programm_.einstellungen);
@@ -247,12 +251,32 @@ void TZrwMainDlg::dropEvent(QDropEvent* ereignis) {
     if (dateien.isEmpty()) return;
     ereignis->setDropAction(Qt::CopyAction);
     ereignis->accept();
-    if (dateien.size() > 1) {
+    if (dateien.size() == 2 && std::all_of(dateien.begin(), dateien.end(), [this](const QString& d) {
+            return WirdImportiert(NachPfad(d));
+        })) {
+        BeginneImport(dateien);  // a network and its results
+    } else if (dateien.size() > 1) {
         ZeigeStatus(QStringLiteral("Es lässt sich nur eine Datei öffnen; auf dem Fenster lagen %1.")
                         .arg(dateien.size()));
     } else {
         OeffneDatei(NachPfad(dateien.front()));
     }
+}
+
+bool TZrwMainDlg::WirdImportiert(const std::filesystem::path& datei) const {
+    return !IstBilddatei(datei) && ErkenneImport(datei, programm_.dateien).rolle != Importrolle::Keine;
+}
+
+/// Asks for what the import needs; what becomes of it is opened like every other network.
+void TZrwMainDlg::BeginneImport(const QStringList& dateien) {
+    auto* dialog = new Importdialog(programm_, dateien, ordner_, this);
+    dialog->importiert = [this](const QString& steuerdatei, const QString& meldung,
+                                const QStringList& hinweise) {
+        OeffneDatei(NachPfad(steuerdatei));
+        if (!hinweise.isEmpty())
+            programm_.dialoge.SageErfolg(meldung + QStringLiteral("\n\n") + hinweise.join(QLatin1Char('\n')));
+    };
+    dialog->open();
 }
 
 /// The file, and a star while there is something to save.
@@ -265,6 +289,10 @@ Netzbewahrung::Plan TZrwMainDlg::JetzigerPlan() {
 }
 
 void TZrwMainDlg::OeffneDatei(const std::filesystem::path& datei) {
+    if (WirdImportiert(datei)) {
+        BeginneImport({AusUtf8(PfadText(datei))});
+        return;
+    }
     if (!DarfVerwerfen()) return;
     // Closing saves what was chosen in it; reading starts from what is saved.
     if (!IstBilddatei(datei)) SchliesseEinstellungen();

@@ -107,6 +107,8 @@ void Startseite::BaueWege(QBoxLayout& spalte, const std::optional<QString>& beis
                         "steuerdatei", [this] { wege_.steuerdatei(); }));
     knopf("StartBilddatei", "Zarwikdatei lesen …", "Gesicherter Plan (Strg+Umschalt+O)", "lesen",
           [this] { wege_.bilddatei(); });
+    knopf("StartImport", "Netz importieren …", "Netz von GNU Gama mit Ergebnissen übernehmen", "importieren",
+          [this] { wege_.importiere(); });
     if (beispiel) {
         knopf("StartBeispiel", "Beispielnetz öffnen", "Ein erfundenes Netz mit Ergebnissen zum Ausprobieren",
               "zarwik", [this, datei = *beispiel] { wege_.datei(datei); });

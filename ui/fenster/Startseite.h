@@ -25,6 +25,7 @@ class Startseite final : public QScrollArea {
     struct Wege {
         std::function<void()> steuerdatei;
         std::function<void()> bilddatei;
+        std::function<void()> importiere;
         std::function<void(const QString&)> datei;
     };
     /// @param bild which it covers @param letzte files, the newest first

@@ -32,6 +32,7 @@ inline constexpr int kErsteSeite = 1;
 inline constexpr auto kHilfethemen = std::to_array<Hilfethema>({
     {kErsteSeite, "01_erste_schritte.md", "Erste Schritte", kErsteSchritte},
     {5, "05_dateien.md", "Öffnen, speichern, beenden", kErsteSchritte},
+    {47, "47_gama.md", "Netze aus GNU Gama", kErsteSchritte},
     {26, "26_rueckgaengig.md", "Änderungen zurücknehmen", kErsteSchritte},
     {33, "33_hilfe.md", "Hilfe und Programminfo", kErsteSchritte},
 
@@ -94,6 +95,8 @@ inline constexpr auto kHilfekomponenten = std::to_array<Hilfekomponente>({
     // Files
     {"SpeedButton1", 5},
     {"SpeedButton2", 5},
+    {"NetzImport", 47},
+    {"ImportDialog", 47},
     {"SpeedButton9", 5},
     {"SpeedButton7", 5},
     {"LetzteDateienButton", 5},
