@@ -52,7 +52,7 @@ Beschriftungsaufgabe Beispiel(zrw::Bildgroesse groesse) {
     const zrw::Zeichenzustand zustand;
     const zrw::Systemuhr uhr;
     return zrw::Planbeschriftung::FuerBild(l.liste->Vorlage(), {zustand, e, l.netz, uhr},
-                                           zrw::Bildflaeche(1, 1),
+                                           zrw::Bildflaeche(1, 1), 1.0,
                                            [](const zrw::PunktString&) { return true; })
         .Aufgabe();
 }
@@ -60,7 +60,7 @@ Beschriftungsaufgabe Beispiel(zrw::Bildgroesse groesse) {
 /// Labels of 30 x 7 on 792 x 612, the usual random test.
 Beschriftungsaufgabe Zufallsaufgabe(int schilder, std::uint32_t saat) {
     Beschriftungsaufgabe a;
-    a.grenzen = {Einheiten(-1000), Einheiten(-1000), Einheiten(2000), Einheiten(2000)};
+    a.blaetter = {{Einheiten(-1000), Einheiten(-1000), Einheiten(2000), Einheiten(2000)}};
     Zufall zufall(saat);
     for (int i = 0; i < schilder; ++i) {
         zrw::Schild s;
@@ -85,7 +85,7 @@ void NimmPunkt(Beschriftungsaufgabe& a, zrw::Flaechenpunkt ort, int stellen, int
 /// Points along a winding line, one for each height of text.
 Beschriftungsaufgabe Bahnstrecke() {
     Beschriftungsaufgabe a;
-    a.grenzen = {-1000000, -1000000, 1000000, 1000000};
+    a.blaetter = {{-1000000, -1000000, 1000000, 1000000}};
     Zufall zufall(3);
     double x = 0;
     double y = 0;
@@ -107,7 +107,7 @@ Beschriftungsaufgabe WieBeispiel(int schilder) {
     constexpr double kRaum = 1200.0 * 800 / 165;
     Beschriftungsaufgabe a;
     const double weite = std::sqrt(schilder * kRaum * 1.5);
-    a.grenzen = {0, 0, Einheiten(weite), Einheiten(weite / 1.5)};
+    a.blaetter = {{0, 0, Einheiten(weite), Einheiten(weite / 1.5)}};
     Zufall zufall(1);
     for (int i = 0; i < schilder; ++i) {
         const zrw::Flaechenpunkt ort{Einheiten(zufall.Gleich(0, weite)),

@@ -43,7 +43,10 @@ struct Beschriftungsaufgabe {
     std::vector<Schild> schilder;
     std::vector<Symbolkasten> symbole;
     std::vector<Sperrstrich> striche;
-    Rechteck grenzen;  ///< of picture or sheet; labels of points within should not reach beyond
+    /// The picture, or sheets of paper: a label should lie wholly on one that shows its point, and off all of
+    /// them where none does. Empty: no bounds.
+    std::vector<Rechteck> blaetter;
+    std::int32_t blattrand = 0;  ///< that labels keep off their edges
 };
 
 struct Beschriftungswahl {

@@ -7,17 +7,6 @@
 #include "output/beschriftung/Zellgitter.h"
 
 namespace zrw {
-namespace {
-
-Kasten Begrenzterkasten(Schild s, Flaechenpunkt lage) {
-    s.punkt = Begrenzt(s.punkt);
-    s.weite = std::clamp(s.weite, 0, kGroesstesSchild);
-    s.hoehe = std::clamp(s.hoehe, 0, kGroesstesSchild);
-    return KastenVon(s, Begrenzt(lage));
-}
-
-}  // namespace
-
 Beschriftungsguete BewerteSchilder(const Beschriftungsaufgabe& irgendwo,
                                    const std::vector<Flaechenpunkt>& lagen) {
     Beschriftungsaufgabe aufgabe = irgendwo;

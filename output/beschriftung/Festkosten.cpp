@@ -47,8 +47,9 @@ Festkosten::Festkosten(const Beschriftungsaufgabe& aufgabe, std::int32_t zelle, 
 void Festkosten::SammleUmgebung(const Schild& s, const Kasten& reich) {
     punkte_.clear();
     striche_.clear();
-    const Rechteck& g = aufgabe_.grenzen;
-    innen_ = s.punkt.x >= g.links && s.punkt.x <= g.rechts && s.punkt.y >= g.oben && s.punkt.y <= g.unten;
+    blaetter_.clear();
+    for (const Rechteck& b : aufgabe_.blaetter)
+        if (LiegtAuf(b, s.punkt) || Trifft(b, reich)) blaetter_.push_back(b);
     const auto neu = [this](std::uint32_t ding) {
         if (gesehen_[ding] == runde_) return false;
         gesehen_[ding] = runde_;
@@ -81,9 +82,7 @@ std::int32_t Festkosten::KostenBei(const Schild& s, Flaechenpunkt lage, std::int
     const std::int64_t hoch = std::clamp<std::int64_t>(lage.y + s.hoehe, 0, s.hoehe);
     kosten += static_cast<std::int32_t>(quer * (kKostenHoechsteLage / 2) / std::max(s.weite, 1) +
                                         hoch * (kKostenHoechsteLage / 2) / std::max(s.hoehe, 1));
-    const Rechteck& g = aufgabe_.grenzen;
-    if (innen_ && (k.links < g.links || k.oben < g.oben || k.rechts > g.rechts + 1 || k.unten > g.unten + 1))
-        kosten += kKostenRand;
+    if (Zerschnitten(blaetter_, aufgabe_.blattrand, k, s.punkt)) kosten += kKostenRand;
     for (const NaherPunkt& p : punkte_) {
         if (k.Ueberlappt(p.kasten)) kosten += kKostenSymbol;
         if (p.fremd && Abstandsquadrat(k, p.mitte) < abstand) kosten += kKostenFremd;

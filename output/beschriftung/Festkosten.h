@@ -51,7 +51,7 @@ class Festkosten {
     std::uint32_t runde_ = 0;
     std::vector<NaherPunkt> punkte_;
     std::vector<Sperrstrich> striche_;
-    bool innen_ = false;
+    std::vector<Rechteck> blaetter_;
 };
 
 }  // namespace zrw

@@ -13,12 +13,17 @@
 #include "output/Export.h"
 #include "output/Figurenzeichner.h"
 #include "output/Messflaeche.h"
+#include "output/beschriftung/Schildkasten.h"
 
 namespace zrw {
 namespace {
 
 /// Units of the task for each pixel of the plan.
 constexpr std::int32_t kFein = 8;
+
+std::int32_t Einheiten(double dots, double dichte) {
+    return static_cast<std::int32_t>(std::clamp(std::round(dots * kFein / dichte), -2e9, 2e9));
+}
 
 /// Writes down what is drawn within its bounds: strokes as they come, symbols one by one.
 class Sperrmesser final : public Messflaeche {
@@ -69,10 +74,7 @@ struct Planbeschriftung::Blick {
     Rechteck sichtbar;  ///< what is gathered [dots]
     Rechteck grenzen;   ///< points beyond keep their labels [dots]
 
-    [[nodiscard]] std::int32_t Einheiten(double dots) const {
-        const double v = std::round(dots * kFein / zustand.Dichte());
-        return static_cast<std::int32_t>(std::clamp(v, -2e9, 2e9));
-    }
+    [[nodiscard]] std::int32_t Einheiten(double dots) const { return zrw::Einheiten(dots, zustand.Dichte()); }
     [[nodiscard]] Flaechenpunkt Einheiten(Bildpunkt p) const {
         return {Einheiten(static_cast<double>(p.x)), Einheiten(static_cast<double>(p.y))};
     }
@@ -105,9 +107,6 @@ void Planbeschriftung::NimmPlan(const Blick& b, const Beweglich& beweglich) {
         radius[p->PNr] = std::max({radius[p->PNr], quer, laengs});
     }
     NimmTexte(b, radius, beweglich);
-    const auto g = [&](std::int32_t x, std::int32_t y) { return b.Einheiten(Flaechenpunkt{x, y}); };
-    aufgabe_.grenzen = {g(b.grenzen.links, 0).x, g(0, b.grenzen.oben).y, g(b.grenzen.rechts, 0).x,
-                        g(0, b.grenzen.unten).y};
 }
 
 /// @param radius of the symbols by point number [units]
@@ -146,31 +145,37 @@ void Planbeschriftung::NimmTexte(const Blick& b, const std::vector<std::int32_t>
 }
 
 Planbeschriftung Planbeschriftung::FuerBild(const Bildvorlage& v, const Zeichenmittel& mittel,
-                                            const Zeichenflaeche& schrift, const Beweglich& beweglich) {
+                                            const Zeichenflaeche& schrift, double dichte,
+                                            const Beweglich& beweglich) {
     // What reaches into the picture from outside is in the way, too.
-    constexpr std::int32_t kRand = 256;
-    const Rechteck bild{0, 0, v.ansicht.Weite - 1, v.ansicht.Hoehe - 1};
+    const auto rand = static_cast<std::int32_t>(std::lround(256 * dichte));
+    const Ansicht ansicht = dichte == 1.0 ? v.ansicht : v.ansicht.InDichte(dichte);
+    Einstellungen groessen = mittel.einstellungen;
+    if (dichte != 1.0) groessen.ScaleSizes(dichte);
+    const Rechteck bild{0, 0, ansicht.Weite - 1, ansicht.Hoehe - 1};
     Zeichenzustand zustand = mittel.zustand;
     zustand.modus = Zeichenmodus::Bildschirm;
-    zustand.Pixeldichte = 1.0;
+    zustand.Pixeldichte = dichte;
+    const Blick blick{v.InAnsicht(ansicht),
+                      zustand,
+                      groessen,
+                      mittel.netz,
+                      mittel.uhr,
+                      schrift,
+                      {-rand, -rand, bild.rechts + rand, bild.unten + rand},
+                      bild};
     Planbeschriftung p;
-    p.NimmPlan({v,
-                zustand,
-                mittel.einstellungen,
-                mittel.netz,
-                mittel.uhr,
-                schrift,
-                {-kRand, -kRand, bild.rechts + kRand, bild.unten + kRand},
-                bild},
-               beweglich);
+    p.NimmPlan(blick, beweglich);
+    const Flaechenpunkt ende = blick.Einheiten(Flaechenpunkt{bild.rechts, bild.unten});
+    p.aufgabe_.blaetter = {{0, 0, ende.x, ende.y}};
     return p;
 }
 
 Planbeschriftung Planbeschriftung::FuerDruck(const Bildvorlage& v, const Zeichenmittel& mittel,
                                              const Zeichenflaeche& schrift, double massstab,
-                                             double aufloesung, const Beweglich& beweglich) {
-    const double geraetefaktor = aufloesung / kBildaufloesung;
-    const Ansicht ansicht = v.ansicht.FuerGeraet(Druckfaktor(massstab, aufloesung));
+                                             const Druckseite& seite, const Beweglich& beweglich) {
+    const double geraetefaktor = Geraetefaktor(seite);
+    const Ansicht ansicht = v.ansicht.FuerGeraet(Druckfaktor(massstab, seite.aufloesung));
     Einstellungen einstellungen = mittel.einstellungen;
     const Einstellungen groessen = Geraetegroessen(einstellungen, geraetefaktor);
     constexpr std::int32_t kWeit = Messflaeche::kReichweite;
@@ -179,9 +184,26 @@ Planbeschriftung Planbeschriftung::FuerDruck(const Bildvorlage& v, const Zeichen
     zustand.modus = Zeichenmodus::Drucker;
     zustand.Geraetefaktor = geraetefaktor;
     Planbeschriftung p;
+    p.papier_ = {ansicht, seite};
     p.NimmPlan({v.InAnsicht(ansicht), zustand, groessen, mittel.netz, mittel.uhr, schrift, alles, alles},
                beweglich);
     return p;
+}
+
+void Planbeschriftung::SetzeBlaetter(const std::vector<Blatt>& blaetter) {
+    const Druckseite& seite = papier_.seite;
+    const double dichte = Geraetefaktor(seite);
+    const auto einheiten = [&](double dots) { return Einheiten(dots, dichte); };
+    // Positions are rounded on each sheet anew, and a number on the very edge is hard to read.
+    aufgabe_.blattrand = std::max(kFein, einheiten(1.0));
+    aufgabe_.blaetter.clear();
+    for (const Blatt& b : blaetter) {
+        const Bildpunkt ecke = papier_.ansicht.Bildort(b.ecke);
+        const auto x = static_cast<double>(ecke.x);
+        const auto y = static_cast<double>(ecke.y);
+        aufgabe_.blaetter.push_back(
+            {einheiten(x), einheiten(y), einheiten(x + seite.weite) - 1, einheiten(y + seite.hoehe) - 1});
+    }
 }
 
 std::size_t Planbeschriftung::Bewegliche() const {
@@ -191,9 +213,15 @@ std::size_t Planbeschriftung::Bewegliche() const {
 
 std::optional<Planbeschriftung::Ordnung> Planbeschriftung::OrdneNummern(
     const Fortschritt& fortschritt) const {
+    return Ordne(aufgabe_, fortschritt);
+}
+
+/// @param aufgabe the same labels, perhaps elsewhere or fixed
+std::optional<Planbeschriftung::Ordnung> Planbeschriftung::Ordne(const Beschriftungsaufgabe& aufgabe,
+                                                                 const Fortschritt& fortschritt) const {
     Beschriftungswahl wahl;
     wahl.raster = kFein;
-    const auto lagen = OrdneSchilder(aufgabe_, wahl, fortschritt);
+    auto lagen = OrdneSchilder(aufgabe, wahl, fortschritt);
     if (!lagen) return std::nullopt;
     Ordnung o;
     std::vector<Flaechenpunkt> vorher;
@@ -206,7 +234,37 @@ std::optional<Planbeschriftung::Ordnung> Planbeschriftung::OrdneNummern(
     }
     o.vorher = BewerteSchilder(aufgabe_, vorher);
     o.nachher = BewerteSchilder(aufgabe_, *lagen);
+    o.lagen = std::move(*lagen);
     return o;
+}
+
+std::vector<std::size_t> Planbeschriftung::Zerschnittene(const Ordnung& ordnung) const {
+    std::vector<std::size_t> nummern;
+    for (std::size_t i = 0; i < aufgabe_.schilder.size(); ++i) {
+        const Schild& s = aufgabe_.schilder[i];
+        if (!s.fest && Zerschnitten(aufgabe_.blaetter, aufgabe_.blattrand,
+                                    Begrenzterkasten(s, ordnung.lagen[i]), Begrenzt(s.punkt)))
+            nummern.push_back(i);
+    }
+    return nummern;
+}
+
+std::optional<Planbeschriftung::Ordnung> Planbeschriftung::OrdneZerschnittene(
+    const Ordnung& bisher, const Fortschritt& fortschritt) const {
+    Beschriftungsaufgabe aufgabe = aufgabe_;
+    std::vector<Kasten> umgebungen;
+    for (const std::size_t i : Zerschnittene(bisher)) {
+        const Kasten k = Begrenzterkasten(aufgabe.schilder[i], bisher.lagen[i]);
+        umgebungen.push_back(k.Erweitert(k.rechts - k.links + 2 * (k.unten - k.oben)));
+    }
+    for (std::size_t i = 0; i < aufgabe.schilder.size(); ++i) {
+        Schild& s = aufgabe.schilder[i];
+        s.lage = bisher.lagen[i];
+        const Kasten k = Begrenzterkasten(s, s.lage);
+        s.fest = s.fest || std::none_of(umgebungen.begin(), umgebungen.end(),
+                                        [&](const Kasten& u) { return u.Ueberlappt(k); });
+    }
+    return Ordne(aufgabe, fortschritt);
 }
 
 }  // namespace zrw

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <vector>
 
 #include "output/Zeichenflaeche.h"
 #include "output/beschriftung/Beschriftung.h"
@@ -28,6 +29,11 @@ inline void BegrenzeHindernisse(Beschriftungsaufgabe& aufgabe) {
         s.von = Begrenzt(s.von);
         s.nach = Begrenzt(s.nach);
         s.halb = std::clamp(s.halb, 0, kGroesstesSchild);
+    }
+    aufgabe.blattrand = std::clamp(aufgabe.blattrand, 0, kGroesstesSchild);
+    for (Rechteck& b : aufgabe.blaetter) {
+        for (std::int32_t* seite : {&b.links, &b.oben, &b.rechts, &b.unten})
+            *seite = std::clamp(*seite, -kFernsterOrt, kFernsterOrt);
     }
 }
 
@@ -58,6 +64,13 @@ struct Kasten {
     const std::int32_t oben = s.punkt.y + lage.y;
     return {links, oben, links + s.weite, oben + s.hoehe};
 }
+/// The same wherever it lies and however large it is.
+[[nodiscard]] inline Kasten Begrenzterkasten(Schild s, Flaechenpunkt lage) {
+    s.punkt = Begrenzt(s.punkt);
+    s.weite = std::clamp(s.weite, 0, kGroesstesSchild);
+    s.hoehe = std::clamp(s.hoehe, 0, kGroesstesSchild);
+    return KastenVon(s, Begrenzt(lage));
+}
 [[nodiscard]] inline Kasten KastenVon(const Symbolkasten& s) {
     // One more: the row and column of its middle.
     return {s.mitte.x - s.quer, s.mitte.y - s.laengs, s.mitte.x + s.quer + 1, s.mitte.y + s.laengs + 1};
@@ -68,6 +81,27 @@ struct Kasten {
     const std::int64_t dx = std::max({k.links - p.x, p.x - k.rechts, 0});
     const std::int64_t dy = std::max({k.oben - p.y, p.y - k.unten, 0});
     return dx * dx + dy * dy;
+}
+
+[[nodiscard]] inline bool LiegtAuf(const Rechteck& blatt, Flaechenpunkt p) {
+    return p.x >= blatt.links && p.x <= blatt.rechts && p.y >= blatt.oben && p.y <= blatt.unten;
+}
+[[nodiscard]] inline bool Trifft(const Rechteck& blatt, const Kasten& k) {
+    return k.links <= blatt.rechts && k.rechts > blatt.links && k.oben <= blatt.unten && k.unten > blatt.oben;
+}
+/// The label of a point would be cut by an edge, or shown without its point.
+[[nodiscard]] inline bool Zerschnitten(const std::vector<Rechteck>& blaetter, std::int32_t blattrand,
+                                       const Kasten& k, Flaechenpunkt punkt) {
+    const Kasten mitRand = k.Erweitert(blattrand);
+    bool irgendwo = false;
+    for (const Rechteck& b : blaetter) {
+        const bool hier = LiegtAuf(b, punkt);
+        if (hier && mitRand.links >= b.links && mitRand.oben >= b.oben && mitRand.rechts <= b.rechts + 1 &&
+            mitRand.unten <= b.unten + 1)
+            return false;
+        irgendwo = irgendwo || hier || Trifft(b, k);
+    }
+    return irgendwo;
 }
 
 /// A stroke runs through the box.

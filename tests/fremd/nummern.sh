@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Poppler reads where the words of a plan stand: after ordering no point numbers lie on each other.
+# Poppler reads where the words of a plan stand: after ordering no point numbers lie on each other, and none
+# across the edge of a sheet.
 # usage: nummern.sh ZARWIK WURZEL
 set -euo pipefail
 programme='pdftotext'
@@ -10,4 +11,6 @@ blatt() {
 }
 blatt vorher
 blatt nachher --nummern-ordnen druck
-"$python" "$wurzel/tests/fremd/nummern_pruefung.py" vorher.html nachher.html
+"$zarwik" --export pdf --massstab 50000 --alle-blaetter --nummern-ordnen druck --ziel blaetter "$wurzel/beispiele/NETZ.EIN"
+pdftotext -bbox blaetter/NETZ.pdf blaetter.html
+"$python" "$wurzel/tests/fremd/nummern_pruefung.py" vorher.html nachher.html blaetter.html

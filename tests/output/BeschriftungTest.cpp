@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "beispiele/Zufall.h"
+#include "output/beschriftung/Schildkasten.h"
 
 namespace zrw {
 namespace {
@@ -21,7 +22,7 @@ Beschriftungsaufgabe Zufallsaufgabe(std::size_t schilder) {
         a.symbole.push_back({s.punkt, 8, 8});
         a.striche.push_back({s.punkt, {s.punkt.x + 400, s.punkt.y + 100}, 4});
     }
-    a.grenzen = {0, 0, 792 * 8, 612 * 8};
+    a.blaetter = {{0, 0, 792 * 8, 612 * 8}};
     return a;
 }
 
@@ -38,7 +39,7 @@ TEST(Beschriftung, FindetMehrFreiePlaetzeAlsEinerNachDemAnderen) {
     Beschriftungsaufgabe a = Zufallsaufgabe(750);
     a.symbole.clear();
     a.striche.clear();
-    a.grenzen = {-9999, -9999, 9999, 9999};
+    a.blaetter = {{-9999, -9999, 9999, 9999}};
     const auto gierig = BewerteSchilder(a, OrdneGierig(a, NurVierEcken()));
     const auto gesucht = BewerteSchilder(a, OrdneSchilder(a, NurVierEcken()).value());
     EXPECT_GT(gierig.ueberlappt, 250U);
@@ -52,6 +53,31 @@ TEST(Beschriftung, LegtNichtsUebereinanderWoPlatzIst) {
     EXPECT_EQ(guete.aufSymbol, 0U);
     EXPECT_LT(guete.gekreuzt, 30U);
     EXPECT_LT(guete.mittlererAbstand, 8 * 7.0);
+}
+
+TEST(Beschriftung, LegtJedesSchildGanzAufEinBlattSeinesPunktes) {
+    constexpr Rechteck kLinks{0, 0, 3167, 612 * 8};
+    constexpr Rechteck kRechts{3168, 0, 792 * 8, 612 * 8};
+    for (const auto& blaetter : std::vector<std::vector<Rechteck>>{
+             {kLinks, kRechts}, {kLinks, {3000, 0, 792 * 8, 612 * 8}}, {kRechts}}) {
+        Beschriftungsaufgabe a = Zufallsaufgabe(300);
+        a.blaetter = blaetter;
+        a.blattrand = 8;
+        const auto lagen = OrdneSchilder(a, {}).value();
+        for (std::size_t i = 0; i < lagen.size(); ++i) {
+            const Kasten k = KastenVon(a.schilder[i], lagen[i]);
+            const auto ganz = [&](const Rechteck& b) {
+                return LiegtAuf(b, a.schilder[i].punkt) && k.links >= b.links + 8 && k.oben >= b.oben + 8 &&
+                       k.rechts <= b.rechts - 7 && k.unten <= b.unten - 7;
+            };
+            const auto trifft = [&](const Rechteck& b) {
+                return LiegtAuf(b, a.schilder[i].punkt) || Trifft(b, k);
+            };
+            EXPECT_EQ(std::any_of(blaetter.begin(), blaetter.end(), ganz),
+                      std::any_of(blaetter.begin(), blaetter.end(), trifft))
+                << i << " on " << blaetter.size();
+        }
+    }
 }
 
 TEST(Beschriftung, HatZurSelbenAufgabeDieselbeAntwortUndHaeltWasFestIst) {

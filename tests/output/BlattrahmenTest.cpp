@@ -3,9 +3,12 @@
 
 #include <algorithm>
 #include <limits>
+#include <set>
 
+#include "beispiele/Zufall.h"
 #include "geo/Zrwgeo.h"
 #include "output/Papier.h"
+#include "output/beschriftung/Blattordnung.h"
 #include "output/blatt/Blattdruck.h"
 #include "output/blatt/Blattrahmen.h"
 #include "output/blatt/Schlichtgitter.h"
@@ -50,7 +53,8 @@ class Blattdruck : public testing::Test {
         return {n.l.Vorlage(), {tafel.zustand, n.e, tafel.netz, tafel.uhr}, tafel.flaeche};
     }
     std::vector<std::string> Drucke(const Blattgestaltung& g, std::size_t nummer) {
-        const auto blaetter = TeileBlaetterAuf(Plan(), kMassstab, TeileSeite(a4, true, g));
+        const auto blaetter =
+            TeileBlaetterAuf(Plan(), kMassstab, TeileSeite(a4, tafel.zustand.Blattrahmen, g));
         DruckeBlatt(n.l.Vorlage(), Plan().mittel, n.e, tafel.flaeche,
                     {{kMassstab, "1000", a4, {}, {}}, g, blaetter, "NETZ", true}, nummer);
         return tafel.flaeche.NimmZeilen();
@@ -59,6 +63,7 @@ class Blattdruck : public testing::Test {
         return std::any_of(zeilen.begin(), zeilen.end(),
                            [&](const std::string& z) { return z.starts_with("Text") && z.ends_with(text); });
     }
+    std::set<std::string> GanzeNummern(const Blattgestaltung& g, const Blattteilung& t);
     Probenetz n;
     Zeichentafel<MerkFlaeche> tafel{n.e};
 };
@@ -98,6 +103,48 @@ TEST_F(Blattdruck, UeberlappungUndPassenderMassstab) {
     EXPECT_EQ(PassenderMassstab(Plan(), mit, 3), 1000.0);
     EXPECT_EQ(PassenderMassstab(Plan(), mit, 2), 2000.0);
     EXPECT_EQ(PassenderMassstab(Plan(), mit, 1), PassenderMassstab(Plan(), ohne.plan));
+}
+
+/// The numbers that stand whole on one of the sheets, as they are printed.
+std::set<std::string> Blattdruck::GanzeNummern(const Blattgestaltung& g, const Blattteilung& t) {
+    std::set<std::string> ganze;
+    for (std::size_t i = 0; i < TeileBlaetterAuf(Plan(), kMassstab, t).size(); ++i) {
+        for (const std::string& z : Drucke(g, i)) {
+            int x = 0, y = 0, nummer = 0;
+            if (std::sscanf(z.c_str(), "Text 0x%*x %d %d Nr%d", &x, &y, &nummer) != 3) continue;
+            const std::string text = "Nr" + std::to_string(nummer);
+            const auto links = static_cast<int>(t.ecke.x);
+            const auto oben = static_cast<int>(t.ecke.y);
+            if (Liegt({x, y, x + tafel.flaeche.Textbreite(text), y + tafel.flaeche.Texthoehe() - 2},
+                      {links, oben, links + t.plan.weite, oben + t.plan.hoehe}))
+                ganze.insert(text);
+        }
+    }
+    return ganze;
+}
+
+TEST_F(Blattdruck, GeordneteNummernStehenGanzAufEinemBlatt) {
+    constexpr PunktIndex kPunkte = 200;
+    beispiel::Zufall zufall(1);
+    for (PunktIndex i = 1; i <= kPunkte; ++i) {
+        n.P(i, zufall.Gleich(0, 500), zufall.Gleich(0, 500));
+        n.T(i, "Nr" + std::to_string(i));
+    }
+    for (const bool rahmen : {false, true}) {
+        for (const int ueberlappung : {0, 4}) {
+            tafel.zustand.Blattrahmen = rahmen;
+            Blattgestaltung g;
+            g.ueberlappung = ueberlappung;
+            const Blattteilung t = TeileSeite(a4, rahmen, g);
+            EXPECT_LT(GanzeNummern(g, t).size(), kPunkte) << "as they stand";
+            auto plan = Planbeschriftung::FuerDruck(n.l.Vorlage(), Plan().mittel, tafel.flaeche, kMassstab,
+                                                    t.plan, [](const PunktString&) { return true; });
+            const auto schneide = [&] { return TeileBlaetterAuf(Plan(), kMassstab, t); };
+            const auto ordnung = OrdneAufBlaetter(plan, n.l, schneide);
+            const Probelage geordnet(n.l, ordnung.value().versetzt);
+            EXPECT_EQ(GanzeNummern(g, t).size(), kPunkte) << rahmen << ueberlappung;
+        }
+    }
 }
 
 TEST_F(Blattdruck, SchwarzWeissLaesstWeissWeiss) {

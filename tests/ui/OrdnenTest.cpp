@@ -112,6 +112,29 @@ TEST_F(Ordnen, GiltFuerDenDruckmassstab) {
     EXPECT_NE(Abstaende(), bildplaetze);
 }
 
+TEST_F(Ordnen, LegtNummernNichtUeberBlattkanten) {
+    // Nothing but numbers reaches the edges.
+    Kasten("CheckBoxBeob").setChecked(false);
+    einstellungen.ScaleSizes(0);
+    Kind<QLineEdit>("EditMasstab").setText("200000");
+    dialoge.antwort = true;
+    const auto anKanten = [&] {
+        Knopf("SpeedButton5").click();
+        int pixel = 0;
+        for (const QImage& b : drucker.blaetter) {
+            for (int x = 0; x < b.width(); ++x)
+                pixel += (b.pixel(x, 0) != 0xFFFFFFFF) + (b.pixel(x, b.height() - 1) != 0xFFFFFFFF);
+            for (int y = 0; y < b.height(); ++y)
+                pixel += (b.pixel(0, y) != 0xFFFFFFFF) + (b.pixel(b.width() - 1, y) != 0xFFFFFFFF);
+        }
+        return pixel;
+    };
+    EXPECT_GT(anKanten(), 0);
+    OrdneNummern("DruckWahl");
+    EXPECT_GT(drucker.blaetter.size(), 2);
+    EXPECT_EQ(anKanten(), 0);
+}
+
 TEST_F(Ordnen, RuehrtNichtAnWasNichtZuSehenIst) {
     const auto vorher = Abstaende();
     Kasten("CheckBoxPktNr").setChecked(false);

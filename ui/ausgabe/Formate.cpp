@@ -19,6 +19,7 @@
 #include "output/Geojson.h"
 #include "output/Pdfflaeche.h"
 #include "output/Svgflaeche.h"
+#include "output/beschriftung/Blattordnung.h"
 #include "output/ergebnisse/Beobachtungsdatei.h"
 #include "ui/bild/Bildflaeche.h"
 #include "ui/bild/Malerflaeche.h"
@@ -275,23 +276,44 @@ Blattauftrag AuftragVon(const Ausgabe& a, const Blattwahl& wahl, const Druckseit
             .systemBekannt = !a.ausBild};
 }
 
-Planbeschriftung BeschrifteDruck(const Ausgabe& a, const Planbeschriftung::Beweglich& beweglich) {
-    const auto schrift = Dokumentschrift();
-    const Pdfflaeche flaeche(std::make_unique<Leerschreiber>(), a.papier, a.dpi,
-                             {{}, nullptr, schrift ? &*schrift : nullptr});
-    Druckmittel d(a);
+namespace {
+
+/// The surface that a document is measured on: its texts are as wide as in the file.
+struct Messmittel {
+    std::optional<Einbettschrift> schrift = Dokumentschrift();
+    Pdfflaeche flaeche;
+    Druckmittel druck;
+
+    explicit Messmittel(const Ausgabe& a)
+        : flaeche(std::make_unique<Leerschreiber>(), a.papier, a.dpi,
+                  {{}, nullptr, schrift ? &*schrift : nullptr}),
+          druck(a) {}
+    [[nodiscard]] Druckplan Plan(const Ausgabe& a) const { return {a.vorlage, druck.mittel, flaeche}; }
+};
+
+}  // namespace
+
+std::optional<Planbeschriftung::Ordnung> OrdneAufDokument(const Ausgabe& a, Netz& netz,
+                                                          const Planbeschriftung::Beweglich& beweglich,
+                                                          const Fortschritt& fortschritt) {
+    const Messmittel m(a);
     Blattwahl wahl{};
-    WaehleMassstab(a, {a.vorlage, d.mittel, flaeche}, d.teilung, wahl);
-    return Planbeschriftung::FuerDruck(a.vorlage, d.mittel, flaeche, wahl.massstab, a.dpi, beweglich);
+    WaehleMassstab(a, m.Plan(a), m.druck.teilung, wahl);
+    auto plan = Planbeschriftung::FuerDruck(a.vorlage, m.druck.mittel, m.flaeche, wahl.massstab,
+                                            m.druck.teilung.plan, beweglich);
+    const auto schneide = [&]() -> std::vector<Blatt> {
+        try {
+            return TeileBlaetterAuf(m.Plan(a), wahl.massstab, m.druck.teilung);
+        } catch (const Fehler&) {
+            return {};  // too many: whoever writes them tells
+        }
+    };
+    return OrdneAufBlaetter(plan, netz, schneide, fortschritt);
 }
 
 Blattwahl WaehleBlaetter(const Ausgabe& a) {
-    // Which sheets it takes hangs on how wide the document's texts are.
-    const auto schrift = Dokumentschrift();
-    const Pdfflaeche flaeche(std::make_unique<Leerschreiber>(), a.papier, a.dpi,
-                             {{}, nullptr, schrift ? &*schrift : nullptr});
-    Druckmittel d(a);
-    return WaehleBlaetter(a, {a.vorlage, d.mittel, flaeche}, d.teilung);
+    const Messmittel m(a);
+    return WaehleBlaetter(a, m.Plan(a), m.druck.teilung);
 }
 
 }  // namespace zrw

@@ -85,9 +85,11 @@ struct Blattwahl {
     std::size_t gebraucht;        ///< how many would hold all of the plan; 0: more than `kMeisteBlaetter`
 };
 
-/// The point numbers as a document of this output would have them.
-[[nodiscard]] Planbeschriftung BeschrifteDruck(const Ausgabe& a,
-                                               const Planbeschriftung::Beweglich& beweglich);
+/// Places for point numbers on the sheets of a document of this output, all those that hold the plan.
+/// @param netz that of the output; stays as it is @return nothing where it was stopped
+[[nodiscard]] std::optional<Planbeschriftung::Ordnung> OrdneAufDokument(
+    const Ausgabe& a, Netz& netz, const Planbeschriftung::Beweglich& beweglich,
+    const Fortschritt& fortschritt);
 
 /// The same sheets as a document of this output has. Tells nobody.
 /// @throws Fehler where all of too many are asked for

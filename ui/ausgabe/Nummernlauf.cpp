@@ -14,12 +14,12 @@ void OrdneNummern(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag, Ne
         return !quelle.ausBild || Bildpunkt{t.Item->XBiO, t.Item->YBiO} == anfang;
     };
     const Systemuhr uhr;
-    const auto plan = *auftrag.ordnen == Nummernziel::Druck
-                          ? BeschrifteDruck(AusgabeVon(quelle, auftrag, sage), beweglich)
-                          : Planbeschriftung::FuerBild(
-                                quelle.vorlage, {quelle.zustand, quelle.einstellungen, quelle.netz, uhr},
-                                Bildflaeche(1, 1), beweglich);
-    const auto ordnung = plan.OrdneNummern();
+    const auto ordnung = *auftrag.ordnen == Nummernziel::Druck
+                             ? OrdneAufDokument(AusgabeVon(quelle, auftrag, sage), netz, beweglich, {})
+                             : Planbeschriftung::FuerBild(
+                                   quelle.vorlage, {quelle.zustand, quelle.einstellungen, quelle.netz, uhr},
+                                   Bildflaeche(1, 1), 1.0, beweglich)
+                                   .OrdneNummern();
     for (const auto& l : ordnung->versetzt)
         netz.VersetzeText(*l.text, l.abstand);
     if (const std::size_t offen = ordnung->nachher.ueberlappt; offen != 0) {

@@ -133,6 +133,10 @@ std::vector<Blatt> Plandruck::SchneideAb(Liste& liste, double massstab, Welt urs
                 [&](const Druckplan& plan) { return TeileBlaetterAuf(plan, massstab, Teilung(), ursprung); });
 }
 
+std::vector<Blatt> Plandruck::Planblaetter(Liste& liste, double massstab) {
+    return Blaetter(liste, massstab).blaetter;
+}
+
 std::optional<std::vector<Blatt>> Plandruck::WaehleBlaetter(Liste& liste, double massstab) {
     if (gewaehlt_ && gewaehlt_->massstab == massstab && gewaehlt_->Passt(programm_.drucker.Seite()))
         return gewaehlt_->blaetter;

@@ -49,6 +49,10 @@ class Plandruck {
     /// The sheets to be printed, by the user's choice where there is one. @return none: nothing is to be
     /// printed
     [[nodiscard]] std::optional<std::vector<Blatt>> WaehleBlaetter(Liste& liste, double massstab);
+    /// All that the plan takes as it stands. Asks nobody.
+    [[nodiscard]] std::vector<Blatt> Planblaetter(Liste& liste, double massstab);
+    /// What of a sheet the plan gets.
+    [[nodiscard]] Blattteilung Teilung() const;
     /// @param datei that the plan is from @throws Fehler where the printer does not take it or breaks it off
     void DruckeBlaetter(Liste& liste, std::vector<Blatt> blaetter, double massstab,
                         const std::filesystem::path& datei);
@@ -78,7 +82,6 @@ class Plandruck {
     [[nodiscard]] Wahl Blaetter(Liste& liste, double massstab);
     [[nodiscard]] Druckwerk Werk(Liste& liste, std::vector<Blatt> blaetter, double massstab,
                                  const std::filesystem::path& datei);
-    [[nodiscard]] Blattteilung Teilung() const;
     /// Does something with the plan as it is measured for the printer.
     template <class Tun>
     auto Miss(Liste& liste, const Tun& tun) const;

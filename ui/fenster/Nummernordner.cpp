@@ -2,38 +2,17 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QProgressDialog>
 #include <memory>
 
+#include "output/beschriftung/Blattordnung.h"
 #include "ui/bild/Malerflaeche.h"
-#include "ui/fenster/Sanduhr.h"
+#include "ui/dialoge/Ordnungsfortschritt.h"
 
 namespace zrw {
 namespace {
 
-/// From so many on it takes long enough to show how far it is.
-constexpr std::size_t kViele = 2000;
-
 QString Anzahltext(std::size_t n) {
     return n == 1 ? QStringLiteral("1 Punktnummer") : QStringLiteral("%1 Punktnummern").arg(n);
-}
-
-std::optional<Planbeschriftung::Ordnung> Suche(const Planbeschriftung& plan, QWidget* fenster) {
-    if (plan.Bewegliche() < kViele) {
-        const Sanduhr sanduhr;
-        return plan.OrdneNummern();
-    }
-    constexpr int kGanz = 1000;
-    QProgressDialog fortschritt(QStringLiteral("Punktnummern werden geordnet …"), QStringLiteral("Abbrechen"),
-                                0, kGanz, fenster);
-    fortschritt.setObjectName(QStringLiteral("OrdnungsFortschritt"));
-    fortschritt.setWindowTitle(QStringLiteral("Punktnummern ordnen"));
-    fortschritt.setWindowModality(Qt::WindowModal);
-    fortschritt.setMinimumDuration(0);
-    return plan.OrdneNummern([&](int promille) {
-        fortschritt.setValue(std::min(promille, kGanz - 1));
-        return !fortschritt.wasCanceled();
-    });
 }
 
 }  // namespace
@@ -71,38 +50,42 @@ void Nummernordner::OeffneDialog() {
                     ausBild_);
 }
 
-/// @return nothing where the user has to choose something else first
-std::optional<Planbeschriftung> Nummernordner::Plan(const Ordnungsdialog::Wahl& wahl) {
-    Liste& liste = *u_.umgebung.AktuelleListe();
-    const Zeichenmittel mittel{u_.programm.zustand, u_.programm.einstellungen, u_.programm.netz,
-                               u_.programm.uhr};
-    const auto beweglich = [&](const PunktString& t) {
-        return (nur_.empty() || nur_.count(t.TNr) != 0) &&
-               (wahl.auchVerschobene || !stand_.IstVerschoben(t, NeuerAbstand()));
-    };
-    if (!wahl.fuerDruck) {
-        Bildflaeche schrift(1, 1);
-        schrift.SetzePlanschrift(u_.bild.Planschrift());
-        return Planbeschriftung::FuerBild(liste.Vorlage(), mittel, schrift, beweglich);
-    }
-    const auto massstab = u_.druck.Massstab();
-    if (!massstab) return std::nullopt;
-    const double aufloesung = u_.programm.drucker.Seite().aufloesung;
+Planbeschriftung Nummernordner::FuerBild(const Planbeschriftung::Beweglich& beweglich) const {
+    Bildflaeche schrift(1, 1);
+    schrift.SetzePlanschrift(u_.bild.Planschrift());
+    return Planbeschriftung::FuerBild(u_.umgebung.AktuelleListe()->Vorlage(), Mittel(), schrift, 1.0,
+                                      beweglich);
+}
+
+Planbeschriftung Nummernordner::FuerDruck(double massstab,
+                                          const Planbeschriftung::Beweglich& beweglich) const {
+    const Druckseite seite = u_.druck.Teilung().plan;
     QImage nichts(1, 1, QImage::Format_RGB32);
     QPainter maler(&nichts);
-    const Malerflaeche schrift(maler, {}, Druckschrift(u_.bild.Planschrift(), aufloesung));
-    return Planbeschriftung::FuerDruck(liste.Vorlage(), mittel, schrift, *massstab, aufloesung, beweglich);
+    const Malerflaeche schrift(maler, {}, Druckschrift(u_.bild.Planschrift(), seite.aufloesung));
+    return Planbeschriftung::FuerDruck(u_.umgebung.AktuelleListe()->Vorlage(), Mittel(), schrift, massstab,
+                                       seite, beweglich);
 }
 
 void Nummernordner::OrdneNummern(const Ordnungsdialog::Wahl& wahl) {
     if (u_.umgebung.AktuelleListe() == nullptr) return;
-    const auto plan = Plan(wahl);
-    if (!plan) return;
-    if (plan->Bewegliche() == 0) {
+    Liste& liste = *u_.umgebung.AktuelleListe();
+    const auto beweglich = [&](const PunktString& t) {
+        return (nur_.empty() || nur_.count(t.TNr) != 0) &&
+               (wahl.auchVerschobene || !stand_.IstVerschoben(t, NeuerAbstand()));
+    };
+    const auto massstab = wahl.fuerDruck ? u_.druck.Massstab() : std::nullopt;
+    if (wahl.fuerDruck && !massstab) return;
+    Planbeschriftung plan = massstab ? FuerDruck(*massstab, beweglich) : FuerBild(beweglich);
+    if (plan.Bewegliche() == 0) {
         return u_.umgebung.ZeigeStatus(QStringLiteral(
             "Keine Punktnummer zu ordnen: Es sind keine zu sehen, oder sie sind von Hand verschoben."));
     }
-    auto ordnung = Suche(*plan, fenster_);
+    auto ordnung = SucheMitFortschritt(plan.Bewegliche(), fenster_, [&](const Fortschritt& fortschritt) {
+        if (!massstab) return plan.OrdneNummern(fortschritt);
+        const auto schneide = [&] { return u_.druck.Planblaetter(liste, *massstab); };
+        return OrdneAufBlaetter(plan, liste, schneide, fortschritt);
+    });
     if (!ordnung)
         return u_.umgebung.ZeigeStatus(QStringLiteral("Abgebrochen, alle Nummern stehen wie vorher."));
     TueOrdnung(std::move(*ordnung));

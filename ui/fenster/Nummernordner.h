@@ -38,7 +38,12 @@ class Nummernordner {
   private:
     void OeffneDialog();
     void OrdneNummern(const Ordnungsdialog::Wahl& wahl);
-    [[nodiscard]] std::optional<Planbeschriftung> Plan(const Ordnungsdialog::Wahl& wahl);
+    [[nodiscard]] Zeichenmittel Mittel() const {
+        return {u_.programm.zustand, u_.programm.einstellungen, u_.programm.netz, u_.programm.uhr};
+    }
+    [[nodiscard]] Planbeschriftung FuerBild(const Planbeschriftung::Beweglich& beweglich) const;
+    [[nodiscard]] Planbeschriftung FuerDruck(double massstab,
+                                             const Planbeschriftung::Beweglich& beweglich) const;
     void TueOrdnung(Planbeschriftung::Ordnung&& ordnung);
     [[nodiscard]] Bildpunkt NeuerAbstand() const;
 
