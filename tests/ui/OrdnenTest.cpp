@@ -1,5 +1,6 @@
 // Putting point numbers in order: dialog, what stays, one step, picture file.
 #include <QCheckBox>
+#include <QDialog>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -96,6 +97,27 @@ TEST_F(Ordnen, RechteTasteOrdnetNurDieAusgewaehlten) {
     EXPECT_EQ(Jetzt(), stand) << "one step";
     OrdneNummern();
     EXPECT_NE(Abstaende(), vorher);
+}
+
+TEST_F(Ordnen, MisstNummernInDerSchriftDesBildes) {
+    const Liste& l = *fenster.Netz();
+    for (const bool glatt : {false, true}) {
+        Knopf("ColorButton").click();
+        Kind<QCheckBox>("CheckBoxGlaetten").setChecked(glatt);
+        Kind<QDialog>("TZRWParameter").close();
+        OrdneNummern("VerschobeneWahl");
+        Bildflaeche schrift(1, 1);
+        schrift.SetzeGlatt(glatt);
+        QList<QRect> kaesten;
+        for (const PunktString* t = l.PktTextKnoten; t != nullptr; t = t->Next) {
+            const Bildpunkt ort = t->Item->Textort(BildortVon(*t, l, l));
+            kaesten << QRect(static_cast<int>(ort.x), static_cast<int>(ort.y),
+                             schrift.Textbreite(t->Item->Aus.Text()), schrift.Texthoehe() - 3);
+            for (const QRect& k : kaesten)
+                EXPECT_TRUE(&k == &kaesten.back() || !k.intersects(kaesten.back()))
+                    << glatt << t->Item->Aus.Text();
+        }
+    }
 }
 
 TEST_F(Ordnen, GiltFuerDenDruckmassstab) {

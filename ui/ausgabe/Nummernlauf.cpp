@@ -13,12 +13,14 @@ void OrdneNummern(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag, Ne
     const auto beweglich = [&](const PunktString& t) {
         return !quelle.ausBild || Bildpunkt{t.Item->XBiO, t.Item->YBiO} == anfang;
     };
+    Bildflaeche schrift(1, 1);
+    schrift.SetzeGlatt(!auftrag.kantig);  // smooth characters are wider
     const Systemuhr uhr;
     const auto ordnung = *auftrag.ordnen == Nummernziel::Druck
                              ? OrdneAufDokument(AusgabeVon(quelle, auftrag, sage), netz, beweglich, {})
                              : Planbeschriftung::FuerBild(
                                    quelle.vorlage, {quelle.zustand, quelle.einstellungen, quelle.netz, uhr},
-                                   Bildflaeche(1, 1), 1.0, beweglich)
+                                   schrift, 1.0, beweglich)
                                    .OrdneNummern();
     for (const auto& l : ordnung->versetzt)
         netz.VersetzeText(*l.text, l.abstand);

@@ -215,7 +215,7 @@ void TZrwMainDlg::BaueDialoge() {
     legendentexte_ = new TZRWLBLForm(this);
     versteck_ = std::make_unique<Punktversteck>(static_cast<Werkzeugumgebung&>(*this), this);
     nummern_ = std::make_unique<Nummernordner>(
-        Nummernordner::Umfeld{*this, programm_, druck_, planbild_.Flaeche()}, this);
+        Nummernordner::Umfeld{*this, programm_, druck_, planbild_.Flaeche(), vorlieben_}, this);
     connect(&versteck_->Auswahl(), &QDialog::finished, this,
             [this] { aktionen_->NachName("SpeedButton14").setChecked(false); });
     ergebnisse_ = std::make_unique<Ergebnisanzeige>(programm_, vorlieben_, this);

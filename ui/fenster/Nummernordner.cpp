@@ -51,9 +51,13 @@ void Nummernordner::OeffneDialog() {
 }
 
 Planbeschriftung Nummernordner::FuerBild(const Planbeschriftung::Beweglich& beweglich) const {
+    // As wide as on this screen: smooth ones are wider, and those of other sizes not by the same factor.
+    const double dichte = u_.bild.Dichte();
     Bildflaeche schrift(1, 1);
+    schrift.SetzeGroesse(1, 1, dichte);
+    schrift.SetzeGlatt(u_.vorlieben.KantenGlaetten);
     schrift.SetzePlanschrift(u_.bild.Planschrift());
-    return Planbeschriftung::FuerBild(u_.umgebung.AktuelleListe()->Vorlage(), Mittel(), schrift, 1.0,
+    return Planbeschriftung::FuerBild(u_.umgebung.AktuelleListe()->Vorlage(), Mittel(), schrift, dichte,
                                       beweglich);
 }
 

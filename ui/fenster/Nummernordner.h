@@ -6,6 +6,7 @@
 #include <set>
 
 #include "ui/Programm.h"
+#include "ui/ablage/Vorlieben.h"
 #include "ui/aenderungen/NummernGeordnet.h"
 #include "ui/bild/Bildflaeche.h"
 #include "ui/dialoge/Ordnungsdialog.h"
@@ -22,6 +23,7 @@ class Nummernordner {
         const Programm& programm;
         Plandruck& druck;
         const Bildflaeche& bild;  ///< its font
+        const Vorlieben& vorlieben;
     };
     /// @param fenster owns the dialog
     Nummernordner(const Umfeld& umfeld, QWidget* fenster);
