@@ -81,8 +81,9 @@ bool ExportiereNetz(const Aufruf& aufruf) {
     const bool lesbar = WaehleErgebnisse(aufruf, daten, liste, einstellungen);
     zustand.Ergebnisse = &daten;
     const bool gefaerbt = SetzeFaerbung(aufruf, liste, liste, daten, &DruckeZeile);
-    OrdneNummern(quelle, aufruf, liste, &DruckeZeile);
-    return SchreibeAusgaben(quelle, aufruf, TextPfad(aufruf.ziel), Ziele(aufruf, datei), daten,
+    Ausgabeauftrag auftrag = aufruf;
+    OrdneNummern(quelle, auftrag, liste, &DruckeZeile);
+    return SchreibeAusgaben(quelle, auftrag, TextPfad(aufruf.ziel), Ziele(aufruf, datei), daten,
                             &DruckeZeile) &&
            lesbar && gefaerbt;
 }

@@ -82,6 +82,12 @@ pruefe "Plätze für den Druck" test "$(cmp -s aus2/NETZ.ZRW aus3/NETZ.ZRW; echo
 erwarte 0 "ohne" --export dxf --ziel aus2/ohne --massstab 50000 "$wurzel/beispiele/NETZ.EIN"
 pruefe "die Zeichnung folgt nicht" cmp -s aus2/ZRW.DXF aus2/ohne/ZRW.DXF
 rm -rf aus2/ohne aus2/ZRW.DXF aus3/ZRW.DXF
+# With its numbers in order this plan fits another scale than before.
+erwarte 0 "Maßstab vor dem Ordnen" --export dxf,pdf --quer --nummern-ordnen druck --ziel aus2 "$wurzel/beispiele/NETZ.EIN"
+erwarte 0 "derselbe genannt" --export dxf,pdf --quer --nummern-ordnen druck --massstab 200000 --ziel aus3 "$wurzel/beispiele/NETZ.EIN"
+pruefe "derselbe im Dokument" cmp -s aus2/NETZ.pdf aus3/NETZ.pdf
+pruefe "und in der Zeichnung" cmp -s aus2/ZRW.DXF aus3/ZRW.DXF
+rm -f aus[23]/NETZ.pdf aus[23]/ZRW.DXF
 
 mkdir -p aus4/NETZ.png
 erwarte 1 "ein Format geht nicht" --export png,zrw,bmp --ziel aus4 "$wurzel/beispiele/NETZ.EIN"

@@ -293,6 +293,13 @@ struct Messmittel {
 
 }  // namespace
 
+std::string Dokumentmassstab(const Ausgabe& a) {
+    const Messmittel m(a);
+    Blattwahl wahl{};
+    WaehleMassstab(a, m.Plan(a), m.druck.teilung, wahl);
+    return wahl.massstabtext;
+}
+
 std::optional<Planbeschriftung::Ordnung> OrdneAufDokument(const Ausgabe& a, Netz& netz,
                                                           const Planbeschriftung::Beweglich& beweglich,
                                                           const Fortschritt& fortschritt) {

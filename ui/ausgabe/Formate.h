@@ -85,6 +85,9 @@ struct Blattwahl {
     std::size_t gebraucht;        ///< how many would hold all of the plan; 0: more than `kMeisteBlaetter`
 };
 
+/// The scale of a document of this output, as the legend names it.
+[[nodiscard]] std::string Dokumentmassstab(const Ausgabe& a);
+
 /// Places for point numbers on the sheets of a document of this output, all those that hold the plan.
 /// @param netz that of the output; stays as it is @return nothing where it was stopped
 [[nodiscard]] std::optional<Planbeschriftung::Ordnung> OrdneAufDokument(

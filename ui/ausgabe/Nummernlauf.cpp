@@ -6,9 +6,16 @@
 
 namespace zrw {
 
-void OrdneNummern(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag, Netz& netz,
-                  const Sprecher& sage) {
+void LegeMassstabFest(const Ausgabequelle& quelle, Ausgabeauftrag& auftrag) {
+    if (auftrag.ordnen != Nummernziel::Druck || !auftrag.passend) return;
+    auftrag.massstab = Dokumentmassstab(AusgabeVon(quelle, auftrag, {}));
+    auftrag.passend = auftrag.gesucht = false;
+    if (quelle.vorlage.legende != nullptr) quelle.vorlage.legende->Masstab = auftrag.massstab;
+}
+
+void OrdneNummern(const Ausgabequelle& quelle, Ausgabeauftrag& auftrag, Netz& netz, const Sprecher& sage) {
     if (!auftrag.ordnen) return;
+    LegeMassstabFest(quelle, auftrag);
     const Bildpunkt anfang{quelle.einstellungen.PXOff, quelle.einstellungen.PYOff};
     const auto beweglich = [&](const PunktString& t) {
         return !quelle.ausBild || Bildpunkt{t.Item->XBiO, t.Item->YBiO} == anfang;
