@@ -80,8 +80,8 @@ Papier LiesPapier(std::string name) {
 }
 
 Nummernziel LiesNummernziel(const std::string& text) {
-    if (text == "bild") return Nummernziel::Bild;
-    if (text == "druck") return Nummernziel::Druck;
+    for (const Nummernzielzeile& z : kNummernziele)
+        if (z.name == text) return z.ziel;
     throw Falschaufruf{"--nummern-ordnen erwartet bild oder druck, nicht \"" + text + "\""};
 }
 

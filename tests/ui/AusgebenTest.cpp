@@ -78,6 +78,9 @@ TEST_F(Ausgabefenster, BefehlSchreibtDieselbenBytes) {
         return [=](const QDialog& d) { Feld<QCheckBox>(d, name).setChecked(ein); };
     };
     const auto massstab = [](const QDialog& d) { Feld<QLineEdit>(d, "AusgabeMassstab").setText("40000.5"); };
+    const auto nummern = [](int ziel) -> Wahl {
+        return [=](const QDialog& d) { Feld<QComboBox>(d, "NummernWahl").setCurrentIndex(ziel); };
+    };
     struct Fall {
         const char* format;
         std::vector<Wahl> wahlen;
@@ -101,11 +104,17 @@ TEST_F(Ausgabefenster, BefehlSchreibtDieselbenBytes) {
           [](const QDialog& d) { Feld<QSpinBox>(d, "BlattUeberlappung").setValue(10); },
           [](const QDialog& d) { Feld<QComboBox>(d, "BlattStift").setCurrentIndex(2); },
           [](const QDialog& d) { Feld<QLineEdit>(d, "BlattFirma").setText("Büro 'Süd'"); }}},
-        {"geojson", {}},
+        {"pdf", {nummern(2), kreuz("PapierQuer", true), kreuz("Schalter-legende", true)}},
+        {"png", {nummern(1), [](const QDialog& d) { Feld<QSpinBox>(d, "BildWeite").setValue(700); }}},
+        {"zrw", {nummern(2), kreuz("MassstabPassend", false), massstab}},
+        {"geojson", {nummern(2)}},
         {"liste", {}},
         {"statistik", {}},
         {"dxf", {massstab, kreuz("Schalter-np", false)}},
         {"plt", {[](const QDialog& d) { Feld<QSpinBox>(d, "AusgabeAufloesung").setValue(96); }}},
+    };
+    const auto mitNummern = [](std::string_view format) {
+        return std::string_view("zrw png bmp svg pdf").find(format) != std::string_view::npos;
     };
     for (const char* quelle : {"NETZ.EIN", "LINIEN.ZRW"}) {
         OeffneBeispiel(quelle);
@@ -120,6 +129,7 @@ TEST_F(Ausgabefenster, BefehlSchreibtDieselbenBytes) {
                 w(*dialog);
             dialog->ZeichneVorschau();
             EXPECT_FALSE(Feld<QLabel>(*dialog, "VorschauBild").pixmap().isNull()) << wo;
+            EXPECT_EQ(Feld<QWidget>(*dialog, "NummernWahl").isVisible(), mitNummern(f.format)) << wo;
             EXPECT_EQ(Hinweis(*dialog), "") << wo;
             const QString name = Feld<QLineEdit>(*dialog, "AusgabeName").text();
             Feld<QLineEdit>(*dialog, "AusgabeOrdner").setText(Pfad("Neuer Ordner"));
@@ -141,6 +151,29 @@ TEST_F(Ausgabefenster, BefehlSchreibtDieselbenBytes) {
         EXPECT_FALSE(Kasten("CheckBoxALKKurz").isChecked()) << quelle;
     }
     EXPECT_TRUE(dialoge.meldungen.isEmpty());
+}
+
+TEST_F(Ausgabefenster, OrdnetNummernNurInDerAusgabe) {
+    OeffneBeispiel("NETZ.EIN");
+    const Stand vorher = Jetzt();
+    QByteArrayList svg;
+    for (const int ziel : {0, 1, 2}) {
+        Ausgabedialog& dialog = Dialog();
+        WaehleFormat(dialog, "svg");
+        Feld<QComboBox>(dialog, "NummernWahl").setCurrentIndex(ziel);
+        Tippe(Feld<QLineEdit>(dialog, "AusgabeName"), QByteArray::number(ziel).constData());
+        Schreibe(dialog);
+        svg << Bytes(QString::number(ziel) + ".svg");
+    }
+    EXPECT_FALSE(svg[0] == svg[1] || svg[1] == svg[2] || svg[0] == svg[2]);
+    EXPECT_TRUE(Jetzt() == vorher);
+    Knopf("NummernOrdnenButton").click();
+    Kind<QAbstractButton>("OrdnenKnopf").click();
+    SpeichereDatei(kOrdner + "/neu.ZRW");
+    Ausgabedialog& dialog = Dialog();
+    EXPECT_FALSE(Hinweis(dialog).contains("geordnet"));
+    Feld<QComboBox>(dialog, "NummernWahl").setCurrentIndex(1);
+    EXPECT_TRUE(Hinweis(dialog).contains("lässt Nummern stehen, die im Fenster schon geordnet wurden"));
 }
 
 TEST_F(Ausgabefenster, VorhandenesBleibtUndFehlerHaltenDasFensterOffen) {

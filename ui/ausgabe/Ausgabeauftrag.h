@@ -2,9 +2,11 @@
 // dialog holds.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "input/Oeffnen.h"
@@ -29,6 +31,16 @@ inline constexpr Bildgroesse kUeblicheGroesse{1200, 1200};
 
 /// What point numbers are put in order for before anything is written.
 enum class Nummernziel : std::uint8_t { Bild, Druck };
+
+struct Nummernzielzeile {
+    Nummernziel ziel;
+    std::string_view name;         ///< on the command line
+    std::string_view bezeichnung;  ///< in the window, UTF-8
+};
+inline constexpr auto kNummernziele = std::to_array<Nummernzielzeile>({
+    {Nummernziel::Bild, "bild", "für das Bild"},
+    {Nummernziel::Druck, "druck", "für den Druck"},
+});
 
 struct Ausgabeauftrag {
     std::optional<Bildgroesse> groesse;

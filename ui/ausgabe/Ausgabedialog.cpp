@@ -29,9 +29,9 @@ const QString kOhneMassstab = QStringLiteral("Der Druckmaßstab muss eine Zahl g
 
 }  // namespace
 
-Ausgabedialog::Ausgabedialog(const Programm& programm, const Plan& plan, const Ausgabeanfang& anfang,
-                             const QString& ordner, QWidget* eltern)
-    : QDialog(eltern), dialoge_(programm.dialoge), plan_(programm, plan) {
+Ausgabedialog::Ausgabedialog(const Programm& programm, Plan& plan, const Ausgabeanfang& anfang,
+                             const QString& ordner, Planbeschriftung::Beweglich beweglich, QWidget* eltern)
+    : QDialog(eltern), dialoge_(programm.dialoge), plan_(programm, plan, std::move(beweglich)) {
     setObjectName(QStringLiteral("AusgabeDialog"));
     setWindowTitle(QStringLiteral("Ausgeben"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -245,10 +245,11 @@ void Ausgabedialog::SchreibeDatei() {
     Planausgabe::Ergebnis ergebnis;
     try {
         const Sanduhr sanduhr;
-        ergebnis = plan_.SchreibeDatei(*format_, *felder_->Auftrag(), NachPfad(datei));
+        ergebnis = plan_.SchreibeDatei(*format_, *felder_->Auftrag(), NachPfad(datei), this);
     } catch (const std::exception& f) {
-        ergebnis = {false, {AusUtf8(Fehlertext(f))}};
+        ergebnis = {.meldungen = {AusUtf8(Fehlertext(f))}};
     }
+    if (ergebnis.abgebrochen) return;
     const QString meldungen = ergebnis.meldungen.join(QLatin1Char('\n'));
     if (!ergebnis.ganz) return dialoge_.MeldeFehler(meldungen);
     if (geschrieben) geschrieben(QStringLiteral("Geschrieben: ") + anzeige);

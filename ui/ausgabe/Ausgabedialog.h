@@ -20,9 +20,9 @@ class Ausgabedialog final : public QDialog {
     /// Called with what the status line is to say, after a file was written.
     std::function<void(const QString& text)> geschrieben;
 
-    /// @param ordner where files go at first
-    Ausgabedialog(const Programm& programm, const Plan& plan, const Ausgabeanfang& anfang,
-                  const QString& ordner, QWidget* eltern);
+    /// @param ordner where files go at first @param beweglich numbers that may go elsewhere
+    Ausgabedialog(const Programm& programm, Plan& plan, const Ausgabeanfang& anfang, const QString& ordner,
+                  Planbeschriftung::Beweglich beweglich, QWidget* eltern);
 
     /// The preview is up to date from here on; while somebody types it waits for a pause.
     void ZeichneVorschau();

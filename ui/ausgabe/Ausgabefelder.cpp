@@ -40,6 +40,7 @@ Ausgabefelder::Ausgabefelder(const Planausgabe& plan, const Ausgabeanfang& anfan
       ellipsenmassstab_(plan.Ellipsenmassstab()) {
     form_->setContentsMargins(0, 0, 0, 0);
     BaueFormat(*form_);
+    BaueNummern(*form_);
     BaueBild(*form_, plan.UeblicheGroesse(), anfang.glatt);
     BaueBlatt(*form_, anfang.massstab);
     BaueGestaltung(*form_, anfang.gestaltung);
@@ -75,6 +76,30 @@ void Ausgabefelder::BaueFormat(QFormLayout& form) {
     });
     form.addRow(QStringLiteral("Format"), format_);
     setFocusProxy(format_);
+}
+
+void Ausgabefelder::BaueNummern(QFormLayout& form) {
+    nummern_ = &NeuesTeil("NummernWahl", "Sucht Plätze für die Punktnummern der Ausgabe; der Plan bleibt",
+                          new QComboBox(this));
+    nummern_->addItem(QStringLiteral("nicht"));
+    for (const Nummernzielzeile& z : kNummernziele)
+        nummern_->addItem(AusUtf8(z.bezeichnung));
+    connect(nummern_, &QComboBox::currentIndexChanged, this, [this] {
+        ZeigeFelder();
+        MeldeAenderung();
+    });
+    form.addRow(QStringLiteral("Punktnummern ordnen"), nummern_);
+    NurBei(kMitNummern, *nummern_);
+}
+
+std::optional<Nummernziel> Ausgabefelder::Ordnen() const {
+    const int zeile = nummern_->currentIndex() - 1;
+    if (zeile < 0 || !GewaehltesFormat().HatMerkmal(kMitNummern)) return std::nullopt;
+    return kNummernziele[static_cast<std::size_t>(zeile)].ziel;
+}
+
+bool Ausgabefelder::Gilt(unsigned merkmal) const {
+    return (Merkmale(GewaehltesFormat(), Ordnen()) & merkmal) != 0;
 }
 
 void Ausgabefelder::BaueBild(QFormLayout& form, Bildgroesse groesse, bool glatt) {
@@ -181,13 +206,12 @@ void Ausgabefelder::BaueSchalter(QFormLayout& form, const Planausgabe& plan) {
 
 /// Only what applies to the format, with its labels.
 void Ausgabefelder::ZeigeFelder() {
-    const Format& format = GewaehltesFormat();
     for (const auto& [merkmale, teil] : bedingte_) {
-        const bool zeigen = format.HatMerkmal(merkmale);
+        const bool zeigen = Gilt(merkmale);
         teil->setVisible(zeigen);
         if (QWidget* schild = form_->labelForField(teil)) schild->setVisible(zeigen);
     }
-    const bool passend = format.HatMerkmal(kMitPapier) && passend_->isChecked();
+    const bool passend = Gilt(kMitPapier) && passend_->isChecked();
     massstab_->setEnabled(!passend);
     blaetter_->setEnabled(passend);
     alle_->setEnabled(!passend || blaetter_->value() == 1);
@@ -199,7 +223,7 @@ void Ausgabefelder::ZeigeFelder() {
 
 /// Whether it shows anything in the format.
 bool Ausgabefelder::Wirkt(const Schalter& schalter) const {
-    if (schalter.HatMerkmal(kAufPapier) && !GewaehltesFormat().HatMerkmal(kMitPapier)) return false;
+    if (schalter.HatMerkmal(kAufPapier) && !Gilt(kMitPapier)) return false;
     if (!GewaehltesFormat().HatMerkmal(kOhneLegende)) return true;
     return !schalter.HatMerkmal(kAusErgebnissen | kInMetern) &&
            schalter.inDarstellung != &Darstellung::ShowLegende;
@@ -229,9 +253,10 @@ void Ausgabefelder::NimmSchalter(Ausgabeauftrag& auftrag) const {
 std::optional<Ausgabeauftrag> Ausgabefelder::Auftrag() const {
     const Format& format = GewaehltesFormat();
     Ausgabeauftrag a;
+    a.ordnen = Ordnen();
     if (format.HatMerkmal(kMitGroesse)) a.groesse = {weite_->value(), hoehe_->value()};
     a.kantig = format.HatMerkmal(kMitKanten) && !glatt_->isChecked();
-    if (format.HatMerkmal(kMitPapier)) {
+    if (Gilt(kMitPapier)) {
         a.papier = kPapierformate[static_cast<std::size_t>(papier_->currentIndex())].hochkant;
         a.quer = quer_->isChecked();
         a.alleBlaetter = alle_->isChecked();
@@ -240,9 +265,9 @@ std::optional<Ausgabeauftrag> Ausgabefelder::Auftrag() const {
     if (format.HatMerkmal(kMitSchaltern)) NimmSchalter(a);
     a.faerbung = faerbung_;
     const bool legende = std::find(a.ein.begin(), a.ein.end(), "legende") != a.ein.end();
-    if (format.HatMerkmal(kMitMassstab)) {
+    if (Gilt(kMitMassstab)) {
         a.dpi = dpi_->value();
-        a.passend = format.HatMerkmal(kMitPapier) && passend_->isChecked();
+        a.passend = Gilt(kMitPapier) && passend_->isChecked();
         if (a.passend) a.blaetter = blaetter_->value();
     } else {
         a.passend = !legende;  // pictures only name it

@@ -41,6 +41,7 @@ class Ausgabefelder final : public QWidget {
 
   private:
     void BaueFormat(QFormLayout& form);
+    void BaueNummern(QFormLayout& form);
     void BaueBild(QFormLayout& form, Bildgroesse groesse, bool glatt);
     void BaueBlatt(QFormLayout& form, const QString& massstab);
     void BaueGestaltung(QFormLayout& form, const Blattgestaltung& anfang);
@@ -52,6 +53,10 @@ class Ausgabefelder final : public QWidget {
     void NurBei(unsigned merkmale, QWidget& teil);
     void ZeigeFelder();
     void MeldeAenderung();
+    /// None: numbers stay, or the format does not care.
+    [[nodiscard]] std::optional<Nummernziel> Ordnen() const;
+    /// Whether this applies to format and numbers.
+    [[nodiscard]] bool Gilt(unsigned merkmal) const;
     [[nodiscard]] bool Wirkt(const Schalter& schalter) const;
     void NimmSchalter(Ausgabeauftrag& auftrag) const;
 
@@ -59,6 +64,7 @@ class Ausgabefelder final : public QWidget {
     Planfaerbung faerbung_;    ///< that of the window
     double ellipsenmassstab_;  ///< of the window
     QComboBox* format_ = nullptr;
+    QComboBox* nummern_ = nullptr;
     QSpinBox* weite_ = nullptr;
     QSpinBox* hoehe_ = nullptr;
     QCheckBox* glatt_ = nullptr;

@@ -28,6 +28,11 @@ struct Ausgabeziel {
     std::filesystem::path name;
 };
 
+/// What applies to a format: numbers that are put in order for the print have its paper and scale, too.
+[[nodiscard]] constexpr unsigned Merkmale(const Format& format, std::optional<Nummernziel> ordnen) {
+    return format.merkmale | (ordnen == Nummernziel::Druck ? kMitPapier | kMitMassstab : 0U);
+}
+
 /// The view that a plan is written in.
 /// @param gelesen that of the file which it comes from; one of a control file shows all of the network
 void SetzeGroesse(const Ausgabeauftrag& auftrag, Ansicht& gelesen);

@@ -6,6 +6,7 @@
 
 #include "model/Cp1252.h"
 #include "model/Zahlentext.h"
+#include "ui/ausgabe/Ausgabelauf.h"
 
 namespace zrw {
 namespace {
@@ -14,6 +15,12 @@ std::string Papiername(const Papier& papier) {
     const auto* f = std::find_if(kPapierformate.begin(), kPapierformate.end(),
                                  [&](const Papierformat& p) { return p.hochkant.weite == papier.weite; });
     return std::string((f != kPapierformate.end() ? *f : kPapierformate[0]).name);
+}
+
+std::string Zielname(Nummernziel ziel) {
+    const auto* z = std::find_if(kNummernziele.begin(), kNummernziele.end(),
+                                 [&](const Nummernzielzeile& x) { return x.ziel == ziel; });
+    return std::string(z->name);
 }
 
 void HaengeListeAn(std::vector<std::string>& worte, const char* option,
@@ -75,13 +82,15 @@ std::vector<std::string> Befehlsworte(const Format& format, const Ausgabeauftrag
                                       const std::filesystem::path& ordner,
                                       const std::filesystem::path& datei) {
     std::vector<std::string> worte{"zarwik", "--export", std::string(format.name)};
+    const unsigned merkmale = Merkmale(format, auftrag.ordnen);
     const auto nimm = [&](const char* option, const std::string& wert) {
         worte.insert(worte.end(), {option, wert});
     };
     if (auftrag.groesse && format.HatMerkmal(kMitGroesse))
         nimm("--groesse",
              std::to_string(auftrag.groesse->weite) + 'x' + std::to_string(auftrag.groesse->hoehe));
-    if (format.HatMerkmal(kMitPapier)) {
+    if (auftrag.ordnen) nimm("--nummern-ordnen", Zielname(*auftrag.ordnen));
+    if ((merkmale & kMitPapier) != 0) {
         nimm("--papier", Papiername(auftrag.papier));
         if (auftrag.quer) worte.emplace_back("--quer");
         if (auftrag.alleBlaetter && auftrag.blaetter == 1) worte.emplace_back("--alle-blaetter");
@@ -90,7 +99,7 @@ std::vector<std::string> Befehlsworte(const Format& format, const Ausgabeauftrag
     }
     // The legend of a picture names a scale, too.
     if (!auftrag.passend) nimm("--massstab", auftrag.massstab);
-    if (format.HatMerkmal(kMitMassstab) && auftrag.dpi != kUeblicheAufloesung)
+    if ((merkmale & kMitMassstab) != 0 && auftrag.dpi != kUeblicheAufloesung)
         nimm("--dpi", std::to_string(auftrag.dpi));
     if (auftrag.kantig && format.HatMerkmal(kMitKanten)) worte.emplace_back("--kantig");
     if (format.HatMerkmal(kMitSchaltern) && !format.HatMerkmal(kOhneLegende))

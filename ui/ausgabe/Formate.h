@@ -54,6 +54,7 @@ inline constexpr unsigned kMitPapier = 4;      ///< lies on sheets of paper
 inline constexpr unsigned kMitMassstab = 8;    ///< has a scale and a resolution
 inline constexpr unsigned kMitSchaltern = 16;  ///< holds what is switched on, not all of the network
 inline constexpr unsigned kOhneLegende = 32;   ///< neither legend nor results, whatever is switched on
+inline constexpr unsigned kMitNummern = 64;    ///< point numbers stand where the plan has them
 
 struct Format {
     std::string_view name;         ///< on the command line

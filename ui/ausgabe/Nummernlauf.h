@@ -1,6 +1,9 @@
 // Point numbers put in order before something is written, as the window does it.
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include "ui/ausgabe/Ausgabelauf.h"
 
 namespace zrw {
@@ -9,9 +12,14 @@ namespace zrw {
 /// before numbers move, and stands in order and legend from then on. Does nothing otherwise.
 void LegeMassstabFest(const Ausgabequelle& quelle, Ausgabeauftrag& auftrag);
 
-/// Does nothing where the order does not ask for it. Numbers of a picture file that have not the offset of
-/// the settings stay: somebody has placed them. Tells how many overlap in the end.
-/// @param auftrag gets its scale @param netz that of the source
+/// Where numbers go; nowhere where the order does not ask for it. Tells how many overlap in the end.
+/// @param netz that of the source; stays as it is @return nothing where it was stopped
+[[nodiscard]] std::optional<std::vector<Planbeschriftung::Nummernlage>> SucheNummernlagen(
+    const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag, Netz& netz,
+    const Planbeschriftung::Beweglich& beweglich, const Sprecher& sage, const Fortschritt& fortschritt = {});
+
+/// Both for the batch mode, and numbers go there. Those of a picture file that have not the offset of the
+/// settings stay: somebody has placed them.
 void OrdneNummern(const Ausgabequelle& quelle, Ausgabeauftrag& auftrag, Netz& netz, const Sprecher& sage);
 
 }  // namespace zrw

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <system_error>
 
+#include "output/beschriftung/Blattordnung.h"
 #include "ui/Umwandlung.h"
 #include "ui/ausgabe/Befehl.h"
+#include "ui/ausgabe/Nummernlauf.h"
+#include "ui/dialoge/Ordnungsfortschritt.h"
 #include "ui/fenster/Schalter.h"
 
 namespace zrw {
@@ -22,12 +25,15 @@ bool GleicheLegende(const std::optional<Legende>& a, const std::optional<Legende
 
 }  // namespace
 
-/// View, switches and state of one output.
+/// View, switches, state and order of one output.
 class Planausgabe::Kopie {
   public:
-    Kopie(const Planausgabe& p, const Ausgabeauftrag& auftrag, TDM& daten)
+    Kopie(Planausgabe& p, const Ausgabeauftrag& gewuenscht, TDM& daten)
         : ansicht_(p.plan_.Abgelegt().ansicht),
           darstellung_(*p.plan_.Daten()),
+          netz_(*p.plan_.Daten()),
+          beweglich_(p.beweglich_),
+          auftrag(gewuenscht),
           quelle{.vorlage = {*p.plan_.Daten(), ansicht_, darstellung_,
                              darstellung_.Legend ? &*darstellung_.Legend : nullptr},
                  .netz = p.programm_.netz,
@@ -47,17 +53,37 @@ class Planausgabe::Kopie {
     Kopie(const Kopie&) = delete;
     Kopie& operator=(const Kopie&) = delete;
 
+    /// Numbers stand where the order wants them, as long as the copy lives. @return false: it was stopped
+    [[nodiscard]] bool OrdneNummern(const Sprecher& sage, const Fortschritt& fortschritt) {
+        LegeMassstabFest(quelle, auftrag);
+        auto lagen = SucheNummernlagen(quelle, auftrag, netz_, beweglich_, sage, fortschritt);
+        if (!lagen) return false;
+        nummern_.emplace(netz_, std::move(*lagen));
+        return true;
+    }
+
   private:
     Ansicht ansicht_;
     Darstellung darstellung_;
     Zeichenzustand zustand_;
+    Netz& netz_;
+    const Planbeschriftung::Beweglich& beweglich_;
+    std::optional<Probelage> nummern_;
 
   public:
+    Ausgabeauftrag auftrag;  ///< with the scale that was found for it
     const Ausgabequelle quelle;
 };
 
-Planausgabe::Planausgabe(const Programm& programm, const Plan& plan)
-    : programm_(programm), plan_(plan), daten_(programm.dateien) {}
+Planausgabe::Planausgabe(const Programm& programm, Plan& plan, Planbeschriftung::Beweglich beweglich)
+    : programm_(programm), plan_(plan), beweglich_(std::move(beweglich)), daten_(programm.dateien) {}
+
+std::size_t Planausgabe::Nummernzahl() const {
+    std::size_t n = 0;
+    for (const PunktString* t = plan_.Daten()->PktTextKnoten; t != nullptr; t = t->Next)
+        ++n;
+    return n;
+}
 
 /// What was read says that, whatever it was saved as since.
 bool Planausgabe::AusBild() const {
@@ -83,20 +109,31 @@ bool Planausgabe::IstAn(const Schalter& schalter) const {
 
 Ausgabevorschau Planausgabe::ZeichneVorschau(const Format& format, const Ausgabeauftrag& auftrag,
                                              QSize platz) {
-    const Kopie kopie(*this, auftrag, daten_);
-    return ZeichneAusgabe(format, AusgabeVon(kopie.quelle, auftrag, [](const std::string& /*text*/) {}),
-                          platz);
+    Kopie kopie(*this, auftrag, daten_);
+    const auto stumm = [](const std::string& /*text*/) {};
+    const bool viele = auftrag.ordnen && Nummernzahl() >= kVieleNummern;
+    try {
+        if (!viele && !kopie.OrdneNummern(stumm, {})) return {};
+    } catch (const std::exception& f) {
+        return {{}, AusUtf8(Fehlertext(f))};
+    }
+    Ausgabevorschau v = ZeichneAusgabe(format, AusgabeVon(kopie.quelle, kopie.auftrag, stumm), platz);
+    if (viele) v.text += QStringLiteral("; die Nummern werden erst beim Schreiben geordnet");
+    return v;
 }
 
 Planausgabe::Ergebnis Planausgabe::SchreibeDatei(const Format& format, const Ausgabeauftrag& auftrag,
-                                                 const std::filesystem::path& ziel) const {
+                                                 const std::filesystem::path& ziel, QWidget* fenster) {
     TDM daten(programm_.dateien);  // tells what the preview has found, too
-    const Kopie kopie(*this, auftrag, daten);
+    Kopie kopie(*this, auftrag, daten);
     Ergebnis ergebnis;
     const auto sage = [&](const std::string& text) { ergebnis.meldungen << AusUtf8(text); };
     MeldeDarstellung(kopie.quelle, sage);
-    ergebnis.ganz =
-        SchreibeAusgaben(kopie.quelle, auftrag, ziel.parent_path(), {{format, ziel.filename()}}, daten, sage);
+    const auto ordne = [&](const Fortschritt& f) { return kopie.OrdneNummern(sage, f); };
+    if (auftrag.ordnen && !SucheMitFortschritt(Nummernzahl(), fenster, ordne))
+        return {.abgebrochen = true, .meldungen = {}};
+    ergebnis.ganz = SchreibeAusgaben(kopie.quelle, kopie.auftrag, ziel.parent_path(),
+                                     {{format, ziel.filename()}}, daten, sage);
     return ergebnis;
 }
 
@@ -110,6 +147,15 @@ QString Planausgabe::Befehl(const Format& format, const Ausgabeauftrag& auftrag,
     const std::filesystem::path& datei = plan_.Abgelegt().datei;
     return AusUtf8(
         Befehlszeile(Befehlsworte(format, auftrag, ordner, datei.empty() ? "DATEI" : Vollstaendig(datei))));
+}
+
+/// In a picture file it takes numbers that the window has put in order for placed by somebody.
+bool Planausgabe::BefehlLaesstNummernStehen() const {
+    if (!IstBilddatei(plan_.Abgelegt().datei)) return false;
+    const Bildpunkt anfang{programm_.einstellungen.PXOff, programm_.einstellungen.PYOff};
+    for (const PunktString* t = plan_.Daten()->PktTextKnoten; t != nullptr; t = t->Next)
+        if (Bildpunkt{t->Item->XBiO, t->Item->YBiO} != anfang && beweglich_(*t)) return true;
+    return false;
 }
 
 /// What the command reads instead of what is open.
@@ -145,6 +191,8 @@ QStringList Planausgabe::Abweichungen(const Format& format, const Ausgabeauftrag
         texte << QStringLiteral(
             "Der Befehl färbt in den üblichen Farben und kennt die Wahl nach Art der Beobachtung, Punkt und "
             "Klasse nicht.");
+    if (auftrag.ordnen && BefehlLaesstNummernStehen())
+        texte << QStringLiteral("Der Befehl lässt Nummern stehen, die im Fenster schon geordnet wurden.");
     const Netzangaben uebliche;
     const Netzangaben& netz = programm_.netz;
     const bool gitter = std::any_of(auftrag.ein.begin(), auftrag.ein.end(), [](const std::string& n) {

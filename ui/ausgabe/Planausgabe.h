@@ -18,8 +18,9 @@ struct Schalter;
 
 class Planausgabe {
   public:
-    /// Both outlive it; a network is open all the time.
-    Planausgabe(const Programm& programm, const Plan& plan);
+    /// Program and plan outlive it; a network is open all the time.
+    /// @param beweglich numbers that may go elsewhere
+    Planausgabe(const Programm& programm, Plan& plan, Planbeschriftung::Beweglich beweglich);
 
     /// Size of a picture that nobody asked another for.
     [[nodiscard]] Bildgroesse UeblicheGroesse() const;
@@ -31,14 +32,17 @@ class Planausgabe {
     [[nodiscard]] double Ellipsenmassstab() const { return plan_.Daten()->Ellipsenmassstab; }
     [[nodiscard]] const Netzangaben& Angaben() const { return programm_.netz; }
 
+    /// Very many numbers stay as they are in it, whatever the order says.
     [[nodiscard]] Ausgabevorschau ZeichneVorschau(const Format& format, const Ausgabeauftrag& auftrag,
                                                   QSize platz);
     struct Ergebnis {
-        bool ganz = false;      ///< everything was written and read
-        QStringList meldungen;  ///< as the batch mode tells them
+        bool ganz = false;         ///< everything was written and read
+        bool abgebrochen = false;  ///< nothing was written
+        QStringList meldungen;     ///< as the batch mode tells them
     };
+    /// @param fenster shows how far it is
     [[nodiscard]] Ergebnis SchreibeDatei(const Format& format, const Ausgabeauftrag& auftrag,
-                                         const std::filesystem::path& ziel) const;
+                                         const std::filesystem::path& ziel, QWidget* fenster);
 
     /// Name of the file that the batch mode would write.
     [[nodiscard]] std::filesystem::path Zielname(const Format& format) const;
@@ -52,12 +56,15 @@ class Planausgabe {
   private:
     class Kopie;
 
+    [[nodiscard]] std::size_t Nummernzahl() const;
+    [[nodiscard]] bool BefehlLaesstNummernStehen() const;
     [[nodiscard]] bool AusBild() const;
     [[nodiscard]] std::filesystem::path Tabellenordner() const;
     [[nodiscard]] QString Lesestand() const;
 
     const Programm& programm_;
-    const Plan& plan_;
+    Plan& plan_;  ///< stays as it is
+    Planbeschriftung::Beweglich beweglich_;
     TDM daten_;  ///< of its own, so that the window's keep their messages
 };
 

@@ -21,6 +21,7 @@
 #include "ui/ergebnisse/TFormData.h"
 #include "ui/fenster/Aktionen.h"
 #include "ui/fenster/Hauptfenster.h"
+#include "ui/fenster/Nummernordner.h"
 #include "ui/fenster/Sanduhr.h"
 #include "ui/fenster/Zentrierkasten.h"
 #include "ui/hilfe/Hilfefenster.h"
@@ -69,9 +70,9 @@ void TZrwMainDlg::AusgebenClick() {
     bewahrung_.BewahrePlan();
     werkzeuge_.BrichAb();
     SchliesseEinstellungen();  // closing saves them: the command line reads what is saved
-    auto* dialog = new Ausgabedialog(programm_, plan_,
-                                     {EditMasstab_->text(), vorlieben_.KantenGlaetten, druck_.Gestaltung()},
-                                     ordner_, this);
+    auto* dialog = new Ausgabedialog(
+        programm_, plan_, {EditMasstab_->text(), vorlieben_.KantenGlaetten, druck_.Gestaltung()}, ordner_,
+        [this](const PunktString& t) { return !nummern_->IstVerschoben(t); }, this);
     dialog->geschrieben = [this](const QString& text) { MeldeErledigt(text); };
     dialog->open();
 }

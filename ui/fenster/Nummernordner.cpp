@@ -22,6 +22,10 @@ Nummernordner::Nummernordner(const Umfeld& umfeld, QWidget* fenster)
     dialog_->ordne = [this](const Ordnungsdialog::Wahl& wahl) { OrdneNummern(wahl); };
 }
 
+bool Nummernordner::IstVerschoben(const PunktString& t) const {
+    return stand_.IstVerschoben(t, NeuerAbstand());
+}
+
 Bildpunkt Nummernordner::NeuerAbstand() const {
     return {u_.umgebung.Anzeige().PXOff, u_.umgebung.Anzeige().PYOff};
 }
@@ -75,8 +79,7 @@ void Nummernordner::OrdneNummern(const Ordnungsdialog::Wahl& wahl) {
     if (u_.umgebung.AktuelleListe() == nullptr) return;
     Liste& liste = *u_.umgebung.AktuelleListe();
     const auto beweglich = [&](const PunktString& t) {
-        return (nur_.empty() || nur_.count(t.TNr) != 0) &&
-               (wahl.auchVerschobene || !stand_.IstVerschoben(t, NeuerAbstand()));
+        return (nur_.empty() || nur_.count(t.TNr) != 0) && (wahl.auchVerschobene || !IstVerschoben(t));
     };
     const auto massstab = wahl.fuerDruck ? u_.druck.Massstab() : std::nullopt;
     if (wahl.fuerDruck && !massstab) return;

@@ -36,6 +36,8 @@ class Nummernordner {
     void FrageAlle();
     /// The same for those of some points.
     void FrageNach(const std::vector<PPunktKnoten>& punkte);
+    /// Somebody has dragged it: whoever orders leaves it where it is.
+    [[nodiscard]] bool IstVerschoben(const PunktString& t) const;
 
   private:
     void OeffneDialog();
