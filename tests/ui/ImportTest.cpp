@@ -1,5 +1,6 @@
 // A network of another program in the window: recognised by its content, imported, opened; questions and
 // damage.
+#include <QDialog>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QMimeData>
@@ -36,7 +37,7 @@ TEST_F(Import, ErkanntAmInhalt) {
     EXPECT_EQ(Fenster(), nullptr);
     ASSERT_NE(fenster.Netz(), nullptr);
     EXPECT_EQ(fenster.Netz()->MaxPkte, 9);
-    EXPECT_TRUE(Status().startsWith("1 grober Fehler markiert")) << Status();
+    EXPECT_TRUE(Status().startsWith("1 grober Fehler markiert")) << Status().toStdString();
     EXPECT_EQ(dialoge.gesagt, QStringList()) << "nothing was lost";
 
     // Once more: the folder is not empty now.
@@ -48,7 +49,7 @@ TEST_F(Import, ErkanntAmInhalt) {
     ASSERT_NE(Fenster(), nullptr) << "no was the answer";
     dialoge.ja = true;
     Importiere();
-    EXPECT_TRUE(Status().startsWith("3 grobe Fehler markiert")) << Status();
+    EXPECT_TRUE(Status().startsWith("3 grobe Fehler markiert")) << Status().toStdString();
     EXPECT_NE(Gespeichert(), vorher) << "two more lines are marked";
 }
 
@@ -87,7 +88,7 @@ TEST_F(Import, WasVerlorenGehtUndWasNichtGeht) {
     ASSERT_EQ(dialoge.gesagt.size(), 1);
     EXPECT_TRUE(dialoge.gesagt[0].contains("1 Punkt hat keine Koordinaten x und y") &&
                 dialoge.gesagt[0].contains("1 Punkt hat einen kürzeren Namen"))
-        << dialoge.gesagt[0];
+        << dialoge.gesagt[0].toStdString();
     EXPECT_EQ(fenster.Netz()->MaxPkte, 2);
     EXPECT_TRUE(QFile::exists(Datei("Lang.zarwik/Lang_namen.csv")));
     EXPECT_FALSE(QFile::exists(Datei("Lang.zarwik/KooTABLE.DB")));
