@@ -34,6 +34,7 @@ struct Fremdpunkt {
     bool lageFest = false, hoeheFest = false;
     bool gebunden = false;       ///< part of a free datum
     bool genannt = false;        ///< the file introduces it; others are only named by observations
+    bool nurErgebnis = false;    ///< the results have it and the network has not: it is not drawn
     std::uint32_t herkunft = 0;  ///< where in the file, see `Xmldatei::Zeile`
 };
 

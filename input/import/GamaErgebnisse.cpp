@@ -97,6 +97,10 @@ class Ergebnisleser {
         NimmPunkte(Kind(koordinaten, "fixed"), &Fremdlage::fest, false);
         NimmPunkte(Kind(koordinaten, "approximate"), &Fremdlage::naeherung, false);
         NimmPunkte(Kind(koordinaten, "adjusted"), &Fremdlage::ausgeglichen, true);
+        if (fremde_ > 0 && bekannteDarin_ == 0) {
+            xml_.WirfFehler("Kein Punkt der Ergebnisse kommt im Netz vor: Sie gehören zu einem anderen.",
+                            koordinaten);
+        }
         for (const pugi::xml_node o : Kind(koordinaten, "orientation-shifts").children())
             orientierungen_ += Elementname(o) == "orientation" ? 1 : 0;
         if (const pugi::xml_node matrix = Kind(koordinaten, "cov-mat")) NimmKovarianzen(matrix);
@@ -120,9 +124,10 @@ class Ergebnisleser {
                 xml_.WirfFehler("Ein Punkt der Ergebnisse hat keinen Namen (id).", knoten);
             }
             const Stelle p = netz_.Punkt(id);
+            bekannteDarin_ += p < bekannte_ ? 1 : 0;
             if (p >= bekannte_ && fremde_ <= p - bekannte_) {
                 fremde_ = p - bekannte_ + 1;
-                netz_.punkte[p].herkunft = 0;
+                netz_.punkte[p].nurErgebnis = true;
                 bericht_.NimmAuf(Befundart::ErgebnispunktFremd, xml_, Xmldatei::Stelle(knoten));
             }
             NimmPunkt(knoten, Lage(p), ziel, unbekannte);
@@ -281,9 +286,10 @@ class Ergebnisleser {
     Fremdnetz& netz_;
     Importbericht& bericht_;
     Gamaachsen achsen_;
-    bool grad_ = false;            ///< angles are in degrees, their accuracies in seconds of arc
-    std::size_t bekannte_ = 0;     ///< points of the network
-    std::size_t fremde_ = 0;       ///< further ones that the results have
+    bool grad_ = false;         ///< angles are in degrees, their accuracies in seconds of arc
+    std::size_t bekannte_ = 0;  ///< points of the network
+    std::size_t fremde_ = 0;    ///< further ones that the results have
+    std::size_t bekannteDarin_ = 0;
     std::int64_t unbekannte_ = 0;  ///< coordinates so far
     std::int64_t orientierungen_ = 0;
     int achse_ = -1;  ///< of the last component

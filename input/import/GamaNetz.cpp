@@ -45,7 +45,7 @@ const Beobachtungszeile* FindeBeobachtung(std::string_view element) {
 /// The attributes of an observation, each looked at once.
 struct Merkmale {
     std::string_view von, nach, links, rechts, wert, sigma, laenge, dx, dy, dz;
-    bool hoehenbezug = false;
+    bool hoehenbezug = false, kennung = false;
 
     explicit Merkmale(pugi::xml_node knoten) {
         struct Zeile {
@@ -72,6 +72,8 @@ struct Merkmale {
                 this->*(z->ziel) = Inhalt(m);
             else if (name.ends_with("_dh"))
                 hoehenbezug = true;
+            else if (name == "extern")
+                kennung = true;
         }
     }
 };
@@ -262,6 +264,7 @@ class Netzleser {
             m.zweites = netz_.Punkt(e.rechts);
             bericht_.NimmAuf(Befundart::Winkel);
         }
+        if (e.kennung) bericht_.NimmAuf(Befundart::Kennung, xml_, m.herkunft);
         if (e.hoehenbezug) bericht_.NimmAuf(Befundart::Hoehenbezug, xml_, m.herkunft);
         m.sigma = Sigma(e, art, m.wert, grad);
         netz_.messungen.push_back(m);

@@ -129,7 +129,7 @@ Importerkennung ErkenneImport(const std::filesystem::path& datei, const Dateien&
     try {
         const Formatfund fund = FindeFormat(Wurzelname(dateien.LiesAnfang(datei, kAnfang)));
         if (fund.format != nullptr) return {fund.rolle, fund.format->name};
-    } catch (const Fehler&) {
+    } catch (const std::exception&) {
         // Whoever opens it then says why that is not possible.
     }
     return {};
@@ -193,7 +193,7 @@ Importergebnis ImportiereNetz(const Importauftrag& auftrag, Dateien& dateien, st
             inhalte.emplace_back(TextPfad(d.first), std::move(d.second));
     }
     for (Stelle p = 0; p < netz.punkte.size(); ++p)
-        ergebnis.punkte += netz.Ort(p).HatLage() ? 1 : 0;
+        ergebnis.punkte += netz.Ort(p).HatLage() && !netz.punkte[p].nurErgebnis ? 1 : 0;
 
     const std::filesystem::path ordner = Zielordner(auftrag);
     const auto vorhanden = ImportZiele(auftrag, dateien);

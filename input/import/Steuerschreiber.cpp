@@ -116,9 +116,10 @@ class Schreiber {
         gezeichnet_.resize(netz_.punkte.size());
         for (Stelle p = 0; p < netz_.punkte.size(); ++p) {
             const Dreier ort = netz_.Ort(p);
+            const Fremdpunkt& punkt = netz_.punkte[p];
+            if (punkt.nurErgebnis) continue;
             gezeichnet_[p] = ort.HatLage();
             if (!ort.HatLage()) {
-                const Fremdpunkt& punkt = netz_.punkte[p];
                 if (punkt.genannt)
                     bericht_.NimmAuf(Befundart::OhneLage, datei_, punkt.herkunft);
                 else

@@ -97,7 +97,8 @@ TEST(Import, Steuerdatei) {
         "<parameters sigma-apr='5'/><neu/><points-observations direction-stdev='10' distance-stdev='3 2 1'>"
         "<point id='A' x='100.5' y='200' z='7' fix='xyz'/><point id='B' x='130' y='240' adj='XY'/>"
         "<point id='C' y='1e3'/><point id='C' x='-2' fix='Z'/><point id='D' z='3'/><point id='B' z='9'/>"
-        "<obs from='A' from_dh='1.5'><direction to='B' val='90-00-00'/><distance to='C' val='1000'/>"
+        "<obs from='A' from_dh='1.5'><direction to='B' val='90-00-00' extern='7'/><distance to='C' "
+        "val='1000'/>"
         "<z-angle to='B' val='98.5' stdev='12'/><angle from='B' bs='A' fs='C' val='300' stdev='14'/>"
         "<azimuth to='C' val='10'/></obs><obs><s-distance from='C' to='B' val='5'/><direction from='A' "
         "to='D' val='1'/>"
@@ -133,6 +134,7 @@ TEST(Import, Steuerdatei) {
         "1 beobachteter Punkt (Koordinaten) hat in der Steuerdatei keinen Platz (N.gkf, Zeile 1).",
         "1 Kovarianzmatrix von Beobachtungen ist bis auf ihre Diagonale weggelassen (N.gkf, Zeile 1).",
         "1 Beobachtung mit Instrumenten- oder Zielhöhe hat diese verloren (N.gkf, Zeile 1).",
+        "1 Beobachtung mit eigener Kennung (extern) hat diese verloren (N.gkf, Zeile 1).",
         "1 unbekanntes Element ist übergangen (N.gkf, Zeile 1)."};
     EXPECT_EQ(hinweise, soll);
 }
@@ -323,6 +325,10 @@ TEST(Import, BeschaedigtesLaesstNichtsZurueck) {
          "<gama-local-adjustment><coordinates><fixed><point><id>A</id>\n<x>eins</x></point></fixed></"
          "coordinates></gama-local-adjustment>",
          "N.xml, Zeile 2: Eine Koordinate der Ergebnisse ist nicht lesbar."},
+        {gut,
+         "<gama-local-adjustment>\n<coordinates><fixed><point><id>X</id><x>1</x></point></fixed></"
+         "coordinates></gama-local-adjustment>",
+         "N.xml, Zeile 2: Kein Punkt der Ergebnisse kommt im Netz vor"},
         {gut, Ergebnisse({1, 2, 3}), "N.xml, Zeile 1: Die Kovarianzmatrix (cov-mat) hat 3 Werte statt 10."},
         {gut,
          "<gama-local-adjustment><coordinates><cov-mat><dim>999999999999</dim><band>0</band></cov-mat></"
