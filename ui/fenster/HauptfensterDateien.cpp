@@ -157,13 +157,12 @@ bool OhnePunkte(const Lesung& lesung, const std::filesystem::path& datei) {
 }  // namespace
 
 void TZrwMainDlg::BaueStartseite() {
-    startseite_ =
-        new Startseite(bild_,
-                       {[this] { SpeedButton1Click(); }, [this] { SpeedButton2Click(); },
-                        [this] { NetzImportierenClick(); },
-                        [this](const QString& datei) { OeffneDatei(NachPfad(datei)); }},
-                       programm_.sitzung.LetzteDateien(),
-                       FindeBeispiel(QCoreApplication::applicationDirPath()), programm_.einstellungen);
+    startseite_ = new Startseite(
+        bild_,
+        {[this] { SpeedButton1Click(); }, [this] { SpeedButton2Click(); }, [this] { NetzImportierenClick(); },
+         [this](const QString& datei) { OeffneDatei(NachPfad(datei)); }},
+        programm_.sitzung.LetzteDateien(), FindeBeispiel(QCoreApplication::applicationDirPath()),
+        programm_.einstellungen);
 }
 
 void TZrwMainDlg::SpeedButton1Click() {
