@@ -166,6 +166,7 @@ class Tabellensatz {
                 return NimmGpsPunkt(e);
             case Messart::Zenitdistanz:
             case Messart::Winkel:
+            case Messart::Anzahl:
                 bericht_.NimmAuf(Befundart::ErgebnisOhneTabelle);
         }
     }

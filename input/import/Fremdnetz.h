@@ -47,7 +47,8 @@ enum class Messart : std::uint8_t {
     Winkel,
     Hoehenunterschied,
     Vektor,
-    Koordinate
+    Koordinate,
+    Anzahl
 };
 
 struct Fremdmessung {

@@ -111,11 +111,18 @@ void PruefeZiele(const Importauftrag& auftrag, const Dateien& dateien) {
         PfadText(Zielordner(auftrag)));
 }
 
+bool IstHeil(const std::string& text) {
+    const auto einfach = [](char c) { return static_cast<unsigned char>(c) < 0x80U; };
+    return std::all_of(text.begin(), text.end(), einfach) || IstUtf8(text);
+}
+
 /// The point numbers, and the list of those that are not the names.
 std::vector<std::string> Benenne(const Fremdnetz& netz, std::vector<Namenspaar>& geaendert) {
+    // What is no UTF-8 is read as code page 1252; the mark behind it keeps it apart from names that are.
+    constexpr const char* kMarke = "\uFFFD";
     std::vector<std::string> namen;
     for (const Fremdpunkt& p : netz.punkte)
-        namen.push_back(p.name);
+        namen.push_back(IstHeil(p.name) ? p.name : Cp1252NachUtf8(p.name) + kMarke);
     std::vector<std::string> nummern = GibNummern(namen);
     for (std::size_t i = 0; i < namen.size(); ++i) {
         if (Cp1252NachUtf8(nummern[i]) != namen[i]) geaendert.push_back({nummern[i], namen[i]});

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "model/Aufzaehltafel.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
 #include "model/Zahlentext.h"
@@ -24,6 +25,27 @@ constexpr std::size_t kJeZeile = 56;  ///< of a usual observation, for the memor
 constexpr std::array<std::string_view, static_cast<std::size_t>(PunktArt::Anzahl)> kPunktschluessel{
     "$FP", "$FL", "$FH", "$NP"};
 
+/// How an observation is written; vectors and coordinates are not lines of their own.
+struct Satzform {
+    Messart art;
+    std::string_view schluessel;
+    bool mitStandpunkt;  ///< the point that it comes from stands on a line before
+    double teile;        ///< of the standard deviation in one unit of the value
+};
+
+constexpr auto kSatzformen = std::to_array<Satzform>({
+    {Messart::Richtung, "$RZ", true, kMgonJeGon},
+    {Messart::Strecke, "$ST", false, kMmJeM},
+    {Messart::Schraegstrecke, "$ST", false, kMmJeM},
+    {Messart::Zenitdistanz, "$ZD", false, kMgonJeGon},
+    {Messart::Azimut, "$AZ", true, kMgonJeGon},
+    {Messart::Winkel, "$RZ", true, kMgonJeGon},
+    {Messart::Hoehenunterschied, "$DH", false, kMmJeM},
+    {Messart::Vektor, "$SV", false, kMmJeM},
+    {Messart::Koordinate, {}, false, kMmJeM},
+});
+static_assert(InReihe(kSatzformen, &Satzform::art), "a row for each Messart, in its order");
+
 /// Text that grows without being looked at: hundreds of thousands of lines.
 class Steuertext {
   public:
@@ -36,7 +58,7 @@ class Steuertext {
         constexpr double kSchnell = 4e7;  // below it the number and its decimals fit 53 bits
         constexpr std::int64_t kTeile = 100'000'000;
         if (std::fabs(wert) >= kSchnell) return Wort(SchreibeReal(wert));
-        const auto teile = static_cast<std::int64_t>(std::fabs(wert) * static_cast<double>(kTeile) + 0.5);
+        const std::int64_t teile = std::llround(std::fabs(wert) * static_cast<double>(kTeile));
         char* z = Platz(32);
         *z++ = ' ';
         if (wert < 0.0 && teile != 0) *z++ = '-';
@@ -161,30 +183,13 @@ class Schreiber {
             bericht_.NimmAuf(Befundart::OhneOrt, datei_, m.herkunft);
             return i + 1;
         }
-        switch (m.art) {
-            case Messart::Richtung:
-                Richtung("$RZ", m);
-                break;
-            case Messart::Azimut:
-                Richtung("$AZ", m);
-                break;
-            case Messart::Winkel:
-                Winkel(m);
-                break;
-            case Messart::Strecke:
-            case Messart::Schraegstrecke:
-                Paar("$ST", m, kMmJeM);
-                break;
-            case Messart::Hoehenunterschied:
-                Paar("$DH", m, kMmJeM);
-                break;
-            case Messart::Zenitdistanz:
-                Paar("$ZD", m, kMgonJeGon);
-                break;
-            case Messart::Vektor:
-            case Messart::Koordinate:
-                break;
-        }
+        const Satzform& form = kSatzformen[static_cast<std::size_t>(m.art)];
+        if (m.art == Messart::Winkel)
+            Winkel(form, m);
+        else if (form.mitStandpunkt)
+            Richtung(form, m);
+        else
+            Paar(form, m);
         return i + 1;
     }
 
@@ -199,34 +204,34 @@ class Schreiber {
         text_.Ende();
     }
 
-    void Ziel(std::string_view schluessel, Stelle p, double wert, double sigma) {
-        text_.Schluessel(schluessel);
+    void Ziel(const Satzform& form, Stelle p, double wert, double sigma) {
+        text_.Schluessel(form.schluessel);
         text_.Nummer(nummern_[p]);
         text_.Zahl(wert);
-        text_.Zahl(sigma / kMgonJeGon);
+        text_.Zahl(sigma / form.teile);
         text_.Ende();
     }
 
-    void Richtung(std::string_view schluessel, const Fremdmessung& m) {
+    void Richtung(const Satzform& form, const Fremdmessung& m) {
         Standpunkt(m.von, m.satz);
-        Ziel(schluessel, m.nach, m.wert, m.sigma);
+        Ziel(form, m.nach, m.wert, m.sigma);
     }
 
     /// Two directions of a set of their own; each has half the variance.
-    void Winkel(const Fremdmessung& m) {
+    void Winkel(const Satzform& form, const Fremdmessung& m) {
         Standpunkt(m.von, 0);
         const double sigma = m.sigma / std::sqrt(2.0);
-        Ziel("$RZ", m.nach, 0.0, sigma);
-        Ziel("$RZ", m.zweites, m.wert, sigma);
+        Ziel(form, m.nach, 0.0, sigma);
+        Ziel(form, m.zweites, m.wert, sigma);
         standpunkt_ = static_cast<Stelle>(-1);
     }
 
-    void Paar(std::string_view schluessel, const Fremdmessung& m, double teile) {
-        text_.Schluessel(schluessel);
+    void Paar(const Satzform& form, const Fremdmessung& m) {
+        text_.Schluessel(form.schluessel);
         text_.Nummer(nummern_[m.von]);
         text_.Nummer(nummern_[m.nach]);
         text_.Zahl(m.wert);
-        text_.Zahl(m.sigma / teile);
+        text_.Zahl(m.sigma / form.teile);
         text_.Ende();
     }
 
