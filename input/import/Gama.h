@@ -2,6 +2,8 @@
 // and how it is taken over: hilfe/47_gama.md.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -32,6 +34,24 @@ struct Gamaachsen {
 
 /// From the attributes `axes-xy` and `angles`, each may be missing. Nothing for axes that do not exist.
 [[nodiscard]] std::optional<Gamaachsen> LiesAchsen(std::string_view achsen, std::string_view winkel);
+
+/// Where the text of an attribute or element goes.
+template <class Texte>
+struct Textfeld {
+    std::string_view name;
+    std::string_view Texte::*ziel;
+};
+/// @return whether one of the fields has this name
+template <class Texte, std::size_t N>
+bool NimmText(Texte& texte, const std::array<Textfeld<Texte>, N>& felder, std::string_view name,
+              std::string_view text) {
+    for (const Textfeld<Texte>& f : felder) {
+        if (f.name != name) continue;
+        texte.*(f.ziel) = text;
+        return true;
+    }
+    return false;
+}
 
 /// An angle [gon], from gon or from degrees as "ddd-mm-ss.s". `grad` tells which.
 struct Gamawinkel {

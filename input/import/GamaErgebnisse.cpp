@@ -46,11 +46,7 @@ struct Ergebnistexte {
     std::string_view von, nach, links, beobachtet, ausgeglichen, sigma, f, test, fehler, id;
 
     explicit Ergebnistexte(pugi::xml_node knoten) {
-        struct Zeile {
-            std::string_view name;
-            std::string_view Ergebnistexte::*ziel;
-        };
-        static constexpr auto kZeilen = std::to_array<Zeile>({
+        static constexpr auto kFelder = std::to_array<Textfeld<Ergebnistexte>>({
             {"from", &Ergebnistexte::von},
             {"to", &Ergebnistexte::nach},
             {"left", &Ergebnistexte::links},
@@ -62,12 +58,8 @@ struct Ergebnistexte {
             {"std-residual", &Ergebnistexte::test},
             {"err-obs", &Ergebnistexte::fehler},
         });
-        for (const pugi::xml_node kind : knoten.children()) {
-            const std::string_view name = Elementname(kind);
-            const auto* z =
-                std::find_if(kZeilen.begin(), kZeilen.end(), [&](const Zeile& k) { return k.name == name; });
-            if (z != kZeilen.end()) this->*(z->ziel) = Inhalt(kind);
-        }
+        for (const pugi::xml_node kind : knoten.children())
+            (void)NimmText(*this, kFelder, Elementname(kind), Inhalt(kind));
     }
 };
 

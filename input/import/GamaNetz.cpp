@@ -48,11 +48,7 @@ struct Merkmale {
     bool hoehenbezug = false, kennung = false;
 
     explicit Merkmale(pugi::xml_node knoten) {
-        struct Zeile {
-            std::string_view name;
-            std::string_view Merkmale::*ziel;
-        };
-        static constexpr auto kZeilen = std::to_array<Zeile>({
+        static constexpr auto kFelder = std::to_array<Textfeld<Merkmale>>({
             {"to", &Merkmale::nach},
             {"val", &Merkmale::wert},
             {"stdev", &Merkmale::sigma},
@@ -66,14 +62,9 @@ struct Merkmale {
         });
         for (const pugi::xml_attribute m : knoten.attributes()) {
             const std::string_view name = m.name();
-            const auto* z =
-                std::find_if(kZeilen.begin(), kZeilen.end(), [&](const Zeile& k) { return k.name == name; });
-            if (z != kZeilen.end())
-                this->*(z->ziel) = Inhalt(m);
-            else if (name.ends_with("_dh"))
-                hoehenbezug = true;
-            else if (name == "extern")
-                kennung = true;
+            if (NimmText(*this, kFelder, name, Inhalt(m))) continue;
+            hoehenbezug = hoehenbezug || name.ends_with("_dh");
+            kennung = kennung || name == "extern";
         }
     }
 };

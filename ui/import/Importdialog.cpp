@@ -47,8 +47,25 @@ Importdialog::Importdialog(const Programm& programm, const QStringList& dateien,
         this);
     was->setWordWrap(true);
     spalte->addWidget(was);
+    spalte->addLayout(BaueFelder());
+    hinweis_ = new QLabel(this);
+    hinweis_->setObjectName(QStringLiteral("ImportHinweis"));
+    hinweis_->setTextFormat(Qt::PlainText);
+    hinweis_->setWordWrap(true);
+    spalte->addWidget(hinweis_);
+    spalte->addStretch();
+    spalte->addWidget(BaueKnoepfe());
+    connect(netz_, &QLineEdit::textChanged, this, [this] { NetzGeaendert(); });
+    connect(ergebnisse_, &QLineEdit::textEdited, this, [this] { eigeneErgebnisse_ = true; });
+    connect(ergebnisse_, &QLineEdit::textChanged, this, [this] { ZeigeZiel(); });
+    connect(ziel_, &QLineEdit::textEdited, this, [this] { eigenesZiel_ = true; });
+    connect(ziel_, &QLineEdit::textChanged, this, [this] { ZeigeZiel(); });
+    NimmDateien(dateien);
+    ZeigeZiel();
+}
+
+QFormLayout* Importdialog::BaueFelder() {
     auto* form = new QFormLayout;
-    spalte->addLayout(form);
     netz_ = BaueFeld(*form, "ImportNetz", QStringLiteral("&Netz"),
                      QStringLiteral("Eingabe der Ausgleichung (gama-local), meist .gkf"),
                      [this] { return WaehleDatei(QStringLiteral("Netz importieren")); });
@@ -69,27 +86,18 @@ Importdialog::Importdialog(const Programm& programm, const QStringList& dateien,
     grenze_->setToolTip(
         QStringLiteral("Beobachtungen mit größerer Testgröße TG werden als grob falsch markiert"));
     form->addRow(QStringLiteral("&Grenze für TG"), grenze_);
-    hinweis_ = new QLabel(this);
-    hinweis_->setObjectName(QStringLiteral("ImportHinweis"));
-    hinweis_->setTextFormat(Qt::PlainText);
-    hinweis_->setWordWrap(true);
-    spalte->addWidget(hinweis_);
-    spalte->addStretch();
+    return form;
+}
+
+QWidget* Importdialog::BaueKnoepfe() {
     auto* knoepfe = new QDialogButtonBox(this);
     importieren_ = knoepfe->addButton(QStringLiteral("&Importieren"), QDialogButtonBox::AcceptRole);
     importieren_->setObjectName(QStringLiteral("ImportKnopf"));
     importieren_->setDefault(true);
     knoepfe->addButton(QStringLiteral("Abbrechen"), QDialogButtonBox::RejectRole);
-    spalte->addWidget(knoepfe);
     connect(knoepfe, &QDialogButtonBox::accepted, this, [this] { Importiere(); });
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(netz_, &QLineEdit::textChanged, this, [this] { NetzGeaendert(); });
-    connect(ergebnisse_, &QLineEdit::textEdited, this, [this] { eigeneErgebnisse_ = true; });
-    connect(ergebnisse_, &QLineEdit::textChanged, this, [this] { ZeigeZiel(); });
-    connect(ziel_, &QLineEdit::textEdited, this, [this] { eigenesZiel_ = true; });
-    connect(ziel_, &QLineEdit::textChanged, this, [this] { ZeigeZiel(); });
-    NimmDateien(dateien);
-    ZeigeZiel();
+    return knoepfe;
 }
 
 QLineEdit* Importdialog::BaueFeld(QFormLayout& form, const char* name, const QString& schild,

@@ -29,6 +29,8 @@ class Importdialog final : public QDialog {
                  QWidget* eltern);
 
   private:
+    [[nodiscard]] QFormLayout* BaueFelder();
+    [[nodiscard]] QWidget* BaueKnoepfe();
     /// A field for a file or a folder with its button. @param waehle asks for it; nothing where cancelled
     QLineEdit* BaueFeld(QFormLayout& form, const char* name, const QString& schild, const QString& hinweis,
                         std::function<std::optional<QString>()> waehle);
