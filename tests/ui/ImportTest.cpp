@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QPushButton>
+#include <QWindow>
 
 #include "tests/ui/Fenster.h"
 
@@ -22,6 +23,15 @@ class Import : public Fensterprobe {
         return fenster.findChild<QDialog*>("ImportDialog");
     }
     [[nodiscard]] QString Feld(const char* name) const { return Kind<QLineEdit>(name).text(); }
+    /// From the system's side, as every drag comes.
+    void Ziehe(const QList<QUrl>& adressen) {
+        QMimeData gezogen;
+        gezogen.setUrls(adressen);
+        QDragEnterEvent hinein(QPoint(50, 50), Qt::CopyAction, &gezogen, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(fenster.windowHandle(), &hinein);
+        QDropEvent los(QPoint(50, 50), Qt::CopyAction, &gezogen, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(fenster.windowHandle(), &los);
+    }
     void Importiere() const { Kind<QPushButton>("ImportKnopf").click(); }
     [[nodiscard]] QString Datei(const char* name) const { return ordner.filePath(name); }
 };
@@ -54,17 +64,14 @@ TEST_F(Import, ErkanntAmInhalt) {
 }
 
 TEST_F(Import, ErgebnisseFuehrenZumNetz) {
-    QMimeData gezogen;
-    gezogen.setUrls({QUrl::fromLocalFile(Datei("LAGE.xml"))});
-    QDropEvent einer(QPointF(50, 50), Qt::CopyAction, &gezogen, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&fenster, &einer);
+    Ziehe({QUrl::fromLocalFile(Datei("LAGE.xml"))});
+    ASSERT_NE(Fenster(), nullptr);
     EXPECT_EQ(Feld("ImportNetz"), Datei("LAGE.gkf"));
     Fenster()->close();
     QFile::rename(Datei("LAGE.gkf"), Datei("anders.gkf"));
-    gezogen.setUrls({QUrl::fromLocalFile(Datei("LAGE.xml")), QUrl::fromLocalFile(Datei("anders.gkf"))});
-    QDropEvent beide(QPointF(50, 50), Qt::CopyAction, &gezogen, Qt::LeftButton, Qt::NoModifier);
     ASSERT_EQ(Fenster(), nullptr);
-    QCoreApplication::sendEvent(&fenster, &beide);
+    Ziehe({QUrl::fromLocalFile(Datei("LAGE.xml")), QUrl::fromLocalFile(Datei("anders.gkf"))});
+    ASSERT_NE(Fenster(), nullptr);
     EXPECT_EQ(Feld("ImportNetz"), Datei("anders.gkf"));
     EXPECT_EQ(Feld("ImportErgebnisse"), Datei("LAGE.xml"));
     EXPECT_EQ(Feld("ImportZiel"), Datei("anders.zarwik"));
