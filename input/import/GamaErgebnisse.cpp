@@ -99,6 +99,8 @@ class Ergebnisleser {
         for (const pugi::xml_node kind : Kind(xml_.Wurzel(), "observations").children())
             NimmErgebnis(kind);
         netz_.lagen.resize(netz_.punkte.size());
+        for (std::size_t p = bekannte_; p < netz_.punkte.size(); ++p)
+            netz_.punkte[p].nurErgebnis = true;
         OrdneSaetzeZu();
     }
 
@@ -119,7 +121,6 @@ class Ergebnisleser {
             bekannteDarin_ += p < bekannte_ ? 1 : 0;
             if (p >= bekannte_ && fremde_ <= p - bekannte_) {
                 fremde_ = p - bekannte_ + 1;
-                netz_.punkte[p].nurErgebnis = true;
                 bericht_.NimmAuf(Befundart::ErgebnispunktFremd, xml_, Xmldatei::Stelle(knoten));
             }
             NimmPunkt(knoten, Lage(p), ziel, unbekannte);
