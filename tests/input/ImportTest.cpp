@@ -148,6 +148,7 @@ TEST(Import, Namen) {
         "_~2", "K\xF6ln_",       "12345678901234", "123456789012~2"};
     EXPECT_EQ(fremd::GibNummern(namen), soll);
     std::vector<std::string> viele;
+    viele.reserve(70000);
     for (int i = 0; i < 70000; ++i)
         viele.push_back("gleicher Anfang " + std::to_string(i));
     auto nummern = fremd::GibNummern(viele);
