@@ -41,7 +41,7 @@ if(UNIX AND NOT APPLE)
   install(FILES paket/zarwik.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
   install(FILES ui/bilder/zarwik.svg DESTINATION ${symbole}/apps)
   install(FILES paket/bilder/application-x-zarwik-steuerdatei.svg paket/bilder/application-x-zarwik-bild.svg
-          DESTINATION ${symbole}/mimetypes)
+          paket/bilder/application-x-gama-local.svg DESTINATION ${symbole}/mimetypes)
 elseif(WIN32)
   # Qt's libraries and plug-ins beside the program, where this Qt knows how to; SQLite and zlib in any case.
   install(FILES $<TARGET_RUNTIME_DLLS:zarwik> DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -25,9 +25,16 @@ diff - <(find . -type f ! -path '*/handbuch/*' ! -name '*.DB' ! -name '*.PX' | s
 ./share/doc/zarwik/beispiele/NETZ.EIN
 ./share/doc/zarwik/beispiele/README.md
 ./share/doc/zarwik/beispiele/RICHT.SF
+./share/doc/zarwik/beispiele/gama/HOEHEN.gkf
+./share/doc/zarwik/beispiele/gama/HOEHEN.xml
+./share/doc/zarwik/beispiele/gama/LAGE.gkf
+./share/doc/zarwik/beispiele/gama/LAGE.xml
+./share/doc/zarwik/beispiele/gama/VEKTOREN.gkf
+./share/doc/zarwik/beispiele/gama/VEKTOREN.xml
 ./share/doc/zarwik/changelog.gz
 ./share/doc/zarwik/copyright
 ./share/icons/hicolor/scalable/apps/zarwik.svg
+./share/icons/hicolor/scalable/mimetypes/application-x-gama-local.svg
 ./share/icons/hicolor/scalable/mimetypes/application-x-zarwik-bild.svg
 ./share/icons/hicolor/scalable/mimetypes/application-x-zarwik-steuerdatei.svg
 ./share/man/man1/zarwik.1.gz
@@ -59,7 +66,7 @@ pruefe(eintrag['Icon'] in symbole, 'Icon')
 arten = {}
 for art in xml.parse(share / 'mime/packages/zarwik.xml').getroot():
     arten[art.get('type')] = {x.get('pattern') for x in art if x.tag.endswith('}glob')}
-pruefe(sorted(arten.values(), key=str) == [{'*.ein'}, {'*.zrw'}], f'Muster {arten}')
+pruefe(sorted(arten.values(), key=str) == [{'*.ein'}, {'*.gkf'}, {'*.zrw'}], f'Muster {arten}')
 pruefe(set(eintrag['MimeType'].strip(';').split(';')) == set(arten), 'MimeType')
 pruefe({a.replace('/', '-') for a in arten} < symbole, 'Symbole der Dateiarten')
 for bild in share.glob('icons/hicolor/scalable/*/*.svg'):
