@@ -127,7 +127,8 @@ TEST_F(Blattdruck, GeordneteNummernStehenGanzAufEinemBlatt) {
     constexpr PunktIndex kPunkte = 200;
     beispiel::Zufall zufall(1);
     for (PunktIndex i = 1; i <= kPunkte; ++i) {
-        n.P(i, zufall.Gleich(0, 500), zufall.Gleich(0, 500));
+        const double hoch = zufall.Gleich(0, 500);  // one after the other: compilers differ in arguments
+        n.P(i, zufall.Gleich(0, 500), hoch);
         n.T(i, "Nr" + std::to_string(i));
     }
     for (const bool rahmen : {false, true}) {
