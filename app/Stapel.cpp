@@ -33,8 +33,7 @@ Einstellungen LadeEinstellungen(const Aufruf& aufruf) {
 /// @return whether all tables that are there could be read
 bool WaehleErgebnisse(const Aufruf& aufruf, TDM& daten, Liste& liste, const Einstellungen& einstellungen) {
     const std::filesystem::path datei = TextPfad(aufruf.datei);
-    std::error_code fehler;
-    daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).parent_path());
+    daten.SetzeOrdner(VollerName(datei).parent_path());
     return IstBilddatei(datei) || MeldeTabellen(MarkiereFehler(liste, daten, einstellungen), &DruckeZeile);
 }
 

@@ -15,7 +15,7 @@ struct Lesebericht {
     struct Befund {
         std::size_t anzahl = 0;
         std::string datei;  ///< of the first, without its folder
-        long zeile = 0;
+        std::int64_t zeile = 0;
     };
     Befund unbekannte;   ///< observations that name points which no line before them has introduced
     Befund wiederholte;  ///< points whose number was in the network already

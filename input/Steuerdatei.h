@@ -20,7 +20,7 @@ namespace zrw {
 struct Meldung {
     std::string text;   ///< German, UTF-8
     std::string datei;  ///< name of the file without its folder
-    long zeile = 0;
+    std::int64_t zeile = 0;
     std::string grund{};   ///< why, for a line of its own; may be empty
     bool hinweis = false;  ///< nothing is lost: it was read as described and may be meant otherwise
 

@@ -25,4 +25,11 @@ class Systemdateien final : public Dateien {
     unsigned laufend_ = 0;  ///< sets the files beside of one program run apart
 };
 
+/// Makes a folder where the one that it belongs to exists; whether there is one then shows by itself.
+void LegeOrdnerAn(const std::filesystem::path& ordner);
+/// From the root on, without "." and "..", whether there is such a file or not.
+[[nodiscard]] std::filesystem::path VollerName(const std::filesystem::path& datei);
+/// Whether both names lead to the same file, which exists.
+[[nodiscard]] bool DieselbeDatei(const std::filesystem::path& a, const std::filesystem::path& b);
+
 }  // namespace zrw

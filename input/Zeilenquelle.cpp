@@ -1,6 +1,7 @@
 #include "input/Zeilenquelle.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -24,8 +25,8 @@ bool IstUtf16(std::string_view bytes) {
 }
 
 /// Number of the line with this byte, counted as lines are read.
-long Zeilennummer(std::string_view text, std::size_t stelle) {
-    long nummer = 1;
+std::int64_t Zeilennummer(std::string_view text, std::size_t stelle) {
+    std::int64_t nummer = 1;
     for (std::size_t i = 0; i < stelle; ++i) {
         if (text[i] == '\n' || (text[i] == '\r' && text[i + 1] != '\n')) ++nummer;
     }

@@ -30,7 +30,7 @@ struct Einfuegung {
 struct Ersetzung {
     std::size_t anzahl = 0;  ///< that became "?"
     std::string datei;
-    long zeile = 0;  ///< of the first
+    std::int64_t zeile = 0;  ///< of the first
 };
 
 class Zeilenquelle {

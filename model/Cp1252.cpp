@@ -23,7 +23,12 @@ void HaengeAn(std::string& ziel, char32_t c) {
         ziel += static_cast<char>(0xC0 | (c >> 6U));
         ziel += static_cast<char>(0x80 | (c & 0x3FU));
     } else {
-        ziel += static_cast<char>(0xE0 | (c >> 12U));
+        if (c < 0x10000) {
+            ziel += static_cast<char>(0xE0 | (c >> 12U));
+        } else {
+            ziel += static_cast<char>(0xF0 | (c >> 18U));
+            ziel += static_cast<char>(0x80 | ((c >> 12U) & 0x3FU));
+        }
         ziel += static_cast<char>(0x80 | ((c >> 6U) & 0x3FU));
         ziel += static_cast<char>(0x80 | (c & 0x3FU));
     }
@@ -123,6 +128,23 @@ Zeichenverlust WandleInCp1252(std::string& text, std::size_t ab) {
     }
     text.resize(ziel);
     return verlust;
+}
+
+std::string BreitNachUtf8(std::wstring_view text) {
+    constexpr char32_t kHaelfte = 0x3FF;
+    const auto zeichen = [&](std::size_t i) { return i < text.size() ? static_cast<char32_t>(text[i]) : 0; };
+    const auto ist = [&](std::size_t i, char32_t haelfte) { return (zeichen(i) & ~kHaelfte) == haelfte; };
+    std::string utf8;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool erste = ist(i, 0xD800);
+        const bool paar = erste && ist(i + 1, 0xDC00);
+        const bool allein = !paar && (erste || ist(i, 0xDC00));
+        HaengeAn(utf8, paar     ? 0x10000 + ((zeichen(i) & kHaelfte) << 10U) + (zeichen(i + 1) & kHaelfte)
+                       : allein ? char32_t{0xFFFD}
+                                : zeichen(i));
+        if (paar) ++i;
+    }
+    return utf8;
 }
 
 }  // namespace zrw

@@ -20,6 +20,10 @@ namespace zrw {
 /// Whether a text has bytes above 127 and is UTF-8 from end to end.
 [[nodiscard]] bool IstUtf8(std::string_view text);
 
+/// Wide characters, where those are 16 bits wide also in pairs. Halves of pairs that stand alone, as names of
+/// files may have them, become U+FFFD.
+[[nodiscard]] std::string BreitNachUtf8(std::wstring_view text);
+
 /// What a conversion could not keep.
 struct Zeichenverlust {
     std::size_t anzahl = 0;  ///< characters that became "?"

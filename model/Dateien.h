@@ -11,6 +11,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/Cp1252.h"
+
 namespace zrw {
 
 /// A file that is being written beside the one whose place it takes at the end. Dropped before `ErsetzeZiel`,
@@ -77,10 +79,17 @@ class Dateien {
                                                                           const std::string& name) const = 0;
 };
 
+// The system keeps its names as bytes or as wide characters.
+[[nodiscard]] inline std::string NativNachUtf8(const std::string& nativ) {
+    return nativ;
+}
+[[nodiscard]] inline std::string NativNachUtf8(const std::wstring& nativ) {
+    return BreitNachUtf8(nativ);
+}
+
 /// UTF-8 text of a path, for messages.
 [[nodiscard]] inline std::string PfadText(const std::filesystem::path& p) {
-    const std::u8string u = p.u8string();
-    return {u.begin(), u.end()};
+    return NativNachUtf8(p.native());
 }
 
 /// Path of a UTF-8 text.

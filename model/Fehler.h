@@ -2,6 +2,7 @@
 // borders, shown at one place of the window or printed by the batch mode.
 #pragma once
 
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -14,7 +15,7 @@ class Fehler : public std::runtime_error {
     /// @param text what happened and what now, UTF-8
     /// @param datei the file concerned, UTF-8; may be empty
     /// @param zeile 1 for the first line, 0 where lines have no meaning
-    explicit Fehler(const std::string& text, std::string datei = {}, long zeile = 0)
+    explicit Fehler(const std::string& text, std::string datei = {}, std::int64_t zeile = 0)
         : std::runtime_error(Meldung(text, datei, zeile)),
           text_(text),
           datei_(std::move(datei)),
@@ -22,21 +23,22 @@ class Fehler : public std::runtime_error {
 
     [[nodiscard]] const std::string& Text() const { return text_; }
     [[nodiscard]] const std::string& Datei() const { return datei_; }
-    [[nodiscard]] long Zeile() const { return zeile_; }
+    [[nodiscard]] std::int64_t Zeile() const { return zeile_; }
 
     /// One line: "NETZ.EIN, Zeile 12: Text".
-    [[nodiscard]] static std::string Meldung(const std::string& text, const std::string& datei, long zeile) {
+    [[nodiscard]] static std::string Meldung(const std::string& text, const std::string& datei,
+                                             std::int64_t zeile) {
         return datei.empty() ? text : Ort(datei, zeile) + ": " + text;
     }
     /// "NETZ.EIN, Zeile 12"
-    [[nodiscard]] static std::string Ort(const std::string& datei, long zeile) {
+    [[nodiscard]] static std::string Ort(const std::string& datei, std::int64_t zeile) {
         return datei + (zeile > 0 ? ", Zeile " + std::to_string(zeile) : std::string());
     }
 
   private:
     std::string text_;
     std::string datei_;
-    long zeile_;
+    std::int64_t zeile_;
 };
 
 /// The file cannot be opened at all.

@@ -2,9 +2,9 @@
 
 #include <cassert>
 #include <set>
-#include <system_error>
 #include <utility>
 
+#include "input/Systemdateien.h"
 #include "model/Bilddatei.h"
 #include "ui/aenderungen/Verwerfen.h"
 #include "ui/bild/Figurentext.h"
@@ -46,8 +46,7 @@ std::size_t Plan::SpeicherePlan(const std::filesystem::path& datei) {
     assert(Offen());
     const std::size_t weggelassen = SchreibeBilddatei(*liste_, angaben_, datei, dateien_);
     // Unchanged it is still what was opened, with more than a picture file holds.
-    std::error_code fehler;
-    if (Ungesichert() || std::filesystem::equivalent(datei, abgelegt_.datei, fehler))
+    if (Ungesichert() || DieselbeDatei(datei, abgelegt_.datei))
         abgelegt_ = {datei, *liste_, Legende::Create()};
     ungesichert_ = false;
     schritte_.setClean();

@@ -98,7 +98,7 @@ class Importbericht {
     struct Zahl {
         std::size_t anzahl = 0;
         std::string datei;
-        long zeile = 0;
+        std::int64_t zeile = 0;
     };
     std::array<Zahl, kBefunde.size()> zahlen_;
 };

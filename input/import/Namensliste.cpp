@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -43,7 +44,7 @@ class Satzleser {
     [[nodiscard]] bool Leer() const { return felder_.size() == 1 && felder_[0].empty(); }
     [[nodiscard]] bool Heil() const { return !offen_ && !ueberzaehlig_ && felder_.size() == kSpalten; }
     [[nodiscard]] std::vector<std::string>& Felder() { return felder_; }
-    [[nodiscard]] long Zeile() const { return anfang_; }
+    [[nodiscard]] std::int64_t Zeile() const { return anfang_; }
 
   private:
     void NimmZeichen(char c, bool& innen) {
@@ -65,8 +66,8 @@ class Satzleser {
     std::vector<std::string> felder_;
     bool ueberzaehlig_ = false;
     bool offen_ = false;  ///< quotes are not closed
-    long zeile_ = 1;
-    long anfang_ = 1;
+    std::int64_t zeile_ = 1;
+    std::int64_t anfang_ = 1;
 };
 
 /// Puts a row into the list. @return whether it is one
@@ -92,7 +93,7 @@ Namensliste LiesInhalt(std::string inhalt, const std::string& datei, const Meldu
     }
     Namensliste namen;
     std::size_t unlesbare = 0;
-    long erste = 0;
+    std::int64_t erste = 0;
     while (leser.LiesSatz()) {
         if (leser.Leer() || NimmSatz(leser, namen)) continue;
         if (unlesbare++ == 0) erste = leser.Zeile();

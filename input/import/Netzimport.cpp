@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "input/Systemdateien.h"
 #include "input/import/Ergebnisschreiber.h"
 #include "input/import/Importformat.h"
 #include "input/import/Namensgeber.h"
@@ -88,9 +89,8 @@ void SchreibeDateien(const std::filesystem::path& ordner,
 /// The sources stay, whatever may be replaced.
 void PruefeQuellen(const Importauftrag& auftrag) {
     for (const std::filesystem::path& quelle : {auftrag.netz, auftrag.ergebnisse}) {
-        std::error_code fehler;
         for (const std::filesystem::path& name : Zielnamen(auftrag)) {
-            if (std::filesystem::equivalent(Zielordner(auftrag) / name, quelle, fehler))
+            if (DieselbeDatei(Zielordner(auftrag) / name, quelle))
                 throw Fehler(
                     "Der Import würde seine eigene Quelle überschreiben. Bitte einen anderen Zielordner "
                     "wählen.",

@@ -157,13 +157,13 @@ std::uint32_t Xmldatei::Stelle(pugi::xml_node knoten) {
     return static_cast<std::uint32_t>(std::max<std::ptrdiff_t>(knoten.offset_debug(), 0));
 }
 
-long Xmldatei::Zeile(std::size_t stelle) const {
+std::int64_t Xmldatei::Zeile(std::size_t stelle) const {
     if (original_.empty()) {
         original_ = dateien_.LiesDatei(pfad_, kGroessteXmlDatei);
         (void)WandleInUtf8(original_);
     }
     const auto ende = original_.begin() + static_cast<std::ptrdiff_t>(std::min(stelle, original_.size()));
-    return 1 + static_cast<long>(std::count(original_.begin(), ende, '\n'));
+    return 1 + static_cast<std::int64_t>(std::count(original_.begin(), ende, '\n'));
 }
 
 void Xmldatei::WirfFehler(const std::string& text, pugi::xml_node knoten) const {

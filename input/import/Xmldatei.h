@@ -38,7 +38,7 @@ class Xmldatei {
     /// Place of an element in the file, small enough to be kept by the hundred thousand.
     [[nodiscard]] static std::uint32_t Stelle(pugi::xml_node knoten);
     /// Line of such a place.
-    [[nodiscard]] long Zeile(std::size_t stelle) const;
+    [[nodiscard]] std::int64_t Zeile(std::size_t stelle) const;
     [[nodiscard]] const std::string& Name() const { return name_; }
     /// Elements that nobody reads may hold anything. @throws Fehler where they nest deeper than files do
     void PruefeTiefe(pugi::xml_node knoten) const;

@@ -77,7 +77,10 @@ class Speicherdateien final : public Dateien {
         std::string inhalt_;
     };
 
-    static std::string Schluessel(const std::filesystem::path& p) { return PfadText(p.lexically_normal()); }
+    static std::string Schluessel(const std::filesystem::path& p) {
+        const std::u8string name = p.lexically_normal().generic_u8string();
+        return {name.begin(), name.end()};
+    }
     static std::string Klein(std::string text) {
         for (char& c : text) {
             if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 0x20);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <random>
 
 #include "beispiele/Gamadatei.h"
@@ -270,7 +271,8 @@ TEST(Import, RelativeEllipsenWieVolleFortpflanzung) {
                 for (int m = 0; m < 4; ++m)
                     for (int n = 0; n < 4; ++n)
                         d[i][k] += f[i][m] * q[m][n] * f[k][n];
-        const double s = std::sin(e->Phi * M_PI / 200.0), c = std::cos(e->Phi * M_PI / 200.0);
+        const double s = std::sin(e->Phi * std::numbers::pi / 200.0),
+                     c = std::cos(e->Phi * std::numbers::pi / 200.0);
         const double aa = e->A * e->A, bb = e->B * e->B;
         EXPECT_NEAR(aa * s * s + bb * c * c, d[0][0], 1e-3) << lauf;
         EXPECT_NEAR(aa * c * c + bb * s * s, d[1][1], 1e-3) << lauf;

@@ -40,5 +40,10 @@ TEST(Cp1252, BeschaedigtesUndFremdesWirdZumFragezeichen) {
         EXPECT_EQ(Utf8NachCp1252(f.utf8), f.bytes) << f.utf8;
 }
 
+TEST(Cp1252, BreiteZeichenAuchHalbe) {
+    EXPECT_EQ(BreitNachUtf8(std::wstring{L'a', 0xE4, 0x20AC, 0xD83D, 0xDE00, 'z'}), "aä€😀z");
+    EXPECT_EQ(BreitNachUtf8(std::wstring{0xDE00, 0xD83D, 'a', 0xD83D}), "\uFFFD\uFFFDa\uFFFD");
+}
+
 }  // namespace
 }  // namespace zrw

@@ -42,10 +42,10 @@ std::string Ausgepackt(const std::string& pdf) {
         const std::size_t ort = pdf.find(laenge, i) + laenge.size();
         const std::size_t bytes = Ganzzahl(pdf.substr(ort, pdf.find('\n', ort) - ort));
         std::vector<Bytef> inhalt(std::size_t{1} << 20U);
-        uLongf groesse = inhalt.size();
+        auto groesse = static_cast<uLongf>(inhalt.size());
         const std::vector<Bytef> gepackt(pdf.begin() + static_cast<std::ptrdiff_t>(i),
                                          pdf.begin() + static_cast<std::ptrdiff_t>(i + bytes));
-        EXPECT_EQ(uncompress(inhalt.data(), &groesse, gepackt.data(), bytes), Z_OK);
+        EXPECT_EQ(uncompress(inhalt.data(), &groesse, gepackt.data(), static_cast<uLong>(bytes)), Z_OK);
         aus += pdf.substr(bis, i - bis) +
                std::string(inhalt.begin(), inhalt.begin() + static_cast<std::ptrdiff_t>(groesse));
         bis = i + bytes;

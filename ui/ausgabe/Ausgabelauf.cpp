@@ -1,8 +1,8 @@
 #include "ui/ausgabe/Ausgabelauf.h"
 
 #include <algorithm>
-#include <system_error>
 
+#include "input/Systemdateien.h"
 #include "input/tabellen/Beobachtungsleser.h"
 #include "model/Fehler.h"
 #include "output/Residuenbild.h"
@@ -93,9 +93,8 @@ bool SchreibeAusgaben(const Ausgabequelle& quelle, const Ausgabeauftrag& auftrag
                       const Sprecher& sage) {
     Ausgabe ausgabe = AusgabeVon(quelle, auftrag, sage);
     ausgabe.daten = &daten;
-    std::error_code fehler;
-    // The folder itself is made where its parent exists; writing tells whatever else is wrong with it.
-    if (!ordner.empty()) std::filesystem::create_directory(ordner, fehler);
+    // Writing tells whatever else is wrong with it.
+    if (!ordner.empty()) LegeOrdnerAn(ordner);
     bool alle = true;
     for (const Ausgabeziel& ziel : ziele) {
         try {

@@ -1,8 +1,8 @@
 #include "ui/ausgabe/Planausgabe.h"
 
 #include <algorithm>
-#include <system_error>
 
+#include "input/Systemdateien.h"
 #include "output/beschriftung/Blattordnung.h"
 #include "ui/Umwandlung.h"
 #include "ui/ausgabe/Befehl.h"
@@ -12,11 +12,6 @@
 
 namespace zrw {
 namespace {
-
-std::filesystem::path Vollstaendig(const std::filesystem::path& datei) {
-    std::error_code fehler;
-    return std::filesystem::absolute(datei, fehler).lexically_normal();
-}
 
 bool GleicheLegende(const std::optional<Legende>& a, const std::optional<Legende>& b) {
     if (!a || !b) return a.has_value() == b.has_value();
@@ -92,7 +87,7 @@ bool Planausgabe::AusBild() const {
 
 std::filesystem::path Planausgabe::Tabellenordner() const {
     const std::filesystem::path& datei = plan_.Abgelegt().datei;
-    return datei.empty() ? programm_.daten.Ordner() : Vollstaendig(datei).parent_path();
+    return datei.empty() ? programm_.daten.Ordner() : VollerName(datei).parent_path();
 }
 
 Bildgroesse Planausgabe::UeblicheGroesse() const {
@@ -146,7 +141,7 @@ QString Planausgabe::Befehl(const Format& format, const Ausgabeauftrag& auftrag,
                             const std::filesystem::path& ordner) const {
     const std::filesystem::path& datei = plan_.Abgelegt().datei;
     return AusUtf8(
-        Befehlszeile(Befehlsworte(format, auftrag, ordner, datei.empty() ? "DATEI" : Vollstaendig(datei))));
+        Befehlszeile(Befehlsworte(format, auftrag, ordner, datei.empty() ? "DATEI" : VollerName(datei))));
 }
 
 /// In a picture file it takes numbers that the window has put in order for placed by somebody.

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <system_error>
 #include <utility>
 
 #include "input/Oeffnen.h"
+#include "input/Systemdateien.h"
 #include "input/tabellen/Ergebnisabfragen.h"
 #include "input/tabellen/MarkiereFehler.h"
 #include "model/Fehler.h"
@@ -63,9 +63,8 @@ void Ergebnisanzeige::VergissNetz() {
 }
 
 bool Ergebnisanzeige::WaehleOrdner(const std::filesystem::path& datei) {
-    std::error_code fehler;
     const std::filesystem::path vorher = programm_.daten.Ordner();
-    programm_.daten.SetzeOrdner(std::filesystem::absolute(datei, fehler).lexically_normal().parent_path());
+    programm_.daten.SetzeOrdner(VollerName(datei).parent_path());
     programm_.zustand.Ergebnisse = &programm_.daten;
     stand_.OrdnerGewaehlt();
     if (programm_.daten.Ordner() == vorher) return false;
