@@ -1,4 +1,4 @@
-# What an installation consists of, and the packages made of it: `cmake --install`, `cpack`.
+# What an installation consists of, and the package made of it: `cmake --install`, `cpack`. For Windows: windows/baue.
 include(GNUInstallDirs)
 set(ZRW_BETREUER "The Zarwik developers <zarwik@zarwik.invalid>" CACHE STRING
     "Name and address that a package carries as its maintainer")
@@ -11,7 +11,8 @@ install(TARGETS zarwik RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 set(unterlagen ${CMAKE_INSTALL_DATADIR}/doc/zarwik)  # Debian looks for a package's name, in lower case
 install(DIRECTORY hilfe/ DESTINATION ${unterlagen}/handbuch/hilfe FILES_MATCHING PATTERN *.md)
 install(DIRECTORY docs/bilder/ DESTINATION ${unterlagen}/handbuch/docs/bilder FILES_MATCHING PATTERN *.png)
-install(DIRECTORY ui/bilder/ DESTINATION ${unterlagen}/handbuch/ui/bilder FILES_MATCHING PATTERN *.svg)
+install(DIRECTORY ui/bilder/ DESTINATION ${unterlagen}/handbuch/ui/bilder FILES_MATCHING PATTERN *.svg
+        PATTERN "[0-9]*" EXCLUDE)
 install(DIRECTORY beispiele/ DESTINATION ${unterlagen}/beispiele FILES_MATCHING
         PATTERN *.EIN PATTERN *.KF PATTERN *.SF PATTERN *.ZRW PATTERN *.DB PATTERN *.PX PATTERN *.gkf PATTERN *.xml
         PATTERN README.md)
@@ -42,13 +43,6 @@ if(UNIX AND NOT APPLE)
   install(FILES ui/bilder/zarwik.svg DESTINATION ${symbole}/apps)
   install(FILES paket/bilder/application-x-zarwik-steuerdatei.svg paket/bilder/application-x-zarwik-bild.svg
           paket/bilder/application-x-gama-local.svg DESTINATION ${symbole}/mimetypes)
-elseif(WIN32)
-  # Qt's libraries and plug-ins beside the program, where this Qt knows how to; SQLite and zlib in any case.
-  install(FILES $<TARGET_RUNTIME_DLLS:zarwik> DESTINATION ${CMAKE_INSTALL_BINDIR})
-  if(COMMAND qt_generate_deploy_app_script)
-    qt_generate_deploy_app_script(TARGET zarwik OUTPUT_SCRIPT verteilung NO_UNSUPPORTED_PLATFORM_ERROR)
-    install(SCRIPT ${verteilung})
-  endif()
 endif()
 
 set(CPACK_PACKAGE_NAME zarwik)
@@ -58,32 +52,22 @@ set(CPACK_RESOURCE_FILE_LICENSE ${CMAKE_SOURCE_DIR}/LICENSE)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
-if(WIN32)
-  # NSIS needs the program of that name; without it: cpack -G ZIP
-  set(CPACK_GENERATOR NSIS ZIP)
-  set(CPACK_PACKAGE_INSTALL_DIRECTORY Zarwik)
-  set(CPACK_PACKAGE_EXECUTABLES zarwik Zarwik)
-  set(CPACK_NSIS_MODIFY_PATH ON)
-else()
-  set(CPACK_GENERATOR DEB)
-  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-  set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-  set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${ZRW_BETREUER})
-  set(CPACK_DEBIAN_PACKAGE_SECTION science)
-  set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
-  set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-  # Loaded at run time only: the plug-in that draws the icons (up to Debian 12 in the library's own package), the font
-  # of the plots, Qt's own dialogs in German.
-  set(CPACK_DEBIAN_PACKAGE_DEPENDS
-      "qt6-svg-plugins | libqt6svg6 (<< 6.7.2-5~), fonts-liberation, qt6-translations-l10n")
-  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, shared-mime-info")
-  set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${ZRW_BETREUER})
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Loaded at run time only: the font of the plots, Qt's own dialogs in German.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, qt6-translations-l10n")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "hicolor-icon-theme, shared-mime-info")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "Zarwik liest die Steuerdatei einer geodätischen Ausgleichung und macht daraus
 einen Netzplan, in dem jedes Symbol seine Punktart und jede Linie ihre
 Beobachtungen erkennen lässt. Der Plan lässt sich mit der Maus bearbeiten,
 im Maßstab drucken und als Zeichnung oder Bild ausgeben, auch ohne Bildschirm.
 Liegen die Ergebnistabellen der Ausgleichung daneben, zeichnet Zarwik
 Verbesserungen und Fehlerellipsen und markiert grobe Fehler.")
-endif()
 include(CPack)

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "model/Fehler.h"
+#include "ui/Systemart.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {
@@ -17,15 +18,16 @@ constexpr const char* kAbschnitt = "ZRWPAR";
 
 }  // namespace
 
-#ifdef Q_OS_WIN
-Einstellungsablage::Einstellungsablage()
-    : registry_(std::make_unique<QSettings>(QStringLiteral("HKEY_CURRENT_USER\\ZRWINI"),
-                                            QSettings::NativeFormat)) {}
-#else
-Einstellungsablage::Einstellungsablage()
-    : Einstellungsablage(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                         QStringLiteral("/ZRWINI.ini")) {}
-#endif
+Einstellungsablage::Einstellungsablage() {
+    if (kWindows) {
+        registry_ =
+            std::make_unique<QSettings>(QStringLiteral("HKEY_CURRENT_USER\\ZRWINI"), QSettings::NativeFormat);
+        return;
+    }
+    datei_.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                       QStringLiteral("/ZRWINI.ini"),
+                   kAbschnitt);
+}
 
 Einstellungsablage::Einstellungsablage(const QString& inidatei)
     : datei_(std::in_place, inidatei, kAbschnitt) {}

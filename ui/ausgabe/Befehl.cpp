@@ -6,6 +6,7 @@
 
 #include "model/Cp1252.h"
 #include "model/Zahlentext.h"
+#include "ui/Systemart.h"
 #include "ui/ausgabe/Ausgabelauf.h"
 
 namespace zrw {
@@ -66,14 +67,11 @@ bool Unbedenklich(const std::string& wort) {
 
 std::string InAnfuehrung(const std::string& wort) {
     if (Unbedenklich(wort)) return wort;
-#ifdef _WIN32
-    return '"' + wort + '"';  // names of files hold no such mark there
-#else
+    if (kWindows) return '"' + wort + '"';  // names of files hold no such mark there
     std::string text = "'";
     for (const char c : wort)
         c == '\'' ? text += R"('\'')" : text += c;
     return text + '\'';
-#endif
 }
 
 }  // namespace

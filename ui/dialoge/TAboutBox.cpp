@@ -1,15 +1,10 @@
 #include "ui/dialoge/TAboutBox.h"
+#include "ui/Symbol.h"
 
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-
-/// The box may be the first thing that shows a picture.
-static void MeldeBilderAn() {
-    Q_INIT_RESOURCE(bilder);
-}
 
 namespace zrw {
 namespace {
@@ -26,13 +21,12 @@ QString Lizenzen() {
 }  // namespace
 
 TAboutBox::TAboutBox(const QString& version, QWidget* eltern) : QDialog(eltern) {
-    MeldeBilderAn();
     setObjectName(QStringLiteral("TAboutBox"));
     setWindowTitle(QStringLiteral("Programminfo"));
 
     auto* bild = new QLabel(this);
     bild->setObjectName(QStringLiteral("ProgramIcon"));
-    bild->setPixmap(QIcon(QStringLiteral(":/bilder/zarwik.svg")).pixmap(QSize(64, 64), devicePixelRatioF()));
+    bild->setPixmap(Symbol("zarwik").pixmap(QSize(64, 64), devicePixelRatioF()));
     auto* name = new QLabel(QStringLiteral("Zarwik"), this);
     name->setObjectName(QStringLiteral("ProductName"));
     QFont gross = name->font();

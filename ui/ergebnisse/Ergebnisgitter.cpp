@@ -11,6 +11,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "ui/Symbol.h"
 #include "ui/Umwandlung.h"
 #include "ui/ergebnisse/Festspaltentafel.h"
 
@@ -149,7 +150,7 @@ void Ergebnisgitter::ZeigeZeilenzahlen(std::span<const std::optional<TDM::Zeilen
         QString text = !zahl ? QString() : leer ? QStringLiteral("keine Zeilen") : Zeilentext(zahl->zeilen);
         if (markiert) text += QStringLiteral(", davon %1 als grob falsch bezeichnet").arg(zahl->markiert);
         reiter_->setTabTextColor(i, leer ? palette().color(QPalette::Disabled, QPalette::Text) : QColor());
-        reiter_->setTabIcon(i, markiert ? QIcon(QStringLiteral(":/bilder/auffaellig.svg")) : QIcon());
+        reiter_->setTabIcon(i, markiert ? Symbol("auffaellig") : QIcon());
         reiter_->setTabToolTip(i, text);
         reiter_->setAccessibleTabName(
             i, text.isEmpty() ? QString() : reiter_->tabText(i) + QStringLiteral(", ") + text);

@@ -7,6 +7,7 @@
 #include <cassert>
 
 #include "model/Punktarten.h"
+#include "ui/Symbol.h"
 #include "ui/Umwandlung.h"
 #include "ui/hilfe/Hilfethemen.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
@@ -32,10 +33,6 @@ QString Tastenname(const QKeySequence& taste) {
         .replace(QStringLiteral("Home"), QStringLiteral("Pos1"))
         .replace(QStringLiteral("Left"), QStringLiteral("Links"))
         .replace(QStringLiteral("Right"), QStringLiteral("Rechts"));
-}
-
-QIcon Symbolbild(std::string_view name) {
-    return QIcon(QStringLiteral(":/bilder/") + AusUtf8(name) + QStringLiteral(".svg"));
 }
 
 /// Hint with the key, and what it does in a second line; both in one line for the status bar.
@@ -85,7 +82,7 @@ QAction* Aktionen::NeueAktion(std::string_view komponente, std::string_view text
 void Aktionen::BaueBefehle(const QUndoStack& schritte) {
     for (const Befehl& b : kBefehle) {
         QAction* aktion = NeueAktion(b.komponente, b.text);
-        aktion->setIcon(Symbolbild(b.bild));
+        aktion->setIcon(Symbol(b.bild));
         aktion->setCheckable(b.HatMerkmal(kUmschalter));
         if (!b.taste.empty()) SetzeTaste(*aktion, b.taste);
         if (b.HatMerkmal(kInJedemFenster)) aktion->setShortcutContext(Qt::ApplicationShortcut);
@@ -106,7 +103,7 @@ void Aktionen::BaueWerkzeuge() {
     for (std::size_t i = 0; i < kWerkzeuge.size(); ++i) {
         const Werkzeugzeile& zeile = kWerkzeuge[i];
         QAction* aktion = NeueAktion(zeile.komponente, zeile.hinweis);
-        aktion->setIcon(Symbolbild(zeile.bild));
+        aktion->setIcon(Symbol(zeile.bild));
         aktion->setCheckable(true);
         if (i < kWerkzeugtasten.size()) SetzeTaste(*aktion, kWerkzeugtasten.substr(i, 1));
         SetzeHinweis(*aktion, AusUtf8(zeile.hinweis), {});

@@ -1,4 +1,5 @@
 #include "ui/fenster/Bildtasten.h"
+#include "ui/Systemart.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -45,10 +46,8 @@ bool Bildtasten::HoertTaste(const QKeyEvent& taste) {
     if (mit == Qt::NoModifier && (taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter))
         return gang_.KlickePunkt();
     if (mit == Qt::NoModifier && taste.key() == Qt::Key_Escape) gang_.VergissPunkt();
-#ifndef Q_OS_WIN
     // Where the system makes no event of its own of it.
-    if (mit == Qt::ShiftModifier && taste.key() == Qt::Key_F10) return OeffneKontextmenue();
-#endif
+    if (!kWindows && mit == Qt::ShiftModifier && taste.key() == Qt::Key_F10) return OeffneKontextmenue();
     return false;
 }
 

@@ -1,4 +1,5 @@
 #include "ui/fenster/Hauptfenster.h"
+#include "ui/Symbol.h"
 #include "ui/ergebnisse/Residuenwahl.h"
 
 #include <QApplication>
@@ -47,11 +48,6 @@
 #include "ui/werkzeuge/Punktgang.h"
 #include "ui/werkzeuge/Werkzeugtafel.h"
 
-/// The pictures sit in a static library, whose resources register only when asked to.
-static void MeldeBilderAn() {
-    Q_INIT_RESOURCE(bilder);
-}
-
 namespace zrw {
 namespace {
 
@@ -83,11 +79,10 @@ TZrwMainDlg::TZrwMainDlg(const Programm& programm)
 TZrwMainDlg::~TZrwMainDlg() = default;
 
 void TZrwMainDlg::BaueFenster() {
-    MeldeBilderAn();
     setObjectName(QStringLiteral("TZrwMainDlg"));
     titel_ = QStringLiteral("Zarwik Ver. ") + programm_.version;
     ZeigeTitel();
-    setWindowIcon(QIcon(QStringLiteral(":/bilder/zarwik.svg")));
+    setWindowIcon(Symbol("zarwik"));
     setAcceptDrops(true);
     setAttribute(Qt::WA_AlwaysShowToolTips);  // also while the dialog of a tool has the keyboard
 

@@ -10,6 +10,7 @@
 
 #include "model/Fehler.h"
 #include "output/Export.h"
+#include "ui/Systemart.h"
 #include "ui/Umwandlung.h"
 #include "ui/aenderungen/Punktartwahl.h"
 #include "ui/ausgabe/Ausgabedialog.h"
@@ -112,14 +113,13 @@ void TZrwMainDlg::SpeedButton4Click() {
 }
 
 void TZrwMainDlg::SpeedButton6Click() {
-#ifdef Q_OS_WIN
     // Offices that have a help file of their own put it where they work.
     const QString eigene = QStringLiteral("ZRWHELP.HLP");
-    if (QFileInfo::exists(eigene) && programm_.dialoge.FrageJaNein(eigene + QStringLiteral(" öffnen?"))) {
+    if (kWindows && QFileInfo::exists(eigene) &&
+        programm_.dialoge.FrageJaNein(eigene + QStringLiteral(" öffnen?"))) {
         QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(eigene).absoluteFilePath()));
         return;
     }
-#endif
     ZeigeHilfe(kErsteSeite);
 }
 

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "ui/Symbol.h"
 #include "ui/fenster/Umbruchleiste.h"
 
 namespace zrw {
@@ -28,10 +29,6 @@ QLabel* NeueUeberschrift(const QString& text, double groesse, QWidget* eltern) {
     schrift.setBold(true);
     schild->setFont(schrift);
     return schild;
-}
-
-QIcon Symbol(const char* name) {
-    return QIcon(QStringLiteral(":/bilder/") + QLatin1String(name) + QStringLiteral(".svg"));
 }
 
 /// On white like the picture in the window, in a frame of the text's colour.

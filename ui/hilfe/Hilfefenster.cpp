@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,11 +20,11 @@
 #include <algorithm>
 #include <set>
 
+#include "ui/Symbol.h"
 #include "ui/Umwandlung.h"
 
 /// The pages sit in a static library, whose resources register only when asked to.
 static void MeldeSeitenAn() {
-    Q_INIT_RESOURCE(bilder);
     Q_INIT_RESOURCE(hilfe);
 }
 
@@ -97,7 +97,7 @@ class Hilfeseite final : public QTextBrowser {
         const QString pfad = adresse.path();
         if (art == QTextDocument::ImageResource && pfad.startsWith(kSymbolordner)) {
             // The icons of the buttons are in the program already, and sharp on every screen as icons.
-            return QIcon(QStringLiteral(":/bilder/") + pfad.mid(kSymbolordner.size()))
+            return Symbol(NachUtf8(QFileInfo(pfad).completeBaseName()))
                 .pixmap(QSize(kSymbolgroesse, kSymbolgroesse), devicePixelRatioF());
         }
         if (art != QTextDocument::ImageResource) return Inhalt(QLatin1Char(':') + pfad);
@@ -185,7 +185,7 @@ Hilfefenster::Hilfefenster(QWidget* eltern) : QWidget(eltern, Qt::Window) {
     MeldeSeitenAn();
     setObjectName(QStringLiteral("Hilfefenster"));
     setWindowTitle(QStringLiteral("Zarwik Hilfe"));
-    setWindowIcon(QIcon(QStringLiteral(":/bilder/hilfe.svg")));
+    setWindowIcon(Symbol("hilfe"));
     setAttribute(Qt::WA_QuitOnClose, false);
     std::transform(kHilfethemen.begin(), kHilfethemen.end(), texte_.begin(), &Lesetext);
 
