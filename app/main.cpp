@@ -7,6 +7,7 @@
 
 #include "app/Aufruf.h"
 #include "app/Stapel.h"
+#include "app/Systemstart.h"
 #include "input/Systemdateien.h"
 #include "ui/Umwandlung.h"
 #include "ui/ablage/Einstellungsablage.h"
@@ -15,14 +16,6 @@
 namespace {
 
 using namespace zrw;
-
-std::vector<std::string> Worte(int argc, char** argv) {
-    std::vector<std::string> worte;
-    // Qt knows how each system encodes its command line.
-    for (int i = 1; i < argc; ++i)
-        worte.push_back(NachUtf8(QString::fromLocal8Bit(argv[i])));
-    return worte;
-}
 
 /// What was kept and could not be read. The program runs with its defaults.
 void MeldeLesefehler(const Einstellungsablage& ablage, const Sitzung& sitzung, Dialogdienst& dialoge) {
@@ -84,8 +77,9 @@ void VerschweigeMeldung(QtMsgType /*art*/, const QMessageLogContext& /*stelle*/,
 
 int main(int argc, char** argv) {
     Aufruf aufruf;
+    VerbindeKonsole();
     try {
-        aufruf = LiesAufruf(Worte(argc, argv));
+        aufruf = LiesAufruf(Aufrufworte(argc, argv));
     } catch (const Falschaufruf& f) {
         DruckeZeile(f.text + ". Hilfe mit --help.");
         return 2;

@@ -25,7 +25,9 @@ brauche() {
 }
 
 # What building takes, and what the program needs to run.
-paketeBauen="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl-dev libsqlite3-dev zlib1g-dev libpugixml-dev"
-paketeLaufen="libsqlite3-0 zlib1g libpugixml1v5 libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-liberation"
+paketeBauen="g++ cmake ninja-build ccache qt6-base-dev libgl-dev libsqlite3-dev zlib1g-dev libpugixml-dev"
+paketeLaufen="libsqlite3-0 zlib1g libpugixml1v5 qt6-qpa-plugins qt6-translations-l10n fonts-liberation"
 paketeSanitizer="clang libclang-rt-dev llvm"
 paketeTesten="libgtest-dev python3 python3-ezdxf librecad hp2xx poppler-utils librsvg2-bin locales gdal-bin"
+# Cross-compiling for Windows, and trying what comes of it.
+paketeWindows="g++-mingw-w64-x86-64-posix cmake ninja-build make gcc libc6-dev tcl googletest dpkg-dev wine64"
