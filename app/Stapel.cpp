@@ -117,6 +117,7 @@ void DruckeZeile(const std::string& text) {
         }
     }
     std::fprintf(stderr, "%s\n", NachUtf8(zeile).c_str());
+    (void)std::fflush(stderr);  // Windows keeps lines for its console together
 }
 
 int FuehreStapelAus(const Aufruf& aufruf) {

@@ -1,6 +1,8 @@
 #include "app/Systemstart.h"
 
 #ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 #include <shellapi.h>
@@ -36,12 +38,25 @@ std::vector<std::string> Aufrufworte(int /*argc*/, char** /*argv*/) {
 void VerbindeKonsole() {
     const bool ausgabe = FuehrtNirgendwohin(STD_OUTPUT_HANDLE);
     const bool meldungen = FuehrtNirgendwohin(STD_ERROR_HANDLE);
-    if ((!ausgabe && !meldungen) || AttachConsole(ATTACH_PARENT_PROCESS) == 0) return;
+    if ((ausgabe || meldungen) && AttachConsole(ATTACH_PARENT_PROCESS) != 0) {
+        if (ausgabe) (void)std::freopen("CONOUT$", "w", stdout);
+        if (meldungen) (void)std::freopen("CONOUT$", "w", stderr);
+    }
     vorher = GetConsoleOutputCP();
+    if (vorher == 0) return;  // there is none
     SetConsoleOutputCP(CP_UTF8);
-    std::atexit([] { SetConsoleOutputCP(vorher); });
-    if (ausgabe) (void)std::freopen("CONOUT$", "w", stdout);
-    if (meldungen) (void)std::freopen("CONOUT$", "w", stderr);
+    std::atexit([] {
+        (void)std::fflush(nullptr);
+        SetConsoleOutputCP(vorher);
+    });
+    // Byte by byte, as streams go to a console otherwise, half a character is shown as two; as text they
+    // would be converted once more.
+    constexpr std::size_t kZeile = 4096;
+    for (std::FILE* strom : {stdout, stderr}) {
+        if (_isatty(_fileno(strom)) == 0) continue;
+        (void)_setmode(_fileno(strom), _O_BINARY);
+        (void)std::setvbuf(strom, nullptr, _IOFBF, kZeile);
+    }
 }
 
 }  // namespace zrw
