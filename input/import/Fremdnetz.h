@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "model/Figuren.h"
+#include "model/GrosserSpeicher.h"
 #include "model/Saat.h"
 
 namespace zrw::fremd {
@@ -165,9 +166,9 @@ class Fremdnetz {
   public:
     std::string titel;                 ///< UTF-8, one line
     std::vector<std::string> angaben;  ///< further lines about the network, UTF-8
-    std::vector<Fremdpunkt> punkte;
-    std::vector<Fremdmessung> messungen;  ///< in the order of the file
-    std::vector<Dreier> vektoren;         ///< [m]
+    std::vector<Fremdpunkt, Grossverteiler<Fremdpunkt>> punkte;
+    std::vector<Fremdmessung, Grossverteiler<Fremdmessung>> messungen;  ///< in the order of the file
+    std::vector<Dreier> vektoren;                                       ///< [m]
 
     bool mitErgebnissen = false;
     std::vector<Fremdlage> lagen;  ///< as `punkte`, where there are results

@@ -10,6 +10,7 @@
 #include "model/Aufzaehltafel.h"
 #include "model/Cp1252.h"
 #include "model/Fehler.h"
+#include "model/GrosserSpeicher.h"
 #include "model/Zahlentext.h"
 
 namespace zrw::fremd {
@@ -80,7 +81,12 @@ class Steuertext {
         if (!rest.empty()) Wort(rest);
         Ende();
     }
-    void Erwarte(std::size_t bytes) { text_.resize(std::max(bytes, text_.size())); }
+    /// Before anything is written.
+    void Erwarte(std::size_t bytes) {
+        text_.reserve(bytes);
+        FasseInGrosseSeiten(text_.data(), bytes);
+        text_.resize(bytes);
+    }
     [[nodiscard]] std::string Nimm() {
         text_.resize(lang_);
         return std::move(text_);
