@@ -121,7 +121,7 @@ Netz Hoehen() {
     return feld.Nimm(0.0065);
 }
 
-/// Two reference stations and four new points, in two sessions.
+/// Two reference stations and four new points, on two days.
 Netz Vektoren() {
     Feld feld(
         "GPS-Netz Steinau (frei erfunden)",
