@@ -282,6 +282,54 @@ TEST(Import, RelativeEllipsenWieVolleFortpflanzung) {
     }
 }
 
+TEST(Import, WohinErgebnisseKommen) {
+    const auto wert = [](const std::string& element, const std::string& punkte, const char* obs,
+                         const char* adj) {
+        return "<" + element + ">" + punkte + "<obs>" + obs + "</obs><adj>" + adj +
+               "</adj><stdev>20</stdev><f>50</f><std-residual>-4</std-residual><err-obs>8</err-obs></" +
+               element + ">";
+    };
+    const std::string a = "<id>A</id>", b = "<id>B</id>", ab = "<from>A</from><to>B</to>";
+    Speicherdateien dateien;
+    dateien.dateien["a/N.gkf"] =
+        "<gama-local><network axes-xy='sw'><points-observations>" + std::string(kZweiPunkte) + kFuss;
+    dateien.dateien["a/N.xml"] =
+        Ergebnisse({1, 0, 0, 0, 1, 0, 0, 1, 0, 1},
+                   wert("coordinate-x", a, "1", "1.001") + wert("coordinate-y", a, "2", "2.002") +
+                       wert("coordinate-z", a, "3", "3.003") + wert("coordinate-x", b, "4", "4.001") +
+                       wert("coordinate-y", b, "5", "5.001") + wert("coordinate-z", b, "6", "6") +
+                       wert("coordinate-z", b, "6", "6") + wert("azimuth", ab, "399.9999", "0.0001") +
+                       wert("zenith-angle", ab, "1", "1") + wert("slope-distance", ab, "7", "7.01") +
+                       wert("coordinate-x", b, "4", "4.001") + wert("coordinate-y", b, "5", "5.001"));
+    const Importergebnis e = Importiere(dateien, true);
+    EXPECT_EQ(e.hinweise.size(), 1U);
+    EXPECT_TRUE(e.hinweise.back().starts_with("2 Ergebnisse (Winkel")) << "a zenith angle and a height alone";
+    TDM daten(dateien);
+    daten.SetzeOrdner("b");
+    const auto zeilen = [&](Tabelle tabelle, const std::vector<std::string_view>& felder) {
+        std::vector<std::vector<double>> alle;
+        (void)daten.LiesZeilen(tabelle, felder, [&](std::span<const Zelle> z) {
+            alle.emplace_back();
+            for (const Zelle& zelle : z) {
+                const auto* real = std::get_if<double>(&zelle);
+                alle.back().push_back(real != nullptr ? *real
+                                                      : static_cast<double>(std::get<std::int64_t>(zelle)));
+            }
+        });
+        return alle;
+    };
+    using Zeilen = std::vector<std::vector<double>>;
+    EXPECT_EQ(
+        zeilen(Tabelle::GpsPunkte3D, {"Y", "X", "H", "vY", "vX", "vH", "GFY", "TGX", "EVZ", "NMFH", "FF"}),
+        (Zeilen{{-2.002, -1.001, 3.003, -2, -1, 3, -8, 4, 0.75, 20, 1},
+                {-5.001, -4.001, 6, -1, -1, 0, -8, 4, 0.75, 20, 1}}));
+    EXPECT_EQ(zeilen(Tabelle::GpsPunkte2D, {"Y", "X", "vY", "vX", "GFX", "TGY", "EVX", "FF"}),
+              (Zeilen{{-5.001, -4.001, -1, -1, -8, 4, 0.75, 1}}));
+    EXPECT_EQ(zeilen(Tabelle::Richtungen, {"Satz", "RI", "VR", "GF", "NMF"}),
+              (Zeilen{{0, 399.9999, 0.2, 0.8, 2}}));
+    EXPECT_EQ(zeilen(Tabelle::Strecken, {"ST", "VS", "GF", "NMF"}), (Zeilen{{7, 10, 8, 20}}));
+}
+
 TEST(Import, BeschaedigtesLaesstNichtsZurueck) {
     struct Fall {
         std::string netz, ergebnisse, meldung;
