@@ -18,8 +18,6 @@ using namespace tabellen;
 
 constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
 constexpr double kTausend = 1000.0;  // [mm/m] and [mgon/gon]
-/// Below this share the others do not control an observation.
-constexpr double kUnkontrolliert = 0.01;
 
 constexpr std::array<std::string_view, static_cast<std::size_t>(PunktArt::Anzahl)> kArtkuerzel{"FP", "FL",
                                                                                                "FH", "NP"};
@@ -88,6 +86,24 @@ consteval Einzelfelder FelderVon(std::span<const Tabellenfeld> f, std::string_vi
 constexpr Einzelfelder kStr = FelderVon(kStrecken, "ST", "VS");
 constexpr Einzelfelder kDh = FelderVon(kHoehenunterschiede, "DH", "VH");
 constexpr Einzelfelder kRtg = FelderVon(kRichtungen, "RI", "VR");
+
+/// The fields of a satellite point. @param raum with a height; without, nobody asks for that place
+struct GpsPunktfelder {
+    Feldertripel wert, v, gf, nmf, tg, ev;
+    std::size_t vP, ff;
+};
+consteval GpsPunktfelder GpsFelder(std::span<const Tabellenfeld> f, bool raum) {
+    return {Felder(f, "Y", "X", raum ? "H" : "X"),
+            Felder(f, "vY", "vX", raum ? "vH" : "vX"),
+            Felder(f, "GFY", "GFX", raum ? "GFH" : "GFX"),
+            Felder(f, "NMFY", "NMFX", raum ? "NMFH" : "NMFX"),
+            Felder(f, "TGY", "TGX", raum ? "TGZ" : "TGX"),
+            Felder(f, "EVY", "EVX", raum ? "EVZ" : "EVX"),
+            Feld(f, "vP"),
+            Feld(f, "FF")};
+}
+constexpr GpsPunktfelder kRaumpunkt = GpsFelder(kGpsPunkte3D, true);
+constexpr GpsPunktfelder kLagepunkt = GpsFelder(kGpsPunkte2D, false);
 
 bool Unkontrolliert(const Fremdwert& w) {
     // Without its share, an observation is controlled where the adjustment could test it.
@@ -279,32 +295,13 @@ class Tabellensatz {
             bericht_.NimmAuf(Befundart::ErgebnisOhneTabelle);
             return;
         }
-        if (da(e.teile[2])) {
-            constexpr Feldertripel kWert = Felder(kGpsPunkte3D, "Y", "X", "H");
-            constexpr Feldertripel kV = Felder(kGpsPunkte3D, "vY", "vX", "vH");
-            constexpr Feldertripel kGf = Felder(kGpsPunkte3D, "GFY", "GFX", "GFH");
-            constexpr Feldertripel kNmf = Felder(kGpsPunkte3D, "NMFY", "NMFX", "NMFH");
-            constexpr Feldertripel kTg = Felder(kGpsPunkte3D, "TGY", "TGX", "TGZ");
-            constexpr Feldertripel kEv = Felder(kGpsPunkte3D, "EVY", "EVX", "EVZ");
-            GpsPunktzeile(punkte3D_, e, 3, {kWert, kV, kGf, kNmf, kTg, kEv}, Feld(kGpsPunkte3D, "vP"),
-                          Feld(kGpsPunkte3D, "FF"));
-        } else {
-            constexpr Feldertripel kWert = Felder(kGpsPunkte2D, "Y", "X", "X");
-            constexpr Feldertripel kV = Felder(kGpsPunkte2D, "vY", "vX", "vX");
-            constexpr Feldertripel kGf = Felder(kGpsPunkte2D, "GFY", "GFX", "GFX");
-            constexpr Feldertripel kNmf = Felder(kGpsPunkte2D, "NMFY", "NMFX", "NMFX");
-            constexpr Feldertripel kTg = Felder(kGpsPunkte2D, "TGY", "TGX", "TGX");
-            constexpr Feldertripel kEv = Felder(kGpsPunkte2D, "EVY", "EVX", "EVX");
-            GpsPunktzeile(punkte2D_, e, 2, {kWert, kV, kGf, kNmf, kTg, kEv}, Feld(kGpsPunkte2D, "vP"),
-                          Feld(kGpsPunkte2D, "FF"));
-        }
+        if (da(e.teile[2]))
+            GpsPunktzeile(punkte3D_, e, 3, kRaumpunkt);
+        else
+            GpsPunktzeile(punkte2D_, e, 2, kLagepunkt);
     }
 
-    struct Punktfelder {
-        Feldertripel wert, v, gf, nmf, tg, ev;
-    };
-    void GpsPunktzeile(Bogen& b, const Fremdergebnis& e, std::size_t anzahl, const Punktfelder& f,
-                       std::size_t vP, std::size_t ff) {
+    void GpsPunktzeile(Bogen& b, const Fremdergebnis& e, std::size_t anzahl, const GpsPunktfelder& f) {
         b.Zeile();
         b.Text(1, nummern_[e.von]);
         b.Ganz(2, 0);
@@ -317,8 +314,8 @@ class Tabellensatz {
             b.Real(f.tg[i], w.testgroesse);
             b.Real(f.ev[i], w.redundanz);
         }
-        b.Real(vP, std::hypot(e.teile[0].verbesserung, e.teile[1].verbesserung));
-        b.Flag(ff, GroessterTest(e) > grenze_);
+        b.Real(f.vP, std::hypot(e.teile[0].verbesserung, e.teile[1].verbesserung));
+        b.Flag(f.ff, GroessterTest(e) > grenze_);
     }
 
     // Points.

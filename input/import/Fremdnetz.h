@@ -19,6 +19,9 @@ namespace zrw::fremd {
 
 inline constexpr double kUnbekannt = std::numeric_limits<double>::quiet_NaN();
 
+/// Redundancy share below which the other observations do not control one.
+inline constexpr double kUnkontrolliert = 0.01;
+
 /// Position of a point in `Fremdnetz::punkte`.
 using Stelle = std::uint32_t;
 
@@ -102,7 +105,6 @@ class Kovarianzen {
     /// Not a number outside the band.
     [[nodiscard]] double Wert(std::size_t i, std::size_t j) const;
     [[nodiscard]] std::size_t Dim() const { return anfang_.size(); }
-    [[nodiscard]] bool Voll() const { return band_ + 1 >= Dim(); }
 
   private:
     std::size_t band_ = 0;

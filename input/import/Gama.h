@@ -60,6 +60,10 @@ struct Gamawinkel {
 };
 [[nodiscard]] std::optional<Gamawinkel> LiesGamaWinkel(std::string_view text);
 
+inline constexpr double kMgonJeCc = 0.1;
+inline constexpr double kMgonJeSekunde = 1.0 / 3.24;
+inline constexpr double kGonJeGrad = 10.0 / 9.0;
+
 /// Coordinates and lengths beyond are no lengths on this earth [m].
 inline constexpr double kGroessteLaenge = 1e9;
 inline constexpr double kGroessteVarianz = 1e24;  ///< [mm²] or [cc²]

@@ -11,11 +11,6 @@ namespace zrw::fremd {
 namespace {
 
 constexpr double kTausend = 1000.0;  // [mm/m] and [mgon/gon]
-constexpr double kMgonJeCc = 0.1;
-constexpr double kMgonJeSekunde = 1.0 / 3.24;
-constexpr double kGonJeGrad = 10.0 / 9.0;
-/// Below this share the estimate of a gross error from the residual says nothing.
-constexpr double kKleinsteRedundanz = 0.01;
 
 struct Ergebniszeile {
     std::string_view element;
@@ -134,8 +129,9 @@ class Ergebnisleser {
             const std::string_view name = Elementname(kind);
             if (name.size() != 1) continue;
             // Capital letters mark coordinates of the free datum.
-            const std::size_t achse = std::string_view("xyzXYZ").find(name.front()) % 3;
-            if (std::string_view("xyzXYZ").find(name.front()) == std::string_view::npos) continue;
+            const std::size_t buchstabe = std::string_view("xyzXYZ").find(name.front());
+            if (buchstabe == std::string_view::npos) continue;
+            const std::size_t achse = buchstabe % 3;
             const auto zahl = LiesZahl(Inhalt(kind));
             if (!zahl) xml_.WirfFehler("Eine Koordinate der Ergebnisse ist nicht lesbar.", kind);
             w[achse] = *zahl;
@@ -245,7 +241,7 @@ class Ergebnisleser {
         w.testgroesse = std::fabs(Oder(LiesZahl(e.test)));
         if (const auto fehler = LiesZahl(e.fehler)) {
             w.groberFehler = vorzeichen * *fehler * klein;
-        } else if (w.redundanz >= kKleinsteRedundanz) {
+        } else if (w.redundanz >= kUnkontrolliert) {
             w.groberFehler = w.verbesserung / w.redundanz;
         }
         return w;

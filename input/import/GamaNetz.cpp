@@ -10,8 +10,6 @@
 namespace zrw::fremd {
 namespace {
 
-constexpr double kMgonJeCc = 0.1;
-constexpr double kMgonJeSekunde = 1.0 / 3.24;
 constexpr std::size_t kMeisteAngaben = 100;
 
 /// Attribute of the cluster's default for the standard deviation of an observation.
@@ -113,7 +111,7 @@ class Netzleser {
 
     void NimmBeschreibung(pugi::xml_node knoten) {
         std::string_view text = knoten.child_value();
-        while (!text.empty() && netz_.angaben.size() < kMeisteAngaben) {
+        while (!text.empty()) {
             const std::size_t ende = std::min(text.find('\n'), text.size());
             std::string zeile(text.substr(0, ende));
             std::replace_if(
@@ -123,8 +121,10 @@ class Netzleser {
             if (inhalt.empty()) continue;
             if (netz_.titel.empty())
                 netz_.titel = inhalt;
-            else
+            else if (netz_.angaben.size() < kMeisteAngaben)
                 netz_.angaben.emplace_back(inhalt);
+            else
+                bericht_.NimmAuf(Befundart::Beschreibung, xml_, Xmldatei::Stelle(knoten));
         }
     }
 

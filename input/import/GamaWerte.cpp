@@ -46,7 +46,6 @@ std::optional<double> LiesZahl(std::string_view text, double grenze) {
 
 std::optional<Gamawinkel> LiesGamaWinkel(std::string_view text) {
     constexpr double kGroessterWinkel = 1e6;
-    constexpr double kGonJeGrad = 10.0 / 9.0;
     const std::size_t ab = !text.empty() && (text.front() == '-' || text.front() == '+') ? 1 : 0;
     const std::size_t minuten = text.find('-', ab);
     // A number may have a minus in its exponent.

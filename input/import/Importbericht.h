@@ -26,6 +26,7 @@ enum class Befundart : std::uint8_t {
     Kovarianzen,
     Hoehenbezug,
     Kennung,
+    Beschreibung,
     Fremdelement,
     ErgebnisUnlesbar,
     ErgebnisOhneTabelle,
@@ -66,6 +67,8 @@ inline constexpr auto kBefunde = std::to_array<Befundzeile>({
      "Beobachtungen mit Instrumenten- oder Zielhöhen haben diese verloren"},
     {Befundart::Kennung, "1 Beobachtung mit eigener Kennung (extern) hat diese verloren",
      "Beobachtungen mit eigener Kennung (extern) haben diese verloren"},
+    {Befundart::Beschreibung, "1 Zeile der Beschreibung ist weggelassen",
+     "Zeilen der Beschreibung sind weggelassen"},
     {Befundart::Fremdelement, "1 unbekanntes Element ist übergangen", "unbekannte Elemente sind übergangen"},
     {Befundart::ErgebnisUnlesbar, "1 Ergebnis ohne lesbare Punkte oder Werte ist weggelassen",
      "Ergebnisse ohne lesbare Punkte oder Werte sind weggelassen"},
@@ -87,9 +90,6 @@ class Importbericht {
     void NimmAuf(Befundart art) { ++zahlen_[static_cast<std::size_t>(art)].anzahl; }
     /// One with a place in a file; the first of each kind is named.
     void NimmAuf(Befundart art, const Xmldatei& datei, std::size_t stelle);
-    [[nodiscard]] std::size_t Anzahl(Befundart art) const {
-        return zahlen_[static_cast<std::size_t>(art)].anzahl;
-    }
     /// A line for each kind that occurred: "3 Punkte haben kürzere Namen bekommen (zuerst NETZ.gkf, Zeile
     /// 7)".
     [[nodiscard]] std::vector<std::string> Zeilen() const;

@@ -1,10 +1,10 @@
 #include "input/import/Netzimport.h"
 
 #include <algorithm>
-#include <array>
 #include <memory>
 #include <utility>
 
+#include "input/Feldleser.h"
 #include "input/Systemdateien.h"
 #include "input/import/Ergebnisschreiber.h"
 #include "input/import/Importformat.h"
@@ -111,6 +111,10 @@ void PruefeZiele(const Importauftrag& auftrag, const Dateien& dateien) {
         PfadText(Zielordner(auftrag)));
 }
 
+char Grossbuchstabe(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
 bool IstHeil(const std::string& text) {
     const auto einfach = [](char c) { return static_cast<unsigned char>(c) < 0x80U; };
     return std::all_of(text.begin(), text.end(), einfach) || IstUtf8(text);
@@ -142,6 +146,15 @@ Importerkennung ErkenneImport(const std::filesystem::path& datei, const Dateien&
     return {};
 }
 
+std::string Importfilter() {
+    std::string filter;
+    for (const Importformat& f : kImportformate) {
+        filter += filter.empty() ? "" : ";;";
+        filter.append(f.name).append(" (").append(f.endungen).append(")");
+    }
+    return filter;
+}
+
 std::filesystem::path ImportOrdner(const std::filesystem::path& netz) {
     std::filesystem::path ordner = netz;
     ordner.replace_extension(".zarwik");
@@ -150,12 +163,18 @@ std::filesystem::path ImportOrdner(const std::filesystem::path& netz) {
 
 std::filesystem::path Importpartner(const std::filesystem::path& datei, Importrolle gesucht,
                                     const Dateien& dateien) {
-    constexpr std::array kEndungen{".xml", ".gkf", ".XML", ".GKF"};
-    for (const char* endung : kEndungen) {
-        std::filesystem::path partner = datei;
-        partner.replace_extension(endung);
-        if (partner != datei && dateien.Stand(partner) && ErkenneImport(partner, dateien).rolle == gesucht)
-            return partner;
+    for (const Importformat& f : kImportformate) {
+        for (std::string_view rest = f.endungen; !rest.empty();) {
+            std::string endung(NaechstesWort(rest).substr(1));  // without the asterisk
+            for (const bool gross : {false, true}) {
+                if (gross) std::transform(endung.begin(), endung.end(), endung.begin(), Grossbuchstabe);
+                std::filesystem::path partner = datei;
+                partner.replace_extension(endung);
+                if (partner != datei && dateien.Stand(partner) &&
+                    ErkenneImport(partner, dateien).rolle == gesucht)
+                    return partner;
+            }
+        }
     }
     return {};
 }

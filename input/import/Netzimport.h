@@ -22,6 +22,10 @@ struct Importerkennung {
 /// Looks into a file. What cannot be read is no foreign file.
 [[nodiscard]] Importerkennung ErkenneImport(const std::filesystem::path& datei, const Dateien& dateien);
 
+/// What can be imported, for file dialogs: "GNU Gama (*.gkf *.xml)"; of several formats with ";;" between.
+/// UTF-8
+[[nodiscard]] std::string Importfilter();
+
 /// Normalised residual beyond which an observation is flagged: error probability of the first kind 0.1 %.
 inline constexpr double kUeblicheGrenze = 3.29;
 

@@ -45,8 +45,7 @@ namespace {
 constexpr int kMeldungenInBox = 12;
 
 const QString kBildfilter = QStringLiteral("Zarwikdatei (*.ZRW)");
-const QString kSteuerfilter =
-    QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien (*.*);;Netz von GNU Gama (*.gkf *.xml)");
+const QString kSteuerfilter = QStringLiteral("Steuerdatei (*.EIN);;Alle Dateien (*.*)");
 
 /// Collects the messages of one reading into the text of one box.
 class Sammler {
@@ -166,8 +165,12 @@ void TZrwMainDlg::BaueStartseite() {
 }
 
 void TZrwMainDlg::SpeedButton1Click() {
-    const auto name = programm_.dialoge.WaehleZumOeffnen(
-        {QStringLiteral("Zarwik erzeugen"), kSteuerfilter, ordner_, {}, {}});
+    const auto name =
+        programm_.dialoge.WaehleZumOeffnen({QStringLiteral("Zarwik erzeugen"),
+                                            kSteuerfilter + QStringLiteral(";;") + AusUtf8(Importfilter()),
+                                            ordner_,
+                                            {},
+                                            {}});
     if (name) OeffneDatei(NachPfad(*name));
 }
 

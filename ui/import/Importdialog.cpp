@@ -24,7 +24,7 @@ namespace {
 constexpr int kFeldbreite = 460;  // [px]
 constexpr double kKleinsteGrenze = 0.5, kGroessteGrenze = 99.0;
 
-const QString kFilter = QStringLiteral("GNU Gama (*.gkf *.xml);;Alle Dateien (*.*)");
+const QString kAlle = QStringLiteral(";;Alle Dateien (*.*)");
 
 Importauftrag Auftrag(const QString& netz, const QString& ergebnisse, const QString& ziel) {
     return {.netz = NachPfad(netz.trimmed()),
@@ -128,7 +128,7 @@ QLineEdit* Importdialog::BaueFeld(QFormLayout& form, const char* name, const QSt
 
 std::optional<QString> Importdialog::WaehleDatei(const QString& titel) const {
     const QString bei = netz_->text().isEmpty() ? ordner_ : QFileInfo(netz_->text()).path();
-    return programm_.dialoge.WaehleZumOeffnen({titel, kFilter, bei, {}, {}});
+    return programm_.dialoge.WaehleZumOeffnen({titel, AusUtf8(Importfilter()) + kAlle, bei, {}, {}});
 }
 
 /// Results alone lead to the network beside them.
