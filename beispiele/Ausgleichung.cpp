@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <numeric>
 #include <set>
 
 #include "beispiele/Normalgleichung.h"
+#include "geo/Winkel.h"
 
 namespace zrw::beispiel {
 namespace {
 
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
 /// The equations are nearly linear: the corrections are below a tenth of a millimetre after the first step.
 constexpr int kSchritte = 4;
 constexpr std::size_t kKeine = Unbekannte::kKeine;

@@ -19,6 +19,7 @@ inline constexpr double kGrenze = 3.29;
 inline constexpr double kNachweisbar = 4.13;
 /// Below this redundancy an observation is not controlled by the others.
 inline constexpr double kUnkontrolliert = 0.01;
+inline constexpr double kMm = 1000.0;  ///< [mm/m]
 
 /// Easting, northing and height, or the three earth-centred components.
 using Ort = std::array<double, 3>;

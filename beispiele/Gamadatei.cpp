@@ -11,7 +11,6 @@
 namespace zrw::beispiel {
 namespace {
 
-constexpr double kMm = 1000.0;   // [mm/m]
 constexpr double kCc = 10000.0;  // [cc/gon]
 
 std::string Zahl(double wert, int stellen) {

@@ -2,15 +2,13 @@
 
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <utility>
 
 #include "beispiele/Zufall.h"
+#include "geo/Winkel.h"
 
 namespace zrw::beispiel {
 namespace {
-
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
 
 /// By how much the approximate coordinates are off [m].
 constexpr double kNaeherung = 0.02;

@@ -10,12 +10,12 @@
 #include "beispiele/Dreiecke.h"
 #include "beispiele/Netz.h"
 #include "beispiele/Zufall.h"
+#include "geo/Winkel.h"
 #include "geo/Zrwgeo.h"
 
 namespace zrw::beispiel {
 namespace {
 
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
 constexpr int kBessel = 1;
 constexpr double kErdradius = 6381000.0;  // [m]
 constexpr double kRefraktion = 0.13;

@@ -1,17 +1,15 @@
 // The tables of points and those of checks.
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <set>
 
 #include "beispiele/Tabellen.h"
 #include "beispiele/Zufall.h"
+#include "geo/Winkel.h"
 
 namespace zrw::beispiel {
 namespace {
 
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
-constexpr double kMm = 1000.0;  // [mm/m]
 /// Number of the coordinate frame: Gauss-Krueger on the Bessel ellipsoid.
 constexpr int kLagestatus = 100;
 

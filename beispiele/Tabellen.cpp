@@ -3,13 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+
+#include "geo/Winkel.h"
 
 namespace zrw::beispiel {
 namespace {
 
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
-constexpr double kMm = 1000.0;    // [mm/m]
 constexpr double kMgon = 1000.0;  // [mgon/gon]
 
 /// What the tables of single observations have alike. @param wirkungsfeld name of the effect on the point

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+
+#include "geo/Winkel.h"
 
 namespace zrw {
 namespace {
 
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
 /// Files have six or more digits of a covariance.
 constexpr double kRundung = 1e-5;
 

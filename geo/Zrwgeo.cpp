@@ -9,10 +9,9 @@
 namespace zrw {
 namespace {
 
-constexpr double kRho = 57.29577951308232;           // degrees per radian
-constexpr double kGonJeRadiant = 63.66197723675813;  // gon per radian
-constexpr double kNullpunktRechts = 500000.0;        // false easting [m]
-constexpr double kZonenschritt = 1000000.0;          // easting step from one zone number to the next [m]
+constexpr double kRho = 57.29577951308232;     // degrees per radian
+constexpr double kNullpunktRechts = 500000.0;  // false easting [m]
+constexpr double kZonenschritt = 1000000.0;    // easting step from one zone number to the next [m]
 
 struct EllipsoidZeile {
     double a;         // semi-major axis [m]

@@ -35,10 +35,10 @@ class Zaehler {
     std::uint64_t letztes_ = 0;
 };
 
-constexpr unsigned kByte = 8;
+constexpr unsigned kBitsJeByte = 8;
 
 std::uint64_t Aussehen(Farbe farbe, std::uint8_t a, std::uint8_t b) {
-    return (std::uint64_t{farbe.wert} << (2 * kByte)) | (std::uint64_t{a} << kByte) | b;
+    return (std::uint64_t{farbe.wert} << (2 * kBitsJeByte)) | (std::uint64_t{a} << kBitsJeByte) | b;
 }
 
 }  // namespace

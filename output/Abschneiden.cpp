@@ -27,17 +27,18 @@ bool Teil(double p, double q, double& t0, double& t1) {
     return t0 <= t1;
 }
 
-struct Ort {
+struct Ecke {
     double x, y;
 };
 
 /// The part of a convex polygon on one side of a straight line (Sutherland and Hodgman, 1974).
 /// @param seite 1: what is larger than `grenze`, -1: what is smaller
-std::vector<Ort> Halbraum(const std::vector<Ort>& ecken, double Ort::*richtung, double grenze, double seite) {
-    std::vector<Ort> teil;
+std::vector<Ecke> Halbraum(const std::vector<Ecke>& ecken, double Ecke::*richtung, double grenze,
+                           double seite) {
+    std::vector<Ecke> teil;
     for (std::size_t i = 0; i < ecken.size(); ++i) {
-        const Ort& a = ecken[i];
-        const Ort& b = ecken[(i + 1) % ecken.size()];
+        const Ecke& a = ecken[i];
+        const Ecke& b = ecken[(i + 1) % ecken.size()];
         const double da = (a.*richtung - grenze) * seite;
         const double db = (b.*richtung - grenze) * seite;
         if (da >= 0.0) teil.push_back(a);
@@ -82,14 +83,14 @@ std::vector<Flaechenpunkt> SchneideVieleckAb(std::span<const Bildpunkt> ecken, c
             teil.push_back(Aufflaeche(e));
         return teil;
     }
-    std::vector<Ort> rest;
+    std::vector<Ecke> rest;
     for (const Bildpunkt e : ecken)
         rest.push_back({static_cast<double>(e.x), static_cast<double>(e.y)});
-    rest = Halbraum(rest, &Ort::x, s.links - kSchnittrand, 1.0);
-    rest = Halbraum(rest, &Ort::x, s.rechts + kSchnittrand, -1.0);
-    rest = Halbraum(rest, &Ort::y, s.oben - kSchnittrand, 1.0);
-    rest = Halbraum(rest, &Ort::y, s.unten + kSchnittrand, -1.0);
-    for (const Ort& e : rest)
+    rest = Halbraum(rest, &Ecke::x, s.links - kSchnittrand, 1.0);
+    rest = Halbraum(rest, &Ecke::x, s.rechts + kSchnittrand, -1.0);
+    rest = Halbraum(rest, &Ecke::y, s.oben - kSchnittrand, 1.0);
+    rest = Halbraum(rest, &Ecke::y, s.unten + kSchnittrand, -1.0);
+    for (const Ecke& e : rest)
         teil.push_back({static_cast<std::int32_t>(
                             RundeZuInt64(std::clamp(e.x, s.links - kSchnittrand, s.rechts + kSchnittrand))),
                         static_cast<std::int32_t>(

@@ -23,7 +23,7 @@ constexpr std::int64_t kLang = std::int64_t{1} << 20U;
 constexpr std::int32_t kBreit = 64 * kGanz;
 /// What remains free of a pixel when nobody can tell it from a full one (of 255).
 constexpr unsigned kSatt = 6;
-constexpr unsigned kVoll = 255;
+constexpr unsigned kGedeckt = 255;
 constexpr std::int32_t kVier = 4;
 
 constexpr std::uint32_t kRotBlau = 0x00FF00FFU;
@@ -82,7 +82,7 @@ inline void Dahinter::Decke(const std::uint32_t* p, std::int64_t y, std::uint64_
 
 inline void Dahinter::SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe,
                                  std::int32_t a) const {
-    const unsigned frei = kVoll - (*p >> 24U);
+    const unsigned frei = kGedeckt - (*p >> 24U);
     if (frei == 0) return;
     unsigned n = (static_cast<unsigned>(a) * frei + kGanz / 2) / kGanz;
     if (frei - n <= kSatt) {
@@ -101,7 +101,7 @@ inline void Dahinter::FuelleZeile(std::uint32_t* p, std::int64_t y, std::int32_t
 
 inline void Dahinter::SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a) const {
     const Vier vorn = LiesVier(p);
-    const Acht frei = kVoll - Zweimal(vorn >> 24);
+    const Acht frei = kGedeckt - Zweimal(vorn >> 24);
     Acht n = (a * frei + kGanz / 2) >> 8;
     if (AlleNull(n)) return;
     const auto bleibt = std::bit_cast<AchtMitVorzeichen>(frei - n);
@@ -117,7 +117,7 @@ inline void Dahinter::SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarb
 namespace {
 
 /// A stroke along its longer axis, from its smaller end.
-struct Strich {
+struct Pinselstrich {
     std::int64_t anfang = 0;
     std::int64_t ende = 0;
     std::int64_t quer = 0;     ///< of the smaller end
@@ -138,7 +138,7 @@ struct Strich {
 
 /// One step along, pixel by pixel, those in the tile.
 template <bool Senkrecht, class Ziel>
-void SetzeQuerAmRand(const Strich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
+void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
                      const Ziel& ziel) {
     const std::int64_t von = Senkrecht ? ziel.bereich.links : ziel.bereich.oben;
     const std::int64_t bis = Senkrecht ? ziel.bereich.rechts : ziel.bereich.unten;
@@ -157,7 +157,7 @@ void SetzeQuerAmRand(const Strich& s, std::int64_t m, std::int64_t oben, const V
 
 /// One step of a stroke that runs down: the pixels of a row, four at a time.
 template <class Ziel>
-inline void SetzeInZeile(const Strich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
+inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
                          const Ziel& ziel) {
     constexpr Acht kStellen{0, 0, kGanz, kGanz, 2 * kGanz, 2 * kGanz, 3 * kGanz, 3 * kGanz};
     constexpr Acht kErster{0xFFFF, 0xFFFF};
@@ -182,7 +182,7 @@ inline void SetzeInZeile(const Strich& s, std::int64_t m, std::int64_t oben, con
 /// Four steps of a stroke that runs beside the rows: the pixels of some rows. @param anzahl of the steps that
 /// it has @param v its middle at the first of them, in 2^-32
 template <class Ziel>
-inline void SetzeInZeilen(const Strich& s, std::int64_t m, std::int64_t anzahl, std::int64_t v,
+inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t anzahl, std::int64_t v,
                           std::int64_t schritt, const Vierfarbe& farbe, const Ziel& ziel) {
     std::array<std::int64_t, kVier> oben;
     for (std::size_t i = 0; i < kVier; ++i)
@@ -220,7 +220,7 @@ inline void SetzeInZeilen(const Strich& s, std::int64_t m, std::int64_t anzahl, 
 }
 
 template <bool Senkrecht, class Ziel>
-void ZieheStrich(const Strich& s, const Vierfarbe& farbe, const Ziel& ziel) {
+void ZieheStrich(const Pinselstrich& s, const Vierfarbe& farbe, const Ziel& ziel) {
     const std::int64_t erster =
         std::max<std::int64_t>(s.anfang, Senkrecht ? ziel.bereich.oben : ziel.bereich.links);
     const std::int64_t letzter =
@@ -255,7 +255,7 @@ void ZieheLinie(Flaechenpunkt von, Flaechenpunkt nach, double breite, double das
     const std::int64_t dx = std::int64_t{nach.x} - von.x;
     const std::int64_t dy = std::int64_t{nach.y} - von.y;
     const bool senkrecht = std::llabs(dx) < std::llabs(dy);
-    Strich s;
+    Pinselstrich s;
     s.anfang = senkrecht ? von.y : von.x;
     s.ende = senkrecht ? nach.y : nach.x;
     s.quer = senkrecht ? von.x : von.y;
@@ -370,7 +370,7 @@ void MischeUnter(const std::uint32_t* vorn, std::uint32_t* unten, std::size_t we
     for (; x + kVier <= weite; x += kVier) {
         const Vier v = LiesVier(vorn + x);
         if (AlleNull(AlsAcht(v))) continue;
-        const Acht frei = kVoll - Zweimal(v >> 24);
+        const Acht frei = kGedeckt - Zweimal(v >> 24);
         const Acht u = AlsAcht(LiesVier(unten + x));
         const Acht rb = (u & 0xFF) * frei + 0x80;
         const Acht g = (u >> 8) * frei + 0x80;
@@ -379,7 +379,7 @@ void MischeUnter(const std::uint32_t* vorn, std::uint32_t* unten, std::size_t we
     }
     for (; x < weite; ++x) {
         unten[x] =
-            kDeckend | ((vorn[x] & ~kDeckend) + FarbeMal(unten[x] & ~kDeckend, kVoll - (vorn[x] >> 24U)));
+            kDeckend | ((vorn[x] & ~kDeckend) + FarbeMal(unten[x] & ~kDeckend, kGedeckt - (vorn[x] >> 24U)));
     }
 }
 

@@ -32,19 +32,21 @@ constexpr std::size_t Punktzahl(Zugform form) {
     return kStriche[static_cast<std::size_t>(form)].back().nach + std::size_t{1};
 }
 
-/// Places along an indirect line, in its direction.
-enum Stelle : std::uint8_t { Start, Ab, Links, Hoehe, Rechts, An, Drittel, ZweiDrittel, Ziel };
-constexpr std::size_t kStellen = Ziel + 1;
-
 }  // namespace
 
-/// A form between such places.
+/// A form between places along an indirect line.
 struct Umwegzug {
+    /// In the direction of the line.
+    enum Stelle : std::uint8_t { Start, Ab, Links, Hoehe, Rechts, An, Drittel, ZweiDrittel, Ziel };
+    static constexpr std::size_t kStellen = Ziel + 1;
+
     Zugform form;
     std::array<Stelle, kMeistePunkte> stellen;
 };
 
 namespace {
+
+using enum Umwegzug::Stelle;
 
 constexpr auto kHalberUmweg =
     std::to_array<Umwegzug>({{Zugform::SiebenpunktHalb, {Start, Ab, Links, Hoehe, Rechts, An, Ziel}}});
@@ -181,7 +183,7 @@ void Kantenbild::Umweg(std::span<const Umwegzug> zuege, const Lage& l) {
     const double w = l.umweg;
     const double rest = (l.laenge / 2 - 2 * w) / 3;
     // In the order of `Stelle`.
-    const std::array<Bildpunkt, kStellen> orte{
+    const std::array<Bildpunkt, Umwegzug::kStellen> orte{
         l.s,
         l.AbMitte(-2 * w, 0),
         l.AbMitte(-w, w),
@@ -195,7 +197,7 @@ void Kantenbild::Umweg(std::span<const Umwegzug> zuege, const Lage& l) {
     for (const Umwegzug& zug : zuege) {
         std::array<Bildpunkt, kMeistePunkte> punkte;
         std::transform(zug.stellen.begin(), zug.stellen.end(), punkte.begin(),
-                       [&](Stelle s) { return orte[s]; });
+                       [&](Umwegzug::Stelle s) { return orte[s]; });
         NimmZug(zug.form, std::span<const Bildpunkt>(punkte).first(Punktzahl(zug.form)));
     }
 }

@@ -13,8 +13,8 @@ namespace {
 
 constexpr Dxfart kGitterart{dxf::kGitter};
 // The drawing has its grid in picture coordinates; so are these.
-constexpr double kDxfTexthoehe = 8.0;
-constexpr double kDxfTextabstand = 5.0;
+constexpr double kGitterTexthoehe = 8.0;
+constexpr double kGitterTextabstand = 5.0;
 
 constexpr double kWestrand = 5.6666666667;  ///< of the sheet columns [deg], 5°40'
 constexpr double kNordrand = 56.0;          ///< of the sheet rows [deg]
@@ -78,8 +78,8 @@ void Kartengitter::Nummer(Bildpunkt ort, std::string_view text, std::int64_t fel
     }
     if (ziel_.dxf != nullptr) {
         ziel_.dxf->DxfText(text, kGitterart,
-                           {static_cast<double>(ort.x) + kDxfTextabstand, static_cast<double>(ort.y)}, 0.0,
-                           kDxfTexthoehe);
+                           {static_cast<double>(ort.x) + kGitterTextabstand, static_cast<double>(ort.y)}, 0.0,
+                           kGitterTexthoehe);
     }
 }
 

@@ -10,8 +10,6 @@ namespace {
 
 constexpr double kPunkteJeZoll = 72.0;
 constexpr double kPunkteJeMillimeter = kPunkteJeZoll / kMillimeterJeZoll;
-constexpr int kMatrixstellen = 10;  ///< a hundred thousandth of a point across the largest paper
-constexpr int kStellen = 3;         ///< of lengths in dots and of parts of a colour
 
 // Objects that every document has.
 constexpr std::size_t kKatalog = 1;
@@ -119,7 +117,7 @@ void Pdfflaeche::SchreibeBetriebsmittel() {
         SchreibeText(">>/ExtGState<<");
         for (const int prozent : durchscheinend_) {
             SchreibeText("/D" + std::to_string(prozent) + "<</ca ");
-            SchreibeZahl(prozent / 100.0, kStellen);
+            SchreibeZahl(prozent / 100.0, kDotstellen);
             SchreibeText(">>");
         }
     }
@@ -173,7 +171,7 @@ void Pdfflaeche::SchreibeSchrift() {
     SchreibeText("/FirstChar 0/LastChar 255/Widths[");
     for (const double breite : masse.breiten) {
         SchreibeText(" ");
-        SchreibeZahl(breite, kStellen);
+        SchreibeZahl(breite, kDotstellen);
     }
     SchreibeText("]>>\n");
     BeendeObjekt();
@@ -181,12 +179,12 @@ void Pdfflaeche::SchreibeSchrift() {
     SchreibeText("<</Type/FontDescriptor/FontName/" + name + "/Flags 32/ItalicAngle 0/StemV 80/FontBBox[");
     for (const double kante : schrift_->Kasten()) {
         SchreibeText(" ");
-        SchreibeZahl(kante, kStellen);
+        SchreibeZahl(kante, kDotstellen);
     }
     const auto hoehe = [this](std::string_view eintrag, double em) {
         SchreibeText(eintrag);
         SchreibeText(" ");
-        SchreibeZahl(1000 * em, kStellen);
+        SchreibeZahl(1000 * em, kDotstellen);
     };
     SchreibeText("]");
     hoehe("/Ascent", masse.anstieg);

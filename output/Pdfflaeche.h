@@ -27,6 +27,9 @@ struct Pdfangaben {
     const Einbettschrift* schrift = nullptr;  ///< outlives the document; null: Helvetica, not embedded
 };
 
+inline constexpr int kMatrixstellen = 10;  ///< a hundred thousandth of a point across the largest paper
+inline constexpr int kDotstellen = 3;      ///< of lengths in dots and of parts of a colour
+
 class Pdfflaeche final : public Vektorflaeche {
   public:
     /// Begins the first page. @param aufloesung [dots per inch], 1 to 100000

@@ -8,9 +8,7 @@
 namespace zrw {
 namespace {
 
-constexpr int kMatrixstellen = 10;  ///< a hundred thousandth of a point across the largest paper
-constexpr int kStellen = 3;         ///< of lengths in dots and of parts of a colour
-constexpr int kPunktstellen = 4;    ///< of lengths in points
+constexpr int kPunktstellen = 4;  ///< of lengths in points
 
 /// Distance of the control points of a quarter circle of radius 1: within 0.03 % of the circle.
 constexpr double kViertelkreis = 0.5522847498;
@@ -26,7 +24,7 @@ void Pdfflaeche::Paar(double x, double y) {
 
 void Pdfflaeche::Farbbefehl(Farbe farbe, std::string_view befehl) {
     for (const std::uint8_t teil : {Rotanteil(farbe), Gruenanteil(farbe), Blauanteil(farbe)}) {
-        SchreibeZahl(teil / 255.0, kStellen);
+        SchreibeZahl(teil / 255.0, kDotstellen);
         SchreibeText(" ");
     }
     SchreibeText(befehl);
@@ -39,7 +37,7 @@ void Pdfflaeche::WendeStiftAn() {
     if (!stift_ || stift_->farbe != neu.farbe) Farbbefehl(neu.farbe, "RG");
     const double breite = neu.breite * Strich();
     if (!stift_ || stift_->breite != neu.breite) {
-        SchreibeZahl(breite, kStellen);
+        SchreibeZahl(breite, kDotstellen);
         SchreibeText(" w\n");
     }
     // Round ends show lines of no length; dashes have blunt ends, or the gaps would close.
@@ -47,9 +45,9 @@ void Pdfflaeche::WendeStiftAn() {
         SchreibeText("1 J[]0 d\n");
     } else {
         SchreibeText("0 J[");
-        SchreibeZahl(kStrichlaenge * neu.breite * Pixel(), kStellen);
+        SchreibeZahl(kStrichlaenge * neu.breite * Pixel(), kDotstellen);
         SchreibeText(" ");
-        SchreibeZahl(kStrichluecke * neu.breite * Pixel(), kStellen);
+        SchreibeZahl(kStrichluecke * neu.breite * Pixel(), kDotstellen);
         SchreibeText("]0 d\n");
     }
     stift_ = neu;

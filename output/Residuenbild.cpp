@@ -17,6 +17,12 @@
 #include "output/Residuenmass.h"
 
 namespace zrw {
+
+struct Richtung {
+    double cos = 1.0;
+    double sin = 0.0;
+};
+
 namespace {
 
 /// Gon per radian, a little below 200/pi: ellipses have their corners where this puts them.
@@ -30,8 +36,8 @@ constexpr double kFussbreite = 2.0;  ///< half width of the end strokes [mm]
 /// Beyond the figure itself: rounding, and what wide pens add.
 constexpr double kZeichenrand = 8.0;
 
-constexpr double kStrichlaenge = 5.0;  ///< of dashed ellipses, about [px]
-constexpr double kLueckenlaenge = 3.0;
+constexpr double kBogenlaenge = 5.0;  ///< of dashed ellipses, about [px]
+constexpr double kBogenluecke = 3.0;
 
 constexpr int kFuellung = 12;             ///< of an ellipse: so much is covered [%]
 constexpr std::int32_t kPfeilstift = 2;   ///< width of the pen of arrows
@@ -39,15 +45,10 @@ constexpr double kPfeilspitze = 9.0;      ///< length of their heads [px]
 constexpr double kKuerzesterPfeil = 3.0;  ///< shorter ones have none [px]
 constexpr Gon kPfeilwinkel{27};           ///< between shaft and head
 
-constexpr double kMillimeter = 10.0;  ///< in a centimetre
-constexpr double kSchmalste = 40.0;   ///< bar of whole centimetres [px]
+constexpr double kMillimeterJeZentimeter = 10.0;
+constexpr double kSchmalste = 40.0;  ///< bar of whole centimetres [px]
 constexpr double kBreiteste = 400.0;
 constexpr double kAndereSchmalste = 50.0;  ///< bar of other steps [px]
-
-struct Richtung {
-    double cos = 1.0;
-    double sin = 0.0;
-};
 
 Richtung RichtungVon(double gon) {
     return {std::cos(gon / kRho), std::sin(gon / kRho)};
@@ -87,8 +88,8 @@ Takt Strichtakt(double seite, double faktor) {
         return anzahl < kVollkreis ? std::max<std::size_t>(1, static_cast<std::size_t>(std::lround(anzahl)))
                                    : kVollkreis;
     };
-    const std::size_t gezogene = seiten(kStrichlaenge);
-    return {gezogene, gezogene + seiten(kLueckenlaenge)};
+    const std::size_t gezogene = seiten(kBogenlaenge);
+    return {gezogene, gezogene + seiten(kBogenluecke)};
 }
 
 /// Whole dots of a residual, towards zero.
@@ -347,7 +348,7 @@ void Residuenbild::DrawResMasstab() const {
 /// @param titel UTF-8 @param hoeher above the corner [dots]
 void Residuenbild::ZeichneBalken(const std::string& titel, double vergroesserung, std::int64_t hoeher) const {
     // On the screen, whatever the device: paper has the same numbers.
-    const double pixel = kTeile * kMillimeter * vergroesserung;
+    const double pixel = kTeile * kMillimeterJeZentimeter * vergroesserung;
     if (!(pixel > 0.0) || !std::isfinite(pixel)) return;
     const Teilung teilung = WaehleTeilung(pixel);
     Balken balken{Utf8NachCp1252(titel), "cm", {}, 0.0, false};

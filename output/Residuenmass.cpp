@@ -8,7 +8,7 @@
 namespace zrw {
 namespace {
 
-constexpr double kMillimeter = 1000.0;  ///< in a metre
+constexpr double kMillimeterJeMeter = 1000.0;
 constexpr double kTeilDesBildes = 15.0;
 constexpr double kKleinste = 3.0;        ///< shorter ones cannot be told apart [px]
 constexpr double kGroessterTeil = 0.25;  ///< of the picture's width
@@ -29,7 +29,7 @@ std::string HinweisZu(double pixel, double weite, const char* was, const char* m
 }  // namespace
 
 Lageabweichung AbweichungVon(const Punktergebnis& ergebnis, const Vergleichslage& vergleich) {
-    return {(vergleich.Y - ergebnis.Y) * kMillimeter, (vergleich.X - ergebnis.X) * kMillimeter};
+    return {(vergleich.Y - ergebnis.Y) * kMillimeterJeMeter, (vergleich.X - ergebnis.X) * kMillimeterJeMeter};
 }
 
 Residuenmass MissResiduen(const Bildvorlage& v, Punktergebnisse& ergebnisse) {

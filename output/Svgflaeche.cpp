@@ -9,7 +9,7 @@
 namespace zrw {
 namespace {
 
-constexpr int kStellen = 3;
+constexpr int kSvgstellen = 3;
 
 /// Pens are never thinner than a dot: paper has its own width, the screen has one pixel.
 double Stiftmass(double aufloesung) {
@@ -34,7 +34,7 @@ void Svgflaeche::Kopf(std::string_view titel) {
         SchreibeText(" ");
         SchreibeText(name);
         SchreibeText("=\"");
-        SchreibeZahl(papier ? dots / s.aufloesung * kMillimeterJeZoll : dots, kStellen);
+        SchreibeZahl(papier ? dots / s.aufloesung * kMillimeterJeZoll : dots, kSvgstellen);
         SchreibeText(papier ? "mm\"" : "\"");
     };
     const auto blatt = [&] {
@@ -130,7 +130,7 @@ void Svgflaeche::Attribut(std::string_view name, double wert) {
     SchreibeText(" ");
     SchreibeText(name);
     SchreibeText("=\"");
-    SchreibeZahl(wert, kStellen);
+    SchreibeZahl(wert, kSvgstellen);
     SchreibeText("\"");
 }
 
@@ -161,9 +161,9 @@ void Svgflaeche::Stiftattribute() {
     if (stift.breite != 1) Attribut("stroke-width", breite);
     if (!Gestrichelt(stift)) return;
     SchreibeText(" stroke-linecap=\"butt\" stroke-dasharray=\"");
-    SchreibeZahl(kStrichlaenge * stift.breite * Pixel(), kStellen);
+    SchreibeZahl(kStrichlaenge * stift.breite * Pixel(), kSvgstellen);
     SchreibeText(" ");
-    SchreibeZahl(kStrichluecke * stift.breite * Pixel(), kStellen);
+    SchreibeZahl(kStrichluecke * stift.breite * Pixel(), kSvgstellen);
     SchreibeText("\"");
 }
 

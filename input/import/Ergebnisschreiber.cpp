@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <string_view>
 
 #include "geo/Fehlerellipse.h"
+#include "geo/Winkel.h"
 #include "input/tabellen/Ergebnistabellen.h"
 #include "input/tabellen/Paradoxschreiber.h"
 #include "model/Cp1252.h"
@@ -15,9 +15,6 @@ namespace zrw::fremd {
 namespace {
 
 using namespace tabellen;
-
-constexpr double kGonJeRadiant = 200.0 / std::numbers::pi;
-constexpr double kTausend = 1000.0;  // [mm/m] and [mgon/gon]
 
 constexpr std::array<std::string_view, static_cast<std::size_t>(PunktArt::Anzahl)> kArtkuerzel{"FP", "FL",
                                                                                                "FH", "NP"};

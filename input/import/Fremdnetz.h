@@ -17,6 +17,7 @@
 
 namespace zrw::fremd {
 
+inline constexpr double kTausend = 1000.0;  ///< [mm/m] and [mgon/gon]
 inline constexpr double kUnbekannt = std::numeric_limits<double>::quiet_NaN();
 
 /// Redundancy share below which the other observations do not control one.

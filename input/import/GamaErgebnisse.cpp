@@ -10,8 +10,6 @@
 namespace zrw::fremd {
 namespace {
 
-constexpr double kTausend = 1000.0;  // [mm/m] and [mgon/gon]
-
 struct Ergebniszeile {
     std::string_view element;
     Messart art;

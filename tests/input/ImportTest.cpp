@@ -226,7 +226,7 @@ TEST(Import, BeispieleWieUnmittelbar) {
 }
 
 /// Results of two points with a full matrix of covariances.
-std::string Ergebnisse(const std::vector<double>& obere, const std::string& rest = {}) {
+std::string Ergebnisdatei(const std::vector<double>& obere, const std::string& rest = {}) {
     std::string xml =
         "<gama-local-adjustment><network-general-parameters axes-xy='sw'/><coordinates><adjusted>"
         "<point><id>A</id><x>1</x><Y>2</Y></point><point><id>B</id><X>301</X><y>402</y></point></adjusted>"
@@ -256,7 +256,7 @@ TEST(Import, RelativeEllipsenWieVolleFortpflanzung) {
             "<gama-local><network axes-xy='sw'><points-observations><point id='A' x='1' y='2'/>"
             "<point id='B' x='301' y='402'/><obs><distance from='B' to='A' val='500'/></obs>"
             "</points-observations></network></gama-local>";
-        dateien.dateien["a/N.xml"] = Ergebnisse(obere);
+        dateien.dateien["a/N.xml"] = Ergebnisdatei(obere);
         EXPECT_EQ(Importiere(dateien, true).hinweise, std::vector<std::string>());
         TDM daten(dateien);
         daten.SetzeOrdner("b");
@@ -294,13 +294,13 @@ TEST(Import, WohinErgebnisseKommen) {
     dateien.dateien["a/N.gkf"] =
         "<gama-local><network axes-xy='sw'><points-observations>" + std::string(kZweiPunkte) + kFuss;
     dateien.dateien["a/N.xml"] =
-        Ergebnisse({1, 0, 0, 0, 1, 0, 0, 1, 0, 1},
-                   wert("coordinate-x", a, "1", "1.001") + wert("coordinate-y", a, "2", "2.002") +
-                       wert("coordinate-z", a, "3", "3.003") + wert("coordinate-x", b, "4", "4.001") +
-                       wert("coordinate-y", b, "5", "5.001") + wert("coordinate-z", b, "6", "6") +
-                       wert("coordinate-z", b, "6", "6") + wert("azimuth", ab, "399.9999", "0.0001") +
-                       wert("zenith-angle", ab, "1", "1") + wert("slope-distance", ab, "7", "7.01") +
-                       wert("coordinate-x", b, "4", "4.001") + wert("coordinate-y", b, "5", "5.001"));
+        Ergebnisdatei({1, 0, 0, 0, 1, 0, 0, 1, 0, 1},
+                      wert("coordinate-x", a, "1", "1.001") + wert("coordinate-y", a, "2", "2.002") +
+                          wert("coordinate-z", a, "3", "3.003") + wert("coordinate-x", b, "4", "4.001") +
+                          wert("coordinate-y", b, "5", "5.001") + wert("coordinate-z", b, "6", "6") +
+                          wert("coordinate-z", b, "6", "6") + wert("azimuth", ab, "399.9999", "0.0001") +
+                          wert("zenith-angle", ab, "1", "1") + wert("slope-distance", ab, "7", "7.01") +
+                          wert("coordinate-x", b, "4", "4.001") + wert("coordinate-y", b, "5", "5.001"));
     const Importergebnis e = Importiere(dateien, true);
     EXPECT_EQ(e.hinweise.size(), 1U);
     EXPECT_TRUE(e.hinweise.back().starts_with("2 Ergebnisse (Winkel")) << "a zenith angle and a height alone";
@@ -380,7 +380,8 @@ TEST(Import, BeschaedigtesLaesstNichtsZurueck) {
          "<gama-local-adjustment>\n<coordinates><fixed><point><id>X</id><x>1</x></point></fixed></"
          "coordinates></gama-local-adjustment>",
          "N.xml, Zeile 2: Kein Punkt der Ergebnisse kommt im Netz vor"},
-        {gut, Ergebnisse({1, 2, 3}), "N.xml, Zeile 1: Die Kovarianzmatrix (cov-mat) hat 3 Werte statt 10."},
+        {gut, Ergebnisdatei({1, 2, 3}),
+         "N.xml, Zeile 1: Die Kovarianzmatrix (cov-mat) hat 3 Werte statt 10."},
         {gut,
          "<gama-local-adjustment><coordinates><cov-mat><dim>999999999999</dim><band>0</band></cov-mat></"
          "coordinates></gama-local-adjustment>",
@@ -401,7 +402,7 @@ TEST(Import, BeschaedigtesLaesstNichtsZurueck) {
     }
     // A full disk and files that are there: nothing new, nothing lost.
     Speicherdateien dateien;
-    dateien.dateien = {{"a/N.gkf", gut}, {"a/N.xml", Ergebnisse(einheit)}, {"b/gpstable.DB", "alt"}};
+    dateien.dateien = {{"a/N.gkf", gut}, {"a/N.xml", Ergebnisdatei(einheit)}, {"b/gpstable.DB", "alt"}};
     const auto vorher = dateien.dateien;
     EXPECT_THROW(Importiere(dateien, true), Fehler);
     dateien.platz = 3000;

@@ -7,12 +7,12 @@
 namespace zrw {
 namespace {
 
-using Namen = std::pair<Namensliste, std::vector<std::string>>;
+using Gelesen = std::pair<Namensliste, std::vector<std::string>>;
 
-Namen Lies(const std::string& inhalt) {
+Gelesen Lies(const std::string& inhalt) {
     Speicherdateien dateien;
     dateien.dateien["netz/nord_NAMEN.csv"] = inhalt;
-    Namen n;
+    Gelesen n;
     n.first =
         LiesNamensliste("netz/NORD.EIN", dateien, [&](const Meldung& m) { n.second.push_back(m.Zeile()); });
     return n;
@@ -24,7 +24,7 @@ TEST(Namensliste, SchreibtUndLiest) {
     const std::string text = Namenslistentext(paare);
     EXPECT_EQ(text, "Neu;Alt\nMühl1;\"Mühlberg; \"\"Süd\"\"\nTurm\"\nA~1;AAAA BBBB CCCC Ωλ\n");
     const Namensliste soll{{paare[0].neu, paare[0].alt}, {paare[1].neu, paare[1].alt}};
-    EXPECT_EQ(Lies(text), Namen(soll, {}));
+    EXPECT_EQ(Lies(text), Gelesen(soll, {}));
     EXPECT_EQ(Lies("\xEF\xBB\xBFNeu;Alt\r\nA~1;AAAA BBBB CCCC Ωλ\r\n\r\n").first.size(), 1U);
     EXPECT_EQ(Lies("Neu;Alt\nM\xFChl;M\xFChlberg").first.at("M\xFChl"), "Mühlberg") << "code page 1252";
     EXPECT_EQ(LiesNamensliste("netz/SUED.EIN", Speicherdateien(), {}), Namensliste()) << "no file";
@@ -32,8 +32,8 @@ TEST(Namensliste, SchreibtUndLiest) {
 
 TEST(Namensliste, NimmtWasSichLesenLaesst) {
     for (const char* kopf : {"", "Alt;Neu\nA;B\n", "Neu\nA;B\n", "Neu;Alt;X\n"}) {
-        EXPECT_EQ(Lies(kopf), Namen({}, {"NORD_namen.csv, Zeile 1: Die langen Punktnamen fehlen: "
-                                         "erwartet ist „Neu;Alt“"}))
+        EXPECT_EQ(Lies(kopf), Gelesen({}, {"NORD_namen.csv, Zeile 1: Die langen Punktnamen fehlen: "
+                                           "erwartet ist „Neu;Alt“"}))
             << kopf;
     }
     for (const std::string zeile :

@@ -98,9 +98,9 @@ TEST(Beschriftung, HoertAufWennManEsWill) {
 }
 
 TEST(Beschriftung, NimmtJedeGroesseUndJedenOrt) {
-    constexpr std::int32_t kMax = 2147483647;
-    for (const std::int32_t groesse : {0, 1, 90, kMax}) {
-        for (const std::int32_t weit : {0, 1, kMax}) {
+    constexpr std::int32_t kGroesste = 2147483647;
+    for (const std::int32_t groesse : {0, 1, 90, kGroesste}) {
+        for (const std::int32_t weit : {0, 1, kGroesste}) {
             Beschriftungsaufgabe a = Zufallsaufgabe(60);
             for (std::size_t i = 0; i < a.schilder.size(); ++i) {
                 const std::int32_t ort = i % 2 == 0 ? weit : -weit;

@@ -12,8 +12,8 @@
 namespace zrw {
 namespace {
 
-struct Blatt {
-    Blatt(int w, int h)
+struct Pixelblatt {
+    Pixelblatt(int w, int h)
         : weite(w),
           pixel(static_cast<std::size_t>(w) * static_cast<std::size_t>(h)),
           bild(pixel.data(), w, h, static_cast<std::size_t>(w)) {}
@@ -43,9 +43,9 @@ TEST_F(Striche, KeinAusschnittAendertIhrePixel) {
         const Flaechenpunkt a{W(-weit, weit), W(-weit, weit)};
         const Flaechenpunkt b{W(-weit, weit), W(-weit, weit)};
         const Strichart art = i % 3 == 0 ? Strichart::Gestrichelt : Strichart::Voll;
-        Blatt ganz(97, 61);
+        Pixelblatt ganz(97, 61);
         ganz.bild.Linie(a, b, 1, art);
-        Blatt teile(97, 61);
+        Pixelblatt teile(97, 61);
         const int x = W(0, 96);
         const int y = W(0, 60);
         for (const Rechteck& r : {Rechteck{0, 0, x, y}, Rechteck{x + 1, 0, 96, y}, Rechteck{0, y + 1, x, 60},
@@ -63,7 +63,7 @@ TEST_F(Striche, LaufenUeberallAnDerWahrenLinieEntlang) {
         const int weit = std::array{100, 30000, 40000, 500000000}[static_cast<std::size_t>(i) % 4];
         Flaechenpunkt a{W(-weit, weit), W(-weit, weit)};
         Flaechenpunkt b{-a.x + W(-50, 50), -a.y + W(-50, 50)};  // past the middle of the picture
-        Blatt blatt(200, 160);
+        Pixelblatt blatt(200, 160);
         const Flaechenpunkt mitte{100, 80};
         a = {a.x + mitte.x, a.y + mitte.y};
         b = {b.x + mitte.x, b.y + mitte.y};

@@ -6,9 +6,9 @@
 namespace zrw {
 namespace {
 
-constexpr int kRuhe = 300;     ///< [ms]
-constexpr int kAbstand = 14;   ///< from the mouse [px]
-constexpr int kBleibtBei = 4;  ///< a card stays while the mouse moves no farther [px]
+constexpr int kSchwebezeit = 300;  ///< [ms]
+constexpr int kAbstand = 14;       ///< from the mouse [px]
+constexpr int kBleibtBei = 4;      ///< a card stays while the mouse moves no farther [px]
 
 }  // namespace
 
@@ -31,7 +31,7 @@ void Schwebekarte::FolgeMaus(Bildpunkt ort) {
     if (isVisible() && !weg) return;
     hide();
     ort_ = ort;
-    ruhe_.start(kRuhe);
+    ruhe_.start(kSchwebezeit);
 }
 
 void Schwebekarte::VerbirgKarte() {

@@ -14,7 +14,7 @@
 namespace zrw {
 namespace {
 
-constexpr int kTextlaenge = 255;
+constexpr int kFeldlaenge = 255;
 
 }  // namespace
 
@@ -72,7 +72,7 @@ QLineEdit* Blattfelder::NeueZeile(const char* name, const char* hinweis, const s
     auto* zeile = new QLineEdit(AusNetz(text), this);
     zeile->setObjectName(QString::fromLatin1(name));
     zeile->setToolTip(QString::fromUtf8(hinweis));
-    zeile->setMaxLength(kTextlaenge);
+    zeile->setMaxLength(kFeldlaenge);
     connect(zeile, &QLineEdit::textChanged, this, [this] { MeldeAenderung(); });
     return zeile;
 }

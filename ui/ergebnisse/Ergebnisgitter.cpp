@@ -19,7 +19,7 @@ namespace zrw {
 namespace {
 
 /// Widths by field: two columns of a table may have one title.
-QString Spalten(int reiter) {
+QString Spaltenschluessel(int reiter) {
     return QStringLiteral("Ergebnisse/Feldbreiten%1").arg(reiter);
 }
 
@@ -105,7 +105,7 @@ const Ergebnisreiter& Ergebnisgitter::Reiter() const {
 /// Fits the columns to their content, but for those that the user has given a width.
 void Ergebnisgitter::StelleSpaltenEin() {
     const QStringList breiten =
-        QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';');
+        QString::fromUtf8(sitzung_.Stand(Spaltenschluessel(reiter_->currentIndex()))).split(u';');
     stelltEin_ = true;
     gitter_->resizeColumnsToContents();
     for (int s = 0; s < modell_.columnCount(); ++s) {
@@ -122,11 +122,11 @@ void Ergebnisgitter::StelleSpaltenEin() {
 void Ergebnisgitter::MerkeBreite(int spalte, int weite) {
     if (stelltEin_ || spalte >= modell_.columnCount()) return;
     const QString anfang = modell_.Feldname(spalte) + QLatin1Char('=');
-    QStringList breiten =
-        QString::fromUtf8(sitzung_.Stand(Spalten(reiter_->currentIndex()))).split(u';', Qt::SkipEmptyParts);
+    QStringList breiten = QString::fromUtf8(sitzung_.Stand(Spaltenschluessel(reiter_->currentIndex())))
+                              .split(u';', Qt::SkipEmptyParts);
     breiten.removeIf([&](const QString& b) { return b.startsWith(anfang); });
     breiten << anfang + QString::number(weite);
-    sitzung_.MerkeStand(Spalten(reiter_->currentIndex()), breiten.join(u';').toUtf8());
+    sitzung_.MerkeStand(Spaltenschluessel(reiter_->currentIndex()), breiten.join(u';').toUtf8());
 }
 
 void Ergebnisgitter::FuelleGitter(Antwort antwort, const QString& zusatz) {

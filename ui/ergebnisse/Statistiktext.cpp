@@ -19,7 +19,7 @@ QString Zahl(const std::optional<double>& wert, int stellen) {
     return wert ? AusUtf8(Festkomma(*wert, 0, stellen)) : QStringLiteral("–");
 }
 
-QString Zelle(const QString& text) {
+QString Tabellenzelle(const QString& text) {
     return QStringLiteral("<td align=right style=\"white-space:nowrap\">%1</td>").arg(text);
 }
 
@@ -28,7 +28,7 @@ QString Prozent(std::size_t teil, std::size_t ganz) {
                      : Zahl(100.0 * static_cast<double>(teil) / static_cast<double>(ganz), 1);
 }
 
-QString Tabelle(const QString& kopf, const QString& zeilen) {
+QString Tabellentext(const QString& kopf, const QString& zeilen) {
     return QStringLiteral("<table cellspacing=0 cellpadding=3 border=0>%1%2</table>").arg(kopf, zeilen);
 }
 
@@ -46,13 +46,13 @@ QString Anzahlen(const Beobachtungsliste& liste, const std::vector<Gattungsstati
         const Tabellenlage& lage = liste.Lage(s.tabelle);
         zeilen += QStringLiteral("<tr><td style=\"white-space:nowrap\">%1</td>")
                       .arg(AusUtf8(ZurGattung(s.tabelle).mehrzahl)) +
-                  Zelle(QString::number(s.anzahl)) +
-                  Zelle(lage.hatFF ? QString::number(s.markiert) : QStringLiteral("–")) +
-                  Zelle(lage.hatNK ? QString::number(s.unkontrolliert) : QStringLiteral("–")) +
-                  Zelle(Zahl(s.kleinsterEV, 2)) + Zelle(Zahl(s.mittlererEV, 2)) +
-                  Zelle(Zahl(s.groessteV, 2)) + QStringLiteral("</tr>");
+                  Tabellenzelle(QString::number(s.anzahl)) +
+                  Tabellenzelle(lage.hatFF ? QString::number(s.markiert) : QStringLiteral("–")) +
+                  Tabellenzelle(lage.hatNK ? QString::number(s.unkontrolliert) : QStringLiteral("–")) +
+                  Tabellenzelle(Zahl(s.kleinsterEV, 2)) + Tabellenzelle(Zahl(s.mittlererEV, 2)) +
+                  Tabellenzelle(Zahl(s.groessteV, 2)) + QStringLiteral("</tr>");
     }
-    return Tabelle(
+    return Tabellentext(
         Kopf({QStringLiteral("Art"), QStringLiteral("Anzahl"), QStringLiteral("grob"), QStringLiteral("NK"),
               QStringLiteral("EV min"), QStringLiteral("EV Ø"), QStringLiteral("|V| max")}),
         zeilen);
@@ -64,14 +64,15 @@ QString Anteile(const std::vector<Gattungsstatistik>& alle, double grenze) {
         if (s.mitTG == 0) continue;
         zeilen += QStringLiteral("<tr><td style=\"white-space:nowrap\">%1</td>")
                       .arg(AusUtf8(ZurGattung(s.tabelle).mehrzahl)) +
-                  Zelle(Prozent(s.tgUnter1, s.mitTG)) + Zelle(Prozent(s.tgUnter2, s.mitTG)) +
-                  Zelle(Prozent(s.tgUnterGrenze, s.mitTG)) + Zelle(Zahl(s.groessteTG, 2)) +
+                  Tabellenzelle(Prozent(s.tgUnter1, s.mitTG)) + Tabellenzelle(Prozent(s.tgUnter2, s.mitTG)) +
+                  Tabellenzelle(Prozent(s.tgUnterGrenze, s.mitTG)) + Tabellenzelle(Zahl(s.groessteTG, 2)) +
                   QStringLiteral("</tr>");
     }
     zeilen += QStringLiteral("<tr><td><i>Normalverteilung</i></td>") +
-              Zelle(Zahl(100 * NormalerAnteil(1), 1)) + Zelle(Zahl(100 * NormalerAnteil(2), 1)) +
-              Zelle(Zahl(100 * NormalerAnteil(grenze), 1)) + QStringLiteral("<td></td></tr>");
-    return Tabelle(
+              Tabellenzelle(Zahl(100 * NormalerAnteil(1), 1)) +
+              Tabellenzelle(Zahl(100 * NormalerAnteil(2), 1)) +
+              Tabellenzelle(Zahl(100 * NormalerAnteil(grenze), 1)) + QStringLiteral("<td></td></tr>");
+    return Tabellentext(
         Kopf({QStringLiteral("Anteile in %"), QStringLiteral("|TG| &lt; 1"), QStringLiteral("&lt; 2"),
               QStringLiteral("&lt; %1").arg(AusUtf8(SchreibeReal(grenze))), QStringLiteral("größte")}),
         zeilen);
@@ -91,13 +92,14 @@ QString Auffaelligste(const Beobachtungsliste& liste, const std::vector<Gattungs
                 return std::isnan(b.Wert(w)) ? std::nullopt : std::optional(b.Wert(w));
             };
             zeilen += QStringLiteral("<tr><td><a href=\"zeile:%1\">%2</a></td>").arg(i).arg(name) +
-                      Zelle(Zahl(wert(Messwert::TG), 2)) + Zelle(Zahl(wert(Messwert::V), 2)) +
-                      Zelle(Zahl(wert(Messwert::EV), 2)) +
-                      Zelle(b.ff ? QStringLiteral("<b>grob</b>") : QString()) + QStringLiteral("</tr>");
+                      Tabellenzelle(Zahl(wert(Messwert::TG), 2)) + Tabellenzelle(Zahl(wert(Messwert::V), 2)) +
+                      Tabellenzelle(Zahl(wert(Messwert::EV), 2)) +
+                      Tabellenzelle(b.ff ? QStringLiteral("<b>grob</b>") : QString()) +
+                      QStringLiteral("</tr>");
         }
-        text += Tabelle(Kopf({AusUtf8(ZurGattung(s.tabelle).mehrzahl), QStringLiteral("TG"),
-                              QStringLiteral("V"), QStringLiteral("EV"), QString()}),
-                        zeilen) +
+        text += Tabellentext(Kopf({AusUtf8(ZurGattung(s.tabelle).mehrzahl), QStringLiteral("TG"),
+                                   QStringLiteral("V"), QStringLiteral("EV"), QString()}),
+                             zeilen) +
                 QStringLiteral("<br>");
     }
     return text;
@@ -132,16 +134,17 @@ QString Punkte(const Liste& netz, const Punktergebnisse* ergebnisse) {
         if (g.punkt == nullptr) continue;
         zeilen +=
             QStringLiteral("<tr><td style=\"white-space:nowrap\">%1</td>").arg(QString::fromUtf8(g.name)) +
-            Zelle(Zahl(g.betrag, 1)) +
-            Zelle(QStringLiteral("<a href=\"punkt:%1\">%2</a>")
-                      .arg(g.punkt->PNr)
-                      .arg(AusNetz(netz.GetPktText(g.punkt->PNr)).toHtmlEscaped())) +
+            Tabellenzelle(Zahl(g.betrag, 1)) +
+            Tabellenzelle(QStringLiteral("<a href=\"punkt:%1\">%2</a>")
+                              .arg(g.punkt->PNr)
+                              .arg(AusNetz(netz.GetPktText(g.punkt->PNr)).toHtmlEscaped())) +
             QStringLiteral("</tr>");
     }
     return zeilen.isEmpty()
                ? QString()
-               : Tabelle(Kopf({QStringLiteral("Punkte"), QStringLiteral("Wert"), QStringLiteral("Punkt")}),
-                         zeilen);
+               : Tabellentext(
+                     Kopf({QStringLiteral("Punkte"), QStringLiteral("Wert"), QStringLiteral("Punkt")}),
+                     zeilen);
 }
 
 QString Unlesbare(const Beobachtungsliste& liste) {

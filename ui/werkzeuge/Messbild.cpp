@@ -10,10 +10,10 @@
 namespace zrw {
 namespace {
 
-constexpr std::int32_t kBreite = 2;
+constexpr std::int32_t kStiftbreite = 2;
 constexpr std::int32_t kEcke = 4;      ///< half side of the square at a corner
 constexpr std::int32_t kAbstand = 14;  ///< of the text from the mouse
-constexpr std::int32_t kRand = 3;      ///< round a text
+constexpr std::int32_t kTextrand = 3;  ///< round a text
 
 struct Ergebnis {
     Messstrecke letzte;
@@ -31,7 +31,7 @@ Ergebnis MissZug(const Messzug& zug, const std::optional<Welt>& bis) {
 }
 
 void ZeichneStrecke(Zeichenflaeche& f, Bildpunkt von, Bildpunkt nach, Strichart art) {
-    const Stiftwechsel stift(f, {kMarkierfarbe, kBreite, art}, {kWeiss, true});
+    const Stiftwechsel stift(f, {kMarkierfarbe, kStiftbreite, art}, {kWeiss, true});
     if (const auto teil = SchneideLinieAb(von, nach, f.Sichtbar())) f.Linie(teil->first, teil->second);
 }
 
@@ -42,7 +42,8 @@ void ZeichneTexte(Zeichenflaeche& f, std::int32_t links, std::int32_t oben,
     for (const std::string& z : zeilen)
         breite = std::max(breite, f.Textbreite(z));
     const auto hoehe = static_cast<std::int32_t>(zeilen.size()) * f.Texthoehe();
-    f.FuelleRechteck({links - kRand, oben - kRand, links + breite + kRand, oben + hoehe + kRand}, kWeiss);
+    f.FuelleRechteck(
+        {links - kTextrand, oben - kTextrand, links + breite + kTextrand, oben + hoehe + kTextrand}, kWeiss);
     for (const std::string& z : zeilen) {
         f.Text({links, oben}, z, kSchwarz);
         oben += f.Texthoehe();
@@ -93,7 +94,7 @@ void ZeichneMesszug(const Messzug& zug, const std::optional<Welt>& bis, const An
     for (const Bildpunkt& o : orte) {
         if (!InReichweite(o, kEcke, flaeche.Sichtbar())) continue;
         const Flaechenpunkt p = Aufflaeche(o);
-        const Stiftwechsel stift(flaeche, {kMarkierfarbe, kBreite, Strichart::Voll}, {kWeiss, true});
+        const Stiftwechsel stift(flaeche, {kMarkierfarbe, kStiftbreite, Strichart::Voll}, {kWeiss, true});
         flaeche.ZeichneRechteck({p.x - kEcke, p.y - kEcke, p.x + kEcke, p.y + kEcke});
     }
     // The last leg has its length at its end.
