@@ -9,6 +9,7 @@
 #include "app/Stapel.h"
 #include "app/Systemstart.h"
 #include "input/Systemdateien.h"
+#include "ui/Systemart.h"
 #include "ui/Umwandlung.h"
 #include "ui/ablage/Einstellungsablage.h"
 #include "ui/fenster/Hauptfenster.h"
@@ -87,7 +88,8 @@ int main(int argc, char** argv) {
     if (aufruf.auftrag == Auftrag::Hilfe) return std::fputs(Hilfetext().c_str(), stdout) < 0 ? 1 : 0;
     if (aufruf.auftrag == Auftrag::Version) return std::puts("Zarwik " ZRW_VERSION) < 0 ? 1 : 0;
     if (aufruf.auftrag == Auftrag::Stapel) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // No display is needed to draw. Windows always has one, and knows its fonts only there.
+        if constexpr (!kWindows) qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(VerschweigeMeldung);
     }
     int ohneArgumente = 1;  // all options are ours; Qt would take some of them for its own
