@@ -20,6 +20,7 @@
 #include "ui/Umwandlung.h"
 #include "ui/ablage/Sitzung.h"
 #include "ui/bild/Malerflaeche.h"
+#include "ui/druck/Dateidruck.h"
 #include "ui/druck/Druckvorschau.h"
 
 namespace zrw {
@@ -122,15 +123,19 @@ Druckseite Systemdrucker::Seite() const {
 }
 
 bool Systemdrucker::WaehleDrucker(QWidget* eltern) {
-    QPrintDialog dialog(&Geraet(), eltern);
-    if (dialog.exec() != QDialog::Accepted) return false;
+    const bool gewaehlt = BrauchtEigeneDialoge(Geraet())
+                              ? FrageNachPdf(Geraet(), eltern)
+                              : QPrintDialog(&Geraet(), eltern).exec() == QDialog::Accepted;
+    if (!gewaehlt) return false;
     MerkePapier();
     return true;
 }
 
 bool Systemdrucker::RichteEin(QWidget* eltern) {
-    QPageSetupDialog dialog(&Geraet(), eltern);
-    if (dialog.exec() != QDialog::Accepted) return false;
+    const bool gewaehlt = BrauchtEigeneDialoge(Geraet())
+                              ? FrageNachPapier(Geraet(), eltern)
+                              : QPageSetupDialog(&Geraet(), eltern).exec() == QDialog::Accepted;
+    if (!gewaehlt) return false;
     MerkePapier();
     return true;
 }
