@@ -133,7 +133,8 @@ void Richtungen(Blatt& b, const Netz& netz, bool eigeneDatei) {
 
 // Lines of one kind between two points: the key on the first, the others continue it.
 template <typename Messung>
-void Paare(Blatt& b, const Netz& netz, std::string_view schluessel, const std::vector<Messung>& messungen) {
+void SchreibePaare(Blatt& b, const Netz& netz, std::string_view schluessel,
+                   const std::vector<Messung>& messungen) {
     for (const Messung& m : messungen) {
         b.Zeile(&m == messungen.data() ? schluessel : kFortsetzung,
                 Nummer(netz.punkte[m.von]) + Nummer(netz.punkte[m.nach]) + Zahl(m.wert, 4, 11) +
@@ -178,9 +179,9 @@ bool SchreibeSteuerdatei(const Netz& netz, const std::filesystem::path& ordner) 
     Richtungen(haupt, netz, false);
     haupt.Zeile("$SF", MitBlank(kRichtungsdatei));
     Richtungen(richtungen, netz, true);
-    Paare(haupt, netz, "$ST", netz.strecken);
-    Paare(haupt, netz, "$DH", netz.hoehen);
-    Paare(haupt, netz, "$ZD", netz.zenite);
+    SchreibePaare(haupt, netz, "$ST", netz.strecken);
+    SchreibePaare(haupt, netz, "$DH", netz.hoehen);
+    SchreibePaare(haupt, netz, "$ZD", netz.zenite);
     Gps(haupt, netz);
     haupt.Zeile("$$$");
     return SchreibeBlatt(ordner / "NETZ.EIN", haupt) && SchreibeBlatt(ordner / kRichtungsdatei, richtungen) &&

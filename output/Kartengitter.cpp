@@ -20,7 +20,7 @@ constexpr double kWestrand = 5.6666666667;  ///< of the sheet columns [deg], 5°
 constexpr double kNordrand = 56.0;          ///< of the sheet rows [deg]
 constexpr double kSpaltenminuten = 10.0;    ///< width of a sheet [arc minutes]
 constexpr double kZeilenminuten = 6.0;      ///< height of a sheet [arc minutes]
-constexpr double kKilometer = 1000.0;
+constexpr double kGitterweite = 1000.0;
 
 /// Steps from `von` to `bis`, at least one; infinite where one of them is no number.
 double Schritte(double von, double bis, double schritt) {
@@ -38,8 +38,8 @@ std::string Zwei(const std::string& text, std::size_t ab) {
 }
 
 std::string Quadratnummer(double x, double y) {
-    const std::string e = std::to_string(RundeZuInt64(std::trunc(x / kKilometer)));
-    const std::string n = std::to_string(RundeZuInt64(std::trunc(y / kKilometer)));
+    const std::string e = std::to_string(RundeZuInt64(std::trunc(x / kGitterweite)));
+    const std::string n = std::to_string(RundeZuInt64(std::trunc(y / kGitterweite)));
     return Zwei(e, 0) + Zwei(n, 0) + Zwei(e, 2) + Zwei(n, 2);
 }
 
@@ -134,34 +134,34 @@ void Kartengitter::Kartenblaetter(const Netzangaben& netz) {
 void Kartengitter::Kilometerquadrate() {
     const Welt oben = Ecke(false);
     const Welt unten = Ecke(true);
-    const double x0 = std::trunc(oben.rechts / kKilometer) * kKilometer;
-    const double y0 = std::trunc(oben.hoch / kKilometer) * kKilometer;
-    const double spalten = Schritte(x0, unten.rechts, kKilometer);
-    const double zeilen = Schritte(unten.hoch, y0, kKilometer);
+    const double x0 = std::trunc(oben.rechts / kGitterweite) * kGitterweite;
+    const double y0 = std::trunc(oben.hoch / kGitterweite) * kGitterweite;
+    const double spalten = Schritte(x0, unten.rechts, kGitterweite);
+    const double zeilen = Schritte(unten.hoch, y0, kGitterweite);
     if (!Zeichenbar(spalten, zeilen)) return;
 
-    const std::int64_t breiteImBild = RundeZuInt64(kKilometer / ansicht_.Faktor);
+    const std::int64_t breiteImBild = RundeZuInt64(kGitterweite / ansicht_.Faktor);
     // Counted, not compared: at the far end of the number range a kilometre more changes nothing.
     for (int s = 0; s < static_cast<int>(spalten); ++s) {
-        const double x = x0 + s * kKilometer;
+        const double x = x0 + s * kGitterweite;
         if (x > unten.rechts) break;
         // Lines begin at the topmost whole kilometre. Pictures have them up to their edge, drawings do not.
-        if (y0 < oben.hoch) Bildstrich(ansicht_.Bildort({x, y0 + kKilometer}), ansicht_.Bildort({x, y0}));
+        if (y0 < oben.hoch) Bildstrich(ansicht_.Bildort({x, y0 + kGitterweite}), ansicht_.Bildort({x, y0}));
         for (int z = 0; z < static_cast<int>(zeilen); ++z) {
-            const double y = y0 - (z + 1) * kKilometer;
+            const double y = y0 - (z + 1) * kGitterweite;
             const Bildpunkt hier = ansicht_.Bildort({x, y});
-            Strich(ansicht_.Bildort({x, y + kKilometer}), hier);
+            Strich(ansicht_.Bildort({x, y + kGitterweite}), hier);
             Nummer(hier, Quadratnummer(x, y), breiteImBild);
         }
     }
     for (int z = 0; z < static_cast<int>(zeilen); ++z) {
-        const double y = y0 - z * kKilometer;
+        const double y = y0 - z * kGitterweite;
         if (y < unten.hoch) break;
         // West of the origin the first whole kilometre lies within the picture.
-        if (x0 > oben.rechts) Bildstrich(ansicht_.Bildort({x0 - kKilometer, y}), ansicht_.Bildort({x0, y}));
+        if (x0 > oben.rechts) Bildstrich(ansicht_.Bildort({x0 - kGitterweite, y}), ansicht_.Bildort({x0, y}));
         for (int s = 0; s < static_cast<int>(spalten); ++s) {
-            const double x = x0 + s * kKilometer;
-            Strich(ansicht_.Bildort({x, y}), ansicht_.Bildort({x + kKilometer, y}));
+            const double x = x0 + s * kGitterweite;
+            Strich(ansicht_.Bildort({x, y}), ansicht_.Bildort({x + kGitterweite, y}));
         }
     }
 }

@@ -13,9 +13,9 @@ namespace zrw {
 namespace {
 
 constexpr double kMindestbreite = 150;  ///< [px]
-constexpr double kRand = 4;             ///< beside the longest description [px]
+constexpr double kLegendenrand = 4;     ///< beside the longest description [px]
 constexpr double kRahmenabstand = 2;    ///< from the frame to the texts, left and above [px]
-constexpr std::int32_t kZeilen = 8;
+constexpr std::int32_t kLegendenzeilen = 8;
 constexpr std::int32_t kErsteArt = 4;  ///< line of the first point kind
 
 }  // namespace
@@ -30,8 +30,8 @@ std::int32_t Legendenbild::Breite(const Legende& l) const {
     // The first text may fill the least width without a margin, the second may not exceed what is there.
     const std::int32_t b1 = flaeche_.Textbreite(l.Bez1);
     const std::int32_t b2 = flaeche_.Textbreite(l.Bez2);
-    if (b1 > mindestens) w = b1 + Dots(kRand);
-    if (w < b2) w = b2 + Dots(kRand);
+    if (b1 > mindestens) w = b1 + Dots(kLegendenrand);
+    if (w < b2) w = b2 + Dots(kLegendenrand);
     return w;
 }
 
@@ -39,7 +39,7 @@ void Legendenbild::ZeichneLegende(const Legende& l, Gang gang) const {
     const std::int32_t w = Breite(l);
     const std::int32_t h = flaeche_.Texthoehe();
     const std::int32_t s = einstellungen_.PTSize;
-    const std::int64_t reichweite = std::int64_t{w} + std::int64_t{h} * kZeilen + std::int64_t{s} * 3;
+    const std::int64_t reichweite = std::int64_t{w} + std::int64_t{h} * kLegendenzeilen + std::int64_t{s} * 3;
     if (!InReichweite(l.Position(), reichweite, flaeche_.Sichtbar())) return;
     const auto [x, y] = Aufflaeche(l.Position());
     const bool wischen = gang == Gang::Wischen;
@@ -47,7 +47,7 @@ void Legendenbild::ZeichneLegende(const Legende& l, Gang gang) const {
     {
         const Stiftwechsel rahmen(flaeche_, {farbe(l.Farbe), 1, Strichart::Voll}, {kWeiss, true});
         const std::int32_t abstand = Dots(kRahmenabstand);
-        flaeche_.ZeichneRechteck({x - abstand, y - abstand, x + w, y + kZeilen * h});
+        flaeche_.ZeichneRechteck({x - abstand, y - abstand, x + w, y + kLegendenzeilen * h});
     }
     const auto zeile = [&, x = x, y = y](std::int32_t nummer, std::int32_t einzug, std::string_view text) {
         flaeche_.Text({x + einzug, y + nummer * h}, text, farbe(kSchwarz));

@@ -8,7 +8,6 @@
 namespace zrw {
 namespace {
 
-constexpr double kPunkteJeZoll = 72.0;
 constexpr double kPunkteJeMillimeter = kPunkteJeZoll / kMillimeterJeZoll;
 
 // Objects that every document has.

@@ -10,10 +10,10 @@
 namespace zrw {
 namespace {
 
-constexpr std::int64_t kStrich = 4;  ///< pixels of a dash that are set
-constexpr std::int64_t kDash = 6;    ///< pixels from one dash to the next
+constexpr std::int64_t kStrich = 4;       ///< pixels of a dash that are set
+constexpr std::int64_t kStrichfolge = 6;  ///< pixels from one dash to the next
 /// Beyond this length steps of 1/65536 pixel would miss the far end.
-constexpr std::int64_t kLang = 32767;
+constexpr std::int64_t kLaengste = 32767;
 
 /// Quotient rounded down, and what remains.
 std::pair<std::int64_t, std::int64_t> TeileMitRest(std::int64_t a, std::int64_t b) {
@@ -88,7 +88,7 @@ void Pixelbild::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t fa
     const std::int64_t anfang = laengs(von);
     const std::int64_t ende = laengs(nach);
     const auto laenge = static_cast<std::int32_t>(ende - anfang);
-    // Not steeper than the diagonal and at most `kLang`, so that 32 bits suffice.
+    // Not steeper than the diagonal and at most `kLaengste`, so that 32 bits suffice.
     const std::int64_t schritt = laenge > 0 ? (quer(nach) - quer(von)) * 65536 / laenge : 0;
     std::int64_t v = std::int64_t{quer(von)} * 65536 + (schritt > 0 ? schritt - (schritt >> 1) : 0);
     std::int64_t m = anfang;
@@ -101,7 +101,7 @@ void Pixelbild::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t fa
         v += (m - anfang) * schritt;
     }
     for (; m <= letztes; ++m, v += schritt) {
-        if (gestrichelt && (umgekehrt ? ende - m : m - anfang) % kDash >= kStrich) continue;
+        if (gestrichelt && (umgekehrt ? ende - m : m - anfang) % kStrichfolge >= kStrich) continue;
         const std::int64_t q = v >> 16;
         if constexpr (!Innen) {
             if (q < querVon || q > querBis) continue;
@@ -130,7 +130,7 @@ void Pixelbild::LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32
     auto [weg, rest] = TeileMitRest((m - anfang) * anstieg + (anstieg > 0 ? anstieg / 2 : 0), laenge);
     const auto [ganz, teil] = TeileMitRest(anstieg, laenge);
     for (std::int64_t q = quer(von) + weg; m <= letztes; ++m) {
-        const bool luecke = gestrichelt && (umgekehrt ? ende - m : m - anfang) % kDash >= kStrich;
+        const bool luecke = gestrichelt && (umgekehrt ? ende - m : m - anfang) % kStrichfolge >= kStrich;
         if (!luecke && q >= querVon && q <= querBis) Pixel<Senkrecht>(m, q, farbe);
         q += ganz;
         rest += teil;
@@ -149,7 +149,7 @@ inline void Pixelbild::Strecke(Flaechenpunkt von, Flaechenpunkt nach, std::uint3
     const std::int64_t breit = std::llabs(std::int64_t{von.x} - nach.x);
     const std::int64_t hoch = std::llabs(std::int64_t{von.y} - nach.y);
     const bool senkrecht = breit < hoch;
-    if (std::max(breit, hoch) > kLang) {
+    if (std::max(breit, hoch) > kLaengste) {
         senkrecht ? LangeSchritte<true>(von, nach, farbe, gestrichelt)
                   : LangeSchritte<false>(von, nach, farbe, gestrichelt);
     } else if (LiegtIn(s, von) && LiegtIn(s, nach)) {

@@ -25,7 +25,7 @@ static_assert(kLinien.size() == kZugformen, "a line of the plotter file for each
 
 constexpr std::string_view kPunkt = " PA %d,%d; PD;PU;";
 constexpr std::string_view kKreis = " PA %d,%d;CI %d;PU;";
-constexpr std::string_view kKreuz = " PA %d,%d;PD %d,%d;PU %d,%d;PD%d,%d;PU;";
+constexpr std::string_view kPlotkreuz = " PA %d,%d;PD %d,%d;PU %d,%d;PD%d,%d;PU;";
 constexpr std::string_view kDreieck = " PA %d,%d;PD %d,%d;PD %d,%d;PD %d,%d;PU;";
 constexpr std::string_view kViereck = " PA %d,%d;PR %d,%d;PR %d,%d;PR %d,%d;PR %d,%d;PU;";
 constexpr std::string_view kText = "PA %d,%d;PD;SI0.2,0.4;LB %s\x03;PU;";  // 3 is ETX, the end of a label
@@ -79,7 +79,7 @@ void Plotdatei::Kreis(Bildpunkt mitte, std::int64_t radius) {
 }
 
 void Plotdatei::Kreuz(const std::array<Bildpunkt, 4>& enden) {
-    Zeile(kKreuz, Paare(enden));
+    Zeile(kPlotkreuz, Paare(enden));
 }
 
 void Plotdatei::Dreieck(const std::array<Bildpunkt, 3>& ecken) {

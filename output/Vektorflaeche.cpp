@@ -11,9 +11,7 @@
 namespace zrw {
 namespace {
 
-constexpr double kPunkteJeZoll = 72.0;
-
-std::int32_t Ganze(double dots) {
+std::int32_t GanzeDots(double dots) {
     return static_cast<std::int32_t>(RundeZuInt64(dots));
 }
 
@@ -24,15 +22,15 @@ double Vektorflaeche::Schrift() const {
 }
 
 std::int32_t Vektorflaeche::Grundlinie() const {
-    return Ganze(masse_.anstieg * Schrift());
+    return GanzeDots(masse_.anstieg * Schrift());
 }
 
 std::int32_t Vektorflaeche::Textbreite(std::string_view text) const {
-    return Ganze(masse_.Breite(text) * Schrift());
+    return GanzeDots(masse_.Breite(text) * Schrift());
 }
 
 std::int32_t Vektorflaeche::Texthoehe() const {
-    return Grundlinie() + Ganze(masse_.abstieg * Schrift());
+    return Grundlinie() + GanzeDots(masse_.abstieg * Schrift());
 }
 
 /// Of the font as it would be on a screen with such dots: indents follow it, and they grow with the dots.
@@ -41,7 +39,7 @@ std::int32_t Vektorflaeche::Schriftgrad() const {
 }
 
 std::int32_t Vektorflaeche::Schrifthoehe() const {
-    return std::max(1, Ganze(Schrift()));
+    return std::max(1, GanzeDots(Schrift()));
 }
 
 void Vektorflaeche::BeginneStrom() {

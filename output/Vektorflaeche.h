@@ -16,6 +16,8 @@
 
 namespace zrw {
 
+inline constexpr double kPunkteJeZoll = 72.0;
+
 class Vektorflaeche : public Zeichenflaeche {
   public:
     Vektorflaeche(const Vektorflaeche&) = delete;

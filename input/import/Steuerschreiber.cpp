@@ -111,10 +111,10 @@ class Steuertext {
     std::size_t lang_ = 0;  ///< of it is text
 };
 
-class Schreiber {
+class Zeilenschreiber {
   public:
-    Schreiber(const Fremdnetz& netz, std::span<const std::string> nummern, const Xmldatei& datei,
-              Importbericht& bericht)
+    Zeilenschreiber(const Fremdnetz& netz, std::span<const std::string> nummern, const Xmldatei& datei,
+                    Importbericht& bericht)
         : netz_(netz), nummern_(nummern), datei_(datei), bericht_(bericht) {}
 
     std::string Text(const std::string& herkunft) {
@@ -293,7 +293,7 @@ class Schreiber {
 
 std::string Steuerdateitext(const Fremdnetz& netz, std::span<const std::string> nummern,
                             const std::string& herkunft, const Xmldatei& datei, Importbericht& bericht) {
-    return Schreiber(netz, nummern, datei, bericht).Text(herkunft);
+    return Zeilenschreiber(netz, nummern, datei, bericht).Text(herkunft);
 }
 
 }  // namespace zrw::fremd

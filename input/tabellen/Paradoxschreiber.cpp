@@ -38,10 +38,11 @@ void SetzeZahl(std::string& ziel, std::size_t stelle, std::size_t bytes, std::ui
 }
 
 /// Value of a record: big-endian with the top bit flipped.
-void HaengeAn(std::string& ziel, std::size_t bytes, std::uint64_t wert) {
-    wert ^= std::uint64_t{1} << (8 * bytes - 1);
+void HaengeZahlAn(std::string& ziel, std::size_t bytes, std::uint64_t wert) {
+    const std::size_t anfang = ziel.size();
     for (std::size_t i = bytes; i-- > 0;)
         ziel += static_cast<char>((wert >> (8U * i)) & 0xFFU);
+    ziel[anfang] = static_cast<char>(ziel[anfang] ^ 0x80);
 }
 
 /// Size byte of the types that can be written, 0 for others: text and what has one width. A counter would
@@ -248,14 +249,14 @@ bool HaengeAnWert(std::string& ziel, const Feld& feld, const Wert& wert) {
         if (zahl == nullptr || !std::isfinite(*zahl)) return false;
         // Of negative numbers all bits are turned; the sum makes zero of minus zero.
         const auto bits = std::bit_cast<std::uint64_t>(*zahl + 0.0);
-        HaengeAn(ziel, 8, std::signbit(*zahl + 0.0) ? ~bits ^ (std::uint64_t{1} << 63U) : bits);
+        HaengeZahlAn(ziel, 8, std::signbit(*zahl + 0.0) ? ~bits ^ (std::uint64_t{1} << 63U) : bits);
         return true;
     }
     // The least number of the width means null.
     const auto* ganz = std::get_if<std::int64_t>(&wert);
     const std::int64_t grenze = breite == 2 ? 0x8000 : 0x80000000;
     if (ganz == nullptr || *ganz <= -grenze || *ganz >= grenze) return false;
-    HaengeAn(ziel, breite, static_cast<std::uint64_t>(*ganz));
+    HaengeZahlAn(ziel, breite, static_cast<std::uint64_t>(*ganz));
     return true;
 }
 
@@ -289,11 +290,11 @@ void HaengeAnIndexbloecke(std::string& px, const std::vector<Ebene>& ebenen, std
                 const std::size_t anzahl = std::min(kEintraegeJeBlock, ebene.size() - i);
                 HaengeAnBlockkopf(px, ++nummer, letzter, (anzahl - 1) * kEintrag);
             }
-            HaengeAn(px, kSchluesselbreite, static_cast<std::uint64_t>(ebene[i].schluessel));
-            HaengeAn(px, 2, darueber + ebene[i].block);
+            HaengeZahlAn(px, kSchluesselbreite, static_cast<std::uint64_t>(ebene[i].schluessel));
+            HaengeZahlAn(px, 2, darueber + ebene[i].block);
             // More than the field holds only below the root of three levels.
-            HaengeAn(px, 2, std::min<std::size_t>(ebene[i].saetze, 0xFFFF));
-            HaengeAn(px, 2, 0);
+            HaengeZahlAn(px, 2, std::min<std::size_t>(ebene[i].saetze, 0xFFFF));
+            HaengeZahlAn(px, 2, 0);
         }
     }
     px.resize(Bloecke(px.size(), kIndexblock) * kIndexblock, '\0');

@@ -75,8 +75,8 @@ Arbeit::Arbeit(const Beschriftungsaufgabe& a) : aufgabe(a) {
         lagen.push_back(s.lage);
         aufgabe.schilder.push_back(s);
     }
-    constexpr std::int32_t kKleinste = 256;
-    zelle = Zellgitter::Zellweite(reich, kKleinste);
+    constexpr std::int32_t kMindestens = 256;
+    zelle = Zellgitter::Zellweite(reich, kMindestens);
     BegrenzeHindernisse(aufgabe);
 }
 

@@ -20,13 +20,13 @@ constexpr double kBlattstrich = 0.7;
 // Letters and distances [1/10 mm].
 constexpr int kZahl = 21;
 constexpr int kNord = 45;
-constexpr int kKreuz = 20;  ///< half of one
-constexpr int kMarke = 10;  ///< of a coordinate
+constexpr int kKreuz = 20;     ///< half of one
+constexpr int kEckmarke = 10;  ///< of a coordinate
 constexpr int kSchnittmarke = 40;
 constexpr int kBlattnummer = 24;
 constexpr int kLuft = 5;
-constexpr int kNachbar = 160;      ///< kept free for the name of a neighbour, to both sides
-constexpr int kGitterweite = 400;  ///< of crosses, at least
+constexpr int kNachbar = 160;       ///< kept free for the name of a neighbour, to both sides
+constexpr int kRahmengitter = 400;  ///< of crosses, at least
 constexpr int kGitterweiteGross = 800;
 constexpr int kGross = 5000;  ///< sheets as wide as this
 
@@ -89,7 +89,7 @@ void Blattrahmen::ZeichneSchnittmarken(const Blattstand& stand) const {
 void Blattrahmen::ZeichneKoordinaten(const Blattstand& stand) const {
     if (!stand.inMetern || !(stand.faktor > 0.0) || !std::isfinite(stand.faktor)) return;
     const Rechteck& p = layout_.planflaeche;
-    const int weite = mass_.Zehntel(p.rechts - p.links) < kGross ? kGitterweite : kGitterweiteGross;
+    const int weite = mass_.Zehntel(p.rechts - p.links) < kGross ? kRahmengitter : kGitterweiteGross;
     const std::int32_t mindestens = std::max(Dots(weite), 1);
     const auto schritt = KleinsteTeilung(1 / stand.faktor, mindestens).Mal(1);
     if (!schritt || !(*schritt > 0.0)) return;
@@ -110,16 +110,16 @@ void Blattrahmen::BeziffereRechts(const Blattstand& stand, double schritt) const
     FuerVielfache(stand.ecke.rechts, ende, schritt, [&](double wert) {
         const auto x =
             p.links + static_cast<std::int32_t>(std::lround((wert - stand.ecke.rechts) / stand.faktor));
-        flaeche_.Linie({x, p.oben - Dots(kMarke)}, {x, p.oben});
-        flaeche_.Linie({x, p.unten}, {x, p.unten + Dots(kMarke)});
+        flaeche_.Linie({x, p.oben - Dots(kEckmarke)}, {x, p.oben});
+        flaeche_.Linie({x, p.unten}, {x, p.unten + Dots(kEckmarke)});
         const std::string text = Koordinate(wert, schritt);
         const std::int32_t halb = flaeche_.Textbreite(text) / 2 + Dots(kLuft);
         const std::int32_t innen = stand.ueberlappung / 2;
         if (std::abs(x - mitte) < halb + Dots(kNachbar) || x - halb < p.links + innen ||
             x + halb > p.rechts - innen)
             return;
-        Schreibe({x, p.oben - Dots(kMarke + kLuft) - flaeche_.Texthoehe()}, Bezug::Mitte, text);
-        Schreibe({x, p.unten + Dots(kMarke + kLuft)}, Bezug::Mitte, text);
+        Schreibe({x, p.oben - Dots(kEckmarke + kLuft) - flaeche_.Texthoehe()}, Bezug::Mitte, text);
+        Schreibe({x, p.unten + Dots(kEckmarke + kLuft)}, Bezug::Mitte, text);
     });
 }
 
@@ -130,8 +130,8 @@ void Blattrahmen::BeziffereHoch(const Blattstand& stand, double schritt) const {
     FuerVielfache(ende, stand.ecke.hoch, schritt, [&](double wert) {
         const auto y =
             p.oben + static_cast<std::int32_t>(std::lround((stand.ecke.hoch - wert) / stand.faktor));
-        flaeche_.Linie({p.links - Dots(kMarke), y}, {p.links, y});
-        flaeche_.Linie({p.rechts, y}, {p.rechts + Dots(kMarke), y});
+        flaeche_.Linie({p.links - Dots(kEckmarke), y}, {p.links, y});
+        flaeche_.Linie({p.rechts, y}, {p.rechts + Dots(kEckmarke), y});
         const std::int32_t halb = flaeche_.Texthoehe() / 2 + Dots(kLuft);
         const std::int32_t innen = stand.ueberlappung / 2;
         if (std::abs(y - mitte) < halb + 2 * flaeche_.Texthoehe() || y - halb < p.oben + innen ||
@@ -139,8 +139,8 @@ void Blattrahmen::BeziffereHoch(const Blattstand& stand, double schritt) const {
             return;
         const std::string text = Koordinate(wert, schritt);
         const std::int32_t oben = y - flaeche_.Texthoehe() / 2;
-        Schreibe({p.links - Dots(kMarke + kLuft), oben}, Bezug::Rechts, text);
-        Schreibe({p.rechts + Dots(kMarke + kLuft), oben}, Bezug::Links, text);
+        Schreibe({p.links - Dots(kEckmarke + kLuft), oben}, Bezug::Rechts, text);
+        Schreibe({p.rechts + Dots(kEckmarke + kLuft), oben}, Bezug::Links, text);
     });
 }
 
@@ -197,7 +197,7 @@ void Blattrahmen::NenneNachbarn(const Blattstand& stand) const {
 
 /// All sheets as they lie, this one with a thick border.
 void Blattrahmen::ZeichneUebersicht(const Blattstand& stand) const {
-    constexpr int kEinzug = 35;
+    constexpr int kUebersichtseinzug = 35;
     const Rechteck& u = layout_.uebersicht;
     int zeile0 = stand.blaetter.front().zeile;
     int zeile1 = zeile0;
@@ -213,8 +213,8 @@ void Blattrahmen::ZeichneUebersicht(const Blattstand& stand) const {
     const double spalten = spalte1 - spalte0 + 1;
     const double zeilen = zeile1 - zeile0 + 1;
     const double jeDot =
-        std::min((u.rechts - u.links - 2 * Dots(kEinzug)) / (spalten * (p.rechts - p.links + 1)),
-                 (u.unten - u.oben - 2 * Dots(kEinzug)) / (zeilen * (p.unten - p.oben + 1)));
+        std::min((u.rechts - u.links - 2 * Dots(kUebersichtseinzug)) / (spalten * (p.rechts - p.links + 1)),
+                 (u.unten - u.oben - 2 * Dots(kUebersichtseinzug)) / (zeilen * (p.unten - p.oben + 1)));
     if (!(jeDot > 0.0)) return;
     const double weite = jeDot * (p.rechts - p.links + 1);
     const double hoehe = jeDot * (p.unten - p.oben + 1);

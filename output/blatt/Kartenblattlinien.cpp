@@ -13,12 +13,12 @@
 namespace zrw {
 namespace {
 
-constexpr double kMinuten = 60.0;       ///< of a degree
-constexpr int kWestrand = 5 * 60 + 40;  ///< of the sheet columns [arc minutes]
-constexpr int kNordrand = 56 * 60;      ///< of the sheet rows [arc minutes]
+constexpr double kMinuten = 60.0;         ///< of a degree
+constexpr int kWestgrenze = 5 * 60 + 40;  ///< of the sheet columns [arc minutes]
+constexpr int kNordgrenze = 56 * 60;      ///< of the sheet rows [arc minutes]
 // Every so many minutes a line, the first as wide and high as a sheet.
 constexpr std::array kSpalten{10, 20, 30, 60, 120, 300, 600};
-constexpr std::array kZeilen{6, 12, 30, 60, 120, 300, 600};
+constexpr std::array kBlattzeilen{6, 12, 30, 60, 120, 300, 600};
 constexpr int kStuecke = 64;   ///< of a line, which is curved in the grid
 constexpr double kWeit = 9.0;  ///< from the central meridian: beyond lie other zones [deg]
 constexpr int kMeiste = 1000;  ///< lines each way: more is no picture of the earth
@@ -75,7 +75,7 @@ class Kartenblattlinien {
         const Welt ost = geo_.Weltort(breite, laenge + 1 / kMinuten);
         const Welt nord = geo_.Weltort(breite + 1 / kMinuten, laenge);
         spalten_ = Schritt(kSpalten, std::hypot(ost.rechts - ort.rechts, ost.hoch - ort.hoch), abstand);
-        zeilen_ = Schritt(kZeilen, std::hypot(nord.rechts - ort.rechts, nord.hoch - ort.hoch), abstand);
+        zeilen_ = Schritt(kBlattzeilen, std::hypot(nord.rechts - ort.rechts, nord.hoch - ort.hoch), abstand);
         breiten_ = breiten_.Erweitert();
         laengen_ = laengen_.Erweitert();
         zeichenbar_ =
@@ -112,7 +112,7 @@ class Kartenblattlinien {
 
     /// In the south-west corners of the sheets, as on the screen.
     void SchreibeBlattnummern(Farbe farbe) const {
-        if (spalten_ != kSpalten.front() || zeilen_ != kZeilen.front()) return;
+        if (spalten_ != kSpalten.front() || zeilen_ != kBlattzeilen.front()) return;
         const Randzahlen nummern(flaeche_, farbe, 0);
         const Rechteck innen = zahlen_.Innen(einzug_ + flaeche_.Textbreite("00\xB0"
                                                                            "00'"));
@@ -120,7 +120,7 @@ class Kartenblattlinien {
             for (int b = breiten_.Erste(zeilen_); breiten_.Hat(b); b += zeilen_) {
                 const Bildpunkt ecke = geo_.Bildort(b / kMinuten, l / kMinuten);
                 if (!InReichweite(ecke, 0, zahlen_.Kante())) continue;
-                const int nummer = (kNordrand - b - zeilen_) / zeilen_ * 100 + (l - kWestrand) / spalten_;
+                const int nummer = (kNordgrenze - b - zeilen_) / zeilen_ * 100 + (l - kWestgrenze) / spalten_;
                 const Flaechenpunkt ort = Aufflaeche(ecke);
                 nummern.SchreibeGanz(
                     {ort.x + 2 * flaeche_.Schriftgrad(), ort.y - 2 * flaeche_.Schrifthoehe()},
@@ -134,7 +134,7 @@ class Kartenblattlinien {
     /// the next one's. Nothing outside the zone.
     [[nodiscard]] std::optional<Geograph> Position(Welt ort, int hauptmeridian) const {
         constexpr double kMeterJeGrad = 111000.0;
-        constexpr double kBreiteste = 85.0;
+        constexpr double kBreitestes = 85.0;
         constexpr int kSchritte = 40;
         double breite = 50.0;
         double laenge = hauptmeridian;
@@ -145,7 +145,7 @@ class Kartenblattlinien {
             if (std::hypot(rechts, hoch) < 0.1) return Geograph{Grad{breite}, Grad{laenge}, {}, 0.0};
             breite += hoch / kMeterJeGrad;
             laenge += rechts / kMeterJeGrad / std::cos(breite * std::numbers::pi / 180);
-            if (!(std::fabs(breite) < kBreiteste) || !(std::fabs(laenge - hauptmeridian) < kWeit)) break;
+            if (!(std::fabs(breite) < kBreitestes) || !(std::fabs(laenge - hauptmeridian) < kWeit)) break;
         }
         return std::nullopt;
     }

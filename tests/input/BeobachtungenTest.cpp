@@ -14,7 +14,7 @@ namespace zrw {
 namespace {
 
 using paradox::Wert;
-using T = Beobachtungstabelle;
+using Tab = Beobachtungstabelle;
 
 class Beobachtungen : public testing::Test {
   protected:
@@ -88,7 +88,7 @@ TEST_F(Beobachtungen, ReihenfolgeUndFilter) {
     f.bereich->mitEnde = false;
     EXPECT_EQ(Zeilen(f, {}), Texte{rtg4});
     f = {};
-    f.gattungen[static_cast<std::size_t>(T::Richtungen)] = false;
+    f.gattungen[static_cast<std::size_t>(Tab::Richtungen)] = false;
     f.suche = [](const Beobachtung& b) { return !b.nach.Leer(); };
     EXPECT_EQ(Zeilen(f, {}), (Texte{str7, str8}));
 }
@@ -98,8 +98,8 @@ TEST_F(Beobachtungen, NurWasJetztInDenDateienSteht) {
     LegeTabelleAn(Tabelle::Linien, 1, {{{"PA", "A"}, {"GF", true}}});
     const Beobachtungsstand vorher = StandDerBeobachtungen(daten);
     EXPECT_EQ(LiesBeobachtungen(daten).zeilen.size(), 3U);
-    EXPECT_EQ(LiesBeobachtungen(daten).Zeilen(T::Linien)[0].ff, true);
-    EXPECT_EQ(LiesBeobachtungen(daten).Lage(T::Gps).zustand, Lesezustand::Fehlt);
+    EXPECT_EQ(LiesBeobachtungen(daten).Zeilen(Tab::Linien)[0].ff, true);
+    EXPECT_EQ(LiesBeobachtungen(daten).Lage(Tab::Gps).zustand, Lesezustand::Fehlt);
 
     std::string& strecken = dateien.dateien["netz/STRTABLE.DB"];
     const std::string heil = strecken;
@@ -108,13 +108,13 @@ TEST_F(Beobachtungen, NurWasJetztInDenDateienSteht) {
     for (int mal = 0; mal < 2; ++mal) {
         const Beobachtungsliste liste = LiesBeobachtungen(daten);
         EXPECT_EQ(liste.zeilen.size(), 1U) << "no row of a state that is gone";
-        EXPECT_EQ(liste.Lage(T::Strecken).zustand, Lesezustand::Unlesbar);
-        EXPECT_NE(liste.Lage(T::Strecken).grund.find("STRTABLE.DB"), std::string::npos);
+        EXPECT_EQ(liste.Lage(Tab::Strecken).zustand, Lesezustand::Unlesbar);
+        EXPECT_NE(liste.Lage(Tab::Strecken).grund.find("STRTABLE.DB"), std::string::npos);
     }
     strecken = heil;
     EXPECT_EQ(LiesBeobachtungen(daten).zeilen.size(), 3U);
     dateien.dateien.erase("netz/STRTABLE.DB");
-    EXPECT_EQ(LiesBeobachtungen(daten).Lage(T::Strecken).zustand, Lesezustand::Fehlt);
+    EXPECT_EQ(LiesBeobachtungen(daten).Lage(Tab::Strecken).zustand, Lesezustand::Fehlt);
 }
 
 TEST_F(Beobachtungen, RelativeEllipsenSindWeitereSpalten) {
@@ -139,7 +139,7 @@ TEST_F(Beobachtungen, StatistikUndHistogramm) {
     zeilen.push_back({{"NK", true}});
     LegeTabelleAn(Tabelle::Strecken, 1, zeilen);
     const Beobachtungsliste liste = LiesBeobachtungen(daten);
-    const Gattungsstatistik s = Zaehle(liste, T::Strecken, kUeblicheTestgrenze);
+    const Gattungsstatistik s = Zaehle(liste, Tab::Strecken, kUeblicheTestgrenze);
     EXPECT_EQ((std::array{s.anzahl, s.unkontrolliert, s.mitTG, s.tgUnter1, s.tgUnter2, s.tgUnterGrenze}),
               (std::array<std::size_t, 6>{9, 1, 8, 2, 4, 5}));
     EXPECT_EQ(s.groessteTG, 30.0);

@@ -12,8 +12,8 @@
 namespace zrw {
 namespace {
 
-constexpr auto kMax = std::numeric_limits<std::int64_t>::max();
-constexpr auto kMin = std::numeric_limits<std::int64_t>::min();
+constexpr auto kOben = std::numeric_limits<std::int64_t>::max();
+constexpr auto kUnten = std::numeric_limits<std::int64_t>::min();
 constexpr double kInf = std::numeric_limits<double>::infinity();
 
 /// Two points, a label and a line, fitted at 10 m a pixel: (120, 60) and (390, 190).
@@ -37,11 +37,11 @@ TEST(Ansicht, RundenGehtBeiHaelftenZumGeradenNachbarnUndLaeuftNieUeber) {
         EXPECT_EQ(RundeZuInt64(v), static_cast<std::int64_t>(std::nearbyint(v))) << v;
     }
     for (const double v : {9223372036854775808.0, 1e300, kInf}) {
-        EXPECT_EQ(RundeZuInt64(v), kMax) << v;
-        EXPECT_EQ(RundeZuInt64(-v), kMin) << v;
+        EXPECT_EQ(RundeZuInt64(v), kOben) << v;
+        EXPECT_EQ(RundeZuInt64(-v), kUnten) << v;
     }
     EXPECT_EQ(RundeZuInt64(9223372036854774784.0), 9223372036854774784);
-    EXPECT_EQ(RundeZuInt64(std::nan("")), kMin);
+    EXPECT_EQ(RundeZuInt64(std::nan("")), kUnten);
 }
 
 // Zooming out draws onto the old picture; whoever calls it has cleared before.

@@ -63,7 +63,7 @@ TEST_F(Blattschnitt, BlaetterMitPunktenUndGequertenLinien) {
     EXPECT_EQ(SchneideBlaetter(), (Lagen{{-2, 0}, {-1, -1}, {-1, 0}, {0, 0}}));
 }
 
-class EinErgebnis final : public Punktergebnisse {
+class EinFehler final : public Punktergebnisse {
   public:
     void ErneuereErgebnisse() override {}
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view /*nummer*/) const override {
@@ -82,7 +82,7 @@ TEST_F(Blattschnitt, WasUeberDenRandRagtBrauchtSeinBlatt) {
     n.l.PktTextKnoten->Item->XBiO = 870;
     EXPECT_EQ(SchneideBlaetter(), (Lagen{{0, 0}, {0, 1}})) << "half a number";
     n.l.ShowPktText = false;
-    EinErgebnis ergebnis;
+    EinFehler ergebnis;
     ergebnis.werte.A = 20;
     tafel.zustand.Ergebnisse = &ergebnis;
     n.l.ShowLGGen = true;

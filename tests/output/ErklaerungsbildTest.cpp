@@ -12,7 +12,7 @@
 namespace zrw {
 namespace {
 
-using Texte = std::vector<std::string>;
+using Zeichentexte = std::vector<std::string>;
 
 class Erklaerung : public testing::Test {
   protected:
@@ -28,8 +28,8 @@ class Erklaerung : public testing::Test {
         gps.Item->KAttr = KanteAttr::GPS;
         gps.Item->Farbe = n.e.GPSCol;
     }
-    [[nodiscard]] Texte Zeilen(std::size_t meiste = 20) const {
-        Texte texte;
+    [[nodiscard]] Zeichentexte Zeilen(std::size_t meiste = 20) const {
+        Zeichentexte texte;
         for (const Zeichenzeile& z : BaueErklaerung(Zeichenbestand(n.l, n.l), n.e, meiste))
             texte.push_back(z.text + " " + std::to_string(z.anzahl));
         return texte;
@@ -39,26 +39,26 @@ class Erklaerung : public testing::Test {
 };
 
 TEST_F(Erklaerung, NenntNurWasDerPlanZeigt) {
-    EXPECT_EQ(Zeilen(), Texte({"Neupunkt 2", "Festpunkt 1", "Richtung zweiseitig 1", "Strecke 1",
-                               "GPS-Vektor 1", "Farbe: Richtung 1", "Farbe: GPS-Vektor 1"}));
+    EXPECT_EQ(Zeilen(), Zeichentexte({"Neupunkt 2", "Festpunkt 1", "Richtung zweiseitig 1", "Strecke 1",
+                                      "GPS-Vektor 1", "Farbe: Richtung 1", "Farbe: GPS-Vektor 1"}));
     // Two looks of one kind are told apart by their symbols.
     n.l.SuchPkt(3)->Item->PktAttr = PunktAttr::Fu;
-    const Texte genauer = Zeilen();
+    const Zeichentexte genauer = Zeilen();
     for (const char* text : {"Festpunkt 1", "Neupunkt (Kreis) 1", "Neupunkt (Kreis, gefüllt) 1"})
         EXPECT_EQ(std::count(genauer.begin(), genauer.end(), text), 1) << text;
     EXPECT_EQ(Zeilen(4).size(), 4U) << "the least frequent give way";
     n.l.SuchPkt(2)->Item->Visible = false;
     n.l.ShowBeob = false;
-    EXPECT_EQ(Zeilen(), Texte({"Festpunkt 1", "Neupunkt 1"}));
+    EXPECT_EQ(Zeilen(), Zeichentexte({"Festpunkt 1", "Neupunkt 1"}));
     n.l.ShowNP = false;
-    EXPECT_EQ(Zeilen(), Texte({"Festpunkt 1"}));
+    EXPECT_EQ(Zeilen(), Zeichentexte({"Festpunkt 1"}));
 }
 
 TEST_F(Erklaerung, StehtRechtsObenUndInSpaltenWoEsEngIst) {
     tafel.zeichner.ZeichneErklaerung({n.l, n.l, n.l});
     const Rechteck hoch = tafel.zeichner.Erklaerungsrahmen();
     EXPECT_TRUE(hoch.rechts == 799 - 8 && hoch.oben == 8 && hoch.links > 400 && hoch.unten < 400);
-    const Texte gezeichnet = tafel.flaeche.NimmZeilen();
+    const Zeichentexte gezeichnet = tafel.flaeche.NimmZeilen();
     EXPECT_EQ(std::count_if(gezeichnet.begin(), gezeichnet.end(),
                             [](const std::string& z) { return z.starts_with("Text"); }),
               8);

@@ -16,7 +16,7 @@
 namespace zrw {
 namespace {
 
-constexpr double kInf = std::numeric_limits<double>::infinity();
+constexpr double kUnendlich = std::numeric_limits<double>::infinity();
 
 /// Lines of a text file, each of which must end in CR LF.
 Zeilen Zerlegt(std::string_view datei) {
@@ -55,7 +55,7 @@ TEST_F(Export, RealzahlenMit23Zeichen) {
                                      {1e-320, " 9.99988867182683E-0321"},
                                      {123456789.123456789, " 1.23456789123457E+0008"},
                                      {9.999999999999999, " 1.00000000000000E+0001"},
-                                     {-kInf, "-1.00000000000000E+0300"},
+                                     {-kUnendlich, "-1.00000000000000E+0300"},
                                      {std::numeric_limits<double>::quiet_NaN(), " 0.00000000000000E+0000"}}) {
         DXFUnit d(dateien);
         d.DxfFileName = "a";

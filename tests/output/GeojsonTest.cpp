@@ -11,7 +11,7 @@
 namespace zrw {
 namespace {
 
-class EinErgebnis final : public Punktergebnisse {
+class EinAbgleich final : public Punktergebnisse {
   public:
     void ErneuereErgebnisse() override {}
     [[nodiscard]] const Punktergebnis* ErgebnisZu(std::string_view nummer) const override {
@@ -30,7 +30,7 @@ TEST(Geojson, PunkteUndLinienMitAllemWasBekanntIst) {
     n.T(2, "B\x01");
     n.K(1, 2, LinieAttr::AR2).Item->Farbe = n.e.GFCol;
     Speicherdateien dateien;
-    EinErgebnis ergebnis;
+    EinAbgleich ergebnis;
     SchreibeGeojson(n.l, {.Netztyp = 3, .AbbildungGenannt = true, .EllipsoidGenannt = true}, n.e, &ergebnis,
                     dateien, "aus/netz.geojson");
     EXPECT_EQ(dateien.dateien.at("aus/netz.geojson"),

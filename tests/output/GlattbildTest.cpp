@@ -11,19 +11,20 @@
 namespace zrw {
 namespace {
 
-constexpr int kWeite = 160;
-constexpr int kHoehe = 200;
+constexpr int kBlattweite = 160;
+constexpr int kBlatthoehe = 200;
 constexpr std::uint32_t kLeer = 0xFFFFFFFF;
 constexpr std::uint32_t kTinte = 0xFF000000;
 
 struct Blatt {
-    std::vector<std::uint32_t> pixel = std::vector<std::uint32_t>(std::size_t{kWeite} * kHoehe, kLeer);
+    std::vector<std::uint32_t> pixel =
+        std::vector<std::uint32_t>(std::size_t{kBlattweite} * kBlatthoehe, kLeer);
     Glattbild bild;
 
     explicit Blatt(double dichte = 1.0, unsigned helfer = 0)
-        : bild(pixel.data(), kWeite, kHoehe, kWeite, dichte, helfer) {}
+        : bild(pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, dichte, helfer) {}
     [[nodiscard]] std::uint32_t Pixel(int x, int y) const {
-        return pixel[static_cast<std::size_t>(y) * kWeite + static_cast<std::size_t>(x)];
+        return pixel[static_cast<std::size_t>(y) * kBlattweite + static_cast<std::size_t>(x)];
     }
     [[nodiscard]] int Grau(int x, int y) const { return static_cast<int>(Pixel(x, y) & 0xFFU); }
 };
@@ -43,8 +44,8 @@ void ZeichneZufall(Glattbild& b, const Deckmaske& maske, unsigned saat, bool mit
     };
     for (int i = 0; i < 600; ++i) {
         const int weit = i % 50 == 0 ? 100000000 : 60;
-        const int x = zahl(-40, kWeite + 40);
-        const int y = zahl(-40, kHoehe + 40);
+        const int x = zahl(-40, kBlattweite + 40);
+        const int y = zahl(-40, kBlatthoehe + 40);
         const Flaechenpunkt nach{x + zahl(-weit, weit), y + zahl(-weit, weit)};
         const auto farbe = kTinte | static_cast<std::uint32_t>(zahl(0, 0xFFFFFF));
         if (i % 7 == 0) {
@@ -113,9 +114,9 @@ TEST(Glattbild, SamePixelsFromAnyCoresAndParts) {
         EXPECT_EQ(mehrere.pixel, einer.pixel);
         Blatt stueckweise(dichte);
         for (const Rechteck r : {Rechteck{0, 0, 90, 70},
-                                 {91, 0, kWeite - 1, 70},
-                                 {0, 71, kWeite - 1, 73},
-                                 {0, 74, kWeite - 1, kHoehe - 1}}) {
+                                 {91, 0, kBlattweite - 1, 70},
+                                 {0, 71, kBlattweite - 1, 73},
+                                 {0, 74, kBlattweite - 1, kBlatthoehe - 1}}) {
             stueckweise.bild.SetzeAusschnitt(r);
             ZeichneZufall(stueckweise.bild, maske, saat, true);
         }
@@ -152,8 +153,8 @@ TEST(Glattbild, FromTheFrontGivesTheSamePicture) {
         vorn.bild.Linie({70, 95}, {110, 95}, kTinte, 1, false);
         vorn.bild.BeendeVonVorn();
         int groesster = 0;
-        for (int y = 0; y < kHoehe; ++y) {
-            for (int x = 0; x < kWeite; ++x)
+        for (int y = 0; y < kBlatthoehe; ++y) {
+            for (int x = 0; x < kBlattweite; ++x)
                 groesster = std::max(groesster, std::abs(vorn.Grau(x, y) - hinten.Grau(x, y)));
         }
         EXPECT_LE(groesster, 12);

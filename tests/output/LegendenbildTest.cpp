@@ -8,7 +8,7 @@
 namespace zrw {
 namespace {
 
-using Zeilen = std::vector<std::string>;
+using Legendenzeilen = std::vector<std::string>;
 
 class Legendentest : public testing::Test {
   protected:
@@ -24,35 +24,35 @@ TEST_F(Legendentest, RahmenTexteUndSignaturen) {
     l.Masstab = "500";
     l.Show(tafel.zeichner);
     EXPECT_TRUE(l.Visible);
-    const Zeilen gezeigt = flaeche.NimmZeilen();
-    EXPECT_EQ(gezeigt, (Zeilen{"Stift 0x000000 1",
-                               "Pinsel leer",
-                               "Rechteck 0 0 152 98",
-                               "Text 0x000000 2 2 Zarwik 21.11.2026 09:05:00",
-                               "Text 0x000000 2 14 Projekt",
-                               "Text 0x000000 2 26 Los 2",
-                               "Text 0x000000 2 38 Ma\xDFstab 1:500",
-                               "Text 0x000000 14 50 Anschlu\xDFpunkt 2D,3D",
-                               "Pinsel 0x000000",
-                               "Ellipse 2 52 10 60",
-                               "Text 0x000000 14 62 Anschlu\xDFpunkt 2D",
-                               "Stift 0x808080 1",
-                               "Pinsel 0x808080",
-                               "Ellipse 2 64 10 72",
-                               "Text 0x000000 14 74 Anschlu\xDFpunkt H\xF6he",
-                               "Stift 0x008000 1",
-                               "Pinsel 0x008000",
-                               "Ellipse 2 76 10 84",
-                               "Text 0x000000 14 86 Neupunkt",
-                               "Stift 0x0000FF 1",
-                               "Pinsel 0x0000FF",
-                               "Ellipse 2 88 10 96"}));
+    const Legendenzeilen gezeigt = flaeche.NimmZeilen();
+    EXPECT_EQ(gezeigt, (Legendenzeilen{"Stift 0x000000 1",
+                                       "Pinsel leer",
+                                       "Rechteck 0 0 152 98",
+                                       "Text 0x000000 2 2 Zarwik 21.11.2026 09:05:00",
+                                       "Text 0x000000 2 14 Projekt",
+                                       "Text 0x000000 2 26 Los 2",
+                                       "Text 0x000000 2 38 Ma\xDFstab 1:500",
+                                       "Text 0x000000 14 50 Anschlu\xDFpunkt 2D,3D",
+                                       "Pinsel 0x000000",
+                                       "Ellipse 2 52 10 60",
+                                       "Text 0x000000 14 62 Anschlu\xDFpunkt 2D",
+                                       "Stift 0x808080 1",
+                                       "Pinsel 0x808080",
+                                       "Ellipse 2 64 10 72",
+                                       "Text 0x000000 14 74 Anschlu\xDFpunkt H\xF6he",
+                                       "Stift 0x008000 1",
+                                       "Pinsel 0x008000",
+                                       "Ellipse 2 76 10 84",
+                                       "Text 0x000000 14 86 Neupunkt",
+                                       "Stift 0x0000FF 1",
+                                       "Pinsel 0x0000FF",
+                                       "Ellipse 2 88 10 96"}));
     // Wiped where it stands, with the time that stands there.
     tafel.uhr.zeit = "später und länger";
     l.Hide(tafel.zeichner);
     EXPECT_FALSE(l.Visible);
     EXPECT_EQ(l.Zeit, "21.11.2026 09:05:00");
-    Zeilen weiss;
+    Legendenzeilen weiss;
     for (const std::string& z : flaeche.NimmZeilen()) {
         EXPECT_TRUE(z.find("0x") == std::string::npos || z.find("0xFFFFFF") != std::string::npos) << z;
         if (!z.starts_with("Stift") && !z.starts_with("Pinsel")) weiss.push_back(z.substr(z.find(' ', 5)));
@@ -79,7 +79,7 @@ TEST_F(Legendentest, AusserhalbGiltSieAlsSichtbarUndZeichnetNicht) {
         l.Drag(x, 10, tafel.zeichner);
         (void)flaeche.NimmZeilen();
         l.Show(tafel.zeichner);
-        EXPECT_EQ(flaeche.NimmZeilen(), Zeilen{}) << x;
+        EXPECT_EQ(flaeche.NimmZeilen(), Legendenzeilen{}) << x;
         EXPECT_TRUE(l.Visible);
     }
     l.Drag(-140, 10, tafel.zeichner);

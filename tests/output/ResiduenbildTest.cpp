@@ -15,7 +15,7 @@
 namespace zrw {
 namespace {
 
-constexpr double kInf = std::numeric_limits<double>::infinity();
+constexpr double kOhneEnde = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 struct Merkergebnisse final : Punktergebnisse {
@@ -104,7 +104,7 @@ TEST_F(Residuen, StricheUndBalken) {
            {"100 100 90 105", "100 100 100 107", "100 96 100 104", "98 96 102 96", "98 104 102 104"});
     pruefe(2.75, 10.9, 5.9, 0.3, 6,
            {"100 100 129 84", "100 100 100 100", "100 92 100 108", "94 92 106 92", "94 108 106 108"});
-    pruefe(1, 3, 4, kNan, kInf, {"100 100 103 96"});
+    pruefe(1, 3, 4, kNan, kOhneEnde, {"100 100 103 96"});
     zustand.modus = Zeichenmodus::Drucker;
     pruefe(2, 10, 5, 1, 2,
            {"100 100 225 38", "100 100 100 88", "100 88 100 112", "75 88 125 88", "75 112 125 112"});
@@ -159,8 +159,8 @@ TEST_F(Residuen, EllipsenJeGroesse) {
     EXPECT_FALSE(Ellipse(0, 50, 50, -30).empty());
     EXPECT_EQ(Ellipse(0, 50, 20, -70), Zeilen{});
     EXPECT_EQ(Ellipse(0, 50, 20, 400, 9e18), Zeilen{});
-    EXPECT_EQ(Ellipse(kInf, 9, 5), Zeilen{});
-    for (const double a : {kNan, kInf, -kInf, -9.0}) {
+    EXPECT_EQ(Ellipse(kOhneEnde, 9, 5), Zeilen{});
+    for (const double a : {kNan, kOhneEnde, -kOhneEnde, -9.0}) {
         EXPECT_EQ(Ellipse(0, a, 5), Zeilen{}) << a;
         EXPECT_EQ(Ellipse(0, 5, a), Zeilen{}) << a;
     }
@@ -259,7 +259,7 @@ TEST_F(Residuen, MassstabLaengeUndTeilung) {
                           Fall{0, 0, ""},
                           Fall{-1, 0, ""},
                           Fall{kNan, 0, ""},
-                          Fall{kInf, 0, ""},
+                          Fall{kOhneEnde, 0, ""},
                           Fall{1, kNan, ""},
                           Fall{1, 1e300, ""},
                           Fall{1, 0.05, ""}}) {
@@ -299,7 +299,8 @@ TEST_F(Residuen, PfeileUndKoordinatenvergleich) {
                                     "Stift 0x000001 2", "Linie 100 70 104 78", "Linie 100 70 96 78"}));
     n.l.Residuenpfeile = false;
     EXPECT_EQ(Gezeichnet(), (Zeilen{"Stift 0x000001 1 gestrichelt", "Linie 100 100 100 70"}));
-    for (const Vergleichslage& lage : {Vergleichslage{}, {.Y = kInf, .X = 1000}, {.Y = 2000, .X = kNan}}) {
+    for (const Vergleichslage& lage :
+         {Vergleichslage{}, {.Y = kOhneEnde, .X = 1000}, {.Y = 2000, .X = kNan}}) {
         ergebnisse.lagen["12"] = lage;
         EXPECT_EQ(Gezeichnet(), Zeilen{});
     }
@@ -406,7 +407,7 @@ TEST_F(Residuen, VergroesserungPasstZumBild) {
     EXPECT_EQ(PassendeVergroesserung(10, 1500), 10.0);
     EXPECT_EQ(PassendeVergroesserung(11, 1500), 5.0);
     EXPECT_EQ(PassendeVergroesserung(1e6, 1500), 1e-4);
-    for (const double mm : {0.0, -1.0, kNan, kInf, 1e-320})
+    for (const double mm : {0.0, -1.0, kNan, kOhneEnde, 1e-320})
         EXPECT_EQ(PassendeVergroesserung(mm, 1500), std::nullopt) << mm;
     const Residuendarstellung d{.Ellipsen95 = true};
     EXPECT_EQ(Groessenhinweis({10, 10}, d, 5, 800), "");

@@ -10,7 +10,7 @@ namespace zrw {
 namespace {
 
 /// A hundred times what the program writes.
-constexpr std::size_t kGroesste = std::size_t{1} << 20U;
+constexpr std::size_t kGroessteInidatei = std::size_t{1} << 20U;
 
 using Zeilen = std::vector<std::string>;
 
@@ -156,7 +156,7 @@ Inidatei::Inidatei(const QString& datei, std::string abschnitt)
     std::error_code fehler;
     if (std::filesystem::status(datei_, fehler).type() == std::filesystem::file_type::not_found) return;
     try {
-        zeilen_ = ZerlegeInhalt(dateien_.LiesDatei(datei_, kGroesste));
+        zeilen_ = ZerlegeInhalt(dateien_.LiesDatei(datei_, kGroessteInidatei));
     } catch (const Fehler& f) {
         lesefehler_ = f;
     }
@@ -180,7 +180,7 @@ void Inidatei::SichereDatei() {
     if (neu_.empty()) return;
     Zeilen zeilen = zeilen_;
     try {
-        zeilen = ZerlegeInhalt(dateien_.LiesDatei(datei_, kGroesste));
+        zeilen = ZerlegeInhalt(dateien_.LiesDatei(datei_, kGroessteInidatei));
     } catch (const Fehler&) {  // not there, or not readable before either: what is known here takes its place
     }
     for (const auto& [schluessel, wert] : neu_)

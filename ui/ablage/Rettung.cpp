@@ -16,7 +16,7 @@ const QString kAbgelegt = QStringLiteral(".verworfen");
 const QString kSperre = QStringLiteral(".sperre");
 constexpr int kTage = 7;  ///< files put aside are kept so long
 constexpr int kMeisteVersuche = 1000;
-constexpr std::size_t kGroesste = std::size_t{64} << 20U;
+constexpr std::size_t kGroessterStand = std::size_t{64} << 20U;
 
 std::unique_ptr<QLockFile> SperreDatei(const QString& datei) {
     auto sperre = std::make_unique<QLockFile>(datei + kSperre);
@@ -78,7 +78,7 @@ QStringList Rettung::Hinterlassene() {
 }
 
 std::string Rettung::LiesDatei(const QString& datei) const {
-    return dateien_.LiesDatei(NachPfad(datei), kGroesste);
+    return dateien_.LiesDatei(NachPfad(datei), kGroessterStand);
 }
 
 void Rettung::LegeAb(const QString& datei) {

@@ -8,7 +8,7 @@ namespace zrw {
 namespace {
 
 constexpr const char* kDateien = "Dateien";
-constexpr const char* kOrdner = "Ordner";
+constexpr const char* kOrdnerschluessel = "Ordner";
 
 QString EigeneDatei() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -54,11 +54,11 @@ void Sitzung::NimmDatei(const QString& datei) {
 
 QString Sitzung::Ordner() const {
     // A comma in the name, written by hand, has made two of it.
-    return ablage_.LiesTexte(kOrdner).join(QLatin1Char(','));
+    return ablage_.LiesTexte(kOrdnerschluessel).join(QLatin1Char(','));
 }
 
 void Sitzung::MerkeOrdner(const QString& ordner) {
-    SetzeTexte(kOrdner, {ordner});
+    SetzeTexte(kOrdnerschluessel, {ordner});
 }
 
 QByteArray Sitzung::Stand(const QString& name) const {

@@ -58,10 +58,10 @@ void HaengeFaerbungAn(std::vector<std::string>& worte, const Planfaerbung& f) {
 
 /// Nothing in it means anything to a shell.
 bool Unbedenklich(const std::string& wort) {
-    constexpr std::string_view kZeichen = "-_./,:+=@";
+    constexpr std::string_view kUnbedenkliche = "-_./,:+=@";
     return !wort.empty() && std::all_of(wort.begin(), wort.end(), [&](char c) {
         return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-               kZeichen.find(c) != std::string_view::npos;
+               kUnbedenkliche.find(c) != std::string_view::npos;
     });
 }
 

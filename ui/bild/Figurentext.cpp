@@ -17,9 +17,10 @@ namespace zrw {
 namespace {
 
 /// A table with a heading; values that are not known are left out.
-class Zeilen {
+class Textzeilen {
   public:
-    explicit Zeilen(const QString& titel) : html_(QStringLiteral("<b>%1</b>").arg(titel.toHtmlEscaped())) {}
+    explicit Textzeilen(const QString& titel)
+        : html_(QStringLiteral("<b>%1</b>").arg(titel.toHtmlEscaped())) {}
 
     void NimmZeile(const QString& name, const QString& wert) {
         html_ += QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td align=\"right\">%2</td></tr>")
@@ -40,7 +41,7 @@ class Zeilen {
     QString html_;
 };
 
-void NimmErgebnis(Zeilen& z, const Punktergebnis& e) {
+void NimmErgebnis(Textzeilen& z, const Punktergebnis& e) {
     z.NimmZahl(QStringLiteral("ausgeglichen Y"), e.Y, 4, " m");
     z.NimmZahl(QStringLiteral("ausgeglichen X"), e.X, 4, " m");
     z.NimmZahl(QStringLiteral("ausgeglichen H"), e.H, 4, " m");
@@ -50,7 +51,7 @@ void NimmErgebnis(Zeilen& z, const Punktergebnis& e) {
     z.NimmZahl(QStringLiteral("mH"), e.mH, 1, " mm");
 }
 
-void NimmErgebnis(Zeilen& z, const Relativellipse& e) {
+void NimmErgebnis(Textzeilen& z, const Relativellipse& e) {
     z.NimmZahl(QStringLiteral("relative Ellipse A"), e.A, 1, " mm");
     z.NimmZahl(QStringLiteral("relative Ellipse B"), e.B, 1, " mm");
     z.NimmZahl(QStringLiteral("relative Ellipse Phi"), e.Phi, 1, " gon");
@@ -92,7 +93,7 @@ QString Koordinatentext(const PunktKnoten& punkt) {
 QString Punkttext(const Liste& netz, const PunktKnoten& punkt, const Einstellungen& einstellungen,
                   int netztyp, const Punktergebnisse* ergebnisse, const Namensliste& namen) {
     const PunktArt art = ArtNachFarbe(punkt.Item->Farbe, einstellungen);
-    Zeilen z(
+    Textzeilen z(
         QStringLiteral("Punkt %1, %2").arg(Nummertext(netz, punkt.PNr), AusUtf8(ZurArt(art).bezeichnung)));
     const std::string nummer = netz.GetPktText(punkt.PNr);
     if (const auto name = namen.find(nummer); name != namen.end())
@@ -107,7 +108,7 @@ QString Punkttext(const Liste& netz, const PunktKnoten& punkt, const Einstellung
 
 QString Kantentext(const Liste& netz, const PunktKante& kante, const Einstellungen& einstellungen,
                    int netztyp, const QString& markiergrund, const Punktergebnisse* ergebnisse) {
-    Zeilen z(QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr)));
+    Textzeilen z(QStringLiteral("%1 – %2").arg(Nummertext(netz, kante.ANr), Nummertext(netz, kante.ENr)));
     z.NimmZeile(QStringLiteral("Beobachtungen"), Beobachtungen(*kante.Item));
     const auto a = netz.Weltort(kante.ANr);
     const auto e = netz.Weltort(kante.ENr);
@@ -147,7 +148,7 @@ QString Endentext(const Liste& netz, const PunktKante& kante) {
 }
 
 QString Punktetext(std::span<const PPunktKnoten> punkte, const Einstellungen& einstellungen, int netztyp) {
-    Zeilen z(QStringLiteral("%1 Punkte").arg(punkte.size()));
+    Textzeilen z(QStringLiteral("%1 Punkte").arg(punkte.size()));
     std::array<std::size_t, kPunktarten.size()> arten{};
     Weltkasten k;
     for (const PunktKnoten* p : punkte) {

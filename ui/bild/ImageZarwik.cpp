@@ -15,7 +15,7 @@ namespace {
 /// One step of a mouse wheel in the units that Qt reports.
 constexpr int kRadschritt = 120;
 
-Bildpunkt Ort(const QSinglePointEvent& e) {
+Bildpunkt Mausort(const QSinglePointEvent& e) {
     const QPoint p = e.position().toPoint();
     return {p.x(), p.y()};
 }
@@ -88,11 +88,11 @@ void ImageZarwik::MeldeGroesse() {
 }
 
 void ImageZarwik::mousePressEvent(QMouseEvent* ereignis) {
-    empfaenger_.ImageZarwikMouseDown(Ort(*ereignis), ereignis->button());
+    empfaenger_.ImageZarwikMouseDown(Mausort(*ereignis), ereignis->button());
 }
 
 void ImageZarwik::mouseDoubleClickEvent(QMouseEvent* ereignis) {
-    empfaenger_.ImageZarwikDoubleClick(Ort(*ereignis), ereignis->button());
+    empfaenger_.ImageZarwikDoubleClick(Mausort(*ereignis), ereignis->button());
 }
 
 void ImageZarwik::leaveEvent(QEvent* ereignis) {
@@ -101,18 +101,18 @@ void ImageZarwik::leaveEvent(QEvent* ereignis) {
 }
 
 void ImageZarwik::mouseMoveEvent(QMouseEvent* ereignis) {
-    empfaenger_.ImageZarwikMouseMove(Ort(*ereignis));
+    empfaenger_.ImageZarwikMouseMove(Mausort(*ereignis));
 }
 
 void ImageZarwik::mouseReleaseEvent(QMouseEvent* ereignis) {
-    empfaenger_.ImageZarwikMouseUp(Ort(*ereignis), ereignis->button());
+    empfaenger_.ImageZarwikMouseUp(Mausort(*ereignis), ereignis->button());
 }
 
 void ImageZarwik::wheelEvent(QWheelEvent* ereignis) {
     radrest_ += ereignis->angleDelta().y();
     const int schritte = radrest_ / kRadschritt;
     radrest_ -= schritte * kRadschritt;
-    if (schritte != 0) empfaenger_.ImageZarwikWheel(Ort(*ereignis), schritte);
+    if (schritte != 0) empfaenger_.ImageZarwikWheel(Mausort(*ereignis), schritte);
     ereignis->accept();
 }
 

@@ -16,7 +16,7 @@ namespace {
 /// 8 pt on a screen of 96 dots per inch. In pixels, so that every screen and the batch mode give one picture.
 constexpr int kSchrifthoehe = 11;
 /// Screens are taken as 96 dots per inch, as printers' dots are scaled from them.
-constexpr int kPunkteJeZoll = 72;
+constexpr int kSchriftgradJeZoll = 72;
 constexpr int kPixelJeZoll = 96;
 
 QRect AlsQRect(const Rechteck& r) {
@@ -232,7 +232,7 @@ std::int32_t Malerflaeche::Textbreite(std::string_view text) const {
 }
 
 std::int32_t Malerflaeche::Schriftgrad() const {
-    return Schrifthoehe() * kPunkteJeZoll / kPixelJeZoll;
+    return Schrifthoehe() * kSchriftgradJeZoll / kPixelJeZoll;
 }
 
 std::int32_t Malerflaeche::Schrifthoehe() const {

@@ -12,10 +12,10 @@ namespace zrw {
 namespace {
 
 /// Larger shapes are rare: the painter draws them.
-constexpr int kGroessterStempel = 64;
-constexpr int kGroessteSchrift = 40;  ///< [px]
+constexpr int kGroessterPixelstempel = 64;
+constexpr int kGroesstePixelschrift = 40;  ///< [px]
 constexpr std::size_t kMeisteStempel = 64;
-constexpr int kRand = 4;  ///< round a shape that is made into a mask
+constexpr int kMaskenrand = 4;  ///< round a shape that is made into a mask
 
 std::uint32_t Pixelfarbe(Farbe f) {
     return 0xFF000000U | (f.wert & 0xFFU) << 16U | (f.wert & 0xFF00U) | (f.wert >> 16U & 0xFFU);
@@ -144,7 +144,7 @@ Rechteck Pixelflaeche::Grenzen() const {
 }
 
 bool Pixelflaeche::SetztZeichen() const {
-    return schnell_ && zeichenweise_ && schrifthoehe_ <= kGroessteSchrift;
+    return schnell_ && zeichenweise_ && schrifthoehe_ <= kGroesstePixelschrift;
 }
 
 bool Pixelflaeche::BeginneVonVorn() {
@@ -253,7 +253,7 @@ const Pixelmaske* Pixelflaeche::BreiterStrich(Flaechenpunkt von, Flaechenpunkt n
     auto& maske = breite_[static_cast<std::size_t>(dy + kReichweite) * kSeite +
                           static_cast<std::size_t>(dx + kReichweite)];
     if (!maske) {
-        constexpr int kMitte = kReichweite + kRand;
+        constexpr int kMitte = kReichweite + kMaskenrand;
         QImage bild(2 * kMitte + 1, 2 * kMitte + 1, QImage::Format_RGB32);
         bild.fill(Qt::white);
         QPainter maler(&bild);
@@ -277,8 +277,9 @@ Pixelflaeche::Stempel Pixelflaeche::PraegeStempel(Form form, std::span<const Fla
         rechts = std::max(rechts, p.x - ecken[0].x);
         unten = std::max(unten, p.y - ecken[0].y);
     }
-    const QPoint null(kRand - links, kRand - oben);
-    QImage bild(rechts - links + 2 * kRand + 1, unten - oben + 2 * kRand + 1, QImage::Format_RGB32);
+    const QPoint null(kMaskenrand - links, kMaskenrand - oben);
+    QImage bild(rechts - links + 2 * kMaskenrand + 1, unten - oben + 2 * kMaskenrand + 1,
+                QImage::Format_RGB32);
     bild.fill(Qt::white);
     QPainter maler(&bild);
     Malerflaeche flaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1});
@@ -343,8 +344,8 @@ bool Pixelflaeche::StempeleForm(Form form, std::span<const Flaechenpunkt> ecken)
         AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
         return false;
     for (const Flaechenpunkt& p : ecken) {
-        if (std::abs(std::int64_t{p.x} - ecken[0].x) > kGroessterStempel ||
-            std::abs(std::int64_t{p.y} - ecken[0].y) > kGroessterStempel)
+        if (std::abs(std::int64_t{p.x} - ecken[0].x) > kGroessterPixelstempel ||
+            std::abs(std::int64_t{p.y} - ecken[0].y) > kGroessterPixelstempel)
             return false;
     }
     const Stempel& s = SucheStempel(form, ecken);
@@ -377,8 +378,8 @@ const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
     glyphe.emplace();
     const std::string_view text(&c, 1);
     glyphe->vorschub = Malerflaeche::Textbreite(text);
-    const int hoehe = Texthoehe() + 2 * kRand;
-    const QPoint null(kRand + hoehe, kRand);  // italics reach far beside their advance
+    const int hoehe = Texthoehe() + 2 * kMaskenrand;
+    const QPoint null(kMaskenrand + hoehe, kMaskenrand);  // italics reach far beside their advance
     QImage bild(glyphe->vorschub + 2 * null.x(), hoehe, QImage::Format_RGB32);
     bild.fill(Qt::white);
     QPainter maler(&bild);

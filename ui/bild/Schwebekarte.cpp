@@ -6,9 +6,9 @@
 namespace zrw {
 namespace {
 
-constexpr int kSchwebezeit = 300;  ///< [ms]
-constexpr int kAbstand = 14;       ///< from the mouse [px]
-constexpr int kBleibtBei = 4;      ///< a card stays while the mouse moves no farther [px]
+constexpr int kSchwebezeit = 300;   ///< [ms]
+constexpr int kZeigerabstand = 14;  ///< from the mouse [px]
+constexpr int kBleibtBei = 4;       ///< a card stays while the mouse moves no farther [px]
 
 }  // namespace
 
@@ -49,8 +49,8 @@ void Schwebekarte::ZeigeKarte() {
     const int mausX = static_cast<int>(ort_.x);
     const int mausY = static_cast<int>(ort_.y);
     const auto stelle = [](int maus, int laenge, int alles) {
-        const int danach = maus + kAbstand;
-        return danach + laenge <= alles ? danach : std::max(maus - kAbstand - laenge, 0);
+        const int danach = maus + kZeigerabstand;
+        return danach + laenge <= alles ? danach : std::max(maus - kZeigerabstand - laenge, 0);
     };
     move(stelle(mausX, width(), platz.width()), stelle(mausY, height(), platz.height()));
     show();

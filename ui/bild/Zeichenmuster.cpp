@@ -38,11 +38,11 @@ QImage Zeichenmuster::MalePunkt(const Punkt& punkt) {
 }
 
 QImage Zeichenmuster::MaleKante(const Kante& kante) {
-    constexpr double kRand = 5;  // [px]
+    constexpr double kMusterrand = 5;  // [px]
     const double mitte = groesse_.height() / 2.0;
     return MaleFigur([&] {
-        zeichner_.ZeichneKante(kante, InPunkten(kRand, mitte), InPunkten(groesse_.width() - kRand, mitte),
-                               Gang::Zeigen);
+        zeichner_.ZeichneKante(kante, InPunkten(kMusterrand, mitte),
+                               InPunkten(groesse_.width() - kMusterrand, mitte), Gang::Zeigen);
     });
 }
 

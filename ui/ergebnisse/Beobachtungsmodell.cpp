@@ -26,7 +26,7 @@ Listenspalte Spalte(int nummer) {
 }
 
 /// What a column is, by its name in the file.
-QString Spaltenhinweis(Listenspalte spalte) {
+QString Listenhinweis(Listenspalte spalte) {
     if (const auto& wert = kListenspalten[static_cast<std::size_t>(spalte)].wert)
         return AusUtf8(ZurSpalte(*wert).bezeichnung);
     if (spalte == Listenspalte::Tabelle) return QStringLiteral("Art der Beobachtung");
@@ -95,14 +95,14 @@ QVariant Beobachtungsmodell::data(const QModelIndex& stelle, int rolle) const {
     if (rolle == Qt::BackgroundRole && b.ff) return QBrush(kFehlergrund);
     if (rolle == Qt::FontRole && b.ff) return Fett();
     const bool zeichen = (spalte == Listenspalte::FF && b.ff) || (spalte == Listenspalte::NK && b.nk);
-    if (rolle == Qt::ToolTipRole && zeichen) return Spaltenhinweis(spalte);
+    if (rolle == Qt::ToolTipRole && zeichen) return Listenhinweis(spalte);
     return {};
 }
 
 QVariant Beobachtungsmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const {
     if (richtung == Qt::Vertical || abschnitt < 0 || abschnitt >= columnCount()) return {};
     const Listenspalte spalte = Spalte(abschnitt);
-    if (rolle == Qt::ToolTipRole) return Spaltenhinweis(spalte);
+    if (rolle == Qt::ToolTipRole) return Listenhinweis(spalte);
     if (rolle != Qt::DisplayRole) return {};
     return spalte == Listenspalte::Tabelle ? QStringLiteral("Art")
                                            : AusUtf8(kListenspalten[static_cast<std::size_t>(spalte)].name);

@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<int, 3> kBreiten{22, 16, 10};  // [px]
 const QColor kHoffarbe(255, 196, 0, 70);
 
-bool Gezeigt(const Liste& netz, const PunktKnoten& p) {
+bool WirdGezeigt(const Liste& netz, const PunktKnoten& p) {
     return p.Item->Visible && netz.Dargestellt(*p.Item);
 }
 
@@ -43,7 +43,7 @@ QString Beobachtungszeiger::ZeigeImBild(const Beobachtung& b) {
         u_.bild.SetzeMitte({von->XWPu, von->YWPu});
         u_.auswahl.WaehlePunkt(*von);
         hof_ = Hof{von->PNr, kKeinPunkt};
-        if (!Gezeigt(netz, *von)) mangel = QStringLiteral("Der Punkt ist ausgeblendet.");
+        if (!WirdGezeigt(netz, *von)) mangel = QStringLiteral("Der Punkt ist ausgeblendet.");
     }
     return mangel;
 }

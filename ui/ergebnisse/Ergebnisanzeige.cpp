@@ -21,7 +21,7 @@ namespace zrw {
 namespace {
 
 /// "Richtung zweiseitig, Strecke, Höhenunterschied einseitig".
-QString Beobachtungen(const Kante& k) {
+QString Messungen(const Kante& k) {
     const Linienart& linie = ZurLinie(k.LAttr);
     // As the dialog sees it: what was measured from both ends is not named for one of them again.
     const KanteAttr weitere = AlsTyp(AlsWahl({k.LAttr, k.KAttr})).weitere;
@@ -94,7 +94,7 @@ QString Ergebnisanzeige::Angaben(const Liste& netz, const PunktKnoten& punkt) co
 QString Ergebnisanzeige::Angaben(const Liste& netz, const PunktKante& kante) const {
     const PunktKnoten* a = netz.SuchPkt(kante.ANr);
     const PunktKnoten* e = netz.SuchPkt(kante.ENr);
-    QString text = Beobachtungen(*kante.Item);
+    QString text = Messungen(*kante.Item);
     if (a != nullptr && e != nullptr) {
         const double laenge = std::hypot(e->XWPu - a->XWPu, e->YWPu - a->YWPu);
         text += QStringLiteral("   Länge in der Ebene %1 m").arg(AusUtf8(Festkomma(laenge, 0, 3)));

@@ -11,7 +11,7 @@ namespace zrw {
 namespace {
 
 /// The adjustment writes one table after the other [ms].
-constexpr int kRuhe = 500;
+constexpr int kSuchpause = 500;
 
 bool Unlesbar(const Tabellenlage& lage) {
     return lage.zustand == Lesezustand::Unlesbar;
@@ -21,7 +21,7 @@ bool Unlesbar(const Tabellenlage& lage) {
 
 Ergebnisstand::Ergebnisstand(TDM& daten) : daten_(daten) {
     ruhe_.setSingleShot(true);
-    ruhe_.setInterval(kRuhe);
+    ruhe_.setInterval(kSuchpause);
     melden_.setSingleShot(true);
     connect(&ruhe_, &QTimer::timeout, this, [this] { PruefeDateien(); });
     for (const auto signal : {&QFileSystemWatcher::fileChanged, &QFileSystemWatcher::directoryChanged})

@@ -9,9 +9,9 @@
 namespace zrw {
 namespace {
 
-constexpr int kAbstand = 2;  ///< between buttons [px]
-constexpr int kRand = 2;     ///< round all of them [px]
-constexpr int kStrich = 6;   ///< place of the line behind a group without a frame [px]
+constexpr int kKnopfabstand = 2;  ///< between buttons [px]
+constexpr int kGruppenrand = 2;   ///< round all of them [px]
+constexpr int kStrich = 6;        ///< place of the line behind a group without a frame [px]
 
 }  // namespace
 
@@ -39,10 +39,10 @@ QSize Knopfgruppe::Platz(std::size_t anzahl, bool mitRest) const {
     QSize platz(0, 0);
     for (std::size_t i = 0; i < anzahl; ++i) {
         const QSize knopf = knoepfe_[i]->sizeHint();
-        platz = {platz.width() + knopf.width() + kAbstand, std::max(platz.height(), knopf.height())};
+        platz = {platz.width() + knopf.width() + kKnopfabstand, std::max(platz.height(), knopf.height())};
     }
-    if (mitRest) platz.rwidth() += mehr_->sizeHint().width() + kAbstand;
-    return platz + QSize(2 * kRand - kAbstand + (gerahmt_ ? 0 : kStrich), 2 * kRand);
+    if (mitRest) platz.rwidth() += mehr_->sizeHint().width() + kKnopfabstand;
+    return platz + QSize(2 * kGruppenrand - kKnopfabstand + (gerahmt_ ? 0 : kStrich), 2 * kGruppenrand);
 }
 
 void Knopfgruppe::resizeEvent(QResizeEvent* ereignis) {
@@ -53,7 +53,7 @@ void Knopfgruppe::resizeEvent(QResizeEvent* ereignis) {
         while (anzahl > 1 && !passt(Platz(anzahl, true)))
             --anzahl;
     }
-    int x = kRand;
+    int x = kGruppenrand;
     rest_->clear();
     for (std::size_t i = 0; i < knoepfe_.size(); ++i) {
         QToolButton& knopf = *knoepfe_[i];
@@ -61,14 +61,14 @@ void Knopfgruppe::resizeEvent(QResizeEvent* ereignis) {
         if (i < anzahl) {
             const QSize groesse = knopf.sizeHint();
             knopf.setGeometry({{x, (height() - groesse.height()) / 2}, groesse});
-            x += groesse.width() + kAbstand;
+            x += groesse.width() + kKnopfabstand;
         } else {
             rest_->addAction(knopf.defaultAction());
         }
     }
     mehr_->setMenu(rest_->isEmpty() ? nullptr : rest_);
     mehr_->setVisible(!rest_->isEmpty());
-    mehr_->setGeometry(x, kRand, mehr_->sizeHint().width(), height() - 2 * kRand);
+    mehr_->setGeometry(x, kGruppenrand, mehr_->sizeHint().width(), height() - 2 * kGruppenrand);
 }
 
 void Knopfgruppe::paintEvent(QPaintEvent* ereignis) {
@@ -77,7 +77,7 @@ void Knopfgruppe::paintEvent(QPaintEvent* ereignis) {
     QPainter maler(this);
     maler.setPen(palette().color(QPalette::Mid));
     const int x = width() - kStrich / 2;
-    maler.drawLine(x, 2 * kRand, x, height() - 2 * kRand);
+    maler.drawLine(x, 2 * kGruppenrand, x, height() - 2 * kGruppenrand);
 }
 
 }  // namespace zrw

@@ -18,9 +18,9 @@
 namespace zrw {
 namespace {
 
-constexpr QSize kVorschau{192, 132};  ///< of a file, on the screen
-constexpr int kSchaerfe = 3;          ///< dots of the drawing to one of those: screens may be fine
-constexpr int kAbstand = 12;
+constexpr QSize kDateivorschau{192, 132};  ///< of a file, on the screen
+constexpr int kSchaerfe = 3;               ///< dots of the drawing to one of those: screens may be fine
+constexpr int kSeitenabstand = 12;
 
 QLabel* NeueUeberschrift(const QString& text, double groesse, QWidget* eltern) {
     auto* schild = new QLabel(text, eltern);
@@ -33,7 +33,7 @@ QLabel* NeueUeberschrift(const QString& text, double groesse, QWidget* eltern) {
 
 /// On white like the picture in the window, in a frame of the text's colour.
 QIcon Gerahmt(const QImage& bild, const QColor& rahmen) {
-    QPixmap flaeche = bild.isNull() ? QPixmap(kVorschau * kSchaerfe) : QPixmap::fromImage(bild);
+    QPixmap flaeche = bild.isNull() ? QPixmap(kDateivorschau * kSchaerfe) : QPixmap::fromImage(bild);
     if (bild.isNull()) flaeche.fill(Qt::white);
     QPainter maler(&flaeche);
     maler.setPen(QPen(rahmen, kSchaerfe));
@@ -66,8 +66,9 @@ Startseite::Startseite(QWidget* bild, Wege wege, const QStringList& letzte,
     seite->setBackgroundRole(QPalette::Base);
     setBackgroundRole(QPalette::Base);
     auto* spalte = new QVBoxLayout(seite);
-    spalte->setContentsMargins(3 * kAbstand, 2 * kAbstand, 3 * kAbstand, 2 * kAbstand);
-    spalte->setSpacing(kAbstand);
+    spalte->setContentsMargins(3 * kSeitenabstand, 2 * kSeitenabstand, 3 * kSeitenabstand,
+                               2 * kSeitenabstand);
+    spalte->setSpacing(kSeitenabstand);
     spalte->addWidget(NeueUeberschrift(QStringLiteral("Netz öffnen"), 1.6, seite));
     setWidget(seite);
     BaueWege(*spalte, beispiel);
@@ -76,7 +77,7 @@ Startseite::Startseite(QWidget* bild, Wege wege, const QStringList& letzte,
     ziehen->setObjectName(QStringLiteral("StartZiehen"));
     ziehen->setAlignment(Qt::AlignCenter);
     ziehen->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    ziehen->setMargin(kAbstand);
+    ziehen->setMargin(kSeitenabstand);
     spalte->addWidget(ziehen);
     spalte->addStretch();
     setGeometry(bild->rect());
@@ -84,7 +85,7 @@ Startseite::Startseite(QWidget* bild, Wege wege, const QStringList& letzte,
 }
 
 void Startseite::BaueWege(QBoxLayout& spalte, const std::optional<QString>& beispiel) {
-    auto* leiste = new Umbruchleiste(nullptr, kAbstand, kAbstand);
+    auto* leiste = new Umbruchleiste(nullptr, kSeitenabstand, kSeitenabstand);
     const auto knopf = [&](const char* name, const char* text, const char* taste, const char* symbol,
                            const std::function<void()>& tue) {
         auto* k = new QToolButton(widget());
@@ -115,12 +116,12 @@ void Startseite::BaueWege(QBoxLayout& spalte, const std::optional<QString>& beis
 
 void Startseite::BaueDateien(QBoxLayout& spalte) {
     spalte.addWidget(NeueUeberschrift(QStringLiteral("Zuletzt geöffnet"), 1.2, widget()));
-    auto* leiste = new Umbruchleiste(nullptr, kAbstand, kAbstand);
+    auto* leiste = new Umbruchleiste(nullptr, kSeitenabstand, kSeitenabstand);
     for (const QString& datei : letzte_) {
         auto* k = new QToolButton(widget());
         k->setObjectName(QStringLiteral("StartDatei%1").arg(kacheln_.size()));
         k->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        k->setIconSize(kVorschau);
+        k->setIconSize(kDateivorschau);
         k->setAutoRaise(true);
         k->setFocusPolicy(Qt::StrongFocus);
         k->setToolTip(QDir::toNativeSeparators(datei));
@@ -137,7 +138,7 @@ void Startseite::ZeigeVorschau(int nummer, const Dateivorschau& vorschau) {
     QToolButton& k = *kacheln_[static_cast<std::size_t>(nummer)];
     const QString name = QFileInfo(letzte_[nummer]).fileName();
     const QString zusatz = vorschau.mangel.isEmpty() ? QString() : QStringLiteral(" – ") + vorschau.mangel;
-    const int weite = kVorschau.width() - k.fontMetrics().horizontalAdvance(zusatz);
+    const int weite = kDateivorschau.width() - k.fontMetrics().horizontalAdvance(zusatz);
     QString text = k.fontMetrics().elidedText(name, Qt::ElideMiddle, weite) + zusatz;
     k.setText(text.replace(QLatin1Char('&'), QStringLiteral("&&")));
     k.setAccessibleName(name + zusatz);
@@ -155,7 +156,7 @@ void Startseite::showEvent(QShowEvent* ereignis) {
 
 void Startseite::BeginneBilder() {
     if (!isVisible() || !std::exchange(ausstehend_, false)) return;
-    reihe_.BeginneReihe(letzte_, einstellungen_, kVorschau * kSchaerfe, *this,
+    reihe_.BeginneReihe(letzte_, einstellungen_, kDateivorschau * kSchaerfe, *this,
                         [this](int nummer, const Dateivorschau& v) { ZeigeVorschau(nummer, v); });
 }
 

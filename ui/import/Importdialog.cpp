@@ -22,7 +22,7 @@ namespace zrw {
 namespace {
 
 constexpr int kFeldbreite = 460;  // [px]
-constexpr double kKleinsteGrenze = 0.5, kGroessteGrenze = 99.0;
+constexpr double kKleinsteTestgrenze = 0.5, kGroessteTestgrenze = 99.0;
 
 const QString kAlle = QStringLiteral(";;Alle Dateien (*.*)");
 
@@ -80,7 +80,7 @@ QFormLayout* Importdialog::BaueFelder() {
         });
     grenze_ = new QDoubleSpinBox(this);
     grenze_->setObjectName(QStringLiteral("ImportGrenze"));
-    grenze_->setRange(kKleinsteGrenze, kGroessteGrenze);
+    grenze_->setRange(kKleinsteTestgrenze, kGroessteTestgrenze);
     grenze_->setSingleStep(0.1);
     grenze_->setValue(kUeblicheGrenze);
     grenze_->setToolTip(

@@ -11,7 +11,7 @@ namespace {
 constexpr QSize kMustergroesse{64, 26};
 
 /// Until what goes on has come to rest [ms].
-constexpr int kRuhe = 200;
+constexpr int kZeichenpause = 200;
 
 }  // namespace
 
@@ -43,7 +43,7 @@ Zeichenseite::Zeichenseite(const Programm& programm, const Plan& plan, std::func
 }
 
 void Zeichenseite::NetzGezeichnet() {
-    if (isVisible()) ruhe_.start(kRuhe);
+    if (isVisible()) ruhe_.start(kZeichenpause);
 }
 
 void Zeichenseite::showEvent(QShowEvent* ereignis) {

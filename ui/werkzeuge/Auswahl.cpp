@@ -12,9 +12,6 @@
 namespace zrw {
 namespace {
 
-/// A hand trembles when it clicks: smaller rectangles are clicks [px].
-constexpr std::int64_t kZittern = 3;
-
 bool Sichtbar(const Liste& netz, const PunktKnoten& p) {
     return netz.EnthaeltPunkt(p) && p.Item->Visible && netz.Dargestellt(*p.Item);
 }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int32_t kBreite = 3;
 constexpr std::int32_t kRadius = 9;
-constexpr std::int32_t kRand = 2;
+constexpr std::int32_t kMarkierrand = 2;
 
 Stiftwechsel Markierstift(Zeichenflaeche& f, std::int32_t breite) {
     return {f, {kMarkierfarbe, breite, Strichart::Voll}, {kWeiss, true}};
@@ -38,11 +38,11 @@ Vorschau MarkiereKante(Bildpunkt anfang, Bildpunkt ende) {
 Vorschau MarkiereText(const Werkzeugumgebung& umgebung, const PunktString* text) {
     if (text == nullptr) return {};
     return [r = umgebung.Textrahmen(*text)](Zeichner& /*z*/, Zeichenflaeche& f) {
-        if (!InReichweite({r.links, r.oben}, r.rechts - r.links + kRand, f.Sichtbar())) return;
+        if (!InReichweite({r.links, r.oben}, r.rechts - r.links + kMarkierrand, f.Sichtbar())) return;
         const auto o = Aufflaeche({r.links, r.oben});
         const auto u = Aufflaeche({r.rechts, r.unten});
         const auto stift = Markierstift(f, 1);
-        f.ZeichneRechteck({o.x - kRand, o.y - kRand, u.x + kRand, u.y + kRand});
+        f.ZeichneRechteck({o.x - kMarkierrand, o.y - kMarkierrand, u.x + kMarkierrand, u.y + kMarkierrand});
     };
 }
 

@@ -11,9 +11,9 @@ namespace zrw {
 namespace {
 
 constexpr std::int32_t kStiftbreite = 2;
-constexpr std::int32_t kEcke = 4;      ///< half side of the square at a corner
-constexpr std::int32_t kAbstand = 14;  ///< of the text from the mouse
-constexpr std::int32_t kTextrand = 3;  ///< round a text
+constexpr std::int32_t kEcke = 4;          ///< half side of the square at a corner
+constexpr std::int32_t kTextabstand = 14;  ///< of the text from the mouse
+constexpr std::int32_t kTextrand = 3;      ///< round a text
 
 struct Ergebnis {
     Messstrecke letzte;
@@ -73,10 +73,10 @@ void ZeichneErgebnis(Zeichenflaeche& f, Bildpunkt ort, const Ergebnis& e) {
     const Rechteck s = f.Sichtbar();
     if (!InReichweite(ort, 0, s)) return;
     const Flaechenpunkt p = Aufflaeche(ort);
-    const bool links = p.x + kAbstand + breite > s.rechts;
-    const bool oben = p.y + kAbstand + hoehe > s.unten;
-    ZeichneTexte(f, links ? p.x - kAbstand - breite : p.x + kAbstand,
-                 oben ? p.y - kAbstand - hoehe : p.y + kAbstand, zeilen);
+    const bool links = p.x + kTextabstand + breite > s.rechts;
+    const bool oben = p.y + kTextabstand + hoehe > s.unten;
+    ZeichneTexte(f, links ? p.x - kTextabstand - breite : p.x + kTextabstand,
+                 oben ? p.y - kTextabstand - hoehe : p.y + kTextabstand, zeilen);
 }
 
 }  // namespace

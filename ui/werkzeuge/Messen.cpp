@@ -12,12 +12,7 @@
 #include "ui/werkzeuge/Messbild.h"
 
 namespace zrw {
-namespace {
-
-/// A hand trembles when it clicks: shorter ways are clicks [px].
-constexpr std::int64_t kZittern = 3;
-
-}  // namespace
+namespace {}  // namespace
 
 QString Messen::Anleitung() const {
     if (umgebung_.AktuelleListe() != nullptr && !Moeglich()) return AusUtf8(kKeineMeter);

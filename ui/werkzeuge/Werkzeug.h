@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <Qt>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -15,6 +16,9 @@
 #include "output/Zeichenflaeche.h"
 
 namespace zrw {
+
+/// A hand trembles when it clicks: shorter ways are clicks [px].
+inline constexpr std::int64_t kZittern = 3;
 
 class Netzaenderung;
 class TFormBeobTyp;

@@ -8,12 +8,7 @@
 #include "ui/werkzeuge/Markierung.h"
 
 namespace zrw {
-namespace {
-
-/// A hand trembles when it clicks: smaller rectangles are clicks [px].
-constexpr std::int64_t kZittern = 3;
-
-}  // namespace
+namespace {}  // namespace
 
 QString ZoomRechteck::Anleitung() const {
     return QStringLiteral(
