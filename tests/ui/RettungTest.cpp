@@ -38,6 +38,11 @@ TEST(Rettung, HinterlassenesWirdGefundenFremdesNicht) {
     EXPECT_EQ(liegt("*.rettung"), 0) << "a clean end leaves nothing";
     zweites.BewahreBytes("zwei");
     EXPECT_EQ(liegt("*.rettung"), 1) << "the same bytes again after they were forgotten";
+
+    const QString datei = QDir(pfad).filePath(QDir(pfad).entryList({"*.rettung"}, QDir::Files)[0]);
+    const QString alte = QDir(pfad).filePath("alt.rettung");
+    EXPECT_TRUE(QFile::copy(datei, alte) && QFile::copy(datei + ".sperre", alte + ".sperre"));
+    EXPECT_EQ(drittes.Hinterlassene(), QStringList(alte)) << "of a program that had the number of this one";
 }
 
 TEST(Rettung, OhneOrdnerOderRechteBleibtAllesWieEsIst) {

@@ -70,11 +70,13 @@ TEST(FindeBeispiel, BeimInstalliertenProgramm) {
     const QTemporaryDir wurzel;
     const QString programme = wurzel.filePath("bin");
     EXPECT_EQ(FindeBeispiel(programme), std::nullopt);
-    const QString dort = wurzel.filePath("share/doc/zarwik/beispiele");
-    QDir().mkpath(dort);
-    QFile(dort + "/NETZ.EIN").open(QIODevice::WriteOnly);
-    QDir().mkpath(programme);
-    EXPECT_EQ(FindeBeispiel(programme), QFileInfo(dort + "/NETZ.EIN").canonicalFilePath());
+    for (const char* ort : {"bin/beispiele", "share/doc/zarwik/beispiele"}) {
+        const QString dort = wurzel.filePath(ort);
+        QDir().mkpath(dort);
+        QFile(dort + "/NETZ.EIN").open(QIODevice::WriteOnly);
+        QDir().mkpath(programme);
+        EXPECT_EQ(FindeBeispiel(programme), QFileInfo(dort + "/NETZ.EIN").canonicalFilePath());
+    }
 }
 
 TEST(Dateivorschau, WirdAbgebrochen) {

@@ -25,6 +25,21 @@ std::unique_ptr<QLockFile> SperreDatei(const QString& datei) {
     return sperre;
 }
 
+/// Whether the program that locked it had the number that this one has now: then it looks as if it were at
+/// work.
+bool HatUnsereNummer(const QLockFile& sperre) {
+    qint64 nummer = 0;
+    QString rechner;
+    QString programm;
+    return sperre.getLockInfo(&nummer, &rechner, &programm) && nummer == QCoreApplication::applicationPid();
+}
+
+/// Numbers come again, in a container with every start. A lock that is really held cannot be removed.
+bool NimmSperre(QLockFile& sperre) {
+    if (sperre.tryLock()) return true;
+    return HatUnsereNummer(sperre) && sperre.removeStaleLockFile() && sperre.tryLock();
+}
+
 }  // namespace
 
 /// Finds a name that no other program uses.
@@ -70,7 +85,7 @@ QStringList Rettung::Hinterlassene() {
          ordner.entryInfoList({QStringLiteral("*") + kEndung}, QDir::Files, QDir::Time | QDir::Reversed)) {
         if (f.filePath() == datei_) continue;
         auto sperre = SperreDatei(f.filePath());
-        if (!sperre->tryLock()) continue;  // its program is at work
+        if (!NimmSperre(*sperre)) continue;  // its program is at work
         fremde_.push_back(std::move(sperre));
         gefunden << f.filePath();
     }

@@ -46,8 +46,8 @@ QIcon Gerahmt(const QImage& bild, const QColor& rahmen) {
 }  // namespace
 
 std::optional<QString> FindeBeispiel(const QString& programmordner) {
-    // Installed; and where the program was built.
-    for (const char* ort : {"../share/doc/zarwik/beispiele", "../../beispiele"}) {
+    // Installed; where the program was built; and in a folder of its own, as on Windows.
+    for (const char* ort : {"../share/doc/zarwik/beispiele", "../../beispiele", "beispiele"}) {
         const QFileInfo datei(QDir(programmordner), QLatin1String(ort) + QStringLiteral("/NETZ.EIN"));
         if (datei.isFile() && datei.isReadable()) return datei.canonicalFilePath();
     }
