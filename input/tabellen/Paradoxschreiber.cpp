@@ -39,10 +39,10 @@ void SetzeZahl(std::string& ziel, std::size_t stelle, std::size_t bytes, std::ui
 
 /// Value of a record: big-endian with the top bit flipped.
 void HaengeZahlAn(std::string& ziel, std::size_t bytes, std::uint64_t wert) {
-    const std::size_t anfang = ziel.size();
-    for (std::size_t i = bytes; i-- > 0;)
-        ziel += static_cast<char>((wert >> (8U * i)) & 0xFFU);
-    ziel[anfang] = static_cast<char>(ziel[anfang] ^ 0x80);
+    for (std::size_t i = bytes; i-- > 0;) {
+        const std::uint64_t byte = (wert >> (8U * i)) & 0xFFU;
+        ziel += static_cast<char>(i + 1 == bytes ? byte ^ 0x80U : byte);
+    }
 }
 
 /// Size byte of the types that can be written, 0 for others: text and what has one width. A counter would
