@@ -14,7 +14,7 @@ namespace {
 constexpr int kKurzeRunden = 3;
 
 /// A JSON pair of minimum and median.
-std::string Paar(const char* name, const std::vector<double>& werte) {
+std::string Zeitenpaar(const char* name, const std::vector<double>& werte) {
     return std::string(", \"") + name + "\": [" + std::to_string(Kleinster(werte)) + ", " +
            std::to_string(Median(werte)) + "]";
 }
@@ -40,14 +40,14 @@ Tabelle::Tabelle(int anzahl, char** worte, int ueblich) : runden(ueblich) {
 
 void Tabelle::NimmZeile(const Zeile& z) {
     std::string text = "{\"was\": \"" + z.was + "\", \"einheit\": \"" + z.einheit + "\"";
-    text += Paar("eigene", z.eigene);
+    text += Zeitenpaar("eigene", z.eigene);
     double gemessen = Kleinster(z.eigene);
     if (!z.vergleich.empty()) {
         std::vector<double> verhaeltnisse;
         for (std::size_t i = 0; i < z.eigene.size(); ++i)
             verhaeltnisse.push_back(z.eigene[i] / z.vergleich[i]);
         const double median = Median(verhaeltnisse);
-        text += Paar("vergleich", z.vergleich) + ", \"verhaeltnis\": " + std::to_string(median);
+        text += Zeitenpaar("vergleich", z.vergleich) + ", \"verhaeltnis\": " + std::to_string(median);
         if (z.ziel.art == Ziel::Art::Verhaeltnis) gemessen = median;
     }
     if (z.ziel.art != Ziel::Art::Keins) {
