@@ -28,14 +28,14 @@ ENDE
 
 pruefe() { # FOLDER CONFIGURATION
     find "$aus/$1" -name '*.cpp' -print0 | xargs -0 -P "$(nproc)" -n 1 clang-tidy --quiet -p "$aus/$1" \
-        --config-file="$2" --checks=-bugprone-suspicious-include 2>&1 | { grep -v 'warnings generated' || true; }
+        --config-file="$2" --checks=-bugprone-suspicious-include 2>&1 | { grep -v 'warnings generated' || true; } |
+        tee -a "$aus/gefunden.txt"
 }
 cd "$wurzel"
-{
-    pruefe kern .clang-tidy
-    pruefe fenster ui/.clang-tidy
-} | tee "$aus/gefunden.txt"
-if grep -qE '(warning|error):' "$aus/gefunden.txt"; then
+gut=1
+pruefe kern .clang-tidy || gut=0
+pruefe fenster ui/.clang-tidy || gut=0
+if [ $gut = 0 ] || grep -qE '(warning|error):' "$aus/gefunden.txt"; then
     echo "clang-tidy hat etwas gefunden." >&2
     exit 1
 fi

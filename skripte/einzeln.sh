@@ -9,7 +9,9 @@ python3 - build/debug <<'ENDE'
 import collections, concurrent.futures, json, os, pathlib, re, subprocess, sys
 
 bau = pathlib.Path(sys.argv[1]).resolve()
-befehle = [b for b in json.loads((bau / "compile_commands.json").read_text()) if "/build/" not in b["file"]]
+befehle = [b for b in json.loads((bau / "compile_commands.json").read_text()) if bau not in pathlib.Path(b["file"]).parents]
+if not befehle:
+    sys.exit(f"{bau} names no sources.")
 raeume = collections.defaultdict(list)
 for b in befehle:
     if raum := re.search(r"CMakeFiles/(zrw_(?:geo|model|input|output|ui))\.dir/", b["command"]):
