@@ -6,8 +6,7 @@ void Bildorte::SucheOrt(PunktIndex nr) {
     if (const auto w = netz_.Weltort(nr)) {
         NimmOrt(nr, ansicht_.Bildort(*w));
     } else {
-        s_.bekannt[nr] = true;
-        s_.orte[nr] = {kKeiner, 0};
+        orte_[nr] = {kKeiner, 0};
     }
 }
 

@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <limits>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -39,65 +38,66 @@ namespace zrw {
 }
 
 // --- Many of them
+/// Half the memory of a `Bildpunkt`.
+struct NaherOrt {
+    std::int32_t x;
+    std::int32_t y;
+};
+
 /// Memory for the positions of one picture, to be used again by the next: fresh pages cost more than a redraw
 /// of a few figures.
-struct Ortsspeicher {
-    /// Half the memory of a `Bildpunkt`; without initial values: what is not known is not read.
-    struct Platz {
-        std::int32_t x;
-        std::int32_t y;
-    };
-    std::unique_ptr<Platz[]> orte;
-    std::vector<bool> bekannt;
-};
+using Ortsspeicher = std::vector<NaherOrt>;
 
 /// The points of a network by internal number. Both arguments stay as they are while it is in use.
 class Bildorte {
   public:
     /// @param speicher used while it is in use; null: memory of its own
     Bildorte(const Netz& netz, const Ansicht& ansicht, Ortsspeicher* speicher = nullptr)
-        : netz_(netz), ansicht_(ansicht), s_(speicher != nullptr ? *speicher : eigener_) {
-        if (s_.orte == nullptr)
-            s_.orte = std::make_unique_for_overwrite<Ortsspeicher::Platz[]>(kMaxPunkte + 1);
-        s_.bekannt.assign(kMaxPunkte + 1, false);
+        : netz_(netz), ansicht_(ansicht), orte_(speicher != nullptr ? *speicher : eigener_) {
+        orte_.assign(kMaxPunkte + 1, {kOffen, 0});
     }
     Bildorte(const Bildorte&) = delete;
     Bildorte& operator=(const Bildorte&) = delete;
 
     /// What is known already, of the newest point of the number.
     void NimmOrt(PunktIndex nr, Bildpunkt ort) {
-        s_.bekannt[nr] = true;
         const bool nah = Nah(ort.x) && Nah(ort.y);
-        s_.orte[nr] =
-            nah ? Platz{static_cast<std::int32_t>(ort.x), static_cast<std::int32_t>(ort.y)} : Platz{kFern, 0};
+        orte_[nr] = nah ? NaherOrt{static_cast<std::int32_t>(ort.x), static_cast<std::int32_t>(ort.y)}
+                        : NaherOrt{kFern, 0};
     }
     /// Prefetches the place of a number.
-    void HoleOrtVor(PunktIndex nr) const { HoleVor(&s_.orte[nr]); }
+    void HoleOrtVor(PunktIndex nr) const { HoleVor(&orte_[nr]); }
     /// Of the newest point of the number, nothing where there is none.
     [[nodiscard]] std::optional<Bildpunkt> FindeOrt(PunktIndex nr) {
-        if (!s_.bekannt[nr]) SucheOrt(nr);
-        const Platz ort = s_.orte[nr];
+        if (orte_[nr].x == kOffen) SucheOrt(nr);
+        const NaherOrt ort = orte_[nr];
         if (ort.x > kFern) return Bildpunkt{ort.x, ort.y};
         if (ort.x == kKeiner) return std::nullopt;
         return ansicht_.Bildort(*netz_.Weltort(nr));
     }
-    /// The same where it is known already and near; nothing else.
-    [[nodiscard]] std::optional<Bildpunkt> Bekannt(PunktIndex nr) const {
-        if (!s_.bekannt[nr] || s_.orte[nr].x <= kFern) return std::nullopt;
-        return Bildpunkt{s_.orte[nr].x, s_.orte[nr].y};
+    /// The same where it is known already and near, within 2^29; null for all else.
+    [[nodiscard]] const NaherOrt* Bekannt(PunktIndex nr) const {
+        constexpr std::uint32_t kNah = std::uint32_t{1} << 29U;
+        const NaherOrt& ort = orte_[nr];
+        const auto v = [](std::int32_t x) { return static_cast<std::uint32_t>(x) + kNah; };
+        return (v(ort.x) | v(ort.y)) < 2 * kNah ? &ort : nullptr;
     }
     [[nodiscard]] Bildpunkt Anfang(const PunktKante& k) {
+        if (const NaherOrt* ort = Bekannt(k.ANr)) return {ort->x, ort->y};
         return FindeOrt(k.ANr).value_or(k.Item->Position());
     }
-    [[nodiscard]] Bildpunkt Ende(const PunktKante& k) { return FindeOrt(k.ENr).value_or(k.Item->Ende()); }
+    [[nodiscard]] Bildpunkt Ende(const PunktKante& k) {
+        if (const NaherOrt* ort = Bekannt(k.ENr)) return {ort->x, ort->y};
+        return FindeOrt(k.ENr).value_or(k.Item->Ende());
+    }
     [[nodiscard]] Bildpunkt Text(const PunktString& t) {
         return FindeOrt(t.TNr).value_or(t.Item->Position());
     }
 
   private:
-    using Platz = Ortsspeicher::Platz;
-    // In place of a position: there is no such point; it lies beyond 32 bits.
-    static constexpr std::int32_t kKeiner = std::numeric_limits<std::int32_t>::min();
+    // In place of a position: not known yet; there is no such point; it lies beyond 32 bits.
+    static constexpr std::int32_t kOffen = std::numeric_limits<std::int32_t>::min();
+    static constexpr std::int32_t kKeiner = kOffen + 1;
     static constexpr std::int32_t kFern = kKeiner + 1;
 
     [[nodiscard]] static bool Nah(std::int64_t v) {
@@ -109,7 +109,7 @@ class Bildorte {
     const Netz& netz_;
     const Ansicht& ansicht_;
     Ortsspeicher eigener_;
-    Ortsspeicher& s_;
+    Ortsspeicher& orte_;
 };
 
 /// Whether everything in the network lies `weg` [px] farther in the view `nachher` than in `vorher`, so that

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 
 #include "model/Ganzzahl.h"
 #include "model/Vorabruf.h"
@@ -17,6 +18,9 @@ namespace {
 constexpr std::size_t kVoraus = 12;
 /// So many lines or labels are looked over before they are drawn; more lie in the picture for the most part.
 constexpr std::size_t kWenige = 16384;
+
+/// How far from a covered point a line may end that is hidden with it [px].
+constexpr std::int32_t kUmgebung = 12;
 
 template <class Knoten>
 void HoleKnotenVor(const Knoten* knoten) {
@@ -40,16 +44,25 @@ void FuerAlle(const std::vector<Knoten*>& knoten, bool aeltesteZuerst, Tun tun) 
 }  // namespace
 
 Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
-                       const Reichweiten& reichweiten, Ortsspeicher& speicher)
+                       const Reichweiten& reichweiten, Bildspeicher& speicher)
     : v_(v),
       flaeche_(flaeche),
       zeichner_(zeichner),
       r_(reichweiten),
       gezeigt_(v.netz, v.darstellung),
-      orte_(v.netz, v.ansicht, &speicher),
+      orte_(v.netz, v.ansicht, &speicher.orte),
       linien_(Bereich(r_.kante)),
       symbole_(Bereich(r_.symbol)),
-      nummern_(Bereich(r_.textrand)) {
+      nummern_(Bereich(r_.textrand)),
+      kanten_(speicher.kanten),
+      punkte_(speicher.punkte),
+      punktorte_(speicher.punktorte),
+      texte_(speicher.texte),
+      umgeben_(speicher.umgeben) {
+    kanten_.clear();
+    punkte_.clear();
+    punktorte_.clear();
+    texte_.clear();
     // A text stands right of its corner and below it.
     nummern_.links -= r_.textweite;
     nummern_.oben -= r_.texthoehe;
@@ -135,6 +148,7 @@ void Bildaufbau::SammleFiguren() {
 bool Bildaufbau::Dicht() const {
     constexpr double kJePunkt = 60.0;  ///< symbol and lines
     constexpr double kJeNummer = 130.0;
+    constexpr double kLohnend = 5.0;  ///< less is drawn over sooner than asked for
     const Rechteck a = flaeche_.Ausschnitt();
     std::int64_t links = a.rechts;
     std::int64_t oben = a.unten;
@@ -153,13 +167,14 @@ bool Bildaufbau::Dicht() const {
     const double flaeche =
         std::max(static_cast<double>(rechts - links + 1) * static_cast<double>(unten - oben + 1), 10000.0);
     const double jePunkt = (kanten_.empty() ? 20.0 : kJePunkt) + (texte_.empty() ? 0.0 : kJeNummer);
-    return punkte * jePunkt > flaeche_.LohnendeTiefe() * flaeche;
+    return punkte * jePunkt > kLohnend * flaeche;
 }
 
 void Bildaufbau::ZeichnePunkte(bool vonVorn) {
+    if (vonVorn) umgeben_.assign(kMaxPunkte + 1, false);
     FuerAlle(punkte_, vonVorn, [&](std::size_t i) {
         const Bildpunkt ort = punktorte_[i];
-        if (vonVorn && Verdeckt(ort, ort, r_.symbol)) return;
+        if (vonVorn && flaeche_.Verdeckt(Umgebung(ort, ort, r_.symbol))) return MerkeUmgebung(*punkte_[i]);
         if (v_.darstellung.Stile != nullptr) zeichner_.SetzeStil(v_.StilVon(*punkte_[i]));
         punkte_[i]->Item->ZeigeSymbolBei(ort, zeichner_);
     });
@@ -191,6 +206,27 @@ void Bildaufbau::ZeichneKanten() {
     }
 }
 
+/// Most points have several lines, and what is round the point hides short ones without a further look.
+void Bildaufbau::MerkeUmgebung(const PunktKnoten& p) {
+    const NaherOrt* ort = orte_.Bekannt(p.PNr);
+    if (ort == nullptr) return;
+    const auto r = static_cast<std::int32_t>(r_.kante) + kUmgebung;
+    umgeben_[p.PNr] = flaeche_.Verdeckt({ort->x - r, ort->y - r, ort->x + r, ort->y + r});
+}
+
+/// Everything of a line is covered, or lies beside what is drawn.
+inline bool Bildaufbau::Unsichtbar(std::uint32_t kante, const Weltkasten& dort) const {
+    const Punktenden enden = v_.netz.Enden(kante);
+    const NaherOrt* a = orte_.Bekannt(enden.a);
+    const NaherOrt* e = orte_.Bekannt(enden.e);
+    if (a == nullptr || e == nullptr) return !v_.netz.BeruehrtVielleicht(enden, dort);
+    if (umgeben_[enden.a] && std::abs(a->x - e->x) <= kUmgebung && std::abs(a->y - e->y) <= kUmgebung)
+        return true;
+    const auto r = static_cast<std::int32_t>(r_.kante);
+    return flaeche_.Verdeckt({std::min(a->x, e->x) - r, std::min(a->y, e->y) - r, std::max(a->x, e->x) + r,
+                              std::max(a->y, e->y) + r});
+}
+
 /// Most lines of a dense picture are covered: that shows from their points, without a look at the lines.
 void Bildaufbau::ZeichneKantenVonVorn() {
     const Bildlage lage = v_.ansicht.Lage();
@@ -204,12 +240,7 @@ void Bildaufbau::ZeichneKantenVonVorn() {
         }
         std::size_t anzahl = 0;
         while (i-- > bis) {
-            const Punktenden enden = v_.netz.Enden(kanten_[i]);
-            const auto a = orte_.Bekannt(enden.a);
-            const auto e = orte_.Bekannt(enden.e);
-            const bool unsichtbar =
-                a && e ? Verdeckt(*a, *e, r_.kante) : !v_.netz.BeruehrtVielleicht(enden, dort);
-            if (unsichtbar) continue;
+            if (Unsichtbar(kanten_[i], dort)) continue;
             naechste[anzahl] = &v_.netz.KanteNach(kanten_[i]);
             HoleKnotenVor(naechste[anzahl++]);
         }
@@ -229,15 +260,11 @@ void Bildaufbau::ZeichneTexte(bool vonVorn) {
     });
 }
 
-/// Nothing of a shape between two positions would be seen behind what is there.
-bool Bildaufbau::Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const {
-    return flaeche_.Verdeckt(Umgebung(a, b, r));
-}
-
 void Bildaufbau::ZeichneNetz() {
     SammleFiguren();
     if (zeichner_.NurPixel() && Dicht() && flaeche_.BeginneVonVorn()) {
         ZeichneTexte(true);
+        flaeche_.BeendeSchicht();
         ZeichnePunkte(true);
         ZeichneKantenVonVorn();
         flaeche_.BeendeVonVorn();

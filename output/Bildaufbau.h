@@ -15,6 +15,16 @@ namespace zrw {
 
 class Figurenzeichner;
 
+/// Memory of one picture, to be used again by the next.
+struct Bildspeicher {
+    Ortsspeicher orte;
+    std::vector<std::uint32_t> kanten;
+    std::vector<PPunktKnoten> punkte;
+    std::vector<Bildpunkt> punktorte;
+    std::vector<PPunktString> texte;
+    std::vector<bool> umgeben;
+};
+
 class Bildaufbau {
   public:
     /// How far figures reach beyond their positions [px].
@@ -28,7 +38,7 @@ class Bildaufbau {
 
     /// @param speicher kept from one picture to the next
     Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzeichner& zeichner,
-               const Reichweiten& reichweiten, Ortsspeicher& speicher);
+               const Reichweiten& reichweiten, Bildspeicher& speicher);
 
     void ZeichneNetz();
 
@@ -44,7 +54,8 @@ class Bildaufbau {
     void ZeichneKantenVonVorn();
     void ZeichnePunkte(bool vonVorn);
     void ZeichneTexte(bool vonVorn);
-    [[nodiscard]] bool Verdeckt(Bildpunkt a, Bildpunkt b, std::int64_t r) const;
+    void MerkeUmgebung(const PunktKnoten& p);
+    [[nodiscard]] bool Unsichtbar(std::uint32_t kante, const Weltkasten& dort) const;
     [[nodiscard]] static bool BeruehrtBereich(Bildpunkt a, Bildpunkt b, const Bildbereich& r);
     [[nodiscard]] Bildbereich Bereich(std::int64_t rand) const;
 
@@ -59,10 +70,11 @@ class Bildaufbau {
     Bildbereich symbole_;
     Bildbereich nummern_;
     // What may have to be drawn, newest first.
-    std::vector<std::uint32_t> kanten_;  ///< by `Folge`
-    std::vector<PPunktKnoten> punkte_;
-    std::vector<Bildpunkt> punktorte_;  ///< of those
-    std::vector<PPunktString> texte_;
+    std::vector<std::uint32_t>& kanten_;  ///< by `Folge`
+    std::vector<PPunktKnoten>& punkte_;
+    std::vector<Bildpunkt>& punktorte_;  ///< of those
+    std::vector<PPunktString>& texte_;
+    std::vector<bool>& umgeben_;  ///< by number: everything round a point is covered
 };
 
 }  // namespace zrw

@@ -1,8 +1,12 @@
 // Which pixels of a picture are set already, for drawing from the front to the back: what lies behind is then
-// never drawn at all. One bit per pixel, and for tiles of 64 x 8 pixels a count of the free ones, so that a
-// figure behind full tiles is left out as a whole.
+// never drawn at all. One bit per pixel, and for blocks of 64 x 8 pixels a count of the free ones, so that a
+// figure behind full blocks is left out as a whole.
+//
+// Several cores may cover pixels at a time, each in areas of its own of whole blocks, `kLaufhoehe` rows high
+// from the top; and one may ask meanwhile what is hidden.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -24,7 +28,7 @@ class Deckung {
         const std::uint64_t bit = std::uint64_t{1} << (x % 64);
         if ((bits_[i] & bit) != 0) return false;
         bits_[i] |= bit;
-        if (--frei_[(y / kKachelhoehe) * spalten_ + x / 64] == 0) Voll(x / 64, y / kKachelhoehe);
+        if (--frei_[(y / kBlockhoehe) * spalten_ + x / 64] == 0) Voll(x / 64, y / kBlockhoehe);
         return true;
     }
     /// Covers pixels of one word of a row, x = 64 * `spalte` + bit. @return those that were free
@@ -33,9 +37,9 @@ class Deckung {
         const std::uint64_t neu = pixel & ~wort;
         if (neu == 0) return 0;
         wort |= neu;
-        std::uint16_t& frei = frei_[(y / kKachelhoehe) * spalten_ + spalte];
+        std::uint16_t& frei = frei_[(y / kBlockhoehe) * spalten_ + spalte];
         frei = static_cast<std::uint16_t>(frei - Anzahl(neu));
-        if (frei == 0) Voll(spalte, y / kKachelhoehe);
+        if (frei == 0) Voll(spalte, y / kBlockhoehe);
         return neu;
     }
     /// Which pixels of a row are covered, from `x` on, one bit each.
@@ -45,10 +49,17 @@ class Deckung {
         return bit == 0 ? wort[0] : wort[0] >> bit | wort[1] << (64 - bit);
     }
     /// Everything in the rectangle is covered, or outside `ausschnitt`.
-    [[nodiscard]] bool Verdeckt(const Rechteck& r) const;
+    [[nodiscard]] bool Verdeckt(const Rechteck& r) const {
+        const Rechteck sicht = Geschnitten(r, ausschnitt_);
+        return Leer(sicht) || VolleBloecke(sicht);
+    }
+
+    /// [px]
+    static constexpr std::size_t kLaufhoehe = 128;
 
   private:
-    static constexpr std::size_t kKachelhoehe = 8;
+    static constexpr std::size_t kBlockhoehe = 8;
+    static constexpr std::size_t kReihenJeLauf = kLaufhoehe / kBlockhoehe;
 
     /// Bits that are set, in parallel sums: the compiler's own call is a library function on plain machines.
     [[nodiscard]] static unsigned Anzahl(std::uint64_t v) {
@@ -57,15 +68,21 @@ class Deckung {
         v = (v + (v >> 4U)) & 0x0F0F0F0F0F0F0F0FU;
         return static_cast<unsigned>(v * 0x0101010101010101U >> 56U);
     }
+    [[nodiscard]] bool VolleBloecke(const Rechteck& r) const;
     void Voll(std::size_t spalte, std::size_t reihe);
+    /// Others may be asking: an old answer does, but it must be one.
+    static std::atomic_ref<std::uint16_t> Gemeinsam(const std::uint16_t& v) {
+        return std::atomic_ref(const_cast<std::uint16_t&>(v));  // NOLINT: read only where it was const
+    }
 
     bool aktiv_ = false;
     Rechteck ausschnitt_;
     std::size_t spalten_ = 0;
     std::size_t reihen_ = 0;
     std::vector<std::uint64_t> bits_;
-    std::vector<std::uint16_t> frei_;  ///< free pixels of each tile
-    std::vector<std::uint16_t> tief_;  ///< full tiles from each tile downwards without a gap
+    std::vector<std::uint16_t> frei_;  ///< free pixels of each block
+    std::vector<std::uint16_t>
+        tief_;  ///< full blocks from each one downwards without a gap, up to the run's end
 };
 
 }  // namespace zrw

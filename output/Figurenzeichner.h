@@ -15,6 +15,7 @@
 #include "model/Zeichenzeilen.h"
 #include "model/Zeichner.h"
 #include "model/ergebnisse/Figurenstile.h"
+#include "output/Bildaufbau.h"
 #include "output/DXFUnit.h"
 #include "output/Kantenbild.h"
 #include "output/Plotdatei.h"
@@ -104,7 +105,7 @@ class Figurenzeichner final : public Zeichner {
     const Einstellungen& einstellungen_;
     const Netzangaben& netz_;
     const Uhr& uhr_;
-    Ortsspeicher speicher_;
+    Bildspeicher speicher_;
     std::int32_t stilzuwachs_ = 0;     ///< how much larger figures were drawn for it [px]
     const Figurstil* stil_ = nullptr;  ///< of the figures that come next; null: their own
     // The key: counted when the whole picture is drawn, and drawn again with its parts.

@@ -5,126 +5,111 @@
 namespace zrw {
 namespace {
 
-/// So many things of each tile wait before they are drawn: enough to pay for fetching its pixels, and few
-/// enough to lie beside them in the cache.
-constexpr std::size_t kWartendeJeKachel = 2048;
-
 /// From the corner of a tile.
 Rechteck InKachel(const Rechteck& r, const Rechteck& kachel) {
     return {r.links - kachel.links, r.oben - kachel.oben, r.rechts - kachel.links, r.unten - kachel.oben};
 }
 
+/// Beside the tile, or behind what is there.
+template <class Ziel>
+bool Unsichtbar(const Rechteck& r, const Ziel& ziel) {
+    return Leer(Geschnitten(r, ziel.bereich)) || ziel.Verdeckt(r);
+}
+
 }  // namespace
 
-Glattbild::Glattbild(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, double dichte,
-                     unsigned helfer)
-    : bild_(bild),
-      weite_(weite),
-      hoehe_(hoehe),
-      zeile_(zeile),
-      dichte_(dichte),
-      helfer_(std::make_unique<Zeilenhelfer>(helfer)) {
-    SetzeAusschnitt({0, 0, weite - 1, hoehe - 1});
-}
-
-void Glattbild::SetzeAusschnitt(const Rechteck& r) {
+void Glattbild::BindeAn(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, double dichte,
+                        unsigned helfer) {
     SchliesseAb();
-    ausschnitt_ = r;
-    TeileInKacheln();
-}
-
-void Glattbild::TeileInKacheln() {
-    kacheln_.clear();
-    spalten_ = 0;
-    if (Leer(ausschnitt_)) return;
-    const Rechteck& a = ausschnitt_;
-    for (std::int32_t y = a.oben; y <= a.unten; y += kKachelhoehe) {
-        spalten_ = 0;
-        for (std::int32_t x = a.links; x <= a.rechts; x += kKachelweite, ++spalten_) {
-            kacheln_.emplace_back().bereich = {x, y, std::min(x + kKachelweite - 1, a.rechts),
-                                               std::min(y + kKachelhoehe - 1, a.unten)};
-        }
-    }
-}
-
-/// Calls `tun(tile)` for those that touch the rectangle.
-template <class Kacheln, class Tun>
-void Glattbild::FuerKacheln(Kacheln& kacheln, const Rechteck& r, Tun tun) const {
-    const Rechteck teil = Geschnitten(r, ausschnitt_);
-    if (Leer(teil)) return;
-    const auto spalte = [&](std::int32_t x) {
-        return static_cast<std::size_t>((x - ausschnitt_.links) / kKachelweite);
-    };
-    const auto reihe = [&](std::int32_t y) {
-        return static_cast<std::size_t>((y - ausschnitt_.oben) / kKachelhoehe);
-    };
-    for (std::size_t y = reihe(teil.oben); y <= reihe(teil.unten); ++y) {
-        for (std::size_t x = spalte(teil.links); x <= spalte(teil.rechts); ++x)
-            tun(kacheln[y * spalten_ + x]);
-    }
-}
-
-void Glattbild::VerteileAuftrag(const Auftrag& a, const Rechteck& umfang) {
-    FuerKacheln(kacheln_, umfang, [&](Kachel& k) {
-        k.auftraege.push_back(a);
-        ++wartende_;
-    });
-    if (wartende_ >= kWartendeJeKachel * kacheln_.size()) SchliesseAb();
+    bild_ = bild;
+    weite_ = weite;
+    hoehe_ = hoehe;
+    zeile_ = zeile;
+    dichte_ = dichte;
+    vorn_.reset();
+    vorderseiten_.clear();
+    kacheln_.TeileInKacheln(weite, hoehe, helfer);
 }
 
 void Glattbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
-    VerteileAuftrag({{r.links, r.oben}, {.nach = {r.rechts, r.unten}}, farbe, Art::Rechteck, 0}, r);
+    kacheln_.VerteileAuftrag(1, r, [&](Auftrag* ziel) {
+        *ziel = {{r.links, r.oben}, {.nach = {r.rechts, r.unten}}, farbe, Art::Rechteck, 0};
+    });
+}
+
+/// Field by field: an order that is put together first and copied as a whole takes several times as long.
+inline void Glattbild::SchreibeStrich(Auftrag& a, const Linienstueck& s, std::uint32_t farbe,
+                                      std::uint8_t breite) {
+    a.von = s.von;
+    a.nach = s.nach;
+    a.farbe = farbe;
+    a.art = s.gestrichelt ? Art::Gestrichelt : Art::Strich;
+    a.breite = breite;
+}
+
+std::uint8_t Glattbild::Stiftbreite(std::int32_t breite) {
+    constexpr std::int32_t kBreitester = 255;
+    return static_cast<std::uint8_t>(std::clamp(breite, 1, kBreitester));
 }
 
 void Glattbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, std::int32_t breite,
                       bool gestrichelt) {
-    constexpr std::int32_t kBreitester = 255;
-    const auto stift = static_cast<std::uint8_t>(std::clamp(breite, 1, kBreitester));
-    const Auftrag a{von, {.nach = nach}, farbe, gestrichelt ? Art::Gestrichelt : Art::Strich, stift};
-    const Rechteck umfang = Strichumfang(a);
-    if (umfang.rechts - umfang.links <= kKachelweite || umfang.unten - umfang.oben <= kKachelhoehe)
-        return VerteileAuftrag(a, umfang);
-    VerteileLangen(a, umfang);
+    const std::uint8_t stift = Stiftbreite(breite);
+    kacheln_.FuerStrich(von, nach, Strichrand(stift), [&](const Rechteck& r) {
+        kacheln_.VerteileAuftrag(1, r, [&](Auftrag* ziel) {
+            SchreibeStrich(*ziel, {von, nach, gestrichelt}, farbe, stift);
+        });
+    });
 }
 
-/// A long stroke goes to the tiles that it runs through, not to all that its rectangle covers.
-void Glattbild::VerteileLangen(const Auftrag& a, const Rechteck& umfang) {
-    const double steigung =
-        (static_cast<double>(a.nach.x) - a.von.x) / (static_cast<double>(a.nach.y) - a.von.y);
-    const auto rand = static_cast<std::int32_t>(dichte_ * a.breite) + 2;
-    const Rechteck sicht = Geschnitten(umfang, ausschnitt_);
-    if (Leer(sicht)) return;
-    // Its place in each row of tiles, from a little above to a little below.
-    for (std::int32_t y = sicht.oben - (sicht.oben - ausschnitt_.oben) % kKachelhoehe; y <= sicht.unten;
-         y += kKachelhoehe) {
-        const auto stelle = [&](std::int32_t zeile) {
-            const std::int32_t dort = std::clamp(zeile, umfang.oben, umfang.unten);
-            return a.von.x + steigung * (static_cast<double>(dort) - a.von.y);
-        };
-        const auto [links, rechts] = std::minmax({stelle(y - rand), stelle(y + kKachelhoehe + rand)});
-        const Rechteck zeile{
-            static_cast<std::int32_t>(std::clamp<double>(links - rand, sicht.links, sicht.rechts)),
-            std::max(y, sicht.oben),
-            static_cast<std::int32_t>(std::clamp<double>(rechts + rand, sicht.links, sicht.rechts)),
-            std::min(y + kKachelhoehe - 1, sicht.unten)};
-        if (links - rand <= sicht.rechts && rechts + rand >= sicht.links) VerteileAuftrag(a, zeile);
+void Glattbild::Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe, std::int32_t breite) {
+    const Rechteck r = Umfang(stuecke);
+    if (!Beisammen(r)) {
+        for (const Linienstueck& s : stuecke)
+            Linie(s.von, s.nach, farbe, breite, s.gestrichelt);
+        return;
     }
+    const std::uint8_t stift = Stiftbreite(breite);
+    const std::int32_t rand = Strichrand(stift);
+    const auto schreibe = [&](Auftrag* ziel) {
+        for (const Linienstueck& s : stuecke)
+            SchreibeStrich(*ziel++, s, farbe, stift);
+    };
+    kacheln_.VerteileAuftrag(stuecke.size(), {r.links - rand, r.oben - rand, r.rechts + rand, r.unten + rand},
+                             schreibe);
 }
 
 void Glattbild::Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t farbe) {
-    VerteileAuftrag({ort, {.maske = &maske}, farbe, Art::Maske, 0}, maske.Umfang(ort));
+    const Maskenort m{&maske, ort};
+    Masken({&m, 1}, farbe);
+}
+
+void Glattbild::Masken(std::span<const Maskenort> masken, std::uint32_t farbe) {
+    Rechteck r = kKeinRechteck;
+    for (const Maskenort& m : masken)
+        r = Vereint(r, m.maske->Umfang(m.ort));
+    kacheln_.VerteileAuftrag(masken.size(), r, [&](Auftrag* ziel) {
+        for (const Maskenort& m : masken) {
+            ziel->von = m.ort;
+            ziel->maske = m.maske;
+            ziel->farbe = farbe;
+            ziel->art = Art::Maske;
+            ++ziel;
+        }
+    });
 }
 
 Rechteck Glattbild::Strichumfang(const Auftrag& a) const {
-    const auto rand = static_cast<std::int32_t>(dichte_ * a.breite) + 2;
+    const std::int32_t rand = Strichrand(a.breite);
     return {std::min(a.von.x, a.nach.x) - rand, std::min(a.von.y, a.nach.y) - rand,
             std::max(a.von.x, a.nach.x) + rand, std::max(a.von.y, a.nach.y) + rand};
 }
 
 /// @param ecke of the surface where the target has its first pixel
 template <class Ziel>
-void Glattbild::ZeichneAuftraege(const Kachel& k, Flaechenpunkt ecke, const Ziel& ziel) const {
-    for (Auftrag a : k.auftraege) {
+void Glattbild::ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke,
+                                 const Ziel& ziel) const {
+    for (Auftrag a : auftraege) {
         a.von = {a.von.x - ecke.x, a.von.y - ecke.y};
         if (a.art < Art::Maske) a.nach = {a.nach.x - ecke.x, a.nach.y - ecke.y};
         switch (a.art) {
@@ -133,34 +118,25 @@ void Glattbild::ZeichneAuftraege(const Kachel& k, Flaechenpunkt ecke, const Ziel
                 break;
             case Art::Strich:
             case Art::Gestrichelt:
-                if (ziel.Verdeckt(Strichumfang(a))) break;
+                if (Unsichtbar(Strichumfang(a), ziel)) break;
                 ZieheLinie(a.von, a.nach, dichte_ * a.breite, a.art == Art::Strich ? 0.0 : dichte_, a.farbe,
                            ziel);
                 break;
             case Art::Maske:
-                if (ziel.Verdeckt(a.maske->Umfang(a.von))) break;
+                if (Unsichtbar(a.maske->Umfang(a.von), ziel)) break;
                 SetzeMaske(*a.maske, a.von, a.farbe, ziel);
                 break;
         }
     }
 }
 
-void Glattbild::ZeichneKachel(Kachel& k) {
-    const Rechteck& r = k.bereich;
-    if (vonVorn_) {
-        ZeichneAuftraege(
-            k, {r.links, r.oben},
-            Dahinter{k.vorn, kKachelweite, {0, 0, r.rechts - r.links, r.unten - r.oben}, k.deckung});
-    } else {
-        ZeichneAuftraege(k, {}, Darueber{bild_, zeile_, r});
-    }
-    k.auftraege.clear();
-}
-
-void Glattbild::SchliesseAb() {
-    if (wartende_ == 0) return;
-    wartende_ = 0;
-    helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) { ZeichneKachel(kacheln_[i]); });
+void Glattbild::ZeichneKachel(std::size_t kachel, std::span<const Auftrag> auftraege) {
+    const Rechteck r = kacheln_.Bereich(kachel);
+    if (!vonVorn_) return ZeichneAuftraege(auftraege, {}, Darueber{bild_, zeile_, r});
+    const Rechteck ganz = kacheln_.GanzeKachel(kachel);
+    Vorderseite& vorn = vorderseiten_[kachel];
+    ZeichneAuftraege(auftraege, {ganz.links, ganz.oben},
+                     Dahinter{vorn.pixel, kKachelweite, InKachel(r, ganz), vorn.deckung});
 }
 
 // --- From the front ---------------------------------------------------------------------------------------
@@ -171,18 +147,18 @@ bool Glattbild::BeginneVonVorn() {
     SchliesseAb();
     vonVorn_ = true;
     if (vorn_ == nullptr) {
-        // As many tiles as any part of the picture has. Memory that is not written to costs nothing.
-        const auto jeReihe = static_cast<std::size_t>((weite_ + kKachelweite - 1) / kKachelweite);
-        const auto reihen = static_cast<std::size_t>((hoehe_ + kKachelhoehe - 1) / kKachelhoehe);
-        const std::size_t bytes = jeReihe * reihen * kKachelpixel * sizeof(std::uint32_t);
+        // Memory that is not written to costs nothing.
+        const std::size_t bytes = kacheln_.Anzahl() * kKachelpixel * sizeof(std::uint32_t);
         vorn_.reset(static_cast<std::uint32_t*>(NimmSpeicher(bytes, bytes)));
+        vorderseiten_.resize(kacheln_.Anzahl());
     }
-    helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) {
-        Kachel& k = kacheln_[i];
-        const Rechteck ganz{0, 0, k.bereich.rechts - k.bereich.links, k.bereich.unten - k.bereich.oben};
-        k.deckung.BeginneDeckung(ganz.rechts + 1, ganz.unten + 1, ganz);
-        k.vorn = vorn_.get() + i * kKachelpixel;
-        std::fill_n(k.vorn, static_cast<std::size_t>(ganz.unten + 1) * kKachelweite, 0U);
+    kacheln_.FuerAlleZugleich([this](std::size_t i) {
+        Vorderseite& v = vorderseiten_[i];
+        const Rechteck r = InKachel(kacheln_.Bereich(i), kacheln_.GanzeKachel(i));
+        v.deckung.BeginneDeckung(kKachelweite, kKachelhoehe, r);
+        v.pixel = vorn_.get() + i * kKachelpixel;
+        std::fill(v.pixel + static_cast<std::size_t>(r.oben) * kKachelweite,
+                  v.pixel + static_cast<std::size_t>(r.unten + 1) * kKachelweite, 0U);
     });
     return true;
 }
@@ -190,21 +166,23 @@ bool Glattbild::BeginneVonVorn() {
 void Glattbild::BeendeVonVorn() {
     SchliesseAb();
     vonVorn_ = false;
-    helfer_->TueTeile(kacheln_.size(), [this](std::size_t i) {
-        const Rechteck& r = kacheln_[i].bereich;
-        const std::int32_t weite = r.rechts - r.links + 1;
-        const std::uint32_t* vorn = kacheln_[i].vorn;
+    kacheln_.FuerAlleZugleich([this](std::size_t i) {
+        const Rechteck r = kacheln_.Bereich(i);
+        const Rechteck dort = InKachel(r, kacheln_.GanzeKachel(i));
+        const std::uint32_t* vorn =
+            vorderseiten_[i].pixel + static_cast<std::size_t>(dort.oben) * kKachelweite + dort.links;
         for (std::int32_t y = r.oben; y <= r.unten; ++y, vorn += kKachelweite)
             MischeUnter(vorn, bild_ + static_cast<std::size_t>(y) * zeile_ + r.links,
-                        static_cast<std::size_t>(weite));
+                        static_cast<std::size_t>(r.rechts - r.links + 1));
     });
 }
 
 bool Glattbild::Verdeckt(const Rechteck& r) const {
     if (!vonVorn_) return false;
     bool verdeckt = true;
-    FuerKacheln(kacheln_, r,
-                [&](const Kachel& k) { verdeckt = verdeckt && k.deckung.Verdeckt(InKachel(r, k.bereich)); });
+    kacheln_.FuerKacheln(r, [&](std::size_t i) {
+        verdeckt = verdeckt && vorderseiten_[i].deckung.Verdeckt(InKachel(r, kacheln_.GanzeKachel(i)));
+    });
     return verdeckt;
 }
 

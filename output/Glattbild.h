@@ -14,8 +14,8 @@
 #include "model/GrosserSpeicher.h"
 #include "output/Deckung.h"
 #include "output/Glattpinsel.h"
+#include "output/Kachelwerk.h"
 #include "output/Zeichenflaeche.h"
-#include "output/Zeilenhelfer.h"
 
 namespace zrw {
 
@@ -24,20 +24,29 @@ class Glattbild {
     Glattbild() = default;
     /// @param bild first pixel of the top row @param zeile pixels from one row to the next
     /// @param dichte width of a pen of width 1, and of a pixel of its dashes [px]
-    Glattbild(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, double dichte, unsigned helfer);
+    void BindeAn(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, double dichte,
+                 unsigned helfer);
 
     /// Pixels outside keep their colour. Lies in the picture.
-    void SetzeAusschnitt(const Rechteck& r);
+    void SetzeAusschnitt(const Rechteck& r) { kacheln_.SetzeAusschnitt(r); }
 
     // What is drawn. It may wait until the next `SchliesseAb`.
     void FuelleRechteck(const Rechteck& r, std::uint32_t farbe);
     /// Ends lie within 2^30.
     void Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, std::int32_t breite,
                bool gestrichelt);
+    /// The same for many that lie beside each other.
+    void Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe, std::int32_t breite);
     /// @param maske outlives the next `SchliesseAb`
     void Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t farbe);
+    /// The same for many that lie beside each other.
+    struct Maskenort {
+        const Deckmaske* maske;
+        Flaechenpunkt ort;
+    };
+    void Masken(std::span<const Maskenort> masken, std::uint32_t farbe);
     /// Everything so far is in the picture.
-    void SchliesseAb();
+    void SchliesseAb() { kacheln_.SchliesseAb(); }
 
     // From the front to the back: what is drawn goes behind what was drawn since the beginning.
     /// @return false: the picture is too large to be kept twice
@@ -56,34 +65,30 @@ class Glattbild {
     struct Auftrag {
         Flaechenpunkt von;
         union {
-            Flaechenpunkt nach;
+            Flaechenpunkt nach = {};
             const Deckmaske* maske;
         };
         std::uint32_t farbe;
         Art art;
         std::uint8_t breite;  ///< of the pen
     };
-    static constexpr std::int32_t kKachelweite = 512;
-    static constexpr std::int32_t kKachelhoehe = 128;
     static constexpr std::size_t kKachelpixel = std::size_t{kKachelweite} * kKachelhoehe;
-    /// What one core draws at a time.
-    struct Kachel {
-        Rechteck bereich;
-        std::vector<Auftrag> auftraege;
-        // While drawing from the front, from the corner of the tile: what is covered, and colours times their
-        // share, which stands in the highest byte, in rows of `kKachelweite`.
+    /// While drawing from the front, from the corner of the tile: what is covered, and colours times their
+    /// share, which stands in the highest byte, in rows of `kKachelweite`.
+    struct Vorderseite {
         Deckung deckung;
-        std::uint32_t* vorn = nullptr;
+        std::uint32_t* pixel = nullptr;
     };
 
-    void VerteileAuftrag(const Auftrag& a, const Rechteck& umfang);
-    void VerteileLangen(const Auftrag& a, const Rechteck& umfang);
-    void TeileInKacheln();
-    template <class Kacheln, class Tun>
-    void FuerKacheln(Kacheln& kacheln, const Rechteck& r, Tun tun) const;
-    void ZeichneKachel(Kachel& k);
+    void ZeichneKachel(std::size_t kachel, std::span<const Auftrag> auftraege);
     template <class Ziel>
-    void ZeichneAuftraege(const Kachel& k, Flaechenpunkt ecke, const Ziel& ziel) const;
+    void ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke, const Ziel& ziel) const;
+    static void SchreibeStrich(Auftrag& a, const Linienstueck& s, std::uint32_t farbe, std::uint8_t breite);
+    [[nodiscard]] static std::uint8_t Stiftbreite(std::int32_t breite);
+    /// How far a stroke reaches to each side [px].
+    [[nodiscard]] std::int32_t Strichrand(int breite) const {
+        return static_cast<std::int32_t>(dichte_ * breite) + 2;
+    }
     [[nodiscard]] Rechteck Strichumfang(const Auftrag& a) const;
 
     std::uint32_t* bild_ = nullptr;
@@ -91,13 +96,11 @@ class Glattbild {
     int hoehe_ = 0;
     std::size_t zeile_ = 0;
     double dichte_ = 1.0;
-    Rechteck ausschnitt_;
-    std::unique_ptr<Zeilenhelfer> helfer_;
-    std::vector<Kachel> kacheln_;  ///< row by row
-    std::size_t spalten_ = 0;      ///< tiles in a row
-    std::size_t wartende_ = 0;
     bool vonVorn_ = false;
     std::unique_ptr<std::uint32_t, Speichergabe> vorn_;  ///< of all tiles
+    std::vector<Vorderseite> vorderseiten_;              ///< of each tile
+    Kachelwerk<Auftrag> kacheln_{
+        [this](std::size_t kachel, std::span<const Auftrag> a) { ZeichneKachel(kachel, a); }};
 };
 
 }  // namespace zrw

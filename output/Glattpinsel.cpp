@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <type_traits>
 #include <utility>
 
 namespace zrw {
@@ -343,6 +344,19 @@ void SetzeMaske(const Deckmaske& m, Flaechenpunkt ort, std::uint32_t farbe, cons
     const Rechteck umfang = m.Umfang(ort);
     const Rechteck teil = Geschnitten(umfang, ziel.bereich);
     const bool innen = umfang.links >= ziel.bereich.links && umfang.rechts + kVier - 1 <= ziel.bereich.rechts;
+    if constexpr (std::is_same_v<Ziel, Darueber>) {
+        // Nothing to be asked of any pixel: those that are not covered come out as they were.
+        if (innen) {
+            std::uint32_t* zeile =
+                ziel.pixel + static_cast<std::size_t>(teil.oben) * ziel.zeile + umfang.links;
+            for (std::int64_t y = teil.oben; y <= teil.unten; ++y, zeile += ziel.zeile) {
+                const Acht* vier = m.Vierer(static_cast<std::size_t>(y - umfang.oben));
+                for (std::int64_t x = 0; x < umfang.rechts - umfang.links + 1; x += kVier)
+                    ziel.SetzeVier(zeile + x, y, vierfarbe, *vier++);
+            }
+            return;
+        }
+    }
     for (std::int64_t y = teil.oben; y <= teil.unten; ++y) {
         const auto zeile = static_cast<std::size_t>(y - umfang.oben);
         const Acht* vierer = m.Vierer(zeile);

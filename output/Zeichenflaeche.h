@@ -61,10 +61,10 @@ class Zeichenflaeche {
     // Drawing from the front to the back: until the end, what is drawn goes behind what was drawn since the
     // beginning. Most surfaces cannot: they paint one thing over the other.
     virtual bool BeginneVonVorn() { return false; }
-    /// How many times over what is drawn has to cover its area for that to be the quicker way.
-    [[nodiscard]] virtual double LohnendeTiefe() const { return 3.0; }
     virtual void BeendeVonVorn() {}
     [[nodiscard]] virtual bool VonVorn() const { return false; }
+    /// What was drawn so far lies before much of what comes: `Verdeckt` is to know all of it.
+    virtual void BeendeSchicht() {}
     /// Nothing that is drawn into the rectangle now would be seen.
     [[nodiscard]] virtual bool Verdeckt(const Rechteck& /*r*/) const { return false; }
 

@@ -30,41 +30,67 @@ void Zeilenhelfer::BeginneHelfer() {
     }
 }
 
-/// Takes parts until none is left. The lock is held but while a part is being done.
-void Zeilenhelfer::NimmTeile(std::unique_lock<std::mutex>& schloss) {
-    while (naechster_ < anzahl_) {
-        const std::size_t teil = naechster_++;
-        schloss.unlock();
-        (*tun_)(teil);
-        schloss.lock();
-        if (--offen_ == 0) getan_.notify_all();
-    }
+/// The lock is held but while the part is being done.
+void Zeilenhelfer::TueErsten(std::unique_lock<std::mutex>& schloss) {
+    const Teil teil = wartende_.front();
+    wartende_.pop_front();
+    ++begonnen_;
+    schloss.unlock();
+    (*teil.tun)(teil.nummer);
+    schloss.lock();
+    --begonnen_;
+    if (jemandWartet_) getan_.notify_all();
 }
 
 void Zeilenhelfer::Hilf() {
     std::unique_lock schloss(mutex_);
     while (!ende_) {
-        NimmTeile(schloss);
-        arbeit_.wait(schloss, [this] { return ende_ || naechster_ < anzahl_; });
+        while (!wartende_.empty())
+            TueErsten(schloss);
+        ++schlafende_;
+        arbeit_.wait(schloss, [this] { return ende_ || !wartende_.empty(); });
+        --schlafende_;
     }
 }
 
-void Zeilenhelfer::TueTeile(std::size_t anzahl, const std::function<void(std::size_t)>& tun) {
-    if (helfer_ == 0 || anzahl < 2) {
-        for (std::size_t i = 0; i < anzahl; ++i)
-            tun(i);
-        return;
-    }
+void Zeilenhelfer::GibTeil(std::size_t teil, const Arbeit& tun) {
     BeginneHelfer();
+    if (helfer_ == 0) return tun(teil);
+    bool wecken = false;
+    {
+        const std::scoped_lock schloss(mutex_);
+        wartende_.push_back({teil, &tun});
+        wecken = schlafende_ > 0;
+    }
+    if (wecken) arbeit_.notify_one();
+}
+
+void Zeilenhelfer::TueEinen() {
     std::unique_lock schloss(mutex_);
-    tun_ = &tun;
-    anzahl_ = anzahl;
-    naechster_ = 0;
-    offen_ = anzahl;
-    arbeit_.notify_all();
-    NimmTeile(schloss);
-    getan_.wait(schloss, [this] { return offen_ == 0; });
-    anzahl_ = 0;
+    if (!wartende_.empty()) return TueErsten(schloss);
+    if (begonnen_ == 0) return;
+    jemandWartet_ = true;
+    getan_.wait(schloss, [this, n = begonnen_] { return begonnen_ < n || !wartende_.empty(); });
+    jemandWartet_ = false;
+}
+
+void Zeilenhelfer::TueAlle() {
+    std::unique_lock schloss(mutex_);
+    while (!wartende_.empty() || begonnen_ > 0) {
+        if (!wartende_.empty()) {
+            TueErsten(schloss);
+            continue;
+        }
+        jemandWartet_ = true;
+        getan_.wait(schloss, [this] { return begonnen_ == 0 || !wartende_.empty(); });
+        jemandWartet_ = false;
+    }
+}
+
+void Zeilenhelfer::TueTeile(std::size_t anzahl, const Arbeit& tun) {
+    for (std::size_t i = 0; i < anzahl; ++i)
+        GibTeil(i, tun);
+    TueAlle();
 }
 
 }  // namespace zrw

@@ -12,11 +12,14 @@ namespace zrw {
 class Rasterflaeche final : public Zeichenflaeche {
   public:
     Rasterflaeche(int weite, int hoehe)
-        : weite_(weite),
-          pixel_(static_cast<std::size_t>(weite) * static_cast<std::size_t>(hoehe), 0xFFFFFFU),
-          bild_(pixel_.data(), weite, hoehe, static_cast<std::size_t>(weite)) {}
+        : pixel_(static_cast<std::size_t>(weite) * static_cast<std::size_t>(hoehe), 0xFFFFFFU) {
+        bild_.BindeAn(pixel_.data(), weite, hoehe, static_cast<std::size_t>(weite), 1);
+    }
 
-    [[nodiscard]] const std::vector<std::uint32_t>& Pixel() const { return pixel_; }
+    [[nodiscard]] const std::vector<std::uint32_t>& Pixel() {
+        bild_.SchliesseAb();
+        return pixel_;
+    }
     [[nodiscard]] Pixelbild& Bild() { return bild_; }
     void SetzeAusschnitt(const Rechteck& r) { bild_.SetzeAusschnitt(r); }
 
@@ -29,6 +32,7 @@ class Rasterflaeche final : public Zeichenflaeche {
         return true;
     }
     void BeendeVonVorn() override { bild_.BeendeVonVorn(); }
+    void BeendeSchicht() override { bild_.SchliesseAb(); }
     [[nodiscard]] bool VonVorn() const override { return bild_.VonVorn(); }
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
         verdeckt += bild_.Verdeckt(r) ? 1 : 0;
@@ -36,7 +40,7 @@ class Rasterflaeche final : public Zeichenflaeche {
     }
 
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override {
-        bild_.Linie(von, nach, AktuellerStift().farbe.wert, AktuellerStift().art);
+        bild_.Linie(von, nach, AktuellerStift().farbe.wert, AktuellerStift().art == Strichart::Gestrichelt);
     }
     void ZeichneRechteck(const Rechteck& r) override { Ellipse(r); }
     void Ellipse(const Rechteck& u) override {
@@ -58,20 +62,15 @@ class Rasterflaeche final : public Zeichenflaeche {
         Block(r, AktuellerPinsel().farbe.wert);
         if (!bild_.VonVorn()) rand();
     }
-    void FuelleRechteck(const Rechteck& r, Farbe farbe) override {
-        const Rechteck a = Ausschnitt();
-        for (int y = std::max(r.oben, a.oben); y <= std::min(r.unten, a.unten); ++y) {
-            for (int x = std::max(r.links, a.links); x <= std::min(r.rechts, a.rechts); ++x)
-                pixel_[static_cast<std::size_t>(y * weite_ + x)] = farbe.wert;
-        }
-    }
+    void FuelleRechteck(const Rechteck& r, Farbe farbe) override { bild_.FuelleRechteck(r, farbe.wert); }
     void Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) override {
         for (const char c : text) {
             Pixelmaske m(0, 0, 6, kSchrift);
             for (int i = 0; i < 6 * kSchrift; ++i) {
                 if ((static_cast<unsigned char>(c) * 37 + i * 11) % 5 < 2) m.SetzePixel(i % 6, i / 6);
             }
-            bild_.Maske(m, ort.x, ort.y, farbe.wert);
+            bild_.Maske(m, ort, farbe.wert);
+            bild_.SchliesseAb();
             ort.x += 6;
         }
     }
@@ -95,10 +94,10 @@ class Rasterflaeche final : public Zeichenflaeche {
             for (int x = 0; x < m.weite; ++x)
                 m.SetzePixel(x, y);
         }
-        bild_.Maske(m, r.links, r.oben, farbe);
+        bild_.Maske(m, {r.links, r.oben}, farbe);
+        bild_.SchliesseAb();
     }
 
-    int weite_;
     std::vector<std::uint32_t> pixel_;
     Pixelbild bild_;
 };

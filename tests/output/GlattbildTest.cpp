@@ -11,8 +11,8 @@
 namespace zrw {
 namespace {
 
-constexpr int kBlattweite = 160;
-constexpr int kBlatthoehe = 200;
+constexpr int kBlattweite = 700;  ///< some tiles
+constexpr int kBlatthoehe = 300;
 constexpr std::uint32_t kLeer = 0xFFFFFFFF;
 constexpr std::uint32_t kTinte = 0xFF000000;
 
@@ -21,8 +21,9 @@ struct Blatt {
         std::vector<std::uint32_t>(std::size_t{kBlattweite} * kBlatthoehe, kLeer);
     Glattbild bild;
 
-    explicit Blatt(double dichte = 1.0, unsigned helfer = 0)
-        : bild(pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, dichte, helfer) {}
+    explicit Blatt(double dichte = 1.0, unsigned helfer = 0) {
+        bild.BindeAn(pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, dichte, helfer);
+    }
     [[nodiscard]] std::uint32_t Pixel(int x, int y) const {
         return pixel[static_cast<std::size_t>(y) * kBlattweite + static_cast<std::size_t>(x)];
     }
@@ -42,7 +43,7 @@ void ZeichneZufall(Glattbild& b, const Deckmaske& maske, unsigned saat, bool mit
     const auto zahl = [&](int von, int bis) {
         return von + static_cast<int>(zufall() % static_cast<unsigned>(bis - von + 1));
     };
-    for (int i = 0; i < 600; ++i) {
+    for (int i = 0; i < 8000; ++i) {
         const int weit = i % 50 == 0 ? 100000000 : 60;
         const int x = zahl(-40, kBlattweite + 40);
         const int y = zahl(-40, kBlatthoehe + 40);
@@ -113,8 +114,8 @@ TEST(Glattbild, SamePixelsFromAnyCoresAndParts) {
         mehrere.bild.SchliesseAb();
         EXPECT_EQ(mehrere.pixel, einer.pixel);
         Blatt stueckweise(dichte);
-        for (const Rechteck r : {Rechteck{0, 0, 90, 70},
-                                 {91, 0, kBlattweite - 1, 70},
+        for (const Rechteck r : {Rechteck{0, 0, 520, 70},
+                                 {521, 0, kBlattweite - 1, 70},
                                  {0, 71, kBlattweite - 1, 73},
                                  {0, 74, kBlattweite - 1, kBlatthoehe - 1}}) {
             stueckweise.bild.SetzeAusschnitt(r);

@@ -11,6 +11,10 @@ namespace zrw {
 class Bildflaeche final : public Pixelflaeche {
   public:
     Bildflaeche(int weite, int hoehe);
+    /// Helpers may still be drawing into the picture.
+    ~Bildflaeche() override { SchliesseAb(); }
+    Bildflaeche(const Bildflaeche&) = delete;
+    Bildflaeche& operator=(const Bildflaeche&) = delete;
 
     /// The picture as it stands.
     [[nodiscard]] const QImage& Bild() const {

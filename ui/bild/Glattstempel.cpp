@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "output/Pixelbild.h"
+#include "output/Pixelmaske.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "output/Pixelbild.h"
+#include "output/Pixelmaske.h"
 #include "ui/Umwandlung.h"
 
 namespace zrw {

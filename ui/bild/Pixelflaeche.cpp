@@ -1,8 +1,8 @@
 #include "ui/bild/Pixelflaeche.h"
 
+#include <QFontInfo>
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "output/Abschneiden.h"
@@ -21,14 +21,20 @@ std::uint32_t Pixelfarbe(Farbe f) {
     return 0xFF000000U | (f.wert & 0xFFU) << 16U | (f.wert & 0xFF00U) | (f.wert >> 16U & 0xFFU);
 }
 
-/// The pixels of one colour.
-Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
+/// What is not white in a picture.
+QRect Gemaltes(const QImage& bild) {
     QRect grenzen;
     for (int y = 0; y < bild.height(); ++y) {
         for (int x = 0; x < bild.width(); ++x) {
-            if (bild.pixel(x, y) == farbe) grenzen |= QRect(x, y, 1, 1);
+            if (bild.pixel(x, y) != qRgb(255, 255, 255)) grenzen |= QRect(x, y, 1, 1);
         }
     }
+    return grenzen;
+}
+
+/// The pixels of one colour, in the frame of all that are painted.
+Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
+    const QRect grenzen = Gemaltes(bild);
     Pixelmaske maske(grenzen.x() - null.x(), grenzen.y() - null.y(), grenzen.width(), grenzen.height());
     for (int y = 0; y < grenzen.height(); ++y) {
         for (int x = 0; x < grenzen.width(); ++x) {
@@ -38,73 +44,19 @@ Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
     return maske;
 }
 
-/// A short text: its glyphs with their places, gathered into the rows of one mask, so that each row is set at
-/// once.
-class Textzeile {
-  public:
-    static constexpr std::size_t kMeisteZeichen = 24;
-
-    /// @return false: it does not fit in here
-    [[nodiscard]] bool NimmGlyphe(const Pixelmaske& m, int vorschub) {
-        const int links = stelle_ + m.links;
-        stelle_ += vorschub;
-        if (m.worte.empty()) return true;
-        if (anzahl_ == kMeisteZeichen || m.weite > 64) return false;
-        glyphen_[anzahl_++] = {&m, links};
-        links_ = std::min(links_, links);
-        rechts_ = std::max(rechts_, links + m.weite - 1);
-        oben_ = std::min(oben_, m.oben);
-        unten_ = std::max(unten_, m.oben + m.hoehe - 1);
-        return true;
+/// Characters small enough for masks of their font.
+bool ZeichenPassen(const QFont& schrift) {
+    constexpr int kSicher = 16;  ///< [px]
+    constexpr int kGroesste = Glyphensatz::kGroesste - 2 * kMaskenrand;
+    if (QFontInfo(schrift).pixelSize() <= kSicher) return true;
+    const QFontMetrics masse(schrift);
+    for (int c = 0; c < 256; ++c) {
+        const char zeichen = static_cast<char>(c);
+        const QRect r = masse.boundingRect(AusNetz({&zeichen, 1}));
+        if (r.width() > kGroesste || r.height() > kGroesste) return false;
     }
-    [[nodiscard]] bool PasstInMaske() const { return rechts_ - links_ < kWeite && unten_ - oben_ < kHoehe; }
-    [[nodiscard]] bool Leer() const { return anzahl_ == 0; }
-    [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
-        return {ort.x + links_, ort.y + oben_, ort.x + rechts_, ort.y + unten_};
-    }
-    void SetzeInBild(Pixelbild& bild, Flaechenpunkt ort, std::uint32_t farbe) const {
-        constexpr std::size_t kMeisteWorte = std::size_t{kWeite / 64} * kHoehe;
-        const std::size_t worte = static_cast<std::size_t>(rechts_ - links_) / 64 + 1;
-        std::array<std::uint64_t, kMeisteWorte> bits;
-        const std::size_t hoehe = static_cast<std::size_t>(unten_ - oben_) + 1;
-        std::fill_n(bits.begin(), worte * hoehe, 0);
-        for (std::size_t n = 0; n < anzahl_; ++n) {
-            const Pixelmaske& m = *glyphen_[n].maske;
-            const auto x = static_cast<std::size_t>(glyphen_[n].links - links_);
-            const auto bit = static_cast<unsigned>(x % 64);
-            std::size_t ziel = static_cast<std::size_t>(m.oben - oben_) * worte + x / 64;
-            if (worte == 1) {
-                std::uint64_t* zeile = bits.data() + ziel;
-                for (const std::uint64_t wort : m.worte)
-                    *zeile++ |= wort << bit;
-                continue;
-            }
-            for (const std::uint64_t zeile : m.worte) {
-                bits[ziel] |= zeile << bit;
-                if (bit != 0 && x / 64 + 1 < worte) bits[ziel + 1] |= zeile >> (64U - bit);
-                ziel += worte;
-            }
-        }
-        bild.Block({bits.data(), worte * hoehe}, worte, std::int64_t{ort.x} + links_,
-                   std::int64_t{ort.y} + oben_, farbe);
-    }
-
-  private:
-    static constexpr int kWeite = 192;
-    static constexpr int kHoehe = 64;
-    struct Platz {
-        const Pixelmaske* maske;
-        int links;
-    };
-
-    std::array<Platz, kMeisteZeichen> glyphen_;
-    std::size_t anzahl_ = 0;
-    int stelle_ = 0;
-    int links_ = std::numeric_limits<int>::max();
-    int oben_ = std::numeric_limits<int>::max();
-    int rechts_ = std::numeric_limits<int>::min();
-    int unten_ = std::numeric_limits<int>::min();
-};
+    return true;
+}
 
 }  // namespace
 
@@ -113,9 +65,9 @@ void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild, double dichte) {
     // The rows belong to the picture alone here, so that asking for them copies nothing.
     auto* zeilen = reinterpret_cast<std::uint32_t*>(bild.bits());
     const auto zeile = static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t);
-    pixel_ = Pixelbild(zeilen, bild.width(), bild.height(), zeile);
+    pixel_.BindeAn(zeilen, bild.width(), bild.height(), zeile, helfer_);
     glattstempel_.SetzeDichte(dichte);
-    glattbild_ = Glattbild(zeilen, bild.width(), bild.height(), zeile, dichte, helfer_);
+    glattbild_.BindeAn(zeilen, bild.width(), bild.height(), zeile, dichte, helfer_);
     stempel_.clear();
     breite_.clear();
     schrifthoehe_ = Schrifthoehe();
@@ -154,21 +106,16 @@ bool Pixelflaeche::BeginneVonVorn() {
     return true;
 }
 
-/// Smooth pixels become full late, and keeping what is free of each takes longer than drawing over it.
-double Pixelflaeche::LohnendeTiefe() const {
-    constexpr double kGlatt = 5.0;
-    return Glaettet() ? kGlatt : Malerflaeche::LohnendeTiefe();
-}
-
 void Pixelflaeche::BeendeVonVorn() {
     if (Glaettet()) return glattbild_.BeendeVonVorn();
     pixel_.BeendeVonVorn();
 }
 
 void Pixelflaeche::SetzeSchriften(const QFont& eckige, const QFont& glatte) {
-    glyphen_.fill({});
-    halos_.fill({});
-    zeichenweise_ = !eckige.kerning() && eckige.hintingPreference() == QFont::PreferFullHinting;
+    for (const Zeichenform form : {Zeichenform::Blank, Zeichenform::MitRand})
+        pixel_.VergissZeichen(form);
+    zeichenweise_ =
+        !eckige.kerning() && eckige.hintingPreference() == QFont::PreferFullHinting && ZeichenPassen(eckige);
     eckigeSchrift_ = eckige;
     glatteSchrift_ = glatte;
     glattstempel_.SetzeSchrift(glatte, zeichenweise_);
@@ -178,7 +125,7 @@ void Pixelflaeche::SetzeSchriften(const QFont& eckige, const QFont& glatte) {
 
 /// Nothing shines through what is drawn from the front: overlays come afterwards.
 void Pixelflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
-    if (Glaettet()) SchliesseAb();
+    SchliesseAb();
     Malerflaeche::FuelleDurchscheinend(ecken, farbe, prozent);
 }
 
@@ -197,11 +144,11 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
     }
     const auto breite = static_cast<int>(std::lround(stift.breite * dichte_));
     if (breite <= 1) {
-        pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art);
+        pixel_.Linie(von, nach, Pixelfarbe(stift.farbe), stift.art == Strichart::Gestrichelt);
     } else if (dichte_ != 1.0) {
-        BreiteLinie(von, nach, breite, stift.farbe, stift.art);
+        BreiteLinie(von, nach, breite, stift.farbe, stift.art == Strichart::Gestrichelt);
     } else if (const Pixelmaske* maske = BreiterStrich(von, nach)) {
-        pixel_.Maske(*maske, von.x, von.y, Pixelfarbe(stift.farbe));
+        pixel_.Maske(*maske, von, Pixelfarbe(stift.farbe));
     } else {
         MaleLinie(von, nach);
     }
@@ -209,26 +156,22 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 
 void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) {
     if (!schnell_) return Malerflaeche::Linien(stuecke, farbe, breite);
-    if (glatt_) {
-        for (const Linienstueck& s : stuecke)
-            glattbild_.Linie(s.von, s.nach, Pixelfarbe(farbe), breite, s.gestrichelt);
-        return;
-    }
+    if (glatt_) return glattbild_.Linien(stuecke, Pixelfarbe(farbe), breite);
     const auto dots = static_cast<int>(std::lround(breite * dichte_));
     if (dots <= 1) return pixel_.Linien(stuecke, Pixelfarbe(farbe));
     for (const Linienstueck& s : stuecke)
-        BreiteLinie(s.von, s.nach, dots, farbe, s.gestrichelt ? Strichart::Gestrichelt : Strichart::Voll);
+        BreiteLinie(s.von, s.nach, dots, farbe, s.gestrichelt);
 }
 
 /// Beside each other across the longer axis, as the thin ones are set.
 void Pixelflaeche::BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, Farbe farbe,
-                               Strichart art) {
+                               bool gestrichelt) {
     const bool senkrecht =
         std::llabs(std::int64_t{nach.x} - von.x) < std::llabs(std::int64_t{nach.y} - von.y);
     for (int i = -(breite / 2); i < breite - breite / 2; ++i) {
         const Flaechenpunkt weg = senkrecht ? Flaechenpunkt{i, 0} : Flaechenpunkt{0, i};
         pixel_.Linie({von.x + weg.x, von.y + weg.y}, {nach.x + weg.x, nach.y + weg.y}, Pixelfarbe(farbe),
-                     art);
+                     gestrichelt);
     }
 }
 
@@ -320,7 +263,10 @@ const Pixelflaeche::Stempel& Pixelflaeche::SucheStempel(Form form, std::span<con
         });
         if (gleich) return s;
     }
-    if (stempel_.size() == kMeisteStempel) stempel_.clear();
+    if (stempel_.size() == kMeisteStempel) {
+        SchliesseAb();
+        stempel_.clear();
+    }
     return stempel_.emplace_back(PraegeStempel(form, ecken));
 }
 
@@ -339,23 +285,23 @@ bool Pixelflaeche::StempeleForm(Form form, std::span<const Flaechenpunkt> ecken)
     if (Glaettet() && AktuellerStift() == Stift{AktuellerStift().farbe, 1, Strichart::Voll} &&
         StempeleGlatt(form, ecken))
         return true;
-    if (Glaettet()) SchliesseAb();
+    const auto klein = [&](Flaechenpunkt p) {
+        return std::abs(std::int64_t{p.x} - ecken[0].x) <= kGroessterPixelstempel &&
+               std::abs(std::int64_t{p.y} - ecken[0].y) <= kGroessterPixelstempel;
+    };
     if (!schnell_ || glatt_ || ecken.empty() ||
-        AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll})
+        AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll} ||
+        !std::all_of(ecken.begin(), ecken.end(), klein)) {
+        SchliesseAb();  // the painter draws over it
         return false;
-    for (const Flaechenpunkt& p : ecken) {
-        if (std::abs(std::int64_t{p.x} - ecken[0].x) > kGroessterPixelstempel ||
-            std::abs(std::int64_t{p.y} - ecken[0].y) > kGroessterPixelstempel)
-            return false;
     }
     const Stempel& s = SucheStempel(form, ecken);
-    const auto fuelle = [&] {
-        if (!s.leer) pixel_.Maske(s.fuellung, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerPinsel().farbe));
-    };
-    const bool vonVorn = pixel_.VonVorn();
-    if (!vonVorn) fuelle();
-    pixel_.Maske(s.rand, ecken[0].x, ecken[0].y, Pixelfarbe(AktuellerStift().farbe));
-    if (vonVorn) fuelle();
+    const std::uint32_t farbe = Pixelfarbe(AktuellerStift().farbe);
+    if (s.leer) {
+        pixel_.Maske(s.rand, ecken[0], farbe);
+    } else {
+        pixel_.Stempel(s.rand, s.fuellung, ecken[0], farbe, Pixelfarbe(AktuellerPinsel().farbe));
+    }
     return true;
 }
 
@@ -373,27 +319,26 @@ void Pixelflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
     if (!StempeleForm(Form::Vieleck, ecken)) Malerflaeche::Vieleck(ecken);
 }
 
-const Pixelglyphe& Pixelflaeche::NeuesZeichen(char c) const {
-    auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
-    glyphe.emplace();
+void Pixelflaeche::PraegeZeichen(char c, Zeichenform form) {
     const std::string_view text(&c, 1);
-    glyphe->vorschub = Malerflaeche::Textbreite(text);
+    const int vorschub = Malerflaeche::Textbreite(text);
     const int hoehe = Texthoehe() + 2 * kMaskenrand;
     const QPoint null(kMaskenrand + hoehe, kMaskenrand);  // italics reach far beside their advance
-    QImage bild(glyphe->vorschub + 2 * null.x(), hoehe, QImage::Format_RGB32);
+    QImage bild(vorschub + 2 * null.x(), hoehe, QImage::Format_RGB32);
     bild.fill(Qt::white);
     QPainter maler(&bild);
     Malerflaeche(maler, {0, 0, bild.width() - 1, bild.height() - 1}, Schrift())
         .Text({null.x(), null.y()}, text, kSchwarz);
     maler.end();
-    glyphe->maske = MaskeVon(bild, qRgb(0, 0, 0), null);
-    return *glyphe;
+    const Pixelmaske maske = MaskeVon(bild, qRgb(0, 0, 0), null);
+    pixel_.NimmZeichen(form, c, form == Zeichenform::Blank ? maske : Verbreitert(maske, halorand_), vorschub);
 }
 
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (Glaettet()) return GlatterText(ort, text, farbe);
-    if (!SetztZeichen()) return Malerflaeche::Text(ort, text, farbe);
-    SetzeZeile(ort, text, farbe, [this](char c) -> const Pixelmaske& { return Zeichen(c).maske; });
+    if (SetztZeichen()) return SetzeZeile(ort, text, farbe, Zeichenform::Blank);
+    SchliesseAb();
+    Malerflaeche::Text(ort, text, farbe);
 }
 
 void Pixelflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
@@ -408,33 +353,18 @@ void Pixelflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe f
         SetzeGlatteZeile(ort, text, randfarbe,
                          [&](char c) -> const Deckmaske& { return glattstempel_.Halo(c, rand); });
     } else {
-        SetzeZeile(ort, text, randfarbe, [&](char c) -> const Pixelmaske& { return Halo(c, rand); });
+        if (std::exchange(halorand_, rand) != rand) pixel_.VergissZeichen(Zeichenform::MitRand);
+        SetzeZeile(ort, text, randfarbe, Zeichenform::MitRand);
     }
     if (!vonVorn) Text(ort, text, farbe);
 }
 
-/// @param maske mask of a character
-template <class Masken>
-void Pixelflaeche::SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske) {
-    Textzeile zeile;
-    bool lang = false;
-    for (const char c : text)
-        lang = lang || !zeile.NimmGlyphe(maske(c), Zeichen(c).vorschub);
-    if (lang || (!zeile.Leer() && !zeile.PasstInMaske())) {
-        for (const char c : text) {
-            pixel_.Maske(maske(c), ort.x, ort.y, Pixelfarbe(farbe));
-            ort.x += Zeichen(c).vorschub;
-        }
-    } else if (!zeile.Leer() && !pixel_.Verdeckt(zeile.Umfang(ort))) {
-        zeile.SetzeInBild(pixel_, ort, Pixelfarbe(farbe));
+void Pixelflaeche::SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Zeichenform form) {
+    if (pixel_.Text(ort, text, Pixelfarbe(farbe), form)) return;
+    for (const char c : text) {
+        if (!pixel_.Schrift(form).Kennt(c)) PraegeZeichen(c, form);
     }
-}
-
-const Pixelmaske& Pixelflaeche::Halo(char c, int rand) {
-    if (std::exchange(halorand_, rand) != rand) halos_.fill({});
-    auto& halo = halos_[static_cast<unsigned char>(c)];
-    if (!halo) halo = Verbreitert(Zeichen(c).maske, rand);
-    return *halo;
+    pixel_.Text(ort, text, Pixelfarbe(farbe), form);
 }
 
 void Pixelflaeche::GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
@@ -459,9 +389,16 @@ void Pixelflaeche::SetzeGlatteZeile(Flaechenpunkt ort, std::string_view text, Fa
                                  ort.y + Texthoehe() + kUeberstand}))
             return;
     }
-    for (const char c : text) {
-        glattbild_.Maske(maske(c), ort, Pixelfarbe(farbe));
-        ort.x += glattstempel_.Zeichen(c).vorschub;
+    std::array<Glattbild::Maskenort, 16> masken;
+    while (!text.empty()) {
+        const std::string_view teil = text.substr(0, masken.size());
+        text.remove_prefix(teil.size());
+        std::size_t anzahl = 0;
+        for (const char c : teil) {
+            masken[anzahl++] = {&maske(c), ort};
+            ort.x += glattstempel_.Zeichen(c).vorschub;
+        }
+        glattbild_.Masken({masken.data(), anzahl}, Pixelfarbe(farbe));
     }
 }
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include <QImage>
-#include <array>
+#include <deque>
 #include <optional>
 #include <vector>
 
@@ -16,17 +16,11 @@
 
 namespace zrw {
 
-/// A character as it is set.
-struct Pixelglyphe {
-    Pixelmaske maske;
-    int vorschub = 0;  ///< to the next character [px]
-};
-
 class Pixelflaeche : public Malerflaeche {
   public:
     /// Leaves everything to the painter, for comparison.
     void SetzeSchnell(bool schnell) { schnell_ = schnell; }
-    /// How many threads draw smooth edges beside the caller; the pixels are the same.
+    /// How many threads draw beside the caller; the pixels are the same.
     void SetzeHelfer(unsigned helfer) { helfer_ = helfer; }
     /// Restricts drawing to a part of the picture.
     void SetzeAusschnitt(const Rechteck& r);
@@ -36,8 +30,8 @@ class Pixelflaeche : public Malerflaeche {
     /// Thin lines are clipped pixel by pixel, so that they look the same whatever part of them is seen.
     [[nodiscard]] Rechteck Grenzen() const override;
     bool BeginneVonVorn() override;
-    [[nodiscard]] double LohnendeTiefe() const override;
     void BeendeVonVorn() override;
+    void BeendeSchicht() override { SchliesseAb(); }
     [[nodiscard]] bool VonVorn() const override {
         return Glaettet() ? glattbild_.VonVorn() : pixel_.VonVorn();
     }
@@ -69,7 +63,10 @@ class Pixelflaeche : public Malerflaeche {
     void SetzeKanten(bool glatt);
     [[nodiscard]] bool Glatt() const { return glatt_; }
     /// Everything that was drawn is in the picture.
-    void SchliesseAb() { glattbild_.SchliesseAb(); }
+    void SchliesseAb() {
+        pixel_.SchliesseAb();
+        glattbild_.SchliesseAb();
+    }
 
   private:
     using Form = Stempelform;
@@ -85,7 +82,7 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] bool Glaettet() const { return glatt_ && schnell_; }
     bool StempeleGlatt(Form form, std::span<const Flaechenpunkt> ecken);
     void GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe);
-    void BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, Farbe farbe, Strichart art);
+    void BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite, Farbe farbe, bool gestrichelt);
     void MaleLinie(Flaechenpunkt von, Flaechenpunkt nach);
     [[nodiscard]] const Pixelmaske* BreiterStrich(Flaechenpunkt von, Flaechenpunkt nach);
     bool StempeleForm(Form form, std::span<const Flaechenpunkt> ecken);
@@ -93,16 +90,10 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] Stempel PraegeStempel(Form form, std::span<const Flaechenpunkt> ecken) const;
     /// Whether characters are masks that are set here, not by the painter.
     [[nodiscard]] bool SetztZeichen() const;
-    template <class Masken>
-    void SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske);
+    void SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Zeichenform form);
     template <class Masken>
     void SetzeGlatteZeile(Flaechenpunkt ort, std::string_view text, Farbe farbe, Masken maske);
-    [[nodiscard]] const Pixelmaske& Halo(char c, int rand);
-    [[nodiscard]] const Pixelglyphe& Zeichen(char c) const {
-        const auto& glyphe = glyphen_[static_cast<unsigned char>(c)];
-        return glyphe ? *glyphe : NeuesZeichen(c);
-    }
-    [[nodiscard]] const Pixelglyphe& NeuesZeichen(char c) const;
+    void PraegeZeichen(char c, Zeichenform form);
 
     bool schnell_ = true;
     bool glatt_ = false;
@@ -115,12 +106,9 @@ class Pixelflaeche : public Malerflaeche {
     Pixelbild pixel_;
     Glattbild glattbild_;
     Glattstempel glattstempel_{[this] { glattbild_.SchliesseAb(); }};
-    std::vector<Stempel> stempel_;
+    std::deque<Stempel> stempel_;                    ///< what waits to be drawn stays where it is
     std::vector<std::optional<Pixelmaske>> breite_;  ///< short strokes of double width, by their direction
-    mutable std::array<std::optional<Pixelglyphe>, 256>
-        glyphen_;                                       ///< of the current font, made when first drawn
-    std::array<std::optional<Pixelmaske>, 256> halos_;  ///< of those, `halorand_` wide
-    int halorand_ = 0;
+    int halorand_ = 0;                               ///< of characters with a rim [px]
 };
 
 }  // namespace zrw

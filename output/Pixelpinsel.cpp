@@ -1,0 +1,245 @@
+#include "output/Pixelpinsel.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cassert>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <utility>
+
+namespace zrw {
+namespace {
+
+constexpr std::int64_t kStrich = 4;       ///< pixels of a dash that are set
+constexpr std::int64_t kStrichfolge = 6;  ///< pixels from one dash to the next
+/// Beyond this length steps of 1/65536 pixel would miss the far end.
+constexpr std::int64_t kLaengste = 32767;
+
+/// Quotient rounded down, and what remains.
+std::pair<std::int64_t, std::int64_t> TeileMitRest(std::int64_t a, std::int64_t b) {
+    const std::int64_t rest = (a % b + b) % b;
+    return {(a - rest) / b, rest};
+}
+
+bool LiegtIn(const Rechteck& r, Flaechenpunkt p) {
+    return p.x >= r.links && p.x <= r.rechts && p.y >= r.oben && p.y <= r.unten;
+}
+
+}  // namespace
+
+void Pixelpinsel::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) const {
+    assert(deckung == nullptr);
+    const Rechteck teil = Geschnitten(r, bereich);
+    if (Leer(teil)) return;
+    const std::int32_t weite = teil.rechts - teil.links + 1;
+    std::uint32_t* const erste = bild + static_cast<std::size_t>(teil.oben) * zeile + teil.links;
+    std::fill_n(erste, weite, farbe);
+    // Copied, not filled: compilers make vector code of the one, and a loop of the other.
+    std::uint32_t* naechste = erste;
+    for (std::int32_t y = teil.oben; y < teil.unten; ++y)
+        std::copy_n(erste, weite, naechste += zeile);
+}
+
+// --- Strokes ----------------------------------------------------------------------------------------------
+
+template <bool Senkrecht, bool Innen>
+void Pixelpinsel::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe,
+                           bool gestrichelt) const {
+    const auto laengs = [](Flaechenpunkt p) { return Senkrecht ? p.y : p.x; };
+    const auto quer = [](Flaechenpunkt p) { return Senkrecht ? p.x : p.y; };
+    const bool umgekehrt = laengs(von) > laengs(nach);
+    if (umgekehrt) std::swap(von, nach);
+    const std::int64_t anfang = laengs(von);
+    const std::int64_t ende = laengs(nach);
+    const auto laenge = static_cast<std::int32_t>(ende - anfang);
+    // Not steeper than the diagonal and at most `kLaengste`, so that 32 bits suffice.
+    const std::int64_t schritt = laenge > 0 ? (quer(nach) - quer(von)) * 65536 / laenge : 0;
+    static_assert(kLaengste * 65536 <= std::numeric_limits<std::int32_t>::max());
+    std::int64_t v = std::int64_t{quer(von)} * 65536 + (schritt > 0 ? schritt - (schritt >> 1) : 0);
+    std::int64_t m = anfang;
+    std::int64_t letztes = ende;
+    const std::int64_t querVon = Senkrecht ? bereich.links : bereich.oben;
+    const std::int64_t querBis = Senkrecht ? bereich.rechts : bereich.unten;
+    if constexpr (!Innen) {
+        m = std::max<std::int64_t>(anfang, Senkrecht ? bereich.oben : bereich.links);
+        letztes = std::min<std::int64_t>(ende, Senkrecht ? bereich.unten : bereich.rechts);
+        v += (m - anfang) * schritt;
+    }
+    for (; m <= letztes; ++m, v += schritt) {
+        if (gestrichelt && (umgekehrt ? ende - m : m - anfang) % kStrichfolge >= kStrich) continue;
+        const std::int64_t q = v >> 16;
+        if constexpr (!Innen) {
+            if (q < querVon || q > querBis) continue;
+        }
+        SetzePixel<Senkrecht>(m, q, farbe);
+    }
+}
+
+/// The same line with the exact remainder of each step, from wherever it comes into the picture.
+template <bool Senkrecht>
+void Pixelpinsel::LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe,
+                                bool gestrichelt) const {
+    const auto laengs = [](Flaechenpunkt p) { return std::int64_t{Senkrecht ? p.y : p.x}; };
+    const auto quer = [](Flaechenpunkt p) { return std::int64_t{Senkrecht ? p.x : p.y}; };
+    const bool umgekehrt = laengs(von) > laengs(nach);
+    if (umgekehrt) std::swap(von, nach);
+    const std::int64_t anfang = laengs(von);
+    const std::int64_t ende = laengs(nach);
+    const std::int64_t laenge = ende - anfang;
+    const std::int64_t anstieg = quer(nach) - quer(von);
+    const std::int64_t querVon = Senkrecht ? bereich.links : bereich.oben;
+    const std::int64_t querBis = Senkrecht ? bereich.rechts : bereich.unten;
+    std::int64_t m = std::max<std::int64_t>(anfang, Senkrecht ? bereich.oben : bereich.links);
+    const std::int64_t letztes = std::min<std::int64_t>(ende, Senkrecht ? bereich.unten : bereich.rechts);
+    // Half a step ahead where the line rises, as the short steps begin.
+    auto [weg, rest] = TeileMitRest((m - anfang) * anstieg + (anstieg > 0 ? anstieg / 2 : 0), laenge);
+    const auto [ganz, teil] = TeileMitRest(anstieg, laenge);
+    for (std::int64_t q = quer(von) + weg; m <= letztes; ++m) {
+        const bool luecke = gestrichelt && (umgekehrt ? ende - m : m - anfang) % kStrichfolge >= kStrich;
+        if (!luecke && q >= querVon && q <= querBis) SetzePixel<Senkrecht>(m, q, farbe);
+        q += ganz;
+        rest += teil;
+        if (rest >= laenge) {
+            rest -= laenge;
+            ++q;
+        }
+    }
+}
+
+void Pixelpinsel::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) const {
+    const Rechteck& s = bereich;
+    if (std::max(von.x, nach.x) < s.links || std::max(von.y, nach.y) < s.oben ||
+        std::min(von.x, nach.x) > s.rechts || std::min(von.y, nach.y) > s.unten)
+        return;
+    const std::int32_t breit = std::abs(von.x - nach.x);
+    const std::int32_t hoch = std::abs(von.y - nach.y);
+    const bool senkrecht = breit < hoch;
+    if (std::max(breit, hoch) > kLaengste) {
+        senkrecht ? LangeSchritte<true>(von, nach, farbe, gestrichelt)
+                  : LangeSchritte<false>(von, nach, farbe, gestrichelt);
+    } else if (LiegtIn(s, von) && LiegtIn(s, nach)) {
+        senkrecht ? Schritte<true, true>(von, nach, farbe, gestrichelt)
+                  : Schritte<false, true>(von, nach, farbe, gestrichelt);
+    } else {
+        senkrecht ? Schritte<true, false>(von, nach, farbe, gestrichelt)
+                  : Schritte<false, false>(von, nach, farbe, gestrichelt);
+    }
+}
+
+// --- Masks and texts --------------------------------------------------------------------------------------
+
+/// The bits among them whose pixels lie in the tile. @param x of the first one
+std::uint64_t Pixelpinsel::ImBereich(std::uint64_t bits, std::int64_t x) const {
+    if (x + 63 < bereich.links || x > bereich.rechts) return 0;
+    if (x < bereich.links) {
+        const auto fehlt = static_cast<unsigned>(bereich.links - x);
+        bits = bits >> fehlt << fehlt;
+    }
+    if (x + 63 > bereich.rechts) bits &= ~std::uint64_t{0} >> static_cast<unsigned>(x + 63 - bereich.rechts);
+    return bits;
+}
+
+/// Covers pixels of a row from `x` on. @return those that were free
+inline std::uint64_t Pixelpinsel::Freie(std::uint64_t bits, std::int64_t x, std::size_t y) const {
+    if (deckung == nullptr) return bits;
+    // In the words of the mask the bits begin in the middle; there are none left of the picture.
+    const auto bit = static_cast<unsigned>(x & 63);
+    const std::int64_t spalte = x >> 6;
+    std::uint64_t neu = 0;
+    if (bits << bit != 0) neu = deckung->DeckePixel(static_cast<std::size_t>(spalte), y, bits << bit) >> bit;
+    if (bit != 0 && bits >> (64U - bit) != 0)
+        neu |= deckung->DeckePixel(static_cast<std::size_t>(spalte + 1), y, bits >> (64U - bit))
+               << (64U - bit);
+    return neu;
+}
+
+/// Some rows of a column of words. Bit by bit: reading pixels to write four at a time takes longer, as most
+/// of them are far from the core.
+void Pixelpinsel::SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
+                              const Tinte& tinte) const {
+    const std::uint64_t drin = ImBereich(~std::uint64_t{0}, x);
+    if (drin == 0) return;
+    const auto hoehe = static_cast<std::int64_t>(b.worte.size() / b.jeZeile);
+    const std::int64_t erste = std::max<std::int64_t>(bereich.oben - y, 0);
+    const std::int64_t letzte = std::min<std::int64_t>(bereich.unten - y, hoehe - 1);
+    if (erste > letzte) return;
+    std::uint32_t* dort = bild + static_cast<std::size_t>(y + erste) * zeile;
+    const auto setze = [&](std::uint64_t bits, std::uint32_t farbe) {
+        for (; bits != 0; bits &= bits - 1)
+            dort[x + std::countr_zero(bits)] = farbe;
+    };
+    std::size_t i = static_cast<std::size_t>(erste) * b.jeZeile + spalte;
+    for (std::int64_t n = erste; n <= letzte; ++n, i += b.jeZeile, dort += zeile) {
+        const std::uint64_t rand = b.worte[i];
+        const std::uint64_t beide = (tinte.fuellung != nullptr ? rand | tinte.fuellung[i] : rand) & drin;
+        if (beide == 0) continue;
+        const std::uint64_t frei = Freie(beide, x, static_cast<std::size_t>(y + n));
+        setze(frei & rand, tinte.farbe);
+        if (tinte.fuellung != nullptr) setze(frei & ~rand, tinte.fuellfarbe);
+    }
+}
+
+void Pixelpinsel::SetzeBlock(const Block& b, std::int64_t x, std::int64_t y, const Tinte& tinte) const {
+    for (std::size_t spalte = 0; spalte < b.jeZeile; ++spalte)
+        SetzeSpalte(b, spalte, x + static_cast<std::int64_t>(spalte) * 64, y, tinte);
+}
+
+void Pixelpinsel::Maske(const Pixelmaske& maske, Flaechenpunkt ort, std::uint32_t farbe) const {
+    if (maske.worte.empty()) return;
+    SetzeBlock({maske.worte, maske.JeZeile()}, std::int64_t{ort.x} + maske.links,
+               std::int64_t{ort.y} + maske.oben, {farbe, nullptr, 0});
+}
+
+void Pixelpinsel::Stempel(const Pixelmaske& rand, const Pixelmaske& fuellung, Flaechenpunkt ort,
+                          std::uint32_t farbe, std::uint32_t fuellfarbe) const {
+    if (rand.worte.empty()) return;
+    SetzeBlock({rand.worte, rand.JeZeile()}, std::int64_t{ort.x} + rand.links,
+               std::int64_t{ort.y} + rand.oben, {farbe, fuellung.worte.data(), fuellfarbe});
+}
+
+/// Characters are gathered into words, so that each row is set at once.
+void Pixelpinsel::Text(Flaechenpunkt ort, std::string_view text, std::uint32_t farbe,
+                       const Glyphensatz& schrift) const {
+    using Zwei = std::uint64_t __attribute__((vector_size(16)));
+    constexpr int kWort = 64;
+    constexpr std::size_t kMeistePaare = Glyphensatz::kGroesste / 2;
+    const auto zeilen = static_cast<std::size_t>(schrift.Hoehe());
+    const std::size_t paare = (zeilen + 1) / 2;
+    std::array<std::array<Zwei, kMeistePaare>, 2> worte;
+    Zwei* wort = worte[0].data();
+    Zwei* naechstes = worte[1].data();
+    std::fill_n(wort, paare, Zwei{});
+    std::fill_n(naechstes, paare, Zwei{});
+    std::int64_t links = std::int64_t{ort.x} + schrift.Links();
+    const auto setze = [&] {
+        const std::span bits(reinterpret_cast<const std::uint64_t*>(wort), zeilen);
+        SetzeSpalte({bits, 1}, 0, links, std::int64_t{ort.y} + schrift.Oben(), {farbe, nullptr, 0});
+        links += kWort;
+        std::swap(wort, naechstes);
+        std::fill_n(naechstes, paare, Zwei{});
+    };
+    int stelle = -schrift.Links();
+    int bis = 0;
+    for (const char c : text) {
+        const Glyphensatz::Glyphe& g = schrift.Glyphenangaben(c);
+        int x = stelle + g.links;
+        stelle += g.vorschub;
+        if (g.leer) continue;
+        for (; x >= kWort; x -= kWort, stelle -= kWort, bis -= kWort)
+            setze();
+        bis = std::max(bis, x + g.weite);
+        const std::uint64_t* zeichen = schrift.Zeilen(c);
+        for (std::size_t i = 0; i < paare; ++i) {
+            Zwei z;
+            std::memcpy(&z, zeichen + 2 * i, sizeof z);
+            wort[i] |= z << x;
+            if (x + g.weite > kWort) naechstes[i] |= z >> (kWort - x);
+        }
+    }
+    for (; bis > 0; bis -= kWort)
+        setze();
+}
+
+}  // namespace zrw
