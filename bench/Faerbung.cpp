@@ -54,6 +54,7 @@ int MissAlles(Tabelle& tabelle) {
         liste.Stile = farben ? stile : nullptr;
         return MissZeit([&] {
             liste.ShowPicture(zeichner);
+            flaeche.SchliesseAb();
             return 0;
         });
     };

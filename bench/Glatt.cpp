@@ -1,6 +1,8 @@
 // Smooth and plain frames of the window's picture on one and two cores, in the size of two common screens,
 // beside the painter of Qt with antialiasing on the same figures.
 #include <QApplication>
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -101,23 +103,28 @@ void MissGroesse(Tabelle& tabelle, const Netzgroesse& netz, int vergroesserung) 
     Bildgroessenprobe probe(netz, vergroesserung);
     std::vector<Schritt> schritte{
         {"Maler von Qt, geglättet", 0, [&] { return probe.MissMaler(); }},
-        {"eckig", 0, [&] { return probe.MissBild(false, 0); }},
+        {"eckig, ein Kern", 0, [&] { return probe.MissBild(false, 0); }},
+        {"eckig, zwei Kerne", 0, [&] { return probe.MissBild(false, 1); }},
         {"glatt, ein Kern", 0, [&] { return probe.MissBild(true, 0); }},
         {"glatt, zwei Kerne", 0, [&] { return probe.MissBild(true, 1); }},
         {"längster Schritt beim Glätten", 0, [&] { return probe.MissAufgeben(); }},
     };
     LaufeSchritte(schritte, tabelle.runden);
     DruckeSchritte(schritte);
+    std::array<std::vector<double>, 6> zeiten;
+    std::transform(schritte.begin(), schritte.end(), zeiten.begin(),
+                   [](const Schritt& s) { return s.zeiten; });
     const std::string name = std::string("Glatt, ") + netz.name + ", " +
                              std::to_string(kWeite * vergroesserung) + " x " +
                              std::to_string(kHoehe * vergroesserung);
     const auto hoechstens = [](double grenze) { return grenze > 0 ? Hoechstwert(grenze) : Ziel{}; };
-    tabelle.NimmZeile({name + ": eckig", schritte[1].zeiten, {}, hoechstens(netz.eckig[g])});
-    tabelle.NimmZeile({name + ": ein Kern zum Maler", schritte[2].zeiten, schritte[0].zeiten, {}});
-    tabelle.NimmZeile(
-        {name + ": zwei Kerne zum Maler", schritte[3].zeiten, schritte[0].zeiten, Verhaeltnis(kZumMaler)});
-    tabelle.NimmZeile({name + ": zwei Kerne", schritte[3].zeiten, {}, hoechstens(netz.glatt[g])});
-    tabelle.NimmZeile({name + ": längster Schritt", schritte[4].zeiten, {}, Hoechstwert(kAufgeben)});
+    const auto& [maler, eckig, eckigZwei, glatt, glattZwei, schritt] = zeiten;
+    tabelle.NimmZeile({name + ": eckig, ein Kern", eckig, {}, {}});
+    tabelle.NimmZeile({name + ": eckig, zwei Kerne", eckigZwei, {}, hoechstens(netz.eckig[g])});
+    tabelle.NimmZeile({name + ": ein Kern zum Maler", glatt, maler, {}});
+    tabelle.NimmZeile({name + ": zwei Kerne zum Maler", glattZwei, maler, Verhaeltnis(kZumMaler)});
+    tabelle.NimmZeile({name + ": zwei Kerne", glattZwei, {}, hoechstens(netz.glatt[g])});
+    tabelle.NimmZeile({name + ": längster Schritt", schritt, {}, Hoechstwert(kAufgeben)});
 }
 
 int MissAlles(Tabelle& tabelle) {

@@ -43,6 +43,7 @@ void ErstesBild(const std::string& datei) {
         zrw::Figurenzeichner zeichner(zustand, e, netz.netz, uhr);
         netz.liste->ShowFL = true;
         netz.liste->ShowPicture(zeichner);
+        flaeche->SchliesseAb();
         return flaeche;
     }));
 }

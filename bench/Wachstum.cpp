@@ -57,6 +57,7 @@ class Groesse {
     void ZeichneNetz() {
         zustand_.flaeche = &flaeche_;
         netz_.liste->ShowPicture(zeichner_);
+        flaeche_.SchliesseAb();
     }
     /// With one line a point: a picture file counts at most 65535.
     void SpeichereNetz() { zrw::SchreibeBilddatei(*duenn_.liste, duenn_.netz, bilddatei_, dateien_); }
