@@ -7,10 +7,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
-#include <type_traits>
 
 namespace zrw {
-
 namespace {
 
 /// A stroke near the picture in one word.
@@ -36,6 +34,12 @@ void KopiereWorte(std::span<const std::uint64_t> worte, std::uint64_t* ziel) {
         *ziel++ = w;
         std::atomic_signal_fence(std::memory_order_seq_cst);
     }
+}
+
+/// What the next word means.
+template <class T>
+T NimmAus(const std::uint64_t*& w) {
+    return std::bit_cast<T>(*w++);
 }
 
 /// Words that a text takes.
@@ -105,7 +109,6 @@ class Pixelbild::Auftrag {
             worte_[anzahl_++] = wort;
         }
     }
-    [[nodiscard]] std::size_t Worte() const { return anzahl_ - 1; }
     [[nodiscard]] std::span<const Wort> Mit(const Kopf& kopf) {
         worte_[0] = std::bit_cast<Wort>(kopf);
         return {worte_.data(), anzahl_};
@@ -233,14 +236,12 @@ void Pixelbild::VergissZeichen(Zeichenform form) {
 
 void Pixelbild::ZeichneAuftraege(const Pixelpinsel& pinsel, std::span<const Wort> auftraege) const {
     const Wort* w = auftraege.data();
-    const auto nimm = [&]<class T>(std::type_identity<T>) { return std::bit_cast<T>(*w++); };
-    constexpr std::type_identity<Flaechenpunkt> kOrt;
     while (w != auftraege.data() + auftraege.size()) {
-        const Kopf k = nimm(std::type_identity<Kopf>{});
+        const Kopf k = NimmAus<Kopf>(w);
         switch (k.art) {
             case Art::Rechteck: {
-                const auto ecke = nimm(kOrt);
-                const auto ende = nimm(kOrt);
+                const auto ecke = NimmAus<Flaechenpunkt>(w);
+                const auto ende = NimmAus<Flaechenpunkt>(w);
                 pinsel.FuelleRechteck({ecke.x, ecke.y, ende.x, ende.y}, k.farbe);
                 break;
             }
@@ -251,24 +252,24 @@ void Pixelbild::ZeichneAuftraege(const Pixelpinsel& pinsel, std::span<const Wort
                 }
                 break;
             case Art::LangerStrich: {
-                const auto von = nimm(kOrt);
-                pinsel.Linie(von, nimm(kOrt), k.farbe, k.dashes != 0);
+                const auto von = NimmAus<Flaechenpunkt>(w);
+                pinsel.Linie(von, NimmAus<Flaechenpunkt>(w), k.farbe, k.dashes != 0);
                 break;
             }
             case Art::Maske: {
-                const auto* maske = nimm(std::type_identity<const Pixelmaske*>{});
-                pinsel.Maske(*maske, nimm(kOrt), k.farbe);
+                const auto* maske = NimmAus<const Pixelmaske*>(w);
+                pinsel.Maske(*maske, NimmAus<Flaechenpunkt>(w), k.farbe);
                 break;
             }
             case Art::Stempel: {
-                const auto* rand = nimm(std::type_identity<const Pixelmaske*>{});
-                const auto* fuellung = nimm(std::type_identity<const Pixelmaske*>{});
+                const auto* rand = NimmAus<const Pixelmaske*>(w);
+                const auto* fuellung = NimmAus<const Pixelmaske*>(w);
                 const auto fuellfarbe = static_cast<std::uint32_t>(*w++);
-                pinsel.Stempel(*rand, *fuellung, nimm(kOrt), k.farbe, fuellfarbe);
+                pinsel.Stempel(*rand, *fuellung, NimmAus<Flaechenpunkt>(w), k.farbe, fuellfarbe);
                 break;
             }
             case Art::Text: {
-                const auto ort = nimm(kOrt);
+                const auto ort = NimmAus<Flaechenpunkt>(w);
                 const std::string_view text(reinterpret_cast<const char*>(w), k.anzahl);
                 w += Textworte(k.anzahl);
                 pinsel.Text(ort, text, k.farbe, Schrift(k.form));

@@ -88,7 +88,7 @@ class Glyphensatz {
     [[nodiscard]] int Links() const { return links_; }
     /// `Hoehe()` rows, the lowest bit leftmost, and more of zeros up to an even number.
     [[nodiscard]] const std::uint64_t* Zeilen(char c) const {
-        return zeilen_.data() + std::size_t{static_cast<unsigned char>(c)} * jeGlyphe_;
+        return &zeilen_[static_cast<unsigned char>(c) * jeGlyphe_];
     }
 
   private:
