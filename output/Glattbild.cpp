@@ -63,7 +63,7 @@ void Glattbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe
 }
 
 void Glattbild::Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe, std::int32_t breite) {
-    const Rechteck r = Umfang(stuecke);
+    const Rechteck r = RahmenUm(stuecke);
     if (!Beisammen(r)) {
         for (const Linienstueck& s : stuecke)
             Linie(s.von, s.nach, farbe, breite, s.gestrichelt);

@@ -27,7 +27,7 @@ inline constexpr std::int32_t kKachelweite = 512;
 inline constexpr std::int32_t kKachelhoehe = 128;
 
 /// The rectangle round strokes.
-[[nodiscard]] inline Rechteck Umfang(std::span<const Linienstueck> stuecke) {
+[[nodiscard]] inline Rechteck RahmenUm(std::span<const Linienstueck> stuecke) {
     using VierGanze = std::int32_t __attribute__((vector_size(16)));
     VierGanze klein = VierGanze{} + std::numeric_limits<std::int32_t>::max();
     VierGanze gross = VierGanze{} + std::numeric_limits<std::int32_t>::min();

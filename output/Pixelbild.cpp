@@ -154,7 +154,7 @@ void Pixelbild::Linien(std::span<const Linienstueck> stuecke, std::uint32_t farb
 
 /// In one order, solid ones first, if they lie beside each other.
 void Pixelbild::VerteileStriche(std::span<const Linienstueck> stuecke, std::uint32_t farbe) {
-    const Rechteck r = Umfang(stuecke);
+    const Rechteck r = RahmenUm(stuecke);
     if (!Kurz(r) || !Beisammen(r)) {
         for (const Linienstueck& s : stuecke)
             VerteileLangen(s, farbe);

@@ -47,13 +47,13 @@ Pixelmaske MaskeVon(const QImage& bild, QRgb farbe, QPoint null) {
 /// Characters small enough for masks of their font.
 bool ZeichenPassen(const QFont& schrift) {
     constexpr int kSicher = 16;  ///< [px]
-    constexpr int kGroesste = Glyphensatz::kGroesste - 2 * kMaskenrand;
+    constexpr int kGroesstes = Glyphensatz::kGroesste - 2 * kMaskenrand;
     if (QFontInfo(schrift).pixelSize() <= kSicher) return true;
     const QFontMetrics masse(schrift);
     for (int c = 0; c < 256; ++c) {
         const char zeichen = static_cast<char>(c);
         const QRect r = masse.boundingRect(AusNetz({&zeichen, 1}));
-        if (r.width() > kGroesste || r.height() > kGroesste) return false;
+        if (r.width() > kGroesstes || r.height() > kGroesstes) return false;
     }
     return true;
 }
