@@ -171,9 +171,10 @@ void Glattbild::BeendeVonVorn() {
         const Rechteck dort = InKachel(r, kacheln_.GanzeKachel(i));
         const std::uint32_t* vorn =
             vorderseiten_[i].pixel + static_cast<std::size_t>(dort.oben) * kKachelweite + dort.links;
+        const std::int32_t weite = r.rechts - r.links + 1;
         for (std::int32_t y = r.oben; y <= r.unten; ++y, vorn += kKachelweite)
             MischeUnter(vorn, bild_ + static_cast<std::size_t>(y) * zeile_ + r.links,
-                        static_cast<std::size_t>(r.rechts - r.links + 1));
+                        static_cast<std::size_t>(weite));
     });
 }
 
