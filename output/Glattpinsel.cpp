@@ -310,14 +310,6 @@ Deckmaske::Deckmaske(int links, int oben, int weite, int hoehe, std::span<const 
 
 namespace {
 
-/// Which of 64 pixels from `x` on lie in the tile.
-std::uint64_t Darin(std::int64_t x, const Rechteck& r) {
-    const std::int64_t von = std::clamp<std::int64_t>(r.links - x, 0, 64);
-    const std::int64_t bis = std::clamp<std::int64_t>(r.rechts + 1 - x, 0, 64);
-    if (von >= bis) return 0;
-    return ~std::uint64_t{0} >> (64 - (bis - von)) << von;
-}
-
 /// Up to 64 pixels of a row. @param offen those that are to be drawn @param innen the tile has all of them
 template <class Ziel>
 inline void SetzeMaskenzeile(const Acht* vier, std::uint64_t offen, std::int64_t x, std::int64_t y,

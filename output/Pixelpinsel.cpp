@@ -130,17 +130,6 @@ void Pixelpinsel::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t far
 
 // --- Masks and texts --------------------------------------------------------------------------------------
 
-/// The bits among them whose pixels lie in the tile. @param x of the first one
-std::uint64_t Pixelpinsel::ImBereich(std::uint64_t bits, std::int64_t x) const {
-    if (x + 63 < bereich.links || x > bereich.rechts) return 0;
-    if (x < bereich.links) {
-        const auto fehlt = static_cast<unsigned>(bereich.links - x);
-        bits = bits >> fehlt << fehlt;
-    }
-    if (x + 63 > bereich.rechts) bits &= ~std::uint64_t{0} >> static_cast<unsigned>(x + 63 - bereich.rechts);
-    return bits;
-}
-
 /// Covers pixels of a row from `x` on. @return those that were free
 inline std::uint64_t Pixelpinsel::Freie(std::uint64_t bits, std::int64_t x, std::size_t y) const {
     if (deckung == nullptr) return bits;
@@ -159,7 +148,7 @@ inline std::uint64_t Pixelpinsel::Freie(std::uint64_t bits, std::int64_t x, std:
 /// of them are far from the core.
 void Pixelpinsel::SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
                               const Tinte& tinte) const {
-    const std::uint64_t drin = ImBereich(~std::uint64_t{0}, x);
+    const std::uint64_t drin = Darin(x, bereich);
     if (drin == 0) return;
     const auto hoehe = static_cast<std::int64_t>(b.worte.size() / b.jeZeile);
     const std::int64_t erste = std::max<std::int64_t>(bereich.oben - y, 0);

@@ -34,4 +34,12 @@ inline constexpr Rechteck kKeinRechteck{1, 1, 0, 0};
             std::min(a.unten, b.unten)};
 }
 
+/// Which of 64 dots of a row lie between its left and right side, one bit each. @param x of the first one
+[[nodiscard]] constexpr std::uint64_t Darin(std::int64_t x, const Rechteck& r) {
+    const std::int64_t von = std::clamp<std::int64_t>(r.links - x, 0, 64);
+    const std::int64_t bis = std::clamp<std::int64_t>(r.rechts - x + 1, 0, 64);
+    if (von >= bis) return 0;
+    return ~std::uint64_t{0} >> (64 - (bis - von)) << von;
+}
+
 }  // namespace zrw

@@ -2,6 +2,7 @@
 
 #include <QFontInfo>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
