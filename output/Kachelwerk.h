@@ -198,12 +198,12 @@ inline void Kachelwerk<Wort>::VerteileAuftrag(std::size_t worte, const Rechteck&
 template <class Wort>
 void Kachelwerk<Wort>::Uebergib(std::size_t kachel) {
     Kachel& k = kacheln_[kachel];
-    wartende_.fetch_add(k.anzahl, std::memory_order_relaxed);
     bool melden = false;
     {
         const std::scoped_lock schloss(k.mutex);
         const auto ende = k.gesammelt.begin() + static_cast<std::ptrdiff_t>(k.anzahl);
         k.uebergeben.insert(k.uebergeben.end(), k.gesammelt.begin(), ende);
+        wartende_.fetch_add(k.anzahl, std::memory_order_relaxed);
         melden = !std::exchange(k.gemeldet, true);
     }
     k.anzahl = 0;
