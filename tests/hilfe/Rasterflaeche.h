@@ -12,8 +12,14 @@ namespace zrw {
 class Rasterflaeche final : public Zeichenflaeche {
   public:
     Rasterflaeche(int weite, int hoehe)
-        : pixel_(static_cast<std::size_t>(weite) * static_cast<std::size_t>(hoehe), 0xFFFFFFU) {
-        bild_.BindeAn(pixel_.data(), weite, hoehe, static_cast<std::size_t>(weite), 1);
+        : weite_(weite),
+          hoehe_(hoehe),
+          pixel_(static_cast<std::size_t>(weite) * static_cast<std::size_t>(hoehe), 0xFFFFFFU) {
+        SetzeHelfer(1);
+    }
+    /// Only without any is what is hidden always known at the same time.
+    void SetzeHelfer(unsigned helfer) {
+        bild_.BindeAn(pixel_.data(), weite_, hoehe_, static_cast<std::size_t>(weite_), helfer);
     }
 
     [[nodiscard]] const std::vector<std::uint32_t>& Pixel() {
@@ -98,6 +104,8 @@ class Rasterflaeche final : public Zeichenflaeche {
         bild_.SchliesseAb();
     }
 
+    int weite_;
+    int hoehe_;
     std::vector<std::uint32_t> pixel_;
     Pixelbild bild_;
 };

@@ -51,6 +51,8 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
         Zufallsnetz n(saat, kWeite, kHoehe);
         Tafel schnell(n.e);
         Tafel einfach(n.e, false);
+        const bool allein = saat % 8 == 3;
+        schnell.flaeche.SetzeHelfer(allein ? 0 : 1);
         for (int ansicht = 0; ansicht < 10; ++ansicht) {
             SCOPED_TRACE(std::to_string(saat) + "/" + std::to_string(ansicht));
             if (ansicht > 0) n.WuerfleAnsicht();
@@ -77,10 +79,10 @@ TEST(Bildaufbau, ZeigtDasBildDesEinfachenWegs) {
             PruefeTreffer(n);
         }
         vonVorn += schnell.flaeche.vonVorn;
-        verdeckt += schnell.flaeche.verdeckt;
+        if (allein) verdeckt += schnell.flaeche.verdeckt;
     }
     EXPECT_GT(vonVorn, 10) << "too few dense pictures to say anything";
-    EXPECT_GT(verdeckt, 15000) << "what is covered must be known, else the quick way is none";
+    EXPECT_GT(verdeckt, 16000) << "what is covered must be known, else the quick way is none";
 }
 
 }  // namespace
