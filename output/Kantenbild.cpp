@@ -143,17 +143,18 @@ Kantenbild::Kantenbild(KanteAttr kAttr, LinieAttr lAttr, const Bildpunkt& anfang
     const Lage l(kAttr, lAttr, anfang, ende, groessen);
     Linie(lAttr, gps && l.laenge > 2.0 * groessen.GPSGroesse, l);
     if (gps) {
-        const Bildpunkt vorn{Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)};
-        NimmZug(Zugform::GPSMarke, {vorn,
-                                    {Differenz(l.m.x, l.gy), Summe(l.m.y, l.gx)},
-                                    {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
-                                    {Summe(l.m.x, l.gy), Differenz(l.m.y, l.gx)},
-                                    vorn});
+        Bildpunkt* p = NimmZug(Zugform::GPSMarke);
+        p[0] = p[4] = {Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)};
+        p[1] = {Differenz(l.m.x, l.gy), Summe(l.m.y, l.gx)};
+        p[2] = {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)};
+        p[3] = {Summe(l.m.x, l.gy), Differenz(l.m.y, l.gx)};
     }
     if (kAttr.HatArt(KanteAttr::ST)) {
         const double neben = groessen.GPSGroesse + 2.0;  // clear of the marker, whether or not there is one
         const double halb = groessen.Querstrich;
-        NimmZug(Zugform::Querstrich, {l.AbMitte(neben, halb), l.AbMitte(neben, -halb)});
+        Bildpunkt* p = NimmZug(Zugform::Querstrich);
+        p[0] = l.AbMitte(neben, halb);
+        p[1] = l.AbMitte(neben, -halb);
     }
     if (kAttr.HatArt(KanteAttr::DH1)) Hoehenmarke(l.s, l.ux, l.uy, groessen);
     if (kAttr.HatArt(KanteAttr::DH2)) {
@@ -167,16 +168,13 @@ void Kantenbild::Linie(LinieAttr lAttr, bool mitMarke, const Lage& l) {
     if (bild == nullptr) return;
     if (!bild->umweg.empty()) return Umweg(bild->umweg, l);
     const Zugform form = mitMarke ? bild->offen : bild->ganz;
-    if (Punktzahl(form) == 2) {
-        NimmZug(form, {l.s, l.e});
-    } else if (mitMarke) {
-        NimmZug(form, {l.s,
-                       {Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)},
-                       {Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)},
-                       l.e});
-    } else {
-        NimmZug(form, {l.s, l.m, l.m, l.e});
+    Bildpunkt* p = NimmZug(form);
+    *p++ = l.s;
+    if (Punktzahl(form) > 2) {
+        *p++ = mitMarke ? Bildpunkt{Differenz(l.m.x, l.gx), Differenz(l.m.y, l.gy)} : l.m;
+        *p++ = mitMarke ? Bildpunkt{Summe(l.m.x, l.gx), Summe(l.m.y, l.gy)} : l.m;
     }
+    *p = l.e;
 }
 
 void Kantenbild::Umweg(std::span<const Umwegzug> zuege, const Lage& l) {
@@ -195,10 +193,8 @@ void Kantenbild::Umweg(std::span<const Umwegzug> zuege, const Lage& l) {
         l.e,
     };
     for (const Umwegzug& zug : zuege) {
-        std::array<Bildpunkt, kMeistePunkte> punkte;
-        std::transform(zug.stellen.begin(), zug.stellen.end(), punkte.begin(),
+        std::transform(zug.stellen.begin(), zug.stellen.begin() + Punktzahl(zug.form), NimmZug(zug.form),
                        [&](Umwegzug::Stelle s) { return orte[s]; });
-        NimmZug(zug.form, std::span<const Bildpunkt>(punkte).first(Punktzahl(zug.form)));
     }
 }
 
@@ -209,15 +205,18 @@ void Kantenbild::Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einste
         return RundeOrt(static_cast<double>(bezug.x) + laengs * ux - t * uy,
                         static_cast<double>(bezug.y) + laengs * uy + t * ux);
     };
-    NimmZug(Zugform::Hoehenmarke, {punkt(a + t), punkt(a + 2 * t)});
+    Bildpunkt* p = NimmZug(Zugform::Hoehenmarke);
+    p[0] = punkt(a + t);
+    p[1] = punkt(a + 2 * t);
 }
 
-void Kantenbild::NimmZug(Zugform form, std::span<const Bildpunkt> punkte) {
-    assert(anzahl_ < kMeisteZuege && punkte.size() <= kMeistePunkte);
-    Bildpunkt* ziel = punkte_.data() + punktzahl_;
-    std::uninitialized_copy(punkte.begin(), punkte.end(), ziel);
-    std::construct_at(&zuege_[anzahl_++], Zug{form, {ziel, punkte.size()}});
-    punktzahl_ += punkte.size();
+inline Bildpunkt* Kantenbild::NimmZug(Zugform form) {
+    const std::size_t anzahl = Punktzahl(form);
+    assert(anzahl_ < kMeisteZuege && anzahl <= kMeistePunkte);
+    Bildpunkt* punkte = punkte_.data() + punktzahl_;
+    std::construct_at(&zuege_[anzahl_++], Zug{form, {punkte, anzahl}});
+    punktzahl_ += anzahl;
+    return punkte;
 }
 
 }  // namespace zrw

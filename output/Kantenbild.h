@@ -15,7 +15,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <initializer_list>
 #include <span>
 
 #include "model/Einstellungen.h"
@@ -83,10 +82,8 @@ class Kantenbild {
     void Linie(LinieAttr lAttr, bool mitMarke, const Lage& l);
     void Umweg(std::span<const Umwegzug> zuege, const Lage& l);
     void Hoehenmarke(Bildpunkt bezug, double ux, double uy, const Einstellungen& groessen);
-    void NimmZug(Zugform form, std::initializer_list<Bildpunkt> punkte) {
-        NimmZug(form, std::span(punkte.begin(), punkte.size()));
-    }
-    void NimmZug(Zugform form, std::span<const Bildpunkt> punkte);
+    /// Adds a form. @return its points, to be set
+    Bildpunkt* NimmZug(Zugform form);
 
     // Most: two for an indirect line, marker, tick and three height marks. In unions, so that only those in
     // use are set up: clearing all of them would take longer than the line.
