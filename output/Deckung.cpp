@@ -9,41 +9,48 @@ void Deckung::BeginneDeckung(int weite, int hoehe, const Rechteck& ausschnitt) {
     ausschnitt_ = ausschnitt;
     spalten_ = (static_cast<std::size_t>(weite) + 63) / 64;
     reihen_ = (static_cast<std::size_t>(hoehe) + kBlockhoehe - 1) / kBlockhoehe;
-    bits_.assign(spalten_ * static_cast<std::size_t>(hoehe) + 1, 0);
-    frei_.assign(spalten_ * reihen_, 0);
-    tief_.assign(spalten_ * reihen_, 0);
-    const auto anteil = [](std::int32_t von, std::int32_t bis, std::int32_t anfang, std::int32_t laenge) {
-        return std::max(std::min(bis, anfang + laenge - 1) - std::max(von, anfang) + 1, 0);
-    };
-    for (std::size_t reihe = 0; reihe < reihen_; ++reihe) {
-        const std::int32_t hoch = anteil(ausschnitt.oben, ausschnitt.unten,
-                                         static_cast<std::int32_t>(reihe * kBlockhoehe), kBlockhoehe);
-        for (std::size_t spalte = 0; spalte < spalten_; ++spalte) {
-            const std::int32_t breit =
-                anteil(ausschnitt.links, ausschnitt.rechts, static_cast<std::int32_t>(spalte) * 64, 64);
-            frei_[reihe * spalten_ + spalte] = static_cast<std::uint16_t>(breit * hoch);
-        }
+    bits_.assign(spalten_ * reihen_ * kBlockhoehe + 1, kVoll);
+    const std::int32_t letzte = ausschnitt.rechts / 64;
+    for (std::int32_t y = ausschnitt.oben; y <= ausschnitt.unten; ++y) {
+        std::uint64_t* zeile = bits_.data() + static_cast<std::size_t>(y) * spalten_;
+        for (std::int32_t s = ausschnitt.links / 64; s <= letzte; ++s)
+            zeile[s] = ~Darin(std::int64_t{s} * 64, ausschnitt);
     }
+    tief_.assign(spalten_ * reihen_, 0);
     for (std::size_t spalte = 0; spalte < spalten_; ++spalte) {
-        std::uint16_t tiefe = 0;
-        for (std::size_t reihe = reihen_; reihe-- > 0;) {
-            const std::size_t i = reihe * spalten_ + spalte;
-            if (reihe % kReihenJeLauf == kReihenJeLauf - 1) tiefe = 0;
-            tiefe = frei_[i] == 0 ? static_cast<std::uint16_t>(tiefe + 1) : std::uint16_t{0};
-            tief_[i] = tiefe;
-        }
+        for (std::size_t reihe = reihen_; reihe-- > 0;)
+            PruefeBlock(spalte, reihe);
     }
 }
 
-/// A block has become full: the runs of full blocks that end above it grow.
-void Deckung::Voll(std::size_t spalte, std::size_t reihe) {
+/// A word has become full: whether the block has.
+void Deckung::PruefeBlock(std::size_t spalte, std::size_t reihe) {
+    const std::uint64_t* wort = bits_.data() + reihe * kBlockhoehe * spalten_ + spalte;
+    std::uint64_t alle = kVoll;
+    for (std::size_t i = 0; i < kBlockhoehe; ++i)
+        alle &= wort[i * spalten_];
+    if (alle == kVoll) NimmVollenBlock(spalte, reihe);
+}
+
+/// The runs of full blocks that end above it grow.
+void Deckung::NimmVollenBlock(std::size_t spalte, std::size_t reihe) {
     const bool letzte = reihe + 1 == reihen_ || reihe % kReihenJeLauf == kReihenJeLauf - 1;
     std::size_t tiefe = letzte ? 0 : tief_[(reihe + 1) * spalten_ + spalte];
-    for (std::size_t r = reihe + 1; r-- > reihe - reihe % kReihenJeLauf;) {
-        const std::size_t i = r * spalten_ + spalte;
-        if (frei_[i] != 0) break;
-        Gemeinsam(tief_[i]).store(static_cast<std::uint16_t>(++tiefe), std::memory_order_relaxed);
+    std::size_t r = reihe;
+    do {
+        Gemeinsam(tief_[r * spalten_ + spalte])
+            .store(static_cast<std::uint16_t>(++tiefe), std::memory_order_relaxed);
+    } while (r % kReihenJeLauf != 0 && tief_[--r * spalten_ + spalte] != 0);
+}
+
+bool Deckung::GenauVerdeckt(const Rechteck& r) const {
+    for (std::int32_t y = r.oben; y <= r.unten; ++y) {
+        const std::uint64_t* zeile = bits_.data() + static_cast<std::size_t>(y) * spalten_;
+        for (std::int32_t s = r.links / 64; s <= r.rechts / 64; ++s) {
+            if ((Darin(std::int64_t{s} * 64, r) & ~zeile[s]) != 0) return false;
+        }
     }
+    return true;
 }
 
 bool Deckung::VolleBloecke(const Rechteck& r) const {

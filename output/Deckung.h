@@ -1,6 +1,6 @@
 // Which pixels of a picture are set already, for drawing from the front to the back: what lies behind is then
-// never drawn at all. One bit per pixel, and for blocks of 64 x 8 pixels a count of the free ones, so that a
-// figure behind full blocks is left out as a whole.
+// never drawn at all. One bit per pixel, and for blocks of 64 x 8 pixels whether all of them are set, so that
+// a figure behind full blocks is left out as a whole.
 //
 // Several cores may cover pixels at a time, each in areas of its own of whole blocks, `kLaufhoehe` rows high
 // from the top; and one may ask meanwhile what is hidden.
@@ -24,12 +24,7 @@ class Deckung {
 
     /// Covers a pixel. @return false: it was covered before
     bool DeckePixel(std::size_t x, std::size_t y) {
-        const std::size_t i = y * spalten_ + x / 64;
-        const std::uint64_t bit = std::uint64_t{1} << (x % 64);
-        if ((bits_[i] & bit) != 0) return false;
-        bits_[i] |= bit;
-        if (--frei_[(y / kBlockhoehe) * spalten_ + x / 64] == 0) Voll(x / 64, y / kBlockhoehe);
-        return true;
+        return DeckePixel(x / 64, y, std::uint64_t{1} << (x % 64)) != 0;
     }
     /// Covers pixels of one word of a row, x = 64 * `spalte` + bit. @return those that were free
     std::uint64_t DeckePixel(std::size_t spalte, std::size_t y, std::uint64_t pixel) {
@@ -37,9 +32,7 @@ class Deckung {
         const std::uint64_t neu = pixel & ~wort;
         if (neu == 0) return 0;
         wort |= neu;
-        std::uint16_t& frei = frei_[(y / kBlockhoehe) * spalten_ + spalte];
-        frei = static_cast<std::uint16_t>(frei - Anzahl(neu));
-        if (frei == 0) Voll(spalte, y / kBlockhoehe);
+        if (wort == kVoll) PruefeBlock(spalte, y / kBlockhoehe);
         return neu;
     }
     /// Which pixels of a row are covered, from `x` on, one bit each.
@@ -54,6 +47,9 @@ class Deckung {
         return Leer(sicht) || VolleBloecke(sicht);
     }
 
+    /// The same to the pixel, for whoever covers there. @param r empty, or in the picture
+    [[nodiscard]] bool GenauVerdeckt(const Rechteck& r) const;
+
     /// [px]
     static constexpr std::size_t kLaufhoehe = 128;
 
@@ -61,15 +57,11 @@ class Deckung {
     static constexpr std::size_t kBlockhoehe = 8;
     static constexpr std::size_t kReihenJeLauf = kLaufhoehe / kBlockhoehe;
 
-    /// Bits that are set, in parallel sums: the compiler's own call is a library function on plain machines.
-    [[nodiscard]] static unsigned Anzahl(std::uint64_t v) {
-        v -= v >> 1U & 0x5555555555555555U;
-        v = (v & 0x3333333333333333U) + (v >> 2U & 0x3333333333333333U);
-        v = (v + (v >> 4U)) & 0x0F0F0F0F0F0F0F0FU;
-        return static_cast<unsigned>(v * 0x0101010101010101U >> 56U);
-    }
+    static constexpr std::uint64_t kVoll = ~std::uint64_t{0};
+
     [[nodiscard]] bool VolleBloecke(const Rechteck& r) const;
-    void Voll(std::size_t spalte, std::size_t reihe);
+    void PruefeBlock(std::size_t spalte, std::size_t reihe);
+    void NimmVollenBlock(std::size_t spalte, std::size_t reihe);
     /// Others may be asking: an old answer does, but it must be one.
     static std::atomic_ref<std::uint16_t> Gemeinsam(const std::uint16_t& v) {
         return std::atomic_ref(const_cast<std::uint16_t&>(v));  // NOLINT: read only where it was const
@@ -79,8 +71,7 @@ class Deckung {
     Rechteck ausschnitt_;
     std::size_t spalten_ = 0;
     std::size_t reihen_ = 0;
-    std::vector<std::uint64_t> bits_;
-    std::vector<std::uint16_t> frei_;  ///< free pixels of each block
+    std::vector<std::uint64_t> bits_;  ///< all of them set outside `ausschnitt_`
     std::vector<std::uint16_t>
         tief_;  ///< full blocks from each one downwards without a gap, up to the run's end
 };
