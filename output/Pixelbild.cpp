@@ -17,9 +17,11 @@ std::uint64_t Gepackt(const Linienstueck& s) {
     return teil(s.von.x) | teil(s.von.y) << 16U | teil(s.nach.x) << 32U | teil(s.nach.y) << 48U;
 }
 
-Linienstueck Entpackt(std::uint64_t wort, bool gestrichelt) {
-    const auto teil = [&](unsigned bit) { return static_cast<std::int16_t>(wort >> bit); };
-    return {{teil(0), teil(16)}, {teil(32), teil(48)}, gestrichelt};
+/// One of its ends. In one register: a position that is written in halves cannot be read at once.
+Flaechenpunkt Entpackt(std::uint64_t wort, unsigned bit) {
+    const auto x = static_cast<std::uint32_t>(static_cast<std::int16_t>(wort >> bit));
+    const auto y = static_cast<std::uint32_t>(static_cast<std::int16_t>(wort >> (bit + 16)));
+    return std::bit_cast<Flaechenpunkt>(x | std::uint64_t{y} << 32U);
 }
 
 /// Whether places fit into 16 bits.
@@ -247,8 +249,8 @@ void Pixelbild::ZeichneAuftraege(const Pixelpinsel& pinsel, std::span<const Wort
             }
             case Art::Striche:
                 for (int i = 0; i < k.anzahl + k.dashes; ++i) {
-                    const Linienstueck s = Entpackt(*w++, i >= k.anzahl);
-                    pinsel.Linie(s.von, s.nach, k.farbe, s.gestrichelt);
+                    const Wort wort = *w++;
+                    pinsel.Linie(Entpackt(wort, 0), Entpackt(wort, 32), k.farbe, i >= k.anzahl);
                 }
                 break;
             case Art::LangerStrich: {

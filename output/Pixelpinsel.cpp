@@ -44,36 +44,82 @@ void Pixelpinsel::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) const {
 
 // --- Strokes ----------------------------------------------------------------------------------------------
 
-template <bool Senkrecht, bool Innen>
-void Pixelpinsel::Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe,
-                           bool gestrichelt) const {
-    const auto laengs = [](Flaechenpunkt p) { return Senkrecht ? p.y : p.x; };
-    const auto quer = [](Flaechenpunkt p) { return Senkrecht ? p.x : p.y; };
-    const bool umgekehrt = laengs(von) > laengs(nach);
-    if (umgekehrt) std::swap(von, nach);
-    const std::int64_t anfang = laengs(von);
-    const std::int64_t ende = laengs(nach);
-    const auto laenge = static_cast<std::int32_t>(ende - anfang);
-    // Not steeper than the diagonal and at most `kLaengste`, so that 32 bits suffice.
-    const std::int64_t schritt = laenge > 0 ? (quer(nach) - quer(von)) * 65536 / laenge : 0;
-    static_assert(kLaengste * 65536 <= std::numeric_limits<std::int32_t>::max());
-    std::int64_t v = std::int64_t{quer(von)} * 65536 + (schritt > 0 ? schritt - (schritt >> 1) : 0);
-    std::int64_t m = anfang;
-    std::int64_t letztes = ende;
-    const std::int64_t querVon = Senkrecht ? bereich.links : bereich.oben;
-    const std::int64_t querBis = Senkrecht ? bereich.rechts : bereich.unten;
-    if constexpr (!Innen) {
-        m = std::max<std::int64_t>(anfang, Senkrecht ? bereich.oben : bereich.links);
-        letztes = std::min<std::int64_t>(ende, Senkrecht ? bereich.unten : bereich.rechts);
-        v += (m - anfang) * schritt;
+/// A stroke's steps along its longer axis, from its first end on.
+struct Pixelpinsel::Schritte {
+    std::int64_t m;  ///< along it, of the first step
+    std::int64_t v;  ///< across it [1/65536 px]
+    std::int64_t dm;
+    std::int64_t dv;
+    std::int64_t anzahl;
+
+    /// Not steeper than the diagonal and at most `kLaengste`, so that 32 bits suffice.
+    Schritte(Flaechenpunkt von, Flaechenpunkt nach, bool senkrecht) {
+        static_assert(kLaengste * 65536 <= std::numeric_limits<std::int32_t>::max());
+        const std::int32_t anfang = senkrecht ? von.y : von.x;
+        const std::int32_t ende = senkrecht ? nach.y : nach.x;
+        const std::int32_t querAnfang = senkrecht ? von.x : von.y;
+        const std::int32_t querEnde = senkrecht ? nach.x : nach.y;
+        const bool umgekehrt = anfang > ende;
+        const std::int32_t laenge = umgekehrt ? anfang - ende : ende - anfang;
+        const std::int32_t anstieg = umgekehrt ? querAnfang - querEnde : querEnde - querAnfang;
+        // From the smaller end, half a step ahead where the line rises.
+        const std::int32_t schritt = laenge > 0 ? anstieg * 65536 / laenge : 0;
+        const std::int32_t voraus = schritt > 0 ? schritt - (schritt >> 1) : 0;
+        anzahl = std::int64_t{laenge} + 1;
+        m = anfang;
+        v = std::int64_t{umgekehrt ? querEnde : querAnfang} * 65536 + voraus;
+        v += umgekehrt ? std::int64_t{laenge} * schritt : 0;
+        dm = umgekehrt ? -1 : 1;
+        dv = umgekehrt ? -schritt : schritt;
     }
-    for (; m <= letztes; ++m, v += schritt) {
-        if (gestrichelt && (umgekehrt ? ende - m : m - anfang) % kStrichfolge >= kStrich) continue;
-        const std::int64_t q = v >> 16;
-        if constexpr (!Innen) {
-            if (q < querVon || q > querBis) continue;
+    /// Calls `tun(m, across)` for the steps in dashes.
+    template <class Tun>
+    void FuerAlle(bool gestrichelt, Tun tun) const {
+        const std::int64_t strich = gestrichelt ? kStrich : anzahl;
+        std::int64_t stelle = m;
+        std::int64_t quer = v;
+        for (std::int64_t rest = anzahl; rest > 0; rest -= kStrichfolge) {
+            for (std::int64_t n = std::min(strich, rest); n > 0; --n, stelle += dm, quer += dv)
+                tun(stelle, quer >> 16);
+            if (!gestrichelt) return;
+            stelle += (kStrichfolge - kStrich) * dm;
+            quer += (kStrichfolge - kStrich) * dv;
         }
-        SetzePixel<Senkrecht>(m, q, farbe);
+    }
+    /// The same for those between two places along it.
+    template <class Tun>
+    void FuerAlleZwischen(std::int64_t von, std::int64_t bis, bool gestrichelt, Tun tun) const {
+        const std::int64_t erster = std::max<std::int64_t>(dm > 0 ? von - m : m - bis, 0);
+        const std::int64_t letzter = std::min(dm > 0 ? bis - m : m - von, anzahl - 1);
+        for (std::int64_t i = erster; i <= letzter; ++i) {
+            if (!gestrichelt || i % kStrichfolge < kStrich) tun(m + i * dm, (v + i * dv) >> 16);
+        }
+    }
+};
+
+inline void Pixelpinsel::KurzeLinie(Flaechenpunkt von, Flaechenpunkt nach, bool senkrecht,
+                                    std::uint32_t farbe, bool gestrichelt) const {
+    const Schritte schritte(von, nach, senkrecht);
+    if (!LiegtIn(bereich, von) || !LiegtIn(bereich, nach)) {
+        const std::int64_t querVon = senkrecht ? bereich.links : bereich.oben;
+        const std::int64_t querBis = senkrecht ? bereich.rechts : bereich.unten;
+        schritte.FuerAlleZwischen(senkrecht ? bereich.oben : bereich.links,
+                                  senkrecht ? bereich.unten : bereich.rechts, gestrichelt,
+                                  [&](std::int64_t m, std::int64_t q) {
+                                      if (q >= querVon && q <= querBis)
+                                          SetzePixel(senkrecht ? q : m, senkrecht ? m : q, farbe);
+                                  });
+    } else if (deckung != nullptr) {
+        schritte.FuerAlle(gestrichelt, [&](std::int64_t m, std::int64_t q) {
+            SetzePixel(senkrecht ? q : m, senkrecht ? m : q, farbe);
+        });
+    } else {
+        const auto zeilen = static_cast<std::int64_t>(zeile);
+        const std::int64_t laengs = senkrecht ? zeilen : 1;
+        const std::int64_t quer = senkrecht ? 1 : zeilen;
+        std::uint32_t* const pixel = bild;
+        schritte.FuerAlle(gestrichelt,
+                          [=](std::int64_t m, std::int64_t q) { pixel[m * laengs + q * quer] = farbe; });
     }
 }
 
@@ -98,7 +144,7 @@ void Pixelpinsel::LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint
     const auto [ganz, teil] = TeileMitRest(anstieg, laenge);
     for (std::int64_t q = quer(von) + weg; m <= letztes; ++m) {
         const bool luecke = gestrichelt && (umgekehrt ? ende - m : m - anfang) % kStrichfolge >= kStrich;
-        if (!luecke && q >= querVon && q <= querBis) SetzePixel<Senkrecht>(m, q, farbe);
+        if (!luecke && q >= querVon && q <= querBis) SetzePixel(Senkrecht ? q : m, Senkrecht ? m : q, farbe);
         q += ganz;
         rest += teil;
         if (rest >= laenge) {
@@ -119,12 +165,8 @@ void Pixelpinsel::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t far
     if (std::max(breit, hoch) > kLaengste) {
         senkrecht ? LangeSchritte<true>(von, nach, farbe, gestrichelt)
                   : LangeSchritte<false>(von, nach, farbe, gestrichelt);
-    } else if (LiegtIn(s, von) && LiegtIn(s, nach)) {
-        senkrecht ? Schritte<true, true>(von, nach, farbe, gestrichelt)
-                  : Schritte<false, true>(von, nach, farbe, gestrichelt);
     } else {
-        senkrecht ? Schritte<true, false>(von, nach, farbe, gestrichelt)
-                  : Schritte<false, false>(von, nach, farbe, gestrichelt);
+        KurzeLinie(von, nach, senkrecht, farbe, gestrichelt);
     }
 }
 
@@ -191,6 +233,10 @@ void Pixelpinsel::Stempel(const Pixelmaske& rand, const Pixelmaske& fuellung, Fl
 /// Characters are gathered into words, so that each row is set at once.
 void Pixelpinsel::Text(Flaechenpunkt ort, std::string_view text, std::uint32_t farbe,
                        const Glyphensatz& schrift) const {
+    // Of many texts at one place most are hidden: that shows before their characters are put together.
+    if (deckung != nullptr &&
+        deckung->GenauVerdeckt(Geschnitten(schrift.Umfang(ort, *schrift.Textbreite(text)), bereich)))
+        return;
     using Zwei = std::uint64_t __attribute__((vector_size(16)));
     constexpr int kWort = 64;
     constexpr std::size_t kMeistePaare = Glyphensatz::kGroesste / 2;

@@ -48,15 +48,15 @@ struct Pixelpinsel {
     void SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
                      const Tinte& tinte) const;
     [[nodiscard]] std::uint64_t Freie(std::uint64_t bits, std::int64_t x, std::size_t y) const;
-    template <bool Senkrecht, bool Innen>
-    void Schritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) const;
+    struct Schritte;
+    void KurzeLinie(Flaechenpunkt von, Flaechenpunkt nach, bool senkrecht, std::uint32_t farbe,
+                    bool gestrichelt) const;
     template <bool Senkrecht>
     void LangeSchritte(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) const;
-    template <bool Senkrecht>
-    void SetzePixel(std::int64_t laengs, std::int64_t quer, std::uint32_t farbe) const {
-        const auto x = static_cast<std::size_t>(Senkrecht ? quer : laengs);
-        const auto y = static_cast<std::size_t>(Senkrecht ? laengs : quer);
-        if (deckung == nullptr || deckung->DeckePixel(x, y)) bild[y * zeile + x] = farbe;
+    void SetzePixel(std::int64_t x, std::int64_t y, std::uint32_t farbe) const {
+        const auto spalte = static_cast<std::size_t>(x);
+        const auto reihe = static_cast<std::size_t>(y);
+        if (deckung == nullptr || deckung->DeckePixel(spalte, reihe)) bild[reihe * zeile + spalte] = farbe;
     }
 };
 
