@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -27,10 +26,8 @@ namespace zrw {
 }
 
 /// Only for positions that are `InReichweite` or cut.
-/// In one register: a position that is written in halves cannot be read at once before it is in the cache.
 [[nodiscard]] inline Flaechenpunkt Aufflaeche(Bildpunkt b) {
-    return std::bit_cast<Flaechenpunkt>(std::uint64_t{static_cast<std::uint32_t>(b.x)} |
-                                        static_cast<std::uint64_t>(b.y) << 32U);
+    return Flaechenort(static_cast<std::int32_t>(b.x), static_cast<std::int32_t>(b.y));
 }
 
 /// The rectangle that shapes between two positions and `rand` dots round them touch. Positions far outside

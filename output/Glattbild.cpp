@@ -99,33 +99,27 @@ void Glattbild::Masken(std::span<const Maskenort> masken, std::uint32_t farbe) {
     });
 }
 
-Rechteck Glattbild::Strichumfang(const Auftrag& a) const {
-    const std::int32_t rand = Strichrand(a.breite);
-    return {std::min(a.von.x, a.nach.x) - rand, std::min(a.von.y, a.nach.y) - rand,
-            std::max(a.von.x, a.nach.x) + rand, std::max(a.von.y, a.nach.y) + rand};
+Rechteck Glattbild::Strichumfang(Flaechenpunkt von, Flaechenpunkt nach, int breite) const {
+    const std::int32_t rand = Strichrand(breite);
+    return {std::min(von.x, nach.x) - rand, std::min(von.y, nach.y) - rand, std::max(von.x, nach.x) + rand,
+            std::max(von.y, nach.y) + rand};
 }
 
 /// @param ecke of the surface where the target has its first pixel
 template <class Ziel>
 void Glattbild::ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke,
                                  const Ziel& ziel) const {
-    for (Auftrag a : auftraege) {
-        a.von = {a.von.x - ecke.x, a.von.y - ecke.y};
-        if (a.art < Art::Maske) a.nach = {a.nach.x - ecke.x, a.nach.y - ecke.y};
-        switch (a.art) {
-            case Art::Rechteck:
-                FuellePixel({a.von.x, a.von.y, a.nach.x, a.nach.y}, a.farbe, ziel);
-                break;
-            case Art::Strich:
-            case Art::Gestrichelt:
-                if (Unsichtbar(Strichumfang(a), ziel)) break;
-                ZieheLinie(a.von, a.nach, dichte_ * a.breite, a.art == Art::Strich ? 0.0 : dichte_, a.farbe,
-                           ziel);
-                break;
-            case Art::Maske:
-                if (Unsichtbar(a.maske->Umfang(a.von), ziel)) break;
-                SetzeMaske(*a.maske, a.von, a.farbe, ziel);
-                break;
+    for (const Auftrag& a : auftraege) {
+        const Flaechenpunkt von = Flaechenort(a.von.x - ecke.x, a.von.y - ecke.y);
+        if (a.art == Art::Maske) {
+            if (!Unsichtbar(a.maske->Umfang(von), ziel)) SetzeMaske(*a.maske, von, a.farbe, ziel);
+            continue;
+        }
+        const Flaechenpunkt nach = Flaechenort(a.nach.x - ecke.x, a.nach.y - ecke.y);
+        if (a.art == Art::Rechteck) {
+            FuellePixel({von.x, von.y, nach.x, nach.y}, a.farbe, ziel);
+        } else if (!Unsichtbar(Strichumfang(von, nach, a.breite), ziel)) {
+            ZieheLinie(von, nach, dichte_ * a.breite, a.art == Art::Strich ? 0.0 : dichte_, a.farbe, ziel);
         }
     }
 }

@@ -89,7 +89,7 @@ class Glattbild {
     [[nodiscard]] std::int32_t Strichrand(int breite) const {
         return static_cast<std::int32_t>(dichte_ * breite) + 2;
     }
-    [[nodiscard]] Rechteck Strichumfang(const Auftrag& a) const;
+    [[nodiscard]] Rechteck Strichumfang(Flaechenpunkt von, Flaechenpunkt nach, int breite) const;
 
     std::uint32_t* bild_ = nullptr;
     int weite_ = 0;

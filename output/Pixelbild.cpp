@@ -17,11 +17,9 @@ std::uint64_t Gepackt(const Linienstueck& s) {
     return teil(s.von.x) | teil(s.von.y) << 16U | teil(s.nach.x) << 32U | teil(s.nach.y) << 48U;
 }
 
-/// One of its ends. In one register: a position that is written in halves cannot be read at once.
+/// One of its ends.
 Flaechenpunkt Entpackt(std::uint64_t wort, unsigned bit) {
-    const auto x = static_cast<std::uint32_t>(static_cast<std::int16_t>(wort >> bit));
-    const auto y = static_cast<std::uint32_t>(static_cast<std::int16_t>(wort >> (bit + 16)));
-    return std::bit_cast<Flaechenpunkt>(x | std::uint64_t{y} << 32U);
+    return Flaechenort(static_cast<std::int16_t>(wort >> bit), static_cast<std::int16_t>(wort >> (bit + 16)));
 }
 
 /// Whether places fit into 16 bits.

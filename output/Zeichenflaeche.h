@@ -2,6 +2,7 @@
 // printer could not do. Positions are device dots; whoever draws clips first (Abschneiden.h).
 #pragma once
 
+#include <bit>
 #include <cassert>
 #include <cstdint>
 #include <span>
@@ -39,6 +40,12 @@ struct Flaechenpunkt {
     std::int32_t y = 0;
     friend bool operator==(Flaechenpunkt, Flaechenpunkt) = default;
 };
+/// The position in one register: read as a whole where it was just written in halves, it would wait until
+/// both have left the store buffer.
+[[nodiscard]] inline Flaechenpunkt Flaechenort(std::int32_t x, std::int32_t y) {
+    return std::bit_cast<Flaechenpunkt>(std::uint64_t{static_cast<std::uint32_t>(x)} |
+                                        std::uint64_t{static_cast<std::uint32_t>(y)} << 32U);
+}
 
 /// A stroke of many.
 struct Linienstueck {
