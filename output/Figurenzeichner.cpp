@@ -120,7 +120,9 @@ std::int64_t Figurenzeichner::Symbolreichweite() const {
 void Figurenzeichner::ZeichnePunkt(const Punkt& punkt, Bildpunkt m, Gang gang) {
     SetzeEbene(Ebene::Punkte);
     Zeichenflaeche* f = zustand_.flaeche;
-    if (f != nullptr && !InReichweite(m, Symbolreichweite(), f->Ausschnitt())) f = nullptr;
+    if (f != nullptr && !InReichweite(m, 0, f->Ausschnitt()) &&
+        !InReichweite(m, Symbolreichweite(), f->Ausschnitt()))
+        f = nullptr;
     const Symbolziel ziel{f, Plot(gang), Dxf(gang)};
     const Farbe farbe = gang == Gang::Wischen ? kWeiss : stil_ != nullptr ? stil_->farbe : punkt.Farbe;
     std::optional<Stiftwechsel> wechsel;
@@ -212,10 +214,11 @@ std::int64_t Figurenzeichner::Kantenreichweite() const {
     return zeichen + kRunden + Stiftrand() + Stilrand();
 }
 
-/// Whether a line with its marks may touch the surface.
+/// Whether a line with its marks may touch the surface. How far they reach matters beside it only.
 bool Figurenzeichner::BeruehrtFlaeche(Bildpunkt anfang, Bildpunkt ende) const {
     if (zustand_.flaeche == nullptr) return false;
-    return InReichweite(anfang, ende, Kantenreichweite(), zustand_.flaeche->Ausschnitt());
+    const Rechteck s = zustand_.flaeche->Ausschnitt();
+    return InReichweite(anfang, ende, 0, s) || InReichweite(anfang, ende, Kantenreichweite(), s);
 }
 
 /// All strokes of a line, cut to what the surface can take.

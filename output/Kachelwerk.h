@@ -23,7 +23,7 @@
 namespace zrw {
 
 /// Size of a tile [px]: whole words of a coverage mask.
-inline constexpr std::int32_t kKachelweite = 512;
+inline constexpr std::int32_t kKachelweite = 1024;
 inline constexpr std::int32_t kKachelhoehe = 128;
 
 /// The rectangle round strokes.

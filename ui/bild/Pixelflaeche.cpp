@@ -158,7 +158,7 @@ void Pixelflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 void Pixelflaeche::Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) {
     if (!schnell_) return Malerflaeche::Linien(stuecke, farbe, breite);
     if (glatt_) return glattbild_.Linien(stuecke, Pixelfarbe(farbe), breite);
-    const auto dots = static_cast<int>(std::lround(breite * dichte_));
+    const int dots = dichte_ == 1.0 ? breite : static_cast<int>(std::lround(breite * dichte_));
     if (dots <= 1) return pixel_.Linien(stuecke, Pixelfarbe(farbe));
     for (const Linienstueck& s : stuecke)
         BreiteLinie(s.von, s.nach, dots, farbe, s.gestrichelt);
