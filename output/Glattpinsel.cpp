@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "output/Breitpinsel.h"
+
 namespace zrw {
 namespace {
 
@@ -22,8 +24,6 @@ std::int32_t Gerundet(double v) {
 constexpr std::int64_t kLang = std::int64_t{1} << 20U;
 /// Across broader ones, places do not fit into 16 bits.
 constexpr std::int32_t kBreit = 64 * kGanz;
-/// What remains free of a pixel when nobody can tell it from a full one (of 255).
-constexpr unsigned kSatt = 6;
 constexpr unsigned kGedeckt = 255;
 constexpr std::int32_t kVier = 4;
 
@@ -64,21 +64,16 @@ inline void Darueber::SetzePixel(std::uint32_t* p, std::int64_t /*y*/, const Vie
 }
 
 inline void Darueber::SetzeVier(std::uint32_t* p, std::int64_t /*y*/, const Vierfarbe& farbe, Acht a) const {
+    // 256 times what is there, and `a` times what the colour differs: modulo 2^16 as good as both parts.
     const Acht unten = AlsAcht(LiesVier(p));
-    const Acht rest = kGanz - a;
-    const Acht rb = (farbe.rotBlau * a + (unten & 0xFF) * rest + 0x80) >> 8;
-    const Acht g = (farbe.rest * a + (unten >> 8) * rest + 0x80) & 0xFF00;
+    const Acht rb = ((unten << 8) + (farbe.rotBlau - (unten & 0xFF)) * a + 0x80) >> 8;
+    const Acht g = ((unten & 0xFF00) + (farbe.rest - (unten >> 8)) * a + 0x80) & 0xFF00;
     SchreibeVier(p, AlsVier(rb | g) | kDeckend);
 }
 
 /// @param neue which pixels from there on have become full
 inline void Dahinter::Decke(const std::uint32_t* p, std::int64_t y, std::uint64_t neue) const {
-    const auto zeilenanfang = pixel + static_cast<std::size_t>(y) * zeile;
-    const auto x = static_cast<std::size_t>(p - zeilenanfang);
-    const std::size_t weg = x % 64;
-    deckung.DeckePixel(x / 64, static_cast<std::size_t>(y), neue << weg);
-    if (weg + kVier > 64 && neue >> (64 - weg) != 0)
-        deckung.DeckePixel(x / 64 + 1, static_cast<std::size_t>(y), neue >> (64 - weg));
+    DeckePixel(p - (pixel + static_cast<std::size_t>(y) * zeile), y, neue);
 }
 
 inline void Dahinter::SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe,
@@ -292,7 +287,7 @@ Deckmaske::Deckmaske(int links, int oben, int weite, int hoehe, std::span<const 
       oben_(oben),
       weite_(weite),
       hoehe_(hoehe),
-      viererJeZeile_((static_cast<std::size_t>(weite) + 3) / 4),
+      viererJeZeile_((static_cast<std::size_t>(weite) + 7) / 8 * 2),
       worteJeZeile_((static_cast<std::size_t>(weite) + 63) / 64) {
     const auto w = static_cast<std::size_t>(weite);
     vierer_.resize(static_cast<std::size_t>(hoehe) * viererJeZeile_);
@@ -335,7 +330,10 @@ void SetzeMaske(const Deckmaske& m, Flaechenpunkt ort, std::uint32_t farbe, cons
     const Vierfarbe vierfarbe(farbe);
     const Rechteck umfang = m.Umfang(ort);
     const Rechteck teil = Geschnitten(umfang, ziel.bereich);
-    const bool innen = umfang.links >= ziel.bereich.links && umfang.rechts + kVier - 1 <= ziel.bereich.rechts;
+    const bool ganz = umfang.links >= ziel.bereich.links;
+    if (ganz && umfang.rechts + kBreiter <= ziel.bereich.rechts && KannAchtPixel())
+        return SetzeMaskeAcht(m, umfang, teil, farbe, ziel);
+    const bool innen = ganz && umfang.rechts + kVier - 1 <= ziel.bereich.rechts;
     if constexpr (std::is_same_v<Ziel, Darueber>) {
         // Nothing to be asked of any pixel: those that are not covered come out as they were.
         if (innen) {

@@ -14,6 +14,9 @@
 
 namespace zrw {
 
+/// What remains free of a pixel when nobody can tell it from a full one (of 255).
+inline constexpr unsigned kSatt = 6;
+
 /// How much a small shape covers of each pixel.
 class Deckmaske {
   public:
@@ -27,7 +30,7 @@ class Deckmaske {
     [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
         return {ort.x + links_, ort.y + oben_, ort.x + links_ + weite_ - 1, ort.y + oben_ + hoehe_ - 1};
     }
-    /// Shares of a row, 0 to 256, four pixels at a time.
+    /// Shares of a row, 0 to 256, four pixels at a time, in pairs.
     [[nodiscard]] const Acht* Vierer(std::size_t zeile) const {
         return vierer_.data() + zeile * viererJeZeile_;
     }
@@ -77,6 +80,15 @@ struct Dahinter {
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const { return deckung.Verdeckt(r); }
     [[nodiscard]] std::uint64_t Freie(std::int64_t x, std::int64_t y) const {
         return ~deckung.Gedeckte(static_cast<std::size_t>(x), static_cast<std::size_t>(y));
+    }
+
+    /// Pixels of a row from `x` on are full from now on.
+    void DeckePixel(std::int64_t x, std::int64_t y, std::uint64_t neue) const {
+        const auto weg = static_cast<unsigned>(x & 63);
+        const auto spalte = static_cast<std::size_t>(x >> 6);
+        deckung.DeckePixel(spalte, static_cast<std::size_t>(y), neue << weg);
+        if (weg != 0 && neue >> (64U - weg) != 0)
+            deckung.DeckePixel(spalte + 1, static_cast<std::size_t>(y), neue >> (64U - weg));
     }
 
   private:

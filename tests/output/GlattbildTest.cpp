@@ -7,11 +7,12 @@
 #include <array>
 #include <cstdlib>
 #include <random>
+#include <vector>
 
 namespace zrw {
 namespace {
 
-constexpr int kBlattweite = 700;  ///< some tiles
+constexpr int kBlattweite = 1200;  ///< some tiles
 constexpr int kBlatthoehe = 300;
 constexpr std::uint32_t kLeer = 0xFFFFFFFF;
 constexpr std::uint32_t kTinte = 0xFF000000;
@@ -30,11 +31,12 @@ struct Blatt {
     [[nodiscard]] int Grau(int x, int y) const { return static_cast<int>(Pixel(x, y) & 0xFFU); }
 };
 
-Deckmaske Probemaske() {
-    std::array<std::uint8_t, 9 * 7> werte;
+Deckmaske Probemaske(int weite = 9) {
+    constexpr int kHoch = 7;
+    std::vector<std::uint8_t> werte(static_cast<std::size_t>(weite) * kHoch);
     for (std::size_t i = 0; i < werte.size(); ++i)
         werte[i] = static_cast<std::uint8_t>(i * 37 % 256);
-    return {-3, -2, 9, 7, werte};
+    return {-3, -2, weite, kHoch, werte};
 }
 
 /// Strokes, dashes, masks and rectangles all over the picture and beside it, the same for each number.
@@ -114,8 +116,8 @@ TEST(Glattbild, SamePixelsFromAnyCoresAndParts) {
         mehrere.bild.SchliesseAb();
         EXPECT_EQ(mehrere.pixel, einer.pixel);
         Blatt stueckweise(dichte);
-        for (const Rechteck r : {Rechteck{0, 0, 520, 70},
-                                 {521, 0, kBlattweite - 1, 70},
+        for (const Rechteck r : {Rechteck{0, 0, 1030, 70},
+                                 {1031, 0, kBlattweite - 1, 70},
                                  {0, 71, kBlattweite - 1, 73},
                                  {0, 74, kBlattweite - 1, kBlatthoehe - 1}}) {
             stueckweise.bild.SetzeAusschnitt(r);
@@ -123,6 +125,30 @@ TEST(Glattbild, SamePixelsFromAnyCoresAndParts) {
         }
         stueckweise.bild.SchliesseAb();
         EXPECT_EQ(stueckweise.pixel, einer.pixel);
+    }
+}
+
+/// With room to their right, masks are drawn in longer steps than in a part that ends where they do.
+TEST(Glattbild, MasksAreTheSameInLongSteps) {
+    for (const int weite : {1, 4, 8, 9, 17, 64, 70, 130}) {
+        const Deckmaske maske = Probemaske(weite);
+        const Rechteck umfang = maske.Umfang({100, 50});
+        for (const bool vonVorn : {false, true}) {
+            Blatt frei;
+            Blatt eng;
+            eng.bild.SetzeAusschnitt(umfang);
+            for (Blatt* b : {&frei, &eng}) {
+                ASSERT_TRUE(!vonVorn || b->bild.BeginneVonVorn());
+                for (int i = 0; i < 12; ++i)
+                    b->bild.Maske(maske, {100 + i % 3, 50 - i % 2},
+                                  kTinte | static_cast<std::uint32_t>(i * 1234567));
+                vonVorn ? b->bild.BeendeVonVorn() : b->bild.SchliesseAb();
+            }
+            for (int y = umfang.oben; y <= umfang.unten; ++y) {
+                for (int x = umfang.links; x <= umfang.rechts; ++x)
+                    ASSERT_EQ(frei.Pixel(x, y), eng.Pixel(x, y)) << weite << " " << vonVorn;
+            }
+        }
     }
 }
 
