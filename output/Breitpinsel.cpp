@@ -17,8 +17,8 @@ using Achtfach = std::uint32_t __attribute__((vector_size(32)));
 using Sechzehn = std::uint16_t __attribute__((vector_size(32)));
 using SechzehnMitVorzeichen = std::int16_t __attribute__((vector_size(32)));
 
-constexpr int kGruppe = 8;
-constexpr int kViererJeGruppe = 2;
+constexpr std::int64_t kGruppe = 8;
+constexpr std::int64_t kViererJeGruppe = 2;
 constexpr std::uint32_t kUndurchsichtig = 0xFF000000U;
 
 // Every function that has such vectors is built for these processors: others hand them over in memory.
@@ -96,7 +96,7 @@ __attribute__((target("avx2"))) void SetzeMaskeAcht(const Deckmaske& m, const Re
 __attribute__((target("avx2"))) void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang,
                                                     const Rechteck& teil, std::uint32_t farbe,
                                                     const Dahinter& ziel) {
-    constexpr int kWort = 64;
+    constexpr std::int64_t kWort = 64;
     const Achtfarbe achtfarbe{JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
     for (std::int64_t y = teil.oben; y <= teil.unten; ++y) {
         const auto zeile = static_cast<std::size_t>(y - umfang.oben);
@@ -106,7 +106,7 @@ __attribute__((target("avx2"))) void SetzeMaskeAcht(const Deckmaske& m, const Re
         for (std::int64_t x = umfang.links; x <= umfang.rechts; x += kWort) {
             std::uint64_t offen = *bits++ & ziel.Freie(x, y);
             std::uint64_t volle = 0;
-            for (int i = 0; offen != 0; i += kGruppe, offen >>= kGruppe) {
+            for (std::int64_t i = 0; offen != 0; i += kGruppe, offen >>= kGruppe) {
                 if ((offen & 0xFFU) == 0) continue;
                 volle |= SetzeHinter(pixel + x + i, achtfarbe, vier + i / kGruppe * kViererJeGruppe) << i;
             }

@@ -10,11 +10,11 @@ void Deckung::BeginneDeckung(int weite, int hoehe, const Rechteck& ausschnitt) {
     spalten_ = (static_cast<std::size_t>(weite) + 63) / 64;
     reihen_ = (static_cast<std::size_t>(hoehe) + kBlockhoehe - 1) / kBlockhoehe;
     bits_.assign(spalten_ * reihen_ * kBlockhoehe + 1, kVoll);
-    const std::int32_t letzte = ausschnitt.rechts / 64;
+    const std::int64_t letzte = ausschnitt.rechts / 64;
     for (std::int32_t y = ausschnitt.oben; y <= ausschnitt.unten; ++y) {
         std::uint64_t* zeile = bits_.data() + static_cast<std::size_t>(y) * spalten_;
-        for (std::int32_t s = ausschnitt.links / 64; s <= letzte; ++s)
-            zeile[s] = ~Darin(std::int64_t{s} * 64, ausschnitt);
+        for (std::int64_t s = ausschnitt.links / 64; s <= letzte; ++s)
+            zeile[s] = ~Darin(64 * s, ausschnitt);
     }
     tief_.assign(spalten_ * reihen_, 0);
     for (std::size_t spalte = 0; spalte < spalten_; ++spalte) {
@@ -46,8 +46,8 @@ void Deckung::NimmVollenBlock(std::size_t spalte, std::size_t reihe) {
 bool Deckung::GenauVerdeckt(const Rechteck& r) const {
     for (std::int32_t y = r.oben; y <= r.unten; ++y) {
         const std::uint64_t* zeile = bits_.data() + static_cast<std::size_t>(y) * spalten_;
-        for (std::int32_t s = r.links / 64; s <= r.rechts / 64; ++s) {
-            if ((Darin(std::int64_t{s} * 64, r) & ~zeile[s]) != 0) return false;
+        for (std::int64_t s = r.links / 64; s <= r.rechts / 64; ++s) {
+            if ((Darin(64 * s, r) & ~zeile[s]) != 0) return false;
         }
     }
     return true;
