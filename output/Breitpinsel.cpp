@@ -110,7 +110,7 @@ __attribute__((target("avx2"))) void SetzeMaskeAcht(const Deckmaske& m, const Re
                 if ((offen & 0xFFU) == 0) continue;
                 volle |= SetzeHinter(pixel + x + i, achtfarbe, vier + i / kGruppe * kViererJeGruppe) << i;
             }
-            if (volle != 0) ziel.DeckePixel(x, y, volle);
+            if (volle != 0) ziel.deckung.DeckeAb(x, static_cast<std::size_t>(y), volle);
             vier += kWort / kGruppe * kViererJeGruppe;
         }
     }

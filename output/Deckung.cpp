@@ -1,7 +1,5 @@
 #include "output/Deckung.h"
 
-#include <algorithm>
-
 namespace zrw {
 
 void Deckung::BeginneDeckung(int weite, int hoehe, const Rechteck& ausschnitt) {

@@ -35,6 +35,17 @@ class Deckung {
         if (wort == kVoll) PruefeBlock(spalte, y / kBlockhoehe);
         return neu;
     }
+    /// Covers pixels of a row from `x` on. They lie in the picture, `x` may lie left of it. @return those
+    /// that were free
+    std::uint64_t DeckeAb(std::int64_t x, std::size_t y, std::uint64_t pixel) {
+        const auto bit = static_cast<unsigned>(x & 63);
+        const auto spalte = static_cast<std::size_t>(x >> 6);
+        std::uint64_t neu = 0;
+        if (pixel << bit != 0) neu = DeckePixel(spalte, y, pixel << bit) >> bit;
+        if (bit != 0 && pixel >> (64U - bit) != 0)
+            neu |= DeckePixel(spalte + 1, y, pixel >> (64U - bit)) << (64U - bit);
+        return neu;
+    }
     /// Which pixels of a row are covered, from `x` on, one bit each.
     [[nodiscard]] std::uint64_t Gedeckte(std::size_t x, std::size_t y) const {
         const std::uint64_t* wort = bits_.data() + y * spalten_ + x / 64;

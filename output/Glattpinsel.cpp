@@ -73,7 +73,8 @@ inline void Darueber::SetzeVier(std::uint32_t* p, std::int64_t /*y*/, const Vier
 
 /// @param neue which pixels from there on have become full
 inline void Dahinter::Decke(const std::uint32_t* p, std::int64_t y, std::uint64_t neue) const {
-    DeckePixel(p - (pixel + static_cast<std::size_t>(y) * zeile), y, neue);
+    const auto reihe = static_cast<std::size_t>(y);
+    deckung.DeckeAb(p - (pixel + reihe * zeile), reihe, neue);
 }
 
 inline void Dahinter::SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe,

@@ -82,15 +82,6 @@ struct Dahinter {
         return ~deckung.Gedeckte(static_cast<std::size_t>(x), static_cast<std::size_t>(y));
     }
 
-    /// Pixels of a row from `x` on are full from now on.
-    void DeckePixel(std::int64_t x, std::int64_t y, std::uint64_t neue) const {
-        const auto weg = static_cast<unsigned>(x & 63);
-        const auto spalte = static_cast<std::size_t>(x >> 6);
-        deckung.DeckePixel(spalte, static_cast<std::size_t>(y), neue << weg);
-        if (weg != 0 && neue >> (64U - weg) != 0)
-            deckung.DeckePixel(spalte + 1, static_cast<std::size_t>(y), neue >> (64U - weg));
-    }
-
   private:
     void Decke(const std::uint32_t* p, std::int64_t y, std::uint64_t pixel) const;
 };

@@ -172,20 +172,6 @@ void Pixelpinsel::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t far
 
 // --- Masks and texts --------------------------------------------------------------------------------------
 
-/// Covers pixels of a row from `x` on. @return those that were free
-inline std::uint64_t Pixelpinsel::Freie(std::uint64_t bits, std::int64_t x, std::size_t y) const {
-    if (deckung == nullptr) return bits;
-    // In the words of the mask the bits begin in the middle; there are none left of the picture.
-    const auto bit = static_cast<unsigned>(x & 63);
-    const std::int64_t spalte = x >> 6;
-    std::uint64_t neu = 0;
-    if (bits << bit != 0) neu = deckung->DeckePixel(static_cast<std::size_t>(spalte), y, bits << bit) >> bit;
-    if (bit != 0 && bits >> (64U - bit) != 0)
-        neu |= deckung->DeckePixel(static_cast<std::size_t>(spalte + 1), y, bits >> (64U - bit))
-               << (64U - bit);
-    return neu;
-}
-
 /// Some rows of a column of words. Bit by bit: reading pixels to write four at a time takes longer, as most
 /// of them are far from the core.
 void Pixelpinsel::SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
@@ -206,7 +192,8 @@ void Pixelpinsel::SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x
         const std::uint64_t rand = b.worte[i];
         const std::uint64_t beide = (tinte.fuellung != nullptr ? rand | tinte.fuellung[i] : rand) & drin;
         if (beide == 0) continue;
-        const std::uint64_t frei = Freie(beide, x, static_cast<std::size_t>(y + n));
+        const std::uint64_t frei =
+            deckung == nullptr ? beide : deckung->DeckeAb(x, static_cast<std::size_t>(y + n), beide);
         setze(frei & rand, tinte.farbe);
         if (tinte.fuellung != nullptr) setze(frei & ~rand, tinte.fuellfarbe);
     }

@@ -47,7 +47,6 @@ struct Pixelpinsel {
     void SetzeBlock(const Block& b, std::int64_t x, std::int64_t y, const Tinte& tinte) const;
     void SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
                      const Tinte& tinte) const;
-    [[nodiscard]] std::uint64_t Freie(std::uint64_t bits, std::int64_t x, std::size_t y) const;
     struct Schritte;
     void KurzeLinie(Flaechenpunkt von, Flaechenpunkt nach, bool senkrecht, std::uint32_t farbe,
                     bool gestrichelt) const;
