@@ -199,7 +199,8 @@ void Pixelbild::Stempel(const Pixelmaske& rand, const Pixelmaske& fuellung, Flae
 }
 
 bool Pixelbild::Text(Flaechenpunkt ort, std::string_view text, std::uint32_t farbe, Zeichenform form) {
-    constexpr std::size_t kMeisteZeichen = (Auftrag::kMeisteWorte - 1) * sizeof(Wort);
+    constexpr std::size_t kMeisteZeichen = Pixelpinsel::kMeisteZeichen;
+    static_assert(Textworte(kMeisteZeichen) < Auftrag::kMeisteWorte);
     const Glyphensatz& schrift = Schrift(form);
     if (text.size() > kMeisteZeichen) {
         if (!schrift.Textbreite(text)) return false;

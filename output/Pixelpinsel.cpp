@@ -27,6 +27,51 @@ bool LiegtIn(const Rechteck& r, Flaechenpunkt p) {
     return p.x >= r.links && p.x <= r.rechts && p.y >= r.oben && p.y <= r.unten;
 }
 
+constexpr int kWort = 64;  ///< [px]
+
+/// Where a character of a text stands.
+struct Zeichenstelle {
+    const std::uint64_t* zeilen;
+    int von;  ///< its first pixel, from where the text begins
+    int bis;  ///< beyond its last
+};
+
+/// Some rows of one word, spelled out for each pair: they stay in registers.
+template <std::size_t... Paar>
+void FuegePaareZusammen(std::span<const Zeichenstelle> zeichen, int ab, std::size_t erstes,
+                        std::uint64_t* ziel, std::index_sequence<Paar...> /*paare*/) {
+    using Zwei = std::uint64_t __attribute__((vector_size(16)));
+    std::array<Zwei, sizeof...(Paar)> summe{};
+    for (const Zeichenstelle& z : zeichen) {
+        if (z.von >= ab + kWort || z.bis <= ab) continue;
+        const auto zeilen = [&](std::size_t paar) {
+            Zwei v;
+            std::memcpy(&v, z.zeilen + 2 * (erstes + paar), sizeof v);
+            return v;
+        };
+        if (const int x = z.von - ab; x >= 0) {
+            ((summe[Paar] |= zeilen(Paar) << x), ...);
+        } else {
+            ((summe[Paar] |= zeilen(Paar) >> -x), ...);
+        }
+    }
+    std::memcpy(ziel + 2 * erstes, summe.data(), sizeof summe);
+}
+
+/// The rows of one word of a text. @param ab its first pixel, from where the text begins
+/// @param ziel has room for an even number of rows
+void FuegeZusammen(std::span<const Zeichenstelle> zeichen, int ab, std::size_t zeilen, std::uint64_t* ziel) {
+    std::size_t paar = 0;
+    const std::size_t paare = (zeilen + 1) / 2;
+    for (; paar + 4 <= paare; paar += 4)
+        FuegePaareZusammen(zeichen, ab, paar, ziel, std::make_index_sequence<4>());
+    if (paar + 2 <= paare) {
+        FuegePaareZusammen(zeichen, ab, paar, ziel, std::make_index_sequence<2>());
+        paar += 2;
+    }
+    if (paar < paare) FuegePaareZusammen(zeichen, ab, paar, ziel, std::make_index_sequence<1>());
+}
+
 }  // namespace
 
 void Pixelpinsel::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) const {
@@ -173,47 +218,54 @@ void Pixelpinsel::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t far
 // --- Masks and texts --------------------------------------------------------------------------------------
 
 /// Some rows of a column of words. Bit by bit: reading pixels to write four at a time takes longer, as most
-/// of them are far from the core.
+/// of them are far from the core. What does not change is named before, for pixels might overwrite it.
+template <bool Gefuellt>
 void Pixelpinsel::SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
                               const Tinte& tinte) const {
     const std::uint64_t drin = Darin(x, bereich);
     if (drin == 0) return;
-    const auto hoehe = static_cast<std::int64_t>(b.worte.size() / b.jeZeile);
+    const std::size_t jeZeile = b.jeZeile;
     const std::int64_t erste = std::max<std::int64_t>(bereich.oben - y, 0);
-    const std::int64_t letzte = std::min<std::int64_t>(bereich.unten - y, hoehe - 1);
-    if (erste > letzte) return;
-    std::uint32_t* dort = bild + static_cast<std::size_t>(y + erste) * zeile;
-    const auto setze = [&](std::uint64_t bits, std::uint32_t farbe) {
+    const std::int64_t nachLetzter = std::min<std::int64_t>(bereich.unten + 1 - y, b.hoehe);
+    const std::uint32_t farbe = tinte.farbe;
+    const std::uint32_t fuellfarbe = tinte.fuellfarbe;
+    const std::size_t schritt = zeile;
+    Deckung* const gedeckt = deckung;
+    std::uint32_t* dort = bild + (y + erste) * static_cast<std::int64_t>(schritt) + x;
+    const auto setze = [&dort](std::uint64_t bits, std::uint32_t f) {
         for (; bits != 0; bits &= bits - 1)
-            dort[x + std::countr_zero(bits)] = farbe;
+            dort[std::countr_zero(bits)] = f;
     };
-    std::size_t i = static_cast<std::size_t>(erste) * b.jeZeile + spalte;
-    for (std::int64_t n = erste; n <= letzte; ++n, i += b.jeZeile, dort += zeile) {
+    std::size_t i = static_cast<std::size_t>(erste) * jeZeile + spalte;
+    for (std::int64_t n = erste; n < nachLetzter; ++n, i += jeZeile, dort += schritt) {
         const std::uint64_t rand = b.worte[i];
-        const std::uint64_t beide = (tinte.fuellung != nullptr ? rand | tinte.fuellung[i] : rand) & drin;
+        const std::uint64_t beide = (Gefuellt ? rand | tinte.fuellung[i] : rand) & drin;
         if (beide == 0) continue;
         const std::uint64_t frei =
-            deckung == nullptr ? beide : deckung->DeckeAb(x, static_cast<std::size_t>(y + n), beide);
-        setze(frei & rand, tinte.farbe);
-        if (tinte.fuellung != nullptr) setze(frei & ~rand, tinte.fuellfarbe);
+            gedeckt == nullptr ? beide : gedeckt->DeckeAb(x, static_cast<std::size_t>(y + n), beide);
+        setze(frei & rand, farbe);
+        if (Gefuellt) setze(frei & ~rand, fuellfarbe);
     }
 }
 
 void Pixelpinsel::SetzeBlock(const Block& b, std::int64_t x, std::int64_t y, const Tinte& tinte) const {
-    for (std::size_t spalte = 0; spalte < b.jeZeile; ++spalte)
-        SetzeSpalte(b, spalte, x + static_cast<std::int64_t>(spalte) * 64, y, tinte);
+    for (std::size_t spalte = 0; spalte < b.jeZeile; ++spalte) {
+        const std::int64_t dort = x + static_cast<std::int64_t>(spalte) * kWort;
+        tinte.fuellung != nullptr ? SetzeSpalte<true>(b, spalte, dort, y, tinte)
+                                  : SetzeSpalte<false>(b, spalte, dort, y, tinte);
+    }
 }
 
 void Pixelpinsel::Maske(const Pixelmaske& maske, Flaechenpunkt ort, std::uint32_t farbe) const {
     if (maske.worte.empty()) return;
-    SetzeBlock({maske.worte, maske.JeZeile()}, std::int64_t{ort.x} + maske.links,
+    SetzeBlock({maske.worte.data(), maske.hoehe, maske.JeZeile()}, std::int64_t{ort.x} + maske.links,
                std::int64_t{ort.y} + maske.oben, {farbe, nullptr, 0});
 }
 
 void Pixelpinsel::Stempel(const Pixelmaske& rand, const Pixelmaske& fuellung, Flaechenpunkt ort,
                           std::uint32_t farbe, std::uint32_t fuellfarbe) const {
     if (rand.worte.empty()) return;
-    SetzeBlock({rand.worte, rand.JeZeile()}, std::int64_t{ort.x} + rand.links,
+    SetzeBlock({rand.worte.data(), rand.hoehe, rand.JeZeile()}, std::int64_t{ort.x} + rand.links,
                std::int64_t{ort.y} + rand.oben, {farbe, fuellung.worte.data(), fuellfarbe});
 }
 
@@ -224,44 +276,25 @@ void Pixelpinsel::Text(Flaechenpunkt ort, std::string_view text, std::uint32_t f
     if (deckung != nullptr &&
         deckung->GenauVerdeckt(Geschnitten(schrift.Umfang(ort, *schrift.Textbreite(text)), bereich)))
         return;
-    using Zwei = std::uint64_t __attribute__((vector_size(16)));
-    constexpr int kWort = 64;
-    constexpr std::size_t kMeistePaare = Glyphensatz::kGroesste / 2;
-    const auto zeilen = static_cast<std::size_t>(schrift.Hoehe());
-    const std::size_t paare = (zeilen + 1) / 2;
-    std::array<std::array<Zwei, kMeistePaare>, 2> worte;
-    Zwei* wort = worte[0].data();
-    Zwei* naechstes = worte[1].data();
-    std::fill_n(wort, paare, Zwei{});
-    std::fill_n(naechstes, paare, Zwei{});
-    std::int64_t links = std::int64_t{ort.x} + schrift.Links();
-    const auto setze = [&] {
-        const std::span bits(reinterpret_cast<const std::uint64_t*>(wort), zeilen);
-        SetzeSpalte({bits, 1}, 0, links, std::int64_t{ort.y} + schrift.Oben(), {farbe, nullptr, 0});
-        links += kWort;
-        std::swap(wort, naechstes);
-        std::fill_n(naechstes, paare, Zwei{});
-    };
+    std::array<Zeichenstelle, kMeisteZeichen> stellen;  // NOLINT(*-member-init): only those in use are set up
+    std::size_t anzahl = 0;
     int stelle = -schrift.Links();
     int bis = 0;
     for (const char c : text) {
         const Glyphensatz::Glyphe& g = schrift.Glyphenangaben(c);
-        int x = stelle + g.links;
+        const int x = stelle + g.links;
         stelle += g.vorschub;
         if (g.leer) continue;
-        for (; x >= kWort; x -= kWort, stelle -= kWort, bis -= kWort)
-            setze();
+        stellen[anzahl++] = {schrift.Zeilen(c), x, x + g.weite};
         bis = std::max(bis, x + g.weite);
-        const std::uint64_t* zeichen = schrift.Zeilen(c);
-        for (std::size_t i = 0; i < paare; ++i) {
-            Zwei z;
-            std::memcpy(&z, zeichen + 2 * i, sizeof z);
-            wort[i] |= z << x;
-            if (x + g.weite > kWort) naechstes[i] |= z >> (kWort - x);
-        }
     }
-    for (; bis > 0; bis -= kWort)
-        setze();
+    const auto zeilen = static_cast<std::size_t>(schrift.Hoehe());
+    std::array<std::uint64_t, Glyphensatz::kGroesste> worte;  // NOLINT(*-member-init): likewise
+    for (int ab = 0; ab < bis; ab += kWort) {
+        FuegeZusammen({stellen.data(), anzahl}, ab, zeilen, worte.data());
+        SetzeSpalte<false>({worte.data(), schrift.Hoehe(), 1}, 0, std::int64_t{ort.x} + schrift.Links() + ab,
+                           std::int64_t{ort.y} + schrift.Oben(), {farbe, nullptr, 0});
+    }
 }
 
 }  // namespace zrw

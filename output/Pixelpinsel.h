@@ -29,15 +29,16 @@ struct Pixelpinsel {
     /// An outline and what lies in it, two masks of one frame.
     void Stempel(const Pixelmaske& rand, const Pixelmaske& fuellung, Flaechenpunkt ort, std::uint32_t farbe,
                  std::uint32_t fuellfarbe) const;
-    /// @param text of characters that the font knows
+    static constexpr std::size_t kMeisteZeichen = 184;
+    /// @param text of characters that the font knows, at most so many
     void Text(Flaechenpunkt ort, std::string_view text, std::uint32_t farbe,
               const Glyphensatz& schrift) const;
 
   private:
-    /// Rows of `jeZeile` words each.
     struct Block {
-        std::span<const std::uint64_t> worte;
-        std::size_t jeZeile;
+        const std::uint64_t* worte;
+        std::int64_t hoehe;   ///< rows
+        std::size_t jeZeile;  ///< words
     };
     struct Tinte {
         std::uint32_t farbe;
@@ -45,6 +46,7 @@ struct Pixelpinsel {
         std::uint32_t fuellfarbe;
     };
     void SetzeBlock(const Block& b, std::int64_t x, std::int64_t y, const Tinte& tinte) const;
+    template <bool Gefuellt>
     void SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
                      const Tinte& tinte) const;
     struct Schritte;
