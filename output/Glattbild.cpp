@@ -18,23 +18,21 @@ bool Unsichtbar(const Rechteck& r, const Ziel& ziel) {
 
 }  // namespace
 
-void Glattbild::BindeAn(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, double dichte,
-                        unsigned helfer) {
+void Glattbild::BindeAn(const Zielbild& bild, double dichte) {
     SchliesseAb();
     bild_ = bild;
-    weite_ = weite;
-    hoehe_ = hoehe;
-    zeile_ = zeile;
     dichte_ = dichte;
     vorn_.reset();
     vorderseiten_.clear();
-    kacheln_.TeileInKacheln(weite, hoehe, helfer);
+    kacheln_.TeileInKacheln(bild);
 }
 
 void Glattbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
-    kacheln_.VerteileAuftrag(1, r, [&](Auftrag* ziel) {
-        *ziel = {{r.links, r.oben}, {.nach = {r.rechts, r.unten}}, farbe, Art::Rechteck, 0};
-    });
+    const auto schreibe = [&](Auftrag* ziel, const Rechteck& teil) {
+        *ziel = {{teil.links, teil.oben}, {.nach = {teil.rechts, teil.unten}}, farbe, Art::Rechteck, 0};
+    };
+    if (!vonVorn_) return kacheln_.VerteileFuellung(1, r, farbe, schreibe);
+    kacheln_.VerteileAuftrag(1, r, [&](Auftrag* ziel) { schreibe(ziel, r); });
 }
 
 /// Field by field: an order that is put together first and copied as a whole takes several times as long.
@@ -126,7 +124,7 @@ void Glattbild::ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpun
 
 void Glattbild::ZeichneKachel(std::size_t kachel, std::span<const Auftrag> auftraege) {
     const Rechteck r = kacheln_.Bereich(kachel);
-    if (!vonVorn_) return ZeichneAuftraege(auftraege, {}, Darueber{bild_, zeile_, r});
+    if (!vonVorn_) return ZeichneAuftraege(auftraege, {}, Darueber{bild_.pixel, bild_.zeile, r});
     const Rechteck ganz = kacheln_.GanzeKachel(kachel);
     Vorderseite& vorn = vorderseiten_[kachel];
     ZeichneAuftraege(auftraege, {ganz.links, ganz.oben},
@@ -137,7 +135,7 @@ void Glattbild::ZeichneKachel(std::size_t kachel, std::span<const Auftrag> auftr
 
 bool Glattbild::BeginneVonVorn() {
     constexpr std::int64_t kGroesstes = std::int64_t{1} << 25U;  ///< [px]
-    if (std::int64_t{weite_} * hoehe_ > kGroesstes) return false;
+    if (std::int64_t{bild_.weite} * bild_.hoehe > kGroesstes) return false;
     SchliesseAb();
     vonVorn_ = true;
     if (vorn_ == nullptr) {
@@ -148,11 +146,16 @@ bool Glattbild::BeginneVonVorn() {
     }
     kacheln_.FuerAlleZugleich([this](std::size_t i) {
         Vorderseite& v = vorderseiten_[i];
-        const Rechteck r = InKachel(kacheln_.Bereich(i), kacheln_.GanzeKachel(i));
-        v.deckung.BeginneDeckung(kKachelweite, kKachelhoehe, r);
+        v.deckung.BeginneDeckung(kKachelweite, kKachelhoehe,
+                                 InKachel(kacheln_.Bereich(i), kacheln_.GanzeKachel(i)));
         v.pixel = vorn_.get() + i * kKachelpixel;
-        std::fill(v.pixel + static_cast<std::size_t>(r.oben) * kKachelweite,
-                  v.pixel + static_cast<std::size_t>(r.unten + 1) * kKachelweite, 0U);
+        const Rechteck& r = v.benutzt;
+        for (std::int32_t y = r.oben; y <= r.unten; ++y)
+            std::fill_n(v.pixel + std::ptrdiff_t{y} * kKachelweite + r.links, r.rechts - r.links + 1, 0U);
+    });
+    kacheln_.FuerKacheln(kacheln_.Ausschnitt(), [this](std::size_t i) {
+        vorderseiten_[i].davor = kacheln_.Grund().Bemalt(i);
+        kacheln_.Grund().SetzeBemalt(i, kKeinRechteck);
     });
     return true;
 }
@@ -161,14 +164,18 @@ void Glattbild::BeendeVonVorn() {
     SchliesseAb();
     vonVorn_ = false;
     kacheln_.FuerAlleZugleich([this](std::size_t i) {
-        const Rechteck r = kacheln_.Bereich(i);
-        const Rechteck dort = InKachel(r, kacheln_.GanzeKachel(i));
-        const std::uint32_t* vorn =
-            vorderseiten_[i].pixel + static_cast<std::size_t>(dort.oben) * kKachelweite + dort.links;
-        const std::int32_t weite = r.rechts - r.links + 1;
+        Vorderseite& v = vorderseiten_[i];
+        const Rechteck r = Geschnitten(kacheln_.Grund().Bemalt(i), kacheln_.Bereich(i));
+        v.benutzt = InKachel(r, kacheln_.GanzeKachel(i));
+        if (Leer(r)) return;
+        const std::uint32_t* vorn = v.pixel + std::ptrdiff_t{v.benutzt.oben} * kKachelweite + v.benutzt.links;
         for (std::int32_t y = r.oben; y <= r.unten; ++y, vorn += kKachelweite)
-            MischeUnter(vorn, bild_ + static_cast<std::size_t>(y) * zeile_ + r.links,
-                        static_cast<std::size_t>(weite));
+            MischeUnter(vorn, bild_.pixel + static_cast<std::size_t>(y) * bild_.zeile + r.links,
+                        static_cast<std::size_t>(r.rechts - r.links + 1));
+    });
+    kacheln_.FuerKacheln(kacheln_.Ausschnitt(), [this](std::size_t i) {
+        Bildgrund& grund = kacheln_.Grund();
+        grund.SetzeBemalt(i, Vereint(grund.Bemalt(i), vorderseiten_[i].davor));
     });
 }
 

@@ -22,10 +22,8 @@ namespace zrw {
 class Glattbild {
   public:
     Glattbild() = default;
-    /// @param bild first pixel of the top row @param zeile pixels from one row to the next
     /// @param dichte width of a pen of width 1, and of a pixel of its dashes [px]
-    void BindeAn(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, double dichte,
-                 unsigned helfer);
+    void BindeAn(const Zielbild& bild, double dichte);
 
     /// Pixels outside keep their colour. Lies in the picture.
     void SetzeAusschnitt(const Rechteck& r) { kacheln_.SetzeAusschnitt(r); }
@@ -78,11 +76,15 @@ class Glattbild {
     struct Vorderseite {
         Deckung deckung;
         std::uint32_t* pixel = nullptr;
+        Rechteck benutzt{0, 0, kKachelweite - 1, kKachelhoehe - 1};  ///< outside of it are zeros
+        Rechteck davor = kKeinRechteck;  ///< where the picture was painted when it began
     };
 
     void ZeichneKachel(std::size_t kachel, std::span<const Auftrag> auftraege);
     template <class Ziel>
     void ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke, const Ziel& ziel) const;
+    template <class Ziel>
+    static void ZeichneMasken(std::span<const Auftrag> auftraege, Flaechenpunkt ecke, const Ziel& ziel);
     static void SchreibeStrich(Auftrag& a, const Linienstueck& s, std::uint32_t farbe, std::uint8_t breite);
     [[nodiscard]] static std::uint8_t Stiftbreite(std::int32_t breite);
     /// How far a stroke reaches to each side [px].
@@ -91,10 +93,7 @@ class Glattbild {
     }
     [[nodiscard]] Rechteck Strichumfang(Flaechenpunkt von, Flaechenpunkt nach, int breite) const;
 
-    std::uint32_t* bild_ = nullptr;
-    int weite_ = 0;
-    int hoehe_ = 0;
-    std::size_t zeile_ = 0;
+    Zielbild bild_;
     double dichte_ = 1.0;
     bool vonVorn_ = false;
     std::unique_ptr<std::uint32_t, Speichergabe> vorn_;  ///< of all tiles

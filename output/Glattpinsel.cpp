@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "output/Bildgrund.h"
 #include "output/Breitpinsel.h"
 
 namespace zrw {
@@ -53,9 +54,9 @@ std::uint32_t FarbeMal(std::uint32_t farbe, unsigned n) {
 
 }  // namespace
 
-inline void Darueber::FuelleZeile(std::uint32_t* p, std::int64_t /*y*/, std::int32_t weite,
-                                  std::uint32_t farbe) const {
-    std::fill_n(p, weite, kDeckend | farbe);
+inline void Darueber::FuelleBlock(const Rechteck& r, std::uint32_t farbe) const {
+    FuelleZeilen(pixel + static_cast<std::size_t>(r.oben) * zeile + r.links, zeile, r.rechts - r.links + 1,
+                 r.unten - r.oben + 1, kDeckend | farbe);
 }
 
 inline void Darueber::SetzePixel(std::uint32_t* p, std::int64_t /*y*/, const Vierfarbe& farbe,
@@ -89,11 +90,12 @@ inline void Dahinter::SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfar
     *p += FarbeMal(farbe.einzeln & ~kDeckend, n) + (n << 24U);
 }
 
-inline void Dahinter::FuelleZeile(std::uint32_t* p, std::int64_t y, std::int32_t weite,
-                                  std::uint32_t farbe) const {
+inline void Dahinter::FuelleBlock(const Rechteck& r, std::uint32_t farbe) const {
     const Vierfarbe vierfarbe(farbe);
-    for (std::int32_t x = 0; x < weite; ++x)
-        SetzePixel(p + x, y, vierfarbe, kGanz);
+    for (std::int64_t y = r.oben; y <= r.unten; ++y) {
+        for (std::int64_t x = r.links; x <= r.rechts; ++x)
+            SetzePixel(pixel + static_cast<std::size_t>(y) * zeile + x, y, vierfarbe, kGanz);
+    }
 }
 
 inline void Dahinter::SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a) const {

@@ -58,7 +58,8 @@ struct Darueber {
     std::uint32_t* pixel;  ///< first of the top row
     std::size_t zeile;     ///< pixels from one row to the next
     Rechteck bereich;      ///< pixels outside are neither read nor written
-    void FuelleZeile(std::uint32_t* p, std::int64_t y, std::int32_t weite, std::uint32_t farbe) const;
+    /// @param r lies in `bereich`
+    void FuelleBlock(const Rechteck& r, std::uint32_t farbe) const;
     void SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, std::int32_t a) const;
     void SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a) const;
     [[nodiscard]] static bool Verdeckt(const Rechteck& /*r*/) { return false; }
@@ -74,7 +75,8 @@ struct Dahinter {
     std::size_t zeile;
     Rechteck bereich;
     Deckung& deckung;
-    void FuelleZeile(std::uint32_t* p, std::int64_t y, std::int32_t weite, std::uint32_t farbe) const;
+    /// @param r lies in `bereich`
+    void FuelleBlock(const Rechteck& r, std::uint32_t farbe) const;
     void SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, std::int32_t a) const;
     void SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a) const;
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const { return deckung.Verdeckt(r); }

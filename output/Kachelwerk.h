@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "output/Bildgrund.h"
 #include "output/Rechteck.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeilenhelfer.h"
@@ -53,8 +54,9 @@ class Kachelwerk {
     using Zeichner = std::function<void(std::size_t kachel, std::span<const Wort>)>;
 
     explicit Kachelwerk(Zeichner zeichner) : zeichner_(std::move(zeichner)) {}
-    /// For a picture of this size [px]. Nothing may wait.
-    void TeileInKacheln(int weite, int hoehe, unsigned helfer);
+    /// Nothing may wait.
+    void TeileInKacheln(const Zielbild& bild);
+    [[nodiscard]] Bildgrund& Grund() const { return *grund_; }
 
     /// What is outside keeps its pixels. Lies in the picture.
     void SetzeAusschnitt(const Rechteck& r) {
@@ -82,9 +84,14 @@ class Kachelwerk {
     void FuerAlleZugleich(Tun tun) const;
 
     /// The tiles that touch a rectangle get the order. @param worte that it has
+    /// @param umfang what it draws lies in it
     /// @param schreibe called with where to write them
     template <class Schreibe>
     void VerteileAuftrag(std::size_t worte, const Rechteck& umfang, Schreibe schreibe);
+    /// Fills with a colour what does not have it anyway.
+    /// @param schreibe called with where to write the order and with what it is to fill
+    template <class Schreibe>
+    void VerteileFuellung(std::size_t worte, const Rechteck& r, std::uint32_t farbe, Schreibe schreibe);
     /// Calls `tun(rectangle)` for those that cover all tiles that a stroke runs through: not many more.
     /// @param rand how far it reaches to each side [px]
     template <class Tun>
@@ -107,9 +114,13 @@ class Kachelwerk {
         std::vector<Wort> uebergeben;
         bool gemeldet = false;  ///< waits to be drawn, or is being drawn
     };
+    template <class Schreibe>
+    void HaengeAn(std::size_t kachel, std::size_t worte, Schreibe schreibe);
     void Uebergib(std::size_t kachel);
     void ZeichneKachel(std::size_t kachel);
 
+    Bildgrund* grund_ = nullptr;
+    Rechteck ganz_;
     Rechteck ausschnitt_;
     std::size_t spalten_ = 0;  ///< tiles in a row
     Zeichner zeichner_;
@@ -120,14 +131,18 @@ class Kachelwerk {
 };
 
 template <class Wort>
-void Kachelwerk<Wort>::TeileInKacheln(int weite, int hoehe, unsigned helfer) {
+void Kachelwerk<Wort>::TeileInKacheln(const Zielbild& bild) {
     const auto anzahl = [](int laenge, int kachel) {
         return static_cast<std::size_t>((laenge + kachel - 1) / kachel);
     };
-    spalten_ = anzahl(weite, kKachelweite);
-    kacheln_ = std::vector<Kachel>(spalten_ * anzahl(hoehe, kKachelhoehe));
-    ausschnitt_ = {0, 0, weite - 1, hoehe - 1};
-    if (helfer_ == nullptr || helfer_->Helfer() != helfer) helfer_ = std::make_unique<Zeilenhelfer>(helfer);
+    spalten_ = anzahl(bild.weite, kKachelweite);
+    kacheln_ = std::vector<Kachel>(spalten_ * anzahl(bild.hoehe, kKachelhoehe));
+    grund_ = bild.grund;
+    grund_->TeileEin(kacheln_.size());
+    ganz_ = {0, 0, bild.weite - 1, bild.hoehe - 1};
+    ausschnitt_ = ganz_;
+    if (helfer_ == nullptr || helfer_->Helfer() != bild.helfer)
+        helfer_ = std::make_unique<Zeilenhelfer>(bild.helfer);
 }
 
 template <class Wort>
@@ -182,16 +197,34 @@ inline void Kachelwerk<Wort>::FuerStrich(Flaechenpunkt von, Flaechenpunkt nach, 
 
 template <class Wort>
 template <class Schreibe>
+inline void Kachelwerk<Wort>::HaengeAn(std::size_t kachel, std::size_t worte, Schreibe schreibe) {
+    Kachel& k = kacheln_[kachel];
+    if (k.gesammelt.size() < k.anzahl + worte) k.gesammelt.resize(2 * (k.anzahl + worte));
+    schreibe(k.gesammelt.data() + k.anzahl);
+    k.anzahl += worte;
+    if (k.anzahl < kBuendel) return;
+    Uebergib(kachel);
+    while (wartende_.load(std::memory_order_relaxed) > kMeisteWartende)
+        helfer_->TueEinen();
+}
+
+template <class Wort>
+template <class Schreibe>
 inline void Kachelwerk<Wort>::VerteileAuftrag(std::size_t worte, const Rechteck& umfang, Schreibe schreibe) {
-    FuerKacheln(umfang, [&](std::size_t nummer) {
-        Kachel& k = kacheln_[nummer];
-        if (k.gesammelt.size() < k.anzahl + worte) k.gesammelt.resize(2 * (k.anzahl + worte));
-        schreibe(k.gesammelt.data() + k.anzahl);
-        k.anzahl += worte;
-        if (k.anzahl < kBuendel) return;
-        Uebergib(nummer);
-        while (wartende_.load(std::memory_order_relaxed) > kMeisteWartende)
-            helfer_->TueEinen();
+    FuerKacheln(umfang, [&](std::size_t kachel) {
+        grund_->Bemale(kachel, umfang);
+        HaengeAn(kachel, worte, schreibe);
+    });
+}
+
+template <class Wort>
+template <class Schreibe>
+void Kachelwerk<Wort>::VerteileFuellung(std::size_t worte, const Rechteck& r, std::uint32_t farbe,
+                                        Schreibe schreibe) {
+    FuerKacheln(r, [&](std::size_t kachel) {
+        const Rechteck teil = grund_->Fuelle(kachel, Geschnitten(GanzeKachel(kachel), ganz_),
+                                             Geschnitten(r, Bereich(kachel)), farbe);
+        if (!Leer(teil)) HaengeAn(kachel, worte, [&](Wort* ziel) { schreibe(ziel, teil); });
     });
 }
 

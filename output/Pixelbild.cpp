@@ -53,14 +53,11 @@ static_assert(std::endian::native == std::endian::little, "texts lie in words");
 static_assert(kKachelhoehe == Deckung::kLaufhoehe && kKachelweite % 64 == 0,
               "several cores cover pixels at a time");
 
-void Pixelbild::BindeAn(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, unsigned helfer) {
+void Pixelbild::BindeAn(const Zielbild& bild) {
     SchliesseAb();
     bild_ = bild;
-    weite_ = weite;
-    hoehe_ = hoehe;
-    zeile_ = zeile;
-    allein_ = helfer == 0;
-    kacheln_.TeileInKacheln(weite, hoehe, helfer);
+    allein_ = bild.helfer == 0;
+    kacheln_.TeileInKacheln(bild);
 }
 
 void Pixelbild::SetzeAusschnitt(const Rechteck& r) {
@@ -69,19 +66,21 @@ void Pixelbild::SetzeAusschnitt(const Rechteck& r) {
 
 void Pixelbild::VerschiebeBild(int dx, int dy) {
     SchliesseAb();
-    if (std::abs(dx) >= weite_ || std::abs(dy) >= hoehe_) return;
-    const auto breite = static_cast<std::size_t>(weite_ - std::abs(dx)) * sizeof(std::uint32_t);
-    for (int i = std::abs(dy); i < hoehe_; ++i) {
+    if (std::abs(dx) >= bild_.weite || std::abs(dy) >= bild_.hoehe) return;
+    kacheln_.Grund().VergissAlles();
+    const auto breite = static_cast<std::size_t>(bild_.weite - std::abs(dx)) * sizeof(std::uint32_t);
+    for (int i = std::abs(dy); i < bild_.hoehe; ++i) {
         // Rows that are still to be copied must not be overwritten.
-        const int nach = dy > 0 ? hoehe_ - 1 - (i - dy) : i + dy;
-        std::memmove(bild_ + static_cast<std::size_t>(nach) * zeile_ + std::max(dx, 0),
-                     bild_ + static_cast<std::size_t>(nach - dy) * zeile_ + std::max(-dx, 0), breite);
+        const int nach = dy > 0 ? bild_.hoehe - 1 - (i - dy) : i + dy;
+        std::memmove(bild_.pixel + static_cast<std::size_t>(nach) * bild_.zeile + std::max(dx, 0),
+                     bild_.pixel + static_cast<std::size_t>(nach - dy) * bild_.zeile + std::max(-dx, 0),
+                     breite);
     }
 }
 
 void Pixelbild::BeginneVonVorn() {
     SchliesseAb();
-    deckung_.BeginneDeckung(weite_, hoehe_, Ausschnitt());
+    deckung_.BeginneDeckung(bild_.weite, bild_.hoehe, Ausschnitt());
 }
 
 void Pixelbild::BeendeVonVorn() {
@@ -119,17 +118,27 @@ class Pixelbild::Auftrag {
     std::size_t anzahl_ = 1;
 };
 
+/// At once, whatever tiles it touches.
+void Pixelbild::ZeichneAllein(std::span<const Wort> auftrag) {
+    kacheln_.Grund().VergissAlles();
+    ZeichneAuftraege(Pinsel(Ausschnitt()), auftrag);
+}
+
 inline void Pixelbild::Gib(std::span<const Wort> auftrag, const Rechteck& umfang) {
-    if (allein_) return ZeichneAuftraege(Pinsel(Ausschnitt()), auftrag);
+    if (allein_) return ZeichneAllein(auftrag);
     kacheln_.VerteileAuftrag(auftrag.size(), umfang, [&](Wort* ziel) { KopiereWorte(auftrag, ziel); });
 }
 
 void Pixelbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
     assert(!VonVorn());
-    Auftrag a;
-    a.NimmWort(Flaechenpunkt{r.links, r.oben});
-    a.NimmWort(Flaechenpunkt{r.rechts, r.unten});
-    Gib(a.Mit({.farbe = farbe, .art = Art::Rechteck}), r);
+    const auto auftrag = [farbe](const Rechteck& teil) {
+        return std::array{std::bit_cast<Wort>(Kopf{.farbe = farbe, .art = Art::Rechteck}),
+                          std::bit_cast<Wort>(Flaechenpunkt{teil.links, teil.oben}),
+                          std::bit_cast<Wort>(Flaechenpunkt{teil.rechts, teil.unten})};
+    };
+    if (allein_) return ZeichneAllein(auftrag(r));
+    kacheln_.VerteileFuellung(auftrag(r).size(), r, farbe,
+                              [&](Wort* ziel, const Rechteck& teil) { KopiereWorte(auftrag(teil), ziel); });
 }
 
 void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe, bool gestrichelt) {
@@ -140,6 +149,7 @@ void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe
 /// Strokes of one colour may change places.
 void Pixelbild::Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe) {
     if (allein_) {
+        kacheln_.Grund().VergissAlles();
         const Pixelpinsel pinsel = Pinsel(Ausschnitt());
         for (const Linienstueck& s : stuecke)
             pinsel.Linie(s.von, s.nach, farbe, s.gestrichelt);

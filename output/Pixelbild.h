@@ -23,10 +23,9 @@ enum class Zeichenform : std::uint8_t { Blank, MitRand };
 class Pixelbild {
   public:
     Pixelbild() = default;
-    /// @param bild first pixel of the top row @param zeile pixels from one row to the next
-    void BindeAn(std::uint32_t* bild, int weite, int hoehe, std::size_t zeile, unsigned helfer);
+    void BindeAn(const Zielbild& bild);
 
-    [[nodiscard]] Rechteck Ganz() const { return {0, 0, weite_ - 1, hoehe_ - 1}; }
+    [[nodiscard]] Rechteck Ganz() const { return {0, 0, bild_.weite - 1, bild_.hoehe - 1}; }
     /// Pixels outside keep their colour. Cut to the picture.
     void SetzeAusschnitt(const Rechteck& r);
     [[nodiscard]] const Rechteck& Ausschnitt() const { return kacheln_.Ausschnitt(); }
@@ -86,16 +85,14 @@ class Pixelbild {
     class Auftrag;
     void VerteileStriche(std::span<const Linienstueck> stuecke, std::uint32_t farbe);
     void VerteileLangen(const Linienstueck& s, std::uint32_t farbe);
+    void ZeichneAllein(std::span<const Wort> auftrag);
     void Gib(std::span<const Wort> auftrag, const Rechteck& umfang);
     void ZeichneAuftraege(const Pixelpinsel& pinsel, std::span<const Wort> auftraege) const;
     [[nodiscard]] Pixelpinsel Pinsel(const Rechteck& bereich) {
-        return {bild_, zeile_, bereich, VonVorn() ? &deckung_ : nullptr};
+        return {bild_.pixel, bild_.zeile, bereich, VonVorn() ? &deckung_ : nullptr};
     }
 
-    std::uint32_t* bild_ = nullptr;
-    int weite_ = 0;
-    int hoehe_ = 0;
-    std::size_t zeile_ = 0;
+    Zielbild bild_;
     Deckung deckung_;
     std::array<Glyphensatz, 2> schriften_;  ///< in the order of `Zeichenform`
     bool allein_ = true;                    ///< no helpers: orders need not wait

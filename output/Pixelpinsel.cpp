@@ -9,6 +9,8 @@
 #include <limits>
 #include <utility>
 
+#include "output/Bildgrund.h"
+
 namespace zrw {
 namespace {
 
@@ -78,13 +80,8 @@ void Pixelpinsel::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) const {
     assert(deckung == nullptr);
     const Rechteck teil = Geschnitten(r, bereich);
     if (Leer(teil)) return;
-    const std::int32_t weite = teil.rechts - teil.links + 1;
-    std::uint32_t* const erste = bild + static_cast<std::size_t>(teil.oben) * zeile + teil.links;
-    std::fill_n(erste, weite, farbe);
-    // Copied, not filled: compilers make vector code of the one, and a loop of the other.
-    std::uint32_t* naechste = erste;
-    for (std::int32_t y = teil.oben; y < teil.unten; ++y)
-        std::copy_n(erste, weite, naechste += zeile);
+    FuelleZeilen(bild + static_cast<std::size_t>(teil.oben) * zeile + teil.links, zeile,
+                 teil.rechts - teil.links + 1, teil.unten - teil.oben + 1, farbe);
 }
 
 // --- Strokes ----------------------------------------------------------------------------------------------

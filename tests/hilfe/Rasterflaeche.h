@@ -19,7 +19,7 @@ class Rasterflaeche final : public Zeichenflaeche {
     }
     /// Only without any is what is hidden always known at the same time.
     void SetzeHelfer(unsigned helfer) {
-        bild_.BindeAn(pixel_.data(), weite_, hoehe_, static_cast<std::size_t>(weite_), helfer);
+        bild_.BindeAn({pixel_.data(), weite_, hoehe_, static_cast<std::size_t>(weite_), &grund_, helfer});
     }
 
     [[nodiscard]] const std::vector<std::uint32_t>& Pixel() {
@@ -107,6 +107,7 @@ class Rasterflaeche final : public Zeichenflaeche {
     int weite_;
     int hoehe_;
     std::vector<std::uint32_t> pixel_;
+    Bildgrund grund_;
     Pixelbild bild_;
 };
 

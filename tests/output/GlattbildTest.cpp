@@ -20,10 +20,11 @@ constexpr std::uint32_t kTinte = 0xFF000000;
 struct Blatt {
     std::vector<std::uint32_t> pixel =
         std::vector<std::uint32_t>(std::size_t{kBlattweite} * kBlatthoehe, kLeer);
+    Bildgrund grund;
     Glattbild bild;
 
     explicit Blatt(double dichte = 1.0, unsigned helfer = 0) {
-        bild.BindeAn(pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, dichte, helfer);
+        bild.BindeAn({pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, &grund, helfer}, dichte);
     }
     [[nodiscard]] std::uint32_t Pixel(int x, int y) const {
         return pixel[static_cast<std::size_t>(y) * kBlattweite + static_cast<std::size_t>(x)];

@@ -15,7 +15,7 @@ namespace {
 struct Pixelblatt {
     explicit Pixelblatt(int w, int h, unsigned helfer = 0)
         : weite(w), pixel(static_cast<std::size_t>(w) * static_cast<std::size_t>(h)) {
-        bild.BindeAn(pixel.data(), w, h, static_cast<std::size_t>(w), helfer);
+        bild.BindeAn({pixel.data(), w, h, static_cast<std::size_t>(w), &grund, helfer});
     }
     [[nodiscard]] std::set<std::pair<int, int>> Gesetzt(std::uint32_t farbe) const {
         std::set<std::pair<int, int>> s;
@@ -26,6 +26,7 @@ struct Pixelblatt {
     }
     int weite;
     std::vector<std::uint32_t> pixel;
+    Bildgrund grund;
     Pixelbild bild;
 };
 

@@ -140,6 +140,7 @@ void Malerflaeche::WendePinselAn(const Pinsel& pinsel) {
 }
 
 void Malerflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
+    VorDemMalen();
     WendeStiftAn(AktuellerStift());
     if (glatt_) {
         maler_->drawLine(QLineF(von.x, von.y, nach.x, nach.y).translated(Mitte()));
@@ -149,6 +150,7 @@ void Malerflaeche::Linie(Flaechenpunkt von, Flaechenpunkt nach) {
 }
 
 void Malerflaeche::ZeichneRechteck(const Rechteck& r) {
+    VorDemMalen();
     WendeStiftAn(AktuellerStift());
     WendePinselAn(AktuellerPinsel());
     const QRect q(r.links, r.oben, r.rechts - r.links, r.unten - r.oben);
@@ -160,6 +162,7 @@ void Malerflaeche::ZeichneRechteck(const Rechteck& r) {
 }
 
 void Malerflaeche::Ellipse(const Rechteck& u) {
+    VorDemMalen();
     WendeStiftAn(AktuellerStift());
     WendePinselAn(AktuellerPinsel());
     const QRect q(u.links, u.oben, u.rechts - u.links, u.unten - u.oben);
@@ -171,6 +174,7 @@ void Malerflaeche::Ellipse(const Rechteck& u) {
 }
 
 void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
+    VorDemMalen();
     WendeStiftAn(AktuellerStift());
     WendePinselAn(AktuellerPinsel());
     QPolygon vieleck;
@@ -184,11 +188,13 @@ void Malerflaeche::Vieleck(std::span<const Flaechenpunkt> ecken) {
 }
 
 void Malerflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
+    VorDemMalen();
     // Cut to the picture first: a size from a file may be anything.
     maler_->fillRect(AlsQRect(Geschnitten(r, Sichtbar())), AlsQColor(farbe));
 }
 
 void Malerflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
+    VorDemMalen();
     QPolygon vieleck;
     for (const Flaechenpunkt& p : ecken)
         vieleck << QPoint(p.x, p.y);
@@ -206,6 +212,7 @@ void Malerflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Fa
 }
 
 void Malerflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
+    VorDemMalen();
     WendeStiftAn({farbe, 1, Strichart::Voll});
     maler_->drawText(ort.x, ort.y + masse_.ascent(), AusNetz(text));
 }
@@ -219,6 +226,7 @@ void Malerflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe f
         for (const Flaechenpunkt p : Umkreispixel(rand))
             Malerflaeche::Text({ort.x + p.x, ort.y + p.y}, text, randfarbe);
     } else {
+        VorDemMalen();
         QPainterPath umriss;
         umriss.addText(ort.x, ort.y + masse_.ascent(), schrift_, AusNetz(text));
         const QPen stift(AlsQColor(randfarbe), 2.0 * rand, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);

@@ -60,6 +60,8 @@ class Malerflaeche : public Zeichenflaeche {
     [[nodiscard]] std::int32_t Schrifthoehe() const override;
 
   protected:
+    /// The painter is about to draw.
+    virtual void VorDemMalen() {}
     /// For surfaces that own their painter and begin it later.
     Malerflaeche();
     /// Restricts what the painter draws to a rectangle.

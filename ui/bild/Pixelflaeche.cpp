@@ -64,11 +64,15 @@ bool ZeichenPassen(const QFont& schrift) {
 void Pixelflaeche::BindeAnBild(QPainter& maler, QImage& bild, double dichte) {
     dichte_ = dichte;
     // The rows belong to the picture alone here, so that asking for them copies nothing.
-    auto* zeilen = reinterpret_cast<std::uint32_t*>(bild.bits());
-    const auto zeile = static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t);
-    pixel_.BindeAn(zeilen, bild.width(), bild.height(), zeile, helfer_);
+    const Zielbild ziel{reinterpret_cast<std::uint32_t*>(bild.bits()),
+                        bild.width(),
+                        bild.height(),
+                        static_cast<std::size_t>(bild.bytesPerLine()) / sizeof(std::uint32_t),
+                        &grund_,
+                        helfer_};
+    pixel_.BindeAn(ziel);
     glattstempel_.SetzeDichte(dichte);
-    glattbild_.BindeAn(zeilen, bild.width(), bild.height(), zeile, dichte, helfer_);
+    glattbild_.BindeAn(ziel, dichte);
     stempel_.clear();
     breite_.clear();
     schrifthoehe_ = Schrifthoehe();
@@ -124,10 +128,10 @@ void Pixelflaeche::SetzeSchriften(const QFont& eckige, const QFont& glatte) {
     schrifthoehe_ = Schrifthoehe();
 }
 
-/// Nothing shines through what is drawn from the front: overlays come afterwards.
-void Pixelflaeche::FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) {
+/// It draws over what waits, and nobody knows where.
+void Pixelflaeche::VorDemMalen() {
     SchliesseAb();
-    Malerflaeche::FuelleDurchscheinend(ecken, farbe, prozent);
+    grund_.VergissAlles();
 }
 
 void Pixelflaeche::FuelleRechteck(const Rechteck& r, Farbe farbe) {
@@ -180,7 +184,6 @@ void Pixelflaeche::BreiteLinie(Flaechenpunkt von, Flaechenpunkt nach, int breite
 void Pixelflaeche::MaleLinie(Flaechenpunkt von, Flaechenpunkt nach) {
     const auto teil = SchneideLinieAb({von.x, von.y}, {nach.x, nach.y}, Sichtbar());
     if (!teil) return;
-    SchliesseAb();
     Malerflaeche::Linie(teil->first, teil->second);
 }
 
@@ -292,10 +295,8 @@ bool Pixelflaeche::StempeleForm(Form form, std::span<const Flaechenpunkt> ecken)
     };
     if (!schnell_ || glatt_ || ecken.empty() ||
         AktuellerStift() != Stift{AktuellerStift().farbe, 1, Strichart::Voll} ||
-        !std::all_of(ecken.begin(), ecken.end(), klein)) {
-        SchliesseAb();  // the painter draws over it
+        !std::all_of(ecken.begin(), ecken.end(), klein))
         return false;
-    }
     const Stempel& s = SucheStempel(form, ecken);
     const std::uint32_t farbe = Pixelfarbe(AktuellerStift().farbe);
     if (s.leer) {
@@ -338,16 +339,13 @@ void Pixelflaeche::PraegeZeichen(char c, Zeichenform form) {
 void Pixelflaeche::Text(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
     if (Glaettet()) return GlatterText(ort, text, farbe);
     if (SetztZeichen()) return SetzeZeile(ort, text, farbe, Zeichenform::Blank);
-    SchliesseAb();
     Malerflaeche::Text(ort, text, farbe);
 }
 
 void Pixelflaeche::TextMitRand(Flaechenpunkt ort, std::string_view text, Farbe farbe, Farbe randfarbe,
                                std::int32_t rand) {
-    if (!(Glaettet() ? glattstempel_.SetztZeichen() : SetztZeichen())) {
-        SchliesseAb();
+    if (!(Glaettet() ? glattstempel_.SetztZeichen() : SetztZeichen()))
         return Malerflaeche::TextMitRand(ort, text, farbe, randfarbe, rand);
-    }
     const bool vonVorn = VonVorn();
     if (vonVorn) Text(ort, text, farbe);
     if (Glaettet()) {
@@ -369,10 +367,7 @@ void Pixelflaeche::SetzeZeile(Flaechenpunkt ort, std::string_view text, Farbe fa
 }
 
 void Pixelflaeche::GlatterText(Flaechenpunkt ort, std::string_view text, Farbe farbe) {
-    if (!glattstempel_.SetztZeichen()) {
-        SchliesseAb();
-        return Malerflaeche::Text(ort, text, farbe);
-    }
+    if (!glattstempel_.SetztZeichen()) return Malerflaeche::Text(ort, text, farbe);
     SetzeGlatteZeile(ort, text, farbe,
                      [this](char c) -> const Deckmaske& { return glattstempel_.Zeichen(c).maske; });
 }

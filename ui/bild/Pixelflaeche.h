@@ -40,7 +40,6 @@ class Pixelflaeche : public Malerflaeche {
     }
 
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
-    void FuelleDurchscheinend(std::span<const Flaechenpunkt> ecken, Farbe farbe, int prozent) override;
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override;
     void Linien(std::span<const Linienstueck> stuecke, Farbe farbe, std::int32_t breite) override;
     void ZeichneRechteck(const Rechteck& r) override;
@@ -54,6 +53,7 @@ class Pixelflaeche : public Malerflaeche {
     }
 
   protected:
+    void VorDemMalen() override;
     /// Takes a painter that has just begun on the picture. @param dichte its pixels for each pixel of the
     /// plan's sizes
     void BindeAnBild(QPainter& maler, QImage& bild, double dichte);
@@ -103,6 +103,7 @@ class Pixelflaeche : public Malerflaeche {
     QFont eckigeSchrift_;
     QFont glatteSchrift_;
     int schrifthoehe_ = 0;  ///< [px]
+    Bildgrund grund_;
     Pixelbild pixel_;
     Glattbild glattbild_;
     Glattstempel glattstempel_{[this] { glattbild_.SchliesseAb(); }};
