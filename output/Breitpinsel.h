@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "output/Glattpinsel.h"
 
@@ -20,5 +21,12 @@ void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang, const Rechteck& 
                     const Darueber& ziel);
 void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang, const Rechteck& teil, std::uint32_t farbe,
                     const Dahinter& ziel);
+/// The characters of a text in turn, but each pixel is read and written once: one by one they would wait for
+/// what their neighbours have just written.
+/// @return false: too long for that, not from the left to the right, or not in the tile; nothing is drawn
+[[nodiscard]] bool SetzeZeileAcht(std::span<const Maskenort> masken, std::uint32_t farbe,
+                                  const Darueber& ziel);
+[[nodiscard]] bool SetzeZeileAcht(std::span<const Maskenort> masken, std::uint32_t farbe,
+                                  const Dahinter& ziel);
 
 }  // namespace zrw

@@ -1,9 +1,13 @@
 #include "output/Glattbild.h"
 
 #include <algorithm>
+#include <array>
 
 namespace zrw {
 namespace {
+
+/// More are drawn in several steps.
+constexpr std::size_t kMeisteMasken = 16;
 
 /// From the corner of a tile.
 Rechteck InKachel(const Rechteck& r, const Rechteck& kachel) {
@@ -83,6 +87,8 @@ void Glattbild::Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t f
 }
 
 void Glattbild::Masken(std::span<const Maskenort> masken, std::uint32_t farbe) {
+    for (; masken.size() > kMeisteMasken; masken = masken.subspan(kMeisteMasken))
+        Masken(masken.first(kMeisteMasken), farbe);
     Rechteck r = kKeinRechteck;
     for (const Maskenort& m : masken)
         r = Vereint(r, m.maske->Umfang(m.ort));
@@ -92,6 +98,7 @@ void Glattbild::Masken(std::span<const Maskenort> masken, std::uint32_t farbe) {
             ziel->maske = m.maske;
             ziel->farbe = farbe;
             ziel->art = Art::Maske;
+            ziel->breite = static_cast<std::uint8_t>(masken.size());
             ++ziel;
         }
     });
@@ -103,16 +110,30 @@ Rechteck Glattbild::Strichumfang(Flaechenpunkt von, Flaechenpunkt nach, int brei
             std::max(von.y, nach.y) + rand};
 }
 
+/// Those that belong together.
+template <class Ziel>
+inline void Glattbild::ZeichneMasken(std::span<const Auftrag> auftraege, Flaechenpunkt ecke,
+                                     const Ziel& ziel) {
+    std::array<Maskenort, kMeisteMasken> masken;  // NOLINT(*-member-init): only those in use are set up
+    for (std::size_t i = 0; i < auftraege.size(); ++i) {
+        const Auftrag& a = auftraege[i];
+        masken[i] = {a.maske, Flaechenort(a.von.x - ecke.x, a.von.y - ecke.y)};
+    }
+    SetzeMasken({masken.data(), auftraege.size()}, auftraege.front().farbe, ziel);
+}
+
 /// @param ecke of the surface where the target has its first pixel
 template <class Ziel>
 void Glattbild::ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke,
                                  const Ziel& ziel) const {
-    for (const Auftrag& a : auftraege) {
-        const Flaechenpunkt von = Flaechenort(a.von.x - ecke.x, a.von.y - ecke.y);
+    for (std::size_t i = 0; i < auftraege.size(); ++i) {
+        const Auftrag& a = auftraege[i];
         if (a.art == Art::Maske) {
-            if (!Unsichtbar(a.maske->Umfang(von), ziel)) SetzeMaske(*a.maske, von, a.farbe, ziel);
+            ZeichneMasken(auftraege.subspan(i, a.breite), ecke, ziel);
+            i += a.breite - std::size_t{1};
             continue;
         }
+        const Flaechenpunkt von = Flaechenort(a.von.x - ecke.x, a.von.y - ecke.y);
         const Flaechenpunkt nach = Flaechenort(a.nach.x - ecke.x, a.nach.y - ecke.y);
         if (a.art == Art::Rechteck) {
             FuellePixel({von.x, von.y, nach.x, nach.y}, a.farbe, ziel);

@@ -38,10 +38,6 @@ class Glattbild {
     /// @param maske outlives the next `SchliesseAb`
     void Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t farbe);
     /// The same for many that lie beside each other.
-    struct Maskenort {
-        const Deckmaske* maske;
-        Flaechenpunkt ort;
-    };
     void Masken(std::span<const Maskenort> masken, std::uint32_t farbe);
     /// Everything so far is in the picture.
     void SchliesseAb() { kacheln_.SchliesseAb(); }
@@ -68,7 +64,7 @@ class Glattbild {
         };
         std::uint32_t farbe;
         Art art;
-        std::uint8_t breite;  ///< of the pen
+        std::uint8_t breite;  ///< of the pen; how many masks belong together, of the first of them
     };
     static constexpr std::size_t kKachelpixel = std::size_t{kKachelweite} * kKachelhoehe;
     /// While drawing from the front, from the corner of the tile: what is covered, and colours times their

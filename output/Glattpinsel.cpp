@@ -290,7 +290,7 @@ Deckmaske::Deckmaske(int links, int oben, int weite, int hoehe, std::span<const 
       oben_(oben),
       weite_(weite),
       hoehe_(hoehe),
-      viererJeZeile_((static_cast<std::size_t>(weite) + 7) / 8 * 2),
+      viererJeZeile_(((static_cast<std::size_t>(weite) + 7) / 8 * 8 + 2 * kPolster) / 4),
       worteJeZeile_((static_cast<std::size_t>(weite) + 63) / 64) {
     const auto w = static_cast<std::size_t>(weite);
     vierer_.resize(static_cast<std::size_t>(hoehe) * viererJeZeile_);
@@ -300,7 +300,7 @@ Deckmaske::Deckmaske(int links, int oben, int weite, int hoehe, std::span<const 
         const std::size_t x = i % w;
         // From 0..255 to 0..256.
         const auto anteil = static_cast<std::uint16_t>(werte[i] + (werte[i] >> 7));
-        Acht& vier = vierer_[i / w * viererJeZeile_ + x / 4];
+        Acht& vier = vierer_[i / w * viererJeZeile_ + (x + kPolster) / 4];
         vier[x % 4 * 2] = vier[x % 4 * 2 + 1] = anteil;
         bits_[i / w * worteJeZeile_ + x / 64] |= std::uint64_t{1} << (x % 64);
     }
@@ -364,12 +364,19 @@ void SetzeMaske(const Deckmaske& m, Flaechenpunkt ort, std::uint32_t farbe, cons
 }
 
 template <class Ziel>
+void SetzeMasken(std::span<const Maskenort> masken, std::uint32_t farbe, const Ziel& ziel) {
+    if (masken.size() > 1 && KannAchtPixel() && SetzeZeileAcht(masken, farbe, ziel)) return;
+    for (const Maskenort& m : masken) {
+        const Rechteck umfang = m.maske->Umfang(m.ort);
+        if (!Leer(Geschnitten(umfang, ziel.bereich)) && !ziel.Verdeckt(umfang))
+            SetzeMaske(*m.maske, m.ort, farbe, ziel);
+    }
+}
+
+template <class Ziel>
 void FuellePixel(const Rechteck& r, std::uint32_t farbe, const Ziel& ziel) {
     const Rechteck teil = Geschnitten(r, ziel.bereich);
-    if (Leer(teil)) return;
-    for (std::int64_t y = teil.oben; y <= teil.unten; ++y)
-        ziel.FuelleZeile(ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + teil.links, y,
-                         teil.rechts - teil.links + 1, farbe);
+    if (!Leer(teil)) ziel.FuelleBlock(teil, farbe);
 }
 
 void MischeUnter(const std::uint32_t* vorn, std::uint32_t* unten, std::size_t weite) {
@@ -394,6 +401,8 @@ template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint
 template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint32_t, const Dahinter&);
 template void SetzeMaske(const Deckmaske&, Flaechenpunkt, std::uint32_t, const Darueber&);
 template void SetzeMaske(const Deckmaske&, Flaechenpunkt, std::uint32_t, const Dahinter&);
+template void SetzeMasken(std::span<const Maskenort>, std::uint32_t, const Darueber&);
+template void SetzeMasken(std::span<const Maskenort>, std::uint32_t, const Dahinter&);
 template void FuellePixel(const Rechteck&, std::uint32_t, const Darueber&);
 template void FuellePixel(const Rechteck&, std::uint32_t, const Dahinter&);
 

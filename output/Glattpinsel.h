@@ -30,10 +30,17 @@ class Deckmaske {
     [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort) const {
         return {ort.x + links_, ort.y + oben_, ort.x + links_ + weite_ - 1, ort.y + oben_ + hoehe_ - 1};
     }
-    /// Shares of a row, 0 to 256, four pixels at a time, in pairs.
+    /// Shares of a row, 0 to 256, four pixels at a time, in pairs: as many as are covered, and on each side
+    /// `kPolster` pixels of nothing and more to whole groups of so many.
     [[nodiscard]] const Acht* Vierer(std::size_t zeile) const {
-        return vierer_.data() + zeile * viererJeZeile_;
+        return vierer_.data() + zeile * viererJeZeile_ + kPolster / 4;
     }
+    /// The same of all rows, twice in a word for each pixel.
+    [[nodiscard]] const std::uint32_t* Anteile() const {
+        return reinterpret_cast<const std::uint32_t*>(Vierer(0));
+    }
+    [[nodiscard]] std::size_t PixelJeZeile() const { return viererJeZeile_ * 4; }
+    static constexpr std::size_t kPolster = 8;
     /// One bit for each pixel of a row that is covered at all, the lowest one leftmost.
     [[nodiscard]] const std::uint64_t* Bits(std::size_t zeile) const {
         return bits_.data() + zeile * worteJeZeile_;
@@ -48,6 +55,12 @@ class Deckmaske {
     std::size_t worteJeZeile_ = 0;
     std::vector<Acht> vierer_;
     std::vector<std::uint64_t> bits_;
+};
+
+/// A mask, and where it is drawn.
+struct Maskenort {
+    const Deckmaske* maske;
+    Flaechenpunkt ort;
 };
 
 // Two ways to draw a pixel, or four beside each other. @param y its row @param a what is covered of it, 0 to
@@ -96,6 +109,9 @@ void ZieheLinie(Flaechenpunkt von, Flaechenpunkt nach, double breite, double das
                 const Ziel& ziel);
 template <class Ziel>
 void SetzeMaske(const Deckmaske& m, Flaechenpunkt ort, std::uint32_t farbe, const Ziel& ziel);
+/// Many in turn, beside each other for the most part: the characters of a text.
+template <class Ziel>
+void SetzeMasken(std::span<const Maskenort> masken, std::uint32_t farbe, const Ziel& ziel);
 template <class Ziel>
 void FuellePixel(const Rechteck& r, std::uint32_t farbe, const Ziel& ziel);
 /// Lays pixels that were drawn by `Dahinter` over those of the picture.

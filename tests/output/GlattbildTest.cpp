@@ -9,6 +9,8 @@
 #include <random>
 #include <vector>
 
+#include "output/Pixelbild.h"
+
 namespace zrw {
 namespace {
 
@@ -150,6 +152,87 @@ TEST(Glattbild, MasksAreTheSameInLongSteps) {
                     ASSERT_EQ(frei.Pixel(x, y), eng.Pixel(x, y)) << weite << " " << vonVorn;
             }
         }
+    }
+}
+
+/// Characters beside each other, of several heights, apart or with pixels in common.
+TEST(Glattbild, TextsAreTheSameAsTheirCharacters) {
+    std::minstd_rand zufall(11);
+    const auto zahl = [&](int von, int bis) {
+        return von + static_cast<int>(zufall() % static_cast<unsigned>(bis - von + 1));
+    };
+    const std::array masken{Probemaske(6),
+                            Probemaske(3),
+                            Probemaske(9),
+                            Probemaske(1),
+                            Deckmaske(),
+                            Deckmaske(0, -6, 7, 4, std::vector<std::uint8_t>(28, 200)),
+                            Deckmaske(0, -3, 4, 5, std::vector<std::uint8_t>(20, 30)),
+                            Deckmaske(1, 3, 12, 2, std::vector<std::uint8_t>(24, 90))};
+    for (const bool vonVorn : {false, true}) {
+        Blatt zusammen;
+        Blatt einzeln;
+        for (Blatt* b : {&zusammen, &einzeln})
+            ASSERT_TRUE(!vonVorn || b->bild.BeginneVonVorn());
+        for (int i = 0; i < 3000; ++i) {
+            std::vector<Maskenort> text(static_cast<std::size_t>(zahl(1, 40)));
+            Flaechenpunkt ort{zahl(-60, kBlattweite), zahl(-8, kBlatthoehe)};
+            for (Maskenort& m : text) {
+                m = {&masken[static_cast<std::size_t>(zahl(0, 7))], ort};
+                ort.x += i % 3 == 0 ? zahl(1, 8) : 13;
+            }
+            const auto farbe = kTinte | static_cast<std::uint32_t>(zahl(0, 0xFFFFFF));
+            zusammen.bild.Masken(text, farbe);
+            for (const Maskenort& m : text)
+                einzeln.bild.Maske(*m.maske, m.ort, farbe);
+        }
+        for (Blatt* b : {&zusammen, &einzeln})
+            vonVorn ? b->bild.BeendeVonVorn() : b->bild.SchliesseAb();
+        EXPECT_TRUE(zusammen.pixel == einzeln.pixel) << vonVorn;
+    }
+}
+
+/// What is left of the background is not filled anew, whoever drew the frame before.
+TEST(Glattbild, FramesDoNotShowThoseBefore) {
+    const Deckmaske maske = Probemaske();
+    std::minstd_rand zufall(5);
+    const auto zahl = [&](int bis) { return static_cast<int>(zufall() % static_cast<unsigned>(bis)); };
+    Blatt gespart;
+    Blatt gefuellt;
+    std::array<Pixelbild, 2> eckig;
+    eckig[0].BindeAn({gespart.pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, &gespart.grund, 1});
+    eckig[1].BindeAn({gefuellt.pixel.data(), kBlattweite, kBlatthoehe, kBlattweite, &gefuellt.grund, 0});
+    for (int bild = 0; bild < 60; ++bild) {
+        const Rechteck teil = bild % 5 == 4 ? Rechteck{zahl(600), zahl(150), 600 + zahl(600), 150 + zahl(150)}
+                                            : Rechteck{0, 0, kBlattweite - 1, kBlatthoehe - 1};
+        const std::uint32_t grund = bild % 11 == 10 ? 0xFFEEDDCC : kLeer;
+        const Flaechenpunkt ort{zahl(kBlattweite), zahl(kBlatthoehe)};
+        const int art = bild % 4;
+        gefuellt.grund.VergissAlles();
+        for (std::size_t i = 0; i < 2; ++i) {
+            Blatt& b = i == 0 ? gespart : gefuellt;
+            const auto strich = [&](int n) { return Flaechenpunkt{ort.x + n * 7 % 83, ort.y - n * 5 % 61}; };
+            if (art < 2) {
+                b.bild.SetzeAusschnitt(teil);
+                b.bild.FuelleRechteck(teil, grund);
+                ASSERT_TRUE(art == 0 || b.bild.BeginneVonVorn());
+                for (int n = 0; n < 40; ++n) {
+                    b.bild.Linie(strich(n), strich(n + 9), kTinte, 1, false);
+                    b.bild.Maske(maske, strich(n + 3), 0xFF00AA00);
+                }
+                art == 0 ? b.bild.SchliesseAb() : b.bild.BeendeVonVorn();
+            } else {
+                eckig[i].SetzeAusschnitt(teil);
+                eckig[i].FuelleRechteck(teil, grund);
+                if (art == 3) eckig[i].BeginneVonVorn();
+                for (int n = 0; n < 40; ++n)
+                    eckig[i].Linie(strich(n), strich(n * 3), kTinte, false);
+                if (art == 3) eckig[i].BeendeVonVorn();
+                eckig[i].SchliesseAb();
+                if (bild % 8 == 6) eckig[i].VerschiebeBild(5, -3);
+            }
+        }
+        ASSERT_TRUE(gespart.pixel == gefuellt.pixel) << bild;
     }
 }
 
