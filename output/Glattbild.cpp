@@ -190,9 +190,10 @@ void Glattbild::BeendeVonVorn() {
         v.benutzt = InKachel(r, kacheln_.GanzeKachel(i));
         if (Leer(r)) return;
         const std::uint32_t* vorn = v.pixel + std::ptrdiff_t{v.benutzt.oben} * kKachelweite + v.benutzt.links;
+        const std::int32_t weite = r.rechts - r.links + 1;
         for (std::int32_t y = r.oben; y <= r.unten; ++y, vorn += kKachelweite)
             MischeUnter(vorn, bild_.pixel + static_cast<std::size_t>(y) * bild_.zeile + r.links,
-                        static_cast<std::size_t>(r.rechts - r.links + 1));
+                        static_cast<std::size_t>(weite));
     });
     kacheln_.FuerKacheln(kacheln_.Ausschnitt(), [this](std::size_t i) {
         Bildgrund& grund = kacheln_.Grund();
