@@ -8,8 +8,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "output/Bildgrund.h"
 #include "output/Breitpinsel.h"
+#include "output/Zielbild.h"
 
 namespace zrw {
 namespace {

@@ -20,6 +20,7 @@
 #include "output/Rechteck.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zeilenhelfer.h"
+#include "output/Zielbild.h"
 
 namespace zrw {
 

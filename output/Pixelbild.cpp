@@ -56,7 +56,6 @@ static_assert(kKachelhoehe == Deckung::kLaufhoehe && kKachelweite % 64 == 0,
 void Pixelbild::BindeAn(const Zielbild& bild) {
     SchliesseAb();
     bild_ = bild;
-    allein_ = bild.helfer == 0;
     kacheln_.TeileInKacheln(bild);
 }
 
@@ -125,7 +124,7 @@ void Pixelbild::ZeichneAllein(std::span<const Wort> auftrag) {
 }
 
 inline void Pixelbild::Gib(std::span<const Wort> auftrag, const Rechteck& umfang) {
-    if (allein_) return ZeichneAllein(auftrag);
+    if (Allein()) return ZeichneAllein(auftrag);
     kacheln_.VerteileAuftrag(auftrag.size(), umfang, [&](Wort* ziel) { KopiereWorte(auftrag, ziel); });
 }
 
@@ -136,7 +135,7 @@ void Pixelbild::FuelleRechteck(const Rechteck& r, std::uint32_t farbe) {
                           std::bit_cast<Wort>(Flaechenpunkt{teil.links, teil.oben}),
                           std::bit_cast<Wort>(Flaechenpunkt{teil.rechts, teil.unten})};
     };
-    if (allein_) return ZeichneAllein(auftrag(r));
+    if (Allein()) return ZeichneAllein(auftrag(r));
     kacheln_.VerteileFuellung(auftrag(r).size(), r, farbe,
                               [&](Wort* ziel, const Rechteck& teil) { KopiereWorte(auftrag(teil), ziel); });
 }
@@ -148,7 +147,7 @@ void Pixelbild::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t farbe
 
 /// Strokes of one colour may change places.
 void Pixelbild::Linien(std::span<const Linienstueck> stuecke, std::uint32_t farbe) {
-    if (allein_) {
+    if (Allein()) {
         kacheln_.Grund().VergissAlles();
         const Pixelpinsel pinsel = Pinsel(Ausschnitt());
         for (const Linienstueck& s : stuecke)

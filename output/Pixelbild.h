@@ -14,6 +14,7 @@
 #include "output/Kachelwerk.h"
 #include "output/Pixelpinsel.h"
 #include "output/Zeichenflaeche.h"
+#include "output/Zielbild.h"
 
 namespace zrw {
 
@@ -85,6 +86,8 @@ class Pixelbild {
     class Auftrag;
     void VerteileStriche(std::span<const Linienstueck> stuecke, std::uint32_t farbe);
     void VerteileLangen(const Linienstueck& s, std::uint32_t farbe);
+    /// No helpers: orders need not wait.
+    [[nodiscard]] bool Allein() const { return bild_.helfer == 0; }
     void ZeichneAllein(std::span<const Wort> auftrag);
     void Gib(std::span<const Wort> auftrag, const Rechteck& umfang);
     void ZeichneAuftraege(const Pixelpinsel& pinsel, std::span<const Wort> auftraege) const;
@@ -95,7 +98,6 @@ class Pixelbild {
     Zielbild bild_;
     Deckung deckung_;
     std::array<Glyphensatz, 2> schriften_;  ///< in the order of `Zeichenform`
-    bool allein_ = true;                    ///< no helpers: orders need not wait
     Kachelwerk<Wort> kacheln_{[this](std::size_t kachel, std::span<const Wort> a) {
         ZeichneAuftraege(Pinsel(kacheln_.Bereich(kachel)), a);
     }};

@@ -9,7 +9,7 @@
 #include <limits>
 #include <utility>
 
-#include "output/Bildgrund.h"
+#include "output/Zielbild.h"
 
 namespace zrw {
 namespace {
