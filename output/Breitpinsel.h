@@ -21,9 +21,10 @@ void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang, const Rechteck& 
                     const Darueber& ziel);
 void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang, const Rechteck& teil, std::uint32_t farbe,
                     const Dahinter& ziel);
-/// The characters of a text in turn, but each pixel is read and written once: one by one they would wait for
-/// what their neighbours have just written.
-/// @return false: too long for that, not from the left to the right, or not in the tile; nothing is drawn
+/// The characters of a text as if in turn. Most pixels are read and written once: alone, each character takes
+/// a whole group of them, though most are narrower.
+/// @return false: too long for that, characters too narrow or with columns in common, or not in the tile;
+/// nothing is drawn
 [[nodiscard]] bool SetzeZeileAcht(std::span<const Maskenort> masken, std::uint32_t farbe,
                                   const Darueber& ziel);
 [[nodiscard]] bool SetzeZeileAcht(std::span<const Maskenort> masken, std::uint32_t farbe,

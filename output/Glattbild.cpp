@@ -6,18 +6,9 @@
 namespace zrw {
 namespace {
 
-/// More are drawn in several steps.
-constexpr std::size_t kMeisteMasken = 16;
-
 /// From the corner of a tile.
 Rechteck InKachel(const Rechteck& r, const Rechteck& kachel) {
     return {r.links - kachel.links, r.oben - kachel.oben, r.rechts - kachel.links, r.unten - kachel.oben};
-}
-
-/// Beside the tile, or behind what is there.
-template <class Ziel>
-bool Unsichtbar(const Rechteck& r, const Ziel& ziel) {
-    return Leer(Geschnitten(r, ziel.bereich)) || ziel.Verdeckt(r);
 }
 
 }  // namespace

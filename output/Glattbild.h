@@ -16,6 +16,7 @@
 #include "output/Glattpinsel.h"
 #include "output/Kachelwerk.h"
 #include "output/Zeichenflaeche.h"
+#include "output/Zielbild.h"
 
 namespace zrw {
 
@@ -39,6 +40,8 @@ class Glattbild {
     void Maske(const Deckmaske& maske, Flaechenpunkt ort, std::uint32_t farbe);
     /// The same for many that lie beside each other.
     void Masken(std::span<const Maskenort> masken, std::uint32_t farbe);
+    /// More are drawn in several steps.
+    static constexpr std::size_t kMeisteMasken = 16;
     /// Everything so far is in the picture.
     void SchliesseAb() { kacheln_.SchliesseAb(); }
 

@@ -367,9 +367,7 @@ template <class Ziel>
 void SetzeMasken(std::span<const Maskenort> masken, std::uint32_t farbe, const Ziel& ziel) {
     if (masken.size() > 1 && KannAchtPixel() && SetzeZeileAcht(masken, farbe, ziel)) return;
     for (const Maskenort& m : masken) {
-        const Rechteck umfang = m.maske->Umfang(m.ort);
-        if (!Leer(Geschnitten(umfang, ziel.bereich)) && !ziel.Verdeckt(umfang))
-            SetzeMaske(*m.maske, m.ort, farbe, ziel);
+        if (!Unsichtbar(m.maske->Umfang(m.ort), ziel)) SetzeMaske(*m.maske, m.ort, farbe, ziel);
     }
 }
 

@@ -103,6 +103,11 @@ struct Dahinter {
 
 // For both of them.
 
+/// Beside the tile, or behind what is there.
+template <class Ziel>
+[[nodiscard]] bool Unsichtbar(const Rechteck& r, const Ziel& ziel) {
+    return Leer(Geschnitten(r, ziel.bereich)) || ziel.Verdeckt(r);
+}
 /// @param breite [px] @param dash length of a pixel of its dashes [px]; 0: solid
 template <class Ziel>
 void ZieheLinie(Flaechenpunkt von, Flaechenpunkt nach, double breite, double dash, std::uint32_t farbe,

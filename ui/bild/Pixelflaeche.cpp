@@ -385,7 +385,7 @@ void Pixelflaeche::SetzeGlatteZeile(Flaechenpunkt ort, std::string_view text, Fa
                                  ort.y + Texthoehe() + kUeberstand}))
             return;
     }
-    std::array<Maskenort, 16> masken;
+    std::array<Maskenort, Glattbild::kMeisteMasken> masken;
     while (!text.empty()) {
         const std::string_view teil = text.substr(0, masken.size());
         text.remove_prefix(teil.size());
