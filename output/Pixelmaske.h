@@ -69,13 +69,13 @@ class Glyphensatz {
     /// Width of a text; nothing where a character is not known [px].
     [[nodiscard]] std::optional<int> Textbreite(std::string_view text) const {
         int breite = 0;
-        bool bekannt = true;
+        int alle = 1;  // without a branch for each
         for (const char c : text) {
             const Glyphe& g = Glyphenangaben(c);
             breite += g.vorschub;
-            bekannt = bekannt && g.bekannt;
+            alle &= static_cast<int>(g.bekannt);
         }
-        return bekannt ? std::optional(breite) : std::nullopt;
+        return alle != 0 ? std::optional(breite) : std::nullopt;
     }
     /// Where a text lies. @param breite of it
     [[nodiscard]] Rechteck Umfang(Flaechenpunkt ort, int breite) const {
