@@ -102,7 +102,7 @@ class Vergleich {
         return zrw::bench::MissZeit([&] {
             zustand_.flaeche = &f;
             liste_.ShowPicture(zeichner_);
-            f.BeendeSchicht();  // helpers may still be drawing
+            eigene_.SchliesseAb();  // helpers may still be drawing
             return 0;
         });
     }

@@ -58,11 +58,12 @@ Bildaufbau::Bildaufbau(const Bildvorlage& v, Zeichenflaeche& flaeche, Figurenzei
       punkte_(speicher.punkte),
       punktorte_(speicher.punktorte),
       texte_(speicher.texte),
-      umgeben_(speicher.umgeben) {
+      karte_(speicher.karte) {
     kanten_.clear();
     punkte_.clear();
     punktorte_.clear();
     texte_.clear();
+    karte_.VergissAlles();
     // A text stands right of its corner and below it.
     nummern_.links -= r_.textweite;
     nummern_.oben -= r_.texthoehe;
@@ -170,23 +171,43 @@ bool Bildaufbau::Dicht() const {
     return punkte * jePunkt > kLohnend * flaeche;
 }
 
-void Bildaufbau::ZeichnePunkte(bool vonVorn) {
-    if (vonVorn) umgeben_.assign(kMaxPunkte + 1, false);
-    FuerAlle(punkte_, vonVorn, [&](std::size_t i) {
-        const Bildpunkt ort = punktorte_[i];
-        if (vonVorn && flaeche_.Verdeckt(Umgebung(ort, ort, r_.symbol))) return MerkeUmgebung(*punkte_[i]);
-        if (v_.darstellung.Stile != nullptr) zeichner_.SetzeStil(v_.StilVon(*punkte_[i]));
-        punkte_[i]->Item->ZeigeSymbolBei(ort, zeichner_);
-    });
+/// Whether everything is covered from one position to another, and so far to each side.
+inline bool Bildaufbau::Verdeckt(Bildpunkt a, Bildpunkt e, std::int64_t rand) const {
+    return karte_.Verdeckt(Umgebung(a, e, rand));
+}
+
+void Bildaufbau::ZeichnePunkt(std::size_t i) {
+    if (v_.darstellung.Stile != nullptr) zeichner_.SetzeStil(v_.StilVon(*punkte_[i]));
+    punkte_[i]->Item->ZeigeSymbolBei(punktorte_[i], zeichner_);
+}
+
+void Bildaufbau::ZeichnePunkte() {
+    FuerAlle(punkte_, false, [this](std::size_t i) { ZeichnePunkt(i); });
+}
+
+/// Most of a dense picture are covered. The others are fetched together: they lie all over the memory.
+void Bildaufbau::ZeichnePunkteVonVorn() {
+    flaeche_.KartiereVerdecktes(karte_);
+    karte_.BeginneUmgebungen(static_cast<std::int32_t>(r_.symbol));
+    std::array<std::size_t, 4 * kVoraus> naechste;
+    for (std::size_t i = punkte_.size(); i > 0;) {
+        std::size_t anzahl = 0;
+        while (i > 0 && anzahl < naechste.size()) {
+            --i;
+            const Bildpunkt ort = punktorte_[i];
+            if (karte_.Umgeben(ort.x, ort.y) || Verdeckt(ort, ort, r_.symbol)) continue;
+            HoleKnotenVor(punkte_[i]);
+            naechste[anzahl++] = i;
+        }
+        for (std::size_t n = 0; n < anzahl; ++n)
+            ZeichnePunkt(naechste[n]);
+    }
 }
 
 void Bildaufbau::ZeichneKante(const PunktKante& k) {
     if (!v_.Gezeichnet(k) || !gezeigt_(k)) return;
-    const Bildpunkt anfang = orte_.Anfang(k);
-    const Bildpunkt ende = orte_.Ende(k);
-    if (!BeruehrtBereich(anfang, ende, linien_)) return;
     if (v_.darstellung.Stile != nullptr) zeichner_.SetzeStil(v_.StilVon(k));
-    zeichner_.ZeichneKante(*k.Item, anfang, ende, Gang::Zeigen);
+    zeichner_.ZeichneKante(*k.Item, orte_.Anfang(k), orte_.Ende(k), Gang::Zeigen);
 }
 
 /// Prefetches both points of a line.
@@ -206,29 +227,29 @@ void Bildaufbau::ZeichneKanten() {
     }
 }
 
-/// Most points have several lines, and what is round the point hides short ones without a further look.
-void Bildaufbau::MerkeUmgebung(const PunktKnoten& p) {
-    const NaherOrt* ort = orte_.Bekannt(p.PNr);
-    if (ort == nullptr) return;
-    const auto r = static_cast<std::int32_t>(r_.kante) + kUmgebung;
-    umgeben_[p.PNr] = flaeche_.Verdeckt({ort->x - r, ort->y - r, ort->x + r, ort->y + r});
-}
-
 /// Everything of a line is covered, or lies beside what is drawn.
 inline bool Bildaufbau::Unsichtbar(std::uint32_t kante, const Weltkasten& dort) const {
     const Punktenden enden = v_.netz.Enden(kante);
     const NaherOrt* a = orte_.Bekannt(enden.a);
     const NaherOrt* e = orte_.Bekannt(enden.e);
     if (a == nullptr || e == nullptr) return !v_.netz.BeruehrtVielleicht(enden, dort);
-    if (umgeben_[enden.a] && std::abs(a->x - e->x) <= kUmgebung && std::abs(a->y - e->y) <= kUmgebung)
+    if (std::abs(a->x - e->x) <= kUmgebung && std::abs(a->y - e->y) <= kUmgebung &&
+        karte_.Umgeben(a->x, a->y))
         return true;
     const auto r = static_cast<std::int32_t>(r_.kante);
-    return flaeche_.Verdeckt({std::min(a->x, e->x) - r, std::min(a->y, e->y) - r, std::max(a->x, e->x) + r,
-                              std::max(a->y, e->y) + r});
+    return karte_.Verdeckt({std::min(a->x, e->x) - r, std::min(a->y, e->y) - r, std::max(a->x, e->x) + r,
+                            std::max(a->y, e->y) + r});
+}
+
+/// The same when it is known how far the line reaches.
+inline bool Bildaufbau::Unsichtbar(const PunktKante& k) {
+    return Verdeckt(orte_.Anfang(k), orte_.Ende(k), zeichner_.Kantenreichweite(*k.Item));
 }
 
 /// Most lines of a dense picture are covered: that shows from their points, without a look at the lines.
 void Bildaufbau::ZeichneKantenVonVorn() {
+    flaeche_.KartiereVerdecktes(karte_);
+    karte_.BeginneUmgebungen(static_cast<std::int32_t>(r_.kante) + kUmgebung);
     const Bildlage lage = v_.ansicht.Lage();
     const Weltkasten dort = Brauchbar(lage) ? WeltUnter(lage, linien_) : kGanzeWelt;
     // In batches, so that the next ones are being prefetched.
@@ -245,8 +266,9 @@ void Bildaufbau::ZeichneKantenVonVorn() {
             HoleKnotenVor(naechste[anzahl++]);
         }
         i = bis;
-        for (std::size_t n = 0; n < anzahl; ++n)
-            ZeichneKante(*naechste[n]);
+        for (std::size_t n = 0; n < anzahl; ++n) {
+            if (!Unsichtbar(*naechste[n])) ZeichneKante(*naechste[n]);
+        }
     }
 }
 
@@ -264,14 +286,13 @@ void Bildaufbau::ZeichneNetz() {
     SammleFiguren();
     if (zeichner_.NurPixel() && Dicht() && flaeche_.BeginneVonVorn()) {
         ZeichneTexte(true);
-        flaeche_.BeendeSchicht();
-        ZeichnePunkte(true);
+        ZeichnePunkteVonVorn();
         ZeichneKantenVonVorn();
         flaeche_.BeendeVonVorn();
     } else {
         LasseFerneKantenWeg();
         ZeichneKanten();
-        ZeichnePunkte(false);
+        ZeichnePunkte();
         ZeichneTexte(false);
     }
     zeichner_.SetzeStil(nullptr);

@@ -9,6 +9,7 @@
 #include "model/Bildorte.h"
 #include "model/Bildvorlage.h"
 #include "model/Gezeigt.h"
+#include "output/Deckkarte.h"
 #include "output/Zeichenflaeche.h"
 
 namespace zrw {
@@ -22,7 +23,7 @@ struct Bildspeicher {
     std::vector<PPunktKnoten> punkte;
     std::vector<Bildpunkt> punktorte;
     std::vector<PPunktString> texte;
-    std::vector<bool> umgeben;
+    Deckkarte karte;
 };
 
 class Bildaufbau {
@@ -52,10 +53,13 @@ class Bildaufbau {
     void HoleOrte(std::uint32_t folge) const;
     void ZeichneKanten();
     void ZeichneKantenVonVorn();
-    void ZeichnePunkte(bool vonVorn);
+    void ZeichnePunkt(std::size_t i);
+    void ZeichnePunkte();
+    void ZeichnePunkteVonVorn();
     void ZeichneTexte(bool vonVorn);
-    void MerkeUmgebung(const PunktKnoten& p);
+    [[nodiscard]] bool Verdeckt(Bildpunkt a, Bildpunkt e, std::int64_t rand) const;
     [[nodiscard]] bool Unsichtbar(std::uint32_t kante, const Weltkasten& dort) const;
+    [[nodiscard]] bool Unsichtbar(const PunktKante& k);
     [[nodiscard]] static bool BeruehrtBereich(Bildpunkt a, Bildpunkt b, const Bildbereich& r);
     [[nodiscard]] Bildbereich Bereich(std::int64_t rand) const;
 
@@ -74,7 +78,7 @@ class Bildaufbau {
     std::vector<PPunktKnoten>& punkte_;
     std::vector<Bildpunkt>& punktorte_;  ///< of those
     std::vector<PPunktString>& texte_;
-    std::vector<bool>& umgeben_;  ///< by number: everything round a point is covered
+    Deckkarte& karte_;  ///< of what is covered, while drawing from the front
 };
 
 }  // namespace zrw

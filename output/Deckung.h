@@ -9,6 +9,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "output/Zeichenflaeche.h"
@@ -28,7 +29,7 @@ class Deckung {
     }
     /// Covers pixels of one word of a row, x = 64 * `spalte` + bit. @return those that were free
     std::uint64_t DeckePixel(std::size_t spalte, std::size_t y, std::uint64_t pixel) {
-        std::uint64_t& wort = bits_[y * spalten_ + spalte];
+        std::uint64_t& wort = Spalte(spalte)[y];
         const std::uint64_t neu = pixel & ~wort;
         if (neu == 0) return 0;
         wort |= neu;
@@ -46,11 +47,14 @@ class Deckung {
             neu |= DeckePixel(spalte + 1, y, pixel >> (64U - bit)) << (64U - bit);
         return neu;
     }
+    /// The same for some rows from `y` on. @param frei as many words
+    void DeckeZeilen(std::int64_t x, std::size_t y, std::span<const std::uint64_t> pixel,
+                     std::uint64_t* frei);
     /// Which pixels of a row are covered, from `x` on, one bit each.
     [[nodiscard]] std::uint64_t Gedeckte(std::size_t x, std::size_t y) const {
-        const std::uint64_t* wort = bits_.data() + y * spalten_ + x / 64;
+        const std::uint64_t* wort = bits_.data() + x / 64 * hoehe_ + y;
         const std::size_t bit = x % 64;
-        return bit == 0 ? wort[0] : wort[0] >> bit | wort[1] << (64 - bit);
+        return bit == 0 ? wort[0] : wort[0] >> bit | wort[hoehe_] << (64 - bit);
     }
     /// Everything in the rectangle is covered, or outside `ausschnitt`.
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const {
@@ -64,6 +68,12 @@ class Deckung {
     /// [px]
     static constexpr std::size_t kLaufhoehe = 128;
 
+    // Not while anybody covers: squares of 8 x 8 pixels, eight of them beside each other at a time.
+    [[nodiscard]] std::size_t Spalten() const { return spalten_; }
+    [[nodiscard]] std::size_t Reihen() const { return reihen_; }
+    /// Those that are covered or outside `ausschnitt`, one bit each, the lowest one leftmost.
+    [[nodiscard]] std::uint8_t VolleQuadrate(std::size_t spalte, std::size_t reihe) const;
+
   private:
     static constexpr std::size_t kBlockhoehe = 8;
     static constexpr std::size_t kReihenJeLauf = kLaufhoehe / kBlockhoehe;
@@ -71,6 +81,12 @@ class Deckung {
     static constexpr std::uint64_t kVoll = ~std::uint64_t{0};
 
     [[nodiscard]] bool VolleBloecke(const Rechteck& r) const;
+    /// What the rows of a block have in common.
+    [[nodiscard]] std::uint64_t GanzGedeckte(std::size_t spalte, std::size_t reihe) const;
+    [[nodiscard]] std::uint64_t* Spalte(std::size_t spalte) { return bits_.data() + spalte * hoehe_; }
+    template <class Hin, class Zurueck>
+    void DeckeInSpalte(std::size_t spalte, std::size_t y, std::span<const std::uint64_t> pixel,
+                       std::uint64_t* frei, Hin hin, Zurueck zurueck);
     void PruefeBlock(std::size_t spalte, std::size_t reihe);
     void NimmVollenBlock(std::size_t spalte, std::size_t reihe);
     /// Others may be asking: an old answer does, but it must be one.
@@ -82,7 +98,10 @@ class Deckung {
     Rechteck ausschnitt_;
     std::size_t spalten_ = 0;
     std::size_t reihen_ = 0;
-    std::vector<std::uint64_t> bits_;  ///< all of them set outside `ausschnitt_`
+    std::size_t hoehe_ = 0;  ///< rows of whole blocks
+    /// Column by column, so that a figure's rows lie beside each other. All of them set outside
+    /// `ausschnitt_`.
+    std::vector<std::uint64_t> bits_;
     std::vector<std::uint16_t>
         tief_;  ///< full blocks from each one downwards without a gap, up to the run's end
 };

@@ -205,13 +205,13 @@ void Figurenzeichner::ZeichneKante(const Kante& kante, Bildpunkt anfang, Bildpun
 }
 
 std::int64_t Figurenzeichner::Kantenreichweite() const {
-    const Einstellungen& e = einstellungen_;
-    // Tick beside the marker, height marks before the symbol, detour; rounding moves each by a pixel.
-    constexpr std::int64_t kRunden = 2;
-    const std::int64_t zeichen =
-        std::max({std::int64_t{e.GPSGroesse} + 2 + e.Querstrich, e.PTSize + std::int64_t{3} * e.Querstrich,
-                  std::int64_t{e.Umweggroesse}});
-    return zeichen + kRunden + Stiftrand() + Stilrand();
+    constexpr std::uint8_t kAlle = (1U << KanteAttr::Anzahl) - 1;
+    return Zeichenreichweite(KanteAttr::AusMaske(kAlle), LinieAttr::ARI1, einstellungen_) + Stiftrand() +
+           Stilrand();
+}
+
+std::int64_t Figurenzeichner::Kantenreichweite(const Kante& kante) const {
+    return Zeichenreichweite(kante.KAttr, kante.LAttr, einstellungen_) + Stiftrand() + Stilrand();
 }
 
 /// Whether a line with its marks may touch the surface. How far they reach matters beside it only.

@@ -59,6 +59,8 @@ class Figurenzeichner final : public Zeichner {
 
     /// Where a label begins, whose point lies at `stelle` [dots].
     [[nodiscard]] Bildpunkt Textecke(const PktText& text, Bildpunkt stelle) const;
+    /// How far a line reaches beyond its ends [px].
+    [[nodiscard]] std::int64_t Kantenreichweite(const Kante& kante) const;
     /// Device dots per screen pixel [-].
     [[nodiscard]] double Dichte() const { return zustand_.Dichte(); }
     // Where a figure may show on the screen [px], with some room to spare.
@@ -86,7 +88,7 @@ class Figurenzeichner final : public Zeichner {
 
     void SetzeEbene(Ebene ebene) const;
     [[nodiscard]] bool BeruehrtFlaeche(Bildpunkt anfang, Bildpunkt ende) const;
-    /// How far a line's marks reach [px].
+    /// The same of any line.
     [[nodiscard]] std::int64_t Kantenreichweite() const;
     [[nodiscard]] std::int64_t Symbolreichweite() const;
     [[nodiscard]] std::int64_t Stiftrand() const;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "output/Deckkarte.h"
+
 namespace zrw {
 namespace {
 
@@ -199,6 +201,17 @@ bool Glattbild::Verdeckt(const Rechteck& r) const {
         verdeckt = verdeckt && vorderseiten_[i].deckung.Verdeckt(InKachel(r, kacheln_.GanzeKachel(i)));
     });
     return verdeckt;
+}
+
+void Glattbild::KartiereVerdecktes(Deckkarte& karte) {
+    SchliesseAb();
+    karte.VergissAlles();
+    if (!vonVorn_) return;
+    karte.BeginneKarte(bild_.weite, bild_.hoehe);
+    kacheln_.FuerKacheln(kacheln_.Ausschnitt(), [&](std::size_t i) {
+        const Rechteck kachel = kacheln_.GanzeKachel(i);
+        karte.NimmTeil(vorderseiten_[i].deckung, kachel.links, kachel.oben);
+    });
 }
 
 }  // namespace zrw

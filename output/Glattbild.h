@@ -52,6 +52,8 @@ class Glattbild {
     [[nodiscard]] bool VonVorn() const { return vonVorn_; }
     /// Nothing that is drawn into the rectangle now would be seen, as far as is known.
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const;
+    /// Maps it, as exactly as it is known when everything so far is drawn.
+    void KartiereVerdecktes(Deckkarte& karte);
 
   private:
     struct Speichergabe {

@@ -100,6 +100,16 @@ std::span<const Strich> Striche(Zugform form) {
     return kStriche[static_cast<std::size_t>(form)];
 }
 
+std::int64_t Zeichenreichweite(KanteAttr kAttr, LinieAttr lAttr, const Einstellungen& g) {
+    constexpr std::int64_t kRunden = 2;  // moves each by a pixel
+    const std::int64_t marke = kAttr.HatArt(KanteAttr::GPS) ? g.GPSGroesse : 0;
+    const std::int64_t strich = kAttr.HatArt(KanteAttr::ST) ? g.GPSGroesse + 2 + g.Querstrich : 0;
+    const bool hoehe = kAttr.HatArt(KanteAttr::DH1) || kAttr.HatArt(KanteAttr::DH2);
+    const std::int64_t hoehenmarke = hoehe ? g.PTSize + 3 * g.Querstrich : 0;
+    const std::int64_t umweg = ZurLinie(lAttr).indirekt ? g.Umweggroesse : 0;
+    return std::max({marke, strich, hoehenmarke, umweg}) + kRunden;
+}
+
 /// Where a line lies: its ends, midpoint, length and unit vector, and the corners of its GPS marker.
 struct Kantenbild::Lage {
     Bildpunkt s, m, e;

@@ -98,6 +98,9 @@ class Kantenbild {
     std::size_t anzahl_ = 0;
 };
 
+/// How far what belongs to a line reaches beyond the rectangle round its ends [px].
+[[nodiscard]] std::int64_t Zeichenreichweite(KanteAttr kAttr, LinieAttr lAttr, const Einstellungen& groessen);
+
 /// A line without a direction observation and without GPS is drawn in white: there, but not seen.
 [[nodiscard]] inline Farbe Kantenfarbe(KanteAttr kAttr, LinieAttr lAttr, Farbe farbe) {
     return lAttr == LinieAttr::Null && !kAttr.HatArt(KanteAttr::GPS) ? kWeiss : farbe;

@@ -8,6 +8,8 @@
 #include <cstring>
 #include <limits>
 
+#include "output/Deckkarte.h"
+
 namespace zrw {
 namespace {
 
@@ -87,6 +89,14 @@ void Pixelbild::BeendeVonVorn() {
     deckung_.BeendeDeckung();
 }
 
+void Pixelbild::KartiereVerdecktes(Deckkarte& karte) {
+    SchliesseAb();
+    karte.VergissAlles();
+    if (!VonVorn()) return;
+    karte.BeginneKarte(bild_.weite, bild_.hoehe);
+    karte.NimmTeil(deckung_, 0, 0);
+}
+
 // --- Orders -----------------------------------------------------------------------------------------------
 
 /// One that is being put together.
@@ -100,12 +110,9 @@ class Pixelbild::Auftrag {
         worte_[anzahl_++] = std::bit_cast<Wort>(wert);
     }
     void NimmText(std::string_view text) {
-        for (std::size_t i = 0; i < text.size(); i += sizeof(Wort)) {
-            Wort wort = 0;
-            for (std::size_t n = std::min(i + sizeof(Wort), text.size()); n > i; --n)
-                wort = wort << 8U | static_cast<unsigned char>(text[n - 1]);
-            worte_[anzahl_++] = wort;
-        }
+        for (; text.size() >= sizeof(Wort); text.remove_prefix(sizeof(Wort)))
+            NimmWort(LiesZeichen<Wort>(text, 0));
+        if (!text.empty()) NimmWort(LetztesWort(text));
     }
     [[nodiscard]] std::span<const Wort> Mit(const Kopf& kopf) {
         worte_[0] = std::bit_cast<Wort>(kopf);
@@ -113,6 +120,24 @@ class Pixelbild::Auftrag {
     }
 
   private:
+    template <class T>
+    static T LiesZeichen(std::string_view text, std::size_t ab) {
+        T wert;
+        std::memcpy(&wert, text.data() + ab, sizeof wert);
+        return wert;
+    }
+    /// Fewer characters than fill it, not one by one: in two parts, which may overlap.
+    static Wort LetztesWort(std::string_view text) {
+        const std::size_t n = text.size();
+        const auto zusammen = [&]<class T>(T anfang) {
+            const std::size_t rest = n - sizeof anfang;
+            return Wort{anfang} | Wort{LiesZeichen<T>(text, rest)} << (8 * rest);
+        };
+        if (n >= 4) return zusammen(LiesZeichen<std::uint32_t>(text, 0));
+        if (n >= 2) return zusammen(LiesZeichen<std::uint16_t>(text, 0));
+        return LiesZeichen<std::uint8_t>(text, 0);
+    }
+
     std::array<Wort, 1 + kMeisteWorte> worte_;  // NOLINT(*-member-init): only those in use are set up
     std::size_t anzahl_ = 1;
 };

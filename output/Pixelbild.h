@@ -39,6 +39,8 @@ class Pixelbild {
     [[nodiscard]] bool VonVorn() const { return deckung_.Aktiv(); }
     /// Nothing that is drawn into the rectangle now would be seen, as far as is known.
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const { return VonVorn() && deckung_.Verdeckt(r); }
+    /// Maps it, as exactly as it is known when everything so far is drawn.
+    void KartiereVerdecktes(Deckkarte& karte);
 
     // What is drawn (Pixelpinsel.h). It may wait until the next `SchliesseAb`.
     /// Not while drawing from the front.

@@ -219,29 +219,35 @@ void Pixelpinsel::Linie(Flaechenpunkt von, Flaechenpunkt nach, std::uint32_t far
 template <bool Gefuellt>
 void Pixelpinsel::SetzeSpalte(const Block& b, std::size_t spalte, std::int64_t x, std::int64_t y,
                               const Tinte& tinte) const {
+    constexpr std::size_t kAufEinmal = 32;
     const std::uint64_t drin = Darin(x, bereich);
     if (drin == 0) return;
     const std::size_t jeZeile = b.jeZeile;
-    const std::int64_t erste = std::max<std::int64_t>(bereich.oben - y, 0);
-    const std::int64_t nachLetzter = std::min<std::int64_t>(bereich.unten + 1 - y, b.hoehe);
     const std::uint32_t farbe = tinte.farbe;
     const std::uint32_t fuellfarbe = tinte.fuellfarbe;
     const std::size_t schritt = zeile;
-    Deckung* const gedeckt = deckung;
-    std::uint32_t* dort = bild + (y + erste) * static_cast<std::int64_t>(schritt) + x;
-    const auto setze = [&dort](std::uint64_t bits, std::uint32_t f) {
-        for (; bits != 0; bits &= bits - 1)
-            dort[std::countr_zero(bits)] = f;
-    };
-    std::size_t i = static_cast<std::size_t>(erste) * jeZeile + spalte;
-    for (std::int64_t n = erste; n < nachLetzter; ++n, i += jeZeile, dort += schritt) {
-        const std::uint64_t rand = b.worte[i];
-        const std::uint64_t beide = (Gefuellt ? rand | tinte.fuellung[i] : rand) & drin;
-        if (beide == 0) continue;
-        const std::uint64_t frei =
-            gedeckt == nullptr ? beide : gedeckt->DeckeAb(x, static_cast<std::size_t>(y + n), beide);
-        setze(frei & rand, farbe);
-        if (Gefuellt) setze(frei & ~rand, fuellfarbe);
+    const std::int64_t nachLetzter = std::min<std::int64_t>(bereich.unten + 1 - y, b.hoehe);
+    std::array<std::uint64_t, kAufEinmal> beide;  // NOLINT(*-member-init): only those in use are set up
+    std::array<std::uint64_t, kAufEinmal> freie;  // NOLINT(*-member-init): likewise
+    for (std::int64_t n = std::max<std::int64_t>(bereich.oben - y, 0); n < nachLetzter;) {
+        const auto anzahl = static_cast<std::size_t>(std::min<std::int64_t>(nachLetzter - n, kAufEinmal));
+        const std::size_t erstes = static_cast<std::size_t>(n) * jeZeile + spalte;
+        for (std::size_t i = 0, wort = erstes; i < anzahl; ++i, wort += jeZeile)
+            beide[i] = (Gefuellt ? b.worte[wort] | tinte.fuellung[wort] : b.worte[wort]) & drin;
+        if (deckung != nullptr)
+            deckung->DeckeZeilen(x, static_cast<std::size_t>(y + n), {beide.data(), anzahl}, freie.data());
+        const std::uint64_t* frei = deckung != nullptr ? freie.data() : beide.data();
+        std::uint32_t* dort = bild + (y + n) * static_cast<std::int64_t>(schritt) + x;
+        const auto setze = [&dort](std::uint64_t bits, std::uint32_t f) {
+            for (; bits != 0; bits &= bits - 1)
+                dort[std::countr_zero(bits)] = f;
+        };
+        for (std::size_t i = 0, wort = erstes; i < anzahl; ++i, wort += jeZeile, dort += schritt) {
+            if (frei[i] == 0) continue;
+            setze(Gefuellt ? frei[i] & b.worte[wort] : frei[i], farbe);
+            if (Gefuellt) setze(frei[i] & ~b.worte[wort], fuellfarbe);
+        }
+        n += static_cast<std::int64_t>(anzahl);
     }
 }
 

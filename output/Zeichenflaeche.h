@@ -54,6 +54,8 @@ struct Linienstueck {
     bool gestrichelt = false;
 };
 
+class Deckkarte;
+
 class Zeichenflaeche {
   public:
     virtual ~Zeichenflaeche() = default;
@@ -70,10 +72,8 @@ class Zeichenflaeche {
     virtual bool BeginneVonVorn() { return false; }
     virtual void BeendeVonVorn() {}
     [[nodiscard]] virtual bool VonVorn() const { return false; }
-    /// What was drawn so far lies before much of what comes: `Verdeckt` is to know all of it.
-    virtual void BeendeSchicht() {}
-    /// Nothing that is drawn into the rectangle now would be seen.
-    [[nodiscard]] virtual bool Verdeckt(const Rechteck& /*r*/) const { return false; }
+    /// What was drawn so far lies before much of what comes: maps what is hidden behind it.
+    virtual void KartiereVerdecktes(Deckkarte& /*karte*/) {}
 
     // Pen and brush of what is drawn next. Surfaces apply a change when they draw, so setting back costs
     // nothing.

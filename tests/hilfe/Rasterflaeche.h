@@ -17,7 +17,6 @@ class Rasterflaeche final : public Zeichenflaeche {
           pixel_(static_cast<std::size_t>(weite) * static_cast<std::size_t>(hoehe), 0xFFFFFFU) {
         SetzeHelfer(1);
     }
-    /// Only without any is what is hidden always known at the same time.
     void SetzeHelfer(unsigned helfer) {
         bild_.BindeAn({pixel_.data(), weite_, hoehe_, static_cast<std::size_t>(weite_), &grund_, helfer});
     }
@@ -38,14 +37,11 @@ class Rasterflaeche final : public Zeichenflaeche {
         return true;
     }
     void BeendeVonVorn() override { bild_.BeendeVonVorn(); }
-    void BeendeSchicht() override { bild_.SchliesseAb(); }
+    void KartiereVerdecktes(Deckkarte& karte) override { bild_.KartiereVerdecktes(karte); }
     [[nodiscard]] bool VonVorn() const override { return bild_.VonVorn(); }
-    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
-        verdeckt += bild_.Verdeckt(r) ? 1 : 0;
-        return bild_.Verdeckt(r);
-    }
 
     void Linie(Flaechenpunkt von, Flaechenpunkt nach) override {
+        ++striche;
         bild_.Linie(von, nach, AktuellerStift().farbe.wert, AktuellerStift().art == Strichart::Gestrichelt);
     }
     void ZeichneRechteck(const Rechteck& r) override { Ellipse(r); }
@@ -87,8 +83,8 @@ class Rasterflaeche final : public Zeichenflaeche {
     [[nodiscard]] std::int32_t Schriftgrad() const override { return 8; }
     [[nodiscard]] std::int32_t Schrifthoehe() const override { return kSchrift; }
 
-    int vonVorn = 0;           ///< how often drawing went from the front to the back
-    mutable int verdeckt = 0;  ///< how often it found nothing left to draw on
+    int vonVorn = 0;  ///< how often drawing went from the front to the back
+    int striche = 0;
 
   private:
     static constexpr std::int32_t kWeit = 1 << 29;

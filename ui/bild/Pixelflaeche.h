@@ -31,12 +31,11 @@ class Pixelflaeche : public Malerflaeche {
     [[nodiscard]] Rechteck Grenzen() const override;
     bool BeginneVonVorn() override;
     void BeendeVonVorn() override;
-    void BeendeSchicht() override { SchliesseAb(); }
+    void KartiereVerdecktes(Deckkarte& karte) override {
+        Glaettet() ? glattbild_.KartiereVerdecktes(karte) : pixel_.KartiereVerdecktes(karte);
+    }
     [[nodiscard]] bool VonVorn() const override {
         return Glaettet() ? glattbild_.VonVorn() : pixel_.VonVorn();
-    }
-    [[nodiscard]] bool Verdeckt(const Rechteck& r) const override {
-        return Glaettet() ? glattbild_.Verdeckt(r) : pixel_.Verdeckt(r);
     }
 
     void FuelleRechteck(const Rechteck& r, Farbe farbe) override;
