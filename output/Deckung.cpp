@@ -108,7 +108,7 @@ void Deckung::DeckeZeilen(std::int64_t x, std::size_t y, std::span<const std::ui
 
 bool Deckung::GenauVerdeckt(const Rechteck& r) const {
     if (Leer(r)) return true;
-    const auto zeilen = static_cast<std::size_t>(r.unten - r.oben + 1);
+    const auto zeilen = static_cast<std::size_t>(std::int64_t{r.unten} - r.oben + 1);
     for (std::int64_t spalte = r.links / 64; spalte <= r.rechts / 64; ++spalte) {
         const std::uint64_t* wort = bits_.data() + static_cast<std::size_t>(spalte) * hoehe_ + r.oben;
         std::uint64_t alle = wort[0];
