@@ -129,9 +129,9 @@ class Pixelbild::Auftrag {
     /// Fewer characters than fill it, not one by one: in two parts, which may overlap.
     static Wort LetztesWort(std::string_view text) {
         const std::size_t n = text.size();
-        const auto zusammen = [&]<class T>(T anfang) {
+        const auto zusammen = [&](auto anfang) {
             const std::size_t rest = n - sizeof anfang;
-            return Wort{anfang} | Wort{LiesZeichen<T>(text, rest)} << (8 * rest);
+            return Wort{anfang} | Wort{LiesZeichen<decltype(anfang)>(text, rest)} << (8 * rest);
         };
         if (n >= 4) return zusammen(LiesZeichen<std::uint32_t>(text, 0));
         if (n >= 2) return zusammen(LiesZeichen<std::uint16_t>(text, 0));
