@@ -236,9 +236,7 @@ inline bool Bildaufbau::Unsichtbar(std::uint32_t kante, const Weltkasten& dort) 
     if (std::abs(a->x - e->x) <= kUmgebung && std::abs(a->y - e->y) <= kUmgebung &&
         karte_.Umgeben(a->x, a->y))
         return true;
-    const auto r = static_cast<std::int32_t>(r_.kante);
-    return karte_.Verdeckt({std::min(a->x, e->x) - r, std::min(a->y, e->y) - r, std::max(a->x, e->x) + r,
-                            std::max(a->y, e->y) + r});
+    return Verdeckt({a->x, a->y}, {e->x, e->y}, r_.kante);
 }
 
 /// The same when it is known how far the line reaches.

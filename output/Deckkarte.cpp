@@ -61,9 +61,9 @@ bool Deckkarte::Verdeckt(const Rechteck& r) const {
 
 /// First along the rows, then across them.
 void Deckkarte::BeginneUmgebungen(std::int32_t rand) {
-    const std::int32_t weit = (rand + kQuadrat - 1) / kQuadrat;
     constexpr std::size_t kAufEinmal = sizeof(std::uint64_t) - 2;  // bytes that have all neighbours in a word
-    if (weit > 8) return;                                          // nothing is known of what is so far away
+    if (rand > kWeiteste) return;
+    const std::int32_t weit = (rand + kQuadrat - 1) / kQuadrat;
     quer_.assign(voll_.size(), kAlle);
     for (std::size_t zeile = 0; zeile < voll_.size(); zeile += zeile_) {
         for (std::size_t i = kDavor; i < zeile_ - kDanach; i += kAufEinmal) {

@@ -15,7 +15,8 @@ class Deckung;
 
 class Deckkarte {
   public:
-    static constexpr std::int32_t kQuadrat = 8;  ///< [px]
+    static constexpr std::int32_t kQuadrat = 8;              ///< [px]
+    static constexpr std::int32_t kWeiteste = 8 * kQuadrat;  ///< a byte of squares
 
     /// Nothing is known to be covered.
     void VergissAlles() { bekannt_ = false; }
@@ -27,7 +28,8 @@ class Deckkarte {
     /// Everything in the rectangle is covered, as far as it lies in the picture.
     [[nodiscard]] bool Verdeckt(const Rechteck& r) const;
 
-    /// From now on `Umgeben` tells whether everything as near as this is covered [px].
+    /// From now on `Umgeben` tells whether everything as near as this is covered [px], up to the border of
+    /// its squares; of nothing, when that is farther than `kWeiteste`. Once for each map.
     void BeginneUmgebungen(std::int32_t rand);
     [[nodiscard]] bool Umgeben(std::int64_t x, std::int64_t y) const {
         if (!bekannt_ || x < 0 || y < 0 || x > ganz_.rechts || y > ganz_.unten) return false;
