@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <vector>
 
 #include "output/Deckung.h"
 
@@ -49,6 +51,12 @@ TEST(Deckkarte, TellsWhatIsCoveredWithItsSurroundings) {
             deckung.DeckeZeilen(r.links - 5, static_cast<std::size_t>(r.oben), zeilen, frei.data());
             ASSERT_EQ(frei, erwartet);
         }
+        for (std::int32_t y = 0; y < kKartenhoehe; y += 8) {
+            for (std::int32_t x = 0; x < kKartenweite; x += 64) {
+                const Rechteck block = Geschnitten({x, y, x + 63, y + 7}, kTeil);
+                ASSERT_EQ(deckung.Verdeckt(block), deckung.GenauVerdeckt(block)) << x << " " << y;
+            }
+        }
         karte.BeginneKarte(kKartenweite, kKartenhoehe);
         karte.NimmTeil(deckung, 0, 0);
         const std::int32_t rand = 1 + wuerfle(40);
@@ -73,6 +81,12 @@ TEST(Deckkarte, TellsWhatIsCoveredWithItsSurroundings) {
         }
     }
     EXPECT_GT(umgeben, 100);
+    karte.BeginneKarte(kKartenweite, kKartenhoehe);
+    karte.BeginneUmgebungen(Deckkarte::kWeiteste);
+    EXPECT_TRUE(karte.Umgeben(150, 50)) << "all is covered until parts are taken";
+    karte.BeginneKarte(kKartenweite, kKartenhoehe);
+    karte.BeginneUmgebungen(Deckkarte::kWeiteste + 1);
+    EXPECT_FALSE(karte.Umgeben(150, 50));
 }
 
 }  // namespace
