@@ -126,22 +126,41 @@ struct Pinselstrich {
     bool umgekehrt = false;    ///< dashes count from the larger end
     std::int32_t gesetzt = 0;  ///< of a dash [1/256 px]; 0: solid
     std::int32_t periode = 1;  ///< from one dash to the next
+};
 
-    /// How much of a pixel along the stroke lies in dashes [1/256].
-    [[nodiscard]] std::int32_t Strichanteil(std::int64_t m) const {
-        if (gesetzt == 0) return kGanz;
-        const auto ort = static_cast<std::int32_t>((umgekehrt ? ende - m : m - anfang) * kGanz % periode);
-        return std::clamp(gesetzt - ort, 0, kGanz) + std::clamp(ort + kGanz - periode, 0, gesetzt);
+/// Goes along a stroke, pixel by pixel: a division for each of them would take longer than drawing it.
+class Dashlauf {
+  public:
+    /// @param m where it begins, not before the stroke
+    Dashlauf(const Pinselstrich& s, std::int64_t m) : gesetzt_(s.gesetzt), periode_(s.periode) {
+        if (gesetzt_ == 0) return;
+        ort_ = static_cast<std::int32_t>((s.umgekehrt ? s.ende - m : m - s.anfang) * kGanz % periode_);
+        schritt_ = kGanz % periode_;
+        if (s.umgekehrt) schritt_ = periode_ - schritt_;
     }
+    /// How much of the next pixel lies in dashes [1/256].
+    [[nodiscard]] std::int32_t NimmAnteil() {
+        if (gesetzt_ == 0) return kGanz;
+        const std::int32_t anteil =
+            std::clamp(gesetzt_ - ort_, 0, kGanz) + std::clamp(ort_ + kGanz - periode_, 0, gesetzt_);
+        ort_ += schritt_;
+        if (ort_ >= periode_) ort_ -= periode_;
+        return anteil;
+    }
+
+  private:
+    std::int32_t gesetzt_;
+    std::int32_t periode_;
+    std::int32_t ort_ = 0;  ///< of the pixel, from the beginning of a dash [1/256 px]
+    std::int32_t schritt_ = 0;
 };
 
 /// One step along, pixel by pixel, those in the tile.
 template <bool Senkrecht, class Ziel>
-void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
-                     const Ziel& ziel) {
+void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, std::int32_t anteil,
+                     const Vierfarbe& farbe, const Ziel& ziel) {
     const std::int64_t von = Senkrecht ? ziel.bereich.links : ziel.bereich.oben;
     const std::int64_t bis = Senkrecht ? ziel.bereich.rechts : ziel.bereich.unten;
-    const std::int32_t anteil = s.Strichanteil(m);
     std::int64_t q = oben >> 8;
     std::int32_t rest = s.dicke;
     std::int32_t a = std::min(kGanz - static_cast<std::int32_t>(oben & (kGanz - 1)), rest);
@@ -156,8 +175,8 @@ void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, c
 
 /// One step of a stroke that runs down: the pixels of a row, four at a time.
 template <class Ziel>
-inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t oben, const Vierfarbe& farbe,
-                         const Ziel& ziel) {
+inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t oben, std::int32_t anteil,
+                         const Vierfarbe& farbe, const Ziel& ziel) {
     constexpr Acht kStellen{0, 0, kGanz, kGanz, 2 * kGanz, 2 * kGanz, 3 * kGanz, 3 * kGanz};
     constexpr Acht kErster{0xFFFF, 0xFFFF};
     const std::int64_t q = oben >> 8;
@@ -165,8 +184,7 @@ inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t obe
     const std::int32_t bis = beginn + s.dicke;
     const std::int32_t weite = (bis + kVier * kGanz - 1) / (kVier * kGanz) * kVier;
     if (q < ziel.bereich.links || q + weite - 1 > ziel.bereich.rechts)
-        return SetzeQuerAmRand<true>(s, m, oben, farbe, ziel);
-    const std::int32_t anteil = s.Strichanteil(m);
+        return SetzeQuerAmRand<true>(s, m, oben, anteil, farbe, ziel);
     if (anteil == 0) return;
     std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(m) * ziel.zeile + q;
     Acht vorher = Ueberall(beginn) & kErster;
@@ -182,7 +200,7 @@ inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t obe
 /// it has @param v its middle at the first of them, in 2^-32
 template <class Ziel>
 inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t anzahl, std::int64_t v,
-                          std::int64_t schritt, const Vierfarbe& farbe, const Ziel& ziel) {
+                          std::int64_t schritt, Dashlauf& lauf, const Vierfarbe& farbe, const Ziel& ziel) {
     std::array<std::int64_t, kVier> oben;
     for (std::size_t i = 0; i < kVier; ++i)
         oben[i] = ((v + static_cast<std::int64_t>(i) * schritt) >> 24) + s.versatz;
@@ -191,7 +209,8 @@ inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t an
     const std::int64_t bis = (gross + s.dicke - 1) >> 8;
     if (m + kVier - 1 > ziel.bereich.rechts || von < ziel.bereich.oben || bis > ziel.bereich.unten) {
         for (std::int64_t i = 0; i < anzahl; ++i)
-            SetzeQuerAmRand<false>(s, m + i, oben[static_cast<std::size_t>(i)], farbe, ziel);
+            SetzeQuerAmRand<false>(s, m + i, oben[static_cast<std::size_t>(i)], lauf.NimmAnteil(), farbe,
+                                   ziel);
         return;
     }
     const auto ab = [&](std::size_t i) {
@@ -203,8 +222,10 @@ inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t an
     Acht ganz = ErstePixel(anzahl);
     Acht teil{};
     if (s.gesetzt != 0) {
-        const auto dash = [&](std::int64_t i) { return static_cast<std::uint32_t>(s.Strichanteil(m + i)); };
-        const Acht anteil = Zweimal(Vier{dash(0), dash(1), dash(2), dash(3)}) & ganz;
+        Vier dash{};
+        for (int i = 0; i < kVier; ++i)
+            dash[i] = static_cast<std::uint32_t>(lauf.NimmAnteil());
+        const Acht anteil = Zweimal(dash) & ganz;
         ganz = std::bit_cast<Acht>(anteil == kGanz);
         teil = anteil & ~ganz;
     }
@@ -224,11 +245,13 @@ void ZieheStrich(const Pinselstrich& s, const Vierfarbe& farbe, const Ziel& ziel
         std::max<std::int64_t>(s.anfang, Senkrecht ? ziel.bereich.oben : ziel.bereich.links);
     const std::int64_t letzter =
         std::min<std::int64_t>(s.ende, Senkrecht ? ziel.bereich.unten : ziel.bereich.rechts);
+    if (erster > letzter) return;
+    Dashlauf lauf(s, erster);
     if (s.ende - s.anfang > kLang || s.dicke > kBreit) {
         for (std::int64_t m = erster; m <= letzter; ++m) {
             const double quer = static_cast<double>(s.quer) + s.steigung * static_cast<double>(m - s.anfang);
             const auto oben = static_cast<std::int64_t>(std::floor(quer * kGanz)) + s.versatz;
-            SetzeQuerAmRand<Senkrecht>(s, m, oben, farbe, ziel);
+            SetzeQuerAmRand<Senkrecht>(s, m, oben, lauf.NimmAnteil(), farbe, ziel);
         }
         return;
     }
@@ -238,10 +261,11 @@ void ZieheStrich(const Pinselstrich& s, const Vierfarbe& farbe, const Ziel& ziel
     std::int64_t v = (s.quer * (std::int64_t{1} << 32)) + (erster - s.anfang) * schritt;
     if constexpr (Senkrecht) {
         for (std::int64_t m = erster; m <= letzter; ++m, v += schritt)
-            SetzeInZeile(s, m, (v >> 24) + s.versatz, farbe, ziel);
+            SetzeInZeile(s, m, (v >> 24) + s.versatz, lauf.NimmAnteil(), farbe, ziel);
     } else {
         for (std::int64_t m = erster; m <= letzter; m += kVier, v += kVier * schritt)
-            SetzeInZeilen(s, m, std::min<std::int64_t>(kVier, letzter - m + 1), v, schritt, farbe, ziel);
+            SetzeInZeilen(s, m, std::min<std::int64_t>(kVier, letzter - m + 1), v, schritt, lauf, farbe,
+                          ziel);
     }
 }
 
