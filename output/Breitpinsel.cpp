@@ -46,11 +46,31 @@ struct Achtfarbe {
     Sechzehn rest;
 };
 
-/// A colour over eight pixels. @param a its shares
-__attribute__((target("avx2"))) inline Sechzehn Darauf(Sechzehn unten, const Achtfarbe& farbe, Sechzehn a) {
-    const Sechzehn rb = ((unten << 8) + (farbe.rotBlau - (unten & 0xFF)) * a + 0x80) >> 8;
-    const Sechzehn g = ((unten & 0xFF00) + (farbe.rest - (unten >> 8)) * a + 0x80) & 0xFF00;
-    return rb | g | JedesPixel(kUndurchsichtig);
+__attribute__((target("avx2"))) inline Achtfarbe Achtmal(std::uint32_t farbe) {
+    return {JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
+}
+
+/// The same times 128, as `Darauf` wants it.
+__attribute__((target("avx2"))) inline Achtfarbe Mischfarbe(std::uint32_t farbe) {
+    const Achtfarbe f = Achtmal(farbe);
+    return {f.rotBlau << 7, f.rest << 7};
+}
+
+/// @return (a * b + 2^14) / 2^15, rounded down; both have a sign
+__attribute__((target("avx2"))) inline Sechzehn MalGerundet(Sechzehn a, Sechzehn b) {
+    return reinterpret_cast<Sechzehn>(
+        _mm256_mulhrs_epi16(reinterpret_cast<__m256i>(a), reinterpret_cast<__m256i>(b)));
+}
+
+/// A colour over eight pixels: what is there, and of the difference as much as is covered. @param a its
+/// shares
+__attribute__((target("avx2"))) inline Sechzehn Darauf(Sechzehn unten, const Achtfarbe& mischfarbe,
+                                                       Sechzehn a) {
+    const Sechzehn rb = unten & 0xFF;
+    const Sechzehn g = unten >> 8;
+    const Sechzehn neuesRb = rb + MalGerundet(mischfarbe.rotBlau - (rb << 7), a);
+    const Sechzehn neuesG = g + MalGerundet(mischfarbe.rest - (g << 7), a);
+    return neuesRb | neuesG << 8 | JedesPixel(kUndurchsichtig);
 }
 
 /// A colour behind eight pixels. @param volle gets those that have become full, one bit each
@@ -209,7 +229,7 @@ bool KannAchtPixel() {
 __attribute__((target("avx2"))) void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang,
                                                     const Rechteck& teil, std::uint32_t farbe,
                                                     const Darueber& ziel) {
-    const Achtfarbe achtfarbe{JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
+    const Achtfarbe achtfarbe = Mischfarbe(farbe);
     std::uint32_t* zeile = ziel.pixel + static_cast<std::size_t>(teil.oben) * ziel.zeile + umfang.links;
     for (std::int64_t y = teil.oben; y <= teil.unten; ++y, zeile += ziel.zeile) {
         const Acht* vier = m.Vierer(static_cast<std::size_t>(y - umfang.oben));
@@ -222,7 +242,7 @@ __attribute__((target("avx2"))) void SetzeMaskeAcht(const Deckmaske& m, const Re
                                                     const Rechteck& teil, std::uint32_t farbe,
                                                     const Dahinter& ziel) {
     constexpr std::int64_t kWort = 64;
-    const Achtfarbe achtfarbe{JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
+    const Achtfarbe achtfarbe = Achtmal(farbe);
     for (std::int64_t y = teil.oben; y <= teil.unten; ++y) {
         const auto zeile = static_cast<std::size_t>(y - umfang.oben);
         const Acht* vier = m.Vierer(zeile);
@@ -249,7 +269,7 @@ __attribute__((target("avx2"))) bool SetzeZeileAcht(std::span<const Maskenort> m
                                                     const Darueber& ziel) {
     Zeilenteilung t;  // NOLINT(*-member-init): set up as far as it is used
     if (!t.TeileEin(masken) || !HatPlatz(t.Umfang(), ziel)) return false;
-    const Achtfarbe achtfarbe{JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
+    const Achtfarbe achtfarbe = Mischfarbe(farbe);
     std::int64_t x = t.Umfang().links;
     for (std::size_t g = 0; g < t.Gruppen(); ++g, x += kGruppe)
         SetzeGruppe(t.Gruppe(g), x, achtfarbe, ziel);
@@ -263,7 +283,7 @@ __attribute__((target("avx2"))) bool SetzeZeileAcht(std::span<const Maskenort> m
     if (!t.TeileEin(masken) || !HatPlatz(t.Umfang(), ziel)) return false;
     const Rechteck teil = Geschnitten(t.Umfang(), ziel.bereich);
     if (Leer(teil) || ziel.Verdeckt(teil)) return true;
-    const Achtfarbe achtfarbe{JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
+    const Achtfarbe achtfarbe = Achtmal(farbe);
     for (std::int64_t y = teil.oben; y <= teil.unten; ++y) {
         std::uint32_t* pixel = ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + t.Umfang().links;
         std::int64_t x = t.Umfang().links;
