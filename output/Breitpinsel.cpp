@@ -22,6 +22,7 @@ using Sechzehn = std::uint16_t __attribute__((vector_size(32)));
 using SechzehnMitVorzeichen = std::int16_t __attribute__((vector_size(32)));
 
 constexpr std::int64_t kGruppe = 8;
+static_assert(Stempel::kReihe == kGruppe);
 constexpr std::int64_t kViererJeGruppe = 2;
 constexpr std::uint32_t kUndurchsichtig = 0xFF000000U;
 
@@ -305,6 +306,34 @@ __attribute__((target("avx2"))) bool SetzeZeileAcht(std::span<const Maskenort> m
     return true;
 }
 
+__attribute__((target("avx2"))) void SetzeStempelAcht(const Stempel& s, Flaechenpunkt ort,
+                                                      std::uint32_t farbe, const Darueber& ziel) {
+    const Achtfarbe achtfarbe = Mischfarbe(farbe);
+    const std::uint32_t* anteile = s.anteile;
+    std::uint32_t* gruppe = ziel.pixel + static_cast<std::size_t>(ort.y) * ziel.zeile + ort.x;
+    for (int g = 0; g < s.gruppen; ++g, gruppe += kGruppe) {
+        std::uint32_t* p = gruppe;
+        for (int i = 0; i < s.hoehe; ++i, p += ziel.zeile, anteile += kGruppe)
+            SchreibeAcht(p, Darauf(LiesSechzehn(p), achtfarbe, LiesSechzehn(anteile)));
+    }
+}
+
+__attribute__((target("avx2"))) void SetzeStempelAcht(const Stempel& s, Flaechenpunkt ort,
+                                                      std::uint32_t farbe, const Dahinter& ziel) {
+    const Achtfarbe achtfarbe = Achtmal(farbe);
+    const std::uint32_t* anteile = s.anteile;
+    for (std::int64_t x = ort.x; x < ort.x + kGruppe * s.gruppen; x += kGruppe) {
+        for (std::int64_t y = ort.y; y < ort.y + s.hoehe; ++y, anteile += kGruppe) {
+            std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(y) * ziel.zeile + x;
+            std::uint64_t volle = 0;
+            Sechzehn vorn = LiesSechzehn(p);
+            if (!SchiebeDahinter(vorn, achtfarbe, LiesSechzehn(anteile), volle)) continue;
+            SchreibeAcht(p, vorn);
+            if (volle != 0) ziel.deckung.DeckeAb(x, static_cast<std::size_t>(y), volle);
+        }
+    }
+}
+
 }  // namespace zrw
 
 #else
@@ -330,6 +359,12 @@ bool SetzeZeileAcht(std::span<const Maskenort> /*masken*/, std::uint32_t /*farbe
                     const Dahinter& /*ziel*/) {
     return false;
 }
+
+void SetzeStempelAcht(const Stempel& /*s*/, Flaechenpunkt /*ort*/, std::uint32_t /*farbe*/,
+                      const Darueber& /*ziel*/) {}
+
+void SetzeStempelAcht(const Stempel& /*s*/, Flaechenpunkt /*ort*/, std::uint32_t /*farbe*/,
+                      const Dahinter& /*ziel*/) {}
 
 }  // namespace zrw
 

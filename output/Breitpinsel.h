@@ -29,5 +29,8 @@ void SetzeMaskeAcht(const Deckmaske& m, const Rechteck& umfang, const Rechteck& 
                                   const Darueber& ziel);
 [[nodiscard]] bool SetzeZeileAcht(std::span<const Maskenort> masken, std::uint32_t farbe,
                                   const Dahinter& ziel);
+/// @param ort of its upper left pixel: all of it lies in the tile
+void SetzeStempelAcht(const Stempel& s, Flaechenpunkt ort, std::uint32_t farbe, const Darueber& ziel);
+void SetzeStempelAcht(const Stempel& s, Flaechenpunkt ort, std::uint32_t farbe, const Dahinter& ziel);
 
 }  // namespace zrw

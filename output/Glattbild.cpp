@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "output/Breitpinsel.h"
 #include "output/Deckkarte.h"
 
 namespace zrw {
@@ -19,6 +20,7 @@ void Glattbild::BindeAn(const Zielbild& bild, double dichte) {
     SchliesseAb();
     bild_ = bild;
     dichte_ = dichte;
+    stempel_.FertigeStempel(dichte);
     vorn_.reset();
     vorderseiten_.clear();
     kacheln_.TeileInKacheln(bild);
@@ -115,6 +117,21 @@ inline void Glattbild::ZeichneMasken(std::span<const Auftrag> auftraege, Flaeche
     SetzeMasken({masken.data(), auftraege.size()}, auftraege.front().farbe, ziel);
 }
 
+/// Draws a short stroke from its stamp. @return false: there is none, or it reaches beyond the target
+template <class Ziel>
+inline bool Glattbild::Stempele(const Auftrag& a, Flaechenpunkt von, Flaechenpunkt nach,
+                                const Ziel& ziel) const {
+    if (a.breite != 1) return false;
+    const auto dx = static_cast<std::int64_t>(nach.x) - von.x;
+    const auto dy = static_cast<std::int64_t>(nach.y) - von.y;
+    const Stempel* s = stempel_.FindeStempel(dx, dy, a.art == Art::Gestrichelt);
+    if (s == nullptr) return false;
+    const Rechteck r = s->Umfang(von);
+    if (Geschnitten(r, ziel.bereich) != r) return false;
+    if (!ziel.Verdeckt(r)) SetzeStempelAcht(*s, {r.links, r.oben}, a.farbe, ziel);
+    return true;
+}
+
 /// @param ecke of the surface where the target has its first pixel
 template <class Ziel>
 void Glattbild::ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke,
@@ -130,7 +147,7 @@ void Glattbild::ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpun
         const Flaechenpunkt nach = Flaechenort(a.nach.x - ecke.x, a.nach.y - ecke.y);
         if (a.art == Art::Rechteck) {
             FuellePixel({von.x, von.y, nach.x, nach.y}, a.farbe, ziel);
-        } else if (!Unsichtbar(Strichumfang(von, nach, a.breite), ziel)) {
+        } else if (!Stempele(a, von, nach, ziel) && !Unsichtbar(Strichumfang(von, nach, a.breite), ziel)) {
             ZieheLinie(von, nach, dichte_ * a.breite, a.art == Art::Strich ? 0.0 : dichte_, a.farbe, ziel);
         }
     }

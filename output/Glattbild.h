@@ -15,6 +15,7 @@
 #include "output/Deckung.h"
 #include "output/Glattpinsel.h"
 #include "output/Kachelwerk.h"
+#include "output/Strichstempel.h"
 #include "output/Zeichenflaeche.h"
 #include "output/Zielbild.h"
 
@@ -85,6 +86,9 @@ class Glattbild {
     template <class Ziel>
     void ZeichneAuftraege(std::span<const Auftrag> auftraege, Flaechenpunkt ecke, const Ziel& ziel) const;
     template <class Ziel>
+    [[nodiscard]] bool Stempele(const Auftrag& a, Flaechenpunkt von, Flaechenpunkt nach,
+                                const Ziel& ziel) const;
+    template <class Ziel>
     static void ZeichneMasken(std::span<const Auftrag> auftraege, Flaechenpunkt ecke, const Ziel& ziel);
     static void SchreibeStrich(Auftrag& a, const Linienstueck& s, std::uint32_t farbe, std::uint8_t breite);
     [[nodiscard]] static std::uint8_t Stiftbreite(std::int32_t breite);
@@ -96,6 +100,7 @@ class Glattbild {
 
     Zielbild bild_;
     double dichte_ = 1.0;
+    Strichstempel stempel_;
     bool vonVorn_ = false;
     std::unique_ptr<std::uint32_t, Speichergabe> vorn_;  ///< of all tiles
     std::vector<Vorderseite> vorderseiten_;              ///< of each tile

@@ -113,6 +113,15 @@ inline void Dahinter::SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarb
     if (const std::uint64_t volle = Pixelbits(neu); volle != 0) Decke(p, y, volle);
 }
 
+inline void Abdruck::SetzePixel(std::uint32_t* p, std::int64_t /*y*/, const Vierfarbe& /*farbe*/,
+                                std::int32_t a) {
+    *p = static_cast<std::uint32_t>(a) * 0x10001U;
+}
+
+inline void Abdruck::SetzeVier(std::uint32_t* p, std::int64_t /*y*/, const Vierfarbe& /*farbe*/, Acht a) {
+    SchreibeVier(p, LiesVier(p) + AlsVier(a));
+}
+
 namespace {
 
 /// A stroke along its longer axis, from its smaller end.
@@ -421,6 +430,7 @@ void MischeUnter(const std::uint32_t* vorn, std::uint32_t* unten, std::size_t we
 
 template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint32_t, const Darueber&);
 template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint32_t, const Dahinter&);
+template void ZieheLinie(Flaechenpunkt, Flaechenpunkt, double, double, std::uint32_t, const Abdruck&);
 template void SetzeMaske(const Deckmaske&, Flaechenpunkt, std::uint32_t, const Darueber&);
 template void SetzeMaske(const Deckmaske&, Flaechenpunkt, std::uint32_t, const Dahinter&);
 template void SetzeMasken(std::span<const Maskenort>, std::uint32_t, const Darueber&);

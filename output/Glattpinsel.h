@@ -63,6 +63,23 @@ struct Maskenort {
     Flaechenpunkt ort;
 };
 
+/// How much a stroke covers of each pixel, from one of its ends on.
+struct Stempel {
+    static constexpr std::int32_t kReihe = 8;  ///< pixels
+
+    const std::uint32_t* anteile = nullptr;  ///< 0 to 256, twice in a word: rows of `kReihe`, downwards
+    std::int8_t links = 0;                   ///< from the first end of the stroke [px]
+    std::int8_t oben = 0;
+    std::uint8_t hoehe = 0;    ///< rows
+    std::uint8_t gruppen = 0;  ///< of rows, beside each other
+    /// @param von where the stroke begins
+    [[nodiscard]] Rechteck Umfang(Flaechenpunkt von) const {
+        const std::int32_t x = von.x + links;
+        const std::int32_t y = von.y + oben;
+        return {x, y, x + kReihe * gruppen - 1, y + hoehe - 1};
+    }
+};
+
 // Two ways to draw a pixel, or four beside each other. @param y its row @param a what is covered of it, 0 to
 // 256, of four twice each
 
@@ -101,7 +118,16 @@ struct Dahinter {
     void Decke(const std::uint32_t* p, std::int64_t y, std::uint64_t pixel) const;
 };
 
-// For both of them.
+/// Not at all, for `ZieheLinie` only: keeps how much of each is covered, twice in its word.
+struct Abdruck {
+    std::uint32_t* pixel;
+    std::size_t zeile;
+    Rechteck bereich;
+    static void SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, std::int32_t a);
+    static void SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a);
+};
+
+// For `Darueber` and `Dahinter`.
 
 /// Beside the tile, or behind what is there.
 template <class Ziel>

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <random>
@@ -128,6 +129,34 @@ TEST(Glattbild, SamePixelsFromAnyCoresAndParts) {
         }
         stueckweise.bild.SchliesseAb();
         EXPECT_EQ(stueckweise.pixel, einer.pixel);
+    }
+}
+
+/// Short strokes come ready made where a part has room for all of theirs; in narrow ones they are worked out.
+TEST(Glattbild, ShortStrokesAreTheSameInNarrowParts) {
+    constexpr int kSchmal = 7;
+    for (const double dichte : {1.0, 1.5, 8.0}) {
+        const bool vonVorn = dichte == 1.5;
+        Blatt frei(dichte);
+        Blatt eng(dichte);
+        const auto zeichne = [&](Glattbild& bild) {
+            ASSERT_TRUE(!vonVorn || bild.BeginneVonVorn());
+            for (int i = 0; i < 25 * 25 * 2; ++i) {
+                const int dx = i / 2 % 25 - 12;
+                const int dy = i / 50 - 12;
+                bild.Linie({60 + i % 7, 50}, {60 + i % 7 + dx, 50 + dy},
+                           kTinte | static_cast<std::uint32_t>(i * 1234567), 1, i % 2 == 0);
+                const Flaechenpunkt ort{100 + (dx + 12) * 30, 20 + (dy + 12) * 4};
+                bild.Linie(ort, {ort.x + dx, ort.y + dy}, kTinte, 1, i % 2 == 0);
+            }
+            vonVorn ? bild.BeendeVonVorn() : bild.SchliesseAb();
+        };
+        zeichne(frei.bild);
+        for (int x = 0; x < kBlattweite; x += kSchmal) {
+            eng.bild.SetzeAusschnitt({x, 0, std::min(x + kSchmal, kBlattweite) - 1, kBlatthoehe - 1});
+            zeichne(eng.bild);
+        }
+        EXPECT_TRUE(frei.pixel == eng.pixel) << dichte;
     }
 }
 
