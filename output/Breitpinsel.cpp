@@ -3,77 +3,20 @@
 // Windows aligns the stack to 16 bytes, and compilers for it do not mind that these vectors need more.
 #if defined(__x86_64__) && !defined(_WIN32)
 
-#include <immintrin.h>
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <limits>
 #include <utility>
+
+#include "output/Achtpixel.h"
 
 namespace zrw {
 namespace {
 
-/// One number for each of eight pixels.
-using Achtfach = std::uint32_t __attribute__((vector_size(32)));
-/// Two numbers for each of them: of its colours, or the same one twice.
-using Sechzehn = std::uint16_t __attribute__((vector_size(32)));
-using SechzehnMitVorzeichen = std::int16_t __attribute__((vector_size(32)));
-
 constexpr std::int64_t kGruppe = 8;
 static_assert(Stempel::kReihe == kGruppe);
 constexpr std::int64_t kViererJeGruppe = 2;
-constexpr std::uint32_t kUndurchsichtig = 0xFF000000U;
-
-// Every function that has such vectors is built for these processors: others hand them over in memory.
-
-__attribute__((target("avx2"))) inline Sechzehn LiesSechzehn(const void* p) {
-    Sechzehn v;
-    std::memcpy(&v, p, sizeof v);
-    return v;
-}
-
-__attribute__((target("avx2"))) inline void SchreibeAcht(std::uint32_t* p, Sechzehn v) {
-    std::memcpy(p, &v, sizeof v);
-}
-
-__attribute__((target("avx2"))) inline Sechzehn JedesPixel(std::uint32_t v) {
-    return reinterpret_cast<Sechzehn>(Achtfach{} + v);
-}
-
-struct Achtfarbe {
-    Sechzehn rotBlau;
-    Sechzehn rest;
-};
-
-__attribute__((target("avx2"))) inline Achtfarbe Achtmal(std::uint32_t farbe) {
-    return {JedesPixel(farbe & 0x00FF00FFU), JedesPixel(farbe >> 8U & 0x00FF00FFU)};
-}
-
-/// The same times 128, as `Darauf` wants it.
-__attribute__((target("avx2"))) inline Achtfarbe Mischfarbe(std::uint32_t farbe) {
-    const Achtfarbe f = Achtmal(farbe);
-    return {f.rotBlau << 7, f.rest << 7};
-}
-
-/// @return (a * b + 2^14) / 2^15, rounded down; both have a sign
-__attribute__((target("avx2"))) inline Sechzehn MalGerundet(Sechzehn a, Sechzehn b) {
-    return reinterpret_cast<Sechzehn>(
-        _mm256_mulhrs_epi16(reinterpret_cast<__m256i>(a), reinterpret_cast<__m256i>(b)));
-}
-
-/// A colour over eight pixels: what is there, and of the difference as much as is covered. @param a its
-/// shares
-__attribute__((target("avx2"))) inline Sechzehn Darauf(Sechzehn unten, const Achtfarbe& mischfarbe,
-                                                       Sechzehn a) {
-    const Sechzehn rb = unten & 0xFF;
-    const Sechzehn g = unten >> 8;
-    const Sechzehn neuesRb = rb + MalGerundet(mischfarbe.rotBlau - (rb << 7), a);
-    const Sechzehn neuesG = g + MalGerundet(mischfarbe.rest - (g << 7), a);
-    return neuesRb | neuesG << 8 | JedesPixel(kUndurchsichtig);
-}
-
 /// A colour behind eight pixels. @param volle gets those that have become full, one bit each
 /// @return whether any changed
 __attribute__((target("avx2"))) inline bool SchiebeDahinter(Sechzehn& vorn, const Achtfarbe& farbe,

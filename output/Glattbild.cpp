@@ -127,7 +127,7 @@ inline bool Glattbild::Stempele(const Auftrag& a, Flaechenpunkt von, Flaechenpun
     const Stempel* s = stempel_.FindeStempel(dx, dy, a.art == Art::Gestrichelt);
     if (s == nullptr) return false;
     const Rechteck r = s->Umfang(von);
-    if (Geschnitten(r, ziel.bereich) != r) return false;
+    if (!Enthaelt(ziel.bereich, r)) return false;
     if (!ziel.Verdeckt(r)) SetzeStempelAcht(*s, {r.links, r.oben}, a.farbe, ziel);
     return true;
 }

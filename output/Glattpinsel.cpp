@@ -9,12 +9,12 @@
 #include <utility>
 
 #include "output/Breitpinsel.h"
+#include "output/Breitstrich.h"
+#include "output/Pinselstrich.h"
 #include "output/Zielbild.h"
 
 namespace zrw {
 namespace {
-
-constexpr std::int32_t kGanz = 256;
 
 /// Without the library call that rounding would be for each stroke. @param v not negative
 std::int32_t Gerundet(double v) {
@@ -24,7 +24,7 @@ std::int32_t Gerundet(double v) {
 /// Longer strokes are worked out step by step in floating point.
 constexpr std::int64_t kLang = std::int64_t{1} << 20U;
 /// Across broader ones, places do not fit into 16 bits.
-constexpr std::int32_t kBreit = 64 * kGanz;
+constexpr std::int32_t kBreit = 64 * kGanzesPixel;
 constexpr unsigned kGedeckt = 255;
 constexpr std::int32_t kVier = 4;
 
@@ -40,7 +40,7 @@ std::uint32_t MalAnteil(std::uint32_t werte, unsigned n) {
 /// A colour over what is there. @param a its share, 1 to 256
 inline std::uint32_t Gemischt(std::uint32_t unten, std::uint32_t farbe, std::int32_t a) {
     const auto oben = static_cast<std::uint32_t>(a);
-    const auto rest = static_cast<std::uint32_t>(kGanz - a);
+    const auto rest = static_cast<std::uint32_t>(kGanzesPixel - a);
     const std::uint32_t rb =
         ((farbe & kRotBlau) * oben + (unten & kRotBlau) * rest + 0x00800080U) >> 8U & kRotBlau;
     const std::uint32_t g = ((farbe & kGruen) * oben + (unten & kGruen) * rest + 0x00008000U) >> 8U & kGruen;
@@ -82,7 +82,7 @@ inline void Dahinter::SetzePixel(std::uint32_t* p, std::int64_t y, const Vierfar
                                  std::int32_t a) const {
     const unsigned frei = kGedeckt - (*p >> 24U);
     if (frei == 0) return;
-    unsigned n = (static_cast<unsigned>(a) * frei + kGanz / 2) / kGanz;
+    unsigned n = (static_cast<unsigned>(a) * frei + kGanzesPixel / 2) / kGanzesPixel;
     if (frei - n <= kSatt) {
         n = frei;
         Decke(p, y, 1);
@@ -94,14 +94,14 @@ inline void Dahinter::FuelleBlock(const Rechteck& r, std::uint32_t farbe) const 
     const Vierfarbe vierfarbe(farbe);
     for (std::int64_t y = r.oben; y <= r.unten; ++y) {
         for (std::int64_t x = r.links; x <= r.rechts; ++x)
-            SetzePixel(pixel + static_cast<std::size_t>(y) * zeile + x, y, vierfarbe, kGanz);
+            SetzePixel(pixel + static_cast<std::size_t>(y) * zeile + x, y, vierfarbe, kGanzesPixel);
     }
 }
 
 inline void Dahinter::SetzeVier(std::uint32_t* p, std::int64_t y, const Vierfarbe& farbe, Acht a) const {
     const Vier vorn = LiesVier(p);
     const Acht frei = kGedeckt - Zweimal(vorn >> 24);
-    Acht n = (a * frei + kGanz / 2) >> 8;
+    Acht n = (a * frei + kGanzesPixel / 2) >> 8;
     if (AlleNull(n)) return;
     const auto bleibt = std::bit_cast<AchtMitVorzeichen>(frei - n);
     const Acht satt = std::bit_cast<Acht>(bleibt <= std::int16_t{kSatt});
@@ -124,46 +124,6 @@ inline void Abdruck::SetzeVier(std::uint32_t* p, std::int64_t /*y*/, const Vierf
 
 namespace {
 
-/// A stroke along its longer axis, from its smaller end.
-struct Pinselstrich {
-    std::int64_t anfang = 0;
-    std::int64_t ende = 0;
-    std::int64_t quer = 0;     ///< of the smaller end
-    double steigung = 0.0;     ///< across, per pixel along
-    std::int32_t dicke = 0;    ///< across [1/256 px]
-    std::int32_t versatz = 0;  ///< of its upper edge from the middle of a pixel [1/256 px]
-    bool umgekehrt = false;    ///< dashes count from the larger end
-    std::int32_t gesetzt = 0;  ///< of a dash [1/256 px]; 0: solid
-    std::int32_t periode = 1;  ///< from one dash to the next
-};
-
-/// Goes along a stroke, pixel by pixel: a division for each of them would take longer than drawing it.
-class Dashlauf {
-  public:
-    /// @param m where it begins, not before the stroke
-    Dashlauf(const Pinselstrich& s, std::int64_t m) : gesetzt_(s.gesetzt), periode_(s.periode) {
-        if (gesetzt_ == 0) return;
-        ort_ = static_cast<std::int32_t>((s.umgekehrt ? s.ende - m : m - s.anfang) * kGanz % periode_);
-        schritt_ = kGanz % periode_;
-        if (s.umgekehrt) schritt_ = periode_ - schritt_;
-    }
-    /// How much of the next pixel lies in dashes [1/256].
-    [[nodiscard]] std::int32_t NimmAnteil() {
-        if (gesetzt_ == 0) return kGanz;
-        const std::int32_t anteil =
-            std::clamp(gesetzt_ - ort_, 0, kGanz) + std::clamp(ort_ + kGanz - periode_, 0, gesetzt_);
-        ort_ += schritt_;
-        if (ort_ >= periode_) ort_ -= periode_;
-        return anteil;
-    }
-
-  private:
-    std::int32_t gesetzt_;
-    std::int32_t periode_;
-    std::int32_t ort_ = 0;  ///< of the pixel, from the beginning of a dash [1/256 px]
-    std::int32_t schritt_ = 0;
-};
-
 /// One step along, pixel by pixel, those in the tile.
 template <bool Senkrecht, class Ziel>
 void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, std::int32_t anteil,
@@ -172,8 +132,8 @@ void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, s
     const std::int64_t bis = Senkrecht ? ziel.bereich.rechts : ziel.bereich.unten;
     std::int64_t q = oben >> 8;
     std::int32_t rest = s.dicke;
-    std::int32_t a = std::min(kGanz - static_cast<std::int32_t>(oben & (kGanz - 1)), rest);
-    for (; rest > 0; ++q, rest -= a, a = std::min(kGanz, rest)) {
+    std::int32_t a = std::min(kGanzesPixel - static_cast<std::int32_t>(oben & (kGanzesPixel - 1)), rest);
+    for (; rest > 0; ++q, rest -= a, a = std::min(kGanzesPixel, rest)) {
         const std::int32_t hier = a * anteil >> 8;
         if (q < von || q > bis || hier == 0) continue;
         const std::int64_t x = Senkrecht ? q : m;
@@ -186,33 +146,40 @@ void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, s
 template <class Ziel>
 inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t oben, std::int32_t anteil,
                          const Vierfarbe& farbe, const Ziel& ziel) {
-    constexpr Acht kStellen{0, 0, kGanz, kGanz, 2 * kGanz, 2 * kGanz, 3 * kGanz, 3 * kGanz};
+    constexpr Acht kStellen{0,
+                            0,
+                            kGanzesPixel,
+                            kGanzesPixel,
+                            2 * kGanzesPixel,
+                            2 * kGanzesPixel,
+                            3 * kGanzesPixel,
+                            3 * kGanzesPixel};
     constexpr Acht kErster{0xFFFF, 0xFFFF};
     const std::int64_t q = oben >> 8;
-    const auto beginn = static_cast<std::int32_t>(oben & (kGanz - 1));
+    const auto beginn = static_cast<std::int32_t>(oben & (kGanzesPixel - 1));
     const std::int32_t bis = beginn + s.dicke;
-    const std::int32_t weite = (bis + kVier * kGanz - 1) / (kVier * kGanz) * kVier;
+    const std::int32_t weite = (bis + kVier * kGanzesPixel - 1) / (kVier * kGanzesPixel) * kVier;
     if (q < ziel.bereich.links || q + weite - 1 > ziel.bereich.rechts)
         return SetzeQuerAmRand<true>(s, m, oben, anteil, farbe, ziel);
     if (anteil == 0) return;
     std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(m) * ziel.zeile + q;
     Acht vorher = Ueberall(beginn) & kErster;
     for (std::int32_t i = 0; i < weite; i += kVier) {
-        Acht a = BisGanz(Ueberall(bis - i * kGanz) - kStellen) - vorher;
-        if (anteil != kGanz) a = (a * Ueberall(anteil)) >> 8;
+        Acht a = BisGanz(Ueberall(bis - i * kGanzesPixel) - kStellen) - vorher;
+        if (anteil != kGanzesPixel) a = (a * Ueberall(anteil)) >> 8;
         ziel.SetzeVier(p + i, m, farbe, a);
         vorher = Acht{};
     }
 }
 
 /// Four steps of a stroke that runs beside the rows: the pixels of some rows. @param anzahl of the steps that
-/// it has @param v its middle at the first of them, in 2^-32
+/// it has @param v its upper edge at the first of them [2^-32 px]
 template <class Ziel>
 inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t anzahl, std::int64_t v,
                           std::int64_t schritt, Dashlauf& lauf, const Vierfarbe& farbe, const Ziel& ziel) {
     std::array<std::int64_t, kVier> oben;
     for (std::size_t i = 0; i < kVier; ++i)
-        oben[i] = ((v + static_cast<std::int64_t>(i) * schritt) >> 24) + s.versatz;
+        oben[i] = (v + static_cast<std::int64_t>(i) * schritt) >> 24;
     const auto [klein, gross] = std::minmax(oben[0], oben[static_cast<std::size_t>(anzahl) - 1]);
     const std::int64_t von = klein >> 8;
     const std::int64_t bis = (gross + s.dicke - 1) >> 8;
@@ -223,7 +190,7 @@ inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t an
         return;
     }
     const auto ab = [&](std::size_t i) {
-        return static_cast<std::uint32_t>(oben[i] - von * kGanz) & 0xFFFFU;
+        return static_cast<std::uint32_t>(oben[i] - von * kGanzesPixel) & 0xFFFFU;
     };
     Acht beginn = Zweimal(Vier{ab(0), ab(1), ab(2), ab(3)});
     Acht ende = beginn + static_cast<std::uint16_t>(s.dicke);
@@ -235,7 +202,7 @@ inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t an
         for (int i = 0; i < kVier; ++i)
             dash[i] = static_cast<std::uint32_t>(lauf.NimmAnteil());
         const Acht anteil = Zweimal(dash) & ganz;
-        ganz = std::bit_cast<Acht>(anteil == kGanz);
+        ganz = std::bit_cast<Acht>(anteil == kGanzesPixel);
         teil = anteil & ~ganz;
     }
     std::uint32_t* p = ziel.pixel + static_cast<std::size_t>(von) * ziel.zeile + m;
@@ -243,34 +210,36 @@ inline void SetzeInZeilen(const Pinselstrich& s, std::int64_t m, std::int64_t an
         Acht a = BisGanz(ende) - BisGanz(beginn);
         a = (a & ganz) | ((a * teil) >> 8);
         ziel.SetzeVier(p, y, farbe, a);
-        beginn -= kGanz;
-        ende -= kGanz;
+        beginn -= kGanzesPixel;
+        ende -= kGanzesPixel;
     }
 }
 
 template <bool Senkrecht, class Ziel>
 void ZieheStrich(const Pinselstrich& s, const Vierfarbe& farbe, const Ziel& ziel) {
-    const std::int64_t erster =
+    std::int64_t erster =
         std::max<std::int64_t>(s.anfang, Senkrecht ? ziel.bereich.oben : ziel.bereich.links);
     const std::int64_t letzter =
         std::min<std::int64_t>(s.ende, Senkrecht ? ziel.bereich.unten : ziel.bereich.rechts);
     if (erster > letzter) return;
-    Dashlauf lauf(s, erster);
     if (s.ende - s.anfang > kLang || s.dicke > kBreit) {
+        Dashlauf lauf(s, erster);
         for (std::int64_t m = erster; m <= letzter; ++m) {
             const double quer = static_cast<double>(s.quer) + s.steigung * static_cast<double>(m - s.anfang);
-            const auto oben = static_cast<std::int64_t>(std::floor(quer * kGanz)) + s.versatz;
+            const auto oben = static_cast<std::int64_t>(std::floor(quer * kGanzesPixel)) + s.versatz;
             SetzeQuerAmRand<Senkrecht>(s, m, oben, lauf.NimmAnteil(), farbe, ziel);
         }
         return;
     }
-    // Each place from the end of the stroke, so that it does not depend on where the picture begins.
-    constexpr double kFein = 4294967296.0;
-    const auto schritt = static_cast<std::int64_t>(s.steigung * kFein);
-    std::int64_t v = (s.quer * (std::int64_t{1} << 32)) + (erster - s.anfang) * schritt;
+    if constexpr (std::is_same_v<Ziel, Darueber>)
+        erster = Senkrecht ? ZieheSteilAcht(s, erster, letzter, farbe.einzeln, ziel)
+                           : ZieheFlachAcht(s, erster, letzter, farbe.einzeln, ziel);
+    Dashlauf lauf(s, erster);
+    const std::int64_t schritt = s.Schritt();
+    std::int64_t v = s.Oberkante(erster);
     if constexpr (Senkrecht) {
         for (std::int64_t m = erster; m <= letzter; ++m, v += schritt)
-            SetzeInZeile(s, m, (v >> 24) + s.versatz, lauf.NimmAnteil(), farbe, ziel);
+            SetzeInZeile(s, m, v >> 24, lauf.NimmAnteil(), farbe, ziel);
     } else {
         for (std::int64_t m = erster; m <= letzter; m += kVier, v += kVier * schritt)
             SetzeInZeilen(s, m, std::min<std::int64_t>(kVier, letzter - m + 1), v, schritt, lauf, farbe,
@@ -300,16 +269,16 @@ void ZieheLinie(Flaechenpunkt von, Flaechenpunkt nach, double breite, double das
     const std::int64_t quer = senkrecht ? dx : dy;
     const auto ganze = std::max(1, Gerundet(breite));
     if (quer == 0) {
-        s.dicke = ganze * kGanz;  // along the rows: sharp
+        s.dicke = ganze * kGanzesPixel;  // along the rows: sharp
     } else {
         s.steigung = static_cast<double>(quer) / static_cast<double>(laengs);
-        s.dicke = Gerundet(breite * std::sqrt(1.0 + s.steigung * s.steigung) * kGanz);
+        s.dicke = Gerundet(breite * std::sqrt(1.0 + s.steigung * s.steigung) * kGanzesPixel);
     }
     // Pens of an even width lie between two pixels.
-    s.versatz = (ganze % 2 == 0 ? 0 : kGanz / 2) - s.dicke / 2;
+    s.versatz = (ganze % 2 == 0 ? 0 : kGanzesPixel / 2) - s.dicke / 2;
     if (dash > 0.0) {
-        s.gesetzt = Gerundet(kStrichlaenge * dash * kGanz);
-        s.periode = Gerundet(kDash * dash * kGanz);
+        s.gesetzt = Gerundet(kStrichlaenge * dash * kGanzesPixel);
+        s.periode = Gerundet(kDash * dash * kGanzesPixel);
     }
     if (senkrecht) {
         ZieheStrich<true>(s, Vierfarbe(farbe), ziel);

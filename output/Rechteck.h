@@ -34,6 +34,12 @@ inline constexpr Rechteck kKeinRechteck{1, 1, 0, 0};
             std::min(a.unten, b.unten)};
 }
 
+/// Whether all of the inner one lies in the outer one. @param innen not empty
+[[nodiscard]] constexpr bool Enthaelt(const Rechteck& aussen, const Rechteck& innen) {
+    return innen.links >= aussen.links && innen.oben >= aussen.oben && innen.rechts <= aussen.rechts &&
+           innen.unten <= aussen.unten;
+}
+
 /// Which of 64 dots of a row lie between its left and right side, one bit each. @param x of the first one
 [[nodiscard]] constexpr std::uint64_t Darin(std::int64_t x, const Rechteck& r) {
     const std::int64_t von = std::clamp<std::int64_t>(r.links - x, 0, 64);
