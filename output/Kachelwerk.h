@@ -106,13 +106,24 @@ class Kachelwerk {
     /// When more wait, the caller draws, too.
     static constexpr std::size_t kMeisteWartende = 64 * kBuendel;
 
+    /// Room once made stays.
+    struct Stapel {
+        std::vector<Wort> platz;
+        std::size_t anzahl = 0;  ///< in use
+        /// @return where to write more of them
+        [[nodiscard]] Wort* HaengeAn(std::size_t worte) {
+            if (platz.size() < anzahl + worte) platz.resize(2 * (anzahl + worte));
+            anzahl += worte;
+            return platz.data() + anzahl - worte;
+        }
+        [[nodiscard]] std::span<const Wort> Worte() const { return {platz.data(), anzahl}; }
+    };
     struct Kachel {
-        std::vector<Wort> gesammelt;  ///< by the caller: the first `anzahl`
-        std::size_t anzahl = 0;
-        std::vector<Wort> inArbeit;  ///< of whoever draws
+        Stapel gesammelt;  ///< by the caller
+        Stapel inArbeit;   ///< of whoever draws
         std::mutex mutex;
         // Under the lock.
-        std::vector<Wort> uebergeben;
+        Stapel uebergeben;
         bool gemeldet = false;  ///< waits to be drawn, or is being drawn
     };
     template <class Schreibe>
@@ -200,10 +211,8 @@ template <class Wort>
 template <class Schreibe>
 inline void Kachelwerk<Wort>::HaengeAn(std::size_t kachel, std::size_t worte, Schreibe schreibe) {
     Kachel& k = kacheln_[kachel];
-    if (k.gesammelt.size() < k.anzahl + worte) k.gesammelt.resize(2 * (k.anzahl + worte));
-    schreibe(k.gesammelt.data() + k.anzahl);
-    k.anzahl += worte;
-    if (k.anzahl < kBuendel) return;
+    schreibe(k.gesammelt.HaengeAn(worte));
+    if (k.gesammelt.anzahl < kBuendel) return;
     Uebergib(kachel);
     while (wartende_.load(std::memory_order_relaxed) > kMeisteWartende)
         helfer_->TueEinen();
@@ -235,12 +244,15 @@ void Kachelwerk<Wort>::Uebergib(std::size_t kachel) {
     bool melden = false;
     {
         const std::scoped_lock schloss(k.mutex);
-        const auto ende = k.gesammelt.begin() + static_cast<std::ptrdiff_t>(k.anzahl);
-        k.uebergeben.insert(k.uebergeben.end(), k.gesammelt.begin(), ende);
-        wartende_.fetch_add(k.anzahl, std::memory_order_relaxed);
+        wartende_.fetch_add(k.gesammelt.anzahl, std::memory_order_relaxed);
+        if (k.uebergeben.anzahl == 0) {
+            std::swap(k.gesammelt, k.uebergeben);
+        } else {
+            std::ranges::copy(k.gesammelt.Worte(), k.uebergeben.HaengeAn(k.gesammelt.anzahl));
+        }
         melden = !std::exchange(k.gemeldet, true);
     }
-    k.anzahl = 0;
+    k.gesammelt.anzahl = 0;
     if (melden) helfer_->GibTeil(kachel, arbeit_);
 }
 
@@ -251,15 +263,15 @@ void Kachelwerk<Wort>::ZeichneKachel(std::size_t kachel) {
     for (;;) {
         {
             const std::scoped_lock schloss(k.mutex);
-            if (k.uebergeben.empty()) {
+            if (k.uebergeben.anzahl == 0) {
                 k.gemeldet = false;
                 return;
             }
-            k.inArbeit.swap(k.uebergeben);
+            std::swap(k.inArbeit, k.uebergeben);
         }
-        zeichner_(kachel, k.inArbeit);
-        wartende_.fetch_sub(k.inArbeit.size(), std::memory_order_release);
-        k.inArbeit.clear();
+        zeichner_(kachel, k.inArbeit.Worte());
+        wartende_.fetch_sub(k.inArbeit.anzahl, std::memory_order_release);
+        k.inArbeit.anzahl = 0;
     }
 }
 
@@ -267,15 +279,14 @@ template <class Wort>
 void Kachelwerk<Wort>::SchliesseAb() {
     Kachel* einzige = nullptr;
     for (Kachel& k : kacheln_) {
-        if (k.anzahl == 0) continue;
+        if (k.gesammelt.anzahl == 0) continue;
         if (einzige != nullptr) Uebergib(static_cast<std::size_t>(einzige - kacheln_.data()));
         einzige = &k;
     }
     // Small changes lie in one tile: nobody needs to be woken for it.
     if (einzige != nullptr && wartende_.load(std::memory_order_acquire) == 0) {
-        zeichner_(static_cast<std::size_t>(einzige - kacheln_.data()),
-                  std::span<const Wort>(einzige->gesammelt).first(einzige->anzahl));
-        einzige->anzahl = 0;
+        zeichner_(static_cast<std::size_t>(einzige - kacheln_.data()), einzige->gesammelt.Worte());
+        einzige->gesammelt.anzahl = 0;
     } else if (einzige != nullptr) {
         Uebergib(static_cast<std::size_t>(einzige - kacheln_.data()));
     }
