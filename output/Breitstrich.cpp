@@ -63,7 +63,7 @@ class Dashreihe {
         }
     }
     /// Of the next pixels.
-    __attribute__((target("avx2"))) [[nodiscard]] Sechzehn Anteile() const {
+    [[nodiscard]] __attribute__((target("avx2"))) Sechzehn Anteile() const {
         return Hoechstens(gesetzt_ - ort_, Jede(kGanzesPixel)) +
                Hoechstens(ort_ + kGanzesPixel - periode_, gesetzt_);
     }
