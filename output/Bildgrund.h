@@ -47,7 +47,7 @@ class Bildgrund {
         Feld& f = felder_[kachel];
         fremd_ = false;
         const Rechteck noetig = f.farbe == farbe ? Geschnitten(r, f.bemalt) : r;
-        if (Geschnitten(r, ganz) == ganz) {
+        if (Enthaelt(r, ganz)) {
             f = {kKeinRechteck, farbe};
         } else if (f.farbe != farbe) {
             f.bemalt = Vereint(f.bemalt, r);
