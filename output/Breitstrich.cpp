@@ -4,7 +4,6 @@
 #if defined(__x86_64__) && !defined(_WIN32)
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 
 #include "output/Achtpixel.h"
@@ -43,7 +42,7 @@ __attribute__((target("avx2"))) inline Sechzehn WaehleBytes(__m256i v, __m128i w
     return reinterpret_cast<Sechzehn>(_mm256_shuffle_epi8(v, _mm256_broadcastsi128_si256(wahl)));
 }
 
-/// How much of each pixel lies in dashes, eight at a time; without members in use for a solid stroke.
+/// How much of each pixel lies in dashes, eight at a time. A solid stroke has none to ask.
 template <bool Gestrichelt>
 class Dashreihe {
   public:
@@ -141,7 +140,7 @@ __attribute__((target("avx2"))) std::int64_t ZieheFlach(const Pinselstrich& s, s
     std::int64_t v = s.Oberkante(von);
     const __m256i stellen = _mm256_set_epi64x(3 * schritt, 2 * schritt, schritt, 0);
     const __m128i zweimal = _mm_set_epi8(13, 12, 13, 12, 9, 8, 9, 8, 5, 4, 5, 4, 1, 0, 1, 0);
-    // The whole pixels of the highest of four.
+    // Whole pixels of the highest of four: the first or the last of them, in their second byte.
     const __m128i ersteZeile = _mm_set1_epi16(static_cast<std::int16_t>(schritt >= 0 ? 0x0180 : 0x0D80));
     Dashreihe<Gestrichelt> dashes(s, von, 4);
     std::int64_t m = von;
@@ -193,10 +192,10 @@ bool Passt(const Pinselstrich& s) {
 std::int64_t ZieheSteilAcht(const Pinselstrich& s, std::int64_t von, std::int64_t bis, std::uint32_t farbe,
                             const Darueber& ziel) {
     constexpr std::int32_t kDickster = 3 * kGanzesPixel;
-    constexpr std::int64_t kVier = 4;
+    constexpr std::int64_t kNachbarn = 3;  ///< drawn with each pixel, to its right
     if (s.dicke > kDickster || !Passt(s)) return von;
     const Querlage quer(s, von, bis);
-    if (quer.erster < ziel.bereich.links || quer.letzter + kVier > ziel.bereich.rechts) return von;
+    if (quer.erster < ziel.bereich.links || quer.letzter + kNachbarn > ziel.bereich.rechts) return von;
     return s.gesetzt == 0 ? ZieheSteil<false>(s, von, bis, farbe, ziel)
                           : ZieheSteil<true>(s, von, bis, farbe, ziel);
 }

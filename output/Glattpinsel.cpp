@@ -146,14 +146,7 @@ void SetzeQuerAmRand(const Pinselstrich& s, std::int64_t m, std::int64_t oben, s
 template <class Ziel>
 inline void SetzeInZeile(const Pinselstrich& s, std::int64_t m, std::int64_t oben, std::int32_t anteil,
                          const Vierfarbe& farbe, const Ziel& ziel) {
-    constexpr Acht kStellen{0,
-                            0,
-                            kGanzesPixel,
-                            kGanzesPixel,
-                            2 * kGanzesPixel,
-                            2 * kGanzesPixel,
-                            3 * kGanzesPixel,
-                            3 * kGanzesPixel};
+    constexpr Acht kStellen{0, 0, 256, 256, 512, 512, 768, 768};
     constexpr Acht kErster{0xFFFF, 0xFFFF};
     const std::int64_t q = oben >> 8;
     const auto beginn = static_cast<std::int32_t>(oben & (kGanzesPixel - 1));
@@ -234,6 +227,7 @@ void ZieheStrich(const Pinselstrich& s, const Vierfarbe& farbe, const Ziel& ziel
     if constexpr (std::is_same_v<Ziel, Darueber>)
         erster = Senkrecht ? ZieheSteilAcht(s, erster, letzter, farbe.einzeln, ziel)
                            : ZieheFlachAcht(s, erster, letzter, farbe.einzeln, ziel);
+    if (erster > letzter) return;
     Dashlauf lauf(s, erster);
     const std::int64_t schritt = s.Schritt();
     std::int64_t v = s.Oberkante(erster);
